@@ -1,0 +1,117 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QDateTime>
+#include <QObject>
+
+#include "menubar/HueFilter.h"
+#include "menubar/MainInterface.h"
+#include "menubar/NamedImages.h"
+
+namespace quindle {
+
+class ApplicationPreferences;
+class QDBattery;
+class QDMac;
+class StatusItem;
+class Timer;
+struct Platform;
+
+/// Shows the helper's preferences window.
+class PreferencesPresenter
+{
+public:
+    virtual ~PreferencesPresenter() = default;
+
+    virtual void showPreferencesWindow() = 0;
+};
+
+/// The application delegate: owns the computer's model, the status item and the refresh timer, and refreshes
+/// everything the helper shows in one method, `updateStatusBarTitle`. Main thread only.
+class HelperAppDelegate : public QObject, public StatusMenuActions
+{
+    Q_OBJECT
+
+public:
+    using MacFactory = std::function<std::unique_ptr<QDMac>(const Platform&)>;
+
+    /// Makes, in this order, the computer's model (by `makeMac`), the status item, the three hue filters; and
+    /// marks now as the time of the last daily upload, so that the first one comes a full day after launch.
+    HelperAppDelegate(const Platform& platform, ApplicationPreferences& preferences, MainInterface& interface,
+                      PreferencesPresenter& preferencesController, const MacFactory& makeMac);
+    ~HelperAppDelegate() override;
+
+    /// The launch sequence. A bundle without version information, and a missing outlet, are fatal.
+    void applicationDidFinishLaunching();
+
+    /// Does nothing: nothing is saved at the end.
+    void applicationWillTerminate();
+
+    /// Copies the shared `runInBackground` to the helper's own database.
+    void transferSharedDefaults();
+
+    /// Adds the four notification observers, once more at each call; both names run the same body.
+    void loadSettings();
+    void registerDistributedNotificationCenter();
+
+    void registerWakeSleepNotification();
+    void receiveSleepNote(); ///< does nothing
+    void receiveWakeNote();
+    void textFieldTextChanged();
+    void quiteDueToUpdate(); ///< does nothing; the name is spelled so
+
+    /// The refresh: daily gate, font, icon, title, tool tip and menu rows, bar colours.
+    void updateStatusBarTitle();
+
+    /// Colours both bars; without a battery they stay as they are.
+    void setProgressIndicatorColor();
+
+    /// The once-a-day gate of the upload.
+    void checkForAutoSaveData();
+
+    void quitApp() override;
+
+    /// Launches the main application: the bundle's path without its last four components.
+    void openApplication() override;
+
+    void openPreferences() override;
+
+    QDMac& myMac() const { return *m_myMac; }
+    StatusItem& statusItem() const { return *m_statusItem; }
+    const MenuView* shownView() const { return m_shownView; }
+    QDateTime lastDailyUploadToOnlineService() const { return m_lastDailyUploadToOnlineService; }
+    const std::shared_ptr<HueFilter>& hueColorGreen() const { return m_hueColorGreen; }
+    const std::shared_ptr<HueFilter>& hueColorYellow() const { return m_hueColorYellow; }
+    const std::shared_ptr<HueFilter>& hueColorRed() const { return m_hueColorRed; }
+
+Q_SIGNALS:
+    /// The status item has been brought up to date.
+    void statusItemRefreshed();
+
+private:
+    void setVersionItem();
+    void addBatteryView();
+    void updateIcon();
+    void replaceImage(const QString& name);
+    void updateTitle();
+    void updateFacts();
+
+    const Platform& m_platform;
+    ApplicationPreferences& m_preferences;
+    MainInterface& m_interface;
+    MainOutlets m_outlets;
+    PreferencesPresenter& m_preferencesController;
+    NamedImages m_images;
+    std::unique_ptr<QDMac> m_myMac;
+    std::shared_ptr<Timer> m_statusBarUpdateTimer;
+    std::unique_ptr<StatusItem> m_statusItem;
+    std::shared_ptr<HueFilter> m_hueColorGreen;
+    std::shared_ptr<HueFilter> m_hueColorYellow;
+    std::shared_ptr<HueFilter> m_hueColorRed;
+    const MenuView* m_shownView = nullptr;
+    QDateTime m_lastDailyUploadToOnlineService;
+};
+
+} // namespace quindle

@@ -1,0 +1,1 @@
+#include "battery/BatteryRegistryKey.h"

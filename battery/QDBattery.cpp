@@ -1,0 +1,1 @@
+#include "battery/QDBattery.h"

@@ -1,0 +1,37 @@
+# What every translation unit is compiled with.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(QUINDLE_WARNINGS_AS_ERRORS)
+    add_compile_options(-Werror)
+endif()
+
+# Figures must come out the same on every architecture: a fused multiply-add changes the last digit.
+add_compile_options(-ffp-contract=off)
+
+add_compile_definitions(
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_FOREACH
+    QT_NO_KEYWORDS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400
+)
+
+# Libraries that nothing of a program calls are not loaded: they cost start-up time and memory.
+add_link_options(-Wl,--as-needed)
+
+if(QUINDLE_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

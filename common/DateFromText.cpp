@@ -1,0 +1,28 @@
+#include "common/DateFromText.h"
+
+namespace quindle {
+
+namespace {
+
+const QString& dayFormat()
+{
+    static const QString format = QStringLiteral("yyyy-MM-dd");
+    return format;
+}
+
+} // namespace
+
+std::optional<QDateTime> dateFromText(const QString& text)
+{
+    const QDate day = QDate::fromString(text, dayFormat());
+    if (!day.isValid())
+        return std::nullopt;
+    return day.startOfDay();
+}
+
+QString dayText(const QDateTime& date)
+{
+    return date.toLocalTime().date().toString(dayFormat());
+}
+
+} // namespace quindle

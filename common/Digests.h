@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+/// The MD5 digest of the text's UTF-8 bytes as 32 lowercase hexadecimal digits. It names batteries and
+/// computers in stored snapshots, so it can never change to another digest.
+QString md5Hex(const QString& text);
+
+} // namespace quindle

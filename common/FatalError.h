@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QStringView>
+
+namespace quindle {
+
+/// Ends the program after a broken invariant or a forced conversion that failed: writes one line,
+/// "quindle: fatal: " and the message, to standard error and aborts. Never for anything a user can cause
+/// by ordinary use.
+[[noreturn]] void fatalError(QStringView message);
+
+} // namespace quindle

@@ -1,0 +1,59 @@
+#include "common/NumberTexts.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+
+namespace quindle {
+
+namespace {
+
+// Room for the longest double in fixed notation, 309 digits before the point.
+using Buffer = std::array<char, 400>;
+
+QString notFiniteText(double number)
+{
+    if (std::isnan(number))
+        return QStringLiteral("nan"); // glibc would write the sign bit of a NaN, the platform does not
+    return number < 0 ? QStringLiteral("-inf") : QStringLiteral("inf");
+}
+
+} // namespace
+
+QString shortestText(double number)
+{
+    if (!std::isfinite(number))
+        return notFiniteText(number);
+    Buffer buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
+    const auto text = QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
+    const bool looksReal = text.contains(u'.') || text.contains(u'e');
+    return looksReal ? text : text + QStringLiteral(".0");
+}
+
+QString fixedText(double number, int decimals)
+{
+    if (!std::isfinite(number))
+        return notFiniteText(number);
+    Buffer buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                      std::chars_format::fixed, decimals);
+    return QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
+}
+
+QString integerText(qint64 number)
+{
+    return QString::number(number);
+}
+
+QString formatMinutes(qint64 minutes)
+{
+    Buffer buffer{};
+    const long long hours = minutes / 60;
+    const long long rest = minutes % 60;
+    const int length = std::snprintf(buffer.data(), buffer.size(), "%lld:%02lld", hours, rest);
+    return QString::fromLatin1(buffer.data(), length);
+}
+
+} // namespace quindle

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+
+#include <QByteArray>
+#include <QVariant>
+
+/// Property lists, XML and binary, to and from plain values: text (QString), integer (qint64), real (double),
+/// boolean (bool), date (QDateTime, local time), data (QByteArray), array (QVariantList), dictionary
+/// (QVariantMap). An integer written as unsigned above 2^63 is its signed 64-bit value: dumps of unsigned
+/// values show negative currents that way.
+namespace quindle {
+
+/// The value in `bytes`; nothing when they are no property list of either encoding.
+std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes);
+
+/// The same from a file; nothing also when it cannot be read.
+std::optional<QVariant> propertyListFromFile(const QString& path);
+
+/// `value` as an XML property list. Values of other types than those above are left out.
+QByteArray xmlPropertyList(const QVariant& value);
+
+} // namespace quindle

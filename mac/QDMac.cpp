@@ -1,0 +1,1 @@
+#include "mac/QDMac.h"

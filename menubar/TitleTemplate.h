@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+/// What the placeholders of a title template stand for at one moment.
+struct TitleValues
+{
+    double temperature = 0;     ///< %t, in the unit the user chose for the title; shortest text, no unit sign
+    bool isCharging = false;    ///< %s, an upward arrow while charging, a downward one otherwise
+    QString timeRemaining;      ///< %r, as it stands
+    double stateOfCharge = 0;   ///< %p, percent with one decimal
+    double wattThroughput = 0;  ///< %w, watts with one decimal
+    qint64 amperage = 0;        ///< %mA, mA, negative while discharging
+    qint64 cycleCount = 0;      ///< %l
+};
+
+/// The template of a user who has not written one.
+QString defaultTitleTemplate();
+
+/// The title: every placeholder replaced, one placeholder after the other in the order above, each in the
+/// result of the one before, so that a "%" left by one may form a later placeholder with what follows it.
+QString titleFromTemplate(const QString& titleTemplate, const TitleValues& values);
+
+} // namespace quindle

@@ -1,0 +1,18 @@
+#pragma once
+
+namespace quindle {
+
+/// The running process as an application of the desktop. Main thread only.
+class Application
+{
+public:
+    virtual ~Application() = default;
+
+    /// Ends the main loop; the process then exits with 0.
+    virtual void terminate() = 0;
+
+    /// Brings this application's windows before those of others, as far as the desktop allows it.
+    virtual void activateIgnoringOtherApplications() = 0;
+};
+
+} // namespace quindle

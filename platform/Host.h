@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+
+#include <QDateTime>
+#include <QString>
+#include <QVariantMap>
+
+namespace quindle {
+
+/// The present moment.
+class Clock
+{
+public:
+    virtual ~Clock() = default;
+
+    /// Local time, with milliseconds.
+    virtual QDateTime now() const = 0;
+};
+
+/// The computer as its user named it.
+class Host
+{
+public:
+    virtual ~Host() = default;
+
+    /// The localized name of this computer; empty when it has none.
+    virtual QString localizedName() const = 0;
+};
+
+/// Property-list files of the operating system, at fixed paths.
+class SystemFiles
+{
+public:
+    virtual ~SystemFiles() = default;
+
+    /// The dictionary in the file at `path`; nothing when there is no such file or it holds something else.
+    virtual std::optional<QVariantMap> propertyList(const QString& path) const = 0;
+};
+
+} // namespace quindle

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace quindle {
+
+/// A timer that a run loop fires. The run loop keeps it alive; letting go of it does not stop it.
+class Timer
+{
+public:
+    virtual ~Timer() = default;
+
+    /// Stops it for good.
+    virtual void invalidate() = 0;
+};
+
+/// The main thread's loop.
+class RunLoop
+{
+public:
+    virtual ~RunLoop() = default;
+
+    /// Calls `fire` every `interval` seconds on the main thread, each time at most `tolerance` seconds late, so
+    /// that ticks of several timers can share one wake-up. Lateness does not add up: the next tick is counted
+    /// from the planned time, and ticks that were missed altogether (sleep) are passed over.
+    virtual std::shared_ptr<Timer> scheduleRepeatingTimer(double interval, double tolerance,
+                                                          std::function<void()> fire) = 0;
+};
+
+} // namespace quindle

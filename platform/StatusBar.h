@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+
+#include <QString>
+
+namespace quindle {
+
+class Image;
+class StatusMenu;
+
+/// The item in the system's status bar (on Linux: the desktop's tray). Setting a value twice, or setting one
+/// that is replaced before the main loop runs again, shows as one change at most. Main thread only.
+class StatusItem
+{
+public:
+    virtual ~StatusItem() = default;
+
+    /// The title, of any length and content; shown literally, and cut with an ellipsis where it does not fit.
+    virtual void setTitle(const QString& title) = 0;
+    virtual QString title() const = 0;
+
+    /// The image; null for none.
+    virtual void setImage(std::shared_ptr<Image> image) = 0;
+    virtual std::shared_ptr<Image> image() const = 0;
+
+    /// The title's font: the menu bar's own, in this size (points).
+    virtual void setMenuBarFontSize(double points) = 0;
+
+    /// What the tool tip says under the title, as plain text; lines are separated by line feeds.
+    virtual void setToolTipText(const QString& text) = 0;
+
+    /// The menu that hangs from the item. The caller keeps it alive as long as the item.
+    virtual void setMenu(StatusMenu* menu) = 0;
+};
+
+/// The length that lets an item be as wide as its contents.
+inline constexpr double variableStatusItemLength = -1.0;
+
+/// Where status items live.
+class StatusBar
+{
+public:
+    virtual ~StatusBar() = default;
+
+    /// A new item of that length in points, or of variable length.
+    virtual std::unique_ptr<StatusItem> statusItemWithLength(double length) = 0;
+};
+
+} // namespace quindle

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <QString>
+
+namespace quindle {
+
+/// The menu that hangs from the status item, as plain rows. The desktop draws it where it draws menus itself;
+/// the battery view's own window shows the action rows under the view. Main thread only.
+class StatusMenu
+{
+public:
+    enum class Kind {
+        Fact,      ///< tells something and cannot be chosen; only in menus that the desktop draws
+        OpenView,  ///< opens the battery view; only in menus that the desktop draws
+        Action,    ///< can be chosen
+        Separator, ///< a line between groups
+    };
+
+    struct Row
+    {
+        Kind kind = Kind::Action;
+        QString text; ///< shown literally: no mnemonic, no markup
+        bool visible = true;
+        bool enabled = true;
+        std::function<void()> chosen; ///< what choosing the row does
+    };
+
+    /// Adds a row at the end and returns its id: 1 for the first, then counting up.
+    int addRow(Row row);
+
+    /// The rows in order; the row with id n stands at n - 1.
+    const std::vector<Row>& rows() const { return m_rows; }
+
+    /// Changes one row; observers hear of it only when something is different.
+    void setText(int id, const QString& text);
+    void setVisible(int id, bool visible);
+
+    /// Does what choosing the row does; nothing for an unknown id or a row that cannot be chosen.
+    void choose(int id) const;
+
+    /// Opens the battery view. Called for a click on the status item and for rows of kind OpenView.
+    void openView() const;
+
+    /// Says what opens the battery view; until it is said, opening does nothing.
+    void setViewOpener(std::function<void()> opener) { m_viewOpener = std::move(opener); }
+
+    /// Calls `changed` with the id of each row whose text or visibility has changed.
+    void addObserver(std::function<void(int id)> changed);
+
+private:
+    Row* find(int id);
+    void notify(int id) const;
+
+    std::vector<Row> m_rows;
+    std::function<void()> m_viewOpener;
+    std::vector<std::function<void(int)>> m_observers;
+};
+
+} // namespace quindle

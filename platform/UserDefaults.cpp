@@ -1,0 +1,23 @@
+#include "platform/UserDefaults.h"
+
+#include "common/NumberConversion.h"
+
+namespace quindle {
+
+qint64 UserDefaults::integer(const QString& key) const
+{
+    return integerFromObject(object(key));
+}
+
+void UserDefaults::setInteger(const QString& key, qint64 value)
+{
+    setObject(key, QVariant::fromValue(value));
+}
+
+QVariantMap UserDefaults::dictionary(const QString& key) const
+{
+    const QVariant value = object(key);
+    return value.typeId() == QMetaType::QVariantMap ? value.toMap() : QVariantMap();
+}
+
+} // namespace quindle
