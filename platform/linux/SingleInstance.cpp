@@ -36,8 +36,10 @@ std::optional<sockaddr_un> addressOf(const QByteArray& path)
 {
     sockaddr_un address = {};
     address.sun_family = AF_UNIX;
-    if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path)
+    if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
+        errno = ENAMETOOLONG;
         return std::nullopt;
+    }
     std::memcpy(address.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
     return address;
 }
@@ -126,7 +128,7 @@ bool SingleInstance::acquire()
     // One that still answers, although its lock file was swept away as old, is the first all the same.
     if (connects(m_socketPath))
         return false;
-    if (!lock || !listen())
+    if (!listen())
         qCWarning(instanceLog, "cannot listen for further starts on %s: %s", m_socketPath.constData(),
                   std::strerror(errno));
     m_lock = std::move(lock);
