@@ -136,7 +136,10 @@ void LinuxStatusItem::flush()
         m_wanted.choice = m_surroundings.presentationChoice();
     if (m_flushed != m_wanted) {
         m_flushed = m_wanted;
-        tell(present(m_wanted.contents, withChoice(m_wanted.host, m_wanted.choice)));
+        // An X11 tray has room for a square only, whatever the person prefers.
+        const HostTraits host =
+            m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : HostTraits();
+        tell(present(m_wanted.contents, host));
     }
     if (m_menuChanged) {
         m_menuChanged = false;
@@ -170,13 +173,14 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
 {
     m_tray.reset();
     m_wanted.host = hostTraits(process, m_surroundings.currentDesktop);
+    m_wanted.hasWatcher = true;
     flush();
     m_watcher->registerItem();
 }
 
 void LinuxStatusItem::watcherLost()
 {
-    m_wanted.host = HostTraits();
+    m_wanted.hasWatcher = false;
     flush();
     if (m_tray || !mayHaveX11Tray())
         return;

@@ -66,6 +66,7 @@ private:
     {
         ItemContents contents;
         HostTraits host;
+        bool hasWatcher = false;
         QString choice;
 
         friend bool operator==(const Decisive&, const Decisive&) = default;

@@ -55,14 +55,18 @@ QImage tinted(QImage image, const QColor& colour)
     return image;
 }
 
+// Eight layers of the edge overlap: the first is soft beside solid shapes, the second solid around thin text.
+constexpr double iconEdgeOpacity = 0.35;
+constexpr double textEdgeOpacity = 0.6;
+
 /// The glyph on a dark edge around it; `reach` is the edge's width in pixels.
-QImage withEdge(const QImage& glyph, double reach)
+QImage withEdge(const QImage& glyph, double reach, double opacity)
 {
     QImage image = blankImage(glyph.width(), glyph.height());
     const QImage edge = tinted(glyph, edgeColour());
     QPainter painter(&image);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.setOpacity(0.35);
+    painter.setOpacity(opacity);
     constexpr int steps = 8;
     constexpr double fullTurn = 6.283185307179586;
     for (int i = 0; i < steps; ++i) {
@@ -97,6 +101,21 @@ QFont fittingFont(const QString& text, int size)
     return panelFont(static_cast<int>(std::min(trialSize * scale, static_cast<double>(size))));
 }
 
+/// A dark ground, on which thin figures read on light panels; on dark ones it is hardly seen.
+QImage badge(int size)
+{
+    QImage image = blankImage(size, size);
+    QColor ground = edgeColour();
+    ground.setAlphaF(0.7F);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    const int inset = size / 11;
+    painter.drawRoundedRect(image.rect().adjusted(0, inset, 0, -inset), size / 6.0, size / 6.0);
+    return image;
+}
+
 QImage squareText(const QString& text, int size)
 {
     QImage glyph = blankImage(size, size);
@@ -109,7 +128,9 @@ QImage squareText(const QString& text, int size)
                          (size - inked.height()) / 2.0 - inked.top());
     painter.drawText(origin.toPoint(), text);
     painter.end();
-    return withEdge(glyph, edgeReach(size));
+    QImage image = badge(size);
+    QPainter(&image).drawImage(0, 0, withEdge(glyph, edgeReach(size), iconEdgeOpacity));
+    return image;
 }
 
 QImage wideText(const Picture& picture, const QImage& icon, int height)
@@ -130,11 +151,27 @@ QImage wideText(const Picture& picture, const QImage& icon, int height)
     painter.drawText(QRect(left, 0, textWidth + margin, height),
                      Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine | Qt::TextDontClip, text);
     painter.end();
-    QImage image = withEdge(glyph, scale);
+    QImage image = withEdge(glyph, scale, textEdgeOpacity);
     QPainter(&image).drawImage(0, 0, icon);
     return image;
 }
 
+/// One element of the drawing, in its place on a square of that size.
+QImage element(QSvgRenderer& renderer, const QString& id, int size)
+{
+    QImage image = blankImage(size, size);
+    // Sizes a little above the grid's keep its pixels and get a margin instead of blurred lines.
+    const int drawn = size > gridSize && size < gridSize + 4 ? gridSize : size;
+    const int margin = (size - drawn) / 2;
+    const double scale = static_cast<double>(drawn) / gridSize;
+    const QRectF bounds = renderer.boundsOnElement(id);
+    QPainter painter(&image);
+    painter.translate(margin, margin);
+    renderer.render(&painter, id, QRectF(bounds.topLeft() * scale, bounds.size() * scale));
+    return image;
+}
+
+/// The drawing's glyph on its ground: the ground shows on light panels which part of the glyph is hollow.
 QImage rendered(const QString& file, int size)
 {
     QSvgRenderer renderer(file);
@@ -142,14 +179,10 @@ QImage rendered(const QString& file, int size)
         qCWarning(logPictures) << "no usable picture in" << file;
         return {};
     }
-    QImage glyph = blankImage(size, size);
-    QPainter painter(&glyph);
-    // Sizes a little above the grid's keep its pixels and get a margin instead of blurred lines.
-    const int drawn = size > gridSize && size < gridSize + 4 ? gridSize : size;
-    const int margin = (size - drawn) / 2;
-    renderer.render(&painter, QRectF(margin, margin, drawn, drawn));
-    painter.end();
-    return withEdge(tinted(glyph, glyphColour()), edgeReach(size));
+    QImage image = tinted(element(renderer, QStringLiteral("ground"), size), edgeColour());
+    const QImage glyph = tinted(element(renderer, QStringLiteral("glyph"), size), glyphColour());
+    QPainter(&image).drawImage(0, 0, withEdge(glyph, edgeReach(size), iconEdgeOpacity));
+    return image;
 }
 
 } // namespace

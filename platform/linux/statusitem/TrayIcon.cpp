@@ -82,7 +82,7 @@ void TrayIcon::activated(QSystemTrayIcon::ActivationReason reason)
         return;
     if (reason == QSystemTrayIcon::Context)
         openMenu();
-    else
+    else if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::MiddleClick)
         m_menu->openView();
 }
 
