@@ -175,10 +175,8 @@ QImage element(QSvgRenderer& renderer, const QString& id, int size)
 QImage rendered(const QString& file, int size)
 {
     QSvgRenderer renderer(file);
-    if (!renderer.isValid()) {
-        qCWarning(logPictures) << "no usable picture in" << file;
+    if (!renderer.isValid())
         return {};
-    }
     QImage image = tinted(element(renderer, QStringLiteral("ground"), size), edgeColour());
     const QImage glyph = tinted(element(renderer, QStringLiteral("glyph"), size), glyphColour());
     QPainter(&image).drawImage(0, 0, withEdge(glyph, edgeReach(size), iconEdgeOpacity));
@@ -246,6 +244,8 @@ QImage StatusPictures::icon(const QString& name, int size)
     if (found == m_icons.end()) {
         const QString path = m_iconsDirectory + QLatin1Char('/') + name + QStringLiteral(".svg");
         found = m_icons.emplace(key, rendered(path, size)).first;
+        if (found->second.isNull() && m_missing.insert(name).second)
+            qCWarning(logPictures) << "no usable picture in" << path;
     }
     return found->second;
 }

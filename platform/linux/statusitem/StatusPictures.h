@@ -1,6 +1,8 @@
 #pragma once
 
 #include <map>
+#include <set>
+#include <utility>
 #include <vector>
 
 #include <QImage>
@@ -37,6 +39,7 @@ private:
 
     QString m_iconsDirectory;
     std::map<std::pair<QString, int>, QImage> m_icons;
+    std::set<QString> m_missing; ///< already told in the log
 };
 
 } // namespace quindle

@@ -62,6 +62,11 @@ void FakeHost::disappear()
     m_bus.unregisterService(watcherName());
 }
 
+void FakeHost::queueUp()
+{
+    m_bus.interface()->registerService(watcherName(), QDBusConnectionInterface::QueueService);
+}
+
 QDBusMessage FakeHost::call(const char* path, const char* interface, const char* method,
                             const QVariantList& arguments)
 {

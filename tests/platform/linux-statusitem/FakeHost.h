@@ -23,6 +23,9 @@ public:
     bool appear();
     void disappear();
 
+    /// Gets the watcher's name as soon as its owner leaves it.
+    void queueUp();
+
     /// A watcher that forgets what is registered.
     void setForgetful(bool forgetful) { m_forgetful = forgetful; }
 
