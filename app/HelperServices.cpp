@@ -13,17 +13,14 @@ namespace quindle {
 
 namespace {
 
-/// How the user wants the item shown, whatever the desktop is: "auto", "label", "wide" or "icon".
-std::function<QString()> presentationSetting(UserDefaultsDatabases& databases)
+/// The tray around the item. The user's own choice of its form is asked for each time it is shown anew.
+StatusItemSurroundings surroundings(const Bundle& programBundle, UserDefaultsDatabases& databases)
 {
-    return [&databases] {
-        return databases.standard().object(QStringLiteral("statusItemPresentation")).toString();
-    };
-}
-
-QString iconsFolder(const Bundle& programBundle)
-{
-    return programBundle.path() + QStringLiteral("/Contents/Resources/icons");
+    return {.iconsDirectory = programBundle.path() + QStringLiteral("/Contents/Resources/icons"),
+            .currentDesktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
+            .presentationChoice = [&databases] {
+                return databases.standard().object(QStringLiteral("statusItemPresentation")).toString();
+            }};
 }
 
 class ThisComputer : public HelperServices
@@ -31,7 +28,7 @@ class ThisComputer : public HelperServices
 public:
     explicit ThisComputer(const QString& systemRoot)
         : m_linux(systemRoot)
-        , m_statusBar(iconsFolder(m_linux.bundle()), presentationSetting(m_linux.userDefaults()))
+        , m_statusBar(surroundings(m_linux.bundle(), m_linux.userDefaults()))
     {
     }
 
@@ -50,7 +47,7 @@ public:
     explicit RecordedMachine(const Machine& machine)
         : m_steps(machine.steps)
         , m_recorded(machine.keys, m_programBundle)
-        , m_statusBar(iconsFolder(m_programBundle), presentationSetting(m_recorded.userDefaults))
+        , m_statusBar(surroundings(m_programBundle, m_recorded.userDefaults))
         , m_platform(platform())
     {
     }
