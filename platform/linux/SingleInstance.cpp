@@ -128,24 +128,24 @@ bool SingleInstance::acquire()
     // One that still answers, although its lock file was swept away as old, is the first all the same.
     if (connects(m_socketPath))
         return false;
-    if (!listen())
+    if (const int error = listen())
         qCWarning(instanceLog, "cannot listen for further starts on %s: %s", m_socketPath.constData(),
-                  std::strerror(errno));
+                  std::strerror(error));
     m_lock = std::move(lock);
     return true;
 }
 
-bool SingleInstance::listen()
+int SingleInstance::listen()
 {
     ::unlink(m_socketPath.constData());
     FileDescriptor socket = newSocket();
     if (!withAddress(::bind, socket, m_socketPath) || ::listen(socket.get(), SOMAXCONN) != 0)
-        return false;
+        return errno;
     m_socket = std::move(socket);
     m_notifier = std::make_unique<QSocketNotifier>(m_socket.get(), QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(),
                      [this] { acceptRequest(); });
-    return true;
+    return 0;
 }
 
 void SingleInstance::acceptRequest()

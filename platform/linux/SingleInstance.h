@@ -43,7 +43,7 @@ public:
     void setShowRequested(std::function<void()> showRequested) { m_showRequested = std::move(showRequested); }
 
 private:
-    bool listen();
+    int listen();
     void acceptRequest();
 
     QByteArray m_lockPath;

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -62,9 +63,17 @@ protected:
         return names.filter(QRegularExpression(QStringLiteral("(?<!\\.lock)$")));
     }
 
-    QTemporaryDir m_root;
+    QTemporaryDir m_root{rootTemplate()};
 
 private:
+    // In memory where there is such a place: the thousands of writes need not wait for a disk.
+    static QString rootTemplate()
+    {
+        const QString memory = QStringLiteral("/dev/shm");
+        const bool usable = QFileInfo(memory).isWritable();
+        return (usable ? memory : QDir::tempPath()) + QStringLiteral("/quindle-settings-XXXXXX");
+    }
+
     QtMessageHandler m_former = nullptr;
 };
 
