@@ -1,0 +1,42 @@
+#pragma once
+
+#include <utility>
+
+#include <unistd.h>
+
+namespace quindle {
+
+/// Owns one open file descriptor, or none.
+class FileDescriptor
+{
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int descriptor)
+        : m_descriptor(descriptor)
+    {
+    }
+    FileDescriptor(FileDescriptor&& other) noexcept
+        : m_descriptor(std::exchange(other.m_descriptor, -1))
+    {
+    }
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept
+    {
+        std::swap(m_descriptor, other.m_descriptor);
+        return *this;
+    }
+    ~FileDescriptor() { close(); }
+
+    int get() const { return m_descriptor; }
+    bool isOpen() const { return m_descriptor >= 0; }
+
+    void close()
+    {
+        if (isOpen())
+            ::close(std::exchange(m_descriptor, -1));
+    }
+
+private:
+    int m_descriptor = -1;
+};
+
+} // namespace quindle
