@@ -78,7 +78,8 @@ void refresh(benchmark::State& state, const char* machine)
             benchmark::DoNotOptimize(registry.property(battery, key));
         benchmark::DoNotOptimize(sources.externalAdapterDetails());
         for (int i = 0; i < 2; ++i) {
-            for (int source = 0; source < sources.sourceCount().value_or(0); ++source)
+            const int count = sources.sourceCount().value_or(0);
+            for (int source = 0; source < count; ++source)
                 benchmark::DoNotOptimize(sources.description(source));
         }
     }

@@ -1,7 +1,5 @@
 #include "platform/linux/PowerSnapshot.h"
 
-#include <cerrno>
-
 namespace quindle {
 
 namespace {
@@ -50,14 +48,6 @@ std::optional<std::string_view> SupplySnapshot::text(Attribute attribute) const
     return viewOf(m_status.data(), m_statusSize);
 }
 
-bool SupplySnapshot::isPresent() const
-{
-    std::array<char, 64> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init)
-    const ssize_t size = m_directory->read(*m_supply, Attribute::Present, buffer.data(), buffer.size());
-    const std::optional<std::string_view> text = viewOf(buffer.data(), size);
-    return text ? numberFromText(*text) != 0.0 : size != -ENODEV;
-}
-
 PowerSnapshot::PowerSnapshot(SupplyDirectory& directory)
 {
     const auto& supplies = directory.supplies();
@@ -68,7 +58,7 @@ PowerSnapshot::PowerSnapshot(SupplyDirectory& directory)
         const SupplySnapshot& snapshot = m_snapshots.emplace_back(directory, *supply);
         if (supply->kind() == SupplyKind::External)
             m_externals.append(&snapshot);
-        else if (snapshot.isPresent())
+        else if (supply->isPresent())
             (supply->kind() == SupplyKind::Battery ? m_batteries : m_uninterruptibles).append(&snapshot);
     }
 }

@@ -25,9 +25,6 @@ public:
     std::optional<double> number(Attribute attribute) const override;
     std::optional<std::string_view> text(Attribute attribute) const override;
 
-    /// A supply that does not say whether it is present is, unless its device has gone.
-    bool isPresent() const;
-
 private:
     SupplyDirectory* m_directory;
     Supply* m_supply;

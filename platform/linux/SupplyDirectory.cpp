@@ -61,6 +61,20 @@ ssize_t Supply::read(Attribute attribute, AttributeReader& reader, char* buffer,
     return file.read(m_folder.get(), attributeName(attribute), reader, buffer, size);
 }
 
+void Supply::update(AttributeReader& reader)
+{
+    updateKind(reader);
+    updatePresence(reader);
+}
+
+void Supply::updatePresence(AttributeReader& reader)
+{
+    std::array<char, 64> buffer{};
+    const ssize_t size = read(Attribute::Present, reader, buffer.data(), buffer.size());
+    m_isPresent =
+        size < 0 ? size != -ENODEV : numberFromText({buffer.data(), static_cast<std::size_t>(size)}) != 0.0;
+}
+
 void Supply::updateKind(AttributeReader& reader)
 {
     std::array<char, 64> type{};
@@ -110,7 +124,7 @@ void SupplyDirectory::scan()
     if (DIR* const folder = opendir(m_folder.c_str())) {
         for (const std::string& name : namesIn(folder)) {
             if (auto supply = takeOrOpen(dirfd(folder), name)) {
-                supply->updateKind(m_reader);
+                supply->update(m_reader);
                 found.push_back(std::move(supply));
             }
         }

@@ -46,22 +46,32 @@ public:
     const Identity& identity() const { return m_identity; }
     SupplyKind kind() const { return m_kind; }
 
+    /// Whether there is a battery in the bay. A supply that does not say so is present, unless its device has
+    /// gone.
+    bool isPresent() const { return m_isPresent; }
+
     /// Reads one attribute anew into `buffer`: the number of bytes, or the negated error number.
     ssize_t read(Attribute attribute, AttributeReader& reader, char* buffer, std::size_t size);
 
-    /// Finds out the kind anew; it stays what it was while that cannot be read.
-    void updateKind(AttributeReader& reader);
+    /// Finds out anew which kind it is and whether it is present; the kind stays what it was while it cannot
+    /// be read.
+    void update(AttributeReader& reader);
 
 private:
+    void updateKind(AttributeReader& reader);
+    void updatePresence(AttributeReader& reader);
+
     std::string m_name;
     FileDescriptor m_folder;
     Identity m_identity;
     SupplyKind m_kind = SupplyKind::Other;
+    bool m_isPresent = false;
     std::array<AttributeFile, attributeCount> m_files;
 };
 
 /// The power supplies of a class directory ("/sys/class/power_supply"), sorted by name. The directory is read
-/// again about once a second at most, and when a supply turns out to have gone. Main thread only.
+/// again about once a second at most, and when a supply turns out to have gone; which supplies there are, of
+/// which kind and whether they are present, is as old as that. Main thread only.
 class SupplyDirectory
 {
 public:

@@ -88,8 +88,10 @@ TEST_F(AttributeFaultsTest, ADeviceThatHasGoneIsNotPresent)
 {
     ASSERT_EQ(property(cyclesKey), qint64{7});
     errors["present"] = ENODEV;
+    now += 1s;
     EXPECT_FALSE(property(cyclesKey).isValid());
     errors["present"] = EIO;
+    now += 1s;
     EXPECT_EQ(property(cyclesKey), qint64{7});
 }
 
@@ -112,13 +114,13 @@ TEST_F(AttributeFaultsTest, APropertyReadsOnlyWhatItNeeds)
     property(cyclesKey);
     reads.clear();
     property(cyclesKey);
-    EXPECT_EQ(reads, (std::map<std::string, int>{{"present", 1}, {"cycle_count", 1}}));
+    EXPECT_EQ(reads, (std::map<std::string, int>{{"cycle_count", 1}}));
     reads.clear();
     property(QStringLiteral("IsCharging"));
-    EXPECT_EQ(reads, (std::map<std::string, int>{{"present", 1}, {"status", 1}}));
+    EXPECT_EQ(reads, (std::map<std::string, int>{{"status", 1}}));
     reads.clear();
     property(voltageKey);
-    EXPECT_EQ(reads, (std::map<std::string, int>{{"present", 1}, {"charge_full", 1}, {"voltage_now", 1}}));
+    EXPECT_EQ(reads, (std::map<std::string, int>{{"charge_full", 1}, {"voltage_now", 1}}));
 }
 
 TEST_F(AttributeFaultsTest, WhatIsNoRegularFileCountsAsMissing)
