@@ -1,15 +1,17 @@
 #pragma once
 
-#include <unistd.h>
 #include <utility>
+
+#include <unistd.h>
 
 namespace quindle {
 
-/// Owns an open file descriptor; -1 is none.
+/// Owns one open file descriptor, or none.
 class FileDescriptor
 {
 public:
-    explicit FileDescriptor(int descriptor = -1)
+    FileDescriptor() = default;
+    explicit FileDescriptor(int descriptor)
         : m_descriptor(descriptor)
     {
     }
@@ -17,26 +19,24 @@ public:
         : m_descriptor(std::exchange(other.m_descriptor, -1))
     {
     }
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
-
     FileDescriptor& operator=(FileDescriptor&& other) noexcept
     {
         std::swap(m_descriptor, other.m_descriptor);
         return *this;
     }
-
-    ~FileDescriptor()
-    {
-        if (m_descriptor >= 0)
-            ::close(m_descriptor);
-    }
+    ~FileDescriptor() { close(); }
 
     int get() const { return m_descriptor; }
     bool isOpen() const { return m_descriptor >= 0; }
 
+    void close()
+    {
+        if (isOpen())
+            ::close(std::exchange(m_descriptor, -1));
+    }
+
 private:
-    int m_descriptor;
+    int m_descriptor = -1;
 };
 
 } // namespace quindle

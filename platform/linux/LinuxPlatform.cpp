@@ -1,27 +1,50 @@
 #include "platform/linux/LinuxPlatform.h"
 
 #include "platform/NotificationCenter.h"
+#include "platform/linux/BatteryTimes.h"
 #include "platform/linux/LinuxApplication.h"
 #include "platform/linux/LinuxBundle.h"
+#include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxHost.h"
 #include "platform/linux/LinuxNotifications.h"
 #include "platform/linux/LinuxPowerSources.h"
 #include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxRunLoop.h"
+#include "platform/linux/LinuxSystemFiles.h"
 #include "platform/linux/LinuxUserDefaults.h"
 #include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/SupplyDirectory.h"
 
 namespace quindle {
+
+namespace {
+
+QString rootOr(const QString& systemRoot)
+{
+    return systemRoot.isEmpty() ? QStringLiteral("/sys") : systemRoot;
+}
+
+/// Another root is another computer, of which this one's device tree tells nothing.
+LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
+{
+    return {.dmi = rootOr(systemRoot) + QStringLiteral("/class/dmi/id"),
+            .deviceTree = systemRoot.isEmpty() ? QStringLiteral("/proc/device-tree") : QString()};
+}
+
+} // namespace
 
 struct LinuxPlatform::Services
 {
     explicit Services(const QString& systemRoot)
-        : registry(systemRoot)
-        , powerSources(systemRoot)
+        : supplies((rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
+        , registry(supplies, times, firmwareFolders(systemRoot))
+        , powerSources(supplies, times)
         , userDefaults(settingsFolder())
     {
     }
 
+    SupplyDirectory supplies;
+    BatteryTimes times;
     LinuxRegistry registry;
     LinuxPowerSources powerSources;
     LinuxUserDefaultsDatabases userDefaults;

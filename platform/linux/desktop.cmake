@@ -13,5 +13,3 @@ target_sources(quindle_platform_linux PRIVATE
     SingleInstance.cpp
     TimerSchedule.cpp
 )
-target_link_libraries(quindle_platform_linux PUBLIC Qt6::Core PRIVATE Qt6::Gui Qt6::DBus)
-set_target_properties(quindle_platform_linux PROPERTIES AUTOMOC ON)

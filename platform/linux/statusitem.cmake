@@ -13,5 +13,3 @@ target_sources(quindle_platform_linux PRIVATE
     statusitem/TrayIcon.cpp
     statusitem/WatcherLink.cpp
 )
-target_link_libraries(quindle_platform_linux PUBLIC Qt6::Gui Qt6::Widgets Qt6::DBus PRIVATE Qt6::Svg)
-set_target_properties(quindle_platform_linux PROPERTIES AUTOMOC ON)

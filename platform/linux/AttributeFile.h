@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/MonotonicClock.h"
+#include "platform/linux/SlowReads.h"
+
+namespace quindle {
+
+/// pread(2) from the beginning of the file.
+ssize_t readDescriptor(int descriptor, const char* attribute, char* buffer, std::size_t size);
+
+/// How attribute files are read: the call itself, the clock that times it, and the thread for slow ones.
+struct AttributeReader
+{
+    explicit AttributeReader(ReadFunction readFunction, MonotonicClock clock)
+        : read(readFunction)
+        , now(std::move(clock))
+        , slowReads(std::move(readFunction))
+    {
+    }
+
+    ReadFunction read;
+    MonotonicClock now;
+    SlowReads slowReads;
+};
+
+/// One attribute file. The descriptor stays open, the value is read anew each time: opening costs several
+/// times as much as reading. A file whose read took longer than 100 ms is read by the thread for slow reads
+/// from then on, and what that thread last read is taken.
+class AttributeFile
+{
+public:
+    /// Reads the file `attribute` of `folder` into `buffer`: the number of bytes, or the negated error
+    /// number. Anything but a regular file counts as not there.
+    ssize_t read(int folder, const char* attribute, AttributeReader& reader, char* buffer, std::size_t size);
+
+private:
+    int open(int folder, const char* attribute);
+    ssize_t readHere(const char* attribute, AttributeReader& reader, char* buffer, std::size_t size);
+    ssize_t readElsewhere(const char* attribute, AttributeReader& reader, char* buffer, std::size_t size);
+
+    FileDescriptor m_descriptor;
+    std::shared_ptr<SlowRead> m_slowRead;
+    bool m_isAbsent = false;
+    bool m_isSlow = false;
+};
+
+} // namespace quindle

@@ -1,0 +1,10 @@
+#include "platform/linux/LinuxClock.h"
+
+namespace quindle {
+
+QDateTime LinuxClock::now() const
+{
+    return QDateTime::currentDateTime();
+}
+
+} // namespace quindle

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include <QVarLengthArray>
+
+#include "platform/linux/CombinedBattery.h"
+#include "platform/linux/SupplyDirectory.h"
+
+namespace quindle {
+
+/// The attributes of a supply, each read when it is first asked for and kept as long as this object: for one
+/// answer, so that all its parts see the same figures.
+class SupplySnapshot final : public SupplyAttributes
+{
+public:
+    SupplySnapshot(SupplyDirectory& directory, Supply& supply)
+        : m_directory(&directory)
+        , m_supply(&supply)
+    {
+    }
+
+    std::optional<double> number(Attribute attribute) const override;
+    std::optional<std::string_view> text(Attribute attribute) const override;
+
+private:
+    SupplyDirectory* m_directory;
+    Supply* m_supply;
+    // The arrays stay uninitialised: an object of this class is made for every value that is asked for.
+    mutable std::uint64_t m_isKnown = 0;
+    mutable std::uint64_t m_isNumber = 0;
+    mutable std::array<double, attributeCount> m_numbers; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    mutable std::array<char, 32> m_status;                // NOLINT(cppcoreguidelines-pro-type-member-init)
+    mutable ssize_t m_statusSize = 0;
+    mutable std::array<char, 512> m_text; // NOLINT(cppcoreguidelines-pro-type-member-init)
+};
+
+/// The system's supplies for one answer.
+class PowerSnapshot
+{
+public:
+    explicit PowerSnapshot(SupplyDirectory& directory);
+
+    PowerSnapshot(const PowerSnapshot&) = delete;
+    PowerSnapshot& operator=(const PowerSnapshot&) = delete;
+
+    SystemPower power() const;
+
+    /// The batteries that are present, then the uninterruptible supplies.
+    qsizetype sourceCount() const { return m_batteries.size() + m_uninterruptibles.size(); }
+    bool isBattery(qsizetype index) const { return index < m_batteries.size(); }
+    const SupplyAttributes& source(qsizetype index) const;
+
+private:
+    std::vector<SupplySnapshot> m_snapshots;
+    QVarLengthArray<const SupplyAttributes*, 4> m_batteries;
+    QVarLengthArray<const SupplyAttributes*, 4> m_externals;
+    QVarLengthArray<const SupplyAttributes*, 4> m_uninterruptibles;
+};
+
+} // namespace quindle

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <chrono>
+#include <deque>
+#include <optional>
+
+namespace quindle {
+
+/// Estimates the time until a battery is empty or full from its charge and the average current of the last
+/// minute. It begins anew whenever the direction of the current or the plug changes, and knows nothing until
+/// it has watched for a while. It has no clock; times are those of the samples and only run forward.
+class TimeEstimator
+{
+public:
+    enum class Direction {
+        Idle,
+        Charging,
+        Discharging,
+    };
+
+    struct Sample
+    {
+        std::chrono::milliseconds time{};
+        std::optional<double> charge;     ///< mAh
+        std::optional<double> fullCharge; ///< mAh
+        std::optional<double>
+            current; ///< mAh an hour, of either sign; without it the charge's change stands in
+    };
+
+    /// Says how things stand now; a change forgets all samples.
+    void setState(bool isPlugged, Direction direction);
+
+    /// Whether the last sample is old enough, 1 s, for another one to tell something.
+    bool wantsSample(std::chrono::milliseconds now) const;
+
+    void addSample(const Sample& sample);
+
+    /// Whole minutes from the last sample until empty while discharging, or until full while charging.
+    /// Nothing in the other direction, before it is known, and for 10 days or more.
+    std::optional<int> minutesUntilEmpty() const;
+    std::optional<int> minutesUntilFull() const;
+
+private:
+    std::optional<double> averageCurrent() const;
+    std::optional<double> currentFromCharges() const;
+
+    bool m_isPlugged = false;
+    Direction m_direction = Direction::Idle;
+    std::deque<Sample> m_samples;
+};
+
+} // namespace quindle
