@@ -1,5 +1,4 @@
 # The registry and the power sources from /sys, and the small services.
-find_package(Threads REQUIRED)
 target_sources(quindle_platform_linux PRIVATE
     AttributeFile.cpp
     BatteryRules.cpp
