@@ -1,0 +1,15 @@
+#include <gtest/gtest.h>
+
+#include "common/FatalError.h"
+
+using namespace quindle;
+
+namespace {
+
+TEST(FatalErrorDeathTest, WritesOneLineAndAborts)
+{
+    EXPECT_EXIT(fatalError(u"it is °broken"), testing::KilledBySignal(SIGABRT),
+                "^quindle: fatal: it is °broken\n$");
+}
+
+} // namespace
