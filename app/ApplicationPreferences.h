@@ -52,6 +52,9 @@ public:
     /// False when the shared database could not be opened; `firstStart` must not be asked then.
     bool hasSuite() const { return m_suiteDefaults != nullptr; }
 
+    /// The process's local notification centre, for those who observe settings.
+    NotificationCenter& nc() const { return m_nc; }
+
 private:
     UserDefaults& m_defaults;
     UserDefaults* m_suiteDefaults;

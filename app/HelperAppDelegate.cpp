@@ -1,1 +1,323 @@
 #include "app/HelperAppDelegate.h"
+
+#include "app/ApplicationPreferences.h"
+#include "battery/QDBattery.h"
+#include "common/FatalError.h"
+#include "common/NumberDescription.h"
+#include "common/NumberTexts.h"
+#include "common/Paths.h"
+#include "history/DailyGate.h"
+#include "mac/QDMac.h"
+#include "menubar/BatteryFacts.h"
+#include "menubar/StatusIcon.h"
+#include "menubar/TitleTemplate.h"
+#include "platform/Application.h"
+#include "platform/Bundle.h"
+#include "platform/Host.h"
+#include "platform/Image.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Platform.h"
+#include "platform/RunLoop.h"
+#include "platform/StatusBar.h"
+#include "platform/Workspace.h"
+#include "preferences/PreferencesPresenter.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr double refreshInterval = 10.0;   // seconds
+constexpr double menuBarFontSize = 12.0;   // points
+constexpr double imageSide = 21.0;         // points
+constexpr qint64 iconsShown = 1;           // the one value of showIconsInMenuBar that shows icons
+constexpr qint64 fahrenheitIndex = 1;      // the one value of temperatureSettingIndex that is not Celsius
+constexpr int componentsToMainBundle = 4;  // Quindle.app's folder holds Quindle.app/Contents/Resources/Quindle-Helper.app
+
+QString settingsChanged()
+{
+    return QStringLiteral("SettingsChangedNotification");
+}
+
+QString willUpdateImmediately()
+{
+    return QStringLiteral("WillUpdateImmediately");
+}
+
+QString localSettingsChanged()
+{
+    return QStringLiteral("lalala");
+}
+
+QString localQuitNow()
+{
+    return QStringLiteral("quitNow");
+}
+
+template <typename Outlet>
+Outlet& required(Outlet* outlet)
+{
+    if (!outlet)
+        fatalError(u"an outlet of the main interface is not connected");
+    return *outlet;
+}
+
+/// The filter's angles are whole numbers chosen by eye, not parts of a turn.
+void setAngles(HueFilter& green, HueFilter& yellow, HueFilter& red)
+{
+    green.setInputAngle(4);
+    yellow.setInputAngle(-16);
+    red.setInputAngle(241);
+}
+
+} // namespace
+
+HelperAppDelegate::HelperAppDelegate(const Platform& platform, ApplicationPreferences& preferences,
+                                     MainInterface& interface, PreferencesPresenter& preferencesController,
+                                     const MacFactory& makeMac)
+    : m_platform(platform)
+    , m_preferences(preferences)
+    , m_interface(interface)
+    , m_outlets(interface.outlets())
+    , m_preferencesController(preferencesController)
+    , m_myMac(makeMac(platform))
+    , m_statusItem(platform.statusBar.statusItemWithLength(variableStatusItemLength))
+    , m_hueColorGreen(std::make_shared<HueFilter>())
+    , m_hueColorYellow(std::make_shared<HueFilter>())
+    , m_hueColorRed(std::make_shared<HueFilter>())
+    , m_lastDailyUploadToOnlineService(platform.clock.now())
+{
+    m_interface.setActions(this);
+}
+
+HelperAppDelegate::~HelperAppDelegate()
+{
+    m_interface.setActions(nullptr);
+    if (m_statusBarUpdateTimer)
+        m_statusBarUpdateTimer->invalidate();
+}
+
+void HelperAppDelegate::applicationDidFinishLaunching()
+{
+    transferSharedDefaults();
+    setVersionItem();
+    registerWakeSleepNotification();
+    loadSettings();
+    required(m_outlets.macObjectController).addObject(m_myMac.get());
+    addBatteryView();
+    updateStatusBarTitle();
+    updateStatusBarTitle(); // twice: the second marks the first one's image as a template
+    startTimer();
+    setAngles(*m_hueColorGreen, *m_hueColorYellow, *m_hueColorRed);
+    setBarFilters();
+    setProgressIndicatorColor();
+}
+
+void HelperAppDelegate::applicationWillTerminate() {}
+
+void HelperAppDelegate::transferSharedDefaults()
+{
+    m_preferences.setRunInBackgroundOwn(m_preferences.runInBackground());
+}
+
+void HelperAppDelegate::setVersionItem()
+{
+    const auto info = m_platform.bundle.infoDictionary();
+    if (!info)
+        fatalError(u"the bundle has no information dictionary");
+    const QVariant version = info->value(QStringLiteral("CFBundleVersion"));
+    if (!version.isValid())
+        fatalError(u"the bundle's information has no CFBundleVersion");
+    if (m_outlets.versionItem == 0)
+        fatalError(u"an outlet of the main interface is not connected");
+    required(m_outlets.statusMenu)
+        .setText(m_outlets.versionItem, QStringLiteral("Version ") + valueDescription(version));
+}
+
+void HelperAppDelegate::registerWakeSleepNotification()
+{
+    m_platform.workspaceNotifications.addWillSleepObserver([] { receiveSleepNote(); });
+    m_platform.workspaceNotifications.addDidWakeObserver([this] { receiveWakeNote(); });
+}
+
+void HelperAppDelegate::loadSettings()
+{
+    NotificationCenter& local = m_platform.notificationCenter;
+    local.addObserver(localSettingsChanged(), [this] { textFieldTextChanged(); });
+    local.addObserver(localQuitNow(), [] { quiteDueToUpdate(); });
+    DistributedNotificationCenter& distributed = m_platform.distributedNotificationCenter;
+    distributed.addObserver(settingsChanged(), [&local] { local.post(localSettingsChanged()); });
+    distributed.addObserver(willUpdateImmediately(), [&local] { local.post(localQuitNow()); });
+}
+
+void HelperAppDelegate::registerDistributedNotificationCenter()
+{
+    loadSettings();
+}
+
+void HelperAppDelegate::addBatteryView()
+{
+    m_shownView = m_myMac->Battery() ? &required(m_outlets.menuView) : &required(m_outlets.noBatteryView);
+    m_statusItem->setMenu(&required(m_outlets.statusMenu));
+}
+
+void HelperAppDelegate::startTimer()
+{
+    m_statusBarUpdateTimer = m_platform.runLoop.scheduleRepeatingTimer(refreshInterval, 0.0,
+                                                                       [this] { updateStatusBarTitle(); });
+}
+
+void HelperAppDelegate::setBarFilters()
+{
+    required(m_outlets.stateOfChargeProgress).setContentFilters({m_hueColorGreen});
+    required(m_outlets.stateOfHealthProgress).setContentFilters({m_hueColorGreen});
+}
+
+void HelperAppDelegate::receiveSleepNote() {}
+
+void HelperAppDelegate::receiveWakeNote()
+{
+    updateStatusBarTitle();
+}
+
+void HelperAppDelegate::textFieldTextChanged()
+{
+    updateStatusBarTitle();
+}
+
+void HelperAppDelegate::quiteDueToUpdate() {}
+
+void HelperAppDelegate::updateStatusBarTitle()
+{
+    checkForAutoSaveData();
+    m_statusItem->setMenuBarFontSize(menuBarFontSize);
+    if (const QDBattery* battery = m_myMac->Battery()) {
+        updateIcon(*battery);
+        updateTitle(*battery);
+        setProgressIndicatorColor();
+    } else {
+        showNoBattery();
+    }
+    updateFacts();
+    Q_EMIT statusItemRefreshed();
+}
+
+void HelperAppDelegate::showNoBattery()
+{
+    m_statusItem->setTitle(QStringLiteral(""));
+    showImage(noBatteryIconName());
+}
+
+void HelperAppDelegate::updateIcon(const QDBattery& battery)
+{
+    m_statusItem->setTitle(QStringLiteral("100 %")); // stands until the title below replaces it
+    const bool showsIcons = m_preferences.showIconsInMenuBar() == iconsShown;
+    if (battery.isCharging() || battery.isACPowered()) {
+        if (showsIcons)
+            replaceTemplateImage(chargingIconName(battery.StateOfCharge()));
+        else
+            m_statusItem->setImage(nullptr);
+        return;
+    }
+    if (battery.isACPowered()) // asked again: an adapter plugged in since then leaves the icon for now
+        return;
+    if (showsIcons)
+        replaceTemplateImage(batteryIconName(battery.StateOfCharge()));
+    else
+        m_statusItem->setImage(nullptr);
+}
+
+void HelperAppDelegate::replaceTemplateImage(const QString& name)
+{
+    if (const auto current = m_statusItem->image())
+        current->setTemplate(true); // the image that goes, not the one that comes: the mark stays with its name
+    showImage(name);
+}
+
+void HelperAppDelegate::showImage(const QString& name)
+{
+    const auto image = m_images.imageNamed(name);
+    m_statusItem->setImage(image);
+    image->setSize(QSizeF(imageSide, image->size().height()));
+    image->setSize(QSizeF(image->size().width(), imageSide));
+}
+
+void HelperAppDelegate::updateTitle(const QDBattery& battery)
+{
+    const bool isFahrenheit = m_preferences.temperatureSettingIndex() == fahrenheitIndex;
+    TitleValues values;
+    values.temperature =
+        battery.temperatureValue(isFahrenheit ? TemperatureUnit::Fahrenheit : TemperatureUnit::Celsius);
+    values.isCharging = battery.isCharging();
+    values.timeRemaining = battery.TimeRemaining();
+    values.stateOfCharge = battery.StateOfCharge();
+    values.wattThroughput = battery.WattThroughput();
+    values.amperage = battery.amperage();
+    values.cycleCount = battery.CycleCount();
+    const QString title = titleFromTemplate(m_preferences.customStatusBar(), values);
+    m_statusItem->setTitle(title);
+    m_statusItem->setTitle(title); // set twice in a row, as the item's contract has always been
+}
+
+void HelperAppDelegate::updateFacts()
+{
+    m_statusItem->setToolTipText(toolTipText(*m_myMac));
+    const QDBattery* battery = m_myMac->Battery();
+    m_statusItem->setFallbackText(battery ? fixedText(battery->StateOfCharge(), 0) : QString());
+    m_interface.updateFacts(m_statusItem->title());
+}
+
+const std::shared_ptr<HueFilter>& HelperAppDelegate::filterFor(BarColour colour) const
+{
+    switch (colour) {
+    case BarColour::Green:
+        return m_hueColorGreen;
+    case BarColour::Yellow:
+        return m_hueColorYellow;
+    case BarColour::Red:
+        break;
+    }
+    return m_hueColorRed;
+}
+
+void HelperAppDelegate::setProgressIndicatorColor()
+{
+    const QDBattery* battery = m_myMac->Battery();
+    if (!battery)
+        return;
+    const double charge = battery->StateOfCharge();
+    if (const auto colour = chargeBarColour(charge))
+        required(m_outlets.stateOfChargeProgress).setContentFilters({filterFor(*colour)});
+    if (const auto colour = healthBarColour(battery->StateOfHealth(), charge))
+        required(m_outlets.stateOfHealthProgress).setContentFilters({filterFor(*colour)});
+}
+
+void HelperAppDelegate::checkForAutoSaveData()
+{
+    const QDateTime now = m_platform.clock.now();
+    if (!isDailyUploadDue(m_lastDailyUploadToOnlineService, now))
+        return;
+    loadSettings(); // registers the observers once more, whatever the upload setting is
+    if (m_preferences.autoUpload())
+        m_lastDailyUploadToOnlineService = now;
+}
+
+void HelperAppDelegate::quitApp()
+{
+    m_platform.application.terminate();
+}
+
+void HelperAppDelegate::openApplication()
+{
+    QString path = m_platform.bundle.path();
+    for (int component = 0; component < componentsToMainBundle; ++component)
+        path = pathWithoutLastComponent(path);
+    m_platform.workspace.launchApplication(path);
+}
+
+void HelperAppDelegate::openPreferences()
+{
+    m_platform.application.activateIgnoringOtherApplications();
+    m_preferencesController.showPreferencesWindow();
+}
+
+} // namespace quindle

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QObject>
 
+#include "menubar/BarColours.h"
 #include "menubar/HueFilter.h"
 #include "menubar/MainInterface.h"
 #include "menubar/NamedImages.h"
@@ -13,20 +14,12 @@
 namespace quindle {
 
 class ApplicationPreferences;
+class PreferencesPresenter;
 class QDBattery;
 class QDMac;
 class StatusItem;
 class Timer;
 struct Platform;
-
-/// Shows the helper's preferences window.
-class PreferencesPresenter
-{
-public:
-    virtual ~PreferencesPresenter() = default;
-
-    virtual void showPreferencesWindow() = 0;
-};
 
 /// The application delegate: owns the computer's model, the status item and the refresh timer, and refreshes
 /// everything the helper shows in one method, `updateStatusBarTitle`. Main thread only.
@@ -47,7 +40,7 @@ public:
     void applicationDidFinishLaunching();
 
     /// Does nothing: nothing is saved at the end.
-    void applicationWillTerminate();
+    static void applicationWillTerminate();
 
     /// Copies the shared `runInBackground` to the helper's own database.
     void transferSharedDefaults();
@@ -57,10 +50,10 @@ public:
     void registerDistributedNotificationCenter();
 
     void registerWakeSleepNotification();
-    void receiveSleepNote(); ///< does nothing
+    static void receiveSleepNote(); ///< does nothing
     void receiveWakeNote();
     void textFieldTextChanged();
-    void quiteDueToUpdate(); ///< does nothing; the name is spelled so
+    static void quiteDueToUpdate(); ///< does nothing; the name is spelled so
 
     /// The refresh: daily gate, font, icon, title, tool tip and menu rows, bar colours.
     void updateStatusBarTitle();
@@ -93,10 +86,15 @@ Q_SIGNALS:
 private:
     void setVersionItem();
     void addBatteryView();
-    void updateIcon();
-    void replaceImage(const QString& name);
-    void updateTitle();
+    void startTimer();
+    void setBarFilters();
+    void showNoBattery();
+    void updateIcon(const QDBattery& battery);
+    void replaceTemplateImage(const QString& name);
+    void showImage(const QString& name);
+    void updateTitle(const QDBattery& battery);
     void updateFacts();
+    const std::shared_ptr<HueFilter>& filterFor(BarColour colour) const;
 
     const Platform& m_platform;
     ApplicationPreferences& m_preferences;

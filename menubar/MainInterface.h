@@ -47,8 +47,10 @@ class MainInterface
 {
 public:
     MainInterface();
+    virtual ~MainInterface() = default;
 
-    MainOutlets outlets();
+    /// What the interface connects; virtual because an interface may lack an outlet.
+    virtual MainOutlets outlets();
 
     /// Says who carries out the entries. Until then they do nothing.
     void setActions(StatusMenuActions* actions) { m_actions = actions; }

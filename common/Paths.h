@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+/// The path without its last component, by the platform's rules: "/a/b" gives "/a", "/a/" and "/" give "/", a
+/// relative single name and the empty text give the empty text.
+QString pathWithoutLastComponent(const QString& path);
+
+} // namespace quindle

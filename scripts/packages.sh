@@ -1,0 +1,35 @@
+# Installs Debian or Ubuntu packages by name, the missing ones only. Sourced by ./run and ./test.
+
+build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libqt6svg6-dev
+    libgl-dev libplist-dev"
+runtime_packages="libqt6svg6 fonts-dejavu-core qt6-wayland"
+desktop_packages="xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme fonts-noto-core imagemagick x11-utils
+    x11-xserver-utils xdotool libglib2.0-bin"
+test_packages="libgtest-dev libgmock-dev python3 python3-dbus python3-gi python3-dbusmock waybar sway grim"
+
+is_installed() {
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "This needs packages that are not installed; run it as root or install sudo: $*" >&2
+        return 1
+    fi
+}
+
+install_packages() {
+    local name missing=()
+    for name in "$@"; do
+        is_installed "$name" || missing+=("$name")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    echo "Installing packages: ${missing[*]}"
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq update
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends "${missing[@]}" \
+        >/dev/null
+}
