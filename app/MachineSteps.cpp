@@ -37,7 +37,8 @@ void playOnBattery(MachineAction action, QDBattery& battery)
     }
 }
 
-void play(MachineAction action, RecordedPlatform& recorded, const Platform& platform, HelperAppDelegate& delegate)
+void play(MachineAction action, RecordedPlatform& recorded, const Platform& platform,
+          HelperAppDelegate& delegate)
 {
     switch (action) {
     case MachineAction::MacToggleAge:
@@ -90,8 +91,8 @@ void playStep(const MachineStep& step, RecordedPlatform& recorded, const Platfor
     delegate.updateStatusBarTitle();
 }
 
-void playStepsInTime(const std::vector<MachineStep>& steps, RecordedPlatform& recorded, const Platform& platform,
-                     HelperAppDelegate& delegate)
+void playStepsInTime(const std::vector<MachineStep>& steps, RecordedPlatform& recorded,
+                     const Platform& platform, HelperAppDelegate& delegate)
 {
     playFrom(0, steps, recorded, platform, delegate);
 }

@@ -16,9 +16,9 @@ struct CommandLine
     QString captureFile;
     bool withSerials = false;
     bool demo = false;
-    QString machineFile;     ///< empty: not a recorded computer
-    QString sysfsDirectory;  ///< empty: /sys
-    QString fault;           ///< why the call is wrong usage, one line; empty when it is right
+    QString machineFile;    ///< empty: not a recorded computer
+    QString sysfsDirectory; ///< empty: /sys
+    QString fault;          ///< why the call is wrong usage, one line; empty when it is right
 };
 
 /// Values of the environment that stand for options; empty like unset.

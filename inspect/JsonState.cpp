@@ -1,16 +1,14 @@
 #include "inspect/JsonState.h"
 
-#include <utility>
-
 #include <QMetaProperty>
 
 #include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "battery/QDBattery.h"
+#include "inspect/SettingsDatabases.h"
 #include "mac/QDMac.h"
 #include "platform/Image.h"
-#include "platform/UserDefaults.h"
-#include "platform/recorded/RecordedPlatform.h"
+#include "platform/StatusBar.h"
 
 namespace quindle {
 
@@ -92,22 +90,19 @@ QVariantMap settingsState(const ApplicationPreferences& preferences)
     };
 }
 
-QVariantMap statusItemState(StatusItemRecord& item)
+QVariantMap statusItemState(const StatusItem& item, const RecentEvents& recent)
 {
     QVariantMap state{
-        {QStringLiteral("title"), item.title},
-        {QStringLiteral("image"), QVariant()},
-        {QStringLiteral("imageIsTemplate"), false},
-        {QStringLiteral("imageSize"), QVariant()},
-        {QStringLiteral("fontSize"), item.fontSize},
-        {QStringLiteral("titlesSet"), std::exchange(item.titlesSet, {})},
+        {QStringLiteral("title"), item.title()},       {QStringLiteral("image"), QVariant()},
+        {QStringLiteral("imageIsTemplate"), false},    {QStringLiteral("imageSize"), QVariant()},
+        {QStringLiteral("fontSize"), recent.fontSize}, {QStringLiteral("titlesSet"), recent.titlesSet},
     };
-    if (!item.image)
+    const std::shared_ptr<Image> image = item.image();
+    if (!image)
         return state;
-    const QSizeF size = item.image->size();
-    state.insert(QStringLiteral("image"), item.image->name());
-    state.insert(QStringLiteral("imageIsTemplate"), item.image->isTemplate());
-    state.insert(QStringLiteral("imageSize"), QVariantList{size.width(), size.height()});
+    state.insert(QStringLiteral("image"), image->name());
+    state.insert(QStringLiteral("imageIsTemplate"), image->isTemplate());
+    state.insert(QStringLiteral("imageSize"), QVariantList{image->size().width(), image->size().height()});
     return state;
 }
 
@@ -129,8 +124,10 @@ QVariant barsState(const HelperAppDelegate& delegate, MainInterface& interface)
     if (!delegate.myMac().Battery())
         return {};
     return QVariantMap{
-        {QStringLiteral("stateOfCharge"), barColour(interface.stateOfChargeProgress().contentFilters(), delegate)},
-        {QStringLiteral("stateOfHealth"), barColour(interface.stateOfHealthProgress().contentFilters(), delegate)},
+        {QStringLiteral("stateOfCharge"),
+         barColour(interface.stateOfChargeProgress().contentFilters(), delegate)},
+        {QStringLiteral("stateOfHealth"),
+         barColour(interface.stateOfHealthProgress().contentFilters(), delegate)},
     };
 }
 
@@ -140,39 +137,30 @@ QVariant versionItemText(MainInterface& interface)
     return interface.statusMenu().rows().at(row - 1).text;
 }
 
-QVariantMap appState(const InspectedHelper& helper, int refreshes)
+QVariantMap appState(const InspectedHelper& helper, const RecentEvents& recent)
 {
     const MenuView* view = helper.delegate.shownView();
     return {
         {QStringLiteral("versionItem"), versionItemText(helper.interface)},
         {QStringLiteral("menuView"), view ? QVariant(view->name) : QVariant()},
-        {QStringLiteral("launched"), helper.recorded.workspace.takeLaunched()},
-        {QStringLiteral("refreshes"), refreshes},
+        {QStringLiteral("launched"), recent.launched},
+        {QStringLiteral("refreshes"), recent.refreshes},
         {QStringLiteral("lastDailyUploadToOnlineService"), helper.delegate.lastDailyUploadToOnlineService()},
-    };
-}
-
-QVariantMap defaultsState(UserDefaultsDatabases& userDefaults)
-{
-    UserDefaults* group = userDefaults.suite(groupDatabaseName());
-    return {
-        {QStringLiteral("standard"), userDefaults.standard().dictionaryRepresentation()},
-        {groupDatabaseName(), group ? group->dictionaryRepresentation() : QVariantMap()},
     };
 }
 
 } // namespace
 
-QVariantMap stateOfHelper(const InspectedHelper& helper, int refreshes)
+QVariantMap stateOfHelper(const InspectedHelper& helper, const RecentEvents& recent)
 {
     return {
         {QStringLiteral("battery"), batteryState(helper.delegate.myMac().Battery())},
         {QStringLiteral("mac"), macState(helper.delegate.myMac())},
         {QStringLiteral("settings"), settingsState(helper.preferences)},
-        {QStringLiteral("statusItem"), statusItemState(*helper.recorded.statusBar.lastItem())},
+        {QStringLiteral("statusItem"), statusItemState(helper.delegate.statusItem(), recent)},
         {QStringLiteral("bars"), barsState(helper.delegate, helper.interface)},
-        {QStringLiteral("app"), appState(helper, refreshes)},
-        {QStringLiteral("defaults"), defaultsState(helper.userDefaults)},
+        {QStringLiteral("app"), appState(helper, recent)},
+        {QStringLiteral("defaults"), settingsDatabases(helper.userDefaults)},
     };
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QVariantMap>
 
 namespace quindle {
@@ -8,7 +9,15 @@ class ApplicationPreferences;
 class HelperAppDelegate;
 class MainInterface;
 class UserDefaultsDatabases;
-struct RecordedPlatform;
+
+/// What happened since the state before, which the objects themselves do not keep.
+struct RecentEvents
+{
+    double fontSize = 0;   ///< points, of the status item at the end
+    QStringList titlesSet; ///< every title, in order
+    QStringList launched;  ///< paths, in order
+    int refreshes = 0;     ///< of the status item
+};
 
 /// Where the state of a running helper is read from.
 struct InspectedHelper
@@ -17,12 +26,10 @@ struct InspectedHelper
     MainInterface& interface;
     const ApplicationPreferences& preferences;
     UserDefaultsDatabases& userDefaults;
-    RecordedPlatform& recorded; ///< its status bar and workspace are the ones the helper was given
 };
 
-/// Everything the helper knows and shows at this moment, by the keys of the JSON object. Values are read anew,
-/// so one of a wrong type ends the program here. `refreshes` counts those since the state before; the titles
-/// set and paths launched since then are taken out of their records.
-QVariantMap stateOfHelper(const InspectedHelper& helper, int refreshes);
+/// Everything the helper knows and shows at this moment, by the keys of the JSON object. Values are read
+/// anew, so one of a wrong type ends the program here.
+QVariantMap stateOfHelper(const InspectedHelper& helper, const RecentEvents& recent);
 
 } // namespace quindle

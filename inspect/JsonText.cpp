@@ -112,7 +112,8 @@ QString isoDateText(const QDateTime& date)
     const QString time = twoDigits(local.time().hour()) + u':' + twoDigits(local.time().minute()) + u':' +
                          twoDigits(local.time().second());
     const QChar sign = offset < 0 ? u'-' : u'+';
-    return day + u'T' + time + sign + twoDigits(std::abs(offset) / 60) + u':' + twoDigits(std::abs(offset) % 60);
+    return day + u'T' + time + sign + twoDigits(std::abs(offset) / 60) + u':' +
+           twoDigits(std::abs(offset) % 60);
 }
 
 } // namespace quindle

@@ -35,6 +35,11 @@ void RecordedStatusItem::setMenuBarFontSize(double points)
     m_record->fontSize = points;
 }
 
+void RecordedStatusItem::setFallbackText(const QString& text)
+{
+    m_record->fallbackText = text;
+}
+
 void RecordedStatusItem::setToolTipText(const QString& text)
 {
     m_record->toolTip = text;

@@ -14,6 +14,7 @@ struct StatusItemRecord
     QStringList titlesSet; ///< every title set, in order; readers may clear it
     std::shared_ptr<Image> image;
     double fontSize = 0; ///< points; 0 before it is set
+    QString fallbackText;
     QString toolTip;
     StatusMenu* menu = nullptr;
 };
@@ -28,6 +29,7 @@ public:
     void setImage(std::shared_ptr<Image> image) override;
     std::shared_ptr<Image> image() const override;
     void setMenuBarFontSize(double points) override;
+    void setFallbackText(const QString& text) override;
     void setToolTipText(const QString& text) override;
     void setMenu(StatusMenu* menu) override;
 
