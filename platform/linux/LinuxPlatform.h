@@ -29,11 +29,10 @@ public:
     Host& host();
     SystemFiles& systemFiles();
     RunLoop& runLoop();
-    StatusBar& statusBar();
     Application& application();
 
-    /// All of them.
-    Platform services();
+    /// All of them, with a status bar of the caller's choice.
+    Platform services(StatusBar& statusBar);
 
 private:
     struct Services;
