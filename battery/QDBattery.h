@@ -136,10 +136,10 @@ public:
     QString getCustomTemperature() const;
 
     /// Celsius ↔ Fahrenheit, and stores the unit. Kelvin stays Kelvin: it is chosen in the preferences only.
-    void toggleTemperatureMode();
+    Q_INVOKABLE void toggleTemperatureMode();
 
     /// Days → months → years → days, and stores the mode.
-    void toggleAge();
+    Q_INVOKABLE void toggleAge();
 
     /// The capacity in mAh that the manufacturer states for a model identifier; 0 for a model not listed.
     static qint64 listActualDesignCapacity(const QString& macModel);

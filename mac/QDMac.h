@@ -50,7 +50,7 @@ public:
     void loadSettings();
 
     /// Days → months → years → days for `CustomAge`, and stores the mode ("QDMacAgeMode").
-    void toggleAge();
+    Q_INVOKABLE void toggleAge();
 
     /// The identifier of this computer in snapshots: the MD5 digest of serial number and model, both read anew.
     QString generateMacID() const;

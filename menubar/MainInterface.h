@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QString>
 
 #include "menubar/ObjectController.h"
@@ -14,8 +16,8 @@ struct MenuView
     QString name; ///< "menuView" or "noBatteryView"
 };
 
-/// What the main interface connects to the application delegate. The delegate keeps none of it alive; one that
-/// is missing (null, 0) at launch is fatal.
+/// What the main interface connects to the application delegate. The delegate keeps none of it alive; one
+/// that is missing (null, 0) at launch is fatal.
 struct MainOutlets
 {
     MenuView* menuView = nullptr;
@@ -38,8 +40,8 @@ public:
     virtual void quitApp() = 0;
 };
 
-/// The main interface without its widgets: the status menu with its rows, the two bars, both views by name and
-/// the object controller. The helper shows it in a window of its own, quindle-inspect only reads it.
+/// The main interface without its widgets: the status menu with its rows, the two bars, both views by name
+/// and the object controller. The helper shows it in a window of its own, quindle-inspect only reads it.
 ///
 /// Rows in order: the title and the battery's facts as text (kind Fact), "Show Battery...", a separator, then
 /// the entries "Open Application", "Preferences...", the version entry and "Quit".

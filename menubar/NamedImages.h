@@ -9,8 +9,8 @@ namespace quindle {
 
 class Image;
 
-/// Images by name, one shared object for each: what is set on it once (size, template mark) is there again the
-/// next time the name is asked for.
+/// Images by name, one shared object for each: what is set on it once (size, template mark) is there again
+/// the next time the name is asked for.
 class NamedImages
 {
 public:

@@ -6,8 +6,8 @@
 
 namespace quindle {
 
-/// One of the two bars of the battery view as the rest of the program sees it: it has content filters, whether
-/// or not the view has been opened yet. The widget that draws it (`menuIndicator`) follows it.
+/// One of the two bars of the battery view as the rest of the program sees it: it has content filters,
+/// whether or not the view has been opened yet. The widget that draws it (`menuIndicator`) follows it.
 class ProgressIndicator
 {
 public:

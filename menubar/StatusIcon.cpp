@@ -1,1 +1,28 @@
 #include "menubar/StatusIcon.h"
+
+namespace quindle {
+
+QString noBatteryIconName()
+{
+    return QStringLiteral("AppIconBW");
+}
+
+QString chargingIconName(double stateOfCharge)
+{
+    return stateOfCharge >= 80 ? QStringLiteral("#bat44Charge") : QStringLiteral("#bat04Charge");
+}
+
+QString batteryIconName(double stateOfCharge)
+{
+    if (stateOfCharge >= 90)
+        return QStringLiteral("#bat44");
+    if (stateOfCharge >= 70)
+        return QStringLiteral("#bat34");
+    if (stateOfCharge >= 40)
+        return QStringLiteral("#bat24");
+    if (stateOfCharge >= 20)
+        return QStringLiteral("#bat14");
+    return QStringLiteral("#bat04");
+}
+
+} // namespace quindle

@@ -7,13 +7,13 @@ namespace quindle {
 /// What the placeholders of a title template stand for at one moment.
 struct TitleValues
 {
-    double temperature = 0;     ///< %t, in the unit the user chose for the title; shortest text, no unit sign
-    bool isCharging = false;    ///< %s, an upward arrow while charging, a downward one otherwise
-    QString timeRemaining;      ///< %r, as it stands
-    double stateOfCharge = 0;   ///< %p, percent with one decimal
-    double wattThroughput = 0;  ///< %w, watts with one decimal
-    qint64 amperage = 0;        ///< %mA, mA, negative while discharging
-    qint64 cycleCount = 0;      ///< %l
+    double temperature = 0;    ///< %t, in the unit the user chose for the title; shortest text, no unit sign
+    bool isCharging = false;   ///< %s, an upward arrow while charging, a downward one otherwise
+    QString timeRemaining;     ///< %r, as it stands
+    double stateOfCharge = 0;  ///< %p, percent with one decimal
+    double wattThroughput = 0; ///< %w, watts with one decimal
+    qint64 amperage = 0;       ///< %mA, mA, negative while discharging
+    qint64 cycleCount = 0;     ///< %l
 };
 
 /// The template of a user who has not written one.

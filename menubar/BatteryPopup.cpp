@@ -1,0 +1,79 @@
+#include "menubar/BatteryPopup.h"
+
+#include <QApplication>
+#include <QCursor>
+
+#include "menubar/BatteryWindow.h"
+#include "menubar/MainInterface.h"
+
+namespace quindle {
+
+namespace {
+
+BatteryWindow::Kind windowKind()
+{
+    const bool placesWindows = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    return placesWindows ? BatteryWindow::Kind::Plain : BatteryWindow::Kind::Popup;
+}
+
+} // namespace
+
+BatteryPopup::BatteryPopup(MainInterface& interface, QObject* parent)
+    : QObject(parent)
+    , m_interface(interface)
+{
+    interface.statusMenu().setViewOpener([this] { toggle(); });
+    interface.statusMenu().addObserver([popup = QPointer(this)](int id) {
+        if (popup && popup->m_window)
+            popup->m_window->updateEntry(id);
+    });
+}
+
+BatteryPopup::~BatteryPopup()
+{
+    m_interface.statusMenu().setViewOpener({});
+    delete m_window;
+}
+
+bool BatteryPopup::isOpen() const
+{
+    return m_window && m_window->isVisible();
+}
+
+void BatteryPopup::open()
+{
+    if (isOpen()) {
+        m_window->raise();
+        m_window->activateWindow();
+        return;
+    }
+    m_window = new BatteryWindow(m_interface, windowKind());
+    m_window->setClosedOutside([this] {
+        m_closedAt = QCursor::pos();
+        m_sinceClosedOutside.start();
+    });
+    m_window->open(QCursor::pos());
+}
+
+void BatteryPopup::close()
+{
+    if (m_window)
+        m_window->close();
+}
+
+void BatteryPopup::toggle()
+{
+    if (isOpen())
+        close();
+    else if (!isSameClick())
+        open();
+}
+
+bool BatteryPopup::isSameClick() const
+{
+    return m_sinceClosedOutside.isValid() &&
+           m_sinceClosedOutside.elapsed() < QApplication::doubleClickInterval() &&
+           (QCursor::pos() - m_closedAt).manhattanLength() < QApplication::startDragDistance();
+}
+
+} // namespace quindle

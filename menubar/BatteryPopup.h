@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPoint>
+#include <QPointer>
+
+namespace quindle {
+
+class BatteryWindow;
+class MainInterface;
+
+/// Opens and closes the battery view: beside the pointer where windows may place themselves, as an ordinary
+/// window on Wayland. Nothing of it exists while it is closed.
+class BatteryPopup : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Becomes what opens the view of the interface's status menu. The interface must outlive it.
+    explicit BatteryPopup(MainInterface& interface, QObject* parent = nullptr);
+    ~BatteryPopup() override;
+
+    bool isOpen() const;
+
+    /// Opens it, or brings it to the front.
+    void open();
+    void close();
+
+    /// Opens it when closed and closes it when open. The click that closed it by being outside of it does not
+    /// open it again when it reaches the status item.
+    void toggle();
+
+private:
+    bool isSameClick() const;
+
+    MainInterface& m_interface;
+    QPointer<BatteryWindow> m_window;
+    QElapsedTimer m_sinceClosedOutside;
+    QPoint m_closedAt;
+};
+
+} // namespace quindle

@@ -1,0 +1,214 @@
+#include "menubar/BatteryWindow.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "menubar/BatteryFacts.h"
+#include "menubar/BatteryView.h"
+#include "menubar/KeyPathBinder.h"
+#include "menubar/MainInterface.h"
+#include "menubar/MenuEntry.h"
+#include "menubar/NoBatteryView.h"
+#include "menubar/PaletteMix.h"
+#include "menubar/PopupGeometry.h"
+#include "menubar/ViewMetrics.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr double lineShare = 0.15;
+
+QScreen* screenAt(const QPoint& point)
+{
+    QScreen* screen = QGuiApplication::screenAt(point);
+    return screen ? screen : QGuiApplication::primaryScreen();
+}
+
+Qt::WindowFlags flagsOf(BatteryWindow::Kind kind)
+{
+    if (kind == BatteryWindow::Kind::Popup)
+        return Qt::Popup | Qt::FramelessWindowHint;
+    return Qt::Window;
+}
+
+} // namespace
+
+BatteryWindow::BatteryWindow(MainInterface& interface, Kind kind)
+    : QWidget(nullptr, flagsOf(kind))
+    , m_interface(interface)
+    , m_kind(kind)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setObjectName(QStringLiteral("batteryWindow"));
+    setWindowTitle(QStringLiteral("Battery"));
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+
+    auto* layout = new QVBoxLayout(this);
+    const int border = kind == Kind::Popup ? 1 : 0;
+    layout->setContentsMargins(border, border, border, border);
+    layout->setSpacing(0);
+    addView(*layout);
+    addEntries(*layout);
+}
+
+void BatteryWindow::addView(QVBoxLayout& layout)
+{
+    ObjectController& controller = m_interface.macObjectController();
+    QWidget* view = nullptr;
+    if (hasBattery(controller.content()))
+        view = new BatteryView(m_interface);
+    else
+        view = new NoBatteryView;
+    new KeyPathBinder(*view, controller, view);
+
+    m_scrollArea = new QScrollArea(this); // scrolls on screens that are lower than the view
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollArea->setFocusPolicy(Qt::NoFocus);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setWidget(view);
+    m_scrollArea->viewport()->setAutoFillBackground(false); // the window's round corners show through
+    view->setAutoFillBackground(false);
+    m_scrollArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    layout.addWidget(m_scrollArea, 1);
+}
+
+void BatteryWindow::addEntries(QVBoxLayout& layout)
+{
+    const ViewMetrics metrics(*this);
+    m_menu = new QWidget(this);
+    auto* menuLayout = new QVBoxLayout(m_menu);
+    menuLayout->setContentsMargins(0, metrics.margin / 3 + 1, 0, metrics.margin / 3);
+    menuLayout->setSpacing(0);
+    const StatusMenu& menu = m_interface.statusMenu();
+    for (int id = 1; id <= static_cast<int>(menu.rows().size()); ++id) {
+        if (menu.rows()[static_cast<std::size_t>(id) - 1].kind != StatusMenu::Kind::Action)
+            continue;
+        auto* entry = new MenuEntry(m_menu);
+        connect(entry, &MenuEntry::clicked, this, [this, id] { choose(id); });
+        menuLayout->addWidget(entry);
+        m_entries[id] = entry;
+        updateEntry(id);
+    }
+    layout.addWidget(m_menu);
+}
+
+void BatteryWindow::updateEntry(int id)
+{
+    const auto found = m_entries.find(id);
+    if (found == m_entries.end())
+        return;
+    const StatusMenu::Row& row = m_interface.statusMenu().rows()[static_cast<std::size_t>(id) - 1];
+    found->second->setLabel(row.text);
+    found->second->setEnabled(row.enabled);
+    found->second->setVisible(row.visible);
+}
+
+void BatteryWindow::choose(int id)
+{
+    MainInterface& interface = m_interface; // closing may delete this window
+    close();
+    interface.statusMenu().choose(id);
+}
+
+void BatteryWindow::open(const QPoint& anchor)
+{
+    m_anchor = anchor;
+    fit();
+    show();
+    raise();
+    activateWindow();
+    setFocus(Qt::PopupFocusReason);
+}
+
+// As large as its content, which changes while it is open, and no larger than the screen has room for.
+void BatteryWindow::fit()
+{
+    const ViewMetrics metrics(*this);
+    const QSize view = m_scrollArea->widget()->sizeHint();
+    const QSize content(m_scrollArea->widget()->maximumWidth(), view.height() + m_menu->sizeHint().height());
+    const QSize wanted = content.grownBy(layout()->contentsMargins());
+    const QRect available = screenAt(m_anchor)->availableGeometry();
+    const int gap = metrics.rowGap * 2;
+    QRect place = popupGeometry(m_anchor, wanted, available, gap);
+    if (place.height() < wanted.height()) { // it will scroll
+        const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_scrollArea);
+        place = popupGeometry(m_anchor, wanted.grownBy({0, 0, scrollBar, 0}), available, gap);
+    }
+    setFixedSize(place.size());
+    if (m_kind == Kind::Popup)
+        move(place.topLeft());
+}
+
+bool BatteryWindow::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest && isVisible())
+        fit();
+    return handled;
+}
+
+void BatteryWindow::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        close();
+        break;
+    case Qt::Key_Down:
+        focusNextPrevChild(true);
+        break;
+    case Qt::Key_Up:
+        focusNextPrevChild(false);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void BatteryWindow::mousePressEvent(QMouseEvent* event)
+{
+    if (m_kind == Kind::Popup && !rect().contains(event->position().toPoint())) {
+        if (m_closedOutside)
+            m_closedOutside();
+        close();
+        return;
+    }
+    QWidget::mousePressEvent(event);
+}
+
+void BatteryWindow::paintEvent(QPaintEvent*)
+{
+    const ViewMetrics metrics(*this);
+    QPainter painter(this);
+    const QColor line = mixed(textOf(*this), backgroundOf(*this), lineShare);
+    painter.fillRect(QRect(0, m_menu->y(), width(), 1), line);
+    if (m_kind != Kind::Popup)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(line, 1));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), metrics.radius, metrics.radius);
+}
+
+// Rounded by the window's shape, which works with and without a compositor.
+void BatteryWindow::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (m_kind != Kind::Popup)
+        return;
+    QPainterPath shape;
+    const int radius = ViewMetrics(*this).radius;
+    shape.addRoundedRect(QRectF(rect()), radius, radius);
+    setMask(QRegion(shape.toFillPolygon().toPolygon()));
+}
+
+} // namespace quindle

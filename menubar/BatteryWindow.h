@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include <QWidget>
+
+class QScrollArea;
+class QVBoxLayout;
+
+namespace quindle {
+
+class MainInterface;
+class MenuEntry;
+
+/// What opens on a click: the battery view, bound and live, and the menu's entries under it. Deletes itself
+/// when it is closed.
+class BatteryWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum class Kind {
+        Popup, ///< beside the pointer, closed by a click elsewhere
+        Plain, ///< an ordinary window of fixed size, for desktops that place windows themselves
+    };
+
+    BatteryWindow(MainInterface& interface, Kind kind);
+
+    /// Places it for a click at `anchor` and shows it.
+    void open(const QPoint& anchor);
+
+    /// Brings one entry up to date with its row of the menu.
+    void updateEntry(int id);
+
+    /// Called when the window was closed by a press outside of it.
+    void setClosedOutside(std::function<void()> closed) { m_closedOutside = std::move(closed); }
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void addView(QVBoxLayout& layout);
+    void addEntries(QVBoxLayout& layout);
+    void choose(int id);
+    void fit();
+
+    MainInterface& m_interface;
+    Kind m_kind;
+    QPoint m_anchor;
+    QScrollArea* m_scrollArea = nullptr;
+    QWidget* m_menu = nullptr;
+    std::map<int, MenuEntry*> m_entries;
+    std::function<void()> m_closedOutside;
+};
+
+} // namespace quindle

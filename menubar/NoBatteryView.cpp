@@ -1,0 +1,36 @@
+#include "menubar/NoBatteryView.h"
+
+#include <QEvent>
+
+#include "menubar/ViewMetrics.h"
+#include "ui_NoBatteryView.h"
+
+namespace quindle {
+
+NoBatteryView::NoBatteryView(QWidget* parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::NoBatteryView>())
+{
+    m_ui->setupUi(this);
+    fitToFont();
+}
+
+NoBatteryView::~NoBatteryView() = default;
+
+void NoBatteryView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        fitToFont();
+    QWidget::changeEvent(event);
+}
+
+void NoBatteryView::fitToFont()
+{
+    const ViewMetrics metrics(*this);
+    setFixedWidth(metrics.width);
+    m_ui->groups->setContentsMargins(metrics.margin, metrics.margin, metrics.margin, metrics.margin);
+    m_ui->groups->setSpacing(metrics.groupGap);
+    m_ui->noBatteryLabel->setFont(metrics.medium);
+}
+
+} // namespace quindle

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QLabel>
+
+namespace quindle {
+
+/// One line of text that is shown literally and cut with an ellipsis where it does not fit; then its tool tip
+/// tells it whole.
+class PlainLabel : public QLabel
+{
+    Q_OBJECT
+    Q_PROPERTY(bool quiet READ isQuiet WRITE setQuiet)
+
+public:
+    explicit PlainLabel(QWidget* parent = nullptr);
+
+    /// Quiet text stands back, as captions do.
+    bool isQuiet() const { return m_quiet; }
+    void setQuiet(bool quiet);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool m_quiet = false;
+};
+
+} // namespace quindle

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+class QFontMetrics;
+class QPainter;
+class QRect;
+
+/// Text of users and batteries on screen: always shown literally, never as markup or with a mnemonic.
+namespace quindle {
+
+/// Draws one line in the painter's font and pen, cut with an ellipsis where it does not fit. `alignment` is
+/// absolute; the text runs in the direction of its own first letter. Returns the rectangle it covers.
+QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignment, const QString& text);
+
+/// How wide that line is when it is not cut.
+int plainLineWidth(const QFontMetrics& metrics, const QString& text);
+
+/// The text for where Qt would take it as rich text (tool tips); empty stays empty.
+QString literalToolTip(const QString& text);
+
+/// The text for where Qt would take "&" as a mnemonic.
+QString literalLabel(const QString& text);
+
+} // namespace quindle
