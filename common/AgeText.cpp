@@ -1,10 +1,23 @@
 #include "common/AgeText.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "common/GregorianMonths.h"
 #include "common/NumberTexts.h"
 
 namespace quindle {
+
+namespace {
+
+QDateTime addMonths(const QDateTime& start, qint64 months)
+{
+    const QDate first = firstOfMonth(monthNumber(start.date()) + months);
+    const QDate day = first.addDays(std::min(start.date().day(), first.daysInMonth()) - 1);
+    return start.addDays(start.date().daysTo(day));
+}
+
+} // namespace
 
 qint64 wholeDays(const QDateTime& from, const QDateTime& to)
 {
@@ -22,11 +35,10 @@ qint64 wholeMonths(const QDateTime& from, const QDateTime& to)
 {
     const QDateTime start = from.toLocalTime();
     const QDateTime end = to.toLocalTime();
-    const qint64 years = end.date().year() - start.date().year();
-    qint64 months = years * 12 + end.date().month() - start.date().month();
-    if (months > 0 && start.addMonths(static_cast<int>(months)) > end)
+    qint64 months = monthNumber(end.date()) - monthNumber(start.date());
+    if (months > 0 && addMonths(start, months) > end)
         --months;
-    else if (months < 0 && start.addMonths(static_cast<int>(months)) < end)
+    else if (months < 0 && addMonths(start, months) < end)
         ++months;
     return months;
 }

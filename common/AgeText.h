@@ -10,8 +10,8 @@ namespace quindle {
 /// reached, also across a change to or from summer time.
 qint64 wholeDays(const QDateTime& from, const QDateTime& to);
 
-/// Whole months from `from` to `to`, negative when `to` is earlier. A month is over when the same day of month
-/// and time of day are reached; in a month too short for that day, on its last day.
+/// Whole months from `from` to `to`, negative when `to` is earlier. A month is over when the same day of
+/// month and time of day are reached; in a month too short for that day, on its last day.
 qint64 wholeMonths(const QDateTime& from, const QDateTime& to);
 
 /// `months` in years with one decimal, halves away from zero: 30 gives "2.5 years", 24 "2.0 years".

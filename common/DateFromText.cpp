@@ -1,5 +1,7 @@
 #include "common/DateFromText.h"
 
+#include "common/GregorianMonths.h"
+
 namespace quindle {
 
 namespace {
@@ -17,7 +19,7 @@ std::optional<QDateTime> dateFromText(const QString& text)
     const QDate day = QDate::fromString(text, dayFormat());
     if (!day.isValid())
         return std::nullopt;
-    return day.startOfDay();
+    return startOfLocalDay(day);
 }
 
 QString dayText(const QDateTime& date)

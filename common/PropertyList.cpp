@@ -1,5 +1,7 @@
 #include "common/PropertyList.h"
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -8,6 +10,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QTimeZone>
+#include <QtEndian>
 #include <plist/plist.h>
 
 namespace quindle {
@@ -33,6 +36,13 @@ const QDateTime& referenceDate()
     return date;
 }
 
+QVariant dateFromSeconds(double seconds)
+{
+    constexpr double farthest = 9.0e15; // more than any year QDateTime knows
+    const double milliseconds = std::clamp(std::round(seconds * 1000.0), -farthest, farthest);
+    return referenceDate().addMSecs(static_cast<qint64>(milliseconds)).toLocalTime();
+}
+
 QVariant valueFromNode(plist_t node);
 
 QVariant textFromNode(plist_t node)
@@ -52,12 +62,20 @@ QVariant dataFromNode(plist_t node)
     return QByteArray(bytes, static_cast<qsizetype>(length));
 }
 
+// The library hands dates out as 32-bit seconds and an unsigned fraction, which loses everything after 2069
+// and turns fractions before 2001 around. Written alone as a binary list, the date is a big-endian double
+// after the nine bytes of header and marker.
 QVariant dateFromNode(plist_t node)
 {
-    std::int32_t seconds = 0;
-    std::int32_t microseconds = 0;
-    plist_get_date_val(node, &seconds, &microseconds);
-    return referenceDate().addSecs(seconds).addMSecs(microseconds / 1000).toLocalTime();
+    constexpr std::uint32_t headerSize = 9;
+    char* bytes = nullptr;
+    std::uint32_t length = 0;
+    plist_to_bin(node, &bytes, &length);
+    const PlistText owner(bytes);
+    if (!bytes || length < headerSize + sizeof(double))
+        return {};
+    const auto seconds = std::bit_cast<double>(qFromBigEndian<quint64>(bytes + headerSize));
+    return dateFromSeconds(seconds);
 }
 
 QVariant arrayFromNode(plist_t node)
@@ -127,71 +145,6 @@ QVariant valueFromNode(plist_t node)
     }
 }
 
-plist_t nodeFromValue(const QVariant& value);
-
-plist_t nodeFromDate(const QDateTime& date)
-{
-    const qint64 milliseconds = referenceDate().msecsTo(date);
-    const auto seconds = static_cast<qint64>(std::floor(static_cast<double>(milliseconds) / 1000.0));
-    const qint64 rest = milliseconds - seconds * 1000;
-    return plist_new_date(static_cast<std::int32_t>(seconds), static_cast<std::int32_t>(rest * 1000));
-}
-
-plist_t nodeFromList(const QVariantList& list)
-{
-    plist_t node = plist_new_array();
-    for (const QVariant& item : list)
-        if (plist_t child = nodeFromValue(item))
-            plist_array_append_item(node, child);
-    return node;
-}
-
-plist_t nodeFromMap(const QVariantMap& map)
-{
-    plist_t node = plist_new_dict();
-    for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
-        if (plist_t child = nodeFromValue(entry.value()))
-            plist_dict_set_item(node, entry.key().toUtf8().constData(), child);
-    return node;
-}
-
-plist_t nodeFromInteger(qint64 number)
-{
-    return plist_new_uint(static_cast<std::uint64_t>(number));
-}
-
-plist_t nodeFromValue(const QVariant& value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-        return plist_new_bool(value.toBool() ? 1 : 0);
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-        return nodeFromInteger(value.toLongLong());
-    case QMetaType::Double:
-        return plist_new_real(value.toDouble());
-    case QMetaType::QString:
-        return plist_new_string(value.toString().toUtf8().constData());
-    case QMetaType::QByteArray: {
-        const QByteArray bytes = value.toByteArray();
-        return plist_new_data(bytes.constData(), static_cast<std::uint64_t>(bytes.size()));
-    }
-    case QMetaType::QDateTime:
-        return nodeFromDate(value.toDateTime());
-    case QMetaType::QVariantList:
-    case QMetaType::QStringList:
-        return nodeFromList(value.toList());
-    case QMetaType::QVariantMap:
-        return nodeFromMap(value.toMap());
-    default:
-        return nullptr;
-    }
-}
-
 } // namespace
 
 std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes)
@@ -210,18 +163,6 @@ std::optional<QVariant> propertyListFromFile(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     return propertyListFromBytes(file.readAll());
-}
-
-QByteArray xmlPropertyList(const QVariant& value)
-{
-    const PlistPointer node(nodeFromValue(value));
-    if (!node)
-        return {};
-    char* xml = nullptr;
-    std::uint32_t length = 0;
-    plist_to_xml(node.get(), &xml, &length);
-    const PlistText owner(xml);
-    return {xml, static_cast<qsizetype>(length)};
 }
 
 } // namespace quindle

@@ -1,0 +1,127 @@
+#include <QDateTime>
+#include <QXmlStreamWriter>
+
+#include "common/NumberTexts.h"
+#include "common/PropertyList.h"
+
+// Written here and not by the library that reads them: it writes negative integers as unsigned ones, which
+// other readers take for numbers near 2^64, and cuts reals to fewer digits than it takes to read them back.
+namespace quindle {
+
+namespace {
+
+void writeValue(QXmlStreamWriter& xml, const QVariant& value);
+
+bool isWritable(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+    case QMetaType::QString:
+    case QMetaType::QByteArray:
+    case QMetaType::QDateTime:
+    case QMetaType::QVariantList:
+    case QMetaType::QStringList:
+    case QMetaType::QVariantMap:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isXmlCharacter(QChar character)
+{
+    const char16_t code = character.unicode();
+    return code >= 0x20 ? code < 0xfffe : code == u'\t' || code == u'\n' || code == u'\r';
+}
+
+/// XML has no way to write other control characters; one of them would make the whole list unreadable.
+QString xmlText(const QString& text)
+{
+    QString kept;
+    kept.reserve(text.size());
+    for (const QChar character : text)
+        if (isXmlCharacter(character))
+            kept += character;
+    return kept;
+}
+
+void writeList(QXmlStreamWriter& xml, const QVariantList& list)
+{
+    xml.writeStartElement(QStringLiteral("array"));
+    for (const QVariant& item : list)
+        if (isWritable(item))
+            writeValue(xml, item);
+    xml.writeEndElement();
+}
+
+void writeMap(QXmlStreamWriter& xml, const QVariantMap& map)
+{
+    xml.writeStartElement(QStringLiteral("dict"));
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
+        if (!isWritable(entry.value()))
+            continue;
+        xml.writeTextElement(QStringLiteral("key"), xmlText(entry.key()));
+        writeValue(xml, entry.value());
+    }
+    xml.writeEndElement();
+}
+
+void writeValue(QXmlStreamWriter& xml, const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        xml.writeEmptyElement(value.toBool() ? QStringLiteral("true") : QStringLiteral("false"));
+        return;
+    case QMetaType::Double:
+        xml.writeTextElement(QStringLiteral("real"), shortestText(value.toDouble()));
+        return;
+    case QMetaType::QString:
+        xml.writeTextElement(QStringLiteral("string"), xmlText(value.toString()));
+        return;
+    case QMetaType::QByteArray:
+        xml.writeTextElement(QStringLiteral("data"), QString::fromLatin1(value.toByteArray().toBase64()));
+        return;
+    case QMetaType::QDateTime:
+        xml.writeTextElement(QStringLiteral("date"), value.toDateTime().toUTC().toString(Qt::ISODate));
+        return;
+    case QMetaType::QVariantList:
+    case QMetaType::QStringList:
+        writeList(xml, value.toList());
+        return;
+    case QMetaType::QVariantMap:
+        writeMap(xml, value.toMap());
+        return;
+    default:
+        xml.writeTextElement(QStringLiteral("integer"), integerText(value.toLongLong()));
+        return;
+    }
+}
+
+} // namespace
+
+QByteArray xmlPropertyList(const QVariant& value)
+{
+    if (!isWritable(value))
+        return {};
+    QByteArray bytes;
+    QXmlStreamWriter xml(&bytes);
+    xml.setAutoFormatting(true);
+    xml.setAutoFormattingIndent(-1);
+    xml.writeStartDocument();
+    xml.writeDTD(QStringLiteral("<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                                "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">"));
+    xml.writeStartElement(QStringLiteral("plist"));
+    xml.writeAttribute(QStringLiteral("version"), QStringLiteral("1.0"));
+    writeValue(xml, value);
+    xml.writeEndDocument();
+    return bytes;
+}
+
+} // namespace quindle
