@@ -260,7 +260,7 @@ void HelperAppDelegate::updateTitle(const QDBattery& battery)
 
 void HelperAppDelegate::updateFacts()
 {
-    m_statusItem->setToolTipText(toolTipText(*m_myMac));
+    m_statusItem->setToolTipText(toolTipText(m_myMac.get()));
     const QDBattery* battery = m_myMac->Battery();
     m_statusItem->setFallbackText(battery ? fixedText(battery->StateOfCharge(), 0) : QString());
     m_interface.updateFacts(m_statusItem->title());

@@ -1,27 +1,26 @@
 #include "app/HelperServices.h"
 
 #include "app/MachineSteps.h"
-#include "platform/Bundle.h"
 #include "platform/UserDefaults.h"
+#include "platform/linux/LinuxApplication.h"
+#include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxPlatform.h"
-#include "platform/linux/LinuxStatusBar.h"
+#include "platform/linux/LinuxRunLoop.h"
+#include "platform/linux/statusitem/LinuxStatusBar.h"
 #include "platform/recorded/RecordedPlatform.h"
 
 namespace quindle {
 
 namespace {
 
-/// How the user wants the item shown, whatever the desktop is: "auto", "label", "wide" or "icon".
-std::function<QString()> presentationSetting(UserDefaultsDatabases& databases)
+/// The tray around the item. The user's own choice of its form is asked for each time it is shown anew.
+StatusItemSurroundings surroundings(const Bundle& programBundle, UserDefaultsDatabases& databases)
 {
-    return [&databases] {
-        return databases.standard().object(QStringLiteral("statusItemPresentation")).toString();
-    };
-}
-
-QString iconsFolder(LinuxPlatform& linux)
-{
-    return linux.bundle().path() + QStringLiteral("/Contents/Resources/icons");
+    return {.iconsDirectory = programBundle.path() + QStringLiteral("/Contents/Resources/icons"),
+            .currentDesktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
+            .presentationChoice = [&databases] {
+                return databases.standard().object(QStringLiteral("statusItemPresentation")).toString();
+            }};
 }
 
 class ThisComputer : public HelperServices
@@ -29,7 +28,7 @@ class ThisComputer : public HelperServices
 public:
     explicit ThisComputer(const QString& systemRoot)
         : m_linux(systemRoot)
-        , m_statusBar(iconsFolder(m_linux), presentationSetting(m_linux.userDefaults()))
+        , m_statusBar(surroundings(m_linux.bundle(), m_linux.userDefaults()))
     {
     }
 
@@ -47,9 +46,8 @@ class RecordedMachine : public HelperServices
 public:
     explicit RecordedMachine(const Machine& machine)
         : m_steps(machine.steps)
-        , m_linux(QString())
-        , m_recorded(machine.keys, m_linux.bundle())
-        , m_statusBar(iconsFolder(m_linux), presentationSetting(m_recorded.userDefaults))
+        , m_recorded(machine.keys, m_programBundle)
+        , m_statusBar(surroundings(m_programBundle, m_recorded.userDefaults))
         , m_platform(platform())
     {
     }
@@ -67,9 +65,9 @@ public:
                 .clock = m_recorded.clock,
                 .host = m_recorded.host,
                 .systemFiles = m_recorded.systemFiles,
-                .runLoop = m_linux.runLoop(),
+                .runLoop = m_runLoop,
                 .statusBar = m_statusBar,
-                .application = m_linux.application()};
+                .application = m_application};
     }
 
     void play(HelperAppDelegate& delegate) override
@@ -79,7 +77,9 @@ public:
 
 private:
     std::vector<MachineStep> m_steps;
-    LinuxPlatform m_linux;
+    LinuxBundle m_programBundle;
+    LinuxRunLoop m_runLoop;
+    LinuxApplication m_application;
     RecordedPlatform m_recorded;
     LinuxStatusBar m_statusBar;
     Platform m_platform;
@@ -87,15 +87,14 @@ private:
 
 } // namespace
 
-std::variant<std::unique_ptr<HelperServices>, QString> HelperServices::fromEnvironment()
+std::unique_ptr<HelperServices> HelperServices::ofThisComputer(const QString& systemRoot)
 {
-    const QString machinePath = qEnvironmentVariable("QUINDLE_MACHINE");
-    if (machinePath.isEmpty())
-        return std::make_unique<ThisComputer>(qEnvironmentVariable("QUINDLE_SYSFS"));
-    const MachineResult result = readMachineFile(machinePath);
-    if (const auto* refusal = std::get_if<MachineRefusal>(&result))
-        return refusal->line;
-    return std::make_unique<RecordedMachine>(std::get<Machine>(result));
+    return std::make_unique<ThisComputer>(systemRoot);
+}
+
+std::unique_ptr<HelperServices> HelperServices::ofMachine(const Machine& machine)
+{
+    return std::make_unique<RecordedMachine>(machine);
 }
 
 } // namespace quindle

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <variant>
 
 #include <QString>
 
@@ -10,6 +9,7 @@
 namespace quindle {
 
 class HelperAppDelegate;
+struct Machine;
 
 /// What the helper runs on: this computer, or the one that a machine file recorded, shown in this desktop's
 /// tray and moving on this desktop's loop either way.
@@ -23,9 +23,11 @@ public:
     /// Lets a recorded computer's later states happen in their time; this computer does so by itself.
     virtual void play(HelperAppDelegate& delegate) = 0;
 
-    /// The services that the environment asks for: QUINDLE_MACHINE names a machine file, QUINDLE_SYSFS a folder
-    /// in place of /sys. The text is why there are none: one line for standard error.
-    static std::variant<std::unique_ptr<HelperServices>, QString> fromEnvironment();
+    /// This computer; `systemRoot` stands in place of /sys when it is not empty. Needs a QApplication.
+    static std::unique_ptr<HelperServices> ofThisComputer(const QString& systemRoot);
+
+    /// A recorded computer. Needs a QApplication.
+    static std::unique_ptr<HelperServices> ofMachine(const Machine& machine);
 };
 
 } // namespace quindle

@@ -1,6 +1,8 @@
 // The helper's entry point and composition root.
 
 #include <cstdio>
+#include <memory>
+#include <optional>
 #include <variant>
 
 #include <QApplication>
@@ -12,6 +14,7 @@
 #include "menubar/BatteryPopup.h"
 #include "menubar/MainInterface.h"
 #include "platform/linux/SingleInstance.h"
+#include "platform/recorded/MachineFile.h"
 #include "preferences/PreferencesWindow.h"
 
 using namespace quindle;
@@ -49,20 +52,27 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
 
 int main(int argc, char** argv)
 {
+    std::optional<Machine> machine;
+    if (const QString path = qEnvironmentVariable("QUINDLE_MACHINE"); !path.isEmpty()) {
+        MachineResult result = readMachineFile(path);
+        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
+            return fail(refusal->line, 2);
+        machine = std::get<Machine>(std::move(result));
+    }
     if (!hasDisplay())
         return fail(QStringLiteral("there is no display to show a tray item on"), 1);
-    SingleInstance instance;
-    if (!instance.acquire())
-        return instance.askFirstToShow() ? 0 : fail(QStringLiteral("another one runs and does not answer"), 1);
-
-    auto services = HelperServices::fromEnvironment();
-    if (const auto* refusal = std::get_if<QString>(&services))
-        return fail(*refusal, 2);
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quindle-helper"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quindle Helper"));
     QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
     QApplication::setQuitOnLastWindowClosed(false);
-    return run(application, *std::get<std::unique_ptr<HelperServices>>(services), instance);
+
+    SingleInstance instance(instanceFolder(), instanceName());
+    while (!instance.acquire())
+        if (instance.askFirstToShow())
+            return 0;
+    const auto services = machine ? HelperServices::ofMachine(*machine)
+                                  : HelperServices::ofThisComputer(qEnvironmentVariable("QUINDLE_SYSFS"));
+    return run(application, *services, instance);
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 
 #include <QString>
@@ -9,27 +8,16 @@
 
 namespace quindle {
 
-/// The services of this Linux computer. The ones that a program does not ask for cost nothing.
+/// The services of this Linux computer.
 class LinuxPlatform
 {
 public:
-    /// `systemRoot` stands in place of /sys when it is not empty.
+    /// `systemRoot` stands in place of /sys when it is not empty. Needs a QCoreApplication.
     explicit LinuxPlatform(const QString& systemRoot);
     ~LinuxPlatform();
 
-    IORegistry& registry();
-    PowerSources& powerSources();
-    UserDefaultsDatabases& userDefaults();
-    NotificationCenter& notificationCenter();
-    DistributedNotificationCenter& distributedNotificationCenter();
-    WorkspaceNotifications& workspaceNotifications();
-    Workspace& workspace();
     Bundle& bundle();
-    Clock& clock();
-    Host& host();
-    SystemFiles& systemFiles();
-    RunLoop& runLoop();
-    Application& application();
+    UserDefaultsDatabases& userDefaults();
 
     /// All of them, with a status bar of the caller's choice.
     Platform services(StatusBar& statusBar);

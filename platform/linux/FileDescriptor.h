@@ -1,0 +1,42 @@
+#pragma once
+
+#include <unistd.h>
+#include <utility>
+
+namespace quindle {
+
+/// Owns an open file descriptor; -1 is none.
+class FileDescriptor
+{
+public:
+    explicit FileDescriptor(int descriptor = -1)
+        : m_descriptor(descriptor)
+    {
+    }
+    FileDescriptor(FileDescriptor&& other) noexcept
+        : m_descriptor(std::exchange(other.m_descriptor, -1))
+    {
+    }
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept
+    {
+        std::swap(m_descriptor, other.m_descriptor);
+        return *this;
+    }
+
+    ~FileDescriptor()
+    {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+    }
+
+    int get() const { return m_descriptor; }
+    bool isOpen() const { return m_descriptor >= 0; }
+
+private:
+    int m_descriptor;
+};
+
+} // namespace quindle

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+
+/// Changing a file so that at every moment either the old or the new contents stand under its name. All paths
+/// are absolute and in the file system's encoding; results are errno values, 0 for success.
+namespace quindle {
+
+/// The path that `path` names after its symbolic links are followed, whether or not a file is there. Empty
+/// when the links lead in a circle.
+QByteArray linkTarget(const QByteArray& path);
+
+/// The folder a file is in.
+QByteArray folderOf(const QByteArray& path);
+
+/// Makes a folder and those above it, open to the user alone. One that is there already is fine.
+int makeFolder(const QByteArray& path);
+
+/// Writes a temporary file beside `path` (0600), brings it to the disk, and gives it the name. When it fails,
+/// what stood under the name still does and nothing is left over.
+int replaceFile(const QByteArray& path, const QByteArray& bytes);
+
+/// Removes temporary files of `replaceFile` for `path` that a killed process left. Only for who holds the
+/// lock that keeps other writers of `path` away.
+void removeLeftovers(const QByteArray& path);
+
+/// Renames `path` to `newPath`, never over a file that is there (EEXIST).
+int renameWithoutReplacing(const QByteArray& path, const QByteArray& newPath);
+
+} // namespace quindle

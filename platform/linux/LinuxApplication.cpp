@@ -1,0 +1,25 @@
+#include "platform/linux/LinuxApplication.h"
+
+#include <QGuiApplication>
+#include <QWindow>
+
+namespace quindle {
+
+void LinuxApplication::terminate()
+{
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+void LinuxApplication::activateIgnoringOtherApplications()
+{
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        return;
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        if (!window->isVisible() || window->type() != Qt::Window)
+            continue;
+        window->raise();
+        window->requestActivate();
+    }
+}
+
+} // namespace quindle

@@ -1,0 +1,97 @@
+#include "platform/linux/statusitem/HostTraits.h"
+
+#include <array>
+
+#include <QStringList>
+
+namespace quindle {
+
+namespace {
+
+constexpr HostTraits labelHost{HostShape::Label, true, false, false};
+constexpr HostTraits labelHostWithFiles{HostShape::Label, true, true, false};
+constexpr HostTraits wideHost{HostShape::Wide, true, false, false};
+constexpr HostTraits squareHost{HostShape::Square, true, false, false};
+constexpr HostTraits plainSquareHost{HostShape::Square, true, false, true};
+
+struct ProgramRow
+{
+    const char16_t* program;
+    HostTraits traits;
+};
+
+constexpr std::array programs{
+    ProgramRow{u"ayatana-indicator-application-service", labelHostWithFiles},
+    ProgramRow{u"budgie-panel", squareHost},
+    ProgramRow{u"cinnamon", wideHost},
+    ProgramRow{u"gnome-shell", labelHost},
+    ProgramRow{u"indicator-application-service", labelHostWithFiles},
+    ProgramRow{u"kded5", squareHost},
+    ProgramRow{u"kded6", squareHost},
+    ProgramRow{u"lxqt-panel", plainSquareHost},
+    ProgramRow{u"mate-panel", labelHost},
+    ProgramRow{u"notification-area-applet", labelHost},
+    ProgramRow{u"plasmashell", squareHost},
+    ProgramRow{u"swaybar", squareHost},
+    ProgramRow{u"waybar", wideHost},
+    ProgramRow{u"wrapper-2.0", squareHost}, // Xfce: both of its tray plug-ins show no label
+    ProgramRow{u"xapp-sn-watcher", wideHost},
+    ProgramRow{u"xfce4-panel", squareHost},
+};
+
+constexpr std::array desktops{
+    ProgramRow{u"Budgie", squareHost},    //
+    ProgramRow{u"GNOME", labelHost},      //
+    ProgramRow{u"KDE", squareHost},       //
+    ProgramRow{u"LXQt", plainSquareHost}, //
+    ProgramRow{u"MATE", labelHost},       //
+    ProgramRow{u"X-Cinnamon", wideHost},  //
+    ProgramRow{u"XFCE", squareHost},      //
+};
+
+template <typename Table>
+const HostTraits* findIn(const Table& table, const QString& name)
+{
+    for (const auto& row : table) {
+        if (name == QStringView(row.program))
+            return &row.traits;
+    }
+    return nullptr;
+}
+
+QString firstArgumentName(const QString& commandLine)
+{
+    return commandLine.section(QLatin1Char(' '), 0, 0).section(QLatin1Char('/'), -1);
+}
+
+} // namespace
+
+HostTraits hostTraits(const HostProcess& process, const QString& currentDesktop)
+{
+    if (const HostTraits* traits = findIn(programs, process.program))
+        return *traits;
+    if (const HostTraits* traits = findIn(programs, firstArgumentName(process.commandLine)))
+        return *traits;
+    for (const QString& desktop : currentDesktop.split(QLatin1Char(':'))) {
+        if (const HostTraits* traits = findIn(desktops, desktop))
+            return *traits;
+    }
+    return squareHost;
+}
+
+HostTraits withChoice(HostTraits traits, const QString& choice)
+{
+    if (choice == QLatin1String("label")) {
+        traits.shape = HostShape::Label;
+    } else if (choice == QLatin1String("wide") && !traits.needsIconFile) {
+        // A host with labels would show the title twice.
+        traits.shape = HostShape::Wide;
+        traits.takesLabel = false;
+    } else if (choice == QLatin1String("icon")) {
+        traits.shape = HostShape::Square;
+        traits.takesLabel = false;
+    }
+    return traits;
+}
+
+} // namespace quindle

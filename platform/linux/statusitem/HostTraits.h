@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+/// How much room the host of status items gives the title.
+enum class HostShape {
+    Label,  ///< the host writes the title beside the icon itself
+    Wide,   ///< the host shows wide pictures in full width, so the title is drawn into the picture
+    Square, ///< only a square icon is seen; the title is in the tool tip and the menu
+};
+
+/// What is peculiar to one host.
+struct HostTraits
+{
+    HostShape shape = HostShape::Square;
+    bool takesLabel =
+        true; ///< false: the label stays empty, so that the title is not seen where it is not wanted
+    bool needsIconFile = false;     ///< only icons in files are shown, pixels sent over the bus are ignored
+    bool showsPlainToolTip = false; ///< tool tips are not parsed as markup
+
+    friend bool operator==(const HostTraits&, const HostTraits&) = default;
+};
+
+/// The process behind the host; both empty when it cannot be read.
+struct HostProcess
+{
+    QString program;     ///< file name of the program, without folders
+    QString commandLine; ///< its arguments, separated by blanks
+};
+
+/// What is known of the host: by its process, else by the desktop's names (as in XDG_CURRENT_DESKTOP,
+/// separated by colons); an unknown host is a square one, which is legible everywhere.
+HostTraits hostTraits(const HostProcess& process, const QString& currentDesktop);
+
+/// The traits after the user's choice: "label", "wide" or "icon"; anything else leaves them as they are.
+HostTraits withChoice(HostTraits traits, const QString& choice);
+
+} // namespace quindle

@@ -1,0 +1,210 @@
+#include "platform/linux/statusitem/LinuxStatusItem.h"
+
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <QPointer>
+
+#include "platform/Image.h"
+#include "platform/StatusMenu.h"
+#include "platform/linux/statusitem/MenuAdaptor.h"
+#include "platform/linux/statusitem/NotifierItemAdaptor.h"
+#include "platform/linux/statusitem/TrayIcon.h"
+#include "platform/linux/statusitem/WatcherLink.h"
+
+namespace quindle {
+
+namespace {
+
+Q_LOGGING_CATEGORY(logItem, "quindle.statusitem", QtWarningMsg)
+
+QString itemPath()
+{
+    return QStringLiteral("/StatusNotifierItem");
+}
+
+bool mayHaveX11Tray()
+{
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
+} // namespace
+
+LinuxStatusItem::LinuxStatusItem(QDBusConnection bus, StatusItemSurroundings surroundings)
+    : m_bus(std::move(bus))
+    , m_surroundings(std::move(surroundings))
+    , m_pictures(m_surroundings.iconsDirectory)
+    , m_watcher(new WatcherLink(m_bus, itemPath(), m_surroundings.registrationCheck, this))
+{
+    const NotifierItemAdaptor::Requests requests{
+        [this] { open(); },
+        [this](const QString& token) { m_activationToken = token; },
+    };
+    m_notifierItem = new NotifierItemAdaptor(&m_itemObject, m_told, m_pictures, requests);
+    m_menuAdaptor = new MenuAdaptor(&m_menuObject, [this] { useActivationToken(); });
+    connect(m_watcher, &WatcherLink::watcherFound, this, &LinuxStatusItem::watcherFound);
+    connect(m_watcher, &WatcherLink::watcherLost, this, &LinuxStatusItem::watcherLost);
+    exportObjects();
+    scheduleFlush();
+}
+
+LinuxStatusItem::~LinuxStatusItem()
+{
+    QDBusConnection::disconnectFromBus(m_bus.name());
+}
+
+void LinuxStatusItem::exportObjects()
+{
+    if (!m_bus.isConnected())
+        return;
+    const bool exported =
+        m_bus.registerObject(itemPath(), &m_itemObject, QDBusConnection::ExportAdaptors) &&
+        m_bus.registerObject(QLatin1String(menuPath), &m_menuObject, QDBusConnection::ExportAdaptors);
+    if (!exported)
+        qCWarning(logItem) << "the status item cannot be offered on the session bus";
+}
+
+void LinuxStatusItem::setTitle(const QString& title)
+{
+    m_wanted.contents.title = title;
+    scheduleFlush();
+}
+
+QString LinuxStatusItem::title() const
+{
+    return m_wanted.contents.title;
+}
+
+void LinuxStatusItem::setImage(std::shared_ptr<Image> image)
+{
+    m_image = std::move(image);
+    m_wanted.contents.imageName = m_image ? m_image->name() : QString();
+    scheduleFlush();
+}
+
+std::shared_ptr<Image> LinuxStatusItem::image() const
+{
+    return m_image;
+}
+
+void LinuxStatusItem::setMenuBarFontSize(double points)
+{
+    m_wanted.contents.fontSize = points;
+    scheduleFlush();
+}
+
+void LinuxStatusItem::setFallbackText(const QString& text)
+{
+    m_wanted.contents.fallbackText = text;
+    scheduleFlush();
+}
+
+void LinuxStatusItem::setToolTipText(const QString& text)
+{
+    m_wanted.contents.toolTipText = text;
+    scheduleFlush();
+}
+
+void LinuxStatusItem::setMenu(StatusMenu* menu)
+{
+    if (menu == m_menu)
+        return;
+    m_menu = menu;
+    m_menuAdaptor->setMenu(menu);
+    if (!menu)
+        return;
+    // The menu has no way to lose an observer, and may live longer than the item.
+    menu->addObserver([item = QPointer(this), menu](int) {
+        if (!item || item->m_menu != menu)
+            return;
+        item->m_menuChanged = true;
+        item->scheduleFlush();
+    });
+}
+
+void LinuxStatusItem::scheduleFlush()
+{
+    if (m_flushScheduled)
+        return;
+    m_flushScheduled = true;
+    QMetaObject::invokeMethod(this, &LinuxStatusItem::flush, Qt::QueuedConnection);
+}
+
+void LinuxStatusItem::flush()
+{
+    m_flushScheduled = false;
+    if (m_surroundings.presentationChoice)
+        m_wanted.choice = m_surroundings.presentationChoice();
+    if (m_flushed != m_wanted) {
+        m_flushed = m_wanted;
+        // An X11 tray has room for a square only, whatever the person prefers.
+        const HostTraits host =
+            m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : HostTraits();
+        tell(present(m_wanted.contents, host));
+    }
+    if (m_menuChanged) {
+        m_menuChanged = false;
+        m_menuAdaptor->tellChanges();
+        if (m_tray)
+            m_tray->updateMenu();
+    }
+    // Only now, so that the first thing a host reads is a whole item.
+    if (!m_started) {
+        m_started = true;
+        m_watcher->start();
+    }
+}
+
+void LinuxStatusItem::tell(Presentation next)
+{
+    const Presentation last = std::exchange(m_told, std::move(next));
+    if (m_told.title != last.title)
+        Q_EMIT m_notifierItem->NewTitle();
+    if (m_told.picture != last.picture || m_told.iconInFile != last.iconInFile)
+        Q_EMIT m_notifierItem->NewIcon();
+    if (m_told.toolTipTitle != last.toolTipTitle || m_told.toolTipBody != last.toolTipBody)
+        Q_EMIT m_notifierItem->NewToolTip();
+    if (m_told.label != last.label || m_told.labelGuide != last.labelGuide)
+        Q_EMIT m_notifierItem->XAyatanaNewLabel(m_told.label, m_told.labelGuide);
+    if (m_tray && m_told != last)
+        m_tray->show(m_told, m_pictures);
+}
+
+void LinuxStatusItem::watcherFound(const HostProcess& process)
+{
+    m_tray.reset();
+    m_wanted.host = hostTraits(process, m_surroundings.currentDesktop);
+    m_wanted.hasWatcher = true;
+    flush();
+    m_watcher->registerItem();
+}
+
+void LinuxStatusItem::watcherLost()
+{
+    m_wanted.hasWatcher = false;
+    flush();
+    if (m_tray || !mayHaveX11Tray())
+        return;
+    m_tray = std::make_unique<TrayIcon>(m_menu);
+    m_tray->show(m_told, m_pictures);
+}
+
+void LinuxStatusItem::open()
+{
+    // Afterwards: the host waits for the answer to its call.
+    const auto openView = [this] {
+        useActivationToken();
+        if (m_menu)
+            m_menu->openView();
+    };
+    QMetaObject::invokeMethod(this, openView, Qt::QueuedConnection);
+}
+
+void LinuxStatusItem::useActivationToken()
+{
+    // Where windows may not raise themselves, the toolkit and programs started from here look for the token
+    // in the environment.
+    if (!m_activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", std::exchange(m_activationToken, {}).toUtf8());
+}
+
+} // namespace quindle

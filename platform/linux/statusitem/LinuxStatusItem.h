@@ -1,0 +1,95 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QString>
+
+#include "platform/StatusBar.h"
+#include "platform/linux/statusitem/HostTraits.h"
+#include "platform/linux/statusitem/Presentation.h"
+#include "platform/linux/statusitem/StatusPictures.h"
+
+namespace quindle {
+
+class MenuAdaptor;
+class NotifierItemAdaptor;
+class TrayIcon;
+class WatcherLink;
+
+/// What a status item finds around it.
+struct StatusItemSurroundings
+{
+    QString iconsDirectory;
+    QString currentDesktop;                      ///< names separated by colons, as in XDG_CURRENT_DESKTOP
+    std::function<QString()> presentationChoice; ///< "label", "wide", "icon"; anything else: by the host
+    std::chrono::milliseconds registrationCheck{3000};
+};
+
+/// The status item as a status notifier item, or in an X11 tray where no watcher of such items is on the bus.
+/// Setters only store; at the end of the event loop's turn hosts are told what is different, if anything is.
+class LinuxStatusItem final : public QObject, public StatusItem
+{
+    Q_OBJECT
+
+public:
+    /// The connection is the item's own, and closed with it: watchers know items by their connection. One
+    /// that is not connected leaves the X11 tray.
+    LinuxStatusItem(QDBusConnection bus, StatusItemSurroundings surroundings);
+    ~LinuxStatusItem() override;
+
+    void setTitle(const QString& title) override;
+    QString title() const override;
+    void setImage(std::shared_ptr<Image> image) override;
+    std::shared_ptr<Image> image() const override;
+    void setMenuBarFontSize(double points) override;
+    void setFallbackText(const QString& text) override;
+    void setToolTipText(const QString& text) override;
+    void setMenu(StatusMenu* menu) override;
+
+private:
+    void exportObjects();
+    void scheduleFlush();
+    void flush();
+    void tell(Presentation next);
+    void watcherFound(const HostProcess& process);
+    void watcherLost();
+    void open();
+    void useActivationToken();
+
+    /// Everything that decides what hosts are told.
+    struct Decisive
+    {
+        ItemContents contents;
+        HostTraits host;
+        bool hasWatcher = false;
+        QString choice;
+
+        friend bool operator==(const Decisive&, const Decisive&) = default;
+    };
+
+    QDBusConnection m_bus;
+    StatusItemSurroundings m_surroundings;
+    StatusPictures m_pictures;
+    std::shared_ptr<Image> m_image;
+    StatusMenu* m_menu = nullptr;
+    Decisive m_wanted;
+    std::optional<Decisive> m_flushed;
+    Presentation m_told;
+    QString m_activationToken;
+    bool m_flushScheduled = false;
+    bool m_menuChanged = false;
+    bool m_started = false;
+    QObject m_itemObject;
+    QObject m_menuObject;
+    NotifierItemAdaptor* m_notifierItem = nullptr;
+    MenuAdaptor* m_menuAdaptor = nullptr;
+    WatcherLink* m_watcher = nullptr;
+    std::unique_ptr<TrayIcon> m_tray;
+};
+
+} // namespace quindle

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QStringList>
+#include <QVariantMap>
+
+#include "platform/StatusMenu.h"
+#include "platform/linux/statusitem/MenuTypes.h"
+
+namespace quindle {
+
+/// The id of the menu itself; the rows count from 1.
+inline constexpr int menuRootId = 0;
+
+/// All properties of one row as the menu protocol names them.
+QVariantMap menuRowProperties(const StatusMenu::Row& row);
+
+/// The properties of the menu itself or of a row; empty for an id that is neither. With names, only those.
+QVariantMap menuProperties(const StatusMenu* menu, int id, const QStringList& names);
+
+/// The menu or a row with what is below it; depth 0 is the row alone, negative ones are without limit.
+/// Invisible rows are there too, so that rows never come or go while a host shows the menu.
+MenuNode menuLayout(const StatusMenu* menu, int parentId, int depth, const QStringList& names);
+
+/// Whether the id is the menu itself or one of its rows.
+bool isMenuId(const StatusMenu* menu, int id);
+
+} // namespace quindle

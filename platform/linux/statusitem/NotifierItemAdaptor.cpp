@@ -1,0 +1,127 @@
+#include "platform/linux/statusitem/NotifierItemAdaptor.h"
+
+#include "platform/linux/statusitem/Presentation.h"
+#include "platform/linux/statusitem/StatusPictures.h"
+
+namespace quindle {
+
+NotifierItemAdaptor::NotifierItemAdaptor(QObject* item, const Presentation& told, StatusPictures& pictures,
+                                         Requests requests)
+    : QDBusAbstractAdaptor(item)
+    , m_told(told)
+    , m_pictures(pictures)
+    , m_requests(std::move(requests))
+{
+    registerNotifierTypes();
+}
+
+QString NotifierItemAdaptor::category() const
+{
+    return QStringLiteral("Hardware");
+}
+
+QString NotifierItemAdaptor::id() const
+{
+    return QStringLiteral("quindle-helper");
+}
+
+QString NotifierItemAdaptor::title() const
+{
+    return m_told.title;
+}
+
+QString NotifierItemAdaptor::status() const
+{
+    return QStringLiteral("Active");
+}
+
+int NotifierItemAdaptor::windowId() const
+{
+    return 0;
+}
+
+QString NotifierItemAdaptor::noText() const
+{
+    return {};
+}
+
+QString NotifierItemAdaptor::iconName() const
+{
+    if (m_told.picture.kind == Picture::Kind::Transparent)
+        return m_pictures.transparentFile();
+    return m_told.iconInFile ? m_pictures.file(m_told.picture) : QString();
+}
+
+QList<NotifierPixmap> NotifierItemAdaptor::iconPixmap() const
+{
+    QList<NotifierPixmap> pixmaps;
+    for (const QImage& image : m_pictures.images(m_told.picture))
+        pixmaps.append(notifierPixmap(image));
+    return pixmaps;
+}
+
+QList<NotifierPixmap> NotifierItemAdaptor::noPixmap() const
+{
+    return {};
+}
+
+NotifierToolTip NotifierItemAdaptor::toolTip() const
+{
+    return {{}, {}, m_told.toolTipTitle, m_told.toolTipBody};
+}
+
+bool NotifierItemAdaptor::itemIsMenu() const
+{
+    return false;
+}
+
+QDBusObjectPath NotifierItemAdaptor::menu() const
+{
+    return QDBusObjectPath(QLatin1String(menuPath));
+}
+
+QString NotifierItemAdaptor::label() const
+{
+    return m_told.label;
+}
+
+QString NotifierItemAdaptor::labelGuide() const
+{
+    return m_told.labelGuide;
+}
+
+uint NotifierItemAdaptor::orderingIndex() const
+{
+    return 0;
+}
+
+// Only hosts that cannot show the exported menu call this. The battery view has the menu's entries too.
+void NotifierItemAdaptor::ContextMenu(int /*x*/, int /*y*/)
+{
+    m_requests.open();
+}
+
+// Hosts give coordinates relative to screen, panel or widget, so they are of no use.
+void NotifierItemAdaptor::Activate(int /*x*/, int /*y*/)
+{
+    m_requests.open();
+}
+
+void NotifierItemAdaptor::SecondaryActivate(int /*x*/, int /*y*/)
+{
+    m_requests.open();
+}
+
+void NotifierItemAdaptor::XAyatanaSecondaryActivate(uint /*timestamp*/)
+{
+    m_requests.open();
+}
+
+void NotifierItemAdaptor::Scroll(int /*delta*/, const QString& /*orientation*/) {}
+
+void NotifierItemAdaptor::ProvideXdgActivationToken(const QString& token)
+{
+    m_requests.activationToken(token);
+}
+
+} // namespace quindle

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <functional>
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusObjectPath>
+#include <QList>
+#include <QString>
+
+#include "platform/linux/statusitem/NotifierTypes.h"
+
+namespace quindle {
+
+struct Presentation;
+class StatusPictures;
+
+/// The status item as hosts see it on the bus. Names and types are the protocol's. Values come from the
+/// presentation that the owner keeps; the owner emits the signals.
+class NotifierItemAdaptor final : public QDBusAbstractAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
+    Q_PROPERTY(QString Category READ category)
+    Q_PROPERTY(QString Id READ id)
+    Q_PROPERTY(QString Title READ title)
+    Q_PROPERTY(QString Status READ status)
+    Q_PROPERTY(int WindowId READ windowId)
+    Q_PROPERTY(QString IconThemePath READ noText)
+    Q_PROPERTY(QString IconName READ iconName)
+    Q_PROPERTY(QList<quindle::NotifierPixmap> IconPixmap READ iconPixmap)
+    Q_PROPERTY(QString OverlayIconName READ noText)
+    Q_PROPERTY(QList<quindle::NotifierPixmap> OverlayIconPixmap READ noPixmap)
+    Q_PROPERTY(QString AttentionIconName READ noText)
+    Q_PROPERTY(QList<quindle::NotifierPixmap> AttentionIconPixmap READ noPixmap)
+    Q_PROPERTY(QString AttentionMovieName READ noText)
+    Q_PROPERTY(quindle::NotifierToolTip ToolTip READ toolTip)
+    Q_PROPERTY(bool ItemIsMenu READ itemIsMenu)
+    Q_PROPERTY(QDBusObjectPath Menu READ menu)
+    Q_PROPERTY(QString XAyatanaLabel READ label)
+    Q_PROPERTY(QString XAyatanaLabelGuide READ labelGuide)
+    Q_PROPERTY(uint XAyatanaOrderingIndex READ orderingIndex)
+
+public:
+    /// What a host can ask of the item.
+    struct Requests
+    {
+        std::function<void()> open;                          ///< the item was clicked
+        std::function<void(const QString&)> activationToken; ///< allows the next window to come to the front
+    };
+
+    NotifierItemAdaptor(QObject* item, const Presentation& told, StatusPictures& pictures, Requests requests);
+
+    QString category() const;
+    QString id() const;
+    QString title() const;
+    QString status() const;
+    int windowId() const;
+    QString noText() const;
+    QString iconName() const;
+    QList<NotifierPixmap> iconPixmap() const;
+    QList<NotifierPixmap> noPixmap() const;
+    NotifierToolTip toolTip() const;
+    bool itemIsMenu() const;
+    QDBusObjectPath menu() const;
+    QString label() const;
+    QString labelGuide() const;
+    uint orderingIndex() const;
+
+public Q_SLOTS:
+    void ContextMenu(int x, int y);
+    void Activate(int x, int y);
+    void SecondaryActivate(int x, int y);
+    void XAyatanaSecondaryActivate(uint timestamp);
+    void Scroll(int delta, const QString& orientation);
+    void ProvideXdgActivationToken(const QString& token);
+
+Q_SIGNALS:
+    void NewTitle();
+    void NewIcon();
+    void NewAttentionIcon();
+    void NewOverlayIcon();
+    void NewToolTip();
+    void NewStatus(const QString& status);
+    void XAyatanaNewLabel(const QString& label, const QString& guide);
+
+private:
+    const Presentation& m_told;
+    StatusPictures& m_pictures;
+    Requests m_requests;
+};
+
+/// Where the menu is on the connection.
+inline constexpr auto menuPath = "/MenuBar";
+
+} // namespace quindle

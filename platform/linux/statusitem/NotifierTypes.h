@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMetaType>
+#include <QString>
+
+class QDBusArgument;
+class QImage;
+
+namespace quindle {
+
+/// (iiay): a picture on the bus, its pixels as ARGB in network byte order, not premultiplied.
+struct NotifierPixmap
+{
+    int width = 0;
+    int height = 0;
+    QByteArray pixels;
+};
+
+/// (sa(iiay)ss)
+struct NotifierToolTip
+{
+    QString iconName;
+    QList<NotifierPixmap> icon;
+    QString title;
+    QString body;
+};
+
+NotifierPixmap notifierPixmap(const QImage& image);
+
+QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap);
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap);
+QDBusArgument& operator<<(QDBusArgument& argument, const NotifierToolTip& toolTip);
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierToolTip& toolTip);
+
+/// Makes the types known to the bus; may be called again.
+void registerNotifierTypes();
+
+} // namespace quindle
+
+Q_DECLARE_METATYPE(quindle::NotifierPixmap)
+Q_DECLARE_METATYPE(quindle::NotifierToolTip)

@@ -1,0 +1,78 @@
+#include "platform/linux/statusitem/Presentation.h"
+
+#include "platform/linux/statusitem/StatusTexts.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr int labelLength = 60;
+constexpr int drawnLength = 40;
+constexpr int squareTextLength = 3;
+constexpr int toolTipLength = 1000;
+
+QString lastResortImage()
+{
+    return QStringLiteral("AppIconBW");
+}
+
+Picture iconPicture(const QString& imageName)
+{
+    return {Picture::Kind::Icon, imageName, {}, 0.0};
+}
+
+Picture squarePicture(const ItemContents& contents)
+{
+    if (!contents.imageName.isEmpty())
+        return iconPicture(contents.imageName);
+    const QString text = contents.fallbackText.trimmed();
+    if (text.isEmpty() || text.size() > squareTextLength)
+        return iconPicture(lastResortImage());
+    return {Picture::Kind::Text, {}, text, 0.0};
+}
+
+Picture pictureFor(const ItemContents& contents, HostShape shape)
+{
+    const QString line = elided(singleLine(contents.title).trimmed(), drawnLength);
+    if (line.isEmpty() || shape == HostShape::Square)
+        return squarePicture(contents);
+    if (shape == HostShape::Wide)
+        return {Picture::Kind::Wide, contents.imageName, line, contents.fontSize};
+    if (contents.imageName.isEmpty())
+        return {Picture::Kind::Transparent, {}, {}, 0.0};
+    return iconPicture(contents.imageName);
+}
+
+QString toolTipCut(const QString& text)
+{
+    return elided(busText(text), toolTipLength);
+}
+
+QString toolTipLine(const QString& text, const HostTraits& host)
+{
+    const QString cut = toolTipCut(text);
+    // Even hosts with plain tool tips take a text with a tag for markup.
+    const bool plain = host.showsPlainToolTip && !cut.contains(QLatin1Char('<'));
+    return plain ? cut : escapedMarkup(cut);
+}
+
+} // namespace
+
+Presentation present(const ItemContents& contents, const HostTraits& host)
+{
+    Presentation told;
+    told.title = busText(contents.title);
+    told.toolTipTitle = toolTipLine(contents.title, host);
+    told.toolTipBody = toolTipLine(contents.toolTipText, host);
+    told.plainToolTip =
+        (toolTipCut(contents.title) + QLatin1Char('\n') + toolTipCut(contents.toolTipText)).trimmed();
+    if (host.takesLabel)
+        told.label = elided(singleLine(contents.title), labelLength);
+    if (!told.label.isEmpty())
+        told.labelGuide = QStringLiteral("100.0%");
+    told.picture = pictureFor(contents, host.shape);
+    told.iconInFile = host.needsIconFile;
+    return told;
+}
+
+} // namespace quindle

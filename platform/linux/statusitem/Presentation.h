@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/linux/statusitem/HostTraits.h"
+
+namespace quindle {
+
+/// What the application has put into the status item.
+struct ItemContents
+{
+    QString title;
+    QString imageName; ///< empty for no image
+    QString fallbackText;
+    QString toolTipText;
+    double fontSize = 12.0; ///< points in a bar 22 points high
+
+    friend bool operator==(const ItemContents&, const ItemContents&) = default;
+};
+
+/// Which picture stands for the item. Two pictures with the same values look the same.
+struct Picture
+{
+    enum class Kind {
+        Icon,        ///< the image `imageName`, square
+        Text,        ///< `text` as large as it fits a square
+        Wide,        ///< the image, if there is one, and `text` beside it
+        Transparent, ///< nothing: the host writes the title itself
+    };
+
+    Kind kind = Kind::Icon;
+    QString imageName;
+    QString text;
+    double fontSize = 0.0;
+
+    friend bool operator==(const Picture&, const Picture&) = default;
+};
+
+/// What a host is told of the item.
+struct Presentation
+{
+    QString title;
+    QString toolTipTitle;
+    QString toolTipBody;
+    QString plainToolTip; ///< the whole tool tip without any markup
+    QString label;
+    QString labelGuide; ///< a text as wide as the label gets usually
+    Picture picture;
+    bool iconInFile = false;
+
+    friend bool operator==(const Presentation&, const Presentation&) = default;
+};
+
+/// What that host is told of these contents. The title is exact; what is drawn or written beside the icon is
+/// one line and cut with an ellipsis; the picture is never empty unless the host writes the title.
+Presentation present(const ItemContents& contents, const HostTraits& host);
+
+} // namespace quindle

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include <QImage>
+#include <QString>
+
+#include "platform/linux/statusitem/Presentation.h"
+
+namespace quindle {
+
+/// Makes the item's pictures, on demand. The panel's colours are unknown to an item, so every picture is
+/// light with a dark edge: the glyph reads on dark panels, its edge on light ones.
+class StatusPictures
+{
+public:
+    /// Images are the files NAME.svg in that folder; transparent.png is there too.
+    explicit StatusPictures(QString iconsDirectory);
+
+    /// The picture in that size (pixels; the height of a wide one). Icons are kept and shared; null when the
+    /// image has no file.
+    QImage image(const Picture& picture, int size);
+
+    /// The sizes that hosts choose from: squares, or one wide picture. Hosts take the largest by different
+    /// rules, so the two are never mixed. Empty for a transparent picture.
+    std::vector<QImage> images(const Picture& picture);
+
+    /// The picture as a file, for hosts that show nothing else; empty if it could not be written.
+    QString file(const Picture& picture);
+
+    /// A picture of one transparent pixel. It takes the place of the host's own picture for a missing icon.
+    QString transparentFile() const;
+
+private:
+    QImage icon(const QString& name, int size);
+
+    QString m_iconsDirectory;
+    std::map<std::pair<QString, int>, QImage> m_icons;
+    std::set<QString> m_missing; ///< already told in the log
+};
+
+} // namespace quindle

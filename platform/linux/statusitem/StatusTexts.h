@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+/// The text on one line: line breaks, tabs and other control characters become blanks.
+QString singleLine(const QString& text);
+
+/// At most `length` characters as a person counts them, an ellipsis included where the text is cut.
+QString elided(const QString& text, int length);
+
+/// The text as the bus can carry it: text over the bus ends at the first NUL, so a NUL is replaced.
+QString busText(const QString& text);
+
+/// Tool tip text for hosts that parse it as markup.
+QString escapedMarkup(const QString& text);
+
+/// A menu row's label: no mnemonic, one line. A tab, which separates caption and value, stays.
+QString menuLabel(const QString& text);
+
+} // namespace quindle

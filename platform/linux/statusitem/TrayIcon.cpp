@@ -1,0 +1,102 @@
+#include "platform/linux/statusitem/TrayIcon.h"
+
+#include <array>
+
+#include <QAction>
+#include <QCursor>
+#include <QIcon>
+#include <QMenu>
+#include <QPixmap>
+#include <QTextDocument>
+
+#include "platform/StatusMenu.h"
+#include "platform/linux/statusitem/Presentation.h"
+#include "platform/linux/statusitem/StatusPictures.h"
+
+namespace quindle {
+
+namespace {
+
+// An X11 tray gives the icon its room and never scales it, so the usual rooms get pictures of their own.
+constexpr std::array traySizes{16, 22, 24, 32, 44, 48};
+
+QIcon trayIcon(const Picture& picture, StatusPictures& pictures)
+{
+    QIcon icon;
+    for (const int size : traySizes)
+        icon.addPixmap(QPixmap::fromImage(pictures.image(picture, size)));
+    return icon;
+}
+
+/// Tool tips take a text that looks like markup for markup.
+QString literal(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
+QString actionText(const QString& text)
+{
+    QString label = text;
+    return label.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+void bringUpToDate(QAction* action, const StatusMenu::Row& row)
+{
+    action->setVisible(row.visible);
+    if (row.kind == StatusMenu::Kind::Separator)
+        return;
+    action->setText(actionText(row.text));
+    action->setEnabled(row.enabled || row.kind == StatusMenu::Kind::Fact);
+}
+
+} // namespace
+
+TrayIcon::TrayIcon(StatusMenu* menu)
+    : m_menu(menu)
+{
+    connect(&m_icon, &QSystemTrayIcon::activated, this, &TrayIcon::activated);
+}
+
+TrayIcon::~TrayIcon() = default;
+
+void TrayIcon::show(const Presentation& told, StatusPictures& pictures)
+{
+    m_icon.setIcon(trayIcon(told.picture, pictures));
+    m_icon.setToolTip(literal(told.plainToolTip));
+    m_icon.show();
+}
+
+void TrayIcon::updateMenu()
+{
+    if (!m_contextMenu || !m_menu)
+        return;
+    const QList<QAction*> actions = m_contextMenu->actions();
+    const auto& rows = m_menu->rows();
+    for (std::size_t i = 0; i < rows.size() && static_cast<qsizetype>(i) < actions.size(); ++i)
+        bringUpToDate(actions[static_cast<qsizetype>(i)], rows[i]);
+}
+
+void TrayIcon::activated(QSystemTrayIcon::ActivationReason reason)
+{
+    if (!m_menu)
+        return;
+    if (reason == QSystemTrayIcon::Context)
+        openMenu();
+    else if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::MiddleClick)
+        m_menu->openView();
+}
+
+void TrayIcon::openMenu()
+{
+    m_contextMenu = std::make_unique<QMenu>();
+    int id = 0;
+    for (const StatusMenu::Row& row : m_menu->rows()) {
+        QAction* action = m_contextMenu->addAction(QString());
+        action->setSeparator(row.kind == StatusMenu::Kind::Separator);
+        bringUpToDate(action, row);
+        connect(action, &QAction::triggered, this, [menu = m_menu, chosen = ++id] { menu->choose(chosen); });
+    }
+    m_contextMenu->popup(QCursor::pos());
+}
+
+} // namespace quindle

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QSystemTrayIcon>
+
+class QMenu;
+
+namespace quindle {
+
+struct Presentation;
+class StatusMenu;
+class StatusPictures;
+
+/// The item in an X11 tray, for desktops without a watcher of status notifier items. It shows itself as soon
+/// as there is a tray. Create it only while no watcher is on the bus: it would register there as a second
+/// item.
+class TrayIcon final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TrayIcon(StatusMenu* menu);
+    ~TrayIcon() override;
+
+    /// `told` is what a square host gets.
+    void show(const Presentation& told, StatusPictures& pictures);
+
+    /// Brings an open menu up to date.
+    void updateMenu();
+
+private:
+    void activated(QSystemTrayIcon::ActivationReason reason);
+    void openMenu();
+
+    StatusMenu* m_menu;
+    QSystemTrayIcon m_icon;
+    std::unique_ptr<QMenu> m_contextMenu;
+};
+
+} // namespace quindle

@@ -1,0 +1,235 @@
+#include "app/HelperAppDelegate.h"
+
+#include <gtest/gtest.h>
+
+#include "battery/QDBattery.h"
+#include "platform/Image.h"
+#include "tests/app/LaunchedHelper.h"
+#include "tests/support/QtPrinters.h"
+
+using namespace quindle;
+
+namespace {
+
+struct HelperAppDelegateTest : testing::Test, Helper
+{
+    QString versionText() { return interface.statusMenu().rows().at(size_t(interface.outlets().versionItem) - 1).text; }
+};
+
+TEST_F(HelperAppDelegateTest, VersionEntryIsTheLiteralAndTheValue)
+{
+    platform.bundle.info = QVariantMap{{QStringLiteral("CFBundleVersion"), qint64{123}}};
+    launch();
+    EXPECT_EQ(versionText(), QStringLiteral("Version 123"));
+}
+
+TEST_F(HelperAppDelegateTest, VersionTextIsCopiedAsItStands)
+{
+    platform.bundle.info = QVariantMap{{QStringLiteral("CFBundleVersion"), QStringLiteral(" 1.0b ")}};
+    launch();
+    EXPECT_EQ(versionText(), QStringLiteral("Version  1.0b "));
+}
+
+TEST_F(HelperAppDelegateTest, MissingBundleInformationIsFatal)
+{
+    make();
+    platform.bundle.info = std::nullopt;
+    EXPECT_DEATH(delegate->applicationDidFinishLaunching(), "no information dictionary");
+    platform.bundle.info = QVariantMap();
+    EXPECT_DEATH(delegate->applicationDidFinishLaunching(), "CFBundleVersion");
+}
+
+struct IncompleteInterface : MainInterface
+{
+    MainOutlets connected = MainInterface::outlets();
+
+    MainOutlets outlets() override { return connected; }
+};
+
+void launchWith(const std::function<void(MainOutlets&)>& disconnect)
+{
+    FakePlatform platform;
+    platform.battery()[QStringLiteral("MaxCapacity")] = qint64{100};
+    IncompleteInterface interface;
+    disconnect(interface.connected);
+    CountingPreferences window;
+    ApplicationPreferences preferences(platform.platform);
+    HelperAppDelegate delegate(platform.platform, preferences, interface, window, &QDMac::init);
+    delegate.applicationDidFinishLaunching();
+}
+
+TEST(MissingOutlet, IsFatalAtLaunch)
+{
+    launchWith([](MainOutlets&) {});
+    EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.menuView = nullptr; }), "outlet");
+    EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.macObjectController = nullptr; }), "outlet");
+    EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.stateOfChargeProgress = nullptr; }), "outlet");
+    EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.stateOfHealthProgress = nullptr; }), "outlet");
+    EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.statusMenu = nullptr; }), "outlet");
+    EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.versionItem = 0; }), "outlet");
+}
+
+TEST_F(HelperAppDelegateTest, LaunchOrder)
+{
+    setBattery(50);
+    setShared("runInBackground", true);
+    launch();
+    EXPECT_EQ(platform.userDefaults.standardDefaults.values[QStringLiteral("runInBackground")], true);
+    EXPECT_EQ(record().length, -1.0);
+    EXPECT_EQ(record().menu, &interface.statusMenu());
+    EXPECT_EQ(interface.macObjectController().content(), &delegate->myMac());
+    EXPECT_EQ(delegate->shownView()->name, QStringLiteral("menuView"));
+    EXPECT_EQ(record().titlesSet, QStringList({QStringLiteral("100 %"), QStringLiteral("50.0%"),
+                                               QStringLiteral("50.0%"), QStringLiteral("100 %"),
+                                               QStringLiteral("50.0%"), QStringLiteral("50.0%")}));
+    ASSERT_EQ(platform.runLoop.timers.size(), 2U);
+    EXPECT_EQ(platform.runLoop.timers[0]->interval, 5.0);
+    EXPECT_EQ(platform.runLoop.timers[1]->interval, 10.0);
+    EXPECT_EQ(delegate->hueColorGreen()->inputAngle(), 4.0);
+    EXPECT_EQ(delegate->hueColorYellow()->inputAngle(), -16.0);
+    EXPECT_EQ(delegate->hueColorRed()->inputAngle(), 241.0);
+}
+
+TEST_F(HelperAppDelegateTest, OwnRunInBackgroundFollowsTheSharedOneAtLaunchOnly)
+{
+    platform.userDefaults.standardDefaults.values[QStringLiteral("runInBackground")] = true;
+    launch();
+    EXPECT_EQ(preferences->runInBackgroundOwn(), false);
+    setShared("runInBackground", true);
+    delegate->updateStatusBarTitle();
+    EXPECT_EQ(preferences->runInBackgroundOwn(), false);
+}
+
+TEST_F(HelperAppDelegateTest, OwnRunInBackgroundIsFalseWithoutTheSuite)
+{
+    platform.userDefaults.suiteAvailable = false;
+    platform.userDefaults.standardDefaults.values[QStringLiteral("runInBackground")] = true;
+    launch();
+    EXPECT_EQ(preferences->runInBackgroundOwn(), false);
+}
+
+TEST_F(HelperAppDelegateTest, RefreshesEveryTenSeconds)
+{
+    setBattery(50);
+    launch();
+    record().titlesSet.clear();
+    platform.runLoop.advance(9.9);
+    EXPECT_EQ(record().titlesSet.size(), 0);
+    platform.runLoop.advance(0.2);
+    EXPECT_EQ(record().titlesSet.size(), 3);
+    platform.runLoop.advance(10.0);
+    EXPECT_EQ(record().titlesSet.size(), 6);
+}
+
+TEST_F(HelperAppDelegateTest, WakingRefreshesAndSleepingDoesNot)
+{
+    setBattery(50);
+    launch();
+    record().titlesSet.clear();
+    platform.workspaceNotifications.sleep();
+    EXPECT_EQ(record().titlesSet.size(), 0);
+    platform.workspaceNotifications.wake();
+    EXPECT_EQ(record().titlesSet.size(), 3);
+}
+
+TEST_F(HelperAppDelegateTest, WakingReadsFlagsNowAndFiguresFromTheLastRefresh)
+{
+    setBattery(50);
+    setShared("customStatusBar", QStringLiteral("%s %p"));
+    launch();
+    setRegistry("IsCharging", true);
+    setRegistry("CurrentCapacity", qint64{60});
+    platform.workspaceNotifications.wake();
+    EXPECT_EQ(title(), QStringLiteral("\u2B06\uFE0E 50.0"));
+}
+
+TEST_F(HelperAppDelegateTest, AnnouncedSettingsChangeRefreshesAndUpdateDoesNothing)
+{
+    setBattery(50);
+    launch();
+    record().titlesSet.clear();
+    platform.distributedNotificationCenter.post(QStringLiteral("WillUpdateImmediately"));
+    EXPECT_EQ(record().titlesSet.size(), 0);
+    EXPECT_EQ(platform.application.terminated, 0);
+    platform.distributedNotificationCenter.post(QStringLiteral("SettingsChangedNotification"));
+    EXPECT_EQ(record().titlesSet.size(), 3);
+}
+
+TEST_F(HelperAppDelegateTest, GateOpensAfterMoreThanADayAndRegistersObserversAgain)
+{
+    setBattery(50);
+    setShared("autoUpload", true);
+    launch();
+    const QDateTime launched = delegate->lastDailyUploadToOnlineService();
+    platform.clock.advance(86400.0);
+    delegate->checkForAutoSaveData();
+    EXPECT_EQ(delegate->lastDailyUploadToOnlineService(), launched);
+    platform.clock.advance(0.001);
+    delegate->checkForAutoSaveData();
+    EXPECT_EQ(delegate->lastDailyUploadToOnlineService(), platform.clock.now());
+    record().titlesSet.clear();
+    platform.distributedNotificationCenter.post(QStringLiteral("SettingsChangedNotification"));
+    EXPECT_EQ(record().titlesSet.size(), 4 * 3); // two distributed observers, each heard by two local ones
+}
+
+TEST_F(HelperAppDelegateTest, GateStaysOpenWithoutPermission)
+{
+    launch();
+    const QDateTime launched = delegate->lastDailyUploadToOnlineService();
+    platform.clock.advance(5 * 86400.0);
+    delegate->checkForAutoSaveData();
+    EXPECT_EQ(delegate->lastDailyUploadToOnlineService(), launched);
+}
+
+TEST_F(HelperAppDelegateTest, GateRunsWithoutABatteryToo)
+{
+    setShared("autoUpload", true);
+    launch();
+    platform.clock.advance(86401.0);
+    delegate->updateStatusBarTitle();
+    EXPECT_EQ(delegate->lastDailyUploadToOnlineService(), platform.clock.now());
+}
+
+TEST_F(HelperAppDelegateTest, OpensTheFolderThatHoldsTheMainApplication)
+{
+    make();
+    platform.bundle.bundlePath = QStringLiteral("/a/Quindle.app/Contents/Resources/Quindle-Helper.app");
+    delegate->openApplication();
+    platform.bundle.bundlePath = QStringLiteral("/Quindle-Helper.app");
+    delegate->openApplication();
+    platform.bundle.bundlePath = QStringLiteral("Quindle-Helper.app");
+    delegate->openApplication();
+    EXPECT_EQ(platform.workspace.launched, QStringList({QStringLiteral("/a"), QStringLiteral("/"), QString()}));
+}
+
+TEST_F(HelperAppDelegateTest, MenuEntriesAct)
+{
+    launch();
+    for (const auto& row : interface.statusMenu().rows())
+        if (row.kind == StatusMenu::Kind::Action && row.enabled && row.chosen)
+            row.chosen();
+    EXPECT_EQ(platform.workspace.launched.size(), 1);
+    EXPECT_EQ(preferencesWindow.shown, 1);
+    EXPECT_EQ(platform.application.activated, 1);
+    EXPECT_EQ(platform.application.terminated, 1);
+}
+
+TEST_F(HelperAppDelegateTest, EmptyBodiesDoNothing)
+{
+    setBattery(50);
+    launch();
+    record().titlesSet.clear();
+    HelperAppDelegate::quiteDueToUpdate();
+    HelperAppDelegate::receiveSleepNote();
+    HelperAppDelegate::applicationWillTerminate();
+    EXPECT_TRUE(record().titlesSet.isEmpty());
+    EXPECT_EQ(platform.application.terminated, 0);
+}
+
+TEST_F(HelperAppDelegateTest, StoredModeOutOfRangeIsFatalWithoutABatteryToo)
+{
+    platform.userDefaults.standardDefaults.values[QStringLiteral("QDBatteryTemperatureMode")] = qint64{3};
+    EXPECT_DEATH(make(), "");
+}
+
+} // namespace

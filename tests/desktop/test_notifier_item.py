@@ -1,0 +1,128 @@
+#!/usr/bin/env python3
+"""The helper as a StatusNotifierItem in a real panel."""
+
+import time
+import unittest
+
+from helper_case import HELPER, HelperCase, charge_step, machine, wait_for
+
+ICON = (16, 14)  # the one item in the panel's top left corner
+
+
+class NotifierItem(HelperCase):
+    def test_title_tool_tip_and_menu_are_on_the_bus(self):
+        self.start(machine(66, template="%p% %r"))
+        self.assert_title("66.0% 1:35")
+        tool_tip = self.desktop.item_property("ToolTip")
+        self.assertIn("66.0% 1:35", tool_tip)
+        self.assertIn("Discharging", tool_tip)
+        self.assertIn("false", self.desktop.item_property("ItemIsMenu"))
+        layout = self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.GetLayout", "0", "-1",
+                                    "[]")
+        for text in ("66.0% 1:35", "Open Application", "Version 9", "Quit", "42"):
+            self.assertIn(text, layout)
+
+    def test_the_template_is_shown_literally(self):
+        self.start(machine(50, template="<b>&x_y %p %1 %n"))
+        self.assert_title("<b>&x_y 50.0 %1 %n")
+        self.assertIn("&lt;b&gt;&amp;x_y", self.desktop.item_property("ToolTip"))
+
+    def test_a_long_title_stays_exact(self):
+        template = "\u05d0\u2764\ufe0f " * 3000 + "%p"
+        self.start(machine(50, template=template))
+        self.assertTrue(wait_for(lambda: (self.desktop.item_title() or "").endswith("50.0"), 8))
+        self.assertEqual(self.desktop.item_title(), template.replace("%p", "50.0"))
+
+    def test_a_change_shows_and_rest_sends_nothing(self):
+        self.start(machine(66, steps=[charge_step(65, 2)]))
+        self.assert_title("66.0%")
+        self.assert_title("65.0%")
+        time.sleep(0.5)
+        monitor_path = self.desktop.root / "monitor"
+        with open(monitor_path, "wb") as stream:
+            monitor = self.desktop.start("dbus-monitor", "--session", "--profile",
+                                         f"sender='{self.desktop.item_name()}'", stdout=stream)
+            time.sleep(11)  # one tick of the refresh at least
+            monitor.terminate()
+            monitor.wait()
+        signals = [line for line in monitor_path.read_text().splitlines() if line.startswith("sig\t")
+                   and "NameAcquired" not in line and "NameLost" not in line]
+        self.assertEqual(signals, [])
+
+    def test_the_interim_title_never_leaves_the_process(self):
+        monitor_path = self.desktop.root / "changes"
+        with open(monitor_path, "wb") as stream:
+            monitor = self.desktop.start("dbus-monitor", "--session", stdout=stream)
+            self.start(machine(66, steps=[charge_step(65, 1), charge_step(64, 1)]))
+            self.assert_title("64.0%")
+            monitor.terminate()
+            monitor.wait()
+        seen = monitor_path.read_text(errors="replace")
+        self.assertIn("64.0%", seen)
+        self.assertNotIn("100 %", seen)
+        self.assertLessEqual(seen.count("member=NewTitle"), 3)
+
+    def test_click_opens_the_view_and_escape_closes_it(self):
+        self.start(machine(66))
+        self.assert_title("66.0%")
+        time.sleep(0.5)
+        self.desktop.click(*ICON)
+        self.assert_view_opens()
+        time.sleep(0.3)
+        self.desktop.key("Escape")
+        self.assert_view_closes()
+
+    def test_a_second_start_opens_the_view_of_the_first(self):
+        first = self.start(machine(66))
+        self.assert_title("66.0%")
+        second = self.start(machine(12), "second.plist")
+        self.assertEqual(second.wait(5), 0)
+        self.assert_view_opens()
+        self.assertEqual(len(self.desktop.registered_items()), 1)
+        self.assert_title("66.0%")
+        self.assertIsNone(first.poll())
+
+    def test_quit_in_the_menu_ends_it(self):
+        process = self.start(machine(66))
+        self.assert_title("66.0%")
+        layout = self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.GetLayout", "0", "-1",
+                                    "['label']")
+        import re
+        row = re.search(r"\((\d+), \{[^}]*'label': <'Quit'>", layout)
+        self.assertIsNotNone(row, layout)
+        self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.Event", row.group(1), "clicked",
+                           "<''>", "0")
+        self.assertEqual(process.wait(5), 0)
+
+    def test_without_a_battery(self):
+        computer = machine()
+        del computer["Registry"]["AppleSmartBattery"]
+        self.start(computer)
+        self.assertTrue(self.desktop.item_name())
+        self.assert_title("")
+        self.assertIn("No battery", self.desktop.item_property("ToolTip"))
+        time.sleep(0.5)
+        self.desktop.click(*ICON)
+        self.assert_view_opens()
+
+    def test_a_refused_machine_file_ends_it_with_one_line(self):
+        process = self.start({"Nonsense": True})
+        self.assertEqual(process.wait(5), 2)
+
+    def test_the_settings_files_are_followed_without_a_notification(self):
+        import plistlib
+        from pathlib import Path
+        sysfs = Path(__file__).resolve().parents[1] / "data/sysfs/framework-13-discharging-93"
+        process = self.desktop.start(HELPER, env={"QUINDLE_SYSFS": str(sysfs)})
+        self.addCleanup(self.stop, process)
+        self.assertTrue(wait_for(lambda: "%" in (self.desktop.item_title() or ""), 8))
+        folder = Path(self.desktop.env["XDG_CONFIG_HOME"]) / "quindle"
+        folder.mkdir(exist_ok=True)
+        settings = folder / "group.fernhollow.Quindle.plist"
+        self.addCleanup(lambda: settings.unlink(missing_ok=True))
+        settings.write_bytes(plistlib.dumps({"customStatusBar": "edited"}))
+        self.assert_title("edited", 12)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,90 @@
+#include "platform/linux/statusitem/HostTraits.h"
+
+#include <gtest/gtest.h>
+
+namespace quindle {
+namespace {
+
+using Shape = HostShape;
+
+struct Case
+{
+    const char* name;
+    const char* program;
+    const char* commandLine;
+    const char* desktop;
+    Shape shape;
+    bool needsIconFile = false;
+    bool showsPlainToolTip = false;
+};
+
+class HostTraitsTable : public testing::TestWithParam<Case>
+{
+};
+
+TEST_P(HostTraitsTable, isKnownByProcessThenDesktop)
+{
+    const Case& c = GetParam();
+    const HostTraits traits = hostTraits({QString::fromUtf8(c.program), QString::fromUtf8(c.commandLine)},
+                                         QString::fromUtf8(c.desktop));
+    EXPECT_EQ(traits.shape, c.shape);
+    EXPECT_EQ(traits.needsIconFile, c.needsIconFile);
+    EXPECT_EQ(traits.showsPlainToolTip, c.showsPlainToolTip);
+    EXPECT_TRUE(traits.takesLabel);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Hosts, HostTraitsTable,
+    testing::Values(Case{"gnome", "gnome-shell", "/usr/bin/gnome-shell", "GNOME", Shape::Label},
+                    Case{"mateTray", "notification-area-applet", "", "MATE", Shape::Label},
+                    Case{"mateSecondTray", "mate-panel", "mate-panel", "MATE", Shape::Label},
+                    Case{"indicators", "ayatana-indicator-application-service", "", "MATE", Shape::Label,
+                         true},
+                    Case{"xfce", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsystray.so 1", "XFCE",
+                         Shape::Square},
+                    Case{"xfceSecondTray", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsntray.so 1",
+                         "XFCE", Shape::Square},
+                    Case{"lxqt", "lxqt-panel", "", "LXQt", Shape::Square, false, true},
+                    Case{"plasma", "kded5", "", "KDE", Shape::Square},
+                    Case{"plasma6", "kded6", "", "KDE", Shape::Square},
+                    Case{"waybar", "waybar", "", "sway", Shape::Wide},
+                    Case{"swaybar", "swaybar", "", "sway", Shape::Square},
+                    Case{"cinnamon", "xapp-sn-watcher", "", "X-Cinnamon", Shape::Wide},
+                    Case{"processBeforeDesktop", "waybar", "", "GNOME", Shape::Wide},
+                    Case{"unreadableProgramReadableArguments", "", "/usr/bin/waybar -c x", "", Shape::Wide},
+                    Case{"hiddenProcessOnGnome", "", "", "ubuntu:GNOME", Shape::Label},
+                    Case{"hiddenProcessOnBudgie", "", "", "Budgie:GNOME", Shape::Square},
+                    Case{"hiddenProcessOnCinnamon", "", "", "X-Cinnamon", Shape::Wide},
+                    Case{"hiddenProcessOnLxqt", "", "", "LXQt", Shape::Square, false, true},
+                    Case{"hiddenProcessOnMate", "", "", "MATE", Shape::Label},
+                    Case{"hiddenProcessOnSway", "", "", "sway", Shape::Square},
+                    Case{"unknownProgramKnownDesktop", "some-watcher", "some-watcher", "GNOME", Shape::Label},
+                    Case{"allUnknown", "some-watcher", "some-watcher", "Other", Shape::Square},
+                    Case{"nothing", "", "", "", Shape::Square}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(HostTraits, choiceOverridesTheShape)
+{
+    const HostTraits label{Shape::Label};
+    const HostTraits square{Shape::Square};
+    EXPECT_EQ(withChoice(square, QStringLiteral("label")), label);
+    EXPECT_EQ(withChoice(square, QStringLiteral("auto")), square);
+    EXPECT_EQ(withChoice(label, QString()), label);
+    EXPECT_EQ(withChoice(label, QStringLiteral("Wide")), label);
+}
+
+TEST(HostTraits, chosenShapesWithoutLabelSendNone)
+{
+    const HostTraits label{Shape::Label};
+    EXPECT_EQ(withChoice(label, QStringLiteral("wide")), (HostTraits{Shape::Wide, false}));
+    EXPECT_EQ(withChoice(label, QStringLiteral("icon")), (HostTraits{Shape::Square, false}));
+}
+
+TEST(HostTraits, hostThatShowsFilesOnlyHasNoRoomForWideOnes)
+{
+    const HostTraits files{Shape::Label, true, true};
+    EXPECT_EQ(withChoice(files, QStringLiteral("wide")), files);
+}
+
+} // namespace
+} // namespace quindle

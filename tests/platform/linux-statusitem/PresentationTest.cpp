@@ -1,0 +1,122 @@
+#include "platform/linux/statusitem/Presentation.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/QtPrinters.h"
+
+namespace quindle {
+namespace {
+
+using Kind = Picture::Kind;
+
+QString u(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+constexpr HostTraits labelHost{HostShape::Label};
+constexpr HostTraits wideHost{HostShape::Wide};
+constexpr HostTraits squareHost{HostShape::Square};
+
+struct Case
+{
+    const char* name;
+    HostShape shape;
+    const char* title;
+    const char* image;
+    const char* fallback;
+    Kind kind;
+    const char* drawnImage;
+    const char* drawnText;
+};
+
+class PictureTable : public testing::TestWithParam<Case>
+{
+};
+
+TEST_P(PictureTable, isNeverEmptyUnlessTheHostWritesTheTitle)
+{
+    const Case& c = GetParam();
+    const ItemContents contents{u(c.title), u(c.image), u(c.fallback), {}, 12.0};
+    const Picture picture = present(contents, {c.shape}).picture;
+    EXPECT_EQ(picture.kind, c.kind);
+    EXPECT_EQ(picture.imageName, u(c.drawnImage));
+    EXPECT_EQ(picture.text, u(c.drawnText));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pictures, PictureTable,
+    testing::Values(
+        Case{"labelWithIcon", HostShape::Label, "87.0%", "#bat34", "87", Kind::Icon, "#bat34", ""},
+        Case{"labelWithoutIcon", HostShape::Label, "87.0%", "", "87", Kind::Transparent, "", ""},
+        Case{"labelWithoutAnything", HostShape::Label, "", "", "", Kind::Icon, "AppIconBW", ""},
+        Case{"labelWithoutTitle", HostShape::Label, "", "", "87", Kind::Text, "", "87"},
+        Case{"labelBlankTitle", HostShape::Label, " \n ", "", "", Kind::Icon, "AppIconBW", ""},
+        Case{"wideWithIcon", HostShape::Wide, "87.0%", "#bat34", "87", Kind::Wide, "#bat34", "87.0%"},
+        Case{"wideWithoutIcon", HostShape::Wide, "87.0%", "", "87", Kind::Wide, "", "87.0%"},
+        Case{"wideIconOnly", HostShape::Wide, "", "#bat34", "87", Kind::Icon, "#bat34", ""},
+        Case{"wideWithoutAnything", HostShape::Wide, "", "", "", Kind::Icon, "AppIconBW", ""},
+        Case{"wideLines", HostShape::Wide, "a\nb\t\n", "", "", Kind::Wide, "", "a b"},
+        Case{"squareWithIcon", HostShape::Square, "87.0%", "#bat34", "87", Kind::Icon, "#bat34", ""},
+        Case{"squareWithoutIcon", HostShape::Square, "87.0%", "", "87", Kind::Text, "", "87"},
+        Case{"squareFull", HostShape::Square, "100.0%", "", "100", Kind::Text, "", "100"},
+        Case{"squareTooLong", HostShape::Square, "x", "", "-inf", Kind::Icon, "AppIconBW", ""},
+        Case{"squareWithoutFallback", HostShape::Square, "87.0%", "", "", Kind::Icon, "AppIconBW", ""}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(Presentation, textsOfAnOrdinaryTitle)
+{
+    const Presentation told = present({u("87.0%"), {}, u("87"), u("Charging"), 12.0}, squareHost);
+    EXPECT_EQ(told.title, u("87.0%"));
+    EXPECT_EQ(told.toolTipTitle, u("87.0%"));
+    EXPECT_EQ(told.toolTipBody, u("Charging"));
+    EXPECT_EQ(told.plainToolTip, u("87.0%\nCharging"));
+    EXPECT_EQ(told.label, u("87.0%"));
+    EXPECT_EQ(told.labelGuide, u("100.0%"));
+}
+
+TEST(Presentation, longTitleStaysExactAndIsCutWhereItIsShown)
+{
+    const QString title(10000, QLatin1Char('x'));
+    const Presentation told = present({title, {}, {}, title, 12.0}, wideHost);
+    EXPECT_EQ(told.title, title);
+    EXPECT_EQ(told.label.size(), 60);
+    EXPECT_EQ(told.picture.text.size(), 40);
+    EXPECT_EQ(told.toolTipTitle.size(), 1000);
+    EXPECT_EQ(told.toolTipBody.size(), 1000);
+}
+
+TEST(Presentation, titleKeepsLineBreaksLabelDoesNot)
+{
+    const Presentation told = present({u("a\nb"), {}, {}, {}, 12.0}, labelHost);
+    EXPECT_EQ(told.title, u("a\nb"));
+    EXPECT_EQ(told.label, u("a b"));
+}
+
+TEST(Presentation, toolTipIsEscapedWhereItIsMarkup)
+{
+    const ItemContents contents{u("R&D <b>"), {}, {}, u("a & b"), 12.0};
+    EXPECT_EQ(present(contents, squareHost).toolTipTitle, u("R&amp;D &lt;b&gt;"));
+    EXPECT_EQ(present(contents, squareHost).toolTipBody, u("a &amp; b"));
+    const HostTraits plain{HostShape::Square, true, false, true};
+    EXPECT_EQ(present(contents, plain).toolTipTitle, u("R&amp;D &lt;b&gt;"));
+    EXPECT_EQ(present(contents, plain).toolTipBody, u("a & b"));
+}
+
+TEST(Presentation, noLabelWhereThePersonWantsNone)
+{
+    const Presentation told = present({u("87.0%"), u("#bat34"), {}, {}, 12.0}, {HostShape::Square, false});
+    EXPECT_EQ(told.label, QString());
+    EXPECT_EQ(told.labelGuide, QString());
+}
+
+TEST(Presentation, fontSizeMattersOnlyWhereTextIsDrawn)
+{
+    const ItemContents small{u("87.0%"), u("#bat34"), {}, {}, 12.0};
+    const ItemContents large{u("87.0%"), u("#bat34"), {}, {}, 14.0};
+    EXPECT_EQ(present(small, squareHost), present(large, squareHost));
+    EXPECT_NE(present(small, wideHost), present(large, wideHost));
+}
+
+} // namespace
+} // namespace quindle

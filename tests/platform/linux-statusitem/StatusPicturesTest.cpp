@@ -1,0 +1,161 @@
+#include "platform/linux/statusitem/StatusPictures.h"
+
+#include <set>
+
+#include <QFile>
+#include <QImage>
+#include <gtest/gtest.h>
+
+#include "platform/linux/statusitem/NotifierTypes.h"
+#include "tests/support/QtPrinters.h"
+
+namespace quindle {
+namespace {
+
+const QStringList& names()
+{
+    static const QStringList all{QStringLiteral("#bat04"),       QStringLiteral("#bat14"),
+                                 QStringLiteral("#bat24"),       QStringLiteral("#bat34"),
+                                 QStringLiteral("#bat44"),       QStringLiteral("#bat04Charge"),
+                                 QStringLiteral("#bat44Charge"), QStringLiteral("AppIconBW")};
+    return all;
+}
+
+Picture iconPicture(const QString& name)
+{
+    return {Picture::Kind::Icon, name, {}, 0.0};
+}
+
+Picture text(const char* digits)
+{
+    return {Picture::Kind::Text, {}, QString::fromUtf8(digits), 0.0};
+}
+
+Picture wide(const QString& image, const QString& title)
+{
+    return {Picture::Kind::Wide, image, title, 12.0};
+}
+
+int lightPixels(const QImage& image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor colour = image.pixelColor(x, y);
+            count += colour.alpha() > 200 && colour.lightness() > 200 ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+class StatusPicturesTest : public testing::Test
+{
+protected:
+    StatusPictures pictures{QStringLiteral(QUINDLE_ICONS)};
+};
+
+TEST_F(StatusPicturesTest, everyImageHasThreeSquares)
+{
+    for (const QString& name : names()) {
+        const auto images = pictures.images(iconPicture(name));
+        ASSERT_EQ(images.size(), 3U) << name.toStdString();
+        EXPECT_EQ(images[0].size(), QSize(22, 22));
+        EXPECT_EQ(images[1].size(), QSize(32, 32));
+        EXPECT_EQ(images[2].size(), QSize(44, 44));
+        EXPECT_GT(lightPixels(images[0]), 30) << name.toStdString();
+    }
+}
+
+TEST_F(StatusPicturesTest, fullerBatteriesAreVisiblyFuller)
+{
+    for (const int size : {22, 44}) {
+        int last = 0;
+        for (const QString& name : names().mid(0, 5)) {
+            const int now = lightPixels(pictures.image(iconPicture(name), size));
+            EXPECT_GT(now, last + 2 * size / 3) << name.toStdString();
+            last = now;
+        }
+    }
+}
+
+TEST_F(StatusPicturesTest, glyphsAreOnThePixelGrid)
+{
+    const QImage full = pictures.image(iconPicture(names()[4]), 22);
+    EXPECT_EQ(full.pixelColor(10, 5), QColor(255, 255, 255));
+    EXPECT_EQ(full.pixelColor(10, 7), QColor(255, 255, 255));
+    EXPECT_LT(full.pixelColor(10, 6).lightness(), 60);
+    EXPECT_LT(full.pixelColor(10, 4).lightness(), 60);
+    EXPECT_EQ(full.pixelColor(10, 2).alpha(), 0);
+}
+
+TEST_F(StatusPicturesTest, imageWithoutFileGivesNothing)
+{
+    EXPECT_TRUE(pictures.image(iconPicture(QStringLiteral("none")), 22).isNull());
+    EXPECT_TRUE(pictures.images(iconPicture(QStringLiteral("none"))).empty());
+}
+
+TEST_F(StatusPicturesTest, iconsAreMadeOnce)
+{
+    const QImage first = pictures.image(iconPicture(names()[0]), 44);
+    EXPECT_EQ(pictures.image(iconPicture(names()[0]), 44).constBits(), first.constBits());
+}
+
+TEST_F(StatusPicturesTest, numberFillsTheSquare)
+{
+    for (const char* number : {"7", "87", "100"}) {
+        for (const QImage& image : pictures.images(text(number))) {
+            EXPECT_EQ(image.width(), image.height());
+            EXPECT_GT(lightPixels(image), image.width()) << number << " in " << image.width();
+        }
+    }
+}
+
+TEST_F(StatusPicturesTest, widePictureGrowsWithTheTitleWithinBounds)
+{
+    const auto width = [this](const QString& image, const QString& title) {
+        const auto images = pictures.images(wide(image, title));
+        EXPECT_EQ(images.size(), 1U);
+        EXPECT_EQ(images.at(0).height(), 44);
+        return images.at(0).width();
+    };
+    const int shortWidth = width({}, QStringLiteral("87%"));
+    EXPECT_GT(width({}, QStringLiteral("87.0% 3:21")), shortWidth);
+    EXPECT_GE(width(names()[0], QStringLiteral("87%")), shortWidth + 40);
+    EXPECT_LE(width(names()[0], QString(10000, QLatin1Char('W'))), 800);
+}
+
+TEST_F(StatusPicturesTest, anyTextCanBeDrawn)
+{
+    for (const char* title : {"\u202e87%", "שלום 87%", "😀", "e\u0301\u0301\u0301", "&amp; <b>"})
+        EXPECT_EQ(pictures.images(wide({}, QString::fromUtf8(title))).size(), 1U) << title;
+}
+
+TEST_F(StatusPicturesTest, transparentPictureIsOnePixelInAFile)
+{
+    EXPECT_TRUE(pictures.images({Picture::Kind::Transparent, {}, {}, 0.0}).empty());
+    const QImage image(pictures.transparentFile());
+    EXPECT_EQ(image.size(), QSize(1, 1));
+    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
+}
+
+TEST_F(StatusPicturesTest, fileHasTheLargestSquare)
+{
+    const QString path = pictures.file(iconPicture(names()[0]));
+    EXPECT_EQ(QImage(path).size(), QSize(44, 44));
+    EXPECT_FALSE(path.contains(QLatin1Char('#')));
+    QFile::remove(path);
+}
+
+TEST(NotifierPixmap, pixelsAreInNetworkOrderAndNotPremultiplied)
+{
+    QImage image(2, 1, QImage::Format_ARGB32_Premultiplied);
+    image.setPixelColor(0, 0, QColor(0x11, 0x22, 0x33, 0xff));
+    image.setPixelColor(1, 0, QColor(255, 255, 255, 0x80));
+    const NotifierPixmap pixmap = notifierPixmap(image);
+    EXPECT_EQ(pixmap.width, 2);
+    EXPECT_EQ(pixmap.height, 1);
+    EXPECT_EQ(pixmap.pixels, QByteArray::fromHex("ff11223380ffffff"));
+}
+
+} // namespace
+} // namespace quindle
