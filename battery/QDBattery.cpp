@@ -1,1 +1,367 @@
 #include "battery/QDBattery.h"
+
+#include <cmath>
+
+#include <QPointer>
+
+#include "battery/BatteryFigures.h"
+#include "battery/BatteryStateRule.h"
+#include "battery/DetailRows.h"
+#include "battery/ManufactureDate.h"
+#include "battery/ManufacturerName.h"
+#include "battery/RatedCapacities.h"
+#include "common/AgeText.h"
+#include "common/Digests.h"
+#include "common/FatalError.h"
+#include "common/NumberConversion.h"
+#include "common/NumberTexts.h"
+#include "common/OptionalText.h"
+#include "common/ValueDescription.h"
+#include "platform/Host.h"
+#include "platform/Platform.h"
+#include "platform/PowerSources.h"
+#include "platform/RunLoop.h"
+#include "platform/UserDefaults.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr double refreshInterval = 5.0;  // seconds
+constexpr double refreshTolerance = 5.0; // lets its ticks fall together with those of slower timers
+
+QString temperatureModeKey()
+{
+    return QStringLiteral("QDBatteryTemperatureMode");
+}
+
+QString ageModeKey()
+{
+    return QStringLiteral("QDBatteryAgeMode");
+}
+
+/// The mode stored under `key`; the stored number must be one of the mode's three.
+template <typename Mode>
+Mode storedMode(const UserDefaults& defaults, const QString& key)
+{
+    const qint64 number = defaults.integer(key);
+    if (number < 0 || number > 2)
+        fatalError(QString(key + QStringLiteral(" is stored out of range")));
+    return static_cast<Mode>(number);
+}
+
+template <typename Mode>
+void storeMode(UserDefaults& defaults, const QString& key, Mode mode)
+{
+    defaults.setInteger(key, static_cast<qint64>(mode));
+}
+
+} // namespace
+
+QDBattery::QDBattery(const Platform& platform, const QString& macModel)
+    : m_platform(platform)
+    , m_macModel(macModel)
+{
+    loadSettings();
+}
+
+QDBattery::~QDBattery()
+{
+    if (m_service != 0)
+        close();
+}
+
+void QDBattery::loadSettings()
+{
+    const UserDefaults& defaults = m_platform.userDefaults.standard();
+    m_temperatureMode = storedMode<TemperatureUnit>(defaults, temperatureModeKey());
+    m_ageMode = storedMode<AgeFieldMode>(defaults, ageModeKey());
+}
+
+IOStatus QDBattery::open()
+{
+    if (m_service != 0)
+        return kIOReturnStillOpen;
+    m_service = m_platform.registry.serviceMatchingName(QStringLiteral("AppleSmartBattery"));
+    return m_service == 0 ? kIOReturnNotFound : kIOReturnSuccess;
+}
+
+IOStatus QDBattery::close()
+{
+    const IOStatus status = m_platform.registry.release(m_service);
+    m_service = 0;
+    return status;
+}
+
+void QDBattery::invokeTimer()
+{
+    const auto refresh = [battery = QPointer<QDBattery>(this)] {
+        if (battery)
+            battery->updateData();
+    };
+    // A former timer is let go of but runs on, so that two calls mean two refreshes per interval.
+    m_updateTimer = m_platform.runLoop.scheduleRepeatingTimer(refreshInterval, refreshTolerance, refresh);
+}
+
+void QDBattery::updateData()
+{
+    updateIdentity();
+    m_cycleCount = cycleCount();
+    updateCapacities();
+    m_temperature = getCustomTemperature();
+    updatePercentages();
+    m_batteryID = generateBatteryID();
+    m_adapterWatt = variantFromOptional(adapterWatt());
+    updateWattThroughput();
+    updateAge();
+    updateState();
+    updateAdapterConnected();
+    permanentFailure(); // read but not shown: the text stays "No Errors"
+    getFailureKeys();
+    updateDetailRows();
+    Q_EMIT changed();
+}
+
+void QDBattery::updateIdentity()
+{
+    m_manufacturer = variantFromOptional(manufacturer(false));
+    m_manufacturerRaw = variantFromOptional(manufacturer_unsafe());
+    m_deviceName = variantFromOptional(deviceName());
+    m_serialNumber = serialNumber();
+}
+
+void QDBattery::updateCapacities()
+{
+    m_reportedDesignCapacity = designCapacity();
+    m_actualDesignCapacity = listActualDesignCapacity(m_macModel);
+    m_designCapacity = m_actualDesignCapacity != 0 ? m_actualDesignCapacity : designCapacity();
+    m_currentCapacity = currentCapacity();
+    m_fullChargeCapacity = maxCapactiy();
+}
+
+void QDBattery::updatePercentages()
+{
+    m_stateOfCharge = percentage(m_currentCapacity, m_fullChargeCapacity);
+    m_stateOfHealth = percentage(m_fullChargeCapacity, m_designCapacity);
+}
+
+void QDBattery::updateWattThroughput()
+{
+    const qint64 millivolts = voltage();
+    m_wattThroughput = wattThroughput(millivolts, amperage());
+}
+
+void QDBattery::updateAge()
+{
+    const QDateTime made = decodeManufactureDate(manufactureDate());
+    const QDateTime now = m_platform.clock.now();
+    m_manufactureDate = made;
+    m_customAge = ageText(static_cast<int>(m_ageMode), made, now);
+    m_legacyAgeInMonths = wholeMonths(made, now);
+}
+
+void QDBattery::updateState()
+{
+    // Three tests and no fourth state: with an adapter that neither charges nor fills, the texts stay as they
+    // were.
+    if (isCharged() && isACPowered())
+        setStateTexts(chargedTexts());
+    if (isCharging()) {
+        const QString timeToFull = avgTimeToFullFormatted();
+        setStateTexts(chargingTexts(timeToFull, isUnknownTime(BatteryRegistryKey::AvgTimeToFull)));
+    }
+    if (!isACPowered() && !isCharging()) {
+        const QString timeToEmpty = avgTimeToEmptyFormatted();
+        setStateTexts(dischargingTexts(timeToEmpty, isUnknownTime(BatteryRegistryKey::AvgTimeToEmpty)));
+    }
+}
+
+void QDBattery::setStateTexts(const BatteryStateTexts& texts)
+{
+    m_batteryState = texts.batteryState;
+    m_stateText = texts.stateText;
+    m_remainingString = texts.remainingString;
+    m_timeRemaining = texts.timeRemaining;
+}
+
+bool QDBattery::isUnknownTime(BatteryRegistryKey key) const
+{
+    return registryInteger(key) == unknownMinutes;
+}
+
+void QDBattery::updateAdapterConnected()
+{
+    m_adapterConnected = isACPowered() ? QStringLiteral("Connected") : QStringLiteral("Not connected");
+}
+
+void QDBattery::updateDetailRows()
+{
+    m_raw = collectAllAvailableDataForBattery();
+    if (m_raw.isEmpty())
+        return;
+    const QVariant health = m_raw.constFirst().toMap().value(QStringLiteral("BatteryHealth"));
+    if (health.isValid())
+        m_batteryHealth = health.toString();
+}
+
+double QDBattery::charge() const
+{
+    const qint64 current = currentCapacity();
+    return std::floor(percentage(current, maxCapactiy()));
+}
+
+QString QDBattery::timeRemainingFormatted() const
+{
+    return formatMinutes(timeRemaining());
+}
+
+QString QDBattery::avgTimeToFullFormatted() const
+{
+    return formatMinutes(avgTimeToFull());
+}
+
+QString QDBattery::avgTimeToEmptyFormatted() const
+{
+    return formatMinutes(avgTimeToEmpty());
+}
+
+QString QDBattery::instantTimeToEmptyFormatted() const
+{
+    return formatMinutes(instantTimeToEmpty());
+}
+
+std::optional<QString> QDBattery::manufacturer(bool raw) const
+{
+    auto reported = manufacturer_unsafe();
+    if (raw || !reported)
+        return reported;
+    return manufacturerName(std::move(*reported));
+}
+
+QString QDBattery::generateBatteryID() const
+{
+    const QString serial = serialNumber();
+    return md5Hex(serial + integerText(manufactureDate()));
+}
+
+std::optional<QString> QDBattery::adapterWatt() const
+{
+    const auto details = m_platform.powerSources.externalAdapterDetails();
+    if (!details)
+        return std::nullopt;
+    const auto watts = details->constFind(QStringLiteral("Watts"));
+    if (watts == details->cend())
+        return std::nullopt;
+    return valueDescription(*watts) + QStringLiteral(" Watts");
+}
+
+double QDBattery::temperatureValue(TemperatureUnit unit) const
+{
+    const auto raw = registryDouble(BatteryRegistryKey::Temperature);
+    return raw ? convertTemperature(*raw, unit) : 0.0;
+}
+
+QString QDBattery::getCustomTemperature() const
+{
+    return shortestText(temperatureValue(m_temperatureMode)) + unitSign(m_temperatureMode);
+}
+
+void QDBattery::toggleTemperatureMode()
+{
+    if (m_temperatureMode == TemperatureUnit::Celsius)
+        m_temperatureMode = TemperatureUnit::Fahrenheit;
+    else if (m_temperatureMode == TemperatureUnit::Fahrenheit)
+        m_temperatureMode = TemperatureUnit::Celsius;
+    m_temperature = getCustomTemperature();
+    storeMode(m_platform.userDefaults.standard(), temperatureModeKey(), m_temperatureMode);
+    Q_EMIT changed();
+}
+
+void QDBattery::toggleAge()
+{
+    m_ageMode = static_cast<AgeFieldMode>((static_cast<int>(m_ageMode) + 1) % 3);
+    if (const auto made = ManufactureDate())
+        m_customAge = ageText(static_cast<int>(m_ageMode), *made, m_platform.clock.now());
+    storeMode(m_platform.userDefaults.standard(), ageModeKey(), m_ageMode);
+    Q_EMIT changed();
+}
+
+qint64 QDBattery::listActualDesignCapacity(const QString& macModel)
+{
+    return ratedCapacity(macModel);
+}
+
+std::optional<QDateTime> QDBattery::calculateManufactureDate(qint64 packed)
+{
+    return decodeManufactureDate(packed);
+}
+
+std::optional<QDateTime> QDBattery::calculateManufactureDate_deprecated(qint64 packed)
+{
+    return decodeManufactureDateByDigits(packed);
+}
+
+QStringList QDBattery::getFailureKeys() const
+{
+    describePowerSources(m_platform.powerSources);
+    return {};
+}
+
+QVariantList QDBattery::collectAllAvailableDataForBattery() const
+{
+    QVariantList rows;
+    for (const QVariantMap& description : describePowerSources(m_platform.powerSources))
+        rows.append(detailRow(description));
+    return rows;
+}
+
+std::optional<QString> QDBattery::Manufacturer() const
+{
+    return convertToText(m_manufacturer);
+}
+
+std::optional<QString> QDBattery::ManufacturerRaw() const
+{
+    return convertToText(m_manufacturerRaw);
+}
+
+std::optional<QString> QDBattery::SerialNumber() const
+{
+    return convertToText(m_serialNumber);
+}
+
+std::optional<QDateTime> QDBattery::ManufactureDate() const
+{
+    if (m_manufactureDate.typeId() != QMetaType::QDateTime)
+        return std::nullopt;
+    return m_manufactureDate.toDateTime();
+}
+
+std::optional<QString> QDBattery::DeviceName() const
+{
+    return convertToText(m_deviceName);
+}
+
+std::optional<QString> QDBattery::AdapterWatt() const
+{
+    return convertToText(m_adapterWatt);
+}
+
+QString QDBattery::CycleCount_Desc()
+{
+    return QStringLiteral("The number of charge/discharge cycles the battery has experienced.");
+}
+
+QString QDBattery::ReportedDesignCapacity_Desc()
+{
+    return QStringLiteral(
+        "The capacity the battery reports it had after it left the factory. (stored in the Firmware)");
+}
+
+QString QDBattery::ActualDesignCapacity_Desc()
+{
+    return QStringLiteral(
+        "The actual capacity the battery had after it left the factory. (reported by the manufacturer)");
+}
+
+} // namespace quindle

@@ -14,16 +14,17 @@
 
 namespace quindle {
 
-struct Platform;
 class Timer;
+struct BatteryStateTexts;
+struct Platform;
 
 /// How an age is shown; stored as its number.
 enum class AgeFieldMode { Days = 0, Months = 1, Years = 2 };
 
-/// The model of the one battery: finds its registry entry ("AppleSmartBattery"), reads single values on demand
-/// and copies at each refresh what the rest of the program shows into properties, which are read by key for
-/// the interface bindings. Capacities are in mAh, voltages in mV, currents in mA (negative while discharging),
-/// times in minutes (65535: not known yet), percentages unrounded.
+/// The model of the one battery: finds its registry entry ("AppleSmartBattery"), reads single values on
+/// demand and copies at each refresh what the rest of the program shows into properties, which are read by
+/// key for the interface bindings. Capacities are in mAh, voltages in mV, currents in mA (negative while
+/// discharging), times in minutes (65535: not known yet), percentages unrounded.
 ///
 /// A registry value of another type than expected, and a stored mode outside 0 to 2, end the program. A value
 /// that is missing reads as 0, false, empty or nothing, as each function says. Main thread only.
@@ -89,29 +90,29 @@ public:
     QVariantMap getRawData() const;
 
     // One registry value each, read now. Integers are 0, booleans false when the key is missing.
-    QString serialNumber() const;                          ///< "BatterySerialNumber"; empty when missing
-    std::optional<QString> deviceName() const;             ///< "DeviceName"
-    std::optional<QString> manufacturer_unsafe() const;    ///< "Manufacturer"
-    qint64 manufactureDate() const;                        ///< "ManufactureDate", packed
-    qint64 currentCapacity() const;                        ///< "CurrentCapacity"
-    qint64 maxCapactiy() const;                            ///< "MaxCapacity"; the spelling is part of the interface
-    qint64 designCapacity() const;                         ///< "DesignCapacity"
-    qint64 cycleCount() const;                             ///< "CycleCount"
-    qint64 voltage() const;                                ///< "Voltage"
-    qint64 amperage() const;                               ///< "Amperage"
-    qint64 instantAmperage() const;                        ///< "InstantAmperage"
-    qint64 designCycleCount() const;                       ///< "DesignCycleCount9C"
-    bool isACPowered() const;                              ///< "ExternalConnected"
-    bool isCharging() const;                               ///< "IsCharging"
-    bool isCharged() const;                                ///< "FullyCharged"
-    qint64 timeRemaining() const;                          ///< "TimeRemaining"
-    qint64 avgTimeToEmpty() const;                         ///< "AvgTimeToEmpty"
-    qint64 avgTimeToFull() const;                          ///< "AvgTimeToFull"
-    qint64 instantTimeToEmpty() const;                     ///< "InstantTimeToEmpty"
-    qint64 permanentFailure() const;                       ///< "PermanentFailureStatus", failure bits
+    QString serialNumber() const;                       ///< "BatterySerialNumber"; empty when missing
+    std::optional<QString> deviceName() const;          ///< "DeviceName"
+    std::optional<QString> manufacturer_unsafe() const; ///< "Manufacturer"
+    qint64 manufactureDate() const;                     ///< "ManufactureDate", packed
+    qint64 currentCapacity() const;                     ///< "CurrentCapacity"
+    qint64 maxCapactiy() const;        ///< "MaxCapacity"; the spelling is part of the interface
+    qint64 designCapacity() const;     ///< "DesignCapacity"
+    qint64 cycleCount() const;         ///< "CycleCount"
+    qint64 voltage() const;            ///< "Voltage"
+    qint64 amperage() const;           ///< "Amperage"
+    qint64 instantAmperage() const;    ///< "InstantAmperage"
+    qint64 designCycleCount() const;   ///< "DesignCycleCount9C"
+    bool isACPowered() const;          ///< "ExternalConnected"
+    bool isCharging() const;           ///< "IsCharging"
+    bool isCharged() const;            ///< "FullyCharged"
+    qint64 timeRemaining() const;      ///< "TimeRemaining"
+    qint64 avgTimeToEmpty() const;     ///< "AvgTimeToEmpty"
+    qint64 avgTimeToFull() const;      ///< "AvgTimeToFull"
+    qint64 instantTimeToEmpty() const; ///< "InstantTimeToEmpty"
+    qint64 permanentFailure() const;   ///< "PermanentFailureStatus", failure bits
 
-    /// The charge in whole percent, straight from the registry: the floor of current ÷ full × 100. Infinite or
-    /// not a number when the full-charge capacity is 0.
+    /// The charge in whole percent, straight from the registry: the floor of current ÷ full × 100. Infinite
+    /// or not a number when the full-charge capacity is 0.
     double charge() const;
 
     // One time each, read now, through `formatMinutes`; a missing key gives "0:00", 65535 gives "1092:15".
@@ -154,7 +155,8 @@ public:
     /// is fatal.
     QStringList getFailureKeys() const;
 
-    /// One row of texts for each power source, in the service's order. A service that cannot be asked is fatal.
+    /// One row of texts for each power source, in the service's order. A service that cannot be asked is
+    /// fatal.
     QVariantList collectAllAvailableDataForBattery() const;
 
     TemperatureUnit temperatureMode() const { return m_temperatureMode; }
@@ -201,14 +203,18 @@ Q_SIGNALS:
 private:
     QVariant registryValue(BatteryRegistryKey key) const;
     qint64 registryInteger(BatteryRegistryKey key) const;
+    std::optional<double> registryDouble(BatteryRegistryKey key) const;
     bool registryBoolean(BatteryRegistryKey key) const;
     std::optional<QString> registryText(BatteryRegistryKey key) const;
 
     void updateIdentity();
     void updateCapacities();
-    void updateFigures();
+    void updatePercentages();
+    void updateWattThroughput();
     void updateAge();
     void updateState();
+    void setStateTexts(const BatteryStateTexts& texts);
+    bool isUnknownTime(BatteryRegistryKey key) const;
     void updateAdapterConnected();
     void updateDetailRows();
 
@@ -232,7 +238,8 @@ private:
     qint64 m_fullChargeCapacity = 0;
     QString m_batteryHealth = QStringLiteral("");
     QString m_batteryState = QStringLiteral("");
-    QString m_stateText = QStringLiteral("Chargin with"); // spelled so: the initial text is part of the interface
+    QString m_stateText =
+        QStringLiteral("Chargin with"); // spelled so: the initial text is part of the interface
     QString m_timeRemaining = QStringLiteral("");
     QString m_remainingString = QStringLiteral("Time until empty");
     QVariant m_adapterWatt;

@@ -14,8 +14,8 @@ class QDBattery;
 struct Platform;
 
 /// The model of the computer: model identifier, serial number, names, build date and age, and the battery it
-/// owns. Its values are read once, when it is made; only `toggleAge` changes one of them afterwards. Texts may
-/// be missing (invalid when read by key), which is not the same as empty. Main thread only.
+/// owns. Its values are read once, when it is made; only `toggleAge` changes one of them afterwards. Texts
+/// may be missing (invalid when read by key), which is not the same as empty. Main thread only.
 class QDMac : public QObject
 {
     Q_OBJECT
@@ -41,8 +41,8 @@ public:
     static std::unique_ptr<QDMac> initWithDemoMode(const Platform& platform, bool demoMode);
 
     /// A computer with nothing but the initial values. The arguments are not used.
-    static std::unique_ptr<QDMac> initWithHost(const Platform& platform, const QString& host, const QString& user,
-                                               const QString& pass);
+    static std::unique_ptr<QDMac> initWithHost(const Platform& platform, const QString& host,
+                                               const QString& user, const QString& pass);
 
     ~QDMac() override;
 
@@ -52,7 +52,8 @@ public:
     /// Days → months → years → days for `CustomAge`, and stores the mode ("QDMacAgeMode").
     Q_INVOKABLE void toggleAge();
 
-    /// The identifier of this computer in snapshots: the MD5 digest of serial number and model, both read anew.
+    /// The identifier of this computer in snapshots: the MD5 digest of serial number and model, both read
+    /// anew.
     QString generateMacID() const;
 
     /// The characters of the serial number, read anew, that date the computer; empty for an unusual length.

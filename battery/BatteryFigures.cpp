@@ -1,0 +1,18 @@
+#include "battery/BatteryFigures.h"
+
+#include <cmath>
+
+namespace quindle {
+
+double percentage(qint64 part, qint64 whole)
+{
+    return static_cast<double>(part) / static_cast<double>(whole) * 100.0;
+}
+
+double wattThroughput(qint64 voltage, qint64 amperage)
+{
+    const double amperes = static_cast<double>(amperage) / 1000.0;
+    return std::fabs(static_cast<double>(voltage) * amperes / 1000.0);
+}
+
+} // namespace quindle

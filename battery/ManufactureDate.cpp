@@ -1,0 +1,44 @@
+#include "battery/ManufactureDate.h"
+
+#include "common/GregorianMonths.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr qint64 firstYear = 1980;
+constexpr int dayBits = 5;
+constexpr int monthBits = 4;
+constexpr int yearBits = 64 - dayBits - monthBits;
+
+QDate lenientDay(qint64 year, qint64 month, qint64 day)
+{
+    return firstOfMonth(monthNumber(year, month)).addDays(day - 1);
+}
+
+qint64 fromBinary(const QString& digits)
+{
+    return static_cast<qint64>(digits.toULongLong(nullptr, 2));
+}
+
+} // namespace
+
+QDateTime decodeManufactureDate(qint64 packed)
+{
+    const qint64 year = (packed >> (dayBits + monthBits)) + firstYear;
+    const qint64 month = (packed >> dayBits) & 15;
+    const qint64 day = packed & 31;
+    return startOfLocalDay(lenientDay(year, month, day));
+}
+
+QDateTime decodeManufactureDateByDigits(qint64 packed)
+{
+    const QString digits = QString::number(static_cast<quint64>(packed), 2).rightJustified(64, u'0');
+    const qint64 day = fromBinary(digits.right(dayBits));
+    const qint64 month = fromBinary(digits.mid(yearBits, monthBits));
+    const qint64 unsignedYear = fromBinary(digits.left(yearBits));
+    const qint64 year = packed < 0 ? unsignedYear - (qint64{1} << yearBits) : unsignedYear;
+    return {lenientDay(year + firstYear, month, day), QTime(12, 0)};
+}
+
+} // namespace quindle

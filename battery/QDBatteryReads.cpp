@@ -1,0 +1,173 @@
+// The single values of the registry entry, each read when it is asked for, and their forced conversions.
+
+#include "battery/QDBattery.h"
+#include "common/FatalError.h"
+#include "common/NumberConversion.h"
+#include "platform/Platform.h"
+
+namespace quindle {
+
+namespace {
+
+[[noreturn]] void failConversion(BatteryRegistryKey key)
+{
+    fatalError(QString(registryKeyText(key) + QStringLiteral(" has an unexpected type in the registry")));
+}
+
+} // namespace
+
+QVariantMap QDBattery::getRawData() const
+{
+    return m_platform.registry.properties(m_service);
+}
+
+QString QDBattery::serialNumber() const
+{
+    return registryText(BatteryRegistryKey::BatterySerialNumber).value_or(QStringLiteral(""));
+}
+
+std::optional<QString> QDBattery::deviceName() const
+{
+    return registryText(BatteryRegistryKey::DeviceName);
+}
+
+std::optional<QString> QDBattery::manufacturer_unsafe() const
+{
+    return registryText(BatteryRegistryKey::Manufacturer);
+}
+
+qint64 QDBattery::manufactureDate() const
+{
+    return registryInteger(BatteryRegistryKey::ManufactureDate);
+}
+
+qint64 QDBattery::currentCapacity() const
+{
+    return registryInteger(BatteryRegistryKey::CurrentCapacity);
+}
+
+qint64 QDBattery::maxCapactiy() const
+{
+    return registryInteger(BatteryRegistryKey::MaxCapacity);
+}
+
+qint64 QDBattery::designCapacity() const
+{
+    return registryInteger(BatteryRegistryKey::DesignCapacity);
+}
+
+qint64 QDBattery::cycleCount() const
+{
+    return registryInteger(BatteryRegistryKey::CycleCount);
+}
+
+qint64 QDBattery::voltage() const
+{
+    return registryInteger(BatteryRegistryKey::Voltage);
+}
+
+qint64 QDBattery::amperage() const
+{
+    return registryInteger(BatteryRegistryKey::Amperage);
+}
+
+qint64 QDBattery::instantAmperage() const
+{
+    return registryInteger(BatteryRegistryKey::InstantAmperage);
+}
+
+qint64 QDBattery::designCycleCount() const
+{
+    return registryInteger(BatteryRegistryKey::DesignCycleCount9C);
+}
+
+bool QDBattery::isACPowered() const
+{
+    return registryBoolean(BatteryRegistryKey::ExternalConnected);
+}
+
+bool QDBattery::isCharging() const
+{
+    return registryBoolean(BatteryRegistryKey::IsCharging);
+}
+
+bool QDBattery::isCharged() const
+{
+    return registryBoolean(BatteryRegistryKey::FullyCharged);
+}
+
+qint64 QDBattery::timeRemaining() const
+{
+    return registryInteger(BatteryRegistryKey::TimeRemaining);
+}
+
+qint64 QDBattery::avgTimeToEmpty() const
+{
+    return registryInteger(BatteryRegistryKey::AvgTimeToEmpty);
+}
+
+qint64 QDBattery::avgTimeToFull() const
+{
+    return registryInteger(BatteryRegistryKey::AvgTimeToFull);
+}
+
+qint64 QDBattery::instantTimeToEmpty() const
+{
+    return registryInteger(BatteryRegistryKey::InstantTimeToEmpty);
+}
+
+qint64 QDBattery::permanentFailure() const
+{
+    return registryInteger(BatteryRegistryKey::PermanentFailureStatus);
+}
+
+QVariant QDBattery::registryValue(BatteryRegistryKey key) const
+{
+    return m_platform.registry.property(m_service, registryKeyText(key));
+}
+
+qint64 QDBattery::registryInteger(BatteryRegistryKey key) const
+{
+    const QVariant value = registryValue(key);
+    if (!value.isValid())
+        return 0;
+    const auto integer = convertToInteger(value);
+    if (!integer)
+        failConversion(key);
+    return *integer;
+}
+
+std::optional<double> QDBattery::registryDouble(BatteryRegistryKey key) const
+{
+    const QVariant value = registryValue(key);
+    if (!value.isValid())
+        return std::nullopt;
+    const auto number = convertToDouble(value);
+    if (!number)
+        failConversion(key);
+    return number;
+}
+
+bool QDBattery::registryBoolean(BatteryRegistryKey key) const
+{
+    const QVariant value = registryValue(key);
+    if (!value.isValid())
+        return false;
+    const auto boolean = convertToBoolean(value);
+    if (!boolean)
+        failConversion(key);
+    return *boolean;
+}
+
+std::optional<QString> QDBattery::registryText(BatteryRegistryKey key) const
+{
+    const QVariant value = registryValue(key);
+    if (!value.isValid())
+        return std::nullopt;
+    auto text = convertToText(value);
+    if (!text)
+        failConversion(key);
+    return text;
+}
+
+} // namespace quindle

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+
+/// The two values that the computer's own registry entry ("IOPlatformExpertDevice") tells. Each read opens
+/// the entry anew and gives it back.
+namespace quindle {
+
+class IORegistry;
+
+/// The model identifier: the bytes of "model" up to the first NUL. Nothing without entry or property, and for
+/// bytes that are no UTF-8; a value that is no data is fatal.
+std::optional<QString> readModelIdentifier(IORegistry& registry);
+
+/// The serial number. Nothing without entry or property; a value that is no text is fatal.
+std::optional<QString> readSerialNumber(IORegistry& registry);
+
+} // namespace quindle

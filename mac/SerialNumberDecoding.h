@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+
+#include <QDateTime>
+#include <QString>
+
+/// What a serial number tells. Two layouts are known, of 11 and of 12 characters; characters are those a
+/// person perceives, so that a letter with a combining mark is one.
+namespace quindle {
+
+/// The build date. Nothing for a serial that is neither 11 nor 12 characters long, and for one of 11
+/// characters whose week is no number. Unknown codes are no error: their year is 2000, their week (of 12
+/// characters) 1.
+std::optional<QDateTime> buildDate(const QString& serial);
+
+/// The characters that date the computer: positions 3 to 5 of 11, 4 and 5 of 12; empty for another length.
+QString dateCharacters(const QString& serial);
+
+/// The configuration code: the last three of 11, the last four of 12; empty for another length.
+QString configurationCode(const QString& serial);
+
+} // namespace quindle
