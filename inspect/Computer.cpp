@@ -26,25 +26,27 @@ Computer::Computer(Machine machine, bool isRecorded, const QString& sysfsDirecto
     : m_machine(std::move(machine))
     , m_linux(sysfsDirectory)
     , m_recorded(m_machine.keys, m_linux.bundle())
-    , m_settings(isRecorded ? m_recorded.userDefaults : m_linux.userDefaults())
+    , m_settings(isRecorded ? static_cast<UserDefaultsDatabases&>(m_recorded.userDefaults)
+                            : m_linux.userDefaults())
     , m_platform(isRecorded ? m_recorded.platform() : thisComputer())
 {
 }
 
 Platform Computer::thisComputer()
 {
+    const Platform linux = m_linux.services(m_recorded.statusBar);
     return {
-        .registry = m_linux.registry(),
-        .powerSources = m_linux.powerSources(),
+        .registry = linux.registry,
+        .powerSources = linux.powerSources,
         .userDefaults = m_settings,
         .notificationCenter = m_recorded.notificationCenter,
         .distributedNotificationCenter = m_recorded.distributedNotificationCenter,
         .workspaceNotifications = m_recorded.workspaceNotifications,
         .workspace = m_recorded.workspace,
-        .bundle = m_linux.bundle(),
-        .clock = m_linux.clock(),
-        .host = m_linux.host(),
-        .systemFiles = m_linux.systemFiles(),
+        .bundle = linux.bundle,
+        .clock = linux.clock,
+        .host = linux.host,
+        .systemFiles = linux.systemFiles,
         .runLoop = m_recorded.runLoop,
         .statusBar = m_recorded.statusBar,
         .application = m_recorded.application,
