@@ -1,0 +1,100 @@
+#include "app/MachineSteps.h"
+
+#include <chrono>
+
+#include <QTimer>
+
+#include "app/HelperAppDelegate.h"
+#include "battery/QDBattery.h"
+#include "mac/QDMac.h"
+#include "platform/Platform.h"
+#include "platform/recorded/RecordedPlatform.h"
+
+namespace quindle {
+
+namespace {
+
+void playOnBattery(MachineAction action, QDBattery& battery)
+{
+    switch (action) {
+    case MachineAction::BatteryToggleAge:
+        battery.toggleAge();
+        break;
+    case MachineAction::BatteryToggleTemperatureMode:
+        battery.toggleTemperatureMode();
+        break;
+    case MachineAction::BatteryLoadSettings:
+        battery.loadSettings();
+        break;
+    case MachineAction::BatteryClose:
+        battery.close();
+        break;
+    case MachineAction::BatteryOpen:
+        battery.open();
+        break;
+    default:
+        break;
+    }
+}
+
+void play(MachineAction action, RecordedPlatform& recorded, const Platform& platform,
+          HelperAppDelegate& delegate)
+{
+    switch (action) {
+    case MachineAction::MacToggleAge:
+        delegate.myMac().toggleAge();
+        break;
+    case MachineAction::Sleep:
+        recorded.workspaceNotifications.sleep();
+        break;
+    case MachineAction::Wake:
+        recorded.workspaceNotifications.wake();
+        break;
+    case MachineAction::SettingsChanged:
+        platform.distributedNotificationCenter.post(QStringLiteral("SettingsChangedNotification"));
+        break;
+    case MachineAction::WillUpdateImmediately:
+        platform.distributedNotificationCenter.post(QStringLiteral("WillUpdateImmediately"));
+        break;
+    case MachineAction::OpenApplication:
+        delegate.openApplication();
+        break;
+    default:
+        if (QDBattery* battery = delegate.myMac().Battery())
+            playOnBattery(action, *battery);
+    }
+}
+
+void playFrom(std::size_t index, const std::vector<MachineStep>& steps, RecordedPlatform& recorded,
+              const Platform& platform, HelperAppDelegate& delegate)
+{
+    if (index >= steps.size())
+        return;
+    const auto wait = std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::duration<double>(steps[index].after));
+    QTimer::singleShot(wait, &delegate, [index, &steps, &recorded, &platform, &delegate] {
+        playStep(steps[index], recorded, platform, delegate);
+        playFrom(index + 1, steps, recorded, platform, delegate);
+    });
+}
+
+} // namespace
+
+void playStep(const MachineStep& step, RecordedPlatform& recorded, const Platform& platform,
+              HelperAppDelegate& delegate)
+{
+    recorded.computer.enter(step);
+    for (const MachineAction action : step.actions)
+        play(action, recorded, platform, delegate);
+    if (QDBattery* battery = delegate.myMac().Battery())
+        battery->updateData();
+    delegate.updateStatusBarTitle();
+}
+
+void playStepsInTime(const std::vector<MachineStep>& steps, RecordedPlatform& recorded,
+                     const Platform& platform, HelperAppDelegate& delegate)
+{
+    playFrom(0, steps, recorded, platform, delegate);
+}
+
+} // namespace quindle

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/recorded/MachineFile.h"
+
+namespace quindle {
+
+class HelperAppDelegate;
+struct Platform;
+struct RecordedPlatform;
+
+/// Plays one later state of a recorded computer to a launched helper: the state is entered, the actions
+/// happen in their order, then the battery (where the computer has one) and the status item are refreshed
+/// once each. `distributed` notifications and others go through `platform`, the services that the helper was
+/// given.
+void playStep(const MachineStep& step, RecordedPlatform& recorded, const Platform& platform,
+              HelperAppDelegate& delegate);
+
+/// Plays each step on the main loop at its time, `MachineStep::after` seconds after the one before, the first
+/// counted from now. All arguments must live as long as the delegate; destroying it ends the play.
+void playStepsInTime(const std::vector<MachineStep>& steps, RecordedPlatform& recorded,
+                     const Platform& platform, HelperAppDelegate& delegate);
+
+} // namespace quindle

@@ -1,0 +1,158 @@
+#include "inspect/Capture.h"
+
+#include <QDir>
+#include <QSaveFile>
+
+#include "common/PropertyList.h"
+#include "inspect/InventedSerial.h"
+#include "inspect/SettingsDatabases.h"
+#include "mac/QDMac.h"
+#include "platform/Bundle.h"
+#include "platform/Host.h"
+#include "platform/IORegistry.h"
+#include "platform/Platform.h"
+#include "platform/PowerSources.h"
+#include "platform/UserDefaults.h"
+
+namespace quindle {
+
+namespace {
+
+QString batteryEntry()
+{
+    return QStringLiteral("AppleSmartBattery");
+}
+
+QString computerEntry()
+{
+    return QStringLiteral("IOPlatformExpertDevice");
+}
+
+void addRegistryEntry(QVariantMap& entries, IORegistry& registry, RegistryObject object, const QString& name)
+{
+    if (object == 0)
+        return;
+    entries.insert(name, registry.properties(object));
+    registry.release(object);
+}
+
+QVariantMap capturedRegistry(IORegistry& registry)
+{
+    QVariantMap entries;
+    addRegistryEntry(entries, registry, registry.serviceMatchingName(batteryEntry()), batteryEntry());
+    addRegistryEntry(entries, registry, registry.serviceMatchingClass(computerEntry()), computerEntry());
+    return entries;
+}
+
+void addPowerSources(QVariantMap& keys, PowerSources& powerSources)
+{
+    if (const auto details = powerSources.externalAdapterDetails())
+        keys.insert(QStringLiteral("AdapterDetails"), *details);
+    const std::optional<int> count = powerSources.sourceCount();
+    if (!count)
+        return;
+    QVariantList descriptions;
+    for (int source = 0; source < *count; ++source)
+        descriptions.append(powerSources.description(source).value_or(QVariantMap()));
+    keys.insert(QStringLiteral("PowerSources"), descriptions);
+}
+
+QVariantMap capturedFiles(const SystemFiles& systemFiles)
+{
+    const QStringList paths{QStringLiteral("/System/Library/CoreServices/SystemVersion.plist"),
+                            QDMac::privateFrameworksURL()};
+    QVariantMap files;
+    for (const QString& path : paths)
+        if (const auto file = systemFiles.propertyList(path))
+            files.insert(path, *file);
+    return files;
+}
+
+QVariantMap capturedBundle(const Bundle& bundle)
+{
+    QVariantMap captured{{QStringLiteral("Path"), bundle.path()}};
+    if (const auto info = bundle.infoDictionary())
+        captured.insert(QStringLiteral("Info"), *info);
+    return captured;
+}
+
+bool isSuiteUnavailable(UserDefaultsDatabases& userDefaults)
+{
+    return userDefaults.suite(QStringLiteral("group.fernhollow.Quindle")) == nullptr;
+}
+
+std::vector<SerialPair> inventedSerials(const QVariantMap& registry)
+{
+    const auto text = [&](const QString& entry, const QString& key) {
+        return registry.value(entry).toMap().value(key).toString();
+    };
+    const QString computer = text(computerEntry(), QStringLiteral("IOPlatformSerialNumber"));
+    const QString battery = text(batteryEntry(), QStringLiteral("BatterySerialNumber"));
+    const QStringList both{computer, battery};
+    return {{computer, inventedSerial(computer, true, both)},
+            {battery, inventedSerial(battery, false, both)}};
+}
+
+QVariantMap withoutModelCache(QVariantMap databases)
+{
+    for (QVariant& database : databases) {
+        QVariantMap settings = database.toMap();
+        settings.remove(QStringLiteral("modelStringCache"));
+        database = settings;
+    }
+    return databases;
+}
+
+QVariantMap withoutHomeFolder(QVariantMap bundle)
+{
+    const QString home = QDir::homePath() + u'/';
+    const QString path = bundle.value(QStringLiteral("Path")).toString();
+    if (path.startsWith(home))
+        bundle.insert(QStringLiteral("Path"), QStringLiteral("/home/user/") + path.mid(home.size()));
+    return bundle;
+}
+
+} // namespace
+
+QVariantMap capturedKeys(const Platform& platform)
+{
+    QVariantMap keys{
+        {QStringLiteral("Registry"), capturedRegistry(platform.registry)},
+        {QStringLiteral("Files"), capturedFiles(platform.systemFiles)},
+        {QStringLiteral("HostName"), platform.host.localizedName()},
+        {QStringLiteral("Bundle"), capturedBundle(platform.bundle)},
+        {QStringLiteral("Defaults"), settingsDatabases(platform.userDefaults)},
+        {QStringLiteral("Now"), platform.clock.now()},
+    };
+    addPowerSources(keys, platform.powerSources);
+    if (isSuiteUnavailable(platform.userDefaults))
+        keys.insert(QStringLiteral("SuiteUnavailable"), true);
+    return keys;
+}
+
+QVariantMap withoutIdentity(const QVariantMap& keys)
+{
+    QVariantMap clean = keys;
+    const auto edit = [&clean](const QString& key, QVariantMap (*change)(QVariantMap)) {
+        if (clean.contains(key))
+            clean.insert(key, change(clean.value(key).toMap()));
+    };
+    edit(QStringLiteral("Defaults"), withoutModelCache);
+    edit(QStringLiteral("Bundle"), withoutHomeFolder);
+    clean.insert(QStringLiteral("HostName"), QStringLiteral("Computer"));
+    const std::vector<SerialPair> serials = inventedSerials(keys.value(QStringLiteral("Registry")).toMap());
+    for (QVariant& value : clean) // the format's own keys stay, whatever the serials are
+        value = withoutSerials(value, serials);
+    return clean;
+}
+
+QString writeMachineFile(const QString& path, const QVariantMap& keys)
+{
+    QSaveFile file(path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
+                           file.write(xmlPropertyList(keys)) >= 0 && file.commit();
+    return isWritten ? QString() : file.errorString();
+}
+
+} // namespace quindle

@@ -1,0 +1,163 @@
+#include "inspect/CommandLine.h"
+
+namespace quindle {
+
+namespace {
+
+/// The options as they were given, before they are weighed against each other.
+struct Given
+{
+    bool help = false;
+    bool version = false;
+    bool json = false;
+    bool withSerials = false;
+    bool demo = false;
+    std::optional<QString> capture;
+    std::optional<QString> machine;
+    std::optional<QString> sysfs;
+};
+
+struct Flag
+{
+    const char* name;
+    bool Given::*member;
+};
+
+constexpr Flag flags[] = {
+    {"--help", &Given::help},
+    {"-h", &Given::help},
+    {"--version", &Given::version},
+    {"--json", &Given::json},
+    {"--with-serials", &Given::withSerials},
+    {"--demo", &Given::demo},
+};
+
+struct Option
+{
+    const char* name;
+    std::optional<QString> Given::*member;
+};
+
+constexpr Option options[] = {
+    {"--capture", &Given::capture},
+    {"--machine", &Given::machine},
+    {"--sysfs", &Given::sysfs},
+};
+
+bool takeFlag(const QString& argument, Given& given)
+{
+    for (const Flag& flag : flags) {
+        if (argument != QLatin1String(flag.name))
+            continue;
+        given.*flag.member = true;
+        return true;
+    }
+    return false;
+}
+
+/// Takes "--name value" or "--name=value". True when the argument is such an option; `fault` tells a missing
+/// value.
+bool takeOption(const QStringList& arguments, qsizetype& index, Given& given, QString& fault)
+{
+    const QString argument = arguments[index];
+    for (const Option& option : options) {
+        const QLatin1String name(option.name);
+        if (argument == name && index + 1 < arguments.size())
+            given.*option.member = arguments[++index];
+        else if (argument.startsWith(name + QStringLiteral("=")))
+            given.*option.member = argument.mid(name.size() + 1);
+        else if (argument != name)
+            continue;
+        if (!(given.*option.member) || (given.*option.member)->isEmpty())
+            fault = QStringLiteral("%1 needs a value").arg(name);
+        return true;
+    }
+    return false;
+}
+
+QString readArguments(const QStringList& arguments, Given& given)
+{
+    QString fault;
+    for (qsizetype index = 0; index < arguments.size() && fault.isEmpty(); ++index) {
+        if (takeFlag(arguments[index], given) || takeOption(arguments, index, given, fault))
+            continue;
+        fault = QStringLiteral("unknown argument \"%1\"").arg(arguments[index]);
+    }
+    return fault;
+}
+
+QString contradiction(const Given& given)
+{
+    if (given.json && given.capture)
+        return QStringLiteral("--json and --capture exclude each other");
+    if (given.withSerials && !given.capture)
+        return QStringLiteral("--with-serials belongs to --capture");
+    return {};
+}
+
+CommandLine::Call callOf(const Given& given)
+{
+    if (given.help)
+        return CommandLine::Call::Help;
+    if (given.version)
+        return CommandLine::Call::Version;
+    if (given.json)
+        return CommandLine::Call::Json;
+    return given.capture ? CommandLine::Call::Capture : CommandLine::Call::Report;
+}
+
+/// The computer of an option, else of the environment; the machine file first in both.
+void chooseComputer(const Given& given, const InspectEnvironment& environment, CommandLine& commandLine)
+{
+    if (given.machine)
+        commandLine.machineFile = *given.machine;
+    else if (given.sysfs)
+        commandLine.sysfsDirectory = *given.sysfs;
+    else if (!environment.machineFile.isEmpty())
+        commandLine.machineFile = environment.machineFile;
+    else
+        commandLine.sysfsDirectory = environment.sysfsDirectory;
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList& arguments, const InspectEnvironment& environment)
+{
+    Given given;
+    CommandLine commandLine;
+    commandLine.fault = readArguments(arguments, given);
+    if (commandLine.fault.isEmpty())
+        commandLine.fault = contradiction(given);
+    commandLine.call = callOf(given);
+    commandLine.captureFile = given.capture.value_or(QString());
+    commandLine.withSerials = given.withSerials;
+    commandLine.demo = given.demo;
+    chooseComputer(given, environment, commandLine);
+    return commandLine;
+}
+
+QString helpText()
+{
+    return QStringLiteral(
+        "Usage: quindle-inspect [--json | --capture FILE [--with-serials]] [--demo]\n"
+        "                       [--machine FILE | --sysfs DIR]\n"
+        "\n"
+        "Prints what Quindle Helper knows of this computer and its battery, and what it would show.\n"
+        "Sends nothing over the network, changes no settings and shows no window.\n"
+        "\n"
+        "  --json            one JSON object on one line; with a machine file one more for each of its "
+        "steps\n"
+        "  --capture FILE    write this computer as a machine file, replacing FILE; serial numbers and the\n"
+        "                    computer's name are replaced by invented ones\n"
+        "  --with-serials    with --capture: keep the true serial numbers, name and model cache\n"
+        "  --demo            the demonstration computer\n"
+        "  --machine FILE    a recorded computer instead of this one (environment: QUINDLE_MACHINE)\n"
+        "  --sysfs DIR       read DIR in place of /sys (environment: QUINDLE_SYSFS)\n"
+        "  -h, --help        this text\n"
+        "  --version         the version\n"
+        "\n"
+        "An option beats the environment; a machine file beats a sysfs folder.\n"
+        "Exit status: 0; 2 for wrong usage, a refused machine file or a file that cannot be written.\n");
+}
+
+} // namespace quindle

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+#include <variant>
+#include <vector>
+
+#include <QString>
+
+#include "platform/Platform.h"
+#include "platform/linux/LinuxPlatform.h"
+#include "platform/recorded/MachineFile.h"
+#include "platform/recorded/OverlaidUserDefaults.h"
+#include "platform/recorded/RecordedPlatform.h"
+
+namespace quindle {
+
+class HelperAppDelegate;
+struct CommandLine;
+struct RecentEvents;
+
+/// The computer that a call looks at: a machine file's, or this one. Either way nothing is shown, sent or
+/// stored: status bar, run loop, workspace and notifications are recorded ones, and settings are written in
+/// memory only.
+class Computer
+{
+public:
+    /// The computer that the call names, or the line that tells why its machine file is refused.
+    static std::variant<std::unique_ptr<Computer>, MachineRefusal> open(const CommandLine& commandLine);
+
+    const Platform& platform() const { return m_platform; }
+
+    /// How many later states there are; 0 for this computer.
+    std::size_t stepCount() const { return m_machine.steps.size(); }
+
+    /// Plays one of them to a launched helper.
+    void playStep(std::size_t index, HelperAppDelegate& delegate);
+
+    /// What the recorded services were told since the last call; the refreshes are not theirs to count.
+    RecentEvents takeEvents();
+
+private:
+    Computer(Machine machine, bool isRecorded, const QString& sysfsDirectory);
+
+    Platform thisComputer();
+
+    Machine m_machine;
+    LinuxPlatform m_linux;
+    RecordedPlatform m_recorded;
+    OverlaidUserDefaultsDatabases m_settings;
+    Platform m_platform;
+};
+
+} // namespace quindle

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+
+#include <QVariantMap>
+
+#include "app/ApplicationPreferences.h"
+#include "app/HelperAppDelegate.h"
+#include "menubar/MainInterface.h"
+#include "preferences/PreferencesPresenter.h"
+
+namespace quindle {
+
+class Computer;
+
+/// The helper's own objects, launched on a computer and looked at instead of shown.
+class Inspection
+{
+public:
+    /// Constructs and launches the helper. `isDemo` puts the demonstration computer's model in place of the
+    /// computer's own.
+    Inspection(Computer& computer, bool isDemo);
+
+    /// Plays one later state of the computer.
+    void playStep(std::size_t index);
+
+    /// The present state (see JsonState.h); the events told are those since the last call.
+    QVariantMap takeState();
+
+    const QDMac& mac() const { return m_delegate.myMac(); }
+
+private:
+    class NoPreferencesWindow : public PreferencesPresenter
+    {
+    public:
+        void showPreferencesWindow() override {}
+    };
+
+    Computer& m_computer;
+    NoPreferencesWindow m_preferencesWindow;
+    ApplicationPreferences m_preferences;
+    MainInterface m_interface;
+    HelperAppDelegate m_delegate;
+    int m_refreshes = 0;
+};
+
+} // namespace quindle

@@ -1,0 +1,167 @@
+#include "inspect/JsonState.h"
+
+#include <QMetaProperty>
+
+#include "app/ApplicationPreferences.h"
+#include "app/HelperAppDelegate.h"
+#include "battery/QDBattery.h"
+#include "inspect/SettingsDatabases.h"
+#include "mac/QDMac.h"
+#include "platform/Image.h"
+#include "platform/StatusBar.h"
+
+namespace quindle {
+
+namespace {
+
+template <typename Value>
+QVariant orNull(const std::optional<Value>& value)
+{
+    return value ? QVariant::fromValue(*value) : QVariant();
+}
+
+/// Every property that a class declares itself and that is a value, by its exact name.
+QVariantMap valueProperties(const QObject& object)
+{
+    QVariantMap values;
+    const QMetaObject& meta = *object.metaObject();
+    for (int index = QObject::staticMetaObject.propertyCount(); index < meta.propertyCount(); ++index) {
+        const QMetaProperty property = meta.property(index);
+        if (!(property.metaType().flags() & QMetaType::PointerToQObject))
+            values.insert(QString::fromLatin1(property.name()), property.read(&object));
+    }
+    return values;
+}
+
+QVariant batteryState(const QDBattery* battery)
+{
+    if (!battery)
+        return {};
+    QVariantMap state = valueProperties(*battery);
+    state.insert({
+        {QStringLiteral("charge"), battery->charge()},
+        {QStringLiteral("voltage"), battery->voltage()},
+        {QStringLiteral("amperage"), battery->amperage()},
+        {QStringLiteral("instantAmperage"), battery->instantAmperage()},
+        {QStringLiteral("designCycleCount"), battery->designCycleCount()},
+        {QStringLiteral("isACPowered"), battery->isACPowered()},
+        {QStringLiteral("isCharging"), battery->isCharging()},
+        {QStringLiteral("isCharged"), battery->isCharged()},
+        {QStringLiteral("timeRemainingFormatted"), battery->timeRemainingFormatted()},
+        {QStringLiteral("avgTimeToFullFormatted"), battery->avgTimeToFullFormatted()},
+        {QStringLiteral("avgTimeToEmptyFormatted"), battery->avgTimeToEmptyFormatted()},
+        {QStringLiteral("instantTimeToEmptyFormatted"), battery->instantTimeToEmptyFormatted()},
+        {QStringLiteral("permanentFailure"), battery->permanentFailure()},
+        {QStringLiteral("temperatureMode"), static_cast<int>(battery->temperatureMode())},
+        {QStringLiteral("ageMode"), static_cast<int>(battery->ageMode())},
+    });
+    return state;
+}
+
+QVariantMap macState(const QDMac& mac)
+{
+    QVariantMap state = valueProperties(mac);
+    state.insert({
+        {QStringLiteral("ageMode"), mac.ageMode()},
+        {QStringLiteral("generateMacID"), mac.generateMacID()},
+        {QStringLiteral("getBuildDateSerialString"), mac.getBuildDateSerialString()},
+        {QStringLiteral("getModelStringFromSerial"), mac.getModelStringFromSerial()},
+        {QStringLiteral("hardwareImageName"), orNull(mac.hardwareImageName())},
+    });
+    return state;
+}
+
+QVariantMap settingsState(const ApplicationPreferences& preferences)
+{
+    // Without the suite this one setting must not be asked: that is fatal.
+    const QVariant firstStart = preferences.hasSuite() ? QVariant(preferences.firstStart()) : QVariant();
+    return {
+        {QStringLiteral("autoUpload"), preferences.autoUpload()},
+        {QStringLiteral("temperatureSettingIndex"), preferences.temperatureSettingIndex()},
+        {QStringLiteral("showIconsInMenuBar"), preferences.showIconsInMenuBar()},
+        {QStringLiteral("temperatureWarningTag"), preferences.temperatureWarningTag()},
+        {QStringLiteral("customStatusBar"), preferences.customStatusBar()},
+        {QStringLiteral("runInBackground"), preferences.runInBackground()},
+        {QStringLiteral("bundleVersionAtQuit"), orNull(preferences.bundleVersionAtQuit())},
+        {QStringLiteral("bundleVersionAtQuitText"), orNull(preferences.bundleVersionAtQuitText())},
+        {QStringLiteral("statusBarString"), orNull(preferences.statusBarString())},
+        {QStringLiteral("runInBackgroundOwn"), orNull(preferences.runInBackgroundOwn())},
+        {QStringLiteral("firstStart"), firstStart},
+    };
+}
+
+QVariantMap statusItemState(const StatusItem& item, const RecentEvents& recent)
+{
+    QVariantMap state{
+        {QStringLiteral("title"), item.title()},       {QStringLiteral("image"), QVariant()},
+        {QStringLiteral("imageIsTemplate"), false},    {QStringLiteral("imageSize"), QVariant()},
+        {QStringLiteral("fontSize"), recent.fontSize}, {QStringLiteral("titlesSet"), recent.titlesSet},
+    };
+    const std::shared_ptr<Image> image = item.image();
+    if (!image)
+        return state;
+    state.insert(QStringLiteral("image"), image->name());
+    state.insert(QStringLiteral("imageIsTemplate"), image->isTemplate());
+    state.insert(QStringLiteral("imageSize"), QVariantList{image->size().width(), image->size().height()});
+    return state;
+}
+
+/// The colour by the filter object that a bar is drawn through; null for a bar without one of the three.
+QVariant barColour(const ContentFilters& filters, const HelperAppDelegate& delegate)
+{
+    const std::shared_ptr<HueFilter> filter = filters.empty() ? nullptr : filters.front();
+    if (!filter)
+        return {};
+    if (filter == delegate.hueColorGreen())
+        return QStringLiteral("green");
+    if (filter == delegate.hueColorYellow())
+        return QStringLiteral("yellow");
+    return filter == delegate.hueColorRed() ? QVariant(QStringLiteral("red")) : QVariant();
+}
+
+QVariant barsState(const HelperAppDelegate& delegate, MainInterface& interface)
+{
+    if (!delegate.myMac().Battery())
+        return {};
+    return QVariantMap{
+        {QStringLiteral("stateOfCharge"),
+         barColour(interface.stateOfChargeProgress().contentFilters(), delegate)},
+        {QStringLiteral("stateOfHealth"),
+         barColour(interface.stateOfHealthProgress().contentFilters(), delegate)},
+    };
+}
+
+QVariant versionItemText(MainInterface& interface)
+{
+    const auto row = static_cast<std::size_t>(interface.outlets().versionItem);
+    return interface.statusMenu().rows().at(row - 1).text;
+}
+
+QVariantMap appState(const InspectedHelper& helper, const RecentEvents& recent)
+{
+    const MenuView* view = helper.delegate.shownView();
+    return {
+        {QStringLiteral("versionItem"), versionItemText(helper.interface)},
+        {QStringLiteral("menuView"), view ? QVariant(view->name) : QVariant()},
+        {QStringLiteral("launched"), recent.launched},
+        {QStringLiteral("refreshes"), recent.refreshes},
+        {QStringLiteral("lastDailyUploadToOnlineService"), helper.delegate.lastDailyUploadToOnlineService()},
+    };
+}
+
+} // namespace
+
+QVariantMap stateOfHelper(const InspectedHelper& helper, const RecentEvents& recent)
+{
+    return {
+        {QStringLiteral("battery"), batteryState(helper.delegate.myMac().Battery())},
+        {QStringLiteral("mac"), macState(helper.delegate.myMac())},
+        {QStringLiteral("settings"), settingsState(helper.preferences)},
+        {QStringLiteral("statusItem"), statusItemState(helper.delegate.statusItem(), recent)},
+        {QStringLiteral("bars"), barsState(helper.delegate, helper.interface)},
+        {QStringLiteral("app"), appState(helper, recent)},
+        {QStringLiteral("defaults"), settingsDatabases(helper.userDefaults)},
+    };
+}
+
+} // namespace quindle

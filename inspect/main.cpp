@@ -1,0 +1,94 @@
+#include <clocale>
+#include <cstdio>
+
+#include <QCoreApplication>
+
+#include "inspect/Capture.h"
+#include "inspect/CommandLine.h"
+#include "inspect/Computer.h"
+#include "inspect/DemoMachine.h"
+#include "inspect/Inspection.h"
+#include "inspect/JsonText.h"
+#include "inspect/TextReport.h"
+
+namespace {
+
+using namespace quindle;
+
+constexpr int wrongUsage = 2;
+
+void print(const QByteArray& bytes)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
+int refuse(const QString& line)
+{
+    std::fprintf(stderr, "quindle-inspect: %s\n", qUtf8Printable(line));
+    return wrongUsage;
+}
+
+int printJson(Computer& computer, bool isDemo)
+{
+    Inspection inspection(computer, isDemo);
+    print(jsonText(inspection.takeState()) + '\n');
+    for (std::size_t index = 0; index < computer.stepCount(); ++index) {
+        inspection.playStep(index);
+        print(jsonText(inspection.takeState()) + '\n');
+    }
+    return 0;
+}
+
+int printReport(Computer& computer, bool isDemo)
+{
+    print(reportText(Inspection(computer, isDemo).takeState()).toUtf8());
+    return 0;
+}
+
+int capture(Computer& computer, const CommandLine& commandLine)
+{
+    QVariantMap keys = commandLine.demo ? keysFromModel(Inspection(computer, true).mac())
+                                        : capturedKeys(computer.platform());
+    if (!commandLine.withSerials)
+        keys = withoutIdentity(keys);
+    const QString failure = writeMachineFile(commandLine.captureFile, keys);
+    return failure.isEmpty() ? 0 : refuse(commandLine.captureFile + QStringLiteral(": ") + failure);
+}
+
+int inspect(const CommandLine& commandLine)
+{
+    auto opened = Computer::open(commandLine);
+    if (const auto* refusal = std::get_if<MachineRefusal>(&opened))
+        return refuse(refusal->line);
+    Computer& computer = *std::get<std::unique_ptr<Computer>>(opened);
+    switch (commandLine.call) {
+    case CommandLine::Call::Json:
+        return printJson(computer, commandLine.demo);
+    case CommandLine::Call::Capture:
+        return capture(computer, commandLine);
+    default:
+        return printReport(computer, commandLine.demo);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    // Reals in property lists have a point in every language; the library that reads them asks the C locale.
+    std::setlocale(LC_NUMERIC, "C");
+    const CommandLine commandLine = parseCommandLine(
+        QCoreApplication::arguments().mid(1), {.machineFile = qEnvironmentVariable("QUINDLE_MACHINE"),
+                                               .sysfsDirectory = qEnvironmentVariable("QUINDLE_SYSFS")});
+    if (!commandLine.fault.isEmpty())
+        return refuse(commandLine.fault + QStringLiteral(" (see --help)"));
+    if (commandLine.call == CommandLine::Call::Help)
+        print(helpText().toUtf8());
+    else if (commandLine.call == CommandLine::Call::Version)
+        print("quindle-inspect " QUINDLE_VERSION "\n");
+    else
+        return inspect(commandLine);
+    return 0;
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <variant>
+#include <vector>
+
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+/// Machine files: a recorded or invented computer, and its later states, as one property list.
+namespace quindle {
+
+/// What can happen in a step, beside the values that change.
+enum class MachineAction {
+    BatteryToggleAge,
+    BatteryToggleTemperatureMode,
+    BatteryLoadSettings,
+    BatteryClose,
+    BatteryOpen,
+    MacToggleAge,
+    Sleep,
+    Wake,
+    SettingsChanged,
+    WillUpdateImmediately,
+    OpenApplication,
+};
+
+/// A later state of a computer, told by what is different.
+struct MachineStep
+{
+    QStringList remove; ///< paths to take out first
+    QVariantMap keys;   ///< then these keys, of the types of the machine file
+    std::vector<MachineAction> actions;
+    double after = 10; ///< seconds after the step before; 0 or more
+};
+
+/// A computer. `keys` holds the keys of the file, checked: a key that is there has the type that the format
+/// says, so readers need not test it again. Relative `ApplicationSupport` folders are absolute already.
+struct Machine
+{
+    QVariantMap keys;
+    std::vector<MachineStep> steps;
+};
+
+/// Why a file is no machine file: one line, "FILE: KEY: reason", with keys inside others as in
+/// "Steps[0].Actions" (counted from 0). Without KEY when the file as a whole is at fault.
+struct MachineRefusal
+{
+    QString line;
+};
+
+using MachineResult = std::variant<Machine, MachineRefusal>;
+
+/// The name of the database that all the applications of the group share.
+QString groupDatabaseName();
+
+/// Reads and checks the file at `path`.
+MachineResult readMachineFile(const QString& path);
+
+/// Checks a property-list value that was read from the file at `path`.
+MachineResult machineFromPropertyList(const QVariant& root, const QString& path);
+
+} // namespace quindle

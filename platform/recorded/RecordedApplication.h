@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/Application.h"
+
+namespace quindle {
+
+/// Counts what it is asked for and goes on running.
+class RecordedApplication : public Application
+{
+public:
+    void terminate() override { ++m_terminations; }
+    void activateIgnoringOtherApplications() override { ++m_activations; }
+
+    int terminations() const { return m_terminations; }
+    int activations() const { return m_activations; }
+
+private:
+    int m_terminations = 0;
+    int m_activations = 0;
+};
+
+} // namespace quindle

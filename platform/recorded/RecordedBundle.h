@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/Bundle.h"
+
+namespace quindle {
+
+class RecordedComputer;
+
+/// The recorded bundle, whole: what it does not tell is missing. Without one, the running program's own.
+class RecordedBundle : public Bundle
+{
+public:
+    RecordedBundle(const RecordedComputer& computer, const Bundle& programBundle);
+
+    QString path() const override;
+    std::optional<QVariantMap> infoDictionary() const override;
+
+private:
+    const RecordedComputer& m_computer;
+    const Bundle& m_programBundle;
+};
+
+} // namespace quindle

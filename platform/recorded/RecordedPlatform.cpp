@@ -1,0 +1,39 @@
+#include "platform/recorded/RecordedPlatform.h"
+
+namespace quindle {
+
+RecordedPlatform::RecordedPlatform(const QVariantMap& machineKeys, const Bundle& programBundle)
+    : computer(machineKeys)
+    , registry(computer)
+    , powerSources(computer)
+    , userDefaults(computer)
+    , bundle(computer, programBundle)
+    , clock(computer)
+    , host(computer)
+    , systemFiles(computer)
+    , loginItems(computer)
+    , urlSession(computer)
+{
+}
+
+Platform RecordedPlatform::platform()
+{
+    return {
+        .registry = registry,
+        .powerSources = powerSources,
+        .userDefaults = userDefaults,
+        .notificationCenter = notificationCenter,
+        .distributedNotificationCenter = distributedNotificationCenter,
+        .workspaceNotifications = workspaceNotifications,
+        .workspace = workspace,
+        .bundle = bundle,
+        .clock = clock,
+        .host = host,
+        .systemFiles = systemFiles,
+        .runLoop = runLoop,
+        .statusBar = statusBar,
+        .application = application,
+    };
+}
+
+} // namespace quindle

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/PowerSources.h"
+
+namespace quindle {
+
+class RecordedComputer;
+
+/// The power-source service of a recorded computer; without recorded sources it cannot be asked.
+class RecordedPowerSources : public PowerSources
+{
+public:
+    explicit RecordedPowerSources(const RecordedComputer& computer)
+        : m_computer(computer)
+    {
+    }
+
+    std::optional<QVariantMap> externalAdapterDetails() override;
+    std::optional<int> sourceCount() override;
+    std::optional<QVariantMap> description(int source) override;
+
+private:
+    const RecordedComputer& m_computer;
+};
+
+} // namespace quindle

@@ -1,0 +1,81 @@
+#include "inspect/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/QtPrinters.h"
+
+using namespace quindle;
+
+namespace {
+
+using Call = CommandLine::Call;
+
+struct Row
+{
+    const char* arguments; ///< parted by blanks
+    const char* machineVariable;
+    const char* sysfsVariable;
+    Call call;
+    const char* machineFile;
+    const char* sysfsDirectory;
+};
+
+constexpr Row rows[] = {
+    {"", "", "", Call::Report, "", ""},
+    {"--json", "", "", Call::Json, "", ""},
+    {"--demo", "", "", Call::Report, "", ""},
+    {"--capture out", "", "", Call::Capture, "", ""},
+    {"--capture=out --with-serials", "", "", Call::Capture, "", ""},
+    {"--help --json", "", "", Call::Help, "", ""},
+    {"-h", "", "", Call::Help, "", ""},
+    {"--version", "", "", Call::Version, "", ""},
+    {"--machine m", "", "", Call::Report, "m", ""},
+    {"--machine=m --json", "", "", Call::Json, "m", ""},
+    {"--machine a --machine b", "", "", Call::Report, "b", ""},
+    {"--sysfs s", "", "", Call::Report, "", "s"},
+    {"--machine m --sysfs s", "", "", Call::Report, "m", ""},
+    {"", "em", "", Call::Report, "em", ""},
+    {"", "", "es", Call::Report, "", "es"},
+    {"", "em", "es", Call::Report, "em", ""},
+    {"--machine m", "em", "es", Call::Report, "m", ""},
+    {"--sysfs s", "em", "es", Call::Report, "", "s"},
+};
+
+CommandLine parse(const Row& row)
+{
+    return parseCommandLine(
+        QString::fromLatin1(row.arguments).split(u' ', Qt::SkipEmptyParts),
+        {QString::fromLatin1(row.machineVariable), QString::fromLatin1(row.sysfsVariable)});
+}
+
+TEST(CommandLine, RightUsage)
+{
+    for (const Row& row : rows) {
+        const CommandLine line = parse(row);
+        EXPECT_EQ(line.fault, QString()) << row.arguments;
+        EXPECT_EQ(line.call, row.call) << row.arguments;
+        EXPECT_EQ(line.machineFile, QString::fromLatin1(row.machineFile)) << row.arguments;
+        EXPECT_EQ(line.sysfsDirectory, QString::fromLatin1(row.sysfsDirectory)) << row.arguments;
+    }
+}
+
+TEST(CommandLine, OptionsOfACapture)
+{
+    const CommandLine line = parse({"--demo --capture out --with-serials", "", "", Call::Capture, "", ""});
+    EXPECT_EQ(line.captureFile, QStringLiteral("out"));
+    EXPECT_TRUE(line.withSerials);
+    EXPECT_TRUE(line.demo);
+}
+
+TEST(CommandLine, WrongUsage)
+{
+    for (const char* arguments :
+         {"--bogus", "file", "--machine", "--capture", "--sysfs", "--capture=", "--jsonx", "--json=1",
+          "--with-serials", "--json --capture out", "--help extra"}) {
+        const CommandLine line = parse({arguments, "", "", Call::Report, "", ""});
+        EXPECT_FALSE(line.fault.isEmpty()) << arguments;
+        EXPECT_FALSE(line.fault.contains(u'\n')) << arguments;
+    }
+}
+
+} // namespace

@@ -1,0 +1,167 @@
+"""Runs quindle-inspect with arguments: usage, environment, report, demonstration computer, captures."""
+
+import json
+import os
+import plistlib
+import stat
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = sys.argv.pop()
+SERIAL = "C02MN1TXF5YW"
+BATTERY_SERIAL = "D86439601R9DHDFAR"
+MACHINE = {
+    "Bundle": {"Path": "/x", "Info": {"CFBundleVersion": "1"}},
+    "HostName": "Jane's Computer",
+    "PowerSources": [{"Hardware Serial Number": BATTERY_SERIAL, "BatteryHealth": "Good"}],
+    "AdapterDetails": {"Watts": 60.0},
+    "Registry": {
+        "AppleSmartBattery": {
+            "CurrentCapacity": 50, "MaxCapacity": 100, "DesignCapacity": 100, "Amperage": -1600,
+            "BatterySerialNumber": BATTERY_SERIAL, "Serial": BATTERY_SERIAL,
+            "Note": f"pack {BATTERY_SERIAL} of {SERIAL}", "Part": "R9DHDF",
+            "ManufacturerData": b"\x01" + BATTERY_SERIAL.encode() + b"\x02",
+            SERIAL: {"inside": [SERIAL]},
+        },
+        "IOPlatformExpertDevice": {"model": b"MacBookAir4,2\0", "IOPlatformSerialNumber": SERIAL},
+    },
+    "Defaults": {"standard": {"modelStringCache": {"F5YW": "Laptop (13-inch)"}, "statusBarString": "keep"},
+                 "group.fernhollow.Quindle": {"customStatusBar": "%p%"}},
+    "Steps": [{"HostName": "Later"}],
+}
+
+
+class CommandLine(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = folder.name
+        self.machine = self.path("machine.plist")
+        with open(self.machine, "wb") as file:
+            plistlib.dump(MACHINE, file)
+
+    def path(self, name):
+        return os.path.join(self.folder, name)
+
+    def run_program(self, *arguments, **environment):
+        clean = {"PATH": os.environ["PATH"], "TZ": "UTC", "HOME": self.folder, "XDG_CONFIG_HOME": self.folder}
+        return subprocess.run([PROGRAM, *arguments], env=clean | environment, capture_output=True, text=True,
+                              timeout=60)
+
+    def captured(self, *arguments):
+        target = self.path("capture.plist")
+        result = self.run_program("--machine", self.machine, "--capture", target, *arguments)
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "", ""))
+        with open(target, "rb") as file:
+            return target, file.read()
+
+    def test_wrong_usage(self):
+        for arguments in (["--bogus"], ["file"], ["--machine"], ["--capture"], ["--sysfs"], ["--machine="],
+                          ["--with-serials"], ["--json", "--capture", "x"]):
+            result = self.run_program(*arguments)
+            self.assertEqual((result.returncode, result.stdout), (2, ""), arguments)
+            self.assertEqual(result.stderr.count("\n"), 1, arguments)
+
+    def test_help_and_version(self):
+        for argument, text in (("--help", "Usage: quindle-inspect"), ("--version", "quindle-inspect ")):
+            result = self.run_program(argument)
+            self.assertEqual((result.returncode, result.stderr), (0, ""))
+            self.assertTrue(result.stdout.startswith(text))
+
+    def test_missing_machine_file(self):
+        result = self.run_program("--json", "--machine", "/nonexistent/x.plist")
+        self.assertEqual((result.returncode, result.stdout), (2, ""))
+        self.assertIn("/nonexistent/x.plist", result.stderr)
+
+    def test_machine_from_the_environment(self):
+        by_variable = self.run_program("--json", QUINDLE_MACHINE=self.machine)
+        self.assertEqual(by_variable.returncode, 0)
+        self.assertEqual(len(by_variable.stdout.splitlines()), 2)
+        self.assertEqual(json.loads(by_variable.stdout.splitlines()[0])["mac"]["Serial"], SERIAL)
+
+    def test_argument_beats_the_environment(self):
+        result = self.run_program("--json", f"--machine={self.machine}", QUINDLE_MACHINE="/nonexistent")
+        self.assertEqual(result.returncode, 0)
+
+    def test_keys_of_the_object(self):
+        line = self.run_program("--json", "--machine", self.machine).stdout.splitlines()[0]
+        self.assertEqual(set(json.loads(line)),
+                         {"battery", "mac", "settings", "statusItem", "bars", "app", "defaults"})
+
+    def test_report(self):
+        result = self.run_program("--machine", self.machine)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        for text in ("50.0 %", SERIAL, "Jane's Computer", "MacBookAir4,2", "60 Watts"):
+            self.assertIn(text, result.stdout)
+
+    def test_report_without_battery(self):
+        with open(self.machine, "wb") as file:
+            plistlib.dump({"Bundle": MACHINE["Bundle"]}, file)
+        self.assertIn("this computer has no battery", self.run_program("--machine", self.machine).stdout)
+
+    def test_demonstration_computer(self):
+        state = json.loads(self.run_program("--demo", "--json", "--machine", self.machine).stdout.splitlines()[0])
+        wanted = {"FullChargeCapacity": 4865, "CycleCount": 293, "BatteryHealth": "Good", "StateOfCharge": 61.0,
+                  "StateOfHealth": 89.0, "Temperature": "78.5 °F", "StateText": "Discharging with",
+                  "WattThroughput": 4.61, "CurrentCapacity": 2967, "TimeRemaining": "4:41"}
+        self.assertEqual({key: state["battery"][key] for key in wanted}, wanted)
+        self.assertEqual(state["mac"]["Name"], "Demo Computer")
+        self.assertEqual(state["statusItem"]["title"], "61.0%")
+
+    def test_demonstration_computer_captured(self):
+        target = self.path("demo.plist")
+        machine = ["--machine", self.machine]
+        self.assertEqual(self.run_program("--demo", *machine, "--capture", target, "--with-serials").returncode, 0)
+        state = json.loads(self.run_program("--json", "--machine", target).stdout)
+        self.assertEqual(state["battery"]["CurrentCapacity"], 2967)
+        self.assertEqual(state["battery"]["Temperature"], "25.8 °C")
+        self.assertEqual(state["mac"]["Serial"], SERIAL)
+
+    def test_capture_hides_whose_computer_it_is(self):
+        target, content = self.captured()
+        self.assertEqual(stat.S_IMODE(os.stat(target).st_mode), 0o600)
+        keys = plistlib.loads(content)
+        everything = content + repr(keys).encode()
+        for serial in (SERIAL, BATTERY_SERIAL):
+            for start in range(len(serial) - 3):
+                self.assertNotIn(serial[start:start + 4].encode(), everything)
+        invented = keys["Registry"]["IOPlatformExpertDevice"]["IOPlatformSerialNumber"]
+        self.assertEqual((len(invented), invented[2:5]), (len(SERIAL), SERIAL[2:5]))
+        battery = keys["Registry"]["AppleSmartBattery"]
+        self.assertEqual(len(battery["BatterySerialNumber"]), len(BATTERY_SERIAL))
+        self.assertEqual(battery["BatterySerialNumber"], keys["PowerSources"][0]["Hardware Serial Number"])
+        self.assertEqual(keys["HostName"], "Computer")
+        self.assertEqual(keys["Defaults"]["standard"], {"statusBarString": "keep"})
+
+    def test_capture_keeps_the_rest(self):
+        battery = plistlib.loads(self.captured()[1])["Registry"]["AppleSmartBattery"]
+        self.assertEqual((battery["Amperage"], battery["CurrentCapacity"]), (-1600, 50))
+
+    def test_capture_with_serials_is_the_computer(self):
+        keys = plistlib.loads(self.captured("--with-serials")[1])
+        for key in ("Registry", "PowerSources", "AdapterDetails", "HostName", "Bundle", "Defaults"):
+            self.assertEqual(keys[key], MACHINE[key], key)
+
+    def test_captured_machine_reads_the_same(self):
+        target, _ = self.captured("--with-serials")
+        states = [json.loads(self.run_program("--json", "--machine", path).stdout.splitlines()[0])
+                  for path in (self.machine, target)]
+        for state in states:
+            for volatile in ("app", "mac"):
+                del state[volatile]
+        self.assertEqual(*states)
+
+    def test_capture_replaces_a_file(self):
+        with open(self.path("capture.plist"), "w", encoding="ascii") as file:
+            file.write("old")
+        plistlib.loads(self.captured()[1])
+
+    def test_capture_that_cannot_be_written(self):
+        result = self.run_program("--machine", self.machine, "--capture", "/nonexistent/folder/x")
+        self.assertEqual((result.returncode, result.stderr.count("\n")), (2, 1))
+
+
+if __name__ == "__main__":
+    unittest.main()
