@@ -3,7 +3,7 @@
 #include "app/ApplicationPreferences.h"
 #include "battery/QDBattery.h"
 #include "common/FatalError.h"
-#include "common/NumberDescription.h"
+#include "common/ValueDescription.h"
 #include "common/NumberTexts.h"
 #include "common/Paths.h"
 #include "history/DailyGate.h"
