@@ -16,7 +16,7 @@ constexpr HostTraits plainSquareHost{HostShape::Square, true, false, true};
 
 struct ProgramRow
 {
-    const char16_t* program;
+    const char16_t* program = nullptr;
     HostTraits traits;
 };
 

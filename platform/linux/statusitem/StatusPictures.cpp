@@ -213,6 +213,7 @@ std::vector<QImage> StatusPictures::images(const Picture& picture)
     if (picture.kind == Picture::Kind::Wide)
         return {image(picture, wideHeight)};
     std::vector<QImage> made;
+    made.reserve(squareSizes.size());
     for (const int size : squareSizes)
         made.push_back(image(picture, size));
     std::erase_if(made, [](const QImage& one) { return one.isNull(); });
@@ -225,7 +226,7 @@ QString StatusPictures::file(const Picture& picture)
                            QStringLiteral("/quindle-helper-icons");
     QString name = picture.imageName + picture.text;
     name.removeIf([](QChar c) { return !c.isLetterOrNumber(); });
-    const QString path = folder + QLatin1Char('/') + name + QStringLiteral(".png");
+    QString path = folder + QLatin1Char('/') + name + QStringLiteral(".png");
     if (QFileInfo::exists(path))
         return path;
     const bool written = QDir().mkpath(folder) && image(picture, squareSizes.back()).save(path);

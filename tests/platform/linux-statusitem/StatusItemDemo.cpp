@@ -1,4 +1,5 @@
-// Shows a status item with the given title and image until it is ended, or draws all icons into a file.
+// Shows a status item with the given text as title and image until it is ended, or draws all icons into a
+// file.
 
 #include <iostream>
 
@@ -58,7 +59,7 @@ int main(int argc, char** argv)
     QCommandLineParser arguments;
     const QString icons = QStringLiteral(QUINDLE_ICONS);
     arguments.addOptions({
-        {QStringLiteral("title"), {}, QStringLiteral("text"), QStringLiteral("87.0%")},
+        {QStringLiteral("text"), {}, QStringLiteral("text"), QStringLiteral("87.0%")},
         {QStringLiteral("image"), {}, QStringLiteral("name")},
         {QStringLiteral("fallback"), {}, QStringLiteral("text"), QStringLiteral("87")},
         {QStringLiteral("tip"), {}, QStringLiteral("text"), QStringLiteral("Discharging, 3:21 left")},
@@ -74,7 +75,7 @@ int main(int argc, char** argv)
     const QString choice = arguments.value(QStringLiteral("choice"));
     LinuxStatusBar bar({icons, qEnvironmentVariable("XDG_CURRENT_DESKTOP"), [choice] { return choice; }});
     const auto item = bar.statusItemWithLength(variableStatusItemLength);
-    const QString title = arguments.value(QStringLiteral("title"));
+    const QString title = arguments.value(QStringLiteral("text"));
     StatusMenu menu;
     fill(menu, title);
     item->setTitle(title);
