@@ -79,6 +79,7 @@ void BatteryWindow::addView(QVBoxLayout& layout)
     m_scrollArea->setWidget(view);
     m_scrollArea->viewport()->setAutoFillBackground(false); // the window's round corners show through
     view->setAutoFillBackground(false);
+    view->installEventFilter(this);
     m_scrollArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     layout.addWidget(m_scrollArea, 1);
 }
@@ -100,6 +101,7 @@ void BatteryWindow::addEntries(QVBoxLayout& layout)
         m_entries[id] = entry;
         updateEntry(id);
     }
+    m_menu->installEventFilter(this);
     layout.addWidget(m_menu);
 }
 
@@ -150,12 +152,12 @@ void BatteryWindow::fit()
         move(place.topLeft());
 }
 
-bool BatteryWindow::event(QEvent* event)
+// Rows come and go inside the scroll area, which does not pass that on.
+bool BatteryWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool handled = QWidget::event(event);
     if (event->type() == QEvent::LayoutRequest && isVisible())
         fit();
-    return handled;
+    return QWidget::eventFilter(watched, event);
 }
 
 void BatteryWindow::keyPressEvent(QKeyEvent* event)
