@@ -1,6 +1,7 @@
 #include "menubar/BatteryFacts.h"
 
 #include <array>
+#include <utility>
 
 #include <QObject>
 
@@ -50,24 +51,9 @@ constexpr std::array factPatterns{
     FactPattern{u"Computer serial number", u"{Serial}"},
 };
 
-struct Fact
+KeyPath statePath()
 {
-    DisplayPattern caption;
-    DisplayPattern value;
-    Shown shown;
-};
-
-const std::vector<Fact>& facts()
-{
-    static const std::vector<Fact> parsed = [] {
-        std::vector<Fact> made;
-        for (const FactPattern& pattern : factPatterns) {
-            made.push_back({DisplayPattern(QString::fromUtf16(pattern.caption)),
-                            DisplayPattern(QString::fromUtf16(pattern.value)), pattern.shown});
-        }
-        return made;
-    }();
-    return parsed;
+    return KeyPath(QStringLiteral("Battery.BatteryState"));
 }
 
 QObject* batteryOf(const QObject* mac)
@@ -80,16 +66,6 @@ bool hasState(const QObject* battery)
     return battery && tellsSomething(battery->property("BatteryState"));
 }
 
-QString factText(const Fact& fact, const DisplayPattern::Resolver& resolve, bool stateIsKnown)
-{
-    const auto caption = fact.caption.text(resolve);
-    const auto value = fact.value.text(resolve);
-    if (caption && value)
-        return singleLine(*caption, longestText) + u'\t' + singleLine(*value, longestText);
-    return caption && fact.shown == Shown::WithState && stateIsKnown ? singleLine(*caption, longestText)
-                                                                     : QString();
-}
-
 } // namespace
 
 bool hasBattery(const QObject* mac)
@@ -97,15 +73,83 @@ bool hasBattery(const QObject* mac)
     return batteryOf(mac) != nullptr;
 }
 
-std::vector<QString> factTexts(const QObject* mac)
+struct BatteryFacts::Fact
 {
-    const auto resolve = [mac](const KeyPath& path) { return path.resolve(mac).value; };
-    std::vector<QString> texts;
-    texts.reserve(facts().size());
-    const bool stateIsKnown = hasState(batteryOf(mac));
-    for (const Fact& fact : facts())
-        texts.push_back(factText(fact, resolve, stateIsKnown));
-    return texts;
+    explicit Fact(const FactPattern& pattern);
+
+    bool readValues(const QObject* mac);
+    QString text() const;
+    QVariant valueOf(const KeyPath& path) const;
+
+    DisplayPattern caption;
+    DisplayPattern value;
+    Shown shown;
+    std::vector<KeyPath> paths;
+    std::vector<QVariant> values;
+};
+
+BatteryFacts::Fact::Fact(const FactPattern& pattern)
+    : caption(QString::fromUtf16(pattern.caption))
+    , value(QString::fromUtf16(pattern.value))
+    , shown(pattern.shown)
+    , paths(caption.paths())
+{
+    for (const KeyPath& path : value.paths())
+        paths.push_back(path);
+    if (shown == Shown::WithState)
+        paths.push_back(statePath());
+    values.resize(paths.size());
+}
+
+/// True when one of them is another one.
+bool BatteryFacts::Fact::readValues(const QObject* mac)
+{
+    bool differs = false;
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        QVariant now = paths[i].resolve(mac).value;
+        if (now == values[i])
+            continue;
+        values[i] = std::move(now);
+        differs = true;
+    }
+    return differs;
+}
+
+QString BatteryFacts::Fact::text() const
+{
+    const auto resolve = [this](const KeyPath& path) { return valueOf(path); };
+    const auto captionText = caption.text(resolve);
+    const auto shownValue = value.text(resolve);
+    if (captionText && shownValue)
+        return singleLine(*captionText, longestText) + u'\t' + singleLine(*shownValue, longestText);
+    const bool stateIsKnown = shown == Shown::WithState && tellsSomething(valueOf(statePath()));
+    return captionText && stateIsKnown ? singleLine(*captionText, longestText) : QString();
+}
+
+QVariant BatteryFacts::Fact::valueOf(const KeyPath& path) const
+{
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        if (paths[i].text() == path.text())
+            return values[i];
+    }
+    return {};
+}
+
+BatteryFacts::BatteryFacts()
+    : m_texts(factPatterns.size())
+{
+    for (const FactPattern& pattern : factPatterns)
+        m_facts.emplace_back(pattern);
+}
+
+BatteryFacts::~BatteryFacts() = default;
+
+void BatteryFacts::update(const QObject* mac)
+{
+    for (std::size_t i = 0; i < m_facts.size(); ++i) {
+        if (m_facts[i].readValues(mac))
+            m_texts[i] = m_facts[i].text();
+    }
 }
 
 QString toolTipText(const QObject* mac)

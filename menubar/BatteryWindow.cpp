@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
@@ -30,6 +29,20 @@ QScreen* screenAt(const QPoint& point)
 {
     QScreen* screen = QGuiApplication::screenAt(point);
     return screen ? screen : QGuiApplication::primaryScreen();
+}
+
+QRegion roundedRegion(const QRect& rect, int radius)
+{
+    QRegion region =
+        QRegion(rect.adjusted(radius, 0, -radius, 0)) + QRegion(rect.adjusted(0, radius, 0, -radius));
+    QRect corner(0, 0, 2 * radius, 2 * radius);
+    for (const int x : {rect.left(), rect.right() + 1 - corner.width()}) {
+        for (const int y : {rect.top(), rect.bottom() + 1 - corner.height()}) {
+            corner.moveTo(x, y);
+            region += QRegion(corner, QRegion::Ellipse);
+        }
+    }
+    return region;
 }
 
 Qt::WindowFlags flagsOf(BatteryWindow::Kind kind)
@@ -79,6 +92,7 @@ void BatteryWindow::addView(QVBoxLayout& layout)
     m_scrollArea->setWidget(view);
     m_scrollArea->viewport()->setAutoFillBackground(false); // the window's round corners show through
     view->setAutoFillBackground(false);
+    view->installEventFilter(this);
     m_scrollArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     layout.addWidget(m_scrollArea, 1);
 }
@@ -100,6 +114,7 @@ void BatteryWindow::addEntries(QVBoxLayout& layout)
         m_entries[id] = entry;
         updateEntry(id);
     }
+    m_menu->installEventFilter(this);
     layout.addWidget(m_menu);
 }
 
@@ -150,12 +165,12 @@ void BatteryWindow::fit()
         move(place.topLeft());
 }
 
-bool BatteryWindow::event(QEvent* event)
+// Rows come and go inside the scroll area, which does not pass that on.
+bool BatteryWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool handled = QWidget::event(event);
     if (event->type() == QEvent::LayoutRequest && isVisible())
         fit();
-    return handled;
+    return QWidget::eventFilter(watched, event);
 }
 
 void BatteryWindow::keyPressEvent(QKeyEvent* event)
@@ -205,10 +220,7 @@ void BatteryWindow::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     if (m_kind != Kind::Popup)
         return;
-    QPainterPath shape;
-    const int radius = ViewMetrics(*this).radius;
-    shape.addRoundedRect(QRectF(rect()), radius, radius);
-    setMask(QRegion(shape.toFillPolygon().toPolygon()));
+    setMask(roundedRegion(rect(), ViewMetrics(*this).radius));
 }
 
 } // namespace quindle

@@ -37,7 +37,7 @@ public:
     void setClosedOutside(std::function<void()> closed) { m_closedOutside = std::move(closed); }
 
 protected:
-    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include <QByteArray>
+#include <QMetaProperty>
 #include <QString>
 #include <QVariant>
 
@@ -26,25 +27,38 @@ struct KeyPathValue
 };
 
 /// Names of properties joined by points ("Battery.StateOfCharge"): each but the last holds a QObject that has
-/// the next one.
+/// the next one. Main thread only.
 class KeyPath
 {
 public:
     explicit KeyPath(const QString& text);
 
     const QString& text() const { return m_text; }
-    const std::vector<QByteArray>& names() const { return m_names; }
-
     /// Reads the value now, starting at `root`.
     KeyPathValue resolve(const QObject* root) const;
+
+    /// The property that the step at `index` (0: the first name) reads from `object`; not valid when it has
+    /// none.
+    QMetaProperty property(std::size_t index, const QObject* object) const;
 
     /// The objects that `resolve` would read from, `root` first; ends at the first one that is null or
     /// unknown.
     std::vector<QObject*> objects(QObject* root) const;
 
 private:
+    /// One name, and where it was found last: looking a name up costs more than reading the property.
+    struct Step
+    {
+        QByteArray name;
+        mutable const QMetaObject* owner = nullptr;
+        mutable QMetaProperty property;
+    };
+
+    static KeyPathValue read(const Step& step, const QObject* object);
+    static const QMetaProperty& find(const Step& step, const QObject* object);
+
     QString m_text;
-    std::vector<QByteArray> m_names;
+    std::vector<Step> m_steps;
 };
 
 } // namespace quindle

@@ -42,8 +42,7 @@ void KeyPathWatcher::watch(const std::vector<QObject*>& objects)
 
     const QMetaMethod updateSlot = staticMetaObject.method(staticMetaObject.indexOfSlot("update()"));
     for (std::size_t i = 0; i < objects.size(); ++i) {
-        const QMetaObject* meta = objects[i]->metaObject();
-        const QMetaProperty property = meta->property(meta->indexOfProperty(m_path.names()[i].constData()));
+        const QMetaProperty property = m_path.property(i, objects[i]);
         if (property.hasNotifySignal())
             connect(objects[i], property.notifySignal(), this, updateSlot);
         connect(objects[i], &QObject::destroyed, this, &KeyPathWatcher::forget);

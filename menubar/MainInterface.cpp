@@ -1,7 +1,5 @@
 #include "menubar/MainInterface.h"
 
-#include "menubar/BatteryFacts.h"
-
 namespace quindle {
 
 namespace {
@@ -30,9 +28,10 @@ MainOutlets MainInterface::outlets()
 
 void MainInterface::addFactRows()
 {
-    const std::size_t titleAndFacts = 1 + factTexts(nullptr).size();
-    for (std::size_t i = 0; i < titleAndFacts; ++i)
-        m_factRows.push_back(m_statusMenu.addRow({StatusMenu::Kind::Fact, {}, false, false, {}}));
+    const StatusMenu::Row hidden{StatusMenu::Kind::Fact, {}, false, false, {}};
+    m_titleRow = m_statusMenu.addRow(hidden);
+    for (std::size_t i = 0; i < m_facts.texts().size(); ++i)
+        m_factRows.push_back(m_statusMenu.addRow(hidden));
 }
 
 void MainInterface::addEntries()
@@ -55,16 +54,18 @@ void MainInterface::addEntries()
 void MainInterface::updateFacts(const QString& title)
 {
     const QObject* mac = m_macObjectController.content();
-    std::vector<QString> texts = factTexts(mac);
     const QString noTitle = hasBattery(mac) ? QString() : QStringLiteral("No battery");
-    texts.insert(texts.begin(), title.isEmpty() ? noTitle : singleLine(title, longestTitle));
+    setFactRow(m_titleRow, title.isEmpty() ? noTitle : singleLine(title, longestTitle));
+    m_facts.update(mac);
+    for (std::size_t i = 0; i < m_factRows.size(); ++i)
+        setFactRow(m_factRows[i], m_facts.texts()[i]);
+}
 
-    for (std::size_t i = 0; i < m_factRows.size(); ++i) {
-        // A hidden row keeps its text, so that a row that goes is one change and not two.
-        if (!texts[i].isEmpty())
-            m_statusMenu.setText(m_factRows[i], texts[i]);
-        m_statusMenu.setVisible(m_factRows[i], !texts[i].isEmpty());
-    }
+void MainInterface::setFactRow(int id, const QString& text)
+{
+    if (!text.isEmpty()) // a hidden row keeps its text, so that a row that goes is one change and not two
+        m_statusMenu.setText(id, text);
+    m_statusMenu.setVisible(id, !text.isEmpty());
 }
 
 } // namespace quindle

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include "menubar/BatteryFacts.h"
 #include "menubar/ObjectController.h"
 #include "menubar/ProgressIndicator.h"
 #include "platform/StatusMenu.h"
@@ -69,6 +70,7 @@ public:
 private:
     void addFactRows();
     void addEntries();
+    void setFactRow(int id, const QString& text);
 
     MenuView m_menuView{QStringLiteral("menuView")};
     MenuView m_noBatteryView{QStringLiteral("noBatteryView")};
@@ -77,6 +79,8 @@ private:
     ProgressIndicator m_stateOfHealthProgress;
     StatusMenu m_statusMenu;
     StatusMenuActions* m_actions = nullptr;
+    BatteryFacts m_facts;
+    int m_titleRow = 0;
     std::vector<int> m_factRows;
     int m_versionItem = 0;
 };

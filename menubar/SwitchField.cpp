@@ -48,7 +48,7 @@ void SwitchField::paintEvent(QPaintEvent*)
     const QRect text = textRect();
     painter.setPen(color);
     const auto alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter);
-    drawPlainLine(painter, text, alignment, label());
+    const QRect line = drawPlainLine(painter, text, alignment, label());
 
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing);
@@ -57,11 +57,12 @@ void SwitchField::paintEvent(QPaintEvent*)
         return;
     }
     QPen dots(underMouse() ? color : quiet, std::max(1, fontMetrics().lineWidth()));
-    dots.setDashPattern({1, 1});
+    dots.setCapStyle(Qt::FlatCap);
+    dots.setDashPattern({1, 1.5});
     painter.setPen(dots);
     const int baseline = text.top() + (text.height() - fontMetrics().height()) / 2 + fontMetrics().ascent();
     const int underline = std::min(baseline + std::max(2, fontMetrics().descent() / 2), rect().bottom());
-    painter.drawLine(text.left(), underline, text.right(), underline);
+    painter.drawLine(line.left(), underline, line.right(), underline);
 }
 
 } // namespace quindle

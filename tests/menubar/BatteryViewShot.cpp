@@ -1,5 +1,5 @@
 // Renders the opened battery view with invented models: BatteryViewShot CASE FILE.png
-// CASE: words joined by "-" of light, dark, charging, low, held, none, rtl, long
+// CASE: words joined by "-" of light, dark, charging, low, held, none, rtl, long; "stay" leaves it open
 
 #include <limits>
 
@@ -110,6 +110,8 @@ int main(int argc, char** argv)
         entry->setFocus(Qt::OtherFocusReason);
     QApplication::processEvents();
     const bool saved = window->grab().save(QString::fromLocal8Bit(argv[2]));
+    if (words.contains(QStringLiteral("stay")))
+        QApplication::exec();
     window->close();
     return saved ? 0 : 1;
 }

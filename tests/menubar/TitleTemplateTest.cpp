@@ -1,0 +1,125 @@
+#include "menubar/TitleTemplate.h"
+
+#include <array>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/QtPrinters.h"
+
+using namespace quindle;
+
+namespace {
+
+TitleValues discharging()
+{
+    TitleValues values;
+    values.temperature = 30;
+    values.timeRemaining = QStringLiteral("2:05");
+    values.stateOfCharge = 87;
+    values.wattThroughput = 20;
+    values.amperage = -1600;
+    values.cycleCount = 293;
+    return values;
+}
+
+TitleValues charging()
+{
+    TitleValues values = discharging();
+    values.isCharging = true;
+    values.amperage = 900;
+    return values;
+}
+
+TitleValues full()
+{
+    TitleValues values = discharging();
+    values.timeRemaining.clear();
+    values.stateOfCharge = 100;
+    values.amperage = 0;
+    return values;
+}
+
+struct Case
+{
+    const char* name;
+    TitleValues values;
+    const char16_t* titleTemplate;
+    const char16_t* title;
+};
+
+class TitleTemplate : public testing::TestWithParam<Case>
+{
+};
+
+TEST_P(TitleTemplate, Replaces)
+{
+    const Case& row = GetParam();
+    EXPECT_EQ(titleFromTemplate(QString::fromUtf16(row.titleTemplate), row.values),
+              QString::fromUtf16(row.title));
+}
+
+const std::array cases{
+    Case{"charge", discharging(), u"%p%", u"87.0%"},
+    Case{"upward", charging(), u"%s %r", u"\u2B06\uFE0E 2:05"},
+    Case{"downward", discharging(), u"%s", u"\u2B07\uFE0E"},
+    Case{"fullIsDownward", full(), u"%s", u"\u2B07\uFE0E"},
+    Case{"temperature", discharging(), u"%t", u"30.0"},
+    Case{"watts", discharging(), u"%w W", u"20.0 W"},
+    Case{"current", discharging(), u"%mA", u"-1600"},
+    Case{"cycles", discharging(), u"%l", u"293"},
+    Case{"unfinishedCurrent", discharging(), u"%m a %mB", u"%m a %mB"},
+    Case{"capitals", discharging(), u"%P %T", u"%P %T"},
+    Case{"every", discharging(), u"%p%p%p", u"87.087.087.0"},
+    Case{"none", discharging(), u"Battery", u"Battery"},
+    Case{"empty", discharging(), u"", u""},
+    Case{"percentAfterPercent", discharging(), u"%%p", u"%87.0"},
+    Case{"joinsToCharge", full(), u"%%rp", u"100.0"},
+    Case{"joinsToWatts", full(), u"%%rw", u"20.0"},
+    Case{"joinsToCurrent", full(), u"%%rmA", u"0"},
+    Case{"joinsToCycles", full(), u"%%rl", u"293"},
+    Case{"temperatureIsOver", full(), u"%%rt", u"%t"},
+    Case{"directionIsOver", full(), u"%%rs", u"%s"},
+    Case{"noFormats", discharging(), u"%1 %2 %n 100%", u"%1 %2 %n 100%"},
+    Case{"markup", discharging(), u"<b>&x %p", u"<b>&x 87.0"},
+    Case{"otherScripts", discharging(), u"\u05D0\u05D1 %p \U0001F50B\n%l",
+         u"\u05D0\u05D1 87.0 \U0001F50B\n293"},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, TitleTemplate, testing::ValuesIn(cases),
+                         [](const testing::TestParamInfo<Case>& row) { return std::string(row.param.name); });
+
+TEST(TitleTemplateDefault, IsTheChargeInPercent)
+{
+    EXPECT_EQ(titleFromTemplate(defaultTitleTemplate(), discharging()), QStringLiteral("87.0%"));
+}
+
+TEST(TitleTemplateValues, TieGoesToEven)
+{
+    TitleValues values;
+    values.stateOfCharge = 87.25;
+    EXPECT_EQ(titleFromTemplate(QStringLiteral("%p"), values), QStringLiteral("87.2"));
+}
+
+TEST(TitleTemplateValues, NotFinite)
+{
+    TitleValues values;
+    values.stateOfCharge = std::numeric_limits<double>::quiet_NaN();
+    values.wattThroughput = -std::numeric_limits<double>::infinity();
+    EXPECT_EQ(titleFromTemplate(QStringLiteral("%p% %w"), values), QStringLiteral("nan% -inf"));
+}
+
+TEST(TitleTemplateValues, WholeIntegers)
+{
+    TitleValues values;
+    values.amperage = std::numeric_limits<qint64>::min();
+    EXPECT_EQ(titleFromTemplate(QStringLiteral("%mA"), values), QStringLiteral("-9223372036854775808"));
+}
+
+TEST(TitleTemplateLength, LongTemplateIsExact)
+{
+    const QString title = titleFromTemplate(QStringLiteral("%p").repeated(5000), discharging());
+    EXPECT_EQ(title, QStringLiteral("87.0").repeated(5000));
+}
+
+} // namespace
