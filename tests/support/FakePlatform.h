@@ -158,6 +158,7 @@ struct StatusItemRecord
     std::vector<std::shared_ptr<Image>> imagesSet;
     std::vector<double> fontSizesSet;
     QStringList toolTipsSet;
+    QStringList fallbackTextsSet;
     StatusMenu* menu = nullptr;
 };
 
@@ -174,6 +175,7 @@ public:
     void setImage(std::shared_ptr<Image> image) override { m_record->imagesSet.push_back(std::move(image)); }
     std::shared_ptr<Image> image() const override;
     void setMenuBarFontSize(double points) override { m_record->fontSizesSet.push_back(points); }
+    void setFallbackText(const QString& text) override { m_record->fallbackTextsSet.append(text); }
     void setToolTipText(const QString& text) override { m_record->toolTipsSet.append(text); }
     void setMenu(StatusMenu* menu) override { m_record->menu = menu; }
 
