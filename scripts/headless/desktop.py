@@ -216,7 +216,7 @@ class Desktop:
 
     def gdbus(self, destination, path, method, *arguments):
         return self.call("gdbus", "call", "--session", "--timeout", "5", "--dest", destination, "--object-path", path,
-                         "--method", method, *arguments)
+                         "--method", method, "--", *arguments)
 
     def has_name(self, name):
         return "true" in self.gdbus("org.freedesktop.DBus", "/", "org.freedesktop.DBus.NameHasOwner", name)
