@@ -13,9 +13,14 @@ def signed(number):
     return number - (1 << 64) if number >= 1 << 63 else number
 
 
+def percentage(part, whole):
+    if whole:
+        return part / whole * 100
+    return "inf" if part else "nan"
+
+
 def expected(entry):
-    full = entry.get("MaxCapacity", 0)
-    charge = entry.get("CurrentCapacity", 0) / full * 100 if full else "nan"
+    charge = percentage(entry.get("CurrentCapacity", 0), entry.get("MaxCapacity", 0))
     return [(0, "battery/StateOfCharge", charge), (0, "battery/amperage", signed(entry.get("Amperage", 0))),
             (0, "battery/CycleCount", entry.get("CycleCount", 0)), (0, "battery/isCharging", entry.get("IsCharging", False))]
 
