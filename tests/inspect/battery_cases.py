@@ -1,3 +1,6 @@
+import datetime
+import hashlib
+
 from machine_case import ABORT, Case, battery_step, machine
 
 # A pack whose figures are easy to follow; cases replace what they are about.
@@ -237,4 +240,37 @@ MODES = [
     Case("computer's mode is never out of range", stored_mode("QDMacAgeMode", 5), [(0, "mac/ageMode", 5)]),
 ]
 
-CASES = NUMBERS + FIGURES + RATED_CAPACITIES + TEMPERATURES + STATES + ADAPTERS + LIFE + MODES
+IDENTITY = [
+    Case("nothing told", pack_machine(BatterySerialNumber=None),
+         launch(("SerialNumber", ""), ("DeviceName", None), ("Manufacturer", None), ("ManufacturerRaw", None))),
+    Case("manufacturer's code is written out", pack_machine(Manufacturer="SMP", DeviceName="bq20z451"),
+         launch(("Manufacturer", "Simplo"), ("ManufacturerRaw", "SMP"), ("DeviceName", "bq20z451"))),
+    Case("a packed date of any size is written whole", pack_machine(BatterySerialNumber="ABC",
+                                                                    ManufactureDate=58481155946291),
+         launch(("BatteryID", hashlib.md5(b"ABC58481155946291").hexdigest()))),
+    Case("packed date", pack_machine(ManufactureDate=17506), launch(("ManufactureDate", "2014-03-02T00:00:00+00:00"))),
+    Case("no packed date", pack_machine(), launch(("ManufactureDate", "1979-11-30T00:00:00+00:00"))),
+    Case("packed date is local midnight", pack_machine(ManufactureDate=17506),
+         launch(("ManufactureDate", "2014-03-02T00:00:00+01:00")), {"TZ": "Europe/Berlin"}),
+    Case("age before manufacture rounds away from zero",
+         machine(battery=pack(ManufactureDate=17506), standard={"QDBatteryAgeMode": 2},
+                 Now=datetime.datetime(2013, 12, 2)), launch(("CustomAge", "-0.3 years"), ("LegacyAgeInMonths", -3))),
+    Case("the battery's age grows", machine(battery=pack(ManufactureDate=17506), Now=datetime.datetime(2014, 3, 3),
+                                            steps=[{"Now": datetime.datetime(2014, 4, 12)}]),
+         [(0, "battery/CustomAge", "1 days"), (1, "battery/CustomAge", "41 days")]),
+    Case("whole years keep their point", machine(battery=pack(ManufactureDate=17506), Now=datetime.datetime(2016, 3, 2),
+                                                 steps=[{"Actions": ["battery.toggleAge"] * 2}]),
+         [(1, "battery/CustomAge", "2.0 years"), (1, "defaults/standard/QDBatteryAgeMode", 2)]),
+]
+
+DETAILS = [
+    Case("values as texts", machine(battery=pack(), PowerSources=[
+        {"BatteryHealth": "Good", "yes": True, "one": 1, "no": False, "zero": 0, "two": 2, "real": 1.5, "text": "1"}]),
+         launch(("raw", [{"BatteryHealth": "Good", "yes": "YES", "one": "YES", "no": "NO", "zero": "NO", "two": "2",
+                          "real": "1.5", "text": "1"}]), ("BatteryHealth", "Good"))),
+    Case("health is the first row's and stays", machine(battery=pack(), PowerSources=[{"BatteryHealth": "Fair"}, {}],
+                                                        steps=[{"PowerSources": [{}, {"BatteryHealth": "Good"}]}]),
+         [(0, "battery/BatteryHealth", "Fair"), (1, "battery/BatteryHealth", "Fair")]),
+]
+
+CASES = IDENTITY + DETAILS + NUMBERS + FIGURES + RATED_CAPACITIES + TEMPERATURES + STATES + ADAPTERS + LIFE + MODES

@@ -1,4 +1,5 @@
 import datetime
+import hashlib
 
 from machine_case import ABORT, ABSENT, HELPER_PATH, Case, machine
 
@@ -136,4 +137,66 @@ COMPUTER = [
     Case("no battery key inside", machine(), mac("Battery", ABSENT)),
 ]
 
-CASES = SETTINGS + APPLICATION + DAILY + COMPUTER
+
+
+def serial(text, **keys):
+    return machine(mac={"model": b"MacBookAir4,2\0", "IOPlatformSerialNumber": text}, **keys)
+
+
+def digest(text):
+    return hashlib.md5(text.encode()).hexdigest()
+
+
+def computer_id(value, text, name):
+    return Case(name, machine(mac=value), mac("generateMacID", digest(text)))
+
+
+MONDAY = datetime.datetime(2014, 5, 12)
+
+DATES = [
+    Case("weeks are counted in seconds: summer time ends early", serial("C02MN1TXF5YW"),
+         mac("ManufactureDate", "2014-05-12T01:00:00+02:00") + mac("ManufactureDateString", "2014-05-12"),
+         {"TZ": "Europe/Berlin"}),
+    Case("weeks are counted in seconds: summer time in January", serial("C02MN1TXF5YW"),
+         mac("ManufactureDate", "2014-05-11T23:00:00+10:00") + mac("ManufactureDateString", "2014-05-11"),
+         {"TZ": "Australia/Sydney"}),
+    Case("a serial of 10 characters leaves the moment of launch", serial("C02MN1TXF5",
+                                                                         Now=datetime.datetime(2015, 1, 2, 3, 4, 5)),
+         mac("ManufactureDate", "2015-01-02T03:04:05+00:00") + mac("ManufactureDateString", "2015-01-02")
+         + mac("CustomAge", "0 days") + mac("getBuildDateSerialString", "") + mac("getModelStringFromSerial", "")),
+    Case("date and code of twelve characters", serial("C02MN1TXF5YW"),
+         mac("getBuildDateSerialString", "MN") + mac("getModelStringFromSerial", "F5YW")),
+    Case("date and code of eleven characters", serial("W80123ABCDE"),
+         mac("getBuildDateSerialString", "012") + mac("getModelStringFromSerial", "CDE")),
+    Case("the computer's age grows only when toggled",
+         serial("C02MN1TXF5YW", Now=MONDAY + datetime.timedelta(days=1),
+                steps=[{"Now": MONDAY + datetime.timedelta(days=62)}, {"Actions": ["mac.toggleAge"]}]),
+         mac("CustomAge", "1 days") + mac("CustomAge", "1 days", 1) + mac("CustomAge", "2 months", 2)
+         + [(2, "defaults/standard/QDMacAgeMode", 1)]),
+    Case("stored age mode as a text", serial("C02MN1TXF5YW", Now=datetime.datetime(2016, 5, 12),
+                                             standard={"QDMacAgeMode": "2"}), mac("CustomAge", "2.0 years")),
+]
+
+IDENTIFIERS = [
+    computer_id({"model": b"MacBookAir4,2\0", "IOPlatformSerialNumber": "C02MN1TXF5YW"},
+                'C02MN1TXF5YWOptional("MacBookAir4,2")', "serial and model"),
+    computer_id({"model": b"\xff\0"}, "nil", "model that is no UTF-8"),
+    computer_id({"model": b"\0"}, 'Optional("")', "model of nothing"),
+    Case("read again each time", serial("C02MN1TXF5YW", steps=[
+        {"Registry": {EXPERT: {"IOPlatformSerialNumber": "W80123ABCDE"}}}]),
+         mac("generateMacID", digest('W80123ABCDEOptional("MacBookAir4,2")'), 1)
+         + mac("getBuildDateSerialString", "012", 1) + mac("Serial", "C02MN1TXF5YW", 1)),
+]
+
+VERSION_FILE = "/System/Library/CoreServices/SystemVersion.plist"
+
+SYSTEM = [
+    Case("system's version of another type", machine(Files={VERSION_FILE: {"ProductVersion": 10}}),
+         mac("OSXVersion", None)),
+    Case("no system version", machine(), mac("OSXVersion", None)),
+    Case("model that is no UTF-8 has no type", model(b"\xff\x00"), mac("Type", "")),
+    Case("model cache of another type", serial("C02MN1TXF5YW", standard={"modelStringCache": "x"}),
+         mac("Serial", "C02MN1TXF5YW")),
+]
+
+CASES = DATES + IDENTIFIERS + SYSTEM + SETTINGS + APPLICATION + DAILY + COMPUTER

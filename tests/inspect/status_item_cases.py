@@ -129,7 +129,7 @@ BARS = [
     bar_case(600, 1000, 1300, "green", "red"), bar_case(610, 1000, 1300, "green", "yellow"),
     bar_case(799, 1000, 1300, "green", "yellow"), bar_case(800, 1000, 1300, "green", "red"),
     bar_case(1000, 1000, 1300, "green", "red"), bar_case(300, 1000, 1300, "yellow", "red"),
-    bar_case(0, 0, 0, "green", "green"), bar_case(1, 0, 0, "green", "green"),
+    bar_case(0, 0, 0, "green", "green"), bar_case(1, 0, 0, "green", "red"),
     Case("negative charge leaves the bars", machine(battery=charge(30, health=70), steps=[
         battery_step(CurrentCapacity=-5)]), bars("yellow", "red") + bars("yellow", "red", 1)),
     Case("no number leaves the bars", machine(battery=charge(30, health=70), steps=[
