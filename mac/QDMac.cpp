@@ -89,7 +89,9 @@ void QDMac::loadSettings()
     m_serial = variantFromOptional(serial);
     m_longModel =
         variantFromOptional(modelText(getModelStringFromSerial(), m_platform.userDefaults.standard()));
-    if (const auto built = buildDate(serial.value_or(QString())))
+    const auto built = buildDate(serial.value_or(QString()));
+    m_knowsManufactureDate = built.has_value();
+    if (built)
         m_manufactureDate = *built;
     m_customAge = ageTextOfMode(m_ageMode, ManufactureDate(), m_platform.clock.now());
     m_name = m_platform.host.localizedName();
