@@ -3,7 +3,7 @@
 build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libqt6svg6-dev
     libgl-dev libplist-dev"
 runtime_packages="libqt6svg6 fonts-dejavu-core qt6-wayland"
-desktop_packages="xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme fonts-noto-core imagemagick x11-utils
+desktop_packages="python3 xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme fonts-noto-core imagemagick x11-utils
     x11-xserver-utils xdotool libglib2.0-bin"
 test_packages="libgtest-dev libgmock-dev python3 python3-dbus python3-gi python3-dbusmock waybar sway grim"
 
