@@ -41,7 +41,6 @@ struct LinuxPlatform::Services
         , registry(supplies, times, firmwareFolders(systemRoot))
         , powerSources(supplies, times)
         , userDefaults(settingsFolder())
-        , urlSession(bundle.path() + QStringLiteral("/Contents/PlugIns/quindle-network.so"))
     {
     }
 
