@@ -155,7 +155,7 @@ void QDBattery::updateWattThroughput()
 void QDBattery::updateAge()
 {
     const QDateTime made = decodeManufactureDate(manufactureDate());
-    const QDateTime now = m_platform.clock.now();
+    const QDateTime now = m_platform.clock.now().toLocalTime(); // once for both
     m_manufactureDate = made;
     m_customAge = ageText(static_cast<int>(m_ageMode), made, now);
     m_legacyAgeInMonths = wholeMonths(made, now);
