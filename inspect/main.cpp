@@ -1,4 +1,3 @@
-#include <clocale>
 #include <cstdio>
 
 #include <QCoreApplication>
@@ -77,8 +76,6 @@ int inspect(const CommandLine& commandLine)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    // Reals in property lists have a point in every language; the library that reads them asks the C locale.
-    std::setlocale(LC_NUMERIC, "C");
     const CommandLine commandLine = parseCommandLine(
         QCoreApplication::arguments().mid(1), {.machineFile = qEnvironmentVariable("QUINDLE_MACHINE"),
                                                .sysfsDirectory = qEnvironmentVariable("QUINDLE_SYSFS")});
