@@ -71,6 +71,20 @@ int inspect(const CommandLine& commandLine)
     }
 }
 
+int answer(const CommandLine& commandLine)
+{
+    switch (commandLine.call) {
+    case CommandLine::Call::Help:
+        print(helpText().toUtf8());
+        return 0;
+    case CommandLine::Call::Version:
+        print("quindle-inspect " QUINDLE_VERSION "\n");
+        return 0;
+    default:
+        return inspect(commandLine);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -81,11 +95,6 @@ int main(int argc, char** argv)
                                                .sysfsDirectory = qEnvironmentVariable("QUINDLE_SYSFS")});
     if (!commandLine.fault.isEmpty())
         return refuse(commandLine.fault + QStringLiteral(" (see --help)"));
-    if (commandLine.call == CommandLine::Call::Help)
-        print(helpText().toUtf8());
-    else if (commandLine.call == CommandLine::Call::Version)
-        print("quindle-inspect " QUINDLE_VERSION "\n");
-    else
-        return inspect(commandLine);
-    return 0;
+    const int status = answer(commandLine);
+    return std::ferror(stdout) ? refuse(QStringLiteral("cannot write to standard output")) : status;
 }
