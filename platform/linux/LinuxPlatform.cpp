@@ -36,11 +36,11 @@ LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 
 struct LinuxPlatform::Services
 {
-    explicit Services(const QString& systemRoot)
+    Services(const QString& systemRoot, SettingsAccess settingsAccess)
         : supplies((rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
         , registry(supplies, times, firmwareFolders(systemRoot))
         , powerSources(supplies, times)
-        , userDefaults(settingsFolder())
+        , userDefaults(settingsFolder(), settingsAccess)
     {
     }
 
@@ -62,8 +62,8 @@ struct LinuxPlatform::Services
     LinuxUrlSession urlSession;
 };
 
-LinuxPlatform::LinuxPlatform(const QString& systemRoot)
-    : m_services(std::make_unique<Services>(systemRoot))
+LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)
+    : m_services(std::make_unique<Services>(systemRoot, settingsAccess))
 {
 }
 

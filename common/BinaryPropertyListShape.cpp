@@ -1,31 +1,21 @@
-#include "common/PropertyListShape.h"
+#include "common/BinaryPropertyListShape.h"
 
 #include <algorithm>
 #include <optional>
 #include <vector>
 
-#include <QXmlStreamReader>
 #include <QtEndian>
 
 namespace quindle {
 
 namespace {
 
-constexpr int deepest = 512;
-constexpr qint64 mostValues = 1'000'000;
-
-bool hasXmlShape(const QByteArray& bytes)
+/// Shared texts and numbers are written out once for each reference, of which there are at most as many as
+/// bytes; only containers that share containers go beyond that.
+qint64 mostValues(const QByteArray& bytes)
 {
-    QXmlStreamReader xml(bytes);
-    int depth = 0;
-    while (!xml.atEnd()) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
-        if (token == QXmlStreamReader::StartElement && ++depth > deepest)
-            return false;
-        if (token == QXmlStreamReader::EndElement)
-            --depth;
-    }
-    return !xml.hasError();
+    constexpr qint64 enoughForSmallLists = 1'000'000;
+    return std::max(enoughForSmallLists, qint64{4} * bytes.size());
 }
 
 /// A binary list's objects as a graph of references, of which each object is visited once.
@@ -138,7 +128,7 @@ std::optional<std::vector<quint64>> BinaryGraph::references(quint64 object) cons
 std::optional<qint64> BinaryGraph::valuesBelow(quint64 object, int depth)
 {
     const Visit known = m_visits[object];
-    if (known.isOpen || depth + known.height > deepest)
+    if (known.isOpen || depth + known.height > mostPropertyListLevels)
         return std::nullopt;
     if (known.values > 0)
         return known.values;
@@ -162,23 +152,18 @@ std::optional<BinaryGraph::Visit> BinaryGraph::visitChildren(quint64 object, int
             return std::nullopt;
         visit.values += *below;
         visit.height = std::max(visit.height, m_visits[child].height + 1);
-        if (visit.values > mostValues)
+        if (visit.values > mostValues(m_bytes))
             return std::nullopt;
     }
     return visit;
 }
 
-bool hasBinaryShape(const QByteArray& bytes)
-{
-    auto graph = BinaryGraph::read(bytes);
-    return graph && graph->isBounded();
-}
-
 } // namespace
 
-bool hasPropertyListShape(const QByteArray& bytes)
+bool hasBearableShape(const QByteArray& binary)
 {
-    return bytes.startsWith("bplist0") ? hasBinaryShape(bytes) : hasXmlShape(bytes);
+    auto graph = BinaryGraph::read(binary);
+    return graph && graph->isBounded();
 }
 
 } // namespace quindle
