@@ -113,8 +113,9 @@ TEST_F(StatusPicturesTest, theLevelStandsOutOnEveryPanel)
             EXPECT_GT(lightness(full, inLevel, colour), lightness(full, beside, colour) + 120)
                 << panel << " at " << size;
             EXPECT_NEAR(lightness(full, inLevel, colour), 255, 1);
-            if (size != 32) // elsewhere lines fall between pixels
-                EXPECT_NEAR(lightness(full, inOutline, colour), 255, 1);
+            if (size == 32) // lines fall between pixels
+                continue;
+            EXPECT_NEAR(lightness(full, inOutline, colour), 255, 1);
         }
     }
 }
