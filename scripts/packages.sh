@@ -1,7 +1,7 @@
 # Installs Debian or Ubuntu packages by name, the missing ones only. Sourced by ./run and ./test.
 
 build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libqt6svg6-dev
-    libgl-dev libplist-dev"
+    libgl-dev libplist-dev libxml2-dev"
 runtime_packages="libqt6svg6 fonts-dejavu-core qt6-wayland"
 desktop_packages="xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme fonts-noto-core imagemagick x11-utils
     x11-xserver-utils xdotool libglib2.0-bin"

@@ -11,6 +11,7 @@
 #include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/LinuxSystemFiles.h"
+#include "platform/linux/LinuxUrlSession.h"
 #include "platform/linux/LinuxUserDefaults.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/SupplyDirectory.h"
@@ -40,6 +41,7 @@ struct LinuxPlatform::Services
         , registry(supplies, times, firmwareFolders(systemRoot))
         , powerSources(supplies, times)
         , userDefaults(settingsFolder())
+        , urlSession(bundle.path() + QStringLiteral("/Contents/PlugIns/quindle-network.so"))
     {
     }
 
@@ -58,6 +60,7 @@ struct LinuxPlatform::Services
     LinuxSystemFiles systemFiles;
     LinuxRunLoop runLoop;
     LinuxApplication application;
+    LinuxUrlSession urlSession;
 };
 
 LinuxPlatform::LinuxPlatform(const QString& systemRoot)
@@ -93,7 +96,8 @@ Platform LinuxPlatform::services(StatusBar& statusBar)
             .systemFiles = own.systemFiles,
             .runLoop = own.runLoop,
             .statusBar = statusBar,
-            .application = own.application};
+            .application = own.application,
+            .urlSession = own.urlSession};
 }
 
 } // namespace quindle
