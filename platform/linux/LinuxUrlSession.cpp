@@ -4,6 +4,8 @@
 #include <QLoggingCategory>
 #include <QUrl>
 
+#include "platform/Bundle.h"
+
 namespace quindle {
 
 namespace {
@@ -11,6 +13,11 @@ namespace {
 Q_LOGGING_CATEGORY(networkLog, "quindle.network")
 
 } // namespace
+
+QString networkModule(const Bundle& programBundle)
+{
+    return programBundle.path() + QStringLiteral("/Contents/PlugIns/quindle-network.so");
+}
 
 LinuxUrlSession::LinuxUrlSession(QString modulePath)
     : m_modulePath(std::move(modulePath))

@@ -6,6 +6,11 @@
 
 namespace quindle {
 
+class Bundle;
+
+/// The file of the network module in the program's bundle.
+QString networkModule(const Bundle& programBundle);
+
 /// Exchanges over the network. The network libraries are loaded with the first one; an address without a host
 /// is none.
 class LinuxUrlSession : public UrlSession

@@ -2,8 +2,11 @@
 // of the program's services together, so this is a module of its own, which only a process that sends
 // something loads.
 
+#include <utility>
+
 #include "platform/UrlSession.h"
 #include "platform/linux/HttpContents.h"
+#include "platform/linux/HttpsPost.h"
 
 namespace quindle {
 
@@ -12,13 +15,16 @@ namespace {
 class NetworkUrlSession : public UrlSession
 {
 public:
-    // No service is posted to yet.
-    void post(const QString& /*url*/, const QByteArray& /*body*/,
-              std::function<void(int status, const QByteArray& body)> /*answered*/) override
+    void post(const QString& url, const QByteArray& body,
+              std::function<void(int status, const QByteArray& body)> answered) override
     {
+        m_post.post(url, body, std::move(answered));
     }
 
     std::optional<QByteArray> contents(const QString& url) override { return httpContents(url); }
+
+private:
+    HttpsPost m_post;
 };
 
 } // namespace

@@ -1,8 +1,9 @@
 # What needs the network libraries, in a module that a process loads with its first request.
 quindle_library(quindle_network
-    SOURCES HttpContents.cpp
-    USES quindle_platform Qt6::Core
-    PRIVATE_USES Qt6::Network
+    SOURCES
+        HttpContents.cpp
+        HttpsPost.cpp
+    USES quindle_platform Qt6::Network Qt6::Core
 )
 
 add_library(quindle_network_module MODULE NetworkModule.cpp)
