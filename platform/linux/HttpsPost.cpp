@@ -1,7 +1,9 @@
 #include "platform/linux/HttpsPost.h"
 
+#include <algorithm>
 #include <utility>
 
+#include <QIODevice>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -11,6 +13,38 @@
 namespace quindle {
 
 namespace {
+
+/// A body that can be read once only. From one that can be read again the network library repeats the whole
+/// request, several times, when a server ends the connection without an answer.
+class BodyReadOnce : public QIODevice
+{
+public:
+    BodyReadOnce(QByteArray body, QObject* parent)
+        : QIODevice(parent)
+        , m_body(std::move(body))
+    {
+        open(ReadOnly | Unbuffered);
+    }
+
+    bool isSequential() const override { return true; }
+    bool reset() override { return false; }
+    bool atEnd() const override { return m_position == m_body.size(); }
+    qint64 bytesAvailable() const override { return m_body.size() - m_position; }
+
+protected:
+    qint64 readData(char* data, qint64 maxSize) override
+    {
+        const qint64 length = std::min(maxSize, bytesAvailable());
+        std::copy_n(m_body.constData() + m_position, length, data);
+        m_position += length;
+        return length;
+    }
+    qint64 writeData(const char* /*data*/, qint64 /*maxSize*/) override { return -1; }
+
+private:
+    QByteArray m_body;
+    qint64 m_position = 0;
+};
 
 /// Errors above these are the server's own words; those below say that no complete answer came.
 bool isAnswered(QNetworkReply::NetworkError error)
@@ -41,6 +75,7 @@ QNetworkRequest HttpsPost::requestFor(const QUrl& url, qsizetype length) const
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
     request.setHeader(QNetworkRequest::ContentLengthHeader, length);
     request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Quindle-Helper"));
     request.setRawHeader("Accept-Language", "en"); // otherwise the user's language would be told
@@ -57,8 +92,10 @@ void HttpsPost::post(const QString& url, const QByteArray& body,
         return;
     if (!m_manager)
         m_manager = std::make_unique<QNetworkAccessManager>();
+    auto* bodyOnce = new BodyReadOnce(body, m_manager.get());
     // Not its post(), which would add a content type.
-    QNetworkReply* reply = m_manager->sendCustomRequest(requestFor(address, body.size()), "POST", body);
+    QNetworkReply* reply = m_manager->sendCustomRequest(requestFor(address, body.size()), "POST", bodyOnce);
+    bodyOnce->setParent(reply);
     const qint64 largest = m_limits.size;
     QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply, largest] {
         if (reply->bytesAvailable() > largest)
