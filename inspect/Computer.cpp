@@ -51,6 +51,7 @@ Platform Computer::thisComputer()
         .statusBar = m_recorded.statusBar,
         .application = m_recorded.application,
         .urlSession = m_recorded.urlSession,
+        .userDirectories = linux.userDirectories,
     };
 }
 

@@ -13,6 +13,8 @@
 #include "mac/OSXVersionName.h"
 #include "mac/PlatformExpert.h"
 #include "mac/SerialNumberDecoding.h"
+#include "mac/ShortVersion.h"
+#include "mac/SnapshotRecord.h"
 #include "platform/Host.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
@@ -198,6 +200,32 @@ std::optional<QString> QDMac::Name() const
 std::optional<QString> QDMac::LongModel() const
 {
     return convertToText(m_longModel);
+}
+
+std::optional<QVariantMap> QDMac::getDataForSaving(bool /*flag*/) const
+{
+    if (!m_battery)
+        return std::nullopt;
+    const QDBattery& battery = *m_battery;
+    return snapshotRecord({
+        .designCapacity = battery.DesignCapacity(),
+        .manufacturer = battery.Manufacturer(),
+        .stateOfHealth = battery.StateOfHealth(),
+        .legacyAgeInMonths = battery.LegacyAgeInMonths(),
+        .cycleCount = battery.CycleCount(),
+        .actualDesignCapacity = battery.ActualDesignCapacity(),
+        .reportedDesignCapacity = battery.ReportedDesignCapacity(),
+        .batteryManufactureDateRaw = battery.manufactureDate(),
+        .fullChargeCapacity = battery.FullChargeCapacity(),
+        .deviceName = battery.DeviceName(),
+        .batteryID = battery.BatteryID(),
+        .model = Model(),
+        .macManufactureDateRaw = getBuildDateSerialString(),
+        .macID = generateMacID(),
+        .snapshotDate = m_platform.clock.now(),
+        .applicationVersion = shortVersion(m_platform.bundle),
+        .raw = battery.getRawData(),
+    });
 }
 
 QDateTime QDMac::ManufactureDate() const

@@ -78,6 +78,11 @@ public:
     /// The path of the operating system's table of machine attributes.
     static QString privateFrameworksURL();
 
+    /// The snapshot record of this moment (see mac/SnapshotRecord.h); nothing without a battery. Packed date,
+    /// raw entry and both identifiers of the computer are read anew, the rest stands as last refreshed. The
+    /// flag changes nothing.
+    std::optional<QVariantMap> getDataForSaving(bool flag) const;
+
     /// Null on a computer without a battery.
     QDBattery* Battery() const { return m_battery.get(); }
 

@@ -15,6 +15,7 @@ class StatusBar;
 class SystemFiles;
 class UrlSession;
 class UserDefaultsDatabases;
+class UserDirectories;
 class Workspace;
 class WorkspaceNotifications;
 
@@ -37,6 +38,7 @@ struct Platform
     StatusBar& statusBar;
     Application& application;
     UrlSession& urlSession;
+    UserDirectories& userDirectories;
 };
 
 } // namespace quindle

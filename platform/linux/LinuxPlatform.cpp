@@ -13,6 +13,7 @@
 #include "platform/linux/LinuxSystemFiles.h"
 #include "platform/linux/LinuxUrlSession.h"
 #include "platform/linux/LinuxUserDefaults.h"
+#include "platform/linux/LinuxUserDirectories.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/SupplyDirectory.h"
 
@@ -41,6 +42,7 @@ struct LinuxPlatform::Services
         , registry(supplies, times, firmwareFolders(systemRoot))
         , powerSources(supplies, times)
         , userDefaults(settingsFolder(), settingsAccess)
+        , urlSession(networkModule(bundle))
     {
     }
 
@@ -60,6 +62,7 @@ struct LinuxPlatform::Services
     LinuxRunLoop runLoop;
     LinuxApplication application;
     LinuxUrlSession urlSession;
+    LinuxUserDirectories userDirectories;
 };
 
 LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)
@@ -96,7 +99,8 @@ Platform LinuxPlatform::services(StatusBar& statusBar)
             .runLoop = own.runLoop,
             .statusBar = statusBar,
             .application = own.application,
-            .urlSession = own.urlSession};
+            .urlSession = own.urlSession,
+            .userDirectories = own.userDirectories};
 }
 
 } // namespace quindle

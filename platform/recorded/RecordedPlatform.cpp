@@ -13,6 +13,7 @@ RecordedPlatform::RecordedPlatform(const QVariantMap& machineKeys, const Bundle&
     , systemFiles(computer)
     , loginItems(computer)
     , urlSession(computer)
+    , userDirectories(computer)
 {
 }
 
@@ -34,6 +35,7 @@ Platform RecordedPlatform::platform()
         .statusBar = statusBar,
         .application = application,
         .urlSession = urlSession,
+        .userDirectories = userDirectories,
     };
 }
 

@@ -23,6 +23,7 @@
 #include "platform/StatusBar.h"
 #include "platform/UrlSession.h"
 #include "platform/UserDefaults.h"
+#include "platform/UserDirectories.h"
 #include "platform/Workspace.h"
 
 // The computer as tests invent it: every platform service in memory, changed by hand, recording what is
@@ -227,11 +228,20 @@ class FakeUrlSession : public UrlSession
 public:
     std::map<QString, QByteArray> answers;
     QStringList asked;
-    QStringList posted; ///< addresses
+    QStringList posted;             ///< addresses
+    std::vector<QByteArray> bodies; ///< of the posts
 
     void post(const QString& url, const QByteArray& body,
               std::function<void(int status, const QByteArray& body)> answered) override;
     std::optional<QByteArray> contents(const QString& url) override;
+};
+
+class FakeUserDirectories : public UserDirectories
+{
+public:
+    QStringList applicationSupport;
+
+    QStringList applicationSupportDirectories() const override { return applicationSupport; }
 };
 
 /// Delivers to this process alone, at once.
@@ -277,6 +287,7 @@ struct FakePlatform
     FakeStatusBar statusBar;
     FakeApplication application;
     FakeUrlSession urlSession;
+    FakeUserDirectories userDirectories;
 
     Platform platform{registry,
                       powerSources,
@@ -292,7 +303,8 @@ struct FakePlatform
                       runLoop,
                       statusBar,
                       application,
-                      urlSession};
+                      urlSession,
+                      userDirectories};
 
     FakePlatform() = default;
     FakePlatform(const FakePlatform&) = delete;

@@ -14,7 +14,7 @@ namespace {
 TEST(LinuxUrlSession, OnlyAConfiguredHostIsAsked)
 {
     const HttpServer server;
-    LinuxUrlSession session;
+    LinuxUrlSession session{QString()};
     FakeBundle bundle;
     const auto lookUp = [&] { return onlineModelText(QStringLiteral("F5YX"), bundle, session); };
     EXPECT_EQ(lookUp(), std::nullopt);
