@@ -13,6 +13,8 @@
 #include <QtEndian>
 #include <plist/plist.h>
 
+#include "common/PropertyListShape.h"
+
 namespace quindle {
 
 namespace {
@@ -38,6 +40,8 @@ const QDateTime& referenceDate()
 
 QVariant dateFromSeconds(double seconds)
 {
+    if (std::isnan(seconds))
+        return {};
     constexpr double farthest = 9.0e15; // more than any year QDateTime knows
     const double milliseconds = std::clamp(std::round(seconds * 1000.0), -farthest, farthest);
     return referenceDate().addMSecs(static_cast<qint64>(milliseconds)).toLocalTime();
@@ -149,6 +153,8 @@ QVariant valueFromNode(plist_t node)
 
 std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes)
 {
+    if (!hasPropertyListShape(bytes))
+        return std::nullopt;
     plist_t node = nullptr;
     plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &node);
     if (!node)

@@ -50,6 +50,7 @@ Platform Computer::thisComputer()
         .runLoop = m_recorded.runLoop,
         .statusBar = m_recorded.statusBar,
         .application = m_recorded.application,
+        .urlSession = m_recorded.urlSession,
     };
 }
 

@@ -11,6 +11,7 @@
 #include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/LinuxSystemFiles.h"
+#include "platform/linux/LinuxUrlSession.h"
 #include "platform/linux/LinuxUserDefaults.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/SupplyDirectory.h"
@@ -58,6 +59,7 @@ struct LinuxPlatform::Services
     LinuxSystemFiles systemFiles;
     LinuxRunLoop runLoop;
     LinuxApplication application;
+    LinuxUrlSession urlSession;
 };
 
 LinuxPlatform::LinuxPlatform(const QString& systemRoot)
@@ -93,7 +95,8 @@ Platform LinuxPlatform::services(StatusBar& statusBar)
             .systemFiles = own.systemFiles,
             .runLoop = own.runLoop,
             .statusBar = statusBar,
-            .application = own.application};
+            .application = own.application,
+            .urlSession = own.urlSession};
 }
 
 } // namespace quindle
