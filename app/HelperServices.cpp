@@ -67,7 +67,8 @@ public:
                 .systemFiles = m_recorded.systemFiles,
                 .runLoop = m_runLoop,
                 .statusBar = m_statusBar,
-                .application = m_application};
+                .application = m_application,
+                .urlSession = m_recorded.urlSession};
     }
 
     void play(HelperAppDelegate& delegate) override

@@ -8,6 +8,7 @@
 #include "common/OptionalText.h"
 #include "mac/DemoMac.h"
 #include "mac/MachineType.h"
+#include "mac/ModelNameLookup.h"
 #include "mac/ModelText.h"
 #include "mac/OSXVersionName.h"
 #include "mac/PlatformExpert.h"
@@ -87,9 +88,13 @@ void QDMac::loadSettings()
     m_model = variantFromOptional(readModelIdentifier(m_platform.registry));
     const auto serial = readSerialNumber(m_platform.registry);
     m_serial = variantFromOptional(serial);
-    m_longModel =
-        variantFromOptional(modelText(getModelStringFromSerial(), m_platform.userDefaults.standard()));
-    if (const auto built = buildDate(serial.value_or(QString())))
+    m_longModel = variantFromOptional(modelText(
+        getModelStringFromSerial(), m_platform.userDefaults.standard(), [this](const QString& code) {
+            return onlineModelText(code, m_platform.bundle, m_platform.urlSession);
+        }));
+    const auto built = buildDate(serial.value_or(QString()));
+    m_knowsManufactureDate = built.has_value();
+    if (built)
         m_manufactureDate = *built;
     m_customAge = ageTextOfMode(m_ageMode, ManufactureDate(), m_platform.clock.now());
     m_name = m_platform.host.localizedName();

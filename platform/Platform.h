@@ -13,6 +13,7 @@ class PowerSources;
 class RunLoop;
 class StatusBar;
 class SystemFiles;
+class UrlSession;
 class UserDefaultsDatabases;
 class Workspace;
 class WorkspaceNotifications;
@@ -35,6 +36,7 @@ struct Platform
     RunLoop& runLoop;
     StatusBar& statusBar;
     Application& application;
+    UrlSession& urlSession;
 };
 
 } // namespace quindle

@@ -11,6 +11,7 @@
 #include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/LinuxSystemFiles.h"
+#include "platform/linux/LinuxUrlSession.h"
 #include "platform/linux/LinuxUserDefaults.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/SupplyDirectory.h"
@@ -35,11 +36,11 @@ LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 
 struct LinuxPlatform::Services
 {
-    explicit Services(const QString& systemRoot)
+    Services(const QString& systemRoot, SettingsAccess settingsAccess)
         : supplies((rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
         , registry(supplies, times, firmwareFolders(systemRoot))
         , powerSources(supplies, times)
-        , userDefaults(settingsFolder())
+        , userDefaults(settingsFolder(), settingsAccess)
     {
     }
 
@@ -58,10 +59,11 @@ struct LinuxPlatform::Services
     LinuxSystemFiles systemFiles;
     LinuxRunLoop runLoop;
     LinuxApplication application;
+    LinuxUrlSession urlSession;
 };
 
-LinuxPlatform::LinuxPlatform(const QString& systemRoot)
-    : m_services(std::make_unique<Services>(systemRoot))
+LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)
+    : m_services(std::make_unique<Services>(systemRoot, settingsAccess))
 {
 }
 
@@ -93,7 +95,8 @@ Platform LinuxPlatform::services(StatusBar& statusBar)
             .systemFiles = own.systemFiles,
             .runLoop = own.runLoop,
             .statusBar = statusBar,
-            .application = own.application};
+            .application = own.application,
+            .urlSession = own.urlSession};
 }
 
 } // namespace quindle

@@ -33,6 +33,7 @@ Platform RecordedPlatform::platform()
         .runLoop = runLoop,
         .statusBar = statusBar,
         .application = application,
+        .urlSession = urlSession,
     };
 }
 

@@ -21,6 +21,7 @@
 #include "platform/PowerSources.h"
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
+#include "platform/UrlSession.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
@@ -207,6 +208,7 @@ public:
 
     void terminate() override { ++terminated; }
     void activateIgnoringOtherApplications() override { ++activated; }
+    bool showsTranslucentWindows() const override { return false; }
 };
 
 class FakeBundle : public Bundle
@@ -217,6 +219,19 @@ public:
 
     QString path() const override { return bundlePath; }
     std::optional<QVariantMap> infoDictionary() const override { return info; }
+};
+
+/// Answers what stands in `answers`; posts are never answered.
+class FakeUrlSession : public UrlSession
+{
+public:
+    std::map<QString, QByteArray> answers;
+    QStringList asked;
+    QStringList posted; ///< addresses
+
+    void post(const QString& url, const QByteArray& body,
+              std::function<void(int status, const QByteArray& body)> answered) override;
+    std::optional<QByteArray> contents(const QString& url) override;
 };
 
 /// Delivers to this process alone, at once.
@@ -261,6 +276,7 @@ struct FakePlatform
     FakeRunLoop runLoop{clock};
     FakeStatusBar statusBar;
     FakeApplication application;
+    FakeUrlSession urlSession;
 
     Platform platform{registry,
                       powerSources,
@@ -275,7 +291,8 @@ struct FakePlatform
                       systemFiles,
                       runLoop,
                       statusBar,
-                      application};
+                      application,
+                      urlSession};
 
     FakePlatform() = default;
     FakePlatform(const FakePlatform&) = delete;
