@@ -13,6 +13,9 @@
 #include <QtEndian>
 #include <plist/plist.h>
 
+#include "common/BinaryPropertyListShape.h"
+#include "common/PropertyListXml.h"
+
 namespace quindle {
 
 namespace {
@@ -149,8 +152,12 @@ QVariant valueFromNode(plist_t node)
 
 std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes)
 {
+    if (!bytes.startsWith("bplist"))
+        return propertyListFromXml(bytes);
+    if (!hasBearableShape(bytes))
+        return std::nullopt;
     plist_t node = nullptr;
-    plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &node);
+    plist_from_bin(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &node);
     if (!node)
         return std::nullopt;
     const PlistPointer owner(node);

@@ -52,6 +52,20 @@ QString xmlText(const QString& text)
     return kept;
 }
 
+/// A text with its carriage returns: readers of XML take one that is not written as a reference for a line
+/// feed.
+void writeText(QXmlStreamWriter& xml, const QString& element, const QString& text)
+{
+    xml.writeStartElement(element);
+    const QStringList lines = xmlText(text).split(u'\r');
+    xml.writeCharacters(lines.constFirst());
+    for (const QString& line : lines.mid(1)) {
+        xml.writeEntityReference(QStringLiteral("#13"));
+        xml.writeCharacters(line);
+    }
+    xml.writeEndElement();
+}
+
 void writeList(QXmlStreamWriter& xml, const QVariantList& list)
 {
     xml.writeStartElement(QStringLiteral("array"));
@@ -67,7 +81,7 @@ void writeMap(QXmlStreamWriter& xml, const QVariantMap& map)
     for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
         if (!isWritable(entry.value()))
             continue;
-        xml.writeTextElement(QStringLiteral("key"), xmlText(entry.key()));
+        writeText(xml, QStringLiteral("key"), entry.key());
         writeValue(xml, entry.value());
     }
     xml.writeEndElement();
@@ -83,7 +97,7 @@ void writeValue(QXmlStreamWriter& xml, const QVariant& value)
         xml.writeTextElement(QStringLiteral("real"), shortestText(value.toDouble()));
         return;
     case QMetaType::QString:
-        xml.writeTextElement(QStringLiteral("string"), xmlText(value.toString()));
+        writeText(xml, QStringLiteral("string"), value.toString());
         return;
     case QMetaType::QByteArray:
         xml.writeTextElement(QStringLiteral("data"), QString::fromLatin1(value.toByteArray().toBase64()));

@@ -1,6 +1,7 @@
 #include "inspect/Capture.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include "common/PropertyList.h"
@@ -112,6 +113,30 @@ QVariantMap withoutHomeFolder(QVariantMap bundle)
     return bundle;
 }
 
+bool isDeviceOrPipe(const QString& path)
+{
+    const QFileInfo target(path);
+    return target.exists() && !target.isFile() && !target.isDir();
+}
+
+/// A device or pipe is written into: a file put in its place would take it away from everybody.
+QString writeInto(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(content) == content.size();
+    return isWritten ? QString() : file.errorString();
+}
+
+QString replaceFile(const QString& path, const QByteArray& content)
+{
+    QSaveFile file(path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
+                           file.write(content) >= 0 && file.commit();
+    return isWritten ? QString() : file.errorString();
+}
+
 } // namespace
 
 QVariantMap capturedKeys(const Platform& platform)
@@ -148,11 +173,8 @@ QVariantMap withoutIdentity(const QVariantMap& keys)
 
 QString writeMachineFile(const QString& path, const QVariantMap& keys)
 {
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-                           file.write(xmlPropertyList(keys)) >= 0 && file.commit();
-    return isWritten ? QString() : file.errorString();
+    const QByteArray content = xmlPropertyList(keys);
+    return isDeviceOrPipe(path) ? writeInto(path, content) : replaceFile(path, content);
 }
 
 } // namespace quindle

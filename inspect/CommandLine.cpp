@@ -62,7 +62,9 @@ bool takeOption(const QStringList& arguments, qsizetype& index, Given& given, QS
     const QString argument = arguments[index];
     for (const Option& option : options) {
         const QLatin1String name(option.name);
-        if (argument == name && index + 1 < arguments.size())
+        // "--capture --json" lacks the file's name; one that begins with a dash is given as
+        // "--capture=-name".
+        if (argument == name && index + 1 < arguments.size() && !arguments[index + 1].startsWith(u'-'))
             given.*option.member = arguments[++index];
         else if (argument.startsWith(name + QStringLiteral("=")))
             given.*option.member = argument.mid(name.size() + 1);

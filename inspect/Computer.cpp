@@ -24,7 +24,7 @@ std::variant<std::unique_ptr<Computer>, MachineRefusal> Computer::open(const Com
 
 Computer::Computer(Machine machine, bool isRecorded, const QString& sysfsDirectory)
     : m_machine(std::move(machine))
-    , m_linux(sysfsDirectory)
+    , m_linux(sysfsDirectory, SettingsAccess::ReadOnly)
     , m_recorded(m_machine.keys, m_linux.bundle())
     , m_settings(isRecorded ? static_cast<UserDefaultsDatabases&>(m_recorded.userDefaults)
                             : m_linux.userDefaults())

@@ -1,4 +1,3 @@
-#include <clocale>
 #include <cstdio>
 
 #include <QCoreApplication>
@@ -72,23 +71,30 @@ int inspect(const CommandLine& commandLine)
     }
 }
 
+int answer(const CommandLine& commandLine)
+{
+    switch (commandLine.call) {
+    case CommandLine::Call::Help:
+        print(helpText().toUtf8());
+        return 0;
+    case CommandLine::Call::Version:
+        print("quindle-inspect " QUINDLE_VERSION "\n");
+        return 0;
+    default:
+        return inspect(commandLine);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    // Reals in property lists have a point in every language; the library that reads them asks the C locale.
-    std::setlocale(LC_NUMERIC, "C");
     const CommandLine commandLine = parseCommandLine(
         QCoreApplication::arguments().mid(1), {.machineFile = qEnvironmentVariable("QUINDLE_MACHINE"),
                                                .sysfsDirectory = qEnvironmentVariable("QUINDLE_SYSFS")});
     if (!commandLine.fault.isEmpty())
         return refuse(commandLine.fault + QStringLiteral(" (see --help)"));
-    if (commandLine.call == CommandLine::Call::Help)
-        print(helpText().toUtf8());
-    else if (commandLine.call == CommandLine::Call::Version)
-        print("quindle-inspect " QUINDLE_VERSION "\n");
-    else
-        return inspect(commandLine);
-    return 0;
+    const int status = answer(commandLine);
+    return std::ferror(stdout) ? refuse(QStringLiteral("cannot write to standard output")) : status;
 }

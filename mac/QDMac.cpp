@@ -94,7 +94,9 @@ void QDMac::loadSettings()
         getModelStringFromSerial(), m_platform.userDefaults.standard(), [this](const QString& code) {
             return onlineModelText(code, m_platform.bundle, m_platform.urlSession);
         }));
-    if (const auto built = buildDate(serial.value_or(QString())))
+    const auto built = buildDate(serial.value_or(QString()));
+    m_knowsManufactureDate = built.has_value();
+    if (built)
         m_manufactureDate = *built;
     m_customAge = ageTextOfMode(m_ageMode, ManufactureDate(), m_platform.clock.now());
     m_name = m_platform.host.localizedName();

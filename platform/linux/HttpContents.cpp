@@ -1,69 +1,83 @@
 #include "platform/linux/HttpContents.h"
 
-#include <memory>
-
-#include <QEventLoop>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
-#include <QThread>
-#include <QTimer>
 #include <QUrl>
 
+#include "platform/linux/HttpAnswer.h"
+#include "platform/linux/TcpExchange.h"
+
+// On plain sockets: the network library's client reads a head without end for ever, whatever its time limit,
+// and loading it costs every process 200 kB.
 namespace quindle {
 
 namespace {
 
-QNetworkRequest requestFor(const QUrl& url)
+constexpr int httpPort = 80;
+
+QByteArray requestFor(const QUrl& url)
 {
-    QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Quindle-Helper"));
-    request.setRawHeader("Accept-Language", "en"); // otherwise the user's language would be told
-    return request;
+    const QByteArray query = url.query(QUrl::FullyEncoded).toLatin1();
+    QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    if (path.isEmpty())
+        path = "/";
+    if (!query.isEmpty())
+        path += '?' + query;
+    const QByteArray host = url.authority(QUrl::FullyEncoded).toLatin1();
+    return "GET " + path + " HTTP/1.1\r\nHost: " + host +
+           "\r\nUser-Agent: Quindle-Helper\r\nAccept-Encoding: gzip\r\nConnection: close\r\n\r\n";
 }
 
-/// One exchange on the loop of the present thread.
-std::optional<QByteArray> exchange(const QUrl& url, const HttpLimits& limits)
+bool canBeAsked(const QUrl& url)
 {
-    QEventLoop loop;
-    QTimer::singleShot(limits.time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    QNetworkAccessManager manager;
-    const std::unique_ptr<QNetworkReply> reply(manager.get(requestFor(url)));
-    // So much is held at once, whatever the server sends.
-    reply->setReadBufferSize(limits.size + 1);
-    QByteArray body;
-    const auto take = [&] {
-        body += reply->read(limits.size + 1 - body.size());
-        if (body.size() > limits.size)
-            loop.quit();
-    };
-    QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, take);
-    QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    loop.exec();
-    if (!reply->isFinished() || reply->error() != QNetworkReply::NoError)
+    return url.isValid() && url.scheme() == u"http" && !url.host().isEmpty() && url.userInfo().isEmpty();
+}
+
+bool isSameService(const QUrl& left, const QUrl& right)
+{
+    return left.host() == right.host() && left.port(httpPort) == right.port(httpPort);
+}
+
+std::optional<HttpAnswer> answerOf(const QUrl& url, Deadline deadline, qsizetype sizeLimit)
+{
+    HttpReading reading;
+    exchangeOverTcp(url.host(QUrl::FullyEncoded), url.port(httpPort), requestFor(url), deadline,
+                    [&](const QByteArray& bytes, bool isAtEnd) {
+                        reading = readHttpAnswer(bytes, isAtEnd, sizeLimit);
+                        return reading.state == HttpReading::State::Incomplete;
+                    });
+    if (reading.state != HttpReading::State::Complete)
         return std::nullopt;
-    take();
-    if (body.size() > limits.size)
-        return std::nullopt;
-    return body;
+    return reading.answer;
+}
+
+bool isSuccess(int status)
+{
+    return status >= 200 && status < 300;
+}
+
+bool isRedirection(int status)
+{
+    return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
 }
 
 } // namespace
 
 std::optional<QByteArray> httpContents(const QString& url, const HttpLimits& limits)
 {
-    const QUrl address(url);
-    if (address.scheme() != u"http" || address.host().isEmpty())
-        return std::nullopt;
-    std::optional<QByteArray> contents;
-    const std::unique_ptr<QThread> worker(QThread::create([&] { contents = exchange(address, limits); }));
-    worker->start();
-    worker->wait();
-    return contents;
+    constexpr int mostRedirections = 5;
+    const Deadline deadline = std::chrono::steady_clock::now() + limits.time;
+    QUrl address(url);
+    for (int redirections = 0; canBeAsked(address) && redirections <= mostRedirections; ++redirections) {
+        const auto answer = answerOf(address, deadline, limits.size);
+        if (!answer)
+            return std::nullopt;
+        if (isSuccess(answer->status))
+            return answer->body;
+        const QUrl next = address.resolved(QUrl(QString::fromUtf8(answer->location)));
+        if (!isRedirection(answer->status) || answer->location.isEmpty() || !isSameService(address, next))
+            return std::nullopt;
+        address = next;
+    }
+    return std::nullopt;
 }
 
 } // namespace quindle

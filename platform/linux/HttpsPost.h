@@ -9,6 +9,8 @@
 #include <QSslConfiguration>
 #include <QString>
 
+#include "platform/linux/Poster.h"
+
 QT_BEGIN_NAMESPACE
 class QNetworkAccessManager;
 class QNetworkRequest;
@@ -26,7 +28,7 @@ struct HttpsLimits
 /// Posts over HTTPS beside the event loop of the thread it lives in. Certificates are always verified,
 /// redirections are not followed, no cookies are sent or kept, nothing is sent twice, and no header tells
 /// anything about the user. Destroying it ends what is still under way, at once.
-class HttpsPost
+class HttpsPost : public Poster
 {
 public:
     explicit HttpsPost(HttpsLimits limits = {});
@@ -34,12 +36,12 @@ public:
     /// Trusts what `configuration` trusts, in place of the system's authorities.
     HttpsPost(HttpsLimits limits, const QSslConfiguration& configuration);
 
-    ~HttpsPost();
+    ~HttpsPost() override;
 
     /// Posts `body` to an https address; does nothing for another one. `answered` is called with the status
     /// and body of a complete answer, whatever the status; not at all when there is none within the limits.
     void post(const QString& url, const QByteArray& body,
-              std::function<void(int status, const QByteArray& body)> answered);
+              std::function<void(int status, const QByteArray& body)> answered) override;
 
 private:
     QNetworkRequest requestFor(const QUrl& url, qsizetype length) const;

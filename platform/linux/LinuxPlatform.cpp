@@ -37,11 +37,11 @@ LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 
 struct LinuxPlatform::Services
 {
-    explicit Services(const QString& systemRoot)
+    Services(const QString& systemRoot, SettingsAccess settingsAccess)
         : supplies((rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
         , registry(supplies, times, firmwareFolders(systemRoot))
         , powerSources(supplies, times)
-        , userDefaults(settingsFolder())
+        , userDefaults(settingsFolder(), settingsAccess)
         , urlSession(networkModule(bundle))
     {
     }
@@ -65,8 +65,8 @@ struct LinuxPlatform::Services
     LinuxUserDirectories userDirectories;
 };
 
-LinuxPlatform::LinuxPlatform(const QString& systemRoot)
-    : m_services(std::make_unique<Services>(systemRoot))
+LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)
+    : m_services(std::make_unique<Services>(systemRoot, settingsAccess))
 {
 }
 

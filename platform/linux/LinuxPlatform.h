@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "platform/Platform.h"
+#include "platform/linux/LinuxUserDefaults.h"
 
 namespace quindle {
 
@@ -13,7 +14,8 @@ class LinuxPlatform
 {
 public:
     /// `systemRoot` stands in place of /sys when it is not empty. Needs a QCoreApplication.
-    explicit LinuxPlatform(const QString& systemRoot);
+    explicit LinuxPlatform(const QString& systemRoot,
+                           SettingsAccess settingsAccess = SettingsAccess::ReadAndWrite);
     ~LinuxPlatform();
 
     Bundle& bundle();

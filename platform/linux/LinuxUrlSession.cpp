@@ -1,10 +1,14 @@
 #include "platform/linux/LinuxUrlSession.h"
 
+#include <utility>
+
 #include <QLibrary>
 #include <QLoggingCategory>
 #include <QUrl>
 
 #include "platform/Bundle.h"
+#include "platform/linux/HttpContents.h"
+#include "platform/linux/Poster.h"
 
 namespace quindle {
 
@@ -29,33 +33,27 @@ LinuxUrlSession::~LinuxUrlSession() = default;
 void LinuxUrlSession::post(const QString& url, const QByteArray& body,
                            std::function<void(int status, const QByteArray& body)> answered)
 {
-    if (UrlSession* session = sessionFor(url))
-        session->post(url, body, std::move(answered));
+    if (QUrl(url).host().isEmpty())
+        return;
+    if (!m_loaded)
+        load();
+    if (m_poster)
+        m_poster->post(url, body, std::move(answered));
 }
 
 std::optional<QByteArray> LinuxUrlSession::contents(const QString& url)
 {
-    UrlSession* session = sessionFor(url);
-    return session ? session->contents(url) : std::nullopt;
-}
-
-UrlSession* LinuxUrlSession::sessionFor(const QString& url)
-{
-    if (QUrl(url).host().isEmpty())
-        return nullptr;
-    if (!m_loaded)
-        load();
-    return m_session.get();
+    return httpContents(url);
 }
 
 void LinuxUrlSession::load()
 {
     m_loaded = true;
     QLibrary module(m_modulePath);
-    using MakeSession = UrlSession* (*)();
-    const auto make = reinterpret_cast<MakeSession>(module.resolve("quindleNetworkSession"));
+    using MakePoster = Poster* (*)();
+    const auto make = reinterpret_cast<MakePoster>(module.resolve("quindleMakePoster"));
     if (make)
-        m_session.reset(make());
+        m_poster.reset(make());
     else
         qCWarning(networkLog).noquote() << QStringLiteral("nothing can be sent: ") + module.errorString();
 }

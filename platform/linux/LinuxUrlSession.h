@@ -7,16 +7,16 @@
 namespace quindle {
 
 class Bundle;
+class Poster;
 
 /// The file of the network module in the program's bundle.
 QString networkModule(const Bundle& programBundle);
 
-/// Exchanges over the network. The network libraries are loaded with the first one; an address without a host
-/// is none.
+/// Exchanges over the network. The network libraries are loaded with the first post; fetching needs none.
 class LinuxUrlSession : public UrlSession
 {
 public:
-    /// `modulePath`: the module that does the work. When it cannot be loaded nothing is sent.
+    /// `modulePath`: the module that posts. When it cannot be loaded nothing is sent.
     explicit LinuxUrlSession(QString modulePath);
     ~LinuxUrlSession() override;
 
@@ -25,12 +25,11 @@ public:
     std::optional<QByteArray> contents(const QString& url) override;
 
 private:
-    UrlSession* sessionFor(const QString& url);
     void load();
 
     QString m_modulePath;
     bool m_loaded = false;
-    std::unique_ptr<UrlSession> m_session;
+    std::unique_ptr<Poster> m_poster;
 };
 
 } // namespace quindle

@@ -73,8 +73,9 @@ QString settingsFolder()
     return configuration + QStringLiteral("/quindle");
 }
 
-LinuxUserDefaults::LinuxUserDefaults(const QString& path)
-    : m_file(QFile::encodeName(path))
+LinuxUserDefaults::LinuxUserDefaults(const QString& path, SettingsAccess access)
+    : m_access(access)
+    , m_file(QFile::encodeName(path))
 {
 }
 
@@ -117,6 +118,10 @@ void LinuxUserDefaults::reportReading(const QString& failure) const
 
 bool LinuxUserDefaults::setAside() const
 {
+    if (m_access == SettingsAccess::ReadOnly) {
+        reportReading(QStringLiteral("%1 is damaged").arg(QFile::decodeName(m_file.path())));
+        return false;
+    }
     const auto lock = lockFor(m_file.path(), readerPatience);
     if (lock)
         return setAsideLocked();
@@ -171,6 +176,8 @@ QString LinuxUserDefaults::store(const QString& key, const QVariant& value)
     refresh();
     if (holds(key, xml))
         return {};
+    if (m_access == SettingsAccess::ReadOnly)
+        return QStringLiteral("it was opened for reading only");
     if (m_file.path().isEmpty())
         return QStringLiteral("there is no folder for settings");
     if (const int error = makeFolder(folderOf(m_file.path())))
@@ -195,9 +202,10 @@ QString LinuxUserDefaults::storeLocked(const QString& key, const QVariant& value
     return error == 0 ? QString() : qt_error_string(error);
 }
 
-LinuxUserDefaultsDatabases::LinuxUserDefaultsDatabases(QString folder)
+LinuxUserDefaultsDatabases::LinuxUserDefaultsDatabases(QString folder, SettingsAccess access)
     : m_folder(std::move(folder))
-    , m_standard(filePath(m_folder, QStringLiteral("com.fernhollow.Quindle-Helper")))
+    , m_access(access)
+    , m_standard(filePath(m_folder, QStringLiteral("com.fernhollow.Quindle-Helper")), access)
 {
 }
 
@@ -207,7 +215,7 @@ UserDefaults* LinuxUserDefaultsDatabases::suite(const QString& suiteName)
         return nullptr;
     auto& database = m_suites[suiteName];
     if (!database)
-        database = std::make_unique<LinuxUserDefaults>(filePath(m_folder, suiteName));
+        database = std::make_unique<LinuxUserDefaults>(filePath(m_folder, suiteName), m_access);
     return database.get();
 }
 

@@ -12,12 +12,15 @@ namespace quindle {
 /// ~/.config. Empty when the user has no home folder.
 QString settingsFolder();
 
+/// Whether files may be changed: a program that only looks leaves a damaged file where it is.
+enum class SettingsAccess { ReadAndWrite, ReadOnly };
+
 /// One settings database in one property-list file; docs/settings.md tells how it is kept whole.
 class LinuxUserDefaults : public UserDefaults
 {
 public:
     /// `path` is absolute. Neither the file nor its folder need be there.
-    explicit LinuxUserDefaults(const QString& path);
+    explicit LinuxUserDefaults(const QString& path, SettingsAccess access = SettingsAccess::ReadAndWrite);
 
     QVariant object(const QString& key) const override;
 
@@ -36,6 +39,8 @@ private:
     QString store(const QString& key, const QVariant& value);
     void reportReading(const QString& failure) const;
 
+    SettingsAccess m_access;
+
     // Reading keeps the last parse and puts a damaged file away; neither is a change a caller could tell.
     mutable PropertyListFile m_file;
     mutable QString m_readFailure;
@@ -48,7 +53,7 @@ class LinuxUserDefaultsDatabases : public UserDefaultsDatabases
 {
 public:
     /// `folder` as `settingsFolder` gives it.
-    explicit LinuxUserDefaultsDatabases(QString folder);
+    explicit LinuxUserDefaultsDatabases(QString folder, SettingsAccess access = SettingsAccess::ReadAndWrite);
 
     UserDefaults& standard() override { return m_standard; }
 
@@ -57,6 +62,7 @@ public:
 
 private:
     QString m_folder;
+    SettingsAccess m_access;
     LinuxUserDefaults m_standard;
     std::map<QString, std::unique_ptr<LinuxUserDefaults>> m_suites;
 };

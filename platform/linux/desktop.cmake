@@ -13,4 +13,5 @@ target_sources(quindle_platform_linux PRIVATE
     PropertyListFile.cpp
     SingleInstance.cpp
     TimerSchedule.cpp
+    X11Desktop.cpp
 )

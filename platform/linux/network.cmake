@@ -1,7 +1,6 @@
-# What needs the network libraries, in a module that a process loads with its first request.
+# What needs the network libraries, in a module that a process loads with its first post.
 quindle_library(quindle_network
     SOURCES
-        HttpContents.cpp
         HttpsPost.cpp
     USES quindle_platform Qt6::Network Qt6::Core
 )

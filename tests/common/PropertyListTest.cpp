@@ -1,3 +1,7 @@
+#include <clocale>
+#include <cmath>
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include "common/PropertyList.h"
@@ -78,6 +82,93 @@ TEST(PropertyList, OtherBytesGiveNothing)
           QByteArray("<plist><dict><key>a</key><string>b")})
         EXPECT_FALSE(propertyListFromBytes(bytes).has_value()) << bytes.toStdString();
     EXPECT_FALSE(propertyListFromFile(QStringLiteral("/no/such/file.plist")).has_value());
+}
+
+TEST(PropertyList, BrokenXmlGivesNothing)
+{
+    const QByteArray head = "<?xml version=\"1.0\"?><plist version=\"1.0\">";
+    for (const QByteArray& body :
+         {QByteArray("<true/>"), QByteArray("<true/></plist>x"), QByteArray("<true/><true/></plist>"),
+          QByteArray("</plist>"), QByteArray("x<true/>"), QByteArray("<string>\xff\xfe</string></plist>"),
+          QByteArray("<dict><key>a</key></dict></plist>"), QByteArray("<dict><true/></dict></plist>"),
+          QByteArray("<dict><key>a</key><key>b</key></dict></plist>"), QByteArray("<other/></plist>"),
+          QByteArray("<string>a<b/></string></plist>")})
+        EXPECT_FALSE(propertyListFromBytes(head + body).has_value()) << body.toStdString();
+}
+
+TEST(PropertyList, ValuesThatAreNoneGiveNothing)
+{
+    for (const QByteArray& body :
+         {QByteArray("<integer>x</integer>"), QByteArray("<integer/>"), QByteArray("<integer>1.5</integer>"),
+          QByteArray("<integer>--1</integer>"), QByteArray("<real>0,5</real>"), QByteArray("<real/>"),
+          QByteArray("<real>1 2</real>"), QByteArray("<date>yesterday</date>"), QByteArray("<date/>"),
+          QByteArray("<data>!!!!</data>")})
+        EXPECT_FALSE(propertyListFromBytes("<plist version=\"1.0\">" + body + "</plist>").has_value())
+            << body.toStdString();
+}
+
+TEST(PropertyList, WaysToWriteTheSame)
+{
+    EXPECT_EQ(readXml("<integer> +7 </integer>"), QVariant(qint64{7}));
+    EXPECT_EQ(readXml("<integer>0x1F</integer>"), QVariant(qint64{31}));
+    EXPECT_EQ(readXml("<integer>-9223372036854775808</integer>"),
+              QVariant(std::numeric_limits<qint64>::min()));
+    EXPECT_EQ(readXml("<real>1e3</real>"), QVariant(1000.0));
+    EXPECT_EQ(readXml("<real>-inf</real>"), QVariant(-std::numeric_limits<double>::infinity()));
+    EXPECT_TRUE(std::isnan(readXml("<real>nan</real>").toDouble()));
+    EXPECT_EQ(readXml("<data>\n\tYW\n\tIA\n</data>"), QVariant(QByteArray("ab\0", 3)));
+    EXPECT_EQ(readXml("<string> a\n<![CDATA[<b>]]> </string>"), QVariant(QStringLiteral(" a\n<b> ")));
+    EXPECT_EQ(readXml("<!-- note --><string/>"), QVariant(QStringLiteral("")));
+}
+
+TEST(PropertyList, ReadsRealsTheSameInEveryLanguage)
+{
+    const char* const german = std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
+    if (!german)
+        GTEST_SKIP() << "this computer has no German locale";
+    const QVariant real = readXml("<real>61.5</real>");
+    std::setlocale(LC_NUMERIC, "C");
+    EXPECT_EQ(real, QVariant(61.5));
+}
+
+QByteArray nestedXml(int levels)
+{
+    return "<plist version=\"1.0\">" + QByteArray("<array>").repeated(levels) +
+           QByteArray("</array>").repeated(levels) + "</plist>";
+}
+
+/// Arrays in each other, each the only item of the one before.
+QByteArray nestedBinary(int levels)
+{
+    const auto twoBytes = [](int number) {
+        return QByteArray(1, static_cast<char>(number >> 8)) + static_cast<char>(number & 0xff);
+    };
+    QByteArray objects("bplist00");
+    QByteArray offsets;
+    for (int level = 1; level <= levels; ++level) {
+        offsets += twoBytes(static_cast<int>(objects.size()));
+        objects += level < levels ? '\xa1' + twoBytes(level) : QByteArray("\xa0");
+    }
+    return objects + offsets + QByteArray("\0\0\0\0\0\0\x02\x02", 8) + QByteArray(6, '\0') +
+           twoBytes(levels) + QByteArray(8, '\0') + QByteArray(6, '\0') +
+           twoBytes(static_cast<int>(objects.size()));
+}
+
+TEST(PropertyList, DeepNestingGivesNothing)
+{
+    for (const auto& nested : {nestedXml, nestedBinary}) {
+        EXPECT_TRUE(propertyListFromBytes(nested(512)).has_value());
+        EXPECT_FALSE(propertyListFromBytes(nested(513)).has_value());
+        EXPECT_FALSE(propertyListFromBytes(nested(15'000)).has_value());
+    }
+}
+
+TEST(PropertyList, BinaryListInItselfGivesNothing)
+{
+    const QByteArray inItself("bplist00\xa1\0\x08\0\0\0\0\0\0\x01\x01\0\0\0\0\0\0\0\x01"
+                              "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x0a",
+                              43);
+    EXPECT_FALSE(propertyListFromBytes(inItself).has_value());
 }
 
 } // namespace

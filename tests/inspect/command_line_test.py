@@ -158,6 +158,39 @@ class CommandLine(unittest.TestCase):
             file.write("old")
         plistlib.loads(self.captured()[1])
 
+    def test_capture_into_a_pipe_leaves_the_pipe(self):
+        pipe = self.path("pipe")
+        os.mkfifo(pipe)
+        reader = subprocess.Popen(["cat", pipe], stdout=subprocess.PIPE)
+        result = self.run_program("--machine", self.machine, "--capture", pipe)
+        content = reader.communicate(timeout=60)[0]
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertTrue(stat.S_ISFIFO(os.stat(pipe).st_mode))
+        self.assertIn("Registry", plistlib.loads(content))
+
+    def test_option_in_place_of_a_file_name(self):
+        for option in ("--capture", "--machine", "--sysfs"):
+            result = self.run_program(option, "--json")
+            self.assertEqual((result.returncode, result.stderr.count("\n")), (2, 1))
+            self.assertIn(option, result.stderr)
+
+    def test_output_that_cannot_be_written(self):
+        with open("/dev/full", "wb") as full:
+            result = subprocess.run([PROGRAM, "--json", "--machine", self.machine], stdout=full,
+                                    stderr=subprocess.PIPE, env={"PATH": os.environ["PATH"]}, timeout=60)
+        self.assertEqual((result.returncode, result.stderr.count(b"\n")), (2, 1))
+
+    def test_damaged_settings_stay_where_they_are(self):
+        settings = os.path.join(self.folder, "quindle")
+        os.mkdir(settings)
+        names = ["com.fernhollow.Quindle-Helper.plist", "group.fernhollow.Quindle.plist"]
+        for name in names:
+            with open(os.path.join(settings, name), "w", encoding="ascii") as file:
+                file.write("damaged")
+        result = self.run_program("--json", "--sysfs", self.folder)
+        self.assertEqual(result.returncode, 0)
+        self.assertEqual(sorted(os.listdir(settings)), names)
+
     def test_capture_that_cannot_be_written(self):
         result = self.run_program("--machine", self.machine, "--capture", "/nonexistent/folder/x")
         self.assertEqual((result.returncode, result.stderr.count("\n")), (2, 1))

@@ -209,6 +209,7 @@ public:
 
     void terminate() override { ++terminated; }
     void activateIgnoringOtherApplications() override { ++activated; }
+    bool showsTranslucentWindows() const override { return false; }
 };
 
 class FakeBundle : public Bundle
