@@ -6,7 +6,6 @@
 #include "common/ValueDescription.h"
 #include "common/NumberTexts.h"
 #include "common/Paths.h"
-#include "history/DailyGate.h"
 #include "mac/QDMac.h"
 #include "menubar/BatteryFacts.h"
 #include "menubar/StatusIcon.h"
@@ -289,16 +288,6 @@ void HelperAppDelegate::setProgressIndicatorColor()
         required(m_outlets.stateOfChargeProgress).setContentFilters({filterFor(*colour)});
     if (const auto colour = healthBarColour(battery->StateOfHealth(), charge))
         required(m_outlets.stateOfHealthProgress).setContentFilters({filterFor(*colour)});
-}
-
-void HelperAppDelegate::checkForAutoSaveData()
-{
-    const QDateTime now = m_platform.clock.now();
-    if (!isDailyUploadDue(m_lastDailyUploadToOnlineService, now))
-        return;
-    loadSettings(); // registers the observers once more, whatever the upload setting is
-    if (m_preferences.autoUpload())
-        m_lastDailyUploadToOnlineService = now;
 }
 
 void HelperAppDelegate::quitApp()

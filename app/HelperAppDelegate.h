@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QDateTime>
 #include <QObject>
+#include <QVariant>
 
 #include "menubar/BarColours.h"
 #include "menubar/HueFilter.h"
@@ -19,6 +21,7 @@ class QDBattery;
 class QDMac;
 class StatusItem;
 class Timer;
+struct DailyUpload;
 struct Platform;
 
 /// The application delegate: owns the computer's model, the status item and the refresh timer, and refreshes
@@ -64,6 +67,21 @@ public:
     /// The once-a-day gate of the upload.
     void checkForAutoSaveData();
 
+    /// The saved history that the main application keeps in the user's first Application Support directory;
+    /// empty when nothing there is usable.
+    QVariantList getSavedDataArray() const;
+
+    /// Starts sending this moment's record with the serial number masked, and does not look at what comes of
+    /// it. Without a host of the statistics service nothing is sent.
+    void uploadDailyMacDataToQNDOnline();
+
+    /// The same with the serial number in clear. A named entry point that nothing calls.
+    void uploadDailyMacDataToQNDOnline_old();
+
+    /// What `uploadDailyMacDataToQNDOnline` would send at this moment if there is a host; nothing when it
+    /// would not send.
+    std::optional<DailyUpload> currentDailyUpload() const;
+
     void quitApp() override;
 
     /// Launches the main application: the bundle's path without its last four components.
@@ -83,7 +101,11 @@ Q_SIGNALS:
     /// The status item has been brought up to date.
     void statusItemRefreshed();
 
+    /// The daily gate has opened for an upload, whether or not there is something to send.
+    void dailyUploadStarted();
+
 private:
+    void send(const std::optional<DailyUpload>& upload);
     void setVersionItem();
     void addBatteryView();
     void startTimer();

@@ -6,6 +6,7 @@
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxRunLoop.h"
+#include "platform/linux/LinuxUrlSession.h"
 #include "platform/linux/statusitem/LinuxStatusBar.h"
 #include "platform/recorded/RecordedPlatform.h"
 
@@ -41,12 +42,40 @@ private:
     LinuxStatusBar m_statusBar;
 };
 
+/// The network of a recorded computer whose posts leave for the host that its own bundle names. The program's
+/// own service hears of no computer but the real one.
+class MachineUrlSession : public UrlSession
+{
+public:
+    MachineUrlSession(const RecordedComputer& computer, UrlSession& recorded, const Bundle& programBundle)
+        : m_computer(computer)
+        , m_recorded(recorded)
+        , m_network(networkModule(programBundle))
+    {
+    }
+
+    void post(const QString& url, const QByteArray& body,
+              std::function<void(int status, const QByteArray& body)> answered) override
+    {
+        if (m_computer.bundle())
+            m_network.post(url, body, std::move(answered));
+    }
+
+    std::optional<QByteArray> contents(const QString& url) override { return m_recorded.contents(url); }
+
+private:
+    const RecordedComputer& m_computer;
+    UrlSession& m_recorded;
+    LinuxUrlSession m_network;
+};
+
 class RecordedMachine : public HelperServices
 {
 public:
     explicit RecordedMachine(const Machine& machine)
         : m_steps(machine.steps)
         , m_recorded(machine.keys, m_programBundle)
+        , m_urlSession(m_recorded.computer, m_recorded.urlSession, m_programBundle)
         , m_statusBar(surroundings(m_programBundle, m_recorded.userDefaults))
         , m_platform(platform())
     {
@@ -67,7 +96,9 @@ public:
                 .systemFiles = m_recorded.systemFiles,
                 .runLoop = m_runLoop,
                 .statusBar = m_statusBar,
-                .application = m_application};
+                .application = m_application,
+                .urlSession = m_urlSession,
+                .userDirectories = m_recorded.userDirectories};
     }
 
     void play(HelperAppDelegate& delegate) override
@@ -81,6 +112,7 @@ private:
     LinuxRunLoop m_runLoop;
     LinuxApplication m_application;
     RecordedPlatform m_recorded;
+    MachineUrlSession m_urlSession;
     LinuxStatusBar m_statusBar;
     Platform m_platform;
 };

@@ -37,7 +37,7 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
 {
     const Platform platform = services.platform();
     MainInterface interface;
-    BatteryPopup popup(interface);
+    BatteryPopup popup(interface, platform.application);
     PreferencesWindow preferencesWindow;
     HelperAppDelegate delegate(platform, ApplicationPreferences::sharedInstance(&platform), interface,
                                preferencesWindow, &QDMac::init);

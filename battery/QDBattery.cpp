@@ -109,6 +109,7 @@ void QDBattery::updateData()
     m_cycleCount = cycleCount();
     updateCapacities();
     m_temperature = getCustomTemperature();
+    m_knowsTemperature = registryDouble(BatteryRegistryKey::Temperature).has_value();
     updatePercentages();
     m_batteryID = generateBatteryID();
     m_adapterWatt = variantFromOptional(adapterWatt());
@@ -154,7 +155,7 @@ void QDBattery::updateWattThroughput()
 void QDBattery::updateAge()
 {
     const QDateTime made = decodeManufactureDate(manufactureDate());
-    const QDateTime now = m_platform.clock.now();
+    const QDateTime now = m_platform.clock.now().toLocalTime(); // once for both
     m_manufactureDate = made;
     m_customAge = ageText(static_cast<int>(m_ageMode), made, now);
     m_legacyAgeInMonths = wholeMonths(made, now);
@@ -299,6 +300,12 @@ std::optional<QDateTime> QDBattery::calculateManufactureDate(qint64 packed)
 std::optional<QDateTime> QDBattery::calculateManufactureDate_deprecated(qint64 packed)
 {
     return decodeManufactureDateByDigits(packed);
+}
+
+bool QDBattery::knowsManufactureDate() const
+{
+    const auto made = ManufactureDate();
+    return made && *made != decodeManufactureDate(0);
 }
 
 QStringList QDBattery::getFailureKeys() const

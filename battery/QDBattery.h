@@ -62,6 +62,10 @@ class QDBattery : public QObject
     Q_PROPERTY(QString Temperature MEMBER m_temperature NOTIFY changed)
     Q_PROPERTY(QString CustomAge MEMBER m_customAge NOTIFY changed)
     Q_PROPERTY(QVariantList raw MEMBER m_raw NOTIFY changed)
+    // For views only, and no values of the battery: whether there is anything behind the texts that stand in for
+    // what a battery does not report ("0.0 °C", an age counted from 1979).
+    Q_PROPERTY(bool knowsTemperature READ knowsTemperature NOTIFY changed STORED false)
+    Q_PROPERTY(bool knowsManufactureDate READ knowsManufactureDate NOTIFY changed STORED false)
 
 public:
     /// Reads both modes from the standard defaults (`QDBatteryTemperatureMode`, `QDBatteryAgeMode`); touches
@@ -159,6 +163,12 @@ public:
     /// fatal.
     QVariantList collectAllAvailableDataForBattery() const;
 
+    /// Whether the last refresh found a temperature.
+    bool knowsTemperature() const { return m_knowsTemperature; }
+
+    /// Whether `ManufactureDate` is another than the date of a battery that reports none.
+    bool knowsManufactureDate() const;
+
     TemperatureUnit temperatureMode() const { return m_temperatureMode; }
     AgeFieldMode ageMode() const { return m_ageMode; }
 
@@ -250,6 +260,7 @@ private:
     QString m_temperature = QStringLiteral("");
     QString m_customAge = QStringLiteral("");
     QVariantList m_raw;
+    bool m_knowsTemperature = true; // values that were given by key count as known
     TemperatureUnit m_temperatureMode = TemperatureUnit::Celsius;
     AgeFieldMode m_ageMode = AgeFieldMode::Days;
     RegistryObject m_service = 0;

@@ -1,93 +1,178 @@
+// What one refresh costs: the battery's and the status item's, on the files of real computers, with real
+// settings files. Each benchmark is named after the folder of tests/data/sysfs that it reads.
+
 #include <array>
+#include <string>
 
 #include <benchmark/benchmark.h>
 
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include "app/ApplicationPreferences.h"
+#include "app/HelperAppDelegate.h"
+#include "battery/QDBattery.h"
+#include "mac/QDMac.h"
+#include "menubar/MainInterface.h"
 #include "platform/linux/BatteryTimes.h"
+#include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxPowerSources.h"
 #include "platform/linux/LinuxRegistry.h"
+#include "platform/linux/LinuxUserDefaults.h"
 #include "platform/linux/SupplyDirectory.h"
+#include "platform/linux/statusitem/LinuxStatusItem.h"
+#include "platform/recorded/RecordedPlatform.h"
+#include "preferences/PreferencesPresenter.h"
 
 using namespace quindle;
 
 namespace {
 
-/// The property reads of one refresh of battery and status item, in their order, repeated ones included.
-const std::array refreshKeys = {
-    QStringLiteral("Manufacturer"),
-    QStringLiteral("Manufacturer"),
-    QStringLiteral("DeviceName"),
-    QStringLiteral("BatterySerialNumber"),
-    QStringLiteral("CycleCount"),
-    QStringLiteral("DesignCapacity"),
-    QStringLiteral("DesignCapacity"),
-    QStringLiteral("CurrentCapacity"),
-    QStringLiteral("MaxCapacity"),
-    QStringLiteral("Temperature"),
-    QStringLiteral("BatterySerialNumber"),
-    QStringLiteral("ManufactureDate"),
-    QStringLiteral("Voltage"),
-    QStringLiteral("Amperage"),
-    QStringLiteral("ManufactureDate"),
-    QStringLiteral("FullyCharged"),
-    QStringLiteral("ExternalConnected"),
-    QStringLiteral("IsCharging"),
-    QStringLiteral("AvgTimeToFull"),
-    QStringLiteral("AvgTimeToFull"),
-    QStringLiteral("ExternalConnected"),
-    QStringLiteral("IsCharging"),
-    QStringLiteral("AvgTimeToEmpty"),
-    QStringLiteral("AvgTimeToEmpty"),
-    QStringLiteral("ExternalConnected"),
-    QStringLiteral("PermanentFailureStatus"),
-    // the status item
-    QStringLiteral("CurrentCapacity"),
-    QStringLiteral("MaxCapacity"),
-    QStringLiteral("IsCharging"),
-    QStringLiteral("FullyCharged"),
-    QStringLiteral("ExternalConnected"),
-    QStringLiteral("Temperature"),
-    QStringLiteral("Amperage"),
-    QStringLiteral("Voltage"),
-    QStringLiteral("TimeRemaining"),
-    QStringLiteral("AvgTimeToEmpty"),
-    QStringLiteral("AvgTimeToFull"),
-    QStringLiteral("CycleCount"),
-    QStringLiteral("InstantAmperage"),
-    QStringLiteral("IsCharging"),
-    QStringLiteral("FullyCharged"),
-    QStringLiteral("ExternalConnected"),
-    QStringLiteral("CurrentCapacity"),
-    QStringLiteral("MaxCapacity"),
-    QStringLiteral("InstantTimeToEmpty"),
+class UnconnectedStatusBar : public StatusBar
+{
+public:
+    std::unique_ptr<StatusItem> statusItemWithLength(double /*length*/) override
+    {
+        return std::make_unique<LinuxStatusItem>(QDBusConnection(QStringLiteral("none")),
+                                                 StatusItemSurroundings{});
+    }
 };
 
-void refresh(benchmark::State& state, const char* machine)
+class NoPreferencesWindow : public PreferencesPresenter
 {
-    // Refreshes are 5 s apart, so each finds the directory due to be read again, and a new sample due.
-    std::chrono::milliseconds now{0};
-    const auto clock = [&now] { return now; };
-    SupplyDirectory supplies(std::string(QUINDLE_TEST_DATA "/sysfs/") + machine + "/class/power_supply",
-                             readDescriptor, clock);
-    BatteryTimes times(clock);
-    LinuxRegistry registry(supplies, times, {});
-    LinuxPowerSources sources(supplies, times);
-    const RegistryObject battery = registry.serviceMatchingName(QStringLiteral("AppleSmartBattery"));
+    void showPreferencesWindow() override {}
+};
+
+class VersionedBundle : public Bundle
+{
+    QString path() const override { return QStringLiteral("/"); }
+    std::optional<QVariantMap> infoDictionary() const override
+    {
+        return QVariantMap{{QStringLiteral("CFBundleVersion"), QStringLiteral("1")}};
+    }
+};
+
+/// A launched helper on the files of one computer. Its refreshes are 5 s apart, so each finds the folder due
+/// to be read again and a new sample due.
+class Helper
+{
+public:
+    Helper(const char* machine, bool hasRealItem)
+        : m_supplies(std::string(QUINDLE_TEST_DATA "/sysfs/") + machine + "/class/power_supply",
+                     readDescriptor, [this] { return m_now; })
+        , m_times([this] { return m_now; })
+        , m_registry(m_supplies, m_times, {})
+        , m_powerSources(m_supplies, m_times)
+        , m_userDefaults(m_settings.path())
+        , m_others({}, m_bundle)
+        , m_platform(platform(hasRealItem))
+    {
+        m_userDefaults.suite(QStringLiteral("group.fernhollow.Quindle"))
+            ->setObject(QStringLiteral("customStatusBar"), QStringLiteral("%p% %r %w W %mA mA %t %l %s"));
+        m_preferences = std::make_unique<ApplicationPreferences>(m_platform);
+        m_delegate = std::make_unique<HelperAppDelegate>(m_platform, *m_preferences, m_interface,
+                                                         m_preferencesWindow, &QDMac::init);
+        m_delegate->applicationDidFinishLaunching();
+        QCoreApplication::processEvents();
+    }
+
+    void passTime() { m_now += std::chrono::seconds(5); }
+
+    void refreshBattery() { m_delegate->myMac().Battery()->updateData(); }
+
+    void refreshItem()
+    {
+        m_delegate->updateStatusBarTitle();
+        QCoreApplication::sendPostedEvents();
+    }
+
+private:
+    Platform platform(bool hasRealItem)
+    {
+        StatusBar& recorded = m_others.statusBar;
+        return {.registry = m_registry,
+                .powerSources = m_powerSources,
+                .userDefaults = m_userDefaults,
+                .notificationCenter = m_others.notificationCenter,
+                .distributedNotificationCenter = m_others.distributedNotificationCenter,
+                .workspaceNotifications = m_others.workspaceNotifications,
+                .workspace = m_others.workspace,
+                .bundle = m_others.bundle,
+                .clock = m_clock,
+                .host = m_others.host,
+                .systemFiles = m_others.systemFiles,
+                .runLoop = m_others.runLoop,
+                .statusBar = hasRealItem ? m_statusBar : recorded,
+                .application = m_others.application};
+    }
+
+    std::chrono::milliseconds m_now{0};
+    QTemporaryDir m_settings;
+    SupplyDirectory m_supplies;
+    BatteryTimes m_times;
+    LinuxRegistry m_registry;
+    LinuxPowerSources m_powerSources;
+    LinuxUserDefaultsDatabases m_userDefaults;
+    LinuxClock m_clock;
+    VersionedBundle m_bundle;
+    RecordedPlatform m_others;
+    UnconnectedStatusBar m_statusBar;
+    Platform m_platform;
+    MainInterface m_interface;
+    NoPreferencesWindow m_preferencesWindow;
+    std::unique_ptr<ApplicationPreferences> m_preferences;
+    std::unique_ptr<HelperAppDelegate> m_delegate;
+};
+
+void refresh(benchmark::State& state, const char* machine, bool hasRealItem)
+{
+    Helper helper(machine, hasRealItem);
     for (auto _ : state) {
-        now += std::chrono::seconds(5);
-        for (const QString& key : refreshKeys)
-            benchmark::DoNotOptimize(registry.property(battery, key));
-        benchmark::DoNotOptimize(sources.externalAdapterDetails());
-        for (int i = 0; i < 2; ++i) {
-            const int count = sources.sourceCount().value_or(0);
-            for (int source = 0; source < count; ++source)
-                benchmark::DoNotOptimize(sources.description(source));
-        }
+        helper.passTime();
+        helper.refreshBattery();
+        helper.refreshItem();
     }
 }
 
-BENCHMARK_CAPTURE(refresh, idleOnMains, "thinkpad-t430s");
-BENCHMARK_CAPTURE(refresh, discharging, "framework-13-discharging-93");
+void refreshBattery(benchmark::State& state, const char* machine)
+{
+    Helper helper(machine, false);
+    for (auto _ : state) {
+        helper.passTime();
+        helper.refreshBattery();
+    }
+}
+
+void refreshItem(benchmark::State& state, const char* machine)
+{
+    Helper helper(machine, false);
+    for (auto _ : state) {
+        helper.passTime();
+        helper.refreshItem();
+    }
+}
+
+void registerBenchmarks()
+{
+    constexpr std::array machines = {"framework-13-discharging-93", "thinkpad-t430s",
+                                     "thinkpad-procfs-lnv45n1", "macbookpro14-1-sbs-worn"};
+    using namespace std::string_literals;
+    for (const char* machine : machines) {
+        benchmark::RegisterBenchmark(("refresh/"s + machine).c_str(), refresh, machine, false);
+        benchmark::RegisterBenchmark(("refreshWithRealItem/"s + machine).c_str(), refresh, machine, true);
+        benchmark::RegisterBenchmark(("batteryAlone/"s + machine).c_str(), refreshBattery, machine);
+        benchmark::RegisterBenchmark(("itemAlone/"s + machine).c_str(), refreshItem, machine);
+    }
+}
 
 } // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    registerBenchmarks();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -10,11 +10,30 @@ namespace quindle {
 
 namespace {
 
-QDateTime addMonths(const QDateTime& start, qint64 months)
+QDate monthsAfter(QDate day, qint64 months)
 {
-    const QDate first = firstOfMonth(monthNumber(start.date()) + months);
-    const QDate day = first.addDays(std::min(start.date().day(), first.daysInMonth()) - 1);
-    return start.addDays(start.date().daysTo(day));
+    const QDate first = firstOfMonth(monthNumber(day) + months);
+    return first.addDays(std::min(day.day(), first.daysInMonth()) - 1);
+}
+
+QDateTime movedTo(QDate day, const QDateTime& moment)
+{
+    return moment.addDays(moment.date().daysTo(day));
+}
+
+/// Whether `start`, moved to that day, is after `end`, both in local time. The clock on the wall answers
+/// where no change of it can matter, since each look at the system's zone costs more than all the rest.
+bool isAfter(QDate day, const QDateTime& start, const QDateTime& end)
+{
+    constexpr qint64 longestChange = 2;                  // days: places have left one out
+    constexpr int longestWithinDay = 3 * 60 * 60 * 1000; // milliseconds
+    const qint64 days = end.date().daysTo(day);
+    if (std::abs(days) > longestChange)
+        return days > 0;
+    const int apart = end.time().msecsTo(start.time());
+    if (days == 0 && std::abs(apart) > longestWithinDay)
+        return apart > 0;
+    return movedTo(day, start) > end;
 }
 
 } // namespace
@@ -23,11 +42,11 @@ qint64 wholeDays(const QDateTime& from, const QDateTime& to)
 {
     const QDateTime start = from.toLocalTime();
     const QDateTime end = to.toLocalTime();
-    qint64 days = start.date().daysTo(end.date());
-    if (days > 0 && start.addDays(days) > end)
-        --days;
-    else if (days < 0 && start.addDays(days) < end)
-        ++days;
+    const qint64 days = start.date().daysTo(end.date());
+    if (days > 0 && isAfter(end.date(), start, end))
+        return days - 1;
+    if (days < 0 && movedTo(end.date(), start) < end)
+        return days + 1;
     return days;
 }
 
@@ -35,11 +54,12 @@ qint64 wholeMonths(const QDateTime& from, const QDateTime& to)
 {
     const QDateTime start = from.toLocalTime();
     const QDateTime end = to.toLocalTime();
-    qint64 months = monthNumber(end.date()) - monthNumber(start.date());
-    if (months > 0 && addMonths(start, months) > end)
-        --months;
-    else if (months < 0 && addMonths(start, months) < end)
-        ++months;
+    const qint64 months = monthNumber(end.date()) - monthNumber(start.date());
+    const QDate day = monthsAfter(start.date(), months);
+    if (months > 0 && isAfter(day, start, end))
+        return months - 1;
+    if (months < 0 && movedTo(day, start) < end)
+        return months + 1;
     return months;
 }
 

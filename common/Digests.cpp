@@ -4,9 +4,23 @@
 
 namespace quindle {
 
+namespace {
+
+QString hexDigest(const QString& text, QCryptographicHash::Algorithm algorithm)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), algorithm).toHex());
+}
+
+} // namespace
+
 QString md5Hex(const QString& text)
 {
-    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
+    return hexDigest(text, QCryptographicHash::Md5);
+}
+
+QString sha1Hex(const QString& text)
+{
+    return hexDigest(text, QCryptographicHash::Sha1);
 }
 
 } // namespace quindle

@@ -8,4 +8,7 @@ namespace quindle {
 /// computers in stored snapshots, so it can never change to another digest.
 QString md5Hex(const QString& text);
 
+/// The SHA-1 digest of the text's UTF-8 bytes as 40 lowercase hexadecimal digits.
+QString sha1Hex(const QString& text);
+
 } // namespace quindle

@@ -1,5 +1,7 @@
 #include "common/Paths.h"
 
+#include <QDir>
+
 namespace quindle {
 
 namespace {
@@ -22,6 +24,13 @@ QString pathWithoutLastComponent(const QString& path)
     if (slash == 0)
         return QStringLiteral("/");
     return withoutTrailingSlashes(trimmed.left(slash));
+}
+
+QString pathWithTildeExpanded(const QString& path)
+{
+    if (path != u"~" && !path.startsWith(QStringLiteral("~/")))
+        return path;
+    return QDir::homePath() + path.mid(1);
 }
 
 } // namespace quindle

@@ -13,7 +13,7 @@
 #include <QtEndian>
 #include <plist/plist.h>
 
-#include "common/PropertyListDepth.h"
+#include "common/BinaryPropertyListShape.h"
 #include "common/PropertyListXml.h"
 
 namespace quindle {
@@ -154,7 +154,7 @@ std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes)
 {
     if (!bytes.startsWith("bplist"))
         return propertyListFromXml(bytes);
-    if (!hasBearableDepth(bytes))
+    if (!hasBearableShape(bytes))
         return std::nullopt;
     plist_t node = nullptr;
     plist_from_bin(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &node);

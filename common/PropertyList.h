@@ -11,7 +11,8 @@
 /// values show negative currents that way.
 namespace quindle {
 
-/// The value in `bytes`; nothing when they are no property list of either encoding.
+/// The value in `bytes`; nothing when they are no property list of either encoding,
+/// and when they are nested deeper than 512 or, with shared values written out, hold more than a million.
 std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes);
 
 /// The same from a file; nothing also when it cannot be read.

@@ -5,7 +5,7 @@
 #include <QDateTime>
 #include <QXmlStreamReader>
 
-#include "common/PropertyListDepth.h"
+#include "common/BinaryPropertyListShape.h"
 
 // Read here and not by the library for binary lists: that one reads reals by the user's language (0,5), takes
 // lists that are cut off, and recurses as deep as a file tells it to.

@@ -50,6 +50,8 @@ Platform Computer::thisComputer()
         .runLoop = m_recorded.runLoop,
         .statusBar = m_recorded.statusBar,
         .application = m_recorded.application,
+        .urlSession = m_recorded.urlSession,
+        .userDirectories = linux.userDirectories,
     };
 }
 

@@ -26,6 +26,8 @@ Inspection::Inspection(Computer& computer, bool isDemo)
 {
     QObject::connect(&m_delegate, &HelperAppDelegate::statusItemRefreshed, &m_delegate,
                      [this] { ++m_refreshes; });
+    QObject::connect(&m_delegate, &HelperAppDelegate::dailyUploadStarted, &m_delegate,
+                     [this] { ++m_uploadsStarted; });
     m_delegate.applicationDidFinishLaunching();
 }
 
@@ -38,6 +40,7 @@ QVariantMap Inspection::takeState()
 {
     RecentEvents recent = m_computer.takeEvents();
     recent.refreshes = std::exchange(m_refreshes, 0);
+    recent.uploadsStarted = std::exchange(m_uploadsStarted, 0);
     const InspectedHelper helper{m_delegate, m_interface, m_preferences, m_computer.platform().userDefaults};
     return stateOfHelper(helper, recent);
 }

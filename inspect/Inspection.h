@@ -42,6 +42,7 @@ private:
     MainInterface m_interface;
     HelperAppDelegate m_delegate;
     int m_refreshes = 0;
+    int m_uploadsStarted = 0;
 };
 
 } // namespace quindle

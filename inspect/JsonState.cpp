@@ -5,6 +5,7 @@
 #include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "battery/QDBattery.h"
+#include "history/DailyUpload.h"
 #include "inspect/SettingsDatabases.h"
 #include "mac/QDMac.h"
 #include "platform/Image.h"
@@ -27,7 +28,8 @@ QVariantMap valueProperties(const QObject& object)
     const QMetaObject& meta = *object.metaObject();
     for (int index = QObject::staticMetaObject.propertyCount(); index < meta.propertyCount(); ++index) {
         const QMetaProperty property = meta.property(index);
-        if (!(property.metaType().flags() & QMetaType::PointerToQObject))
+        const bool isForViewsOnly = !property.isStored();
+        if (!isForViewsOnly && !(property.metaType().flags() & QMetaType::PointerToQObject))
             values.insert(QString::fromLatin1(property.name()), property.read(&object));
     }
     return values;
@@ -137,6 +139,22 @@ QVariant versionItemText(MainInterface& interface)
     return interface.statusMenu().rows().at(row - 1).text;
 }
 
+QVariant snapshotState(const QDMac& mac)
+{
+    return orNull(mac.getDataForSaving(false));
+}
+
+QVariant uploadState(const HelperAppDelegate& delegate)
+{
+    const auto upload = delegate.currentDailyUpload();
+    if (!upload)
+        return {};
+    return QVariantMap{
+        {QStringLiteral("record"), upload->record},
+        {QStringLiteral("body"), QString::fromLatin1(upload->body)},
+    };
+}
+
 QVariantMap appState(const InspectedHelper& helper, const RecentEvents& recent)
 {
     const MenuView* view = helper.delegate.shownView();
@@ -160,6 +178,10 @@ QVariantMap stateOfHelper(const InspectedHelper& helper, const RecentEvents& rec
         {QStringLiteral("statusItem"), statusItemState(helper.delegate.statusItem(), recent)},
         {QStringLiteral("bars"), barsState(helper.delegate, helper.interface)},
         {QStringLiteral("app"), appState(helper, recent)},
+        {QStringLiteral("savedRecords"), helper.delegate.getSavedDataArray()},
+        {QStringLiteral("snapshot"), snapshotState(helper.delegate.myMac())},
+        {QStringLiteral("upload"), uploadState(helper.delegate)},
+        {QStringLiteral("uploadsStarted"), recent.uploadsStarted},
         {QStringLiteral("defaults"), settingsDatabases(helper.userDefaults)},
     };
 }

@@ -13,10 +13,11 @@ class UserDefaultsDatabases;
 /// What happened since the state before, which the objects themselves do not keep.
 struct RecentEvents
 {
-    double fontSize = 0;   ///< points, of the status item at the end
-    QStringList titlesSet; ///< every title, in order
-    QStringList launched;  ///< paths, in order
-    int refreshes = 0;     ///< of the status item
+    double fontSize = 0;    ///< points, of the status item at the end
+    QStringList titlesSet;  ///< every title, in order
+    QStringList launched;   ///< paths, in order
+    int refreshes = 0;      ///< of the status item
+    int uploadsStarted = 0; ///< by the daily gate
 };
 
 /// Where the state of a running helper is read from.

@@ -53,6 +53,9 @@ public:
         return date.isValid() ? dayText(date) : QString();
     }
 
+    /// Dates count from 1980; an earlier one is what a battery that reports none gets.
+    bool hasYear1980OrLater(const char* key) const { return value(key).toDateTime().date().year() >= 1980; }
+
 private:
     QVariant value(const char* key) const { return m_values.value(QLatin1String(key)); }
 
@@ -112,7 +115,9 @@ std::vector<Row> identityRows(const Values& battery)
         {QStringLiteral("Manufacturer"), battery.text("Manufacturer")},
         {QStringLiteral("Device"), battery.text("DeviceName")},
         {QStringLiteral("Serial number"), battery.text("SerialNumber")},
-        {QStringLiteral("Manufactured"), with(battery.day("ManufactureDate"), battery.text("CustomAge"))},
+        {QStringLiteral("Manufactured"), battery.hasYear1980OrLater("ManufactureDate")
+                                             ? with(battery.day("ManufactureDate"), battery.text("CustomAge"))
+                                             : QString()},
     };
 }
 
@@ -142,7 +147,9 @@ Group computerGroup(const QVariantMap& state)
             {QStringLiteral("Model"), mac.text("Model")},
             {QStringLiteral("System"), mac.text("OSXVersion")},
             {QStringLiteral("Serial number"), mac.text("Serial")},
-            {QStringLiteral("Built"), with(mac.text("ManufactureDateString"), mac.text("CustomAge"))},
+            {QStringLiteral("Built"), mac.text("getBuildDateSerialString").isEmpty()
+                                          ? QString() // no serial number tells it: the date is the launch's
+                                          : with(mac.text("ManufactureDateString"), mac.text("CustomAge"))},
         }};
 }
 

@@ -7,21 +7,35 @@ namespace quindle {
 
 namespace {
 
-std::optional<QString> cachedModelText(const QString& code, const UserDefaults& defaults)
+QString cacheKey()
 {
-    return convertToText(defaults.dictionary(QStringLiteral("modelStringCache")).value(code));
+    return QStringLiteral("modelStringCache");
+}
+
+std::optional<QString> fullModelText(const QString& code, UserDefaults& defaults,
+                                     const OnlineModelText& online)
+{
+    QVariantMap cache = defaults.dictionary(cacheKey());
+    if (auto cached = convertToText(cache.value(code)))
+        return cached;
+    auto text = online(code);
+    if (text) { // without an answer the next start asks again
+        cache.insert(code, *text);
+        defaults.setObject(cacheKey(), cache);
+    }
+    return text;
 }
 
 } // namespace
 
-std::optional<QString> modelText(const QString& code, const UserDefaults& defaults)
+std::optional<QString> modelText(const QString& code, UserDefaults& defaults, const OnlineModelText& online)
 {
     if (code.isEmpty())
         return std::nullopt;
     if (code ==
         QStringLiteral("F5YW")) // the code of the demonstration serial needs neither cache nor service
         return QStringLiteral("(11-inch, Late 2013)");
-    auto text = cachedModelText(code, defaults);
+    auto text = fullModelText(code, defaults, online);
     if (!text)
         return std::nullopt;
     return shortenedModelText(std::move(*text));

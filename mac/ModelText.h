@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QString>
@@ -8,11 +9,14 @@ namespace quindle {
 
 class UserDefaults;
 
+/// Asks for the text of a configuration code where it is known; nothing after any failure.
+using OnlineModelText = std::function<std::optional<QString>(const QString& code)>;
+
 /// The text that tells computers of one family apart, e.g. "(13-inch, Late 2013)", by configuration code:
-/// known for the demonstration computer, else from the cache "modelStringCache" in `defaults`, shortened.
-/// Nothing for an empty code and for one that is not cached; a cache or an entry of another type counts as
-/// not there.
-std::optional<QString> modelText(const QString& code, const UserDefaults& defaults);
+/// known for the demonstration computer, else from the cache "modelStringCache" in `defaults`, else from
+/// `online`, whose answer the cache keeps for ever. Shortened, except in the cache. Nothing for an empty
+/// code; a cache or an entry of another type counts as not there.
+std::optional<QString> modelText(const QString& code, UserDefaults& defaults, const OnlineModelText& online);
 
 /// `text` with the lengthy parts of some models' names cut down.
 QString shortenedModelText(QString text);

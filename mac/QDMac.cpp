@@ -8,10 +8,13 @@
 #include "common/OptionalText.h"
 #include "mac/DemoMac.h"
 #include "mac/MachineType.h"
+#include "mac/ModelNameLookup.h"
 #include "mac/ModelText.h"
 #include "mac/OSXVersionName.h"
 #include "mac/PlatformExpert.h"
 #include "mac/SerialNumberDecoding.h"
+#include "mac/ShortVersion.h"
+#include "mac/SnapshotRecord.h"
 #include "platform/Host.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
@@ -87,9 +90,13 @@ void QDMac::loadSettings()
     m_model = variantFromOptional(readModelIdentifier(m_platform.registry));
     const auto serial = readSerialNumber(m_platform.registry);
     m_serial = variantFromOptional(serial);
-    m_longModel =
-        variantFromOptional(modelText(getModelStringFromSerial(), m_platform.userDefaults.standard()));
-    if (const auto built = buildDate(serial.value_or(QString())))
+    m_longModel = variantFromOptional(modelText(
+        getModelStringFromSerial(), m_platform.userDefaults.standard(), [this](const QString& code) {
+            return onlineModelText(code, m_platform.bundle, m_platform.urlSession);
+        }));
+    const auto built = buildDate(serial.value_or(QString()));
+    m_knowsManufactureDate = built.has_value();
+    if (built)
         m_manufactureDate = *built;
     m_customAge = ageTextOfMode(m_ageMode, ManufactureDate(), m_platform.clock.now());
     m_name = m_platform.host.localizedName();
@@ -193,6 +200,32 @@ std::optional<QString> QDMac::Name() const
 std::optional<QString> QDMac::LongModel() const
 {
     return convertToText(m_longModel);
+}
+
+std::optional<QVariantMap> QDMac::getDataForSaving(bool /*flag*/) const
+{
+    if (!m_battery)
+        return std::nullopt;
+    const QDBattery& battery = *m_battery;
+    return snapshotRecord({
+        .designCapacity = battery.DesignCapacity(),
+        .manufacturer = battery.Manufacturer(),
+        .stateOfHealth = battery.StateOfHealth(),
+        .legacyAgeInMonths = battery.LegacyAgeInMonths(),
+        .cycleCount = battery.CycleCount(),
+        .actualDesignCapacity = battery.ActualDesignCapacity(),
+        .reportedDesignCapacity = battery.ReportedDesignCapacity(),
+        .batteryManufactureDateRaw = battery.manufactureDate(),
+        .fullChargeCapacity = battery.FullChargeCapacity(),
+        .deviceName = battery.DeviceName(),
+        .batteryID = battery.BatteryID(),
+        .model = Model(),
+        .macManufactureDateRaw = getBuildDateSerialString(),
+        .macID = generateMacID(),
+        .snapshotDate = m_platform.clock.now(),
+        .applicationVersion = shortVersion(m_platform.bundle),
+        .raw = battery.getRawData(),
+    });
 }
 
 QDateTime QDMac::ManufactureDate() const

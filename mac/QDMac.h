@@ -30,6 +30,8 @@ class QDMac : public QObject
     Q_PROPERTY(QVariant Serial MEMBER m_serial NOTIFY changed)
     Q_PROPERTY(QVariant CustomAge MEMBER m_customAge NOTIFY changed)
     Q_PROPERTY(QString privateFrameworksURL READ privateFrameworksURL CONSTANT)
+    // For views only: whether `ManufactureDate` comes of the serial number, and is not the moment of the launch.
+    Q_PROPERTY(bool knowsManufactureDate READ knowsManufactureDate NOTIFY changed STORED false)
 
 public:
     /// This computer: reads every value (`loadSettings`), then makes the battery object, opens it, and when
@@ -76,6 +78,11 @@ public:
     /// The path of the operating system's table of machine attributes.
     static QString privateFrameworksURL();
 
+    /// The snapshot record of this moment (see mac/SnapshotRecord.h); nothing without a battery. Packed date,
+    /// raw entry and both identifiers of the computer are read anew, the rest stands as last refreshed. The
+    /// flag changes nothing.
+    std::optional<QVariantMap> getDataForSaving(bool flag) const;
+
     /// Null on a computer without a battery.
     QDBattery* Battery() const { return m_battery.get(); }
 
@@ -88,6 +95,8 @@ public:
     std::optional<QString> ManufactureDateString() const;
     std::optional<QString> Serial() const;
     std::optional<QString> CustomAge() const;
+
+    bool knowsManufactureDate() const { return m_knowsManufactureDate; }
 
     /// The age mode: 0 days, 1 months, 2 years; whatever was stored, also another number, which shows days.
     qint64 ageMode() const { return m_ageMode; }
@@ -114,6 +123,7 @@ private:
     QVariant m_serial;
     QVariant m_customAge;
     qint64 m_ageMode = 0;
+    bool m_knowsManufactureDate = true; // values that were given by key count as known
 };
 
 } // namespace quindle

@@ -42,13 +42,11 @@ constexpr std::array factPatterns{
     FactPattern{u"Battery age", u"{Battery.CustomAge}"},
     FactPattern{u"Temperature", u"{Battery.Temperature}"},
     FactPattern{u"Adapter", u"{Battery.AdapterConnected} · {Battery.AdapterWatt}"},
-    FactPattern{u"Battery serial number", u"{Battery.SerialNumber}"},
     FactPattern{u"Computer", u"{Name}"},
     FactPattern{u"Type", u"{Type}"},
     FactPattern{u"Model", u"{LongModel|Model}"},
     FactPattern{u"System", u"{OSXVersion}"},
     FactPattern{u"Computer age", u"{CustomAge}"},
-    FactPattern{u"Computer serial number", u"{Serial}"},
 };
 
 KeyPath statePath()

@@ -5,22 +5,27 @@
 
 #include "menubar/BatteryWindow.h"
 #include "menubar/MainInterface.h"
+#include "platform/Application.h"
 
 namespace quindle {
 
 namespace {
 
-BatteryWindow::Kind windowKind()
+BatteryWindow::Kind windowKind(const Application& application)
 {
+    using Kind = BatteryWindow::Kind;
     const bool placesWindows = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
-    return placesWindows ? BatteryWindow::Kind::Plain : BatteryWindow::Kind::Popup;
+    if (placesWindows)
+        return Kind::Plain;
+    return application.showsTranslucentWindows() ? Kind::RoundPopup : Kind::Popup;
 }
 
 } // namespace
 
-BatteryPopup::BatteryPopup(MainInterface& interface, QObject* parent)
+BatteryPopup::BatteryPopup(MainInterface& interface, const Application& application, QObject* parent)
     : QObject(parent)
     , m_interface(interface)
+    , m_application(application)
 {
     interface.statusMenu().setViewOpener([this] { toggle(); });
     interface.statusMenu().addObserver([popup = QPointer(this)](int id) {
@@ -47,7 +52,7 @@ void BatteryPopup::open()
         m_window->activateWindow();
         return;
     }
-    m_window = new BatteryWindow(m_interface, windowKind());
+    m_window = new BatteryWindow(m_interface, windowKind(m_application));
     m_window->setClosedOutside([this] {
         m_closedAt = QCursor::pos();
         m_sinceClosedOutside.start();

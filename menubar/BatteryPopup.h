@@ -7,6 +7,7 @@
 
 namespace quindle {
 
+class Application;
 class BatteryWindow;
 class MainInterface;
 
@@ -17,8 +18,9 @@ class BatteryPopup : public QObject
     Q_OBJECT
 
 public:
-    /// Becomes what opens the view of the interface's status menu. The interface must outlive it.
-    explicit BatteryPopup(MainInterface& interface, QObject* parent = nullptr);
+    /// Becomes what opens the view of the interface's status menu. Both must outlive it.
+    explicit BatteryPopup(MainInterface& interface, const Application& application,
+                          QObject* parent = nullptr);
     ~BatteryPopup() override;
 
     bool isOpen() const;
@@ -35,6 +37,7 @@ private:
     bool isSameClick() const;
 
     MainInterface& m_interface;
+    const Application& m_application;
     QPointer<BatteryWindow> m_window;
     QElapsedTimer m_sinceClosedOutside;
     QPoint m_closedAt;

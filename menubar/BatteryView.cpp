@@ -36,7 +36,7 @@ void BatteryView::fitToFont()
     setFixedWidth(metrics.width);
     m_ui->groups->setContentsMargins(metrics.margin, metrics.margin, metrics.margin, metrics.margin);
     m_ui->groups->setSpacing(metrics.groupGap);
-    m_ui->headerGroup->setSpacing(metrics.rowGap * 2);
+    m_ui->headerGroup->setSpacing(metrics.rowGap);
     m_ui->chargeGroup->setSpacing(metrics.rowGap * 2);
     m_ui->stateGroup->setSpacing(metrics.rowGap);
     m_ui->healthGroup->setSpacing(metrics.rowGap * 2);

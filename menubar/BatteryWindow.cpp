@@ -24,6 +24,7 @@ namespace quindle {
 namespace {
 
 constexpr double lineShare = 0.15;
+constexpr double borderShare = 0.25; // seen on a desktop of the window's own colour
 
 QScreen* screenAt(const QPoint& point)
 {
@@ -31,25 +32,11 @@ QScreen* screenAt(const QPoint& point)
     return screen ? screen : QGuiApplication::primaryScreen();
 }
 
-QRegion roundedRegion(const QRect& rect, int radius)
-{
-    QRegion region =
-        QRegion(rect.adjusted(radius, 0, -radius, 0)) + QRegion(rect.adjusted(0, radius, 0, -radius));
-    QRect corner(0, 0, 2 * radius, 2 * radius);
-    for (const int x : {rect.left(), rect.right() + 1 - corner.width()}) {
-        for (const int y : {rect.top(), rect.bottom() + 1 - corner.height()}) {
-            corner.moveTo(x, y);
-            region += QRegion(corner, QRegion::Ellipse);
-        }
-    }
-    return region;
-}
-
 Qt::WindowFlags flagsOf(BatteryWindow::Kind kind)
 {
-    if (kind == BatteryWindow::Kind::Popup)
-        return Qt::Popup | Qt::FramelessWindowHint;
-    return Qt::Window;
+    if (kind == BatteryWindow::Kind::Plain)
+        return Qt::Window;
+    return Qt::Popup | Qt::FramelessWindowHint;
 }
 
 } // namespace
@@ -64,10 +51,10 @@ BatteryWindow::BatteryWindow(MainInterface& interface, Kind kind)
     setObjectName(QStringLiteral("batteryWindow"));
     setWindowTitle(QStringLiteral("Battery"));
     setBackgroundRole(QPalette::Base);
-    setAutoFillBackground(true);
+    setAttribute(Qt::WA_TranslucentBackground, kind == Kind::RoundPopup);
 
     auto* layout = new QVBoxLayout(this);
-    const int border = kind == Kind::Popup ? 1 : 0;
+    const int border = isPopup() ? 1 : 0;
     layout->setContentsMargins(border, border, border, border);
     layout->setSpacing(0);
     addView(*layout);
@@ -90,7 +77,7 @@ void BatteryWindow::addView(QVBoxLayout& layout)
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setWidget(view);
-    m_scrollArea->viewport()->setAutoFillBackground(false); // the window's round corners show through
+    m_scrollArea->viewport()->setAutoFillBackground(false); // the window draws it
     view->setAutoFillBackground(false);
     view->installEventFilter(this);
     m_scrollArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
@@ -161,7 +148,7 @@ void BatteryWindow::fit()
         place = popupGeometry(m_anchor, wanted.grownBy({0, 0, scrollBar, 0}), available, gap);
     }
     setFixedSize(place.size());
-    if (m_kind == Kind::Popup)
+    if (isPopup())
         move(place.topLeft());
 }
 
@@ -192,7 +179,7 @@ void BatteryWindow::keyPressEvent(QKeyEvent* event)
 
 void BatteryWindow::mousePressEvent(QMouseEvent* event)
 {
-    if (m_kind == Kind::Popup && !rect().contains(event->position().toPoint())) {
+    if (isPopup() && !rect().contains(event->position().toPoint())) {
         if (m_closedOutside)
             m_closedOutside();
         close();
@@ -203,24 +190,26 @@ void BatteryWindow::mousePressEvent(QMouseEvent* event)
 
 void BatteryWindow::paintEvent(QPaintEvent*)
 {
-    const ViewMetrics metrics(*this);
     QPainter painter(this);
-    const QColor line = mixed(textOf(*this), backgroundOf(*this), lineShare);
-    painter.fillRect(QRect(0, m_menu->y(), width(), 1), line);
-    if (m_kind != Kind::Popup)
-        return;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(line, 1));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), metrics.radius, metrics.radius);
-}
-
-// Rounded by the window's shape, which works with and without a compositor.
-void BatteryWindow::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    if (m_kind != Kind::Popup)
-        return;
-    setMask(roundedRegion(rect(), ViewMetrics(*this).radius));
+    const QColor background = backgroundOf(*this);
+    const QColor text = textOf(*this);
+    const QColor line = mixed(text, background, lineShare);
+    if (m_kind == Kind::RoundPopup) {
+        const double radius = ViewMetrics(*this).radius;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(mixed(text, background, borderShare), 1));
+        painter.setBrush(background);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    } else {
+        painter.fillRect(rect(), background);
+    }
+    const int border = layout()->contentsMargins().left();
+    painter.fillRect(QRect(border, m_menu->y(), width() - 2 * border, 1), line);
+    if (m_kind == Kind::Popup) {
+        painter.setPen(mixed(text, background, borderShare));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
 }
 
 } // namespace quindle

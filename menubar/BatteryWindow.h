@@ -21,8 +21,9 @@ class BatteryWindow : public QWidget
 
 public:
     enum class Kind {
-        Popup, ///< beside the pointer, closed by a click elsewhere
-        Plain, ///< an ordinary window of fixed size, for desktops that place windows themselves
+        Popup,      ///< beside the pointer, closed by a click elsewhere
+        RoundPopup, ///< the same with round corners, for desktops that show translucent windows
+        Plain,      ///< an ordinary window of fixed size, for desktops that place windows themselves
     };
 
     BatteryWindow(MainInterface& interface, Kind kind);
@@ -41,13 +42,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void addView(QVBoxLayout& layout);
     void addEntries(QVBoxLayout& layout);
     void choose(int id);
     void fit();
+    bool isPopup() const { return m_kind != Kind::Plain; }
 
     MainInterface& m_interface;
     Kind m_kind;

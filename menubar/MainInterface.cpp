@@ -43,8 +43,8 @@ void MainInterface::addEntries()
                                      (m_actions->*action)();
                              }});
     };
-    m_statusMenu.addRow({Kind::OpenView, QStringLiteral("Show Battery..."), true, true, {}});
     m_statusMenu.addRow({Kind::Separator, {}, true, true, {}});
+    m_statusMenu.addRow({Kind::OpenView, QStringLiteral("Show Battery..."), true, true, {}});
     entry(QStringLiteral("Open Application"), &StatusMenuActions::openApplication);
     entry(QStringLiteral("Preferences..."), &StatusMenuActions::openPreferences);
     m_versionItem = m_statusMenu.addRow({Kind::Action, QStringLiteral("Version"), true, false, {}});

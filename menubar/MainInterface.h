@@ -44,7 +44,7 @@ public:
 /// The main interface without its widgets: the status menu with its rows, the two bars, both views by name
 /// and the object controller. The helper shows it in a window of its own, quindle-inspect only reads it.
 ///
-/// Rows in order: the title and the battery's facts as text (kind Fact), "Show Battery...", a separator, then
+/// Rows in order: the title and the battery's facts as text (kind Fact), a separator, "Show Battery...", then
 /// the entries "Open Application", "Preferences...", the version entry and "Quit".
 class MainInterface
 {

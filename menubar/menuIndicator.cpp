@@ -68,10 +68,10 @@ void menuIndicator::setPercent(double percent)
     update();
 }
 
-// The filters turn this hue by 4, -16 and 241 radians: to about 109°, 43° and 8°.
+// The filters turn this hue by 4, -16 and 241 radians: to about 113°, 47° and 12°.
 QColor menuIndicator::baseColor(bool onDark)
 {
-    return onDark ? QColor::fromHsv(240, 175, 214) : QColor::fromHsv(240, 190, 210);
+    return onDark ? QColor::fromHsv(244, 165, 204) : QColor::fromHsv(244, 178, 200);
 }
 
 QSize menuIndicator::sizeHint() const

@@ -13,6 +13,10 @@ public:
 
     /// Brings this application's windows before those of others, as far as the desktop allows it.
     virtual void activateIgnoringOtherApplications() = 0;
+
+    /// Whether the desktop shows translucent windows at the moment, so that a popup may have smooth round
+    /// corners.
+    virtual bool showsTranslucentWindows() const = 0;
 };
 
 } // namespace quindle

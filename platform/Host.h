@@ -14,7 +14,8 @@ class Clock
 public:
     virtual ~Clock() = default;
 
-    /// Local time, with milliseconds.
+    /// Now, with milliseconds, in any zone: who wants its day or time of day converts it to local time first.
+    /// Each such conversion looks at the system's zone anew; comparing two moments does not.
     virtual QDateTime now() const = 0;
 };
 

@@ -13,7 +13,9 @@ class PowerSources;
 class RunLoop;
 class StatusBar;
 class SystemFiles;
+class UrlSession;
 class UserDefaultsDatabases;
+class UserDirectories;
 class Workspace;
 class WorkspaceNotifications;
 
@@ -35,6 +37,8 @@ struct Platform
     RunLoop& runLoop;
     StatusBar& statusBar;
     Application& application;
+    UrlSession& urlSession;
+    UserDirectories& userDirectories;
 };
 
 } // namespace quindle

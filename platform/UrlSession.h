@@ -19,7 +19,8 @@ public:
     virtual void post(const QString& url, const QByteArray& body,
                       std::function<void(int status, const QByteArray& body)> answered) = 0;
 
-    /// The contents of `url`, fetched at once; nothing after any failure. Blocks for a few seconds at most.
+    /// The contents of `url`, fetched at once; nothing after any failure, and for an address without a host.
+    /// Blocks for a few seconds at most.
     virtual std::optional<QByteArray> contents(const QString& url) = 0;
 };
 

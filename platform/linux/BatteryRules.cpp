@@ -25,11 +25,6 @@ OptionalNumber quantity(const SupplyAttributes& battery, Attribute attribute)
     return notNegative(battery.number(attribute));
 }
 
-OptionalNumber scaled(OptionalNumber number, double factor)
-{
-    return number ? OptionalNumber(*number * factor) : std::nullopt;
-}
-
 /// The rated voltage as the driver counts it, in V.
 double writtenRatedVoltage(const SupplyAttributes& battery)
 {
@@ -38,12 +33,6 @@ double writtenRatedVoltage(const SupplyAttributes& battery)
     if (!microvolts)
         microvolts = positive(battery.number(Attribute::VoltageNow));
     return microvolts ? *microvolts / 1e6 : usualVoltage;
-}
-
-/// A driver that counts in mV writes a few thousand, one that counts in µV a few million.
-double voltageFactor(double writtenVolts, double unit)
-{
-    return writtenVolts < 1 ? unit : 1;
 }
 
 /// Which attributes tell a battery's charge. Some drivers have one attribute of one kind and one of the
@@ -88,6 +77,13 @@ double unitFactor(const SupplyAttributes& battery)
     const double milliampHours =
         *written / (attributes.areEnergies ? writtenRatedVoltage(battery) : 1.0) / 1000;
     return milliampHours < smallestFullCharge ? 1000 : 1;
+}
+
+/// A driver that counts in mV writes a few thousand, one that counts in µV a few million. Only the former's
+/// unit is looked into, because that reads further attributes.
+double volts(const SupplyAttributes& battery, double written)
+{
+    return written < 1 ? written * unitFactor(battery) : written;
 }
 
 /// A charge in mAh from one attribute: µAh, or µWh at the rated voltage.
@@ -191,8 +187,7 @@ std::optional<ChargingState> chargingState(const SupplyAttributes& battery)
 
 double ratedVoltage(const SupplyAttributes& battery)
 {
-    const double written = writtenRatedVoltage(battery);
-    return written * voltageFactor(written, unitFactor(battery));
+    return volts(battery, writtenRatedVoltage(battery));
 }
 
 bool tellsPercentageOnly(const SupplyAttributes& battery)
@@ -234,10 +229,8 @@ std::optional<double> designCharge(const SupplyAttributes& battery)
 
 std::optional<double> presentVoltage(const SupplyAttributes& battery)
 {
-    const OptionalNumber volts = scaled(quantity(battery, Attribute::VoltageNow), 1e-6);
-    if (!volts)
-        return std::nullopt;
-    return *volts * voltageFactor(*volts, unitFactor(battery)) * 1000;
+    const OptionalNumber microvolts = quantity(battery, Attribute::VoltageNow);
+    return microvolts ? OptionalNumber(volts(battery, *microvolts * 1e-6) * 1000) : std::nullopt;
 }
 
 std::optional<double> averageCurrent(const SupplyAttributes& battery)

@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include "platform/linux/X11Desktop.h"
+
 namespace quindle {
 
 void LinuxApplication::terminate()
@@ -20,6 +22,11 @@ void LinuxApplication::activateIgnoringOtherApplications()
         window->raise();
         window->requestActivate();
     }
+}
+
+bool LinuxApplication::showsTranslucentWindows() const
+{
+    return hasCompositor();
 }
 
 } // namespace quindle

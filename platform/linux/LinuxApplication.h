@@ -14,6 +14,8 @@ public:
     /// Raises the visible top-level windows and asks for the keyboard; a Wayland desktop may only mark them
     /// as wanting attention.
     void activateIgnoringOtherApplications() override;
+
+    bool showsTranslucentWindows() const override;
 };
 
 } // namespace quindle

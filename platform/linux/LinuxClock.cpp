@@ -4,7 +4,7 @@ namespace quindle {
 
 QDateTime LinuxClock::now() const
 {
-    return QDateTime::currentDateTime();
+    return QDateTime::currentDateTimeUtc();
 }
 
 } // namespace quindle

@@ -11,7 +11,9 @@
 #include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/LinuxSystemFiles.h"
+#include "platform/linux/LinuxUrlSession.h"
 #include "platform/linux/LinuxUserDefaults.h"
+#include "platform/linux/LinuxUserDirectories.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/SupplyDirectory.h"
 
@@ -40,6 +42,7 @@ struct LinuxPlatform::Services
         , registry(supplies, times, firmwareFolders(systemRoot))
         , powerSources(supplies, times)
         , userDefaults(settingsFolder(), settingsAccess)
+        , urlSession(networkModule(bundle))
     {
     }
 
@@ -58,6 +61,8 @@ struct LinuxPlatform::Services
     LinuxSystemFiles systemFiles;
     LinuxRunLoop runLoop;
     LinuxApplication application;
+    LinuxUrlSession urlSession;
+    LinuxUserDirectories userDirectories;
 };
 
 LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)
@@ -93,7 +98,9 @@ Platform LinuxPlatform::services(StatusBar& statusBar)
             .systemFiles = own.systemFiles,
             .runLoop = own.runLoop,
             .statusBar = statusBar,
-            .application = own.application};
+            .application = own.application,
+            .urlSession = own.urlSession,
+            .userDirectories = own.userDirectories};
 }
 
 } // namespace quindle

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <memory_resource>
 #include <vector>
 
 #include <QVarLengthArray>
@@ -54,7 +56,11 @@ public:
     const SupplyAttributes& source(qsizetype index) const;
 
 private:
-    std::vector<SupplySnapshot> m_snapshots;
+    // A few supplies need no memory of the heap, where so large a piece is found and given back slowly.
+    alignas(SupplySnapshot) std::array<
+        std::byte, 4 * sizeof(SupplySnapshot)> m_room; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::pmr::monotonic_buffer_resource m_memory{m_room.data(), m_room.size()};
+    std::pmr::vector<SupplySnapshot> m_snapshots{&m_memory};
     QVarLengthArray<const SupplyAttributes*, 4> m_batteries;
     QVarLengthArray<const SupplyAttributes*, 4> m_externals;
     QVarLengthArray<const SupplyAttributes*, 4> m_uninterruptibles;

@@ -21,6 +21,7 @@ int TimerSchedule::add(double start, double interval, double tolerance)
     entry.interval = interval >= shortestInterval ? interval : shortestInterval;
     entry.lateness = std::max(tolerance, 0.0) + std::min(sharedSlack, entry.interval * slackOfInterval);
     entry.planned = start + entry.interval;
+    entry.fallsInStep = tolerance >= entry.interval;
     m_entries.emplace(++m_lastNumber, entry);
     return m_lastNumber;
 }
@@ -51,6 +52,8 @@ std::vector<int> TimerSchedule::takeDue(double now)
         if (entry.planned > now)
             continue;
         due.emplace_back(entry.planned, number);
+        if (entry.fallsInStep)
+            entry.start = now;
         entry.planned = firstTickAfter(entry, now);
     }
     std::sort(due.begin(), due.end());

@@ -12,6 +12,9 @@ namespace quindle {
 /// A timer's ticks are planned at start + n * interval, n = 1, 2, ... A tick may be late by the timer's
 /// tolerance and, where that lets it share a wake-up, by 0.25 s more (a tenth of the interval, if that is
 /// less). The next wake-up is the latest of the timers' next planned ticks that makes none of them too late.
+///
+/// A timer that tolerates its whole interval may fire at any time, because some tick of it is in tolerance
+/// then: it starts anew whenever it fires, and so falls in step with the others wherever they started.
 class TimerSchedule
 {
 public:
@@ -36,6 +39,7 @@ private:
         double interval = 0;
         double lateness = 0;
         double planned = 0;
+        bool fallsInStep = false;
     };
 
     static double firstTickAfter(const Entry& entry, double now);

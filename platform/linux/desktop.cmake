@@ -9,7 +9,9 @@ target_sources(quindle_platform_linux PRIVATE
     LinuxNotifications.h
     LinuxRunLoop.cpp
     LinuxUserDefaults.cpp
+    LinuxUserDirectories.cpp
     PropertyListFile.cpp
     SingleInstance.cpp
     TimerSchedule.cpp
+    X11Desktop.cpp
 )

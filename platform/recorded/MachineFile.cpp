@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "common/Paths.h"
 #include "common/PropertyList.h"
 
 namespace quindle {
@@ -251,7 +252,7 @@ void makeFoldersAbsolute(QVariantMap& keys, const QDir& folder)
         return;
     QVariantList folders = found->toList();
     for (QVariant& path : folders)
-        path = QDir::cleanPath(folder.absoluteFilePath(path.toString()));
+        path = QDir::cleanPath(folder.absoluteFilePath(pathWithTildeExpanded(path.toString())));
     *found = folders;
 }
 

@@ -10,6 +10,7 @@ class RecordedApplication : public Application
 public:
     void terminate() override { ++m_terminations; }
     void activateIgnoringOtherApplications() override { ++m_activations; }
+    bool showsTranslucentWindows() const override { return false; }
 
     int terminations() const { return m_terminations; }
     int activations() const { return m_activations; }

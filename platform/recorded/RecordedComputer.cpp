@@ -125,6 +125,11 @@ bool RecordedComputer::isSuiteUnavailable() const
     return m_keys.value(QStringLiteral("SuiteUnavailable")).toBool();
 }
 
+QStringList RecordedComputer::applicationSupportDirectories() const
+{
+    return m_keys.value(QStringLiteral("ApplicationSupport")).toStringList();
+}
+
 QStringList RecordedComputer::loginItems() const
 {
     return m_keys.value(QStringLiteral("LoginItems")).toStringList();

@@ -42,6 +42,9 @@ public:
     void setInDatabase(const QString& name, const QString& key, const QVariant& value);
     bool isSuiteUnavailable() const;
 
+    /// Absolute, in search order.
+    QStringList applicationSupportDirectories() const;
+
     QStringList loginItems() const;
     void setLoginItems(const QStringList& items);
 

@@ -6,7 +6,7 @@ namespace quindle {
 
 QDateTime RecordedClock::now() const
 {
-    return m_computer.now().value_or(QDateTime::currentDateTime());
+    return m_computer.now().value_or(QDateTime::currentDateTimeUtc());
 }
 
 QString RecordedHost::localizedName() const

@@ -13,6 +13,7 @@ RecordedPlatform::RecordedPlatform(const QVariantMap& machineKeys, const Bundle&
     , systemFiles(computer)
     , loginItems(computer)
     , urlSession(computer)
+    , userDirectories(computer)
 {
 }
 
@@ -33,6 +34,8 @@ Platform RecordedPlatform::platform()
         .runLoop = runLoop,
         .statusBar = statusBar,
         .application = application,
+        .urlSession = urlSession,
+        .userDirectories = userDirectories,
     };
 }
 

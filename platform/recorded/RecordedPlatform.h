@@ -14,6 +14,7 @@
 #include "platform/recorded/RecordedStatusBar.h"
 #include "platform/recorded/RecordedUrlSession.h"
 #include "platform/recorded/RecordedUserDefaults.h"
+#include "platform/recorded/RecordedUserDirectories.h"
 #include "platform/recorded/RecordedWorkspace.h"
 
 namespace quindle {
@@ -47,6 +48,7 @@ struct RecordedPlatform
     RecordedApplication application;
     RecordedLoginItems loginItems;
     RecordedUrlSession urlSession;
+    RecordedUserDirectories userDirectories;
 };
 
 } // namespace quindle

@@ -33,12 +33,16 @@ def wait_for(condition, seconds=10.0, pause=0.05):
 class Desktop:
     """Use as `with Desktop("xfce") as desktop:`. Hosts: xfce, tint2 (XEmbed), lxqt, waybar (Wayland), none."""
 
-    def __init__(self, host, geometry="640x480", scale=1, panel_height=28, keep_log=None, background="#4a6a8a"):
+    def __init__(self, host, geometry="640x480", scale=1, panel_height=28, keep_log=None, background="#4a6a8a",
+                 dark=None, compositor=False):
+        """`dark` chooses the panel's colours (None: the host's own); `compositor` lets windows be translucent."""
         self.host = host
         self.geometry = geometry
         self.scale = scale
         self.panel_height = panel_height
         self.background = background
+        self.dark = dark
+        self.compositor = compositor
         self.id = uuid.uuid4().hex
         self.root = Path(tempfile.mkdtemp(prefix="quindle-desktop-"))
         self.log_path = Path(keep_log) if keep_log else self.root / "log"
@@ -63,6 +67,8 @@ class Desktop:
         env.update({MARK: self.id, "LANG": "C.UTF-8", "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1", "GTK_A11Y": "none",
                     "GSETTINGS_BACKEND": "keyfile", "LIBGL_ALWAYS_SOFTWARE": "1", "TZ": "UTC",
                     "XDG_CURRENT_DESKTOP": {"xfce": "XFCE", "lxqt": "LXQt", "waybar": "sway"}.get(self.host, "")})
+        if self.dark is not None:
+            env["GTK_THEME"] = "Adwaita:dark" if self.dark else "Adwaita"
         if self.scale != 1:
             env["QT_SCALE_FACTOR"] = str(self.scale)
             env["GDK_SCALE"] = str(self.scale)
@@ -147,6 +153,10 @@ class Desktop:
         self.start("openbox")
         wait_for(lambda: "window id" in self.call("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
         self.call("xsetroot", "-solid", self.background)
+        if self.compositor:  # it shows the background only from a picture
+            self.call("hsetroot", "-solid", self.background)
+            self.start("xcompmgr", "-n")
+            time.sleep(0.5)
 
     def _start_sway(self):
         self.env.update({"XDG_SESSION_TYPE": "wayland", "WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman",
@@ -193,7 +203,7 @@ class Desktop:
 
     def _start_tint2(self):
         config = self.root / "tint2rc"
-        config.write_text(TINT2_PANEL.format(size=self.panel_height))
+        config.write_text(TINT2_PANEL.format(size=self.panel_height, colour=self._panel_colour()))
         self.panel = self.start("tint2", "-c", config)
         wait_for(lambda: "window id" in self.call("xprop", "-root", "_NET_SYSTEM_TRAY_S0")
                  or "tint2" in self.call("xwininfo", "-root", "-tree"))
@@ -203,9 +213,13 @@ class Desktop:
         config = self.root / "waybar.json"
         style = self.root / "waybar.css"
         config.write_text(WAYBAR_PANEL % self.panel_height)
-        style.write_text("* {font-family: DejaVu Sans; font-size: 13px;} window#waybar {background: #222; color: white;}")
+        style.write_text("* {font-family: DejaVu Sans; font-size: 13px;} "
+                         f"window#waybar {{background: {self._panel_colour()};}}")
         self.panel = self.start("waybar", "-c", config, "-s", style, env={"GDK_BACKEND": "wayland"})
         self._wait_for_watcher()
+
+    def _panel_colour(self):
+        return "#f0f1f3" if self.dark is False else "#222222"
 
     def _wait_for_watcher(self):
         if not wait_for(lambda: self.has_name(WATCHER), 20.0):
@@ -254,6 +268,13 @@ class Desktop:
     def windows(self, pattern="quindle-helper"):
         """X11: ids of the visible windows of a class."""
         return self.call("xdotool", "search", "--onlyvisible", "--class", pattern).split()
+
+    def panel_text_colour(self):
+        """X11: the colour that the panel with the tray says it writes in, as #RRGGBB; empty if it says nothing."""
+        told = self.call("sh", "-c", "for id in $(xwininfo -root -tree | grep -o '0x[0-9a-f]*' | sort -u); do "
+                                     "xprop -id $id _NET_SYSTEM_TRAY_COLORS; done")
+        found = re.search(r"= (\d+), (\d+), (\d+)", told)
+        return "#" + "".join(f"{int(value) >> 8:02X}" for value in found.groups()) if found else ""
 
     def click(self, x, y, button=1):
         self.call("xdotool", "mousemove", x, y, "click", button)
@@ -306,7 +327,7 @@ type=statusnotifier
 
 TINT2_PANEL = """rounded = 0
 border_width = 0
-background_color = #222222 100
+background_color = {colour} 100
 panel_items = S
 panel_size = 100% {size}
 panel_position = top left horizontal

@@ -19,4 +19,11 @@ TEST(Md5Hex, DigestsUtf8)
     EXPECT_EQ(md5Hex(QStringLiteral("é")), QStringLiteral("66ddcd97cfdeabb2f6fb8a999b4bc76f"));
 }
 
+TEST(Sha1Hex, Lowercase40Digits)
+{
+    EXPECT_EQ(sha1Hex(QString()), QStringLiteral("da39a3ee5e6b4b0d3255bfef95601890afd80709"));
+    EXPECT_EQ(sha1Hex(QStringLiteral("abc")), QStringLiteral("a9993e364706816aba3e25717850c26c9cd0d89d"));
+    EXPECT_EQ(sha1Hex(QStringLiteral("é")), QStringLiteral("bf15be717ac1b080b4f1c456692825891ff5073d"));
+}
+
 } // namespace

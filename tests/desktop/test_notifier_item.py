@@ -25,7 +25,7 @@ class NotifierItem(HelperCase):
     def test_the_template_is_shown_literally(self):
         self.start(machine(50, template="<b>&x_y %p %1 %n"))
         self.assert_title("<b>&x_y 50.0 %1 %n")
-        self.assertIn("&lt;b&gt;&amp;x_y", self.desktop.item_property("ToolTip"))
+        self.assertIn("<b>&x_y", self.desktop.item_property("ToolTip"))  # this panel escapes the first text itself
 
     def test_a_long_title_stays_exact(self):
         template = "\u05d0\u2764\ufe0f " * 3000 + "%p"
@@ -61,6 +61,15 @@ class NotifierItem(HelperCase):
         self.assertIn("64.0%", seen)
         self.assertNotIn("100 %", seen)
         self.assertLessEqual(seen.count("member=NewTitle"), 3)
+
+    def test_the_icon_has_the_colour_of_the_panel_s_text(self):
+        panel = self.desktop.panel_text_colour()
+        self.assertRegex(panel, "^#[0-9A-F]{6}$", "this panel tells its colours")
+        self.start(machine(95))
+        self.assert_title("95.0%")
+        shown = wait_for(lambda: panel in self.desktop.call(
+            "sh", "-c", "import -silent -window root -crop 28x28+0+0 -depth 8 -format %c histogram:info:-"), 5)
+        self.assertTrue(shown, f"nothing in the panel has the colour {panel}")
 
     def test_click_opens_the_view_and_escape_closes_it(self):
         self.start(machine(66))

@@ -22,7 +22,8 @@ class Case:
     """One computer and what is expected of it.
 
     machine: the machine file, as values (see machine()) or as bytes.
-    expected: (line, path, value) with the line counted from 0 and the path's keys parted by slashes;
+    expected: (line, path, value) with the line counted from 0 and the path's keys parted by slashes, where a
+        function in place of the value is asked whether it is right;
         or ABORT; or refused(KEY), where KEY is "" for the file as a whole.
     """
 
@@ -30,6 +31,7 @@ class Case:
     machine: object
     expected: object
     environment: dict = field(default_factory=dict)
+    files: dict = field(default_factory=dict)  # beside the machine file: path -> bytes
 
 
 ABORT = "abort"
@@ -89,6 +91,15 @@ def same(actual, wanted):
     return type(actual) is type(wanted) and actual == wanted
 
 
+def is_right(actual, wanted):
+    if not callable(wanted):
+        return actual is wanted or same(actual, wanted)
+    try:
+        return wanted(actual)
+    except (KeyError, TypeError, ValueError):  # not even of the shape that the function takes
+        return False
+
+
 def differences(result, expected):
     if expected == ABORT:
         return [] if result.returncode == -signal.SIGABRT else [f"exit {result.returncode}, wanted an abort"]
@@ -98,7 +109,7 @@ def differences(result, expected):
     found = []
     for line, path, wanted in expected:
         actual = value_at(lines[line], path) if line < len(lines) else "no such line"
-        if not (actual is wanted or same(actual, wanted)):
+        if not is_right(actual, wanted):
             found.append(f"line {line}, {path}: {actual!r}, wanted {wanted!r}")
     return found
 
@@ -121,13 +132,19 @@ def check(program, case):
         path = os.path.join(folder, "machine.plist")
         with open(path, "wb") as file:
             file.write(machine_bytes(case.machine))
-        result = run(program, path, case.environment)
+        for name, content in case.files.items():
+            os.makedirs(os.path.dirname(os.path.join(folder, name)), exist_ok=True)
+            with open(os.path.join(folder, name), "wb") as file:
+                file.write(content)
+        environment = {key: value.replace("{folder}", folder) for key, value in case.environment.items()}
+        result = run(program, path, environment)
         if isinstance(case.expected, tuple):
             return refusal_differences(result, path, case.expected[1])
         return differences(result, case.expected)
 
 
 def load(path):
+    sys.path.insert(0, os.path.dirname(path))
     spec = importlib.util.spec_from_file_location("table", path)
     table = importlib.util.module_from_spec(spec)
     spec.loader.exec_module(table)

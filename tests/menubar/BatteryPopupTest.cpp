@@ -22,6 +22,7 @@
 #include "menubar/PlainLabel.h"
 #include "menubar/SwitchField.h"
 #include "menubar/menuIndicator.h"
+#include "platform/Application.h"
 #include "tests/menubar/FakeModels.h"
 #include "tests/support/QtPrinters.h"
 
@@ -37,6 +38,16 @@ public:
     void quitApp() override { calls.append(QStringLiteral("quit")); }
 
     QStringList calls;
+};
+
+class InventedDesktop : public Application
+{
+public:
+    void terminate() override {}
+    void activateIgnoringOtherApplications() override {}
+    bool showsTranslucentWindows() const override { return translucent; }
+
+    bool translucent = false;
 };
 
 void press(QWidget* widget, Qt::Key key)
@@ -98,7 +109,8 @@ struct BatteryPopupTest : testing::Test
     test::FakeMac mac;
     RecordingActions actions;
     MainInterface interface;
-    BatteryPopup popup{interface};
+    InventedDesktop desktop;
+    BatteryPopup popup{interface, desktop};
 };
 
 TEST_F(BatteryPopupTest, NothingExistsWhileClosed)
@@ -287,6 +299,21 @@ TEST_F(BatteryPopupTest, LongTextsDoNotWidenIt)
     EXPECT_EQ(window()->width(), width);
     EXPECT_FALSE(window()->grab().isNull());
     EXPECT_EQ(row("nameRow")->caption(), mac.name.toString());
+}
+
+TEST_F(BatteryPopupTest, CornersAreRoundOnlyWhereTheyCanBeSmooth)
+{
+    const auto corner = [this] {
+        const QImage shown = open()->grab().toImage();
+        popup.close();
+        deleteClosed();
+        return shown.pixelColor(0, 0);
+    };
+    EXPECT_EQ(corner().alpha(), 255);
+    desktop.translucent = true;
+    EXPECT_EQ(corner().alpha(), 0);
+    desktop.translucent = false;
+    EXPECT_EQ(corner().alpha(), 255);
 }
 
 TEST_F(BatteryPopupTest, PlainWindowHasAFixedSize)

@@ -68,7 +68,7 @@ TEST_F(MainInterfaceTest, EntriesInOrder)
             texts.append(row.text);
     }
     EXPECT_EQ(texts.join(u'|'),
-              QStringLiteral("Show Battery...||Open Application|Preferences...|Version|Quit"));
+              QStringLiteral("|Show Battery...|Open Application|Preferences...|Version|Quit"));
 }
 
 TEST_F(MainInterfaceTest, EntriesAskTheApplication)
@@ -96,6 +96,7 @@ TEST_F(MainInterfaceTest, FactsOfABattery)
           u"Computer\tDemo Computer", u"Type\tMacBook Air", u"Model\t(13-inch, Late 2013)",
           u"System\tDebian 12", u"Computer age\t34 months"})
         EXPECT_TRUE(facts.contains(QString::fromUtf16(row))) << QString::fromUtf16(row).toStdString();
+    EXPECT_FALSE(facts.join(u'\n').contains(QStringLiteral("erial number"))) << "too long for a menu";
 }
 
 TEST_F(MainInterfaceTest, RowsWithNothingToTellAreHidden)

@@ -79,7 +79,7 @@ TEST_F(Bar, FiltersDecideTheColour)
 TEST_F(Bar, WithoutFiltersTheBaseColour)
 {
     bar.setPercent(50);
-    EXPECT_NEAR(pixel(50).hsvHue(), 240, 2);
+    EXPECT_NEAR(pixel(50).hsvHue(), 240, 5);
 }
 
 TEST_F(Bar, TrackStandsOutFromTheBackground)

@@ -139,6 +139,22 @@ std::unique_ptr<StatusItem> FakeStatusBar::statusItemWithLength(double length)
     return std::make_unique<FakeStatusItem>(items.back());
 }
 
+void FakeUrlSession::post(const QString& url, const QByteArray& body,
+                          std::function<void(int status, const QByteArray& body)> /*answered*/)
+{
+    posted.append(url);
+    bodies.push_back(body);
+}
+
+std::optional<QByteArray> FakeUrlSession::contents(const QString& url)
+{
+    asked.append(url);
+    const auto answer = answers.find(url);
+    if (answer == answers.end())
+        return std::nullopt;
+    return answer->second;
+}
+
 void FakeDistributedNotificationCenter::addObserver(const QString& name,
                                                     NotificationCenter::Observer observer)
 {

@@ -21,7 +21,9 @@
 #include "platform/PowerSources.h"
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
+#include "platform/UrlSession.h"
 #include "platform/UserDefaults.h"
+#include "platform/UserDirectories.h"
 #include "platform/Workspace.h"
 
 // The computer as tests invent it: every platform service in memory, changed by hand, recording what is
@@ -207,6 +209,7 @@ public:
 
     void terminate() override { ++terminated; }
     void activateIgnoringOtherApplications() override { ++activated; }
+    bool showsTranslucentWindows() const override { return false; }
 };
 
 class FakeBundle : public Bundle
@@ -217,6 +220,28 @@ public:
 
     QString path() const override { return bundlePath; }
     std::optional<QVariantMap> infoDictionary() const override { return info; }
+};
+
+/// Answers what stands in `answers`; posts are never answered.
+class FakeUrlSession : public UrlSession
+{
+public:
+    std::map<QString, QByteArray> answers;
+    QStringList asked;
+    QStringList posted;             ///< addresses
+    std::vector<QByteArray> bodies; ///< of the posts
+
+    void post(const QString& url, const QByteArray& body,
+              std::function<void(int status, const QByteArray& body)> answered) override;
+    std::optional<QByteArray> contents(const QString& url) override;
+};
+
+class FakeUserDirectories : public UserDirectories
+{
+public:
+    QStringList applicationSupport;
+
+    QStringList applicationSupportDirectories() const override { return applicationSupport; }
 };
 
 /// Delivers to this process alone, at once.
@@ -261,6 +286,8 @@ struct FakePlatform
     FakeRunLoop runLoop{clock};
     FakeStatusBar statusBar;
     FakeApplication application;
+    FakeUrlSession urlSession;
+    FakeUserDirectories userDirectories;
 
     Platform platform{registry,
                       powerSources,
@@ -275,7 +302,9 @@ struct FakePlatform
                       systemFiles,
                       runLoop,
                       statusBar,
-                      application};
+                      application,
+                      urlSession,
+                      userDirectories};
 
     FakePlatform() = default;
     FakePlatform(const FakePlatform&) = delete;

@@ -12,6 +12,7 @@ constexpr HostTraits labelHost{HostShape::Label, true, false, false};
 constexpr HostTraits labelHostWithFiles{HostShape::Label, true, true, false};
 constexpr HostTraits wideHost{HostShape::Wide, true, false, false};
 constexpr HostTraits squareHost{HostShape::Square, true, false, false};
+constexpr HostTraits xfceHost{HostShape::Square, true, false, false, true};
 constexpr HostTraits plainSquareHost{HostShape::Square, true, false, true};
 
 struct ProgramRow
@@ -34,9 +35,9 @@ constexpr std::array programs{
     ProgramRow{u"plasmashell", squareHost},
     ProgramRow{u"swaybar", squareHost},
     ProgramRow{u"waybar", wideHost},
-    ProgramRow{u"wrapper-2.0", squareHost}, // Xfce: both of its tray plug-ins show no label
+    ProgramRow{u"wrapper-2.0", xfceHost}, // Xfce: both of its tray plug-ins show no label
     ProgramRow{u"xapp-sn-watcher", wideHost},
-    ProgramRow{u"xfce4-panel", squareHost},
+    ProgramRow{u"xfce4-panel", xfceHost},
 };
 
 constexpr std::array desktops{
@@ -46,7 +47,7 @@ constexpr std::array desktops{
     ProgramRow{u"LXQt", plainSquareHost}, //
     ProgramRow{u"MATE", labelHost},       //
     ProgramRow{u"X-Cinnamon", wideHost},  //
-    ProgramRow{u"XFCE", squareHost},      //
+    ProgramRow{u"XFCE", xfceHost},        //
 };
 
 template <typename Table>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRgb>
 #include <QString>
 
 namespace quindle {
@@ -17,11 +18,19 @@ struct HostTraits
     HostShape shape = HostShape::Square;
     bool takesLabel =
         true; ///< false: the label stays empty, so that the title is not seen where it is not wanted
-    bool needsIconFile = false;     ///< only icons in files are shown, pixels sent over the bus are ignored
-    bool showsPlainToolTip = false; ///< tool tips are not parsed as markup
+    bool needsIconFile = false;       ///< only icons in files are shown, pixels sent over the bus are ignored
+    bool showsPlainToolTip = false;   ///< tool tips are not parsed as markup
+    bool escapesToolTipTitle = false; ///< of a tool tip it parses only the second text as markup
+    QRgb textColour = 0;              ///< what its panel writes in; transparent while that is unknown
 
     friend bool operator==(const HostTraits&, const HostTraits&) = default;
 };
+
+/// Whether that is a colour and not the absence of one.
+constexpr bool isKnown(QRgb colour)
+{
+    return qAlpha(colour) != 0;
+}
 
 /// The process behind the host; both empty when it cannot be read.
 struct HostProcess

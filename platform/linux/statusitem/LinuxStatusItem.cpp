@@ -6,6 +6,7 @@
 
 #include "platform/Image.h"
 #include "platform/StatusMenu.h"
+#include "platform/linux/X11Desktop.h"
 #include "platform/linux/statusitem/MenuAdaptor.h"
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"
 #include "platform/linux/statusitem/TrayIcon.h"
@@ -134,11 +135,13 @@ void LinuxStatusItem::flush()
     m_flushScheduled = false;
     if (m_surroundings.presentationChoice)
         m_wanted.choice = m_surroundings.presentationChoice();
+    if (m_flushed != m_wanted)
+        m_wanted.textColour = trayTextColour();
     if (m_flushed != m_wanted) {
         m_flushed = m_wanted;
         // An X11 tray has room for a square only, whatever the person prefers.
-        const HostTraits host =
-            m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : HostTraits();
+        HostTraits host = m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : HostTraits();
+        host.textColour = m_wanted.textColour;
         tell(present(m_wanted.contents, host));
     }
     if (m_menuChanged) {

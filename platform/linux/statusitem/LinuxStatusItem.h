@@ -68,6 +68,7 @@ private:
         HostTraits host;
         bool hasWatcher = false;
         QString choice;
+        QRgb textColour = 0;
 
         friend bool operator==(const Decisive&, const Decisive&) = default;
     };

@@ -18,7 +18,7 @@ QString lastResortImage()
 
 Picture iconPicture(const QString& imageName)
 {
-    return {Picture::Kind::Icon, imageName, {}, 0.0};
+    return {Picture::Kind::Icon, imageName, {}, 0.0, 0};
 }
 
 Picture squarePicture(const ItemContents& contents)
@@ -28,7 +28,7 @@ Picture squarePicture(const ItemContents& contents)
     const QString text = contents.fallbackText.trimmed();
     if (text.isEmpty() || text.size() > squareTextLength)
         return iconPicture(lastResortImage());
-    return {Picture::Kind::Text, {}, text, 0.0};
+    return {Picture::Kind::Text, {}, text, 0.0, 0};
 }
 
 Picture pictureFor(const ItemContents& contents, HostShape shape)
@@ -37,9 +37,9 @@ Picture pictureFor(const ItemContents& contents, HostShape shape)
     if (line.isEmpty() || shape == HostShape::Square)
         return squarePicture(contents);
     if (shape == HostShape::Wide)
-        return {Picture::Kind::Wide, contents.imageName, line, contents.fontSize};
+        return {Picture::Kind::Wide, contents.imageName, line, contents.fontSize, 0};
     if (contents.imageName.isEmpty())
-        return {Picture::Kind::Transparent, {}, {}, 0.0};
+        return {Picture::Kind::Transparent, {}, {}, 0.0, 0};
     return iconPicture(contents.imageName);
 }
 
@@ -62,7 +62,8 @@ Presentation present(const ItemContents& contents, const HostTraits& host)
 {
     Presentation told;
     told.title = busText(contents.title);
-    told.toolTipTitle = toolTipLine(contents.title, host);
+    told.toolTipTitle =
+        host.escapesToolTipTitle ? toolTipCut(contents.title) : toolTipLine(contents.title, host);
     told.toolTipBody = toolTipLine(contents.toolTipText, host);
     told.plainToolTip =
         (toolTipCut(contents.title) + QLatin1Char('\n') + toolTipCut(contents.toolTipText)).trimmed();
@@ -71,6 +72,7 @@ Presentation present(const ItemContents& contents, const HostTraits& host)
     if (!told.label.isEmpty())
         told.labelGuide = QStringLiteral("100.0%");
     told.picture = pictureFor(contents, host.shape);
+    told.picture.ink = host.textColour;
     told.iconInFile = host.needsIconFile;
     return told;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRgb>
 #include <QString>
 
 #include "platform/linux/statusitem/HostTraits.h"
@@ -32,6 +33,7 @@ struct Picture
     QString imageName;
     QString text;
     double fontSize = 0.0;
+    QRgb ink = 0; ///< what the panel writes in; see isKnown
 
     friend bool operator==(const Picture&, const Picture&) = default;
 };

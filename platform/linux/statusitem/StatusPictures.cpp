@@ -21,23 +21,22 @@ namespace {
 Q_LOGGING_CATEGORY(logPictures, "quindle.statusitem.pictures", QtWarningMsg)
 
 constexpr std::array squareSizes{22, 32, 44};
-constexpr int wideHeight = 44;
 constexpr int gridSize = 22;
+// Twice the 21 pixels that the one host of wide pictures gives its icons by default, so that it halves them
+// evenly.
+constexpr int wideHeight = 42;
 constexpr int maximumWideWidth = 2 * 400;
 
 // The menu-bar font of 12 points belongs to a bar of 22 points; panels write 13 px in one of 22 px.
 constexpr double panelPixelsPerPoint = 13.0 / 12.0;
 
-const QColor& glyphColour()
-{
-    static const QColor colour(255, 255, 255);
-    return colour;
-}
+constexpr QColor onPlate(255, 255, 255);
+constexpr QColor plateColour(24, 26, 30, 190);
 
-const QColor& edgeColour()
+/// The colour that the picture is drawn in.
+QColor inkOf(const Picture& picture)
 {
-    static const QColor colour(24, 26, 30);
-    return colour;
+    return isKnown(picture.ink) ? QColor::fromRgb(picture.ink) : onPlate;
 }
 
 QImage blankImage(int width, int height)
@@ -47,40 +46,27 @@ QImage blankImage(int width, int height)
     return image;
 }
 
-QImage tinted(QImage image, const QColor& colour)
+/// What the picture is drawn on: nothing, or a dark plate where the panel's colours are unknown. White on it
+/// reads on every panel, and a full battery stays the opposite of an empty one; on dark panels it is hardly
+/// seen.
+QImage ground(const Picture& picture, int width, int height)
 {
+    QImage image = blankImage(width, height);
+    if (isKnown(picture.ink))
+        return image;
     QPainter painter(&image);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(image.rect(), colour);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(plateColour);
+    const int inset = 2 * (height / gridSize);
+    painter.drawRoundedRect(image.rect().adjusted(0, inset, 0, -inset), height / 5.5, height / 5.5);
     return image;
 }
 
-// Eight layers of the edge overlap: the first is soft beside solid shapes, the second solid around thin text.
-constexpr double iconEdgeOpacity = 0.35;
-constexpr double textEdgeOpacity = 0.6;
-
-/// The glyph on a dark edge around it; `reach` is the edge's width in pixels.
-QImage withEdge(const QImage& glyph, double reach, double opacity)
+/// The nearest size in which the grid falls on whole pixels.
+int onGrid(int size)
 {
-    QImage image = blankImage(glyph.width(), glyph.height());
-    const QImage edge = tinted(glyph, edgeColour());
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.setOpacity(opacity);
-    constexpr int steps = 8;
-    constexpr double fullTurn = 6.283185307179586;
-    for (int i = 0; i < steps; ++i) {
-        const double angle = fullTurn * i / steps;
-        painter.drawImage(QPointF(reach * std::cos(angle), reach * std::sin(angle)), edge);
-    }
-    painter.setOpacity(1.0);
-    painter.drawImage(0, 0, glyph);
-    return image;
-}
-
-double edgeReach(int size)
-{
-    return std::max(1.0, static_cast<double>(size) / gridSize);
+    return gridSize * std::max(1, qRound(static_cast<double>(size) / gridSize));
 }
 
 QFont panelFont(int pixelSize)
@@ -91,45 +77,27 @@ QFont panelFont(int pixelSize)
     return font;
 }
 
-/// The font in which the text fills a square of that size, its edge included.
+/// The font in which the text fills a square of that size but for a pixel of the grid on each side.
 QFont fittingFont(const QString& text, int size)
 {
     constexpr int trialSize = 100;
     const QRectF trial = QFontMetricsF(panelFont(trialSize)).tightBoundingRect(text);
-    const double room = size - 2.0 * edgeReach(size);
+    const double room = size * (gridSize - 2.0) / gridSize;
     const double scale = std::min(room / std::max(1.0, trial.width()), room / std::max(1.0, trial.height()));
     return panelFont(static_cast<int>(std::min(trialSize * scale, static_cast<double>(size))));
 }
 
-/// A dark ground, on which thin figures read on light panels; on dark ones it is hardly seen.
-QImage badge(int size)
+QImage squareText(const Picture& picture, int size)
 {
-    QImage image = blankImage(size, size);
-    QColor ground = edgeColour();
-    ground.setAlphaF(0.7F);
+    QImage image = ground(picture, size, size);
     QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ground);
-    const int inset = size / 11;
-    painter.drawRoundedRect(image.rect().adjusted(0, inset, 0, -inset), size / 6.0, size / 6.0);
-    return image;
-}
-
-QImage squareText(const QString& text, int size)
-{
-    QImage glyph = blankImage(size, size);
-    QPainter painter(&glyph);
-    painter.setFont(fittingFont(text, size));
-    painter.setPen(glyphColour());
-    const QRectF inked = QFontMetricsF(painter.font()).tightBoundingRect(text);
+    painter.setFont(fittingFont(picture.text, size));
+    painter.setPen(inkOf(picture));
+    const QRectF inked = QFontMetricsF(painter.font()).tightBoundingRect(picture.text);
     // Whole pixels: a baseline between two of them blurs every figure's foot.
     const QPointF origin((size - inked.width()) / 2.0 - inked.left(),
                          (size - inked.height()) / 2.0 - inked.top());
-    painter.drawText(origin.toPoint(), text);
-    painter.end();
-    QImage image = badge(size);
-    QPainter(&image).drawImage(0, 0, withEdge(glyph, edgeReach(size), iconEdgeOpacity));
+    painter.drawText(origin.toPoint(), picture.text);
     return image;
 }
 
@@ -139,47 +107,46 @@ QImage wideText(const Picture& picture, const QImage& icon, int height)
     const QFont font = panelFont(
         static_cast<int>(std::lround(std::clamp(picture.fontSize * panelPixelsPerPoint, 6.0, 20.0) * scale)));
     const QFontMetricsF metrics(font);
-    const int margin = static_cast<int>(std::ceil(2.0 * scale));
-    const int left = icon.isNull() ? margin : icon.width() + margin / 2;
+    const int margin = static_cast<int>(std::ceil(4.0 * scale));
+    const int left = icon.isNull() ? margin : icon.width() + margin;
     const QString text = metrics.elidedText(picture.text, Qt::ElideRight, maximumWideWidth - left - margin);
     const int textWidth = static_cast<int>(std::ceil(metrics.horizontalAdvance(text)));
 
-    QImage glyph = blankImage(left + textWidth + margin, height);
-    QPainter painter(&glyph);
-    painter.setFont(font);
-    painter.setPen(glyphColour());
-    painter.drawText(QRect(left, 0, textWidth + margin, height),
-                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine | Qt::TextDontClip, text);
-    painter.end();
-    QImage image = withEdge(glyph, scale, textEdgeOpacity);
-    QPainter(&image).drawImage(0, 0, icon);
-    return image;
-}
-
-/// One element of the drawing, in its place on a square of that size.
-QImage element(QSvgRenderer& renderer, const QString& id, int size)
-{
-    QImage image = blankImage(size, size);
-    // Sizes a little above the grid's keep its pixels and get a margin instead of blurred lines.
-    const int drawn = size > gridSize && size < gridSize + 4 ? gridSize : size;
-    const int margin = (size - drawn) / 2;
-    const double scale = static_cast<double>(drawn) / gridSize;
-    const QRectF bounds = renderer.boundsOnElement(id);
+    QImage image = ground(picture, left + textWidth + margin, height);
     QPainter painter(&image);
-    painter.translate(margin, margin);
-    renderer.render(&painter, id, QRectF(bounds.topLeft() * scale, bounds.size() * scale));
+    painter.drawImage(margin / 2, height - icon.height(), icon);
+    painter.setFont(font);
+    painter.setPen(inkOf(picture));
+    // The figures stand in the middle, not the font's line with its room for accents, and on an even pixel,
+    // which stays sharp when the host halves the picture.
+    const double baseline = 2 * std::round((height + metrics.capHeight()) / 4);
+    painter.drawText(QPointF(left, baseline), text);
     return image;
 }
 
-/// The drawing's glyph on its ground: the ground shows on light panels which part of the glyph is hollow.
-QImage rendered(const QString& file, int size)
+/// The glyph of a file in one colour, in its place on a square of that size.
+QImage rendered(const QString& file, int size, const QColor& colour)
 {
     QSvgRenderer renderer(file);
     if (!renderer.isValid())
         return {};
-    QImage image = tinted(element(renderer, QStringLiteral("ground"), size), edgeColour());
-    const QImage glyph = tinted(element(renderer, QStringLiteral("glyph"), size), glyphColour());
-    QPainter(&image).drawImage(0, 0, withEdge(glyph, edgeReach(size), iconEdgeOpacity));
+    QImage image = blankImage(size, size);
+    // Sizes a little above the grid's keep its pixels and get a margin instead of blurred lines.
+    const int drawn = size > gridSize && size < gridSize + 4 ? gridSize : size;
+    const int margin = (size - drawn) / 2;
+    QPainter painter(&image);
+    renderer.render(&painter, QRectF(margin, margin, drawn, drawn));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), colour);
+    return image;
+}
+
+QImage onGround(const Picture& picture, const QImage& glyph)
+{
+    if (glyph.isNull())
+        return {};
+    QImage image = ground(picture, glyph.width(), glyph.height());
+    QPainter(&image).drawImage(0, 0, glyph);
     return image;
 }
 
@@ -194,12 +161,11 @@ QImage StatusPictures::image(const Picture& picture, int size)
 {
     switch (picture.kind) {
     case Picture::Kind::Icon:
-        return icon(picture.imageName, size);
+        return onGround(picture, glyph(picture, size));
     case Picture::Kind::Text:
-        return squareText(picture.text, size);
+        return squareText(picture, size);
     case Picture::Kind::Wide:
-        return wideText(picture, picture.imageName.isEmpty() ? QImage() : icon(picture.imageName, size),
-                        size);
+        return wideText(picture, picture.imageName.isEmpty() ? QImage() : glyph(picture, onGrid(size)), size);
     case Picture::Kind::Transparent:
         break;
     }
@@ -226,6 +192,7 @@ QString StatusPictures::file(const Picture& picture)
                            QStringLiteral("/quindle-helper-icons");
     QString name = picture.imageName + picture.text;
     name.removeIf([](QChar c) { return !c.isLetterOrNumber(); });
+    name += QString::number(picture.ink, 16);
     QString path = folder + QLatin1Char('/') + name + QStringLiteral(".png");
     if (QFileInfo::exists(path))
         return path;
@@ -238,13 +205,14 @@ QString StatusPictures::transparentFile() const
     return m_iconsDirectory + QStringLiteral("/transparent.png");
 }
 
-QImage StatusPictures::icon(const QString& name, int size)
+QImage StatusPictures::glyph(const Picture& picture, int size)
 {
-    const auto key = std::make_pair(name, size);
-    auto found = m_icons.find(key);
-    if (found == m_icons.end()) {
+    const QString& name = picture.imageName;
+    const auto key = std::make_tuple(name, size, picture.ink);
+    auto found = m_glyphs.find(key);
+    if (found == m_glyphs.end()) {
         const QString path = m_iconsDirectory + QLatin1Char('/') + name + QStringLiteral(".svg");
-        found = m_icons.emplace(key, rendered(path, size)).first;
+        found = m_glyphs.emplace(key, rendered(path, size, inkOf(picture))).first;
         if (found->second.isNull() && m_missing.insert(name).second)
             qCWarning(logPictures) << "no usable picture in" << path;
     }

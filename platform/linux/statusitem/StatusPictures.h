@@ -2,7 +2,7 @@
 
 #include <map>
 #include <set>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 #include <QImage>
@@ -12,16 +12,15 @@
 
 namespace quindle {
 
-/// Makes the item's pictures, on demand. The panel's colours are unknown to an item, so every picture is
-/// light with a dark edge: the glyph reads on dark panels, its edge on light ones.
+/// Makes the item's pictures, on demand: in the panel's text colour where that is known, else in white on a
+/// dark plate, which reads on light and dark panels.
 class StatusPictures
 {
 public:
     /// Images are the files NAME.svg in that folder; transparent.png is there too.
     explicit StatusPictures(QString iconsDirectory);
 
-    /// The picture in that size (pixels; the height of a wide one). Icons are kept and shared; null when the
-    /// image has no file.
+    /// The picture in that size (pixels; the height of a wide one). Null when the image has no file.
     QImage image(const Picture& picture, int size);
 
     /// The sizes that hosts choose from: squares, or one wide picture. Hosts take the largest by different
@@ -35,11 +34,11 @@ public:
     QString transparentFile() const;
 
 private:
-    QImage icon(const QString& name, int size);
+    QImage glyph(const Picture& picture, int size);
 
     QString m_iconsDirectory;
-    std::map<std::pair<QString, int>, QImage> m_icons;
-    std::set<QString> m_missing; ///< already told in the log
+    std::map<std::tuple<QString, int, QRgb>, QImage> m_glyphs; ///< kept, because reading a drawing takes long
+    std::set<QString> m_missing;                               ///< already told in the log
 };
 
 } // namespace quindle

@@ -65,11 +65,11 @@ QString escapedMarkup(const QString& text)
 
 QString menuLabel(const QString& text)
 {
-    const qsizetype tab = text.indexOf(QLatin1Char('\t'));
-    QString label = elided(singleLine(text), menuLabelLength);
-    if (tab >= 0 && tab < label.size() - 1)
-        label[tab] = QLatin1Char('\t');
-    return label.replace(QLatin1Char('_'), QLatin1String("__"));
+    QString label = text;
+    const qsizetype tab = label.indexOf(QLatin1Char('\t'));
+    if (tab >= 0)
+        label.replace(tab, 1, QStringLiteral(": "));
+    return elided(singleLine(label), menuLabelLength).replace(QLatin1Char('_'), QLatin1String("__"));
 }
 
 } // namespace quindle

@@ -16,7 +16,8 @@ QString busText(const QString& text);
 /// Tool tip text for hosts that parse it as markup.
 QString escapedMarkup(const QString& text);
 
-/// A menu row's label: no mnemonic, one line. A tab, which separates caption and value, stays.
+/// A menu row's label: no mnemonic, one line. A tab, which separates caption and value, becomes a colon: not
+/// every host aligns what follows a tab.
 QString menuLabel(const QString& text);
 
 } // namespace quindle

@@ -10,7 +10,6 @@
 #include <QTextDocument>
 
 #include "platform/StatusMenu.h"
-#include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
 
 namespace quindle {
@@ -61,7 +60,11 @@ TrayIcon::~TrayIcon() = default;
 
 void TrayIcon::show(const Presentation& told, StatusPictures& pictures)
 {
-    m_icon.setIcon(trayIcon(told.picture, pictures));
+    // Drawing six sizes costs more than all else of a change, and mostly it is the tool tip that changes.
+    if (m_shownPicture != told.picture) {
+        m_shownPicture = told.picture;
+        m_icon.setIcon(trayIcon(told.picture, pictures));
+    }
     m_icon.setToolTip(literal(told.plainToolTip));
     m_icon.show();
 }

@@ -1,15 +1,17 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QObject>
 #include <QSystemTrayIcon>
+
+#include "platform/linux/statusitem/Presentation.h"
 
 class QMenu;
 
 namespace quindle {
 
-struct Presentation;
 class StatusMenu;
 class StatusPictures;
 
@@ -36,6 +38,7 @@ private:
 
     StatusMenu* m_menu;
     QSystemTrayIcon m_icon;
+    std::optional<Picture> m_shownPicture;
     std::unique_ptr<QMenu> m_contextMenu;
 };
 

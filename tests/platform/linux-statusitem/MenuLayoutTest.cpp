@@ -61,7 +61,7 @@ TEST_F(MenuLayout, onlyNamedProperties)
 {
     const MenuNode root = menuLayout(&menu, 0, -1, {u("label"), u("icon-data")});
     EXPECT_TRUE(root.properties.isEmpty());
-    EXPECT_EQ(child(root, 0).properties, (QVariantMap{{u("label"), u("Health\t93%")}}));
+    EXPECT_EQ(child(root, 0).properties, (QVariantMap{{u("label"), u("Health: 93%")}}));
 }
 
 TEST_F(MenuLayout, kinds)

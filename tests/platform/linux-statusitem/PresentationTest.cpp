@@ -101,6 +101,21 @@ TEST(Presentation, toolTipIsEscapedWhereItIsMarkup)
     const HostTraits plain{HostShape::Square, true, false, true};
     EXPECT_EQ(present(contents, plain).toolTipTitle, u("R&amp;D &lt;b&gt;"));
     EXPECT_EQ(present(contents, plain).toolTipBody, u("a & b"));
+    HostTraits escaping = squareHost;
+    escaping.escapesToolTipTitle = true;
+    EXPECT_EQ(present(contents, escaping).toolTipTitle, u("R&D <b>"));
+    EXPECT_EQ(present(contents, escaping).toolTipBody, u("a &amp; b"));
+}
+
+TEST(Presentation, everyPictureHasTheColourOfThePanelsText)
+{
+    HostTraits host;
+    EXPECT_FALSE(isKnown(present({}, host).picture.ink));
+    host.textColour = qRgb(1, 2, 3);
+    for (const HostShape shape : {HostShape::Label, HostShape::Square, HostShape::Wide}) {
+        host.shape = shape;
+        EXPECT_EQ(present({u("87%"), u("#bat44"), u("87"), {}, 12.0}, host).picture.ink, qRgb(1, 2, 3));
+    }
 }
 
 TEST(Presentation, noLabelWhereThePersonWantsNone)

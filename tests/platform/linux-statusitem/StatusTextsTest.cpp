@@ -57,11 +57,11 @@ TEST(EscapedMarkup, markupIsLiteral)
     EXPECT_EQ(escapedMarkup(u("<b>R&D</b> \"x\"")), u("&lt;b&gt;R&amp;D&lt;/b&gt; &quot;x&quot;"));
 }
 
-TEST(MenuLabel, mnemonicsAreLiteralAndTheTabStays)
+TEST(MenuLabel, mnemonicsAreLiteralAndTheTabBecomesAColon)
 {
     EXPECT_EQ(menuLabel(u("a_b__c & d")), u("a__b____c & d"));
-    EXPECT_EQ(menuLabel(u("Health\t93.4%")), u("Health\t93.4%"));
-    EXPECT_EQ(menuLabel(u("a\nb\tc\td")), u("a b\tc d"));
+    EXPECT_EQ(menuLabel(u("Health\t93.4%")), u("Health: 93.4%"));
+    EXPECT_EQ(menuLabel(u("a\nb\tc\td")), u("a b: c d"));
     EXPECT_EQ(menuLabel(QString(10000, QLatin1Char('x'))).size(), 100);
 }
 

@@ -1,0 +1,88 @@
+// The delegate's part in the history of snapshots: the saved one, the daily gate and the upload.
+
+#include <QLoggingCategory>
+
+#include "app/ApplicationPreferences.h"
+#include "app/HelperAppDelegate.h"
+#include "history/DailyGate.h"
+#include "history/DailyUpload.h"
+#include "history/SavedHistory.h"
+#include "mac/QDMac.h"
+#include "mac/ShortVersion.h"
+#include "platform/Bundle.h"
+#include "platform/Host.h"
+#include "platform/Platform.h"
+#include "platform/UrlSession.h"
+#include "platform/UserDirectories.h"
+
+namespace quindle {
+
+namespace {
+
+Q_LOGGING_CATEGORY(uploadLog, "quindle.upload", QtInfoMsg)
+
+/// Empty until the product's configuration names one.
+QString statisticsHost(const Bundle& bundle)
+{
+    const auto info = bundle.infoDictionary();
+    return info ? info->value(QStringLiteral("QDStatisticsHost")).toString() : QString();
+}
+
+void takeAnswer(int status, const QByteArray& body)
+{
+    constexpr int success = 200;
+    if (status == success && !body.isEmpty())
+        qCDebug(uploadLog).noquote() << QString::fromUtf8(body);
+}
+
+} // namespace
+
+QVariantList HelperAppDelegate::getSavedDataArray() const
+{
+    const QStringList directories = m_platform.userDirectories.applicationSupportDirectories();
+    if (directories.isEmpty())
+        return {};
+    return savedRecords(savedHistoryFile(directories.constFirst()));
+}
+
+void HelperAppDelegate::checkForAutoSaveData()
+{
+    const QDateTime now = m_platform.clock.now();
+    if (!isDailyUploadDue(m_lastDailyUploadToOnlineService, now))
+        return;
+    loadSettings(); // registers the observers once more, whatever the upload setting is
+    if (!m_preferences.autoUpload())
+        return;
+    m_lastDailyUploadToOnlineService = now; // before the upload: one that fails is not tried again today
+    uploadDailyMacDataToQNDOnline();
+    Q_EMIT dailyUploadStarted();
+}
+
+void HelperAppDelegate::uploadDailyMacDataToQNDOnline()
+{
+    send(currentDailyUpload());
+}
+
+void HelperAppDelegate::uploadDailyMacDataToQNDOnline_old()
+{
+    const auto snapshot = m_myMac->getDataForSaving(false);
+    if (snapshot)
+        send(dailyUpload(*snapshot, shortVersion(m_platform.bundle), SerialText::Clear));
+}
+
+std::optional<DailyUpload> HelperAppDelegate::currentDailyUpload() const
+{
+    const auto snapshot = m_myMac->getDataForSaving(false);
+    if (!snapshot)
+        return std::nullopt;
+    return dailyUpload(*snapshot, shortVersion(m_platform.bundle), SerialText::Masked);
+}
+
+void HelperAppDelegate::send(const std::optional<DailyUpload>& upload)
+{
+    const QString host = statisticsHost(m_platform.bundle);
+    if (upload && !host.isEmpty())
+        m_platform.urlSession.post(dailyUploadUrl(host), upload->body, takeAnswer);
+}
+
+} // namespace quindle

@@ -1,0 +1,43 @@
+#include "history/ArchivedClass.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quindle {
+
+namespace {
+
+struct NamedClass
+{
+    const char* name;
+    ArchivedClass archived;
+};
+
+constexpr std::array namedClasses{
+    NamedClass{"NSArray", ArchivedClass::Array},
+    NamedClass{"NSMutableArray", ArchivedClass::Array},
+    NamedClass{"NSSet", ArchivedClass::Array},
+    NamedClass{"NSMutableSet", ArchivedClass::Array},
+    NamedClass{"NSDictionary", ArchivedClass::Dictionary},
+    NamedClass{"NSMutableDictionary", ArchivedClass::Dictionary},
+    NamedClass{"NSString", ArchivedClass::Text},
+    NamedClass{"NSMutableString", ArchivedClass::Text},
+    NamedClass{"NSData", ArchivedClass::Data},
+    NamedClass{"NSMutableData", ArchivedClass::Data},
+    NamedClass{"NSDate", ArchivedClass::Date},
+    NamedClass{"NSNumber", ArchivedClass::Number},
+    NamedClass{"NSNull", ArchivedClass::Null},
+};
+
+} // namespace
+
+ArchivedClass archivedClass(const PropertyListGraph& graph, PropertyListGraph::Node name)
+{
+    const auto* found =
+        std::find_if(namedClasses.begin(), namedClasses.end(), [&](const NamedClass& candidate) {
+            return graph.isText(name, QLatin1StringView(candidate.name));
+        });
+    return found == namedClasses.end() ? ArchivedClass::Unknown : found->archived;
+}
+
+} // namespace quindle

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+#include "history/PropertyListGraph.h"
+
+namespace quindle {
+
+/// The kinds of objects that archives of snapshot records hold.
+enum class ArchivedClass { Unknown, Array, Dictionary, Text, Data, Date, Number, Null };
+
+/// The kind that a class of the platform is, by its name.
+ArchivedClass archivedClass(const PropertyListGraph& graph, PropertyListGraph::Node name);
+
+} // namespace quindle

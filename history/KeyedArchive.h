@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+
+namespace quindle {
+
+struct ArchivedRecords
+{
+    QVariantList records; ///< each a QVariantMap, in the archive's order; empty when there is a fault
+    QString fault;        ///< why nothing is usable, in one line; empty when all is
+};
+
+/// The records in a keyed archive, binary or XML, whose root is an array of dictionaries with text keys.
+/// Values come back as property-list values (see common/PropertyList.h), nulls as invalid ones; a number that
+/// is a key of an inner dictionary becomes a text. Any damage, a class that is not known and an element that
+/// is no such dictionary leave nothing. Time and memory grow with the size of the bytes, whatever they say.
+ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes);
+
+} // namespace quindle

@@ -1,0 +1,50 @@
+// Dates that are further from 2001 than 32 bits of seconds came out as other dates, and one that is no number
+// at all as any date.
+
+#include <limits>
+
+#include <QDateTime>
+#include <QtEndian>
+#include <gtest/gtest.h>
+
+#include "common/PropertyList.h"
+#include "tests/support/QtPrinters.h"
+
+using namespace quindle;
+
+namespace {
+
+QByteArray binaryDate(double seconds)
+{
+    QByteArray number(8, '\0');
+    qToBigEndian(seconds, number.data());
+    return "bplist00\x33" + number + QByteArray("\x08\0\0\0\0\0\0\x01\x01", 9) + QByteArray(7, '\0') +
+           "\x01" + QByteArray(15, '\0') + "\x11";
+}
+
+TEST(FarPropertyListDates, Xml)
+{
+    for (const char* text :
+         {"0001-01-01T00:00:00Z", "1601-01-01T00:00:00Z", "1899-12-31T23:59:59Z", "1932-01-01T00:00:00Z",
+          "2069-01-19T03:14:08Z", "2106-02-07T06:28:16Z", "9999-12-31T23:59:59Z"}) {
+        const auto date = propertyListFromBytes(QByteArray("<plist><date>") + text + "</date></plist>");
+        ASSERT_TRUE(date.has_value()) << text;
+        EXPECT_EQ(date->toDateTime().toUTC().toString(Qt::ISODate), QLatin1String(text));
+    }
+}
+
+TEST(FarPropertyListDates, Binary)
+{
+    const auto year = [](double seconds) {
+        return propertyListFromBytes(binaryDate(seconds)).value().toDateTime().toUTC().date().year();
+    };
+    EXPECT_EQ(year(0), 2001);
+    EXPECT_EQ(year(-3e9), 1905);
+    EXPECT_EQ(year(1e11), 5169);
+    EXPECT_GT(year(std::numeric_limits<double>::max()), 200'000);
+    EXPECT_LT(year(-std::numeric_limits<double>::infinity()), -200'000);
+    EXPECT_FALSE(
+        propertyListFromBytes(binaryDate(std::numeric_limits<double>::quiet_NaN())).value().isValid());
+}
+
+} // namespace
