@@ -41,6 +41,8 @@ const QDateTime& referenceDate()
 
 QVariant dateFromSeconds(double seconds)
 {
+    if (std::isnan(seconds))
+        return {};
     constexpr double farthest = 9.0e15; // more than any year QDateTime knows
     const double milliseconds = std::clamp(std::round(seconds * 1000.0), -farthest, farthest);
     return referenceDate().addMSecs(static_cast<qint64>(milliseconds)).toLocalTime();

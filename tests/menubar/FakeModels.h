@@ -33,6 +33,8 @@ class FakeBattery : public QObject
     Q_PROPERTY(double WattThroughput MEMBER wattThroughput NOTIFY changed)
     Q_PROPERTY(QString Temperature MEMBER temperature NOTIFY changed)
     Q_PROPERTY(QString CustomAge MEMBER customAge NOTIFY changed)
+    Q_PROPERTY(bool knowsTemperature MEMBER knowsTemperature NOTIFY changed)
+    Q_PROPERTY(bool knowsManufactureDate MEMBER knowsManufactureDate NOTIFY changed)
 
 public:
     Q_INVOKABLE void toggleAge();
@@ -62,6 +64,8 @@ public:
     double wattThroughput = 12.4;
     QString temperature = QStringLiteral(u"30.0 \u00B0C");
     QString customAge = QStringLiteral("2.5 years");
+    bool knowsTemperature = true;
+    bool knowsManufactureDate = true;
 
 Q_SIGNALS:
     void changed();
@@ -79,6 +83,7 @@ class FakeMac : public QObject
     Q_PROPERTY(QVariant LongModel MEMBER longModel NOTIFY changed)
     Q_PROPERTY(QVariant Serial MEMBER serial NOTIFY changed)
     Q_PROPERTY(QVariant CustomAge MEMBER customAge NOTIFY changed)
+    Q_PROPERTY(bool knowsManufactureDate MEMBER knowsManufactureDate NOTIFY changed)
 
 public:
     Q_INVOKABLE void toggleAge();
@@ -91,6 +96,7 @@ public:
     QVariant longModel = QStringLiteral("(13-inch, Late 2013)");
     QVariant serial = QStringLiteral("C02MN1TXF5YW");
     QVariant customAge = QStringLiteral("34 months");
+    bool knowsManufactureDate = true;
 
 Q_SIGNALS:
     void changed();

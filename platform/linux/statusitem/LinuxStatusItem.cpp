@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPointer>
+#include <QTimer>
 
 #include "platform/Image.h"
 #include "platform/StatusMenu.h"
@@ -179,6 +180,17 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
     m_wanted.hasWatcher = true;
     flush();
     m_watcher->registerItem();
+    // A panel that is just starting may own the watcher's name before it tells its colours.
+    QTimer::singleShot(m_surroundings.registrationCheck, this, &LinuxStatusItem::lookAtPanelAgain);
+}
+
+void LinuxStatusItem::lookAtPanelAgain()
+{
+    const QRgb colour = trayTextColour();
+    if (colour == m_wanted.textColour)
+        return;
+    m_wanted.textColour = colour;
+    scheduleFlush();
 }
 
 void LinuxStatusItem::watcherLost()

@@ -58,6 +58,7 @@ private:
     void tell(Presentation next);
     void watcherFound(const HostProcess& process);
     void watcherLost();
+    void lookAtPanelAgain();
     void open();
     void useActivationToken();
 

@@ -120,7 +120,7 @@ TEST_F(AttributeFaultsTest, APropertyReadsOnlyWhatItNeeds)
     EXPECT_EQ(reads, (std::map<std::string, int>{{"status", 1}}));
     reads.clear();
     property(voltageKey);
-    EXPECT_EQ(reads, (std::map<std::string, int>{{"charge_full", 1}, {"voltage_now", 1}}));
+    EXPECT_EQ(reads, (std::map<std::string, int>{{"voltage_now", 1}}));
 }
 
 TEST_F(AttributeFaultsTest, WhatIsNoRegularFileCountsAsMissing)

@@ -218,8 +218,8 @@ TEST_F(RecordedServices, LoginItems)
 TEST_F(RecordedServices, OnlyKnownCodesAreAnswered)
 {
     RecordedUrlSession& session = on(one("Replies", one("F5YW", latin("<a/>")))).urlSession;
-    EXPECT_EQ(session.contents(latin("https://host/path?a=b&cc=F5YW")), QByteArray("<a/>"));
-    EXPECT_EQ(session.contents(latin("https://host/path?cc=XXXX")), std::nullopt);
+    EXPECT_EQ(session.contents(latin("http://host/sp/product?cc=F5YW&lang=en_US")), QByteArray("<a/>"));
+    EXPECT_EQ(session.contents(latin("http://host/sp/product?cc=XXXX&lang=en_US")), std::nullopt);
     EXPECT_EQ(session.contents(latin("https://host/F5YW")), std::nullopt);
     bool answered = false;
     session.post(latin("https://host/"), "body", [&](int, const QByteArray&) { answered = true; });
