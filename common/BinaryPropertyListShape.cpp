@@ -41,6 +41,15 @@ private:
 
     bool readTrailer();
     std::optional<quint64> number(quint64 offset, int size) const;
+    struct Block
+    {
+        quint64 kind;  ///< the marker's upper half
+        quint64 start; ///< of what follows marker and count
+        quint64 count;
+    };
+
+    std::optional<Block> block(quint64 object) const;
+    bool hasNul(quint64 textObject) const;
     std::optional<std::vector<quint64>> references(quint64 object) const;
     std::optional<qint64> valuesBelow(quint64 object, int depth);
     std::optional<Visit> visitChildren(quint64 object, int depth);
@@ -91,33 +100,53 @@ std::optional<quint64> BinaryGraph::number(quint64 offset, int size) const
     return value;
 }
 
+/// Nothing for what lies outside the bytes.
+std::optional<BinaryGraph::Block> BinaryGraph::block(quint64 object) const
+{
+    const auto offset = number(m_table + object * static_cast<quint64>(m_offsetSize), m_offsetSize);
+    const auto marker = offset ? number(*offset, 1) : std::nullopt;
+    if (!marker)
+        return std::nullopt;
+    Block found{*marker >> 4, *offset + 1, *marker & 0xf};
+    if (found.count != 0xf || found.kind < 4)
+        return found;
+    // The count is an integer object that follows.
+    const auto sizeMarker = number(found.start, 1);
+    const int size = sizeMarker ? 1 << (*sizeMarker & 3) : 0;
+    const auto longCount = sizeMarker ? number(found.start + 1, size) : std::nullopt;
+    if (!longCount || *sizeMarker >> 4 != 1 || *longCount > static_cast<quint64>(m_bytes.size()))
+        return std::nullopt;
+    return Block{found.kind, found.start + 1 + static_cast<quint64>(size), *longCount};
+}
+
+/// True for a text with a NUL inside, which the library takes for a fault of the program where it is a key.
+bool BinaryGraph::hasNul(quint64 textObject) const
+{
+    constexpr quint64 utf16 = 6;
+    const auto text = block(textObject);
+    const int unit = text && text->kind == utf16 ? 2 : 1;
+    for (quint64 index = 0; text && index < text->count; ++index)
+        if (number(text->start + index * static_cast<quint64>(unit), unit) == quint64{0})
+            return true;
+    return false;
+}
+
 /// The objects that an array, set or dictionary refers to; none for any other object.
 std::optional<std::vector<quint64>> BinaryGraph::references(quint64 object) const
 {
-    const auto tableEntry = number(m_table + object * static_cast<quint64>(m_offsetSize), m_offsetSize);
-    const auto marker = tableEntry ? number(*tableEntry, 1) : std::nullopt;
-    if (!marker)
+    constexpr quint64 firstCollection = 0xa;
+    constexpr quint64 dictionary = 0xd;
+    const auto own = block(object);
+    if (!own || own->count > static_cast<quint64>(m_bytes.size()))
         return std::nullopt;
-    const quint64 kind = *marker >> 4;
-    if (kind < 0xa)
+    if (own->kind < firstCollection)
         return std::vector<quint64>();
-    quint64 start = *tableEntry + 1;
-    quint64 count = *marker & 0xf;
-    if (count == 0xf) { // the count is an integer object that follows
-        const auto sizeMarker = number(start, 1);
-        const int size = sizeMarker ? 1 << (*sizeMarker & 3) : 0;
-        const auto longCount = sizeMarker ? number(start + 1, size) : std::nullopt;
-        if (!longCount || *sizeMarker >> 4 != 1)
-            return std::nullopt;
-        count = *longCount;
-        start += 1 + static_cast<quint64>(size);
-    }
-    if (count > static_cast<quint64>(m_bytes.size()))
-        return std::nullopt;
-    std::vector<quint64> found(kind == 0xd ? count * 2 : count);
+    std::vector<quint64> found(own->kind == dictionary ? own->count * 2 : own->count);
     for (std::size_t index = 0; index < found.size(); ++index) {
-        const auto target = number(start + index * static_cast<quint64>(m_referenceSize), m_referenceSize);
-        if (!target || *target >= m_visits.size())
+        const auto target =
+            number(own->start + index * static_cast<quint64>(m_referenceSize), m_referenceSize);
+        const bool isKey = own->kind == dictionary && index < own->count;
+        if (!target || *target >= m_visits.size() || (isKey && hasNul(*target)))
             return std::nullopt;
         found[index] = *target;
     }

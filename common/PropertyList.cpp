@@ -52,10 +52,10 @@ QVariant valueFromNode(plist_t node);
 
 QVariant textFromNode(plist_t node)
 {
-    char* text = nullptr;
-    plist_get_string_val(node, &text);
-    const PlistText owner(text);
-    return QString::fromUtf8(text);
+    // Not plist_get_string_val, which ends the program at a text with a NUL inside.
+    std::uint64_t length = 0;
+    const char* text = plist_get_string_ptr(node, &length);
+    return QString::fromUtf8(text, static_cast<qsizetype>(length));
 }
 
 QVariant dataFromNode(plist_t node)

@@ -1,6 +1,7 @@
 #include "menubar/BatteryFacts.h"
 
 #include <array>
+#include <optional>
 #include <utility>
 
 #include <QObject>
@@ -25,6 +26,7 @@ struct FactPattern
     const char16_t* caption;
     const char16_t* value;
     Shown shown = Shown::WithValue;
+    const char16_t* condition = nullptr; ///< the path of what must be so
 };
 
 constexpr std::array factPatterns{
@@ -39,14 +41,14 @@ constexpr std::array factPatterns{
                 u"{Battery.FullChargeCapacity:capacity} of {Battery.DesignCapacity:capacity} mAh"},
     FactPattern{u"Cycles", u"{Battery.CycleCount:grouped}"},
     FactPattern{u"Battery made by", u"{Battery.Manufacturer} · {Battery.DeviceName}"},
-    FactPattern{u"Battery age", u"{Battery.CustomAge}"},
-    FactPattern{u"Temperature", u"{Battery.Temperature}"},
+    FactPattern{u"Battery age", u"{Battery.CustomAge}", Shown::WithValue, u"Battery.knowsManufactureDate"},
+    FactPattern{u"Temperature", u"{Battery.Temperature}", Shown::WithValue, u"Battery.knowsTemperature"},
     FactPattern{u"Adapter", u"{Battery.AdapterConnected} · {Battery.AdapterWatt}"},
     FactPattern{u"Computer", u"{Name}"},
     FactPattern{u"Type", u"{Type}"},
     FactPattern{u"Model", u"{LongModel|Model}"},
     FactPattern{u"System", u"{OSXVersion}"},
-    FactPattern{u"Computer age", u"{CustomAge}"},
+    FactPattern{u"Computer age", u"{CustomAge}", Shown::WithValue, u"knowsManufactureDate"},
 };
 
 KeyPath statePath()
@@ -82,6 +84,7 @@ struct BatteryFacts::Fact
     DisplayPattern caption;
     DisplayPattern value;
     Shown shown;
+    std::optional<KeyPath> condition;
     std::vector<KeyPath> paths;
     std::vector<QVariant> values;
 };
@@ -92,6 +95,10 @@ BatteryFacts::Fact::Fact(const FactPattern& pattern)
     , shown(pattern.shown)
     , paths(caption.paths())
 {
+    if (pattern.condition)
+        condition = KeyPath(QString::fromUtf16(pattern.condition));
+    if (condition)
+        paths.push_back(*condition);
     for (const KeyPath& path : value.paths())
         paths.push_back(path);
     if (shown == Shown::WithState)
@@ -115,6 +122,8 @@ bool BatteryFacts::Fact::readValues(const QObject* mac)
 
 QString BatteryFacts::Fact::text() const
 {
+    if (condition && !tellsSomething(valueOf(*condition)))
+        return {};
     const auto resolve = [this](const KeyPath& path) { return valueOf(path); };
     const auto captionText = caption.text(resolve);
     const auto shownValue = value.text(resolve);

@@ -7,6 +7,7 @@ desktop_packages="python3 xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme
     x11-xserver-utils xdotool libglib2.0-bin"
 test_packages="libgtest-dev libgmock-dev python3 python3-dbus python3-gi python3-dbusmock waybar sway grim
     xcompmgr hsetroot"
+fuzz_packages="clang"
 
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

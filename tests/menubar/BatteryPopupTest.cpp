@@ -196,9 +196,13 @@ TEST_F(BatteryPopupTest, RowsWithNothingToTellAreHidden)
     battery.stateOfHealth = std::numeric_limits<double>::quiet_NaN();
     battery.batteryHealth.clear();
     battery.batteryState.clear();
+    battery.knowsTemperature = false;
+    battery.knowsManufactureDate = false;
     mac.osxVersion = {};
+    mac.knowsManufactureDate = false;
     open();
-    for (const char* name : {"madeByRow", "serialRow", "healthRow", "timeRow", "systemRow"})
+    for (const char* name : {"madeByRow", "serialRow", "healthRow", "timeRow", "systemRow", "temperatureRow",
+                             "ageRow", "computerAgeRow"})
         EXPECT_TRUE(row(name)->isHidden()) << name;
     EXPECT_TRUE(find<menuIndicator>("stateOfHealthProgress")->isHidden());
 }

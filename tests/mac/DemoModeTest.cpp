@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include "battery/QDBattery.h"
+#include "mac/QDMac.h"
+#include "mac/SerialNumberDecoding.h"
+#include "tests/mac/ForbiddenPlatform.h"
+#include "tests/support/QtPrinters.h"
+
+using namespace quindle;
+
+namespace {
+
+QString text(const char* utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+TEST(DemoMode, ShowsItsValuesAndTouchesNothing)
+{
+    ForbiddenPlatform computer;
+    const auto mac = QDMac::initWithDemoMode(computer.platform, true);
+    EXPECT_EQ(mac->OSXVersion(), text("El Capitan"));
+    EXPECT_EQ(mac->Model(), text("MacBookAir4,2"));
+    EXPECT_EQ(mac->Type(), text("MacBook Air"));
+    EXPECT_EQ(mac->Name(), text("Demo Computer"));
+    EXPECT_EQ(mac->LongModel(), text("(13-inch, Late 2013)"));
+    EXPECT_EQ(mac->Serial(), text("C02MN1TXF5YW"));
+    EXPECT_EQ(mac->ManufactureDate().date(), QDate(2014, 5, 12));
+    EXPECT_EQ(buildDate(*mac->Serial())->date(), mac->ManufactureDate().date());
+}
+
+TEST(DemoMode, TheBatteryIsThere)
+{
+    ForbiddenPlatform computer;
+    const auto mac = QDMac::initWithDemoMode(computer.platform, false);
+    const QDBattery* battery = mac->Battery();
+    ASSERT_NE(battery, nullptr);
+    const std::pair<const char*, QVariant> values[] = {
+        {"FullChargeCapacity", 4865},
+        {"CycleCount", 293},
+        {"BatteryHealth", text("Good")},
+        {"StateOfCharge", 61.0},
+        {"StateOfHealth", 89.0},
+        {"Temperature", text("78.5 °F")},
+        {"StateText", text("Discharging with")},
+        {"WattThroughput", 4.61},
+        {"CurrentCapacity", 2967},
+        {"TimeRemaining", text("4:41")},
+    };
+    for (const auto& [name, value] : values)
+        EXPECT_EQ(battery->property(name), value) << name;
+    EXPECT_EQ(battery->property("ManufactureDate").toDateTime().date(), QDate(2014, 4, 4));
+}
+
+TEST(EmptyComputer, HasOnlyItsInitialValues)
+{
+    ForbiddenPlatform computer;
+    const auto mac = QDMac::initWithHost(computer.platform, text("host"), text("user"), text("word"));
+    EXPECT_EQ(mac->ManufactureDate(), computer.clock.now());
+    EXPECT_EQ(mac->Battery(), nullptr);
+    EXPECT_EQ(mac->ageMode(), 0);
+    for (const char* name :
+         {"OSXVersion", "Model", "Type", "Name", "LongModel", "ManufactureDateString", "Serial", "CustomAge"})
+        EXPECT_FALSE(mac->property(name).isValid()) << name;
+}
+
+} // namespace
