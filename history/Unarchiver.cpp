@@ -21,14 +21,14 @@ constexpr quint64 charactersOfValue = 16; // that take the memory of one value
 // byte; the rest is for small archives whose objects share their lists of keys.
 quint64 readableValues(quint64 size)
 {
-    return size + 64 * 1024;
+    return size + quint64{64} * 1024;
 }
 
 // So many may come of them where shared objects are walked through as often as they appear: enough for a
 // lifetime of records that are all the same, and an end to archives made to unfold for ever.
 quint64 unfoldedValues(quint64 size)
 {
-    constexpr quint64 million = 1024 * 1024;
+    constexpr quint64 million = quint64{1024} * 1024;
     return std::min(64 * size, 64 * million) + 4 * million;
 }
 

@@ -22,7 +22,7 @@ namespace quindle {
 struct HttpsLimits
 {
     std::chrono::milliseconds time{30'000}; ///< for one whole exchange, finding the host included
-    qint64 size = 64 * 1024;                ///< of the answer's body
+    qint64 size = qint64{64} * 1024;        ///< of the answer's body
 };
 
 /// Posts over HTTPS beside the event loop of the thread it lives in. Certificates are always verified,
