@@ -69,11 +69,19 @@ QVariantMap capturedFiles(const SystemFiles& systemFiles)
     return files;
 }
 
+/// A captured computer that is played again must not send anything to the real services.
+QVariantMap withoutServiceHosts(QVariantMap info)
+{
+    info.remove(QStringLiteral("QDStatisticsHost"));
+    info.remove(QStringLiteral("QDProductInformationHost"));
+    return info;
+}
+
 QVariantMap capturedBundle(const Bundle& bundle)
 {
     QVariantMap captured{{QStringLiteral("Path"), bundle.path()}};
     if (const auto info = bundle.infoDictionary())
-        captured.insert(QStringLiteral("Info"), *info);
+        captured.insert(QStringLiteral("Info"), withoutServiceHosts(*info));
     return captured;
 }
 

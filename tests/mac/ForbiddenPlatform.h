@@ -121,6 +121,11 @@ class ForbiddenPlatform
     {
         void terminate() override { refuse("the end of the program"); }
         void activateIgnoringOtherApplications() override { refuse("activation"); }
+        bool showsTranslucentWindows() const override
+        {
+            refuse("the screen");
+            return false;
+        }
     };
 
     struct Network : UrlSession
@@ -132,6 +137,15 @@ class ForbiddenPlatform
         std::optional<QByteArray> contents(const QString&) override
         {
             return refuse<QByteArray>("a request");
+        }
+    };
+
+    struct Folders : UserDirectories
+    {
+        QStringList applicationSupportDirectories() const override
+        {
+            refuse("the user's folders");
+            return {};
         }
     };
 
@@ -149,6 +163,7 @@ class ForbiddenPlatform
     Bar m_statusBar;
     Program m_application;
     Network m_urlSession;
+    Folders m_userDirectories;
 
 public:
     FakeClock clock;
@@ -166,7 +181,8 @@ public:
                       .runLoop = m_runLoop,
                       .statusBar = m_statusBar,
                       .application = m_application,
-                      .urlSession = m_urlSession};
+                      .urlSession = m_urlSession,
+                      .userDirectories = m_userDirectories};
 };
 
 } // namespace quindle
