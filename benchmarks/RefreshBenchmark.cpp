@@ -103,7 +103,8 @@ private:
                 .systemFiles = m_others.systemFiles,
                 .runLoop = m_others.runLoop,
                 .statusBar = hasRealItem ? m_statusBar : recorded,
-                .application = m_others.application};
+                .application = m_others.application,
+                .urlSession = m_others.urlSession};
     }
 
     std::chrono::milliseconds m_now{0};

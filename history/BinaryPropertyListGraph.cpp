@@ -134,27 +134,24 @@ quint64 BinaryPropertyListGraph::byteLength(const Content& found) const
     }
 }
 
-PropertyListGraph::Kind BinaryPropertyListGraph::kind(Node node) const
+PropertyListGraph::Kind BinaryPropertyListGraph::kindOf(const Content& found)
 {
-    const auto found = content(node);
-    if (!found)
-        return Kind::Invalid;
-    switch (found->type) {
+    switch (found.type) {
     case SingleType:
-        return singleKind(found->detail);
+        return singleKind(found.detail);
     case IntegerType:
-        return found->detail <= 4 ? Kind::Integer : Kind::Invalid;
+        return found.detail <= 4 ? Kind::Integer : Kind::Invalid;
     case RealType:
-        return found->detail == 2 || found->detail == 3 ? Kind::Real : Kind::Invalid;
+        return found.detail == 2 || found.detail == 3 ? Kind::Real : Kind::Invalid;
     case DateType:
-        return found->detail == 3 ? Kind::Date : Kind::Invalid;
+        return found.detail == 3 ? Kind::Date : Kind::Invalid;
     case DataType:
         return Kind::Data;
     case AsciiType:
     case Utf16Type:
         return Kind::Text;
     case ReferenceType:
-        return found->detail <= 7 ? Kind::Reference : Kind::Invalid;
+        return found.detail <= 7 ? Kind::Reference : Kind::Invalid;
     case ArrayType:
         return Kind::Array;
     case DictionaryType:
@@ -164,26 +161,31 @@ PropertyListGraph::Kind BinaryPropertyListGraph::kind(Node node) const
     }
 }
 
+PropertyListGraph::Kind BinaryPropertyListGraph::kind(Node node) const
+{
+    const auto found = content(node);
+    return found ? kindOf(*found) : Kind::Invalid;
+}
+
 QVariant BinaryPropertyListGraph::value(Node node) const
 {
-    const Kind nodeKind = kind(node);
-    if (nodeKind == Kind::Invalid)
+    const auto found = content(node);
+    if (!found)
         return {};
-    const Content found = *content(node);
-    const char* bytes = m_bytes.constData() + found.start;
-    switch (nodeKind) {
+    const char* bytes = m_bytes.constData() + found->start;
+    switch (kindOf(*found)) {
     case Kind::Boolean:
-        return found.detail == 0x9;
+        return found->detail == 0x9;
     case Kind::Integer:
-        return integer(found);
+        return integer(*found);
     case Kind::Real:
-        return real(found);
+        return real(*found);
     case Kind::Date:
         return dateFromArchivedSeconds(std::bit_cast<double>(qFromBigEndian<quint64>(bytes)));
     case Kind::Data:
-        return QByteArray(bytes, static_cast<qsizetype>(found.count));
+        return QByteArray(bytes, static_cast<qsizetype>(found->count));
     case Kind::Text:
-        return text(found);
+        return text(*found);
     default:
         return {};
     }
@@ -218,10 +220,23 @@ QVariant BinaryPropertyListGraph::text(const Content& found) const
 
 quint64 BinaryPropertyListGraph::reference(Node node) const
 {
-    if (kind(node) != Kind::Reference)
-        return noNode;
-    const Content found = *content(node);
-    return *number(found.start, found.count + 1);
+    const auto found = content(node);
+    const bool isReference = found && kindOf(*found) == Kind::Reference;
+    return isReference ? *number(found->start, found->count + 1) : noNode;
+}
+
+bool BinaryPropertyListGraph::addReferences(Node array, std::vector<quint64>& references) const
+{
+    const auto found = content(array);
+    if (!found || found->type != ArrayType)
+        return false;
+    for (quint64 index = 0; index < found->count; ++index) {
+        const auto item = content(nodeAt(found->start, index));
+        if (!item || kindOf(*item) != Kind::Reference)
+            return false;
+        references.push_back(*number(item->start, item->count + 1));
+    }
+    return true;
 }
 
 quint64 BinaryPropertyListGraph::count(Node node) const

@@ -22,6 +22,7 @@ public:
     quint64 reference(Node node) const override;
     quint64 count(Node node) const override;
     Node item(Node array, quint64 index) const override;
+    bool addReferences(Node array, std::vector<quint64>& references) const override;
     Node key(Node dictionary, quint64 index) const override;
     Node entry(Node dictionary, quint64 index) const override;
     bool isText(Node node, QLatin1StringView text) const override;
@@ -36,6 +37,7 @@ private:
         quint64 count = 0; ///< of bytes, characters, items or entries
     };
 
+    static Kind kindOf(const Content& found);
     std::optional<quint64> number(quint64 start, quint64 width) const;
     std::optional<Content> content(Node node) const;
     bool readCount(Content& found) const;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QLatin1StringView>
 #include <QVariant>
 
@@ -36,6 +38,10 @@ public:
     virtual quint64 count(Node node) const = 0;
 
     virtual Node item(Node array, quint64 index) const = 0;
+
+    /// Adds the numbers that the items of an array hold; false when it is none, or not of references alone.
+    virtual bool addReferences(Node array, std::vector<quint64>& references) const = 0;
+
     virtual Node key(Node dictionary, quint64 index) const = 0;
     virtual Node entry(Node dictionary, quint64 index) const = 0;
 

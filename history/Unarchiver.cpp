@@ -306,16 +306,12 @@ std::optional<Unarchiver::References> Unarchiver::references(Node node, const ch
 std::optional<Unarchiver::References> Unarchiver::listedReferences(Node list)
 {
     const quint64 count = m_graph.count(list);
-    if (m_graph.kind(list) != Kind::Array || !spend(count))
+    if (!spend(count))
         return std::nullopt;
     References found;
     found.reserve(count);
-    for (quint64 index = 0; index < count; ++index) {
-        const Node item = m_graph.item(list, index);
-        if (m_graph.kind(item) != Kind::Reference)
-            return std::nullopt;
-        found.push_back(m_graph.reference(item));
-    }
+    if (!m_graph.addReferences(list, found))
+        return std::nullopt;
     return found;
 }
 

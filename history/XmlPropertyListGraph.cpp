@@ -227,6 +227,20 @@ PropertyListGraph::Node XmlPropertyListGraph::item(Node array, quint64 index) co
     return child(array, Kind::Array, index);
 }
 
+bool XmlPropertyListGraph::addReferences(Node array, std::vector<quint64>& references) const
+{
+    const Element* found = element(array);
+    if (!found || found->kind != Kind::Array)
+        return false;
+    for (quint64 index = 0; index < found->childCount; ++index) {
+        const Node node = m_children[found->firstChild + index];
+        if (kind(node) != Kind::Reference)
+            return false;
+        references.push_back(reference(node));
+    }
+    return true;
+}
+
 PropertyListGraph::Node XmlPropertyListGraph::key(Node dictionary, quint64 index) const
 {
     return child(dictionary, Kind::Dictionary, index * 2);

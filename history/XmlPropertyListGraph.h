@@ -24,6 +24,7 @@ public:
     quint64 reference(Node node) const override;
     quint64 count(Node node) const override;
     Node item(Node array, quint64 index) const override;
+    bool addReferences(Node array, std::vector<quint64>& references) const override;
     Node key(Node dictionary, quint64 index) const override;
     Node entry(Node dictionary, quint64 index) const override;
     bool isText(Node node, QLatin1StringView text) const override;

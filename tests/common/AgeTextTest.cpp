@@ -26,6 +26,34 @@ TEST(AgeText, RecordedAgesInManyZones)
     }
 }
 
+/// The definition itself: the whole days after which the moved start is not yet past the end.
+qint64 daysByMoving(const QDateTime& from, const QDateTime& to)
+{
+    const qint64 days = from.date().daysTo(to.date());
+    return days > 0 && from.addDays(days) > to ? days - 1 : days;
+}
+
+TEST(AgeText, EveryHourAroundChangesOfTheClock)
+{
+    const std::pair<const char*, QDate> changes[] = {
+        {"Europe/Berlin", QDate(2014, 3, 30)},
+        {"America/Sao_Paulo", QDate(2018, 11, 4)},  // midnight is left out
+        {"Australia/Lord_Howe", QDate(2014, 4, 6)}, // by half an hour
+        {"Pacific/Apia", QDate(2011, 12, 30)},      // the day is left out
+    };
+    for (const auto& [name, date] : changes) {
+        const ScopedTimeZone zone(name);
+        const QDateTime first = QDateTime(date.addDays(-2), QTime(0, 0)).addMSecs(1);
+        for (int start = 0; start < 4 * 24; start += 5) {
+            for (int end = start + 1; end < 5 * 24; ++end) {
+                const QDateTime from = first.addSecs(start * 3600);
+                const QDateTime to = first.addSecs(end * 3600 - 1);
+                EXPECT_EQ(wholeDays(from, to), daysByMoving(from, to)) << name << ' ' << start << ' ' << end;
+            }
+        }
+    }
+}
+
 TEST(AgeText, ADayOf23HoursIsADay)
 {
     const ScopedTimeZone zone("Europe/Berlin");

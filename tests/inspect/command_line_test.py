@@ -88,7 +88,8 @@ class CommandLine(unittest.TestCase):
     def test_keys_of_the_object(self):
         line = self.run_program("--json", "--machine", self.machine).stdout.splitlines()[0]
         self.assertEqual(set(json.loads(line)),
-                         {"battery", "mac", "settings", "statusItem", "bars", "app", "defaults"})
+                         {"battery", "mac", "settings", "statusItem", "bars", "app", "defaults", "savedRecords",
+                          "snapshot", "upload", "uploadsStarted"})
 
     def test_report(self):
         result = self.run_program("--machine", self.machine)

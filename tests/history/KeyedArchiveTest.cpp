@@ -1,0 +1,130 @@
+#include "history/KeyedArchive.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTimeZone>
+
+#include "tests/support/QtPrinters.h"
+
+using namespace quindle;
+
+namespace {
+
+QByteArray archive(const char* name)
+{
+    QFile file(QStringLiteral(QUINDLE_TEST_DATA "/archives/") + QLatin1String(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+const QVariantList& twoRecords()
+{
+    static const QVariantList records{
+        QVariantMap{{QStringLiteral("Battery.CycleCount"), qint64{57}},
+                    {QStringLiteral("Battery.StateOfHealth"), 100.0},
+                    {QStringLiteral("Data.Uploaded"), false},
+                    {QStringLiteral("Data.SnapshotDate"),
+                     QDateTime(QDate(2014, 3, 1), QTime(23, 30), QTimeZone::utc()).toLocalTime()},
+                    {QStringLiteral("Data.Raw"),
+                     QVariantMap{{QStringLiteral("Voltage"), qint64{12000}},
+                                 {QStringLiteral("List"),
+                                  QVariantList{qint64{1}, 2.5, QStringLiteral("ä"), QByteArray("\x01")}}}}},
+        QVariantMap{{QStringLiteral("old"), qint64{1}}}};
+    return records;
+}
+
+/// Damage may leave records that are still right in form, never both records and a fault.
+void expectAnswer(const QByteArray& bytes)
+{
+    const ArchivedRecords read = recordsFromKeyedArchive(bytes);
+    EXPECT_TRUE(read.fault.isEmpty() || read.records.isEmpty());
+    EXPECT_FALSE(read.fault.contains(u'\n'));
+}
+
+class KeyedArchive : public testing::TestWithParam<const char*>
+{
+};
+
+TEST_P(KeyedArchive, IsReadWithItsTypes)
+{
+    const ArchivedRecords read = recordsFromKeyedArchive(archive(GetParam()));
+    EXPECT_EQ(read.fault, QString());
+    ASSERT_EQ(read.records.size(), 2);
+    EXPECT_EQ(read.records, twoRecords());
+    const QVariantMap first = read.records.at(0).toMap();
+    EXPECT_EQ(first.value(QStringLiteral("Battery.StateOfHealth")).typeId(), QMetaType::Double);
+    EXPECT_EQ(first.value(QStringLiteral("Battery.CycleCount")).typeId(), QMetaType::LongLong);
+    EXPECT_EQ(first.value(QStringLiteral("Data.Uploaded")).typeId(), QMetaType::Bool);
+}
+
+TEST_P(KeyedArchive, TruncatedAnywhereIsEmpty)
+{
+    // The last line of an XML list may lack its end.
+    const QByteArray whole = archive(GetParam()).trimmed();
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        const ArchivedRecords read = recordsFromKeyedArchive(whole.left(length));
+        EXPECT_TRUE(read.records.isEmpty() && !read.fault.isEmpty()) << length;
+    }
+}
+
+TEST_P(KeyedArchive, AnyFlippedBitHasAnAnswer)
+{
+    const QByteArray whole = archive(GetParam());
+    // Every bit of the binary one; in the long XML one a thirteenth, which meets each bit of each kind of
+    // tag.
+    const qsizetype step = whole.startsWith('<') ? 13 : 1;
+    for (qsizetype bit = 0; bit < whole.size() * 8; bit += step) {
+        QByteArray flipped = whole;
+        flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ (1 << (bit % 8)));
+        expectAnswer(flipped);
+    }
+}
+
+TEST_P(KeyedArchive, AnyTwoOverwrittenBytesHaveAnAnswer)
+{
+    const QByteArray whole = archive(GetParam());
+    std::mt19937 random(1);
+    for (int round = 0; round < 2000; ++round) {
+        QByteArray damaged = whole;
+        for (int count = 0; count < 2; ++count)
+            damaged[static_cast<qsizetype>(random() % static_cast<std::size_t>(damaged.size()))] =
+                static_cast<char>(random());
+        expectAnswer(damaged);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Encodings, KeyedArchive, testing::Values("two-records.binary", "two-records.xml"),
+                         [](const auto& encoding) {
+                             return std::string(encoding.param).find("xml") == std::string::npos ? "Binary"
+                                                                                                 : "Xml";
+                         });
+
+TEST(KeyedArchiveGarbage, TenMegabytesAreAnsweredQuickly)
+{
+    const QList<QByteArray> starts{"", "bplist00", "<?xml version=\"1.0\"?><plist><array>"};
+    for (const QByteArray& start : starts) {
+        QByteArray garbage = start + QByteArray(10'000'000, '\xa1');
+        expectAnswer(garbage);
+        garbage.replace(start.size(), 10'000'000 - 32, QByteArray(10'000'000 - 32, '<'));
+        expectAnswer(garbage);
+    }
+    EXPECT_TRUE(
+        recordsFromKeyedArchive("<plist>" + QByteArray("<array>").repeated(1'400'000)).records.isEmpty());
+}
+
+TEST(KeyedArchiveGarbage, EntitiesDoNotUnfoldForEver)
+{
+    QByteArray laughs = "<!DOCTYPE plist [<!ENTITY a0 \"ha\">";
+    for (int level = 1; level < 30; ++level) {
+        const QByteArray inner = "&a" + QByteArray::number(level - 1) + ';';
+        laughs += "<!ENTITY a" + QByteArray::number(level) + " \"" + inner.repeated(10) + "\">";
+    }
+    expectAnswer(laughs + "]><plist><string>&a29;</string></plist>");
+}
+
+} // namespace

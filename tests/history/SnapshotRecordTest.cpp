@@ -1,0 +1,64 @@
+#include "mac/SnapshotRecord.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "common/PropertyList.h"
+#include "tests/support/QtPrinters.h"
+
+using namespace quindle;
+
+namespace {
+
+SnapshotValues values()
+{
+    SnapshotValues values;
+    values.stateOfHealth = 100.0;
+    values.cycleCount = 57;
+    values.fullChargeCapacity = 4512;
+    values.manufacturer = QStringLiteral("Simplo");
+    values.snapshotDate = QDateTime(QDate(2014, 3, 1), QTime(23, 30, 12));
+    values.raw = {{QStringLiteral("Voltage"), qint64{12000}}};
+    return values;
+}
+
+TEST(SnapshotRecord, SurvivesAPropertyListWithItsTypes)
+{
+    const QVariantMap record = snapshotRecord(values());
+    const QByteArray written = xmlPropertyList(record);
+    EXPECT_TRUE(written.contains("<real>100.0</real>"));
+    EXPECT_TRUE(written.contains("<false/>"));
+    EXPECT_TRUE(written.contains("<date>"));
+    const auto read = propertyListFromBytes(written);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->toMap(), record);
+    EXPECT_EQ(read->toMap().value(QStringLiteral("Battery.StateOfHealth")).typeId(), QMetaType::Double);
+    EXPECT_EQ(read->toMap().value(QStringLiteral("Battery.CycleCount")).typeId(), QMetaType::LongLong);
+}
+
+TEST(SnapshotRecord, AbsentValuesLeaveTheirKeysOut)
+{
+    SnapshotValues bare = values();
+    bare.manufacturer.reset();
+    bare.raw.clear();
+    const QVariantMap record = snapshotRecord(bare);
+    for (const char* key :
+         {"Battery.Manufacturer", "Battery.DeviceName", "Mac.Model", "Data.ApplicationVersion", "Data.Raw"})
+        EXPECT_FALSE(record.contains(QLatin1String(key))) << key;
+    EXPECT_EQ(record.size(), 16);
+    EXPECT_EQ(record.value(QStringLiteral("Mac.ManufactureDateRaw")), QVariant(QString()));
+}
+
+TEST(SnapshotSummary, HealthWithoutDecimals)
+{
+    const std::pair<double, const char*> cases[]{
+        {86.6, "87% (4512 mAh)"},   {87.5, "88% (4512 mAh)"},
+        {86.5, "86% (4512 mAh)"},   {std::numeric_limits<double>::infinity(), "inf% (4512 mAh)"},
+        {100.0, "100% (4512 mAh)"}, {std::numeric_limits<double>::quiet_NaN(), "nan% (4512 mAh)"},
+    };
+    for (const auto& [health, text] : cases)
+        EXPECT_EQ(snapshotSummary(health, 4512), QLatin1String(text));
+}
+
+} // namespace
