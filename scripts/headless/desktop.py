@@ -180,12 +180,21 @@ class Desktop:
         getattr(self, f"_start_{self.host}")()
 
     def kill_panel(self):
+        """Kills the tray host with the helper processes of its own that hold its tray; of this desktop only."""
         self.panel.kill()
         self.panel.wait()
+        for pid in self._own_processes():
+            if "panel/wrapper" in self._command_line(pid):
+                os.kill(pid, signal.SIGKILL)
         if self.host != "tint2":
-            for name in ("wrapper-2.0", "panel-1-systray"):
-                self.call("pkill", "-KILL", "-f", name) if self.host == "xfce" else None
             wait_for(lambda: not self.has_name(WATCHER))
+
+    @staticmethod
+    def _command_line(pid):
+        try:
+            return Path(f"/proc/{pid}/cmdline").read_bytes().replace(b"\0", b" ").decode(errors="replace")
+        except OSError:
+            return ""
 
     def _start_xfce(self):
         folder = Path(self.env["XDG_CONFIG_HOME"]) / "xfce4/xfconf/xfce-perchannel-xml"
