@@ -218,7 +218,7 @@ TEST_F(RecordedServices, LoginItems)
 TEST_F(RecordedServices, OnlyKnownCodesAreAnswered)
 {
     RecordedUrlSession& session = on(one("Replies", one("F5YW", latin("<a/>")))).urlSession;
-    EXPECT_EQ(session.contents(latin("http://host/sp/product?cc=F5YW&lang=en_US")), QByteArray("<a/>"));
+    EXPECT_EQ(session.contents(latin("http:///sp/product?cc=F5YW&lang=en_US")), QByteArray("<a/>"));
     EXPECT_EQ(session.contents(latin("http://host/sp/product?cc=XXXX&lang=en_US")), std::nullopt);
     EXPECT_EQ(session.contents(latin("https://host/F5YW")), std::nullopt);
     bool answered = false;
