@@ -104,7 +104,8 @@ private:
                 .runLoop = m_others.runLoop,
                 .statusBar = hasRealItem ? m_statusBar : recorded,
                 .application = m_others.application,
-                .urlSession = m_others.urlSession};
+                .urlSession = m_others.urlSession,
+                .userDirectories = m_others.userDirectories};
     }
 
     std::chrono::milliseconds m_now{0};
