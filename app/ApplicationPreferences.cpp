@@ -97,7 +97,8 @@ void ApplicationPreferences::setAutoUpload(bool value)
 
 qint64 ApplicationPreferences::temperatureSettingIndex() const
 {
-    return suiteValue(m_suiteDefaults, Keys::temperatureSettingIndex, convertToInteger, DefaultValues::number);
+    return suiteValue(m_suiteDefaults, Keys::temperatureSettingIndex, convertToInteger,
+                      DefaultValues::number);
 }
 
 void ApplicationPreferences::setTemperatureSettingIndex(qint64 value)

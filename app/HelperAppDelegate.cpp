@@ -3,9 +3,9 @@
 #include "app/ApplicationPreferences.h"
 #include "battery/QDBattery.h"
 #include "common/FatalError.h"
-#include "common/ValueDescription.h"
 #include "common/NumberTexts.h"
 #include "common/Paths.h"
+#include "common/ValueDescription.h"
 #include "mac/QDMac.h"
 #include "menubar/BatteryFacts.h"
 #include "menubar/StatusIcon.h"
@@ -25,12 +25,13 @@ namespace quindle {
 
 namespace {
 
-constexpr double refreshInterval = 10.0;   // seconds
-constexpr double menuBarFontSize = 12.0;   // points
-constexpr double imageSide = 21.0;         // points
-constexpr qint64 iconsShown = 1;           // the one value of showIconsInMenuBar that shows icons
-constexpr qint64 fahrenheitIndex = 1;      // the one value of temperatureSettingIndex that is not Celsius
-constexpr int componentsToMainBundle = 4;  // Quindle.app's folder holds Quindle.app/Contents/Resources/Quindle-Helper.app
+constexpr double refreshInterval = 10.0; // seconds
+constexpr double menuBarFontSize = 12.0; // points
+constexpr double imageSide = 21.0;       // points
+constexpr qint64 iconsShown = 1;         // the one value of showIconsInMenuBar that shows icons
+constexpr qint64 fahrenheitIndex = 1;    // the one value of temperatureSettingIndex that is not Celsius
+constexpr int componentsToMainBundle =
+    4; // Quindle.app's folder holds Quindle.app/Contents/Resources/Quindle-Helper.app
 
 QString settingsChanged()
 {
@@ -161,8 +162,8 @@ void HelperAppDelegate::addBatteryView()
 
 void HelperAppDelegate::startTimer()
 {
-    m_statusBarUpdateTimer = m_platform.runLoop.scheduleRepeatingTimer(refreshInterval, 0.0,
-                                                                       [this] { updateStatusBarTitle(); });
+    m_statusBarUpdateTimer =
+        m_platform.runLoop.scheduleRepeatingTimer(refreshInterval, 0.0, [this] { updateStatusBarTitle(); });
 }
 
 void HelperAppDelegate::setBarFilters()
@@ -228,7 +229,8 @@ void HelperAppDelegate::updateIcon(const QDBattery& battery)
 void HelperAppDelegate::replaceTemplateImage(const QString& name)
 {
     if (const auto current = m_statusItem->image())
-        current->setTemplate(true); // the image that goes, not the one that comes: the mark stays with its name
+        current->setTemplate(
+            true); // the image that goes, not the one that comes: the mark stays with its name
     showImage(name);
 }
 

@@ -29,8 +29,8 @@ int fail(const QString& line, int status)
 
 bool hasDisplay()
 {
-    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-           || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
 int run(QApplication& application, HelperServices& services, SingleInstance& instance)
@@ -41,7 +41,8 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
     PreferencesWindow preferencesWindow;
     HelperAppDelegate delegate(platform, ApplicationPreferences::sharedInstance(&platform), interface,
                                preferencesWindow, &QDMac::init);
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, &HelperAppDelegate::applicationWillTerminate);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit,
+                     &HelperAppDelegate::applicationWillTerminate);
     instance.setShowRequested([&interface] { interface.statusMenu().openView(); });
     delegate.applicationDidFinishLaunching();
     services.play(delegate);

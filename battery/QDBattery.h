@@ -62,8 +62,8 @@ class QDBattery : public QObject
     Q_PROPERTY(QString Temperature MEMBER m_temperature NOTIFY changed)
     Q_PROPERTY(QString CustomAge MEMBER m_customAge NOTIFY changed)
     Q_PROPERTY(QVariantList raw MEMBER m_raw NOTIFY changed)
-    // For views only, and no values of the battery: whether there is anything behind the texts that stand in for
-    // what a battery does not report ("0.0 °C", an age counted from 1979).
+    // For views only, and no values of the battery: whether there is anything behind the texts that stand in
+    // for what a battery does not report ("0.0 °C", an age counted from 1979).
     Q_PROPERTY(bool knowsTemperature READ knowsTemperature NOTIFY changed STORED false)
     Q_PROPERTY(bool knowsManufactureDate READ knowsManufactureDate NOTIFY changed STORED false)
 

@@ -223,7 +223,8 @@ void readArchive(benchmark::State& state)
         benchmark::DoNotOptimize(read);
     }
     state.counters["MB"] = static_cast<double>(archive.size()) / 1e6;
-    state.counters["s/record"] = benchmark::Counter(static_cast<double>(records),
+    state.counters["s/record"] =
+        benchmark::Counter(static_cast<double>(records),
                            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 

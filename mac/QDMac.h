@@ -30,7 +30,8 @@ class QDMac : public QObject
     Q_PROPERTY(QVariant Serial MEMBER m_serial NOTIFY changed)
     Q_PROPERTY(QVariant CustomAge MEMBER m_customAge NOTIFY changed)
     Q_PROPERTY(QString privateFrameworksURL READ privateFrameworksURL CONSTANT)
-    // For views only: whether `ManufactureDate` comes of the serial number, and is not the moment of the launch.
+    // For views only: whether `ManufactureDate` comes of the serial number, and is not the moment of the
+    // launch.
     Q_PROPERTY(bool knowsManufactureDate READ knowsManufactureDate NOTIFY changed STORED false)
 
 public:

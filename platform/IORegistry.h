@@ -27,8 +27,8 @@ public:
     /// Opens the first entry of that class ("IOPlatformExpertDevice"). 0 when there is none.
     virtual RegistryObject serviceMatchingClass(const QString& className) = 0;
 
-    /// One property as it stands now. The invalid value when the handle is not open, the entry has gone, or it
-    /// has no such property. Integers are qint64.
+    /// One property as it stands now. The invalid value when the handle is not open, the entry has gone, or
+    /// it has no such property. Integers are qint64.
     virtual QVariant property(RegistryObject object, const QString& key) = 0;
 
     /// All properties as they stand now; empty in the cases above.

@@ -7,12 +7,15 @@
 
 namespace quindle {
 
-/// A picture known by its asset name. There is one shared object for each name (see NamedImages), so a size or
-/// a template mark that is set once stays with the name. Back ends turn it into pixels.
+/// A picture known by its asset name. There is one shared object for each name (see NamedImages), so a size
+/// or a template mark that is set once stays with the name. Back ends turn it into pixels.
 class Image
 {
 public:
-    explicit Image(QString name) : m_name(std::move(name)) {}
+    explicit Image(QString name)
+        : m_name(std::move(name))
+    {
+    }
 
     const QString& name() const { return m_name; }
 

@@ -21,9 +21,9 @@ class RunLoop
 public:
     virtual ~RunLoop() = default;
 
-    /// Calls `fire` every `interval` seconds on the main thread, each time at most `tolerance` seconds late, so
-    /// that ticks of several timers can share one wake-up. Lateness does not add up: the next tick is counted
-    /// from the planned time, and ticks that were missed altogether (sleep) are passed over.
+    /// Calls `fire` every `interval` seconds on the main thread, each time at most `tolerance` seconds late,
+    /// so that ticks of several timers can share one wake-up. Lateness does not add up: the next tick is
+    /// counted from the planned time, and ticks that were missed altogether (sleep) are passed over.
     virtual std::shared_ptr<Timer> scheduleRepeatingTimer(double interval, double tolerance,
                                                           std::function<void()> fire) = 0;
 };

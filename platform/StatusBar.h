@@ -27,8 +27,8 @@ public:
     /// The title's font: the menu bar's own, in this size (points).
     virtual void setMenuBarFontSize(double points) = 0;
 
-    /// What a host without room for the title draws when there is no image: the whole-number percentage; empty
-    /// for nothing.
+    /// What a host without room for the title draws when there is no image: the whole-number percentage;
+    /// empty for nothing.
     virtual void setFallbackText(const QString& text) = 0;
 
     /// What the tool tip says under the title, as plain text; lines are separated by line feeds.

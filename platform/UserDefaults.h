@@ -5,8 +5,8 @@
 
 namespace quindle {
 
-/// One settings database: typed property-list values under text keys. Every read goes to the database, so that
-/// another process's change is seen without being told. Main thread only.
+/// One settings database: typed property-list values under text keys. Every read goes to the database, so
+/// that another process's change is seen without being told. Main thread only.
 class UserDefaults
 {
 public:

@@ -110,7 +110,8 @@ TEST_F(ApplicationPreferencesTest, SettersStoreTypedValuesInTheirDatabase)
                                {QStringLiteral("runInBackground"), true},
                                {QStringLiteral("firstStart"), true}};
     EXPECT_EQ(platform.userDefaults.suiteDefaults.values, expected);
-    EXPECT_EQ(platform.userDefaults.suiteDefaults.values[QStringLiteral("autoUpload")].typeId(), QMetaType::Bool);
+    EXPECT_EQ(platform.userDefaults.suiteDefaults.values[QStringLiteral("autoUpload")].typeId(),
+              QMetaType::Bool);
     EXPECT_EQ(platform.userDefaults.standardDefaults.values[QStringLiteral("bundleVersionAtQuit")],
               QStringLiteral("7"));
 }

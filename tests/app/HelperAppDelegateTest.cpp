@@ -13,7 +13,10 @@ namespace {
 
 struct HelperAppDelegateTest : testing::Test, Helper
 {
-    QString versionText() { return interface.statusMenu().rows().at(size_t(interface.outlets().versionItem) - 1).text; }
+    QString versionText()
+    {
+        return interface.statusMenu().rows().at(size_t(interface.outlets().versionItem) - 1).text;
+    }
 };
 
 TEST_F(HelperAppDelegateTest, VersionEntryIsTheLiteralAndTheValue)
@@ -79,9 +82,9 @@ TEST_F(HelperAppDelegateTest, LaunchOrder)
     EXPECT_EQ(record().menu, &interface.statusMenu());
     EXPECT_EQ(interface.macObjectController().content(), &delegate->myMac());
     EXPECT_EQ(delegate->shownView()->name, QStringLiteral("menuView"));
-    EXPECT_EQ(record().titlesSet, QStringList({QStringLiteral("100 %"), QStringLiteral("50.0%"),
-                                               QStringLiteral("50.0%"), QStringLiteral("100 %"),
-                                               QStringLiteral("50.0%"), QStringLiteral("50.0%")}));
+    EXPECT_EQ(record().titlesSet,
+              QStringList({QStringLiteral("100 %"), QStringLiteral("50.0%"), QStringLiteral("50.0%"),
+                           QStringLiteral("100 %"), QStringLiteral("50.0%"), QStringLiteral("50.0%")}));
     ASSERT_EQ(platform.runLoop.timers.size(), 2U);
     EXPECT_EQ(platform.runLoop.timers[0]->interval, 5.0);
     EXPECT_EQ(platform.runLoop.timers[1]->interval, 10.0);
@@ -199,7 +202,8 @@ TEST_F(HelperAppDelegateTest, OpensTheFolderThatHoldsTheMainApplication)
     delegate->openApplication();
     platform.bundle.bundlePath = QStringLiteral("Quindle-Helper.app");
     delegate->openApplication();
-    EXPECT_EQ(platform.workspace.launched, QStringList({QStringLiteral("/a"), QStringLiteral("/"), QString()}));
+    EXPECT_EQ(platform.workspace.launched,
+              QStringList({QStringLiteral("/a"), QStringLiteral("/"), QString()}));
 }
 
 TEST_F(HelperAppDelegateTest, MenuEntriesAct)

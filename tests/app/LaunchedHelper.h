@@ -50,7 +50,10 @@ struct Helper
                               {QStringLiteral("ExternalConnected"), false}};
     }
 
-    void setRegistry(const char* key, const QVariant& value) { platform.battery()[QLatin1String(key)] = value; }
+    void setRegistry(const char* key, const QVariant& value)
+    {
+        platform.battery()[QLatin1String(key)] = value;
+    }
 
     void setShared(const char* key, const QVariant& value)
     {

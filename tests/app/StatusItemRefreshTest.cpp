@@ -79,9 +79,9 @@ TEST_F(StatusItemRefreshTest, IconBands)
         bool adapter;
         const char* icon;
     };
-    constexpr Case cases[] = {{19, false, "#bat04"},      {20, false, "#bat14"},      {39, false, "#bat14"},
-                              {40, false, "#bat24"},      {69, false, "#bat24"},      {70, false, "#bat34"},
-                              {89, false, "#bat34"},      {90, false, "#bat44"},      {79, true, "#bat04Charge"},
+    constexpr Case cases[] = {{19, false, "#bat04"},      {20, false, "#bat14"}, {39, false, "#bat14"},
+                              {40, false, "#bat24"},      {69, false, "#bat24"}, {70, false, "#bat34"},
+                              {89, false, "#bat34"},      {90, false, "#bat44"}, {79, true, "#bat04Charge"},
                               {80, true, "#bat44Charge"}, {0, false, "#bat04"}};
     setBattery(50);
     setShared("showIconsInMenuBar", qint64{1});
