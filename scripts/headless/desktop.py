@@ -18,6 +18,8 @@ MARK = "QUINDLE_DESKTOP_RUN"
 ITEM = "/StatusNotifierItem"
 ITEM_INTERFACE = "org.kde.StatusNotifierItem"
 WATCHER = "org.kde.StatusNotifierWatcher"
+UNSHARE = ["unshare", "--user", "--map-user=1000", "--map-group=1000"]
+NOBODY = 65534
 
 
 def wait_for(condition, seconds=10.0, pause=0.05):
@@ -28,6 +30,11 @@ def wait_for(condition, seconds=10.0, pause=0.05):
         if value or time.monotonic() > end:
             return value
         time.sleep(pause)
+
+
+def may_unshare():
+    return subprocess.run([*UNSHARE, "true"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                          check=False).returncode == 0
 
 
 class Desktop:
@@ -47,10 +54,15 @@ class Desktop:
         self.root = Path(tempfile.mkdtemp(prefix="quindle-desktop-"))
         self.log_path = Path(keep_log) if keep_log else self.root / "log"
         self.is_wayland = host == "waybar"
-        # The compositor refuses to run as root; a user namespace gives it another number for the same account.
+        # The compositor refuses to run as root. A user namespace gives everything another number for the same
+        # account; where that is not allowed (containers), compositor and bar run as nobody.
         self.prefix = []
+        self.compositor_prefix = []
         if self.is_wayland and os.geteuid() == 0:
-            self.prefix = ["unshare", "--user", "--map-user=1000", "--map-group=1000"]
+            if may_unshare():
+                self.prefix = UNSHARE
+            else:
+                self.compositor_prefix = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
         self.env = self._environment()
         self.panel = None
 
@@ -64,6 +76,10 @@ class Desktop:
             folder.mkdir()
             env[key] = str(folder)
         os.chmod(env["XDG_RUNTIME_DIR"], 0o700)
+        if self.compositor_prefix:
+            os.chmod(self.root, 0o755)
+            for name in folders.values():
+                os.chown(self.root / name, NOBODY, NOBODY)
         env.update({MARK: self.id, "LANG": "C.UTF-8", "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1", "GTK_A11Y": "none",
                     "GSETTINGS_BACKEND": "keyfile", "LIBGL_ALWAYS_SOFTWARE": "1", "TZ": "UTC",
                     "XDG_CURRENT_DESKTOP": {"xfce": "XFCE", "lxqt": "LXQt", "waybar": "sway"}.get(self.host, "")})
@@ -137,7 +153,12 @@ class Desktop:
 
     def _start_bus(self):
         read_end, write_end = os.pipe()
-        self.start("dbus-daemon", "--session", "--nofork", f"--print-address={write_end}", pass_fds=(write_end,))
+        config = ["--session"]
+        if self.compositor_prefix:
+            path = self.root / "bus.conf"
+            path.write_text(BUS_OF_TWO_ACCOUNTS.format(folder=self.root))
+            config = [f"--config-file={path}"]
+        self.start("dbus-daemon", *config, "--nofork", f"--print-address={write_end}", pass_fds=(write_end,))
         os.close(write_end)
         with os.fdopen(read_end) as stream:
             self.env["DBUS_SESSION_BUS_ADDRESS"] = stream.readline().strip()
@@ -166,7 +187,7 @@ class Desktop:
                           f"bg {self.background} solid_color\nxwayland disable\ndefault_border none\n")
         self.env.pop("QT_SCALE_FACTOR", None)
         self.env.pop("GDK_SCALE", None)
-        self.start("sway", "-c", config)
+        self.start(*self.compositor_prefix, "sway", "-c", config)
         runtime = Path(self.env["XDG_RUNTIME_DIR"])
         socket = wait_for(lambda: next(runtime.glob("sway-ipc.*.sock"), None))
         display = wait_for(lambda: next((path for path in runtime.glob("wayland-?")), None))
@@ -224,7 +245,7 @@ class Desktop:
         config.write_text(WAYBAR_PANEL % self.panel_height)
         style.write_text("* {font-family: DejaVu Sans; font-size: 13px;} "
                          f"window#waybar {{background: {self._panel_colour()};}}")
-        self.panel = self.start("waybar", "-c", config, "-s", style, env={"GDK_BACKEND": "wayland"})
+        self.panel = self.start(*self.compositor_prefix, "waybar", "-c", config, "-s", style, env={"GDK_BACKEND": "wayland"})
         self._wait_for_watcher()
 
     def _panel_colour(self):
@@ -298,6 +319,16 @@ class Desktop:
             self.call("import", "-silent", "-window", "root", path)
         return Path(path).exists()
 
+
+BUS_OF_TWO_ACCOUNTS = """<busconfig>
+ <type>session</type>
+ <listen>unix:tmpdir={folder}</listen>
+ <auth>EXTERNAL</auth>
+ <policy context="default">
+  <allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/><allow user="*"/>
+ </policy>
+</busconfig>
+"""
 
 XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
