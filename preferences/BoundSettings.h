@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace quindle {
+
+class ApplicationPreferences;
+class Bundle;
+class LoginItems;
+class UserDefaults;
+
+/// The settings as the preferences windows are bound to them: one object for all windows, so that what is
+/// changed in one is shown by the others at once. Nothing is kept here but the login item's switch; every
+/// other read goes to the database. Storing announces nothing to other processes. Main thread only.
+class BoundSettings : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString customStatusBar READ customStatusBar NOTIFY changed)
+    Q_PROPERTY(qint64 temperatureSettingIndex READ temperatureSettingIndex NOTIFY changed)
+    Q_PROPERTY(bool showsIconsInMenuBar READ showsIconsInMenuBar NOTIFY changed)
+    Q_PROPERTY(bool autoUpload READ autoUpload NOTIFY changed)
+    Q_PROPERTY(bool autoUploadBatteryData READ autoUploadBatteryData NOTIFY changed)
+    Q_PROPERTY(bool startsAtLogin READ startsAtLogin NOTIFY changed)
+
+public:
+    BoundSettings(ApplicationPreferences& preferences, UserDefaults& standardDefaults, LoginItems& loginItems,
+                  const Bundle& bundle, QObject* parent = nullptr);
+
+    /// The title template.
+    QString customStatusBar() const;
+    void setCustomStatusBar(const QString& value);
+
+    /// 0 Celsius, 1 Fahrenheit, 2 Kelvin; any other stored number as it is.
+    qint64 temperatureSettingIndex() const;
+    void setTemperatureSettingIndex(qint64 value);
+
+    /// Whether 1 is stored; every other number shows no icon.
+    bool showsIconsInMenuBar() const;
+    void setShowsIconsInMenuBar(bool value);
+
+    /// Permits the daily upload.
+    bool autoUpload() const;
+    void setAutoUpload(bool value);
+
+    /// The own key "autoUploadBatteryData" of the helper's window, which permits nothing; true for any
+    /// integer but 0.
+    bool autoUploadBatteryData() const;
+    void setAutoUploadBatteryData(bool value);
+
+    /// What the login item's list said at the last `reload`, or what was set since: a switch that the system
+    /// did not take stays as the user left it.
+    bool startsAtLogin() const { return m_startsAtLogin; }
+
+    /// Switches the login item that is known by the helper's identifier.
+    void setStartsAtLogin(bool value);
+
+    /// Looks at the login items anew and tells everyone who is bound to look at everything anew.
+    void reload();
+
+Q_SIGNALS:
+    /// Something may be different.
+    void changed();
+
+private:
+    ApplicationPreferences& m_preferences;
+    UserDefaults& m_standardDefaults;
+    LoginItems& m_loginItems;
+    const Bundle& m_bundle;
+    bool m_startsAtLogin = false;
+};
+
+} // namespace quindle

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+
+#include "menubar/TitleTemplate.h"
+
+namespace quindle {
+
+/// What the preferences need of the application delegate. Main thread only.
+class StatusBarTitle
+{
+public:
+    virtual ~StatusBarTitle() = default;
+
+    /// Refreshes the status item now.
+    virtual void updateStatusBarTitle() = 0;
+
+    /// Makes the battery read its own settings again (the unit its temperature is shown in) and refresh.
+    virtual void reloadBattery() = 0;
+
+    /// What the placeholders of a title template stand for at the moment; nothing without a battery.
+    virtual std::optional<TitleValues> titleValues() const = 0;
+};
+
+} // namespace quindle
