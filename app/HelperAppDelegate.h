@@ -12,6 +12,7 @@
 #include "menubar/HueFilter.h"
 #include "menubar/MainInterface.h"
 #include "menubar/NamedImages.h"
+#include "preferences/StatusBarTitle.h"
 
 namespace quindle {
 
@@ -26,7 +27,7 @@ struct Platform;
 
 /// The application delegate: owns the computer's model, the status item and the refresh timer, and refreshes
 /// everything the helper shows in one method, `updateStatusBarTitle`. Main thread only.
-class HelperAppDelegate : public QObject, public StatusMenuActions
+class HelperAppDelegate : public QObject, public StatusMenuActions, public StatusBarTitle
 {
     Q_OBJECT
 
@@ -59,7 +60,12 @@ public:
     static void quiteDueToUpdate(); ///< does nothing; the name is spelled so
 
     /// The refresh: daily gate, font, icon, title, tool tip and menu rows, bar colours.
-    void updateStatusBarTitle();
+    void updateStatusBarTitle() override;
+
+    void reloadBattery() override;
+
+    /// With the temperature in the unit that the title's setting chooses.
+    std::optional<TitleValues> titleValues() const override;
 
     /// Colours both bars; without a battery they stay as they are.
     void setProgressIndicatorColor();
@@ -88,6 +94,7 @@ public:
     void openApplication() override;
 
     void openPreferences() override;
+    void openMenuBarText() override;
 
     QDMac& myMac() const { return *m_myMac; }
     StatusItem& statusItem() const { return *m_statusItem; }
@@ -114,6 +121,7 @@ private:
     void updateIcon(const QDBattery& battery);
     void replaceTemplateImage(const QString& name);
     void showImage(const QString& name);
+    TitleValues titleValuesOf(const QDBattery& battery) const;
     void updateTitle(const QDBattery& battery);
     void updateFacts();
     const std::shared_ptr<HueFilter>& filterFor(BarColour colour) const;

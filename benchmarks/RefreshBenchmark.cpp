@@ -22,7 +22,7 @@
 #include "platform/linux/SupplyDirectory.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
 #include "platform/recorded/RecordedPlatform.h"
-#include "preferences/PreferencesPresenter.h"
+#include "preferences/NoPreferencesWindow.h"
 
 using namespace quindle;
 
@@ -36,11 +36,6 @@ public:
         return std::make_unique<LinuxStatusItem>(QDBusConnection(QStringLiteral("none")),
                                                  StatusItemSurroundings{});
     }
-};
-
-class NoPreferencesWindow : public PreferencesPresenter
-{
-    void showPreferencesWindow() override {}
 };
 
 class VersionedBundle : public Bundle

@@ -7,7 +7,7 @@
 #include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "menubar/MainInterface.h"
-#include "preferences/PreferencesPresenter.h"
+#include "preferences/NoPreferencesWindow.h"
 
 namespace quindle {
 
@@ -30,12 +30,6 @@ public:
     const QDMac& mac() const { return m_delegate.myMac(); }
 
 private:
-    class NoPreferencesWindow : public PreferencesPresenter
-    {
-    public:
-        void showPreferencesWindow() override {}
-    };
-
     Computer& m_computer;
     NoPreferencesWindow m_preferencesWindow;
     ApplicationPreferences m_preferences;

@@ -47,6 +47,7 @@ void MainInterface::addEntries()
     m_statusMenu.addRow({Kind::OpenView, QStringLiteral("Show Battery..."), true, true, {}});
     entry(QStringLiteral("Open Application"), &StatusMenuActions::openApplication);
     entry(QStringLiteral("Preferences..."), &StatusMenuActions::openPreferences);
+    entry(QStringLiteral("Menu Bar Text..."), &StatusMenuActions::openMenuBarText);
     m_versionItem = m_statusMenu.addRow({Kind::Action, QStringLiteral("Version"), true, false, {}});
     entry(QStringLiteral("Quit"), &StatusMenuActions::quitApp);
 }

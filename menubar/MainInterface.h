@@ -38,6 +38,7 @@ public:
 
     virtual void openApplication() = 0;
     virtual void openPreferences() = 0;
+    virtual void openMenuBarText() = 0;
     virtual void quitApp() = 0;
 };
 
@@ -45,7 +46,8 @@ public:
 /// and the object controller. The helper shows it in a window of its own, quindle-inspect only reads it.
 ///
 /// Rows in order: the title and the battery's facts as text (kind Fact), a separator, "Show Battery...", then
-/// the entries "Open Application", "Preferences...", the version entry and "Quit".
+/// the entries "Open Application", "Preferences...", "Menu Bar Text...", the version
+/// entry and "Quit".
 class MainInterface
 {
 public:

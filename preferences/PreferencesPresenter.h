@@ -2,7 +2,7 @@
 
 namespace quindle {
 
-/// Shows the helper's preferences window.
+/// Shows the helper's two windows of settings.
 class PreferencesPresenter
 {
 public:
@@ -10,6 +10,9 @@ public:
 
     /// Shows the window, or brings it to the front when it is there already.
     virtual void showPreferencesWindow() = 0;
+
+    /// The same for the small window with the menu bar's text.
+    virtual void showHelperPreferences() = 0;
 };
 
 } // namespace quindle

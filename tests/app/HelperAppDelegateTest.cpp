@@ -214,7 +214,8 @@ TEST_F(HelperAppDelegateTest, MenuEntriesAct)
             row.chosen();
     EXPECT_EQ(platform.workspace.launched.size(), 1);
     EXPECT_EQ(preferencesWindow.shown, 1);
-    EXPECT_EQ(platform.application.activated, 1);
+    EXPECT_EQ(preferencesWindow.menuBarTextShown, 1);
+    EXPECT_EQ(platform.application.activated, 2);
     EXPECT_EQ(platform.application.terminated, 1);
 }
 

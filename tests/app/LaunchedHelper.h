@@ -14,8 +14,10 @@ namespace quindle {
 struct CountingPreferences : PreferencesPresenter
 {
     int shown = 0;
+    int menuBarTextShown = 0;
 
     void showPreferencesWindow() override { ++shown; }
+    void showHelperPreferences() override { ++menuBarTextShown; }
 };
 
 /// A helper on an invented computer. Fill in `platform` first, then make the delegate and launch it.

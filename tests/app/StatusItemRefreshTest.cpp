@@ -202,6 +202,41 @@ TEST_F(StatusItemRefreshTest, LaunchColoursOverTheFirstGreen)
     EXPECT_EQ(healthFilter(), green());
 }
 
+TEST_F(StatusItemRefreshTest, TellsWhatThePlaceholdersStandFor)
+{
+    setBattery(87);
+    setRegistry("Temperature", qint64{3031});
+    setRegistry("IsCharging", true);
+    launch();
+    const auto values = delegate->titleValues();
+    ASSERT_TRUE(values);
+    EXPECT_EQ(values->temperature, 30.0);
+    EXPECT_EQ(values->stateOfCharge, 87.0);
+    EXPECT_TRUE(values->isCharging);
+    setShared("temperatureSettingIndex", qint64{1});
+    EXPECT_EQ(delegate->titleValues()->temperature, 85.9);
+}
+
+TEST_F(StatusItemRefreshTest, PlaceholdersStandForNothingWithoutABattery)
+{
+    launch();
+    EXPECT_FALSE(delegate->titleValues());
+    delegate->reloadBattery();
+    EXPECT_EQ(title(), QString());
+}
+
+TEST_F(StatusItemRefreshTest, ReloadingTheBatteryTakesItsOwnUnitAnew)
+{
+    setBattery(87);
+    setRegistry("Temperature", qint64{3031});
+    launch();
+    platform.userDefaults.standardDefaults.values[QStringLiteral("QDBatteryTemperatureMode")] = qint64{2};
+    delegate->updateStatusBarTitle();
+    EXPECT_EQ(delegate->myMac().Battery()->property("Temperature"), QStringLiteral("30.0 \u00b0C"));
+    delegate->reloadBattery();
+    EXPECT_EQ(delegate->myMac().Battery()->property("Temperature"), QStringLiteral("303.1 K"));
+}
+
 TEST_F(StatusItemRefreshTest, TemperatureInTheTitleFollowsTheSharedSetting)
 {
     setBattery(50);

@@ -35,6 +35,7 @@ class RecordingActions : public StatusMenuActions
 public:
     void openApplication() override { calls.append(QStringLiteral("application")); }
     void openPreferences() override { calls.append(QStringLiteral("preferences")); }
+    void openMenuBarText() override { calls.append(QStringLiteral("menu bar text")); }
     void quitApp() override { calls.append(QStringLiteral("quit")); }
 
     QStringList calls;
@@ -248,9 +249,10 @@ TEST_F(BatteryPopupTest, EntriesUnderTheView)
     QStringList labels;
     for (const MenuEntry* entry : open()->findChildren<MenuEntry*>())
         labels.append(entry->label() + (entry->isEnabled() ? QString() : QStringLiteral(" (off)")));
-    EXPECT_EQ(labels.join(u'|'), QStringLiteral("Open Application|Preferences...|Version 1&2 (off)|Quit"));
+    EXPECT_EQ(labels.join(u'|'),
+              QStringLiteral("Open Application|Preferences...|Menu Bar Text...|Version 1&2 (off)|Quit"));
     interface.statusMenu().setText(interface.outlets().versionItem, QStringLiteral("Version 3"));
-    EXPECT_EQ(window()->findChildren<MenuEntry*>().at(2)->label(), QStringLiteral("Version 3"));
+    EXPECT_EQ(window()->findChildren<MenuEntry*>().at(3)->label(), QStringLiteral("Version 3"));
 }
 
 TEST_F(BatteryPopupTest, ChoosingClosesAndActs)

@@ -18,6 +18,7 @@ class RecordingActions : public StatusMenuActions
 public:
     void openApplication() override { calls.append(QStringLiteral("application")); }
     void openPreferences() override { calls.append(QStringLiteral("preferences")); }
+    void openMenuBarText() override { calls.append(QStringLiteral("menu bar text")); }
     void quitApp() override { calls.append(QStringLiteral("quit")); }
 
     QStringList calls;
@@ -68,7 +69,7 @@ TEST_F(MainInterfaceTest, EntriesInOrder)
             texts.append(row.text);
     }
     EXPECT_EQ(texts.join(u'|'),
-              QStringLiteral("|Show Battery...|Open Application|Preferences...|Version|Quit"));
+              QStringLiteral("|Show Battery...|Open Application|Preferences...|Menu Bar Text...|Version|Quit"));
 }
 
 TEST_F(MainInterfaceTest, EntriesAskTheApplication)
@@ -80,7 +81,7 @@ TEST_F(MainInterfaceTest, EntriesAskTheApplication)
     interface.setActions(&actions);
     for (int id = 1; id <= last; ++id)
         interface.statusMenu().choose(id);
-    EXPECT_EQ(actions.calls.join(u' '), QStringLiteral("application preferences quit"));
+    EXPECT_EQ(actions.calls.join(u' '), QStringLiteral("application preferences menu bar text quit"));
 }
 
 TEST_F(MainInterfaceTest, FactsOfABattery)

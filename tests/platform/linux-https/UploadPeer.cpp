@@ -17,17 +17,11 @@
 #include "platform/linux/HttpsPost.h"
 #include "platform/linux/LinuxBundle.h"
 #include "platform/recorded/RecordedPlatform.h"
-#include "preferences/PreferencesPresenter.h"
+#include "preferences/NoPreferencesWindow.h"
 
 using namespace quindle;
 
 namespace {
-
-class NoPreferencesWindow : public PreferencesPresenter
-{
-public:
-    void showPreferencesWindow() override {}
-};
 
 /// Ends the program with the first answer.
 class PostingSession : public UrlSession
