@@ -88,6 +88,10 @@ public:
     /// would not send.
     std::optional<DailyUpload> currentDailyUpload() const;
 
+    /// The same for people: where it would go, and the body decoded. Empty when nothing would be sent, for
+    /// want of a host or of a record.
+    QString dailyUploadText() const;
+
     void quitApp() override;
 
     /// Launches the main application: the bundle's path without its last four components.

@@ -1,5 +1,6 @@
 // The delegate's part in the history of snapshots: the saved one, the daily gate and the upload.
 
+#include <QJsonDocument>
 #include <QLoggingCategory>
 
 #include "app/ApplicationPreferences.h"
@@ -76,6 +77,17 @@ std::optional<DailyUpload> HelperAppDelegate::currentDailyUpload() const
     if (!snapshot)
         return std::nullopt;
     return dailyUpload(*snapshot, shortVersion(m_platform.bundle), SerialText::Masked);
+}
+
+QString HelperAppDelegate::dailyUploadText() const
+{
+    const QString host = statisticsHost(m_platform.bundle);
+    const auto upload = currentDailyUpload();
+    if (host.isEmpty() || !upload)
+        return {};
+    const auto body = QJsonDocument::fromJson(QByteArray::fromBase64(upload->body));
+    return QStringLiteral("POST ") + dailyUploadUrl(host) + QStringLiteral("\n\n") +
+           QString::fromUtf8(body.toJson(QJsonDocument::Indented));
 }
 
 void HelperAppDelegate::send(const std::optional<DailyUpload>& upload)

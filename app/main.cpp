@@ -13,9 +13,11 @@
 #include "mac/QDMac.h"
 #include "menubar/BatteryPopup.h"
 #include "menubar/MainInterface.h"
+#include "platform/Bundle.h"
+#include "platform/linux/LinuxInstallationSource.h"
 #include "platform/linux/SingleInstance.h"
 #include "platform/recorded/MachineFile.h"
-#include "preferences/PreferencesWindow.h"
+#include "preferences/PreferencesWindows.h"
 
 using namespace quindle;
 
@@ -38,9 +40,15 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
     const Platform platform = services.platform();
     MainInterface interface;
     BatteryPopup popup(interface, platform.application);
-    PreferencesWindow preferencesWindow;
-    HelperAppDelegate delegate(platform, ApplicationPreferences::sharedInstance(&platform), interface,
-                               preferencesWindow, &QDMac::init);
+    ApplicationPreferences& settings = ApplicationPreferences::sharedInstance(&platform);
+    PreferencesWindows preferences(platform, settings);
+    HelperAppDelegate delegate(platform, settings, interface, preferences, &QDMac::init);
+    preferences.setSources(
+        {.delegate = delegate,
+         .dailyUploadText = [&delegate] { return delegate.dailyUploadText(); },
+         .installationSource = [&platform] { return installationSource(platform.bundle.path()); }});
+    QObject::connect(&delegate, &HelperAppDelegate::statusItemRefreshed, &delegate,
+                     [&preferences] { preferences.refresh(); });
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      &HelperAppDelegate::applicationWillTerminate);
     instance.setShowRequested([&interface] { interface.statusMenu().openView(); });

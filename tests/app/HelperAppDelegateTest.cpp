@@ -1,8 +1,11 @@
 #include "app/HelperAppDelegate.h"
 
+#include <QJsonDocument>
+
 #include <gtest/gtest.h>
 
 #include "battery/QDBattery.h"
+#include "history/DailyUpload.h"
 #include "platform/Image.h"
 #include "tests/app/LaunchedHelper.h"
 #include "tests/support/QtPrinters.h"
@@ -217,6 +220,31 @@ TEST_F(HelperAppDelegateTest, MenuEntriesAct)
     EXPECT_EQ(preferencesWindow.menuBarTextShown, 1);
     EXPECT_EQ(platform.application.activated, 2);
     EXPECT_EQ(platform.application.terminated, 1);
+}
+
+TEST_F(HelperAppDelegateTest, ShowsWhatTheDailyUploadWouldSend)
+{
+    setBattery(50);
+    setRegistry("BatterySerialNumber", QStringLiteral("D86ABCDE"));
+    launch();
+    EXPECT_EQ(delegate->dailyUploadText(), QString()) << "no host";
+    platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
+    const QString text = delegate->dailyUploadText();
+    EXPECT_TRUE(
+        text.startsWith(QStringLiteral("POST https://stats.example/qndonline/upload_mac_db_pro.php\n\n[\n")))
+        << text.toStdString();
+    const auto shown = QJsonDocument::fromJson(text.section(QStringLiteral("\n\n"), 1).toUtf8());
+    const auto upload = delegate->currentDailyUpload();
+    ASSERT_TRUE(upload);
+    EXPECT_EQ(shown.toJson(QJsonDocument::Compact).toBase64(), upload->body);
+    EXPECT_TRUE(platform.urlSession.posted.isEmpty());
+}
+
+TEST_F(HelperAppDelegateTest, WithoutABatteryTheDailyUploadHasNothingToShow)
+{
+    platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
+    launch();
+    EXPECT_EQ(delegate->dailyUploadText(), QString());
 }
 
 TEST_F(HelperAppDelegateTest, EmptyBodiesDoNothing)
