@@ -226,6 +226,8 @@ TEST_F(HelperAppDelegateTest, ShowsWhatTheDailyUploadWouldSend)
 {
     setBattery(50);
     setRegistry("BatterySerialNumber", QStringLiteral("D86ABCDE"));
+    platform.registry.entries[QStringLiteral("IOPlatformExpertDevice")] = {
+        {QStringLiteral("model"), QByteArray("NotListed1,1")}};
     launch();
     EXPECT_EQ(delegate->dailyUploadText(), QString()) << "no host";
     platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
