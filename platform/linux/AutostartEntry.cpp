@@ -46,7 +46,7 @@ bool isInstalled(const DesktopEntry& entry, const QStringList& folders)
 
 QString bundleProgram(const QString& bundlePath)
 {
-    return bundlePath + programInBundle;
+    return bundlePath + programInBundle.toString();
 }
 
 std::optional<QString> urlStartedBy(const QByteArray& entryBytes, const QStringList& programFolders)

@@ -11,7 +11,7 @@ class Lines
 {
 public:
     explicit Lines(QByteArrayView bytes)
-        : m_rest(bytes.startsWith(byteOrderMark) ? bytes.mid(byteOrderMark.size()) : bytes)
+        : m_rest(bytes.startsWith(byteOrderMark) ? bytes.sliced(byteOrderMark.size()) : bytes)
     {
     }
 
@@ -21,7 +21,7 @@ public:
             return std::nullopt;
         const qsizetype end = m_rest.indexOf('\n');
         const QByteArrayView line = end < 0 ? m_rest : m_rest.first(end);
-        m_rest = end < 0 ? QByteArrayView() : m_rest.mid(end + 1);
+        m_rest = end < 0 ? QByteArrayView() : m_rest.sliced(end + 1);
         return line.trimmed();
     }
 
@@ -147,7 +147,7 @@ std::optional<DesktopEntry> desktopEntryFromBytes(const QByteArray& bytes)
         const qsizetype equals = line->indexOf('=');
         if (isInGroup && equals > 0 && !line->startsWith('#'))
             entry->insert(line->first(equals).trimmed().toByteArray(),
-                          line->mid(equals + 1).trimmed().toByteArray());
+                          line->sliced(equals + 1).trimmed().toByteArray());
     }
     return entry;
 }

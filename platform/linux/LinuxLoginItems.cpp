@@ -24,7 +24,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(loginLog, "quindle.loginitems")
 
-constexpr std::chrono::milliseconds patience(1000); // writers hold the lock for milliseconds
+constexpr std::chrono::milliseconds patience(250); // writers hold the lock for milliseconds
 
 constexpr QByteArrayView suffix(".desktop");
 

@@ -16,7 +16,8 @@ namespace quindle {
 ///     struct Maker
 ///     {
 ///         LoginItems& items();
-///         QString helper(); ///< the URL by which the helper's bundle is inserted, without a slash at its end
+///         QString helper(); ///< the URL by which the helper's bundle is inserted, without a slash at its
+///         end
 ///     };
 template <typename Maker>
 class LoginItemsContract : public testing::Test
@@ -29,7 +30,8 @@ protected:
     QStringList urls()
     {
         QStringList urls;
-        for (const LoginItems::Item item : items().snapshot().value())
+        const auto list = items().snapshot();
+        for (const LoginItems::Item item : list.value())
             urls.append(items().resolve(item).value_or(QString()));
         return urls;
     }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/recorded/RecordedPlatform.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 

@@ -43,7 +43,8 @@ public:
     static void addProgram(const QString& path)
     {
         write(path, "#!/bin/sh\n");
-        QFile::setPermissions(path, QFile::permissions(path) | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
+        QFile::setPermissions(path,
+                              QFile::permissions(path) | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
     }
 
     static void write(const QString& path, const QByteArray& bytes)
@@ -56,7 +57,8 @@ public:
 
     void addEntry(const char* name, const QByteArray& lines) const
     {
-        write(entries() + u'/' + QLatin1String(name), "[Desktop Entry]\nType=Application\nName=x\n" + lines + '\n');
+        write(entries() + u'/' + QLatin1String(name),
+              "[Desktop Entry]\nType=Application\nName=x\n" + lines + '\n');
     }
 
     QByteArray entry(const char* name) const
@@ -67,8 +69,8 @@ public:
 
     QStringList entryNames() const
     {
-        return QDir(entries()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                                         QDir::Name);
+        return QDir(entries()).entryList(
+            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
     }
 
 private:

@@ -49,8 +49,8 @@ TEST(DesktopEntry, Values)
     for (const Value& value : entries) {
         const auto entry = desktopEntryFromBytes(value.bytes);
         EXPECT_EQ(entry.has_value(), value.exec.has_value()) << value.name;
-        if (entry && value.exec)
-            EXPECT_EQ(entry->value("Exec"), *value.exec) << value.name;
+        EXPECT_EQ(entry.value_or(DesktopEntry()).value("Exec"), value.exec.value_or(QByteArray()))
+            << value.name;
     }
 }
 
@@ -64,7 +64,8 @@ TEST(DesktopEntry, TranslationsAreKeysOfTheirOwn)
 
 TEST(DesktopEntry, Booleans)
 {
-    const auto entry = desktopEntryFromBytes("[Desktop Entry]\nA=true\nB=True\nC=1\nD=false\nE=0\nF=yes\nG=\n");
+    const auto entry =
+        desktopEntryFromBytes("[Desktop Entry]\nA=true\nB=True\nC=1\nD=false\nE=0\nF=yes\nG=\n");
     ASSERT_TRUE(entry);
     for (const char* key : {"A", "B", "C"})
         EXPECT_TRUE(isTrue(*entry, key)) << key;
@@ -92,9 +93,9 @@ const Command commands[] = {
     {R"("/usr/lib/Quindle Helper/x" --y)", {{"/usr/lib/Quindle Helper/x", "--y"}}},
     {R"("a" "" b)", {{"a", "", "b"}}},
     {R"("a"b"c d")", {{"abc d"}}},
-    {R"("a\\"b")", {{R"(a"b)"}}},               // the value's own escape first, then the quotes'
+    {R"("a\\"b")", {{R"(a"b)"}}},                // the value's own escape first, then the quotes'
     {R"("\\$a \\`b \\\\c")", {{R"($a `b \c)"}}}, // likewise
-    {R"("a\\b")", {{R"(a\b)"}}},                // not one of the four
+    {R"("a\\b")", {{R"(a\b)"}}},                 // not one of the four
     {R"(a\\ b)", {{"a b"}}},
     {R"(a\sb)", {{"a", "b"}}},
     {"a 'b c'", {{"a", "'b", "c'"}}},
@@ -125,7 +126,8 @@ TEST(DesktopEntry, WrittenCommandsAreReadAgain)
 {
     for (const QByteArray& program :
          {QByteArray("/bin/a"), QByteArray("/opt/Quindle Helper/a"), QByteArray("/a\"b`c$d\\e"),
-          QByteArray("/5%f%%"), QByteArray("/a\nb\tc\rd"), QByteArray("/\xc3\xa4\xff"), QByteArray("/a\\sb'c")}) {
+          QByteArray("/5%f%%"), QByteArray("/a\nb\tc\rd"), QByteArray("/\xc3\xa4\xff"),
+          QByteArray("/a\\sb'c")}) {
         const QByteArray written = execValue(program);
         EXPECT_EQ(execArguments(written), QList<QByteArray>{program}) << written.toStdString();
         EXPECT_FALSE(written.contains('\n'));
@@ -136,14 +138,14 @@ TEST(DesktopEntry, WrittenCommandsAreReadAgain)
 
 TEST(DesktopEntry, MuchGarbageTakesLittleTime)
 {
-    QByteArray garbage(10'000'000, '=');
+    QByteArray garbage(2'000'000, '=');
     for (qsizetype at = 0; at < garbage.size(); at += 3)
         garbage[at] = "\n[\"\\\0%x"[at % 7];
     const auto start = std::chrono::steady_clock::now();
     desktopEntryFromBytes("[Desktop Entry]\n" + garbage);
-    desktopEntryFromBytes("[Desktop Entry]\nExec=" + QByteArray(10'000'000, 'x'));
-    execArguments(QByteArray(10'000'000, 'x'));
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    desktopEntryFromBytes("[Desktop Entry]\nExec=" + QByteArray(2'000'000, 'x'));
+    execArguments(QByteArray(2'000'000, 'x'));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
 } // namespace

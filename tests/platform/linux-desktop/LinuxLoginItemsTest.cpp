@@ -76,7 +76,8 @@ protected:
     QStringList urls()
     {
         QStringList urls;
-        for (const LoginItems::Item item : items.snapshot().value())
+        const auto list = items.snapshot();
+        for (const LoginItems::Item item : list.value())
             urls.append(items.resolve(item).value_or(QString()));
         return urls;
     }
@@ -135,9 +136,13 @@ TEST_F(LinuxLoginItemsTest, OnlyEntriesCount)
 
 TEST_F(LinuxLoginItemsTest, EntriesOfOthersStayByteForByte)
 {
-    const QList<QByteArray> contents{
-        "Exec=other\nHidden=true\r\n", "Exec=", "Exec=\"broken", QByteArray("Exec=\0\xff", 7),
-        QByteArray(1'000'000, 'x'),    "# no\n", "Exec=quindle-helper\nHidden=true"};
+    const QList<QByteArray> contents{"Exec=other\nHidden=true\r\n",
+                                     "Exec=",
+                                     "Exec=\"broken",
+                                     QByteArray("Exec=\0\xff", 7),
+                                     QByteArray(1'000'000, 'x'),
+                                     "# no\n",
+                                     "Exec=quindle-helper\nHidden=true"};
     for (qsizetype index = 0; index < contents.size(); ++index)
         folder.addEntry(("other" + QByteArray::number(index) + ".desktop").constData(), contents[index]);
     AutostartFolder::write(folder.entries() + QStringLiteral("/empty.desktop"), {});
@@ -161,7 +166,8 @@ TEST_F(LinuxLoginItemsTest, EntriesOfOthersStayByteForByte)
 TEST_F(LinuxLoginItemsTest, WhatCannotBeReadIsPassedOver)
 {
     QDir().mkpath(folder.entries() + QStringLiteral("/folder.desktop"));
-    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.entries() + QStringLiteral("/pipe.desktop")).constData(), 0600), 0);
+    ASSERT_EQ(
+        ::mkfifo(QFile::encodeName(folder.entries() + QStringLiteral("/pipe.desktop")).constData(), 0600), 0);
     QFile::link(QStringLiteral("/nonexistent"), folder.entries() + QStringLiteral("/dangling.desktop"));
     QFile::link(QStringLiteral("round.desktop"), folder.entries() + QStringLiteral("/round.desktop"));
     QFile::link(QStringLiteral("/dev/zero"), folder.entries() + QStringLiteral("/device.desktop"));
@@ -302,7 +308,8 @@ TEST_F(LinuxLoginItemsTest, AFullDiskLeavesWhatIsThere)
 
 TEST_F(LinuxLoginItemsTest, WhatAKilledWriterLeftIsCleared)
 {
-    AutostartFolder::write(folder.entries() + u"/." + QLatin1String(own) + QStringLiteral(".new-abcdef"), "x");
+    AutostartFolder::write(
+        folder.entries() + QStringLiteral("/.") + QLatin1String(own) + QStringLiteral(".new-abcdef"), "x");
     launchOnLogin(true);
     EXPECT_EQ(folder.entryNames(), QStringList(QLatin1String(own)));
 }

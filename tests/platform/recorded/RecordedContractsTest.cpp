@@ -61,7 +61,8 @@ public:
 private:
     NoBundle m_bundle;
     RecordedPlatform m_platform{
-        {{QStringLiteral("LoginItems"), QVariantList{QStringLiteral("file:///a"), QStringLiteral("file:///b")}},
+        {{QStringLiteral("LoginItems"),
+          QVariantList{QStringLiteral("file:///a"), QStringLiteral("file:///b")}},
          {QStringLiteral("Bundle"),
           QVariantMap{{QStringLiteral("Path"), QStringLiteral("/opt/Quindle Helper/Quindle-Helper.app")}}}},
         m_bundle};
