@@ -48,7 +48,8 @@ class Login(HelperCase):
         self.assertEqual(self.desktop.process_of(self.desktop.item_name()), self.helpers()[0])
 
     def log_in_with_dex(self):
-        self.desktop.call("dex", "-a", "-e", "XFCE", env=self.session)
+        # What it starts keeps its output open, so that is not waited for.
+        self.assertEqual(self.desktop.start("dex", "-a", "-e", "XFCE", env=self.session).wait(20), 0)
 
     def log_in_with_lxqt(self):
         folder = Path(self.desktop.env["XDG_CONFIG_HOME"]) / "lxqt"
