@@ -147,7 +147,7 @@ QString LinuxLoginItems::pathOf(const QByteArray& entryName) const
 /// A file as long as none of these is, is not read to its end, and so not understood.
 std::optional<QString> LinuxLoginItems::urlOf(const QByteArray& entryName) const
 {
-    constexpr qsizetype limit = 60 * 1024;
+    constexpr qsizetype limit = qsizetype(60) * 1024;
     if (entryName.isEmpty())
         return std::nullopt;
     const auto bytes = readSmallFile(pathOf(entryName));
