@@ -100,7 +100,8 @@ private:
                 .statusBar = hasRealItem ? m_statusBar : recorded,
                 .application = m_others.application,
                 .urlSession = m_others.urlSession,
-                .userDirectories = m_others.userDirectories};
+                .userDirectories = m_others.userDirectories,
+                .loginItems = m_others.loginItems};
     }
 
     std::chrono::milliseconds m_now{0};

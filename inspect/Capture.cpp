@@ -9,11 +9,14 @@
 #include "inspect/SettingsDatabases.h"
 #include "mac/QDMac.h"
 #include "platform/Bundle.h"
+#include "platform/FileUrl.h"
+#include "platform/HelperBundle.h"
 #include "platform/Host.h"
 #include "platform/IORegistry.h"
 #include "platform/Platform.h"
 #include "platform/PowerSources.h"
 #include "platform/UserDefaults.h"
+#include "preferences/StartupLaunch_pref.h"
 
 namespace quindle {
 
@@ -83,6 +86,12 @@ QVariantMap capturedBundle(const Bundle& bundle)
     if (const auto info = bundle.infoDictionary())
         captured.insert(QStringLiteral("Info"), withoutServiceHosts(*info));
     return captured;
+}
+
+/// Only the helper's own item: what else the user starts is no part of a battery's record.
+QVariantList helperLoginItem(const QVariantMap& bundle)
+{
+    return {fileUrl(helperBundlePath(bundle.value(QStringLiteral("Path")).toString()))};
 }
 
 bool isSuiteUnavailable(UserDefaultsDatabases& userDefaults)
@@ -158,6 +167,9 @@ QVariantMap capturedKeys(const Platform& platform)
         {QStringLiteral("Now"), platform.clock.now()},
     };
     addPowerSources(keys, platform.powerSources);
+    if (StartupLaunch_pref::isAppLoginItem(platform.loginItems, platform.bundle.path()))
+        keys.insert(QStringLiteral("LoginItems"),
+                    helperLoginItem(keys.value(QStringLiteral("Bundle")).toMap()));
     if (isSuiteUnavailable(platform.userDefaults))
         keys.insert(QStringLiteral("SuiteUnavailable"), true);
     return keys;
@@ -172,6 +184,9 @@ QVariantMap withoutIdentity(const QVariantMap& keys)
     };
     edit(QStringLiteral("Defaults"), withoutModelCache);
     edit(QStringLiteral("Bundle"), withoutHomeFolder);
+    if (clean.contains(QStringLiteral("LoginItems")))
+        clean.insert(QStringLiteral("LoginItems"),
+                     helperLoginItem(clean.value(QStringLiteral("Bundle")).toMap()));
     clean.insert(QStringLiteral("HostName"), QStringLiteral("Computer"));
     const std::vector<SerialPair> serials = inventedSerials(keys.value(QStringLiteral("Registry")).toMap());
     for (QVariant& value : clean) // the format's own keys stay, whatever the serials are

@@ -41,7 +41,7 @@ QVariantMap Inspection::takeState()
     RecentEvents recent = m_computer.takeEvents();
     recent.refreshes = std::exchange(m_refreshes, 0);
     recent.uploadsStarted = std::exchange(m_uploadsStarted, 0);
-    const InspectedHelper helper{m_delegate, m_interface, m_preferences, m_computer.platform().userDefaults};
+    const InspectedHelper helper{m_delegate, m_interface, m_preferences, m_computer.platform()};
     return stateOfHelper(helper, recent);
 }
 

@@ -8,8 +8,11 @@
 #include "history/DailyUpload.h"
 #include "inspect/SettingsDatabases.h"
 #include "mac/QDMac.h"
+#include "platform/Bundle.h"
 #include "platform/Image.h"
+#include "platform/Platform.h"
 #include "platform/StatusBar.h"
+#include "preferences/StartupLaunch_pref.h"
 
 namespace quindle {
 
@@ -182,7 +185,9 @@ QVariantMap stateOfHelper(const InspectedHelper& helper, const RecentEvents& rec
         {QStringLiteral("snapshot"), snapshotState(helper.delegate.myMac())},
         {QStringLiteral("upload"), uploadState(helper.delegate)},
         {QStringLiteral("uploadsStarted"), recent.uploadsStarted},
-        {QStringLiteral("defaults"), settingsDatabases(helper.userDefaults)},
+        {QStringLiteral("isAppLoginItem"),
+         StartupLaunch_pref::isAppLoginItem(helper.platform.loginItems, helper.platform.bundle.path())},
+        {QStringLiteral("defaults"), settingsDatabases(helper.platform.userDefaults)},
     };
 }
 

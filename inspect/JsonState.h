@@ -8,7 +8,7 @@ namespace quindle {
 class ApplicationPreferences;
 class HelperAppDelegate;
 class MainInterface;
-class UserDefaultsDatabases;
+struct Platform;
 
 /// What happened since the state before, which the objects themselves do not keep.
 struct RecentEvents
@@ -26,7 +26,7 @@ struct InspectedHelper
     HelperAppDelegate& delegate;
     MainInterface& interface;
     const ApplicationPreferences& preferences;
-    UserDefaultsDatabases& userDefaults;
+    const Platform& platform;
 };
 
 /// Everything the helper knows and shows at this moment, by the keys of the JSON object. Values are read

@@ -87,6 +87,10 @@ Group statusItemGroup(const QVariantMap& state)
         group.rows.push_back({QStringLiteral("Charge bar"), bars.text("stateOfCharge")});
         group.rows.push_back({QStringLiteral("Health bar"), bars.text("stateOfHealth")});
     }
+    const QVariant isLoginItem = state.value(QStringLiteral("isAppLoginItem"));
+    if (isLoginItem.isValid())
+        group.rows.push_back({QStringLiteral("Starts at login"),
+                              isLoginItem.toBool() ? QStringLiteral("yes") : QStringLiteral("no")});
     return group;
 }
 

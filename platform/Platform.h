@@ -8,6 +8,7 @@ class Clock;
 class DistributedNotificationCenter;
 class Host;
 class IORegistry;
+class LoginItems;
 class NotificationCenter;
 class PowerSources;
 class RunLoop;
@@ -39,6 +40,7 @@ struct Platform
     Application& application;
     UrlSession& urlSession;
     UserDirectories& userDirectories;
+    LoginItems& loginItems;
 };
 
 } // namespace quindle

@@ -3,33 +3,25 @@
 #include <optional>
 
 #include <QString>
-#include <QUrl>
 
+#include "platform/FileUrl.h"
+#include "platform/HelperBundle.h"
 #include "platform/LoginItems.h"
 
 namespace quindle {
 
 namespace {
 
-QString helperBundle(const QString& bundlePath, const QString& nestedBundle)
-{
-    return bundlePath.contains(QStringLiteral("Quindle-Helper")) ? bundlePath : bundlePath + nestedBundle;
-}
-
-QString fileUrl(const QString& path)
-{
-    return QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
-}
-
-/// Items are compared with a trailing slash in the nested bundle's path, and are inserted without.
-QString searchLocation(const QString& bundlePath)
-{
-    return fileUrl(helperBundle(bundlePath, QStringLiteral("/Contents/Resources/Quindle-Helper.app/")));
-}
-
 QString insertLocation(const QString& bundlePath)
 {
-    return fileUrl(helperBundle(bundlePath, QStringLiteral("/Contents/Resources/Quindle-Helper.app")));
+    return fileUrl(helperBundlePath(bundlePath));
+}
+
+/// What is inserted has no slash at its end, what is searched for has one: an item resolves to the bundle's
+/// folder. Items are brought to the same form, because a list may hold either.
+QString searchLocation(const QString& bundlePath)
+{
+    return normalFileUrl(insertLocation(bundlePath));
 }
 
 std::optional<LoginItems::Item> helperItem(LoginItems& items, const QString& bundlePath)
@@ -38,9 +30,11 @@ std::optional<LoginItems::Item> helperItem(LoginItems& items, const QString& bun
     if (!snapshot)
         return std::nullopt;
     const QString wanted = searchLocation(bundlePath);
-    for (const LoginItems::Item item : *snapshot)
-        if (items.resolve(item) == wanted)
+    for (const LoginItems::Item item : *snapshot) {
+        const auto url = items.resolve(item);
+        if (url && normalFileUrl(*url) == wanted)
             return item;
+    }
     return std::nullopt;
 }
 

@@ -6,7 +6,7 @@ runtime_packages="libqt6svg6 fonts-dejavu-core qt6-wayland"
 desktop_packages="python3 xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme fonts-noto-core imagemagick x11-utils
     x11-xserver-utils xdotool libglib2.0-bin"
 test_packages="libgtest-dev libgmock-dev python3 python3-dbus python3-gi python3-dbusmock waybar sway grim
-    xcompmgr hsetroot"
+    xcompmgr hsetroot dex lxqt-session"
 fuzz_packages="clang"
 
 is_installed() {

@@ -1,10 +1,13 @@
 # Settings, the main loop, notifications, and what one process of a session says to another.
 target_sources(quindle_platform_linux PRIVATE
+    AutostartEntry.cpp
     BusLink.cpp
     BusLink.h
+    DesktopEntry.cpp
     FileLock.cpp
     FileReplacement.cpp
     LinuxApplication.cpp
+    LinuxLoginItems.cpp
     LinuxNotifications.cpp
     LinuxNotifications.h
     LinuxRunLoop.cpp

@@ -1,24 +1,30 @@
 #include "platform/recorded/RecordedLoginItems.h"
 
-#include <numeric>
+#include <algorithm>
 
+#include "platform/Bundle.h"
+#include "platform/FileUrl.h"
+#include "platform/HelperBundle.h"
 #include "platform/recorded/RecordedComputer.h"
 
 namespace quindle {
 
 std::optional<std::vector<LoginItems::Item>> RecordedLoginItems::snapshot()
 {
-    m_snapshot = m_computer.loginItems();
-    std::vector<Item> items(static_cast<std::size_t>(m_snapshot.size()));
-    std::iota(items.begin(), items.end(), 0);
+    std::vector<Item> items;
+    for (const QString& url : m_computer.loginItems()) {
+        if (!m_known.contains(url))
+            m_known.append(url);
+        items.push_back(static_cast<Item>(m_known.indexOf(url)));
+    }
     return items;
 }
 
 std::optional<QString> RecordedLoginItems::resolve(Item item)
 {
-    if (item < 0 || item >= m_snapshot.size())
+    if (item < 0 || item >= m_known.size())
         return std::nullopt;
-    return m_snapshot[item];
+    return normalFileUrl(m_known[item]);
 }
 
 void RecordedLoginItems::insertBeforeFirst(const QString& fileUrl)
@@ -28,15 +34,27 @@ void RecordedLoginItems::insertBeforeFirst(const QString& fileUrl)
 
 void RecordedLoginItems::remove(Item item)
 {
-    const std::optional<QString> url = resolve(item);
     QStringList items = m_computer.loginItems();
-    if (url && items.removeOne(*url))
+    if (item >= 0 && item < m_known.size() && items.removeOne(m_known[item]))
         m_computer.setLoginItems(items);
 }
 
 void RecordedLoginItems::setEnabled(const QString& identifier, bool enabled)
 {
     m_enabled[identifier] = enabled;
+    const QString helper = fileUrl(helperBundlePath(m_bundle.path()));
+    const auto startsHelper = [wanted = normalFileUrl(helper)](const QString& url) {
+        return normalFileUrl(url) == wanted;
+    };
+    QStringList items = m_computer.loginItems();
+    const bool isThere = std::any_of(items.cbegin(), items.cend(), startsHelper);
+    if (isThere == enabled)
+        return;
+    if (enabled)
+        items.prepend(helper);
+    else
+        items.removeIf(startsHelper);
+    m_computer.setLoginItems(items);
 }
 
 std::optional<bool> RecordedLoginItems::isEnabled(const QString& identifier) const

@@ -8,14 +8,17 @@
 
 namespace quindle {
 
+class Bundle;
 class RecordedComputer;
 
 /// The login items of a recorded computer; changes stay in memory.
 class RecordedLoginItems : public LoginItems
 {
 public:
-    explicit RecordedLoginItems(RecordedComputer& computer)
+    /// `bundle` is the recorded computer's running one.
+    RecordedLoginItems(RecordedComputer& computer, const Bundle& bundle)
         : m_computer(computer)
+        , m_bundle(bundle)
     {
     }
 
@@ -30,7 +33,8 @@ public:
 
 private:
     RecordedComputer& m_computer;
-    QStringList m_snapshot;
+    const Bundle& m_bundle;
+    QStringList m_known; ///< the items' texts as far as they were seen; an item is a place in it
     std::map<QString, bool> m_enabled;
 };
 

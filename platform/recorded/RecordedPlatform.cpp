@@ -11,7 +11,7 @@ RecordedPlatform::RecordedPlatform(const QVariantMap& machineKeys, const Bundle&
     , clock(computer)
     , host(computer)
     , systemFiles(computer)
-    , loginItems(computer)
+    , loginItems(computer, bundle)
     , urlSession(computer)
     , userDirectories(computer)
 {
@@ -36,6 +36,7 @@ Platform RecordedPlatform::platform()
         .application = application,
         .urlSession = urlSession,
         .userDirectories = userDirectories,
+        .loginItems = loginItems,
     };
 }
 

@@ -71,15 +71,17 @@ TEST(TextReport, SaysThatThereIsNoBattery)
         {"statusItem", map({{"title", text("")}, {"image", text("AppIconBW")}})},
         {"battery", QVariant()},
         {"mac", map({{"Name", text("Tower")}})},
+        {"isAppLoginItem", true},
     });
     EXPECT_EQ(reportText(state).toStdString(), "Status item\n"
-                                               "  Icon  AppIconBW\n"
+                                               "  Icon             AppIconBW\n"
+                                               "  Starts at login  yes\n"
                                                "\n"
                                                "Battery\n"
-                                               "  None  this computer has no battery\n"
+                                               "  None             this computer has no battery\n"
                                                "\n"
                                                "Computer\n"
-                                               "  Name  Tower\n");
+                                               "  Name             Tower\n");
 }
 
 TEST(TextReport, KeepsControlCharactersFromTheTerminal)

@@ -89,7 +89,7 @@ class CommandLine(unittest.TestCase):
         line = self.run_program("--json", "--machine", self.machine).stdout.splitlines()[0]
         self.assertEqual(set(json.loads(line)),
                          {"battery", "mac", "settings", "statusItem", "bars", "app", "defaults", "savedRecords",
-                          "snapshot", "upload", "uploadsStarted"})
+                          "snapshot", "upload", "uploadsStarted", "isAppLoginItem"})
 
     def test_report(self):
         result = self.run_program("--machine", self.machine)
@@ -191,6 +191,25 @@ class CommandLine(unittest.TestCase):
         result = self.run_program("--json", "--sysfs", self.folder)
         self.assertEqual(result.returncode, 0)
         self.assertEqual(sorted(os.listdir(settings)), names)
+
+    def test_own_login_item_is_seen_and_captured_and_no_other(self):
+        bundle = os.path.dirname(os.path.dirname(os.path.dirname(os.path.realpath(PROGRAM))))
+        autostart = os.path.join(self.folder, "autostart")
+        os.mkdir(autostart)
+        for name, program in (("a", f'"{bundle}/Contents/Linux/quindle-helper"'), ("b", "/bin/sh")):
+            with open(os.path.join(autostart, name + ".desktop"), "w", encoding="utf-8") as file:
+                file.write(f"[Desktop Entry]\nType=Application\nName=x\nExec={program}\n")
+        seen = json.loads(self.run_program("--json", "--sysfs", self.folder).stdout)["isAppLoginItem"]
+        target = self.path("capture.plist")
+        self.run_program("--sysfs", self.folder, "--capture", target)
+        with open(target, "rb") as file:
+            items = plistlib.load(file)["LoginItems"]
+        again = json.loads(self.run_program("--json", "--machine", target).stdout)["isAppLoginItem"]
+        os.remove(os.path.join(autostart, "a.desktop"))
+        gone = json.loads(self.run_program("--json", "--sysfs", self.folder).stdout)["isAppLoginItem"]
+        self.assertEqual((seen, again, gone), (True, True, False))
+        self.assertEqual(len(items), 1)
+        self.assertEqual(os.listdir(autostart), ["b.desktop"])
 
     def test_capture_that_cannot_be_written(self):
         result = self.run_program("--machine", self.machine, "--capture", "/nonexistent/folder/x")

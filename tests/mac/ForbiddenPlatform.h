@@ -149,6 +149,18 @@ class ForbiddenPlatform
         }
     };
 
+    struct Login : LoginItems
+    {
+        std::optional<std::vector<Item>> snapshot() override
+        {
+            return refuse<std::vector<Item>>("login items");
+        }
+        std::optional<QString> resolve(Item) override { return refuse<QString>("resolve"); }
+        void insertBeforeFirst(const QString&) override { refuse("insert"); }
+        void remove(Item) override { refuse("remove"); }
+        void setEnabled(const QString&, bool) override { refuse("enable"); }
+    };
+
     Registry m_registry;
     Sources m_powerSources;
     Databases m_userDefaults;
@@ -164,6 +176,7 @@ class ForbiddenPlatform
     Program m_application;
     Network m_urlSession;
     Folders m_userDirectories;
+    Login m_loginItems;
 
 public:
     FakeClock clock;
@@ -182,7 +195,8 @@ public:
                       .statusBar = m_statusBar,
                       .application = m_application,
                       .urlSession = m_urlSession,
-                      .userDirectories = m_userDirectories};
+                      .userDirectories = m_userDirectories,
+                      .loginItems = m_loginItems};
 };
 
 } // namespace quindle

@@ -1,6 +1,7 @@
 #include "tests/support/FakePlatform.h"
 
 #include <cmath>
+#include <numeric>
 #include <utility>
 
 namespace quindle {
@@ -153,6 +154,27 @@ std::optional<QByteArray> FakeUrlSession::contents(const QString& url)
     if (answer == answers.end())
         return std::nullopt;
     return answer->second;
+}
+
+std::optional<std::vector<LoginItems::Item>> FakeLoginItems::snapshot()
+{
+    if (!urls || snapshotsLeft-- <= 0)
+        return std::nullopt;
+    std::vector<Item> items(static_cast<std::size_t>(urls->size()));
+    std::iota(items.begin(), items.end(), 0);
+    return items;
+}
+
+std::optional<QString> FakeLoginItems::resolve(Item item)
+{
+    const QString url = urls->value(item);
+    return url.isEmpty() ? std::nullopt : std::optional(url);
+}
+
+void FakeLoginItems::setEnabled(const QString& identifier, bool isEnabled)
+{
+    enabled[identifier] = isEnabled;
+    switched.emplace_back(identifier, isEnabled);
 }
 
 void FakeDistributedNotificationCenter::addObserver(const QString& name,

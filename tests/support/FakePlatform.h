@@ -16,6 +16,7 @@
 #include "platform/Bundle.h"
 #include "platform/Host.h"
 #include "platform/IORegistry.h"
+#include "platform/LoginItems.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
 #include "platform/PowerSources.h"
@@ -244,6 +245,23 @@ public:
     QStringList applicationSupportDirectories() const override { return applicationSupport; }
 };
 
+/// The texts as they were put in, each the item of its place; `urls` is nothing where the list cannot be had,
+/// and an empty text cannot be resolved.
+class FakeLoginItems : public LoginItems
+{
+public:
+    std::optional<QStringList> urls{std::in_place};
+    int snapshotsLeft = 1000; ///< the list is gone after so many
+    std::map<QString, bool> enabled;
+    std::vector<std::pair<QString, bool>> switched; ///< every call of setEnabled, in order
+
+    std::optional<std::vector<Item>> snapshot() override;
+    std::optional<QString> resolve(Item item) override;
+    void insertBeforeFirst(const QString& fileUrl) override { urls->prepend(fileUrl); }
+    void remove(Item item) override { urls->removeAt(item); }
+    void setEnabled(const QString& identifier, bool isEnabled) override;
+};
+
 /// Delivers to this process alone, at once.
 class FakeDistributedNotificationCenter : public DistributedNotificationCenter
 {
@@ -288,6 +306,7 @@ struct FakePlatform
     FakeApplication application;
     FakeUrlSession urlSession;
     FakeUserDirectories userDirectories;
+    FakeLoginItems loginItems;
 
     Platform platform{registry,
                       powerSources,
@@ -304,7 +323,8 @@ struct FakePlatform
                       statusBar,
                       application,
                       urlSession,
-                      userDirectories};
+                      userDirectories,
+                      loginItems};
 
     FakePlatform() = default;
     FakePlatform(const FakePlatform&) = delete;

@@ -65,7 +65,8 @@ Platform withSession(const Platform& platform, UrlSession& session)
             .statusBar = platform.statusBar,
             .application = platform.application,
             .urlSession = session,
-            .userDirectories = platform.userDirectories};
+            .userDirectories = platform.userDirectories,
+            .loginItems = platform.loginItems};
 }
 
 } // namespace

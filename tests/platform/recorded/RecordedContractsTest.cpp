@@ -1,6 +1,7 @@
 #include "platform/Bundle.h"
 #include "platform/recorded/RecordedPlatform.h"
 #include "tests/platform/IORegistryContract.h"
+#include "tests/platform/LoginItemsContract.h"
 #include "tests/platform/UserDefaultsContract.h"
 
 namespace quindle {
@@ -51,6 +52,23 @@ private:
     RecordedPlatform m_platform{{{QStringLiteral("PowerSources"), QVariantList()}}, m_bundle};
 };
 
+class RecordedItems
+{
+public:
+    LoginItems& items() { return m_platform.loginItems; }
+    QString helper() { return QStringLiteral("file:///opt/Quindle%20Helper/Quindle-Helper.app"); }
+
+private:
+    NoBundle m_bundle;
+    RecordedPlatform m_platform{
+        {{QStringLiteral("LoginItems"),
+          QVariantList{QStringLiteral("file:///a"), QStringLiteral("file:///b")}},
+         {QStringLiteral("Bundle"),
+          QVariantMap{{QStringLiteral("Path"), QStringLiteral("/opt/Quindle Helper/Quindle-Helper.app")}}}},
+        m_bundle};
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, LoginItemsContract, RecordedItems);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, UserDefaultsContract, RecordedDatabases);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, IORegistryContract, RecordedBatteries);
 

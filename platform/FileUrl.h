@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+/// The file URL of an absolute path, percent-encoded ("file:///opt/Quindle%20Helper").
+QString fileUrl(const QString& path);
+
+/// The one form in which file URLs of the same place are equal text: percent-encoded, no host, a bundle
+/// ("….app") with one slash at its end because it is a folder, anything else with none. Text that is no file
+/// URL stays as it is.
+QString normalFileUrl(const QString& url);
+
+} // namespace quindle
