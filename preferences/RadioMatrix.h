@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QButtonGroup>
+#include <QStringList>
+#include <QWidget>
+
+namespace quindle {
+
+/// Radio buttons in a row, one per cell; a cell's tag is its place, counted from 0.
+class RadioMatrix : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QStringList cells READ cells WRITE setCells)
+    Q_PROPERTY(qint64 selectedTag READ selectedTag WRITE setSelectedTag USER true)
+
+public:
+    explicit RadioMatrix(QWidget* parent = nullptr);
+
+    /// The labels, with their mnemonics.
+    QStringList cells() const;
+    void setCells(const QStringList& labels);
+
+    /// The tag of the selected cell; -1 when none is. A tag that no cell has selects none.
+    qint64 selectedTag() const { return m_group.checkedId(); }
+    void setSelectedTag(qint64 tag);
+
+Q_SIGNALS:
+    /// The user has selected a cell.
+    void clicked();
+
+private:
+    void updateFocusProxy();
+
+    QButtonGroup m_group;
+};
+
+} // namespace quindle
