@@ -10,8 +10,8 @@ namespace quindle {
 class StatusBarTitle;
 
 /// The placeholders of the title template in a popup: what each stands for and what it gives at the moment.
-/// Choosing one (click, Enter or Space) inserts it at the cursor of `target` and leaves the popup open for the
-/// next one. All that is passed in must outlive it.
+/// Choosing one (click, Enter or Space) inserts it at the cursor of `target` and leaves the popup open for
+/// the next one. All that is passed in must outlive it.
 class ParameterPopover : public QFrame
 {
     Q_OBJECT

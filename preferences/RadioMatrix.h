@@ -29,8 +29,6 @@ Q_SIGNALS:
     void clicked();
 
 private:
-    void updateFocusProxy();
-
     QButtonGroup m_group;
 };
 

@@ -10,7 +10,8 @@ class ElidedLabel;
 class QuietLabel;
 class StatusBarTitle;
 
-/// The line under a template's field: the title that the text in the field gives at the moment, stored or not.
+/// The line under a template's field: the title that the text in the field gives at the moment, stored or
+/// not.
 class TitlePreview : public QWidget
 {
     Q_OBJECT

@@ -1,0 +1,44 @@
+#include "preferences/RadioMatrix.h"
+
+#include <QHBoxLayout>
+#include <QRadioButton>
+
+namespace quindle {
+
+RadioMatrix::RadioMatrix(QWidget* parent)
+    : QWidget(parent)
+{
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch(1);
+    connect(&m_group, &QButtonGroup::idClicked, this, &RadioMatrix::clicked);
+}
+
+QStringList RadioMatrix::cells() const
+{
+    QStringList labels;
+    for (const QAbstractButton* cell : m_group.buttons())
+        labels.append(cell->text());
+    return labels;
+}
+
+void RadioMatrix::setCells(const QStringList& labels)
+{
+    qDeleteAll(m_group.buttons());
+    auto* row = static_cast<QHBoxLayout*>(layout());
+    for (int tag = 0; tag < labels.size(); ++tag) {
+        auto* cell = new QRadioButton(labels[tag], this);
+        m_group.addButton(cell, tag);
+        row->insertWidget(tag, cell);
+    }
+}
+
+void RadioMatrix::setSelectedTag(qint64 tag)
+{
+    m_group.setExclusive(false); // an exclusive group refuses to have no cell selected
+    for (QAbstractButton* cell : m_group.buttons())
+        cell->setChecked(m_group.id(cell) == tag);
+    m_group.setExclusive(true);
+}
+
+} // namespace quindle
