@@ -59,10 +59,12 @@ void HelperPreferences::loadWindow()
         m_window = std::make_unique<HelperPreferencesWindow>();
     m_ui = std::make_unique<Ui::HelperPreferences>();
     m_ui->setupUi(m_window.get());
+    m_ui->settingsPane->fitToFont();
     m_outlets = {.temperatureMatrix = m_ui->temperatureMatrix,
                  .parameterPopover =
                      new ParameterPopover(m_delegate, *m_ui->customMenuBarTextField, m_window.get()),
                  .customMenuBarTextField = m_ui->customMenuBarTextField};
+    m_outlets.parameterPopover->setObjectName(QStringLiteral("parameterPopover"));
     // Before the actions: a control's value is stored when its action runs.
     m_bindings = std::make_unique<HelperPreferencesBindings>(*m_ui, *m_window, m_settings, m_delegate);
     connectActions();
@@ -98,6 +100,15 @@ void HelperPreferences::showWindow()
     shown.show();
     shown.raise();
     shown.activateWindow();
+}
+
+void HelperPreferences::refresh()
+{
+    if (!m_ui)
+        return;
+    m_ui->titlePreview->refresh();
+    if (m_outlets.parameterPopover)
+        m_outlets.parameterPopover->refresh();
 }
 
 void HelperPreferences::windowDidLoad()

@@ -59,6 +59,9 @@ public:
     /// Shows the window with the settings of this moment, or brings it to the front.
     void showWindow();
 
+    /// Shows the present values in the preview and the popover; for every refresh of the status item.
+    void refresh();
+
     /// Makes the window movable by its background, and the custom text's controls usable when 1 is stored.
     void windowDidLoad();
 

@@ -45,6 +45,7 @@ QWidget& MenuBarPreferencesController::view()
 void MenuBarPreferencesController::viewWillAppear()
 {
     view();
+    m_settings.reload();
     // Binding anew fills every control, also one that shows a change which could not be stored.
     m_binder.reset();
     m_binder = std::make_unique<KeyPathBinder>(*m_view, m_boundSettings);
