@@ -30,8 +30,8 @@ struct HelperPreferencesOutlets
     QPointer<QLineEdit> customMenuBarTextField;
 };
 
-/// The controller of the helper's own window: what the menu bar shows. Its actions are the side effects of the
-/// controls only; the values are stored before, by the bindings of its interface. Nothing is announced to
+/// The controller of the helper's own window: what the menu bar shows. Its actions are the side effects of
+/// the controls only; the values are stored before, by the bindings of its interface. Nothing is announced to
 /// other processes. The window and everything in it is made when it is first needed. Main thread only.
 class HelperPreferences : public QObject
 {

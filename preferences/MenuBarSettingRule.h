@@ -19,9 +19,9 @@ struct MenuBarTexts
     friend bool operator==(const MenuBarTexts&, const MenuBarTexts&) = default;
 };
 
-/// The texts after a row was chosen. The standard row keeps the user's own template and shows the default one;
-/// any other row puts the kept one back unless there is another of the user's own by then, so that no text is
-/// lost that was written elsewhere.
+/// The texts after a row was chosen. The standard row keeps the user's own template and shows the default
+/// one; any other row puts the kept one back unless there is another of the user's own by then, so that no
+/// text is lost that was written elsewhere.
 MenuBarTexts textsAfterChoosing(qint64 row, const MenuBarTexts& texts);
 
 } // namespace quindle

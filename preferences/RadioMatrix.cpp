@@ -40,8 +40,8 @@ bool RadioMatrix::isRow() const
 
 void RadioMatrix::setIsRow(bool isRow)
 {
-    static_cast<QBoxLayout*>(layout())
-        ->setDirection(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    static_cast<QBoxLayout*>(layout())->setDirection(isRow ? QBoxLayout::LeftToRight
+                                                           : QBoxLayout::TopToBottom);
 }
 
 void RadioMatrix::setSelectedTag(qint64 tag)
