@@ -180,6 +180,43 @@ TEST_F(HelperPreferencesTest, popoverOpensAtTheEndOfItsButton)
     EXPECT_GE(popover.pos().x(), button.mapToGlobal(button.rect().topRight()).x());
 }
 
+TEST_F(HelperPreferencesTest, tabGoesThroughTheControlsAsTheyStand)
+{
+    storeRow(qint64{1});
+    helper->showWindow();
+    QStringList visited;
+    QWidget* const first = &cell("menuBarSettingGroup", 1);
+    QWidget* next = first;
+    do {
+        if (next->isVisible() && (next->focusPolicy() & Qt::TabFocus) != 0)
+            visited.append(next->accessibleName().isEmpty() ? static_cast<QAbstractButton*>(next)->text()
+                                                            : next->accessibleName());
+        next = next->nextInFocusChain();
+    } while (next != first);
+    EXPECT_EQ(visited,
+              (QStringList{latin("C&ustom text"), latin("Custom menu bar text"), latin("Parameters"),
+                           latin("&Celsius"), latin("&Fahrenheit"), latin("&Kelvin"),
+                           latin("Show battery icon"), latin("Mark battery data for automatic upload"),
+                           latin("Run in the background when I log in"), latin("Close"),
+                           latin("&Standard title")}));
+}
+
+TEST_F(HelperPreferencesTest, noMnemonicTwiceAndEveryControlHasAName)
+{
+    QString mnemonics;
+    for (const auto* button : helper->window().findChildren<QAbstractButton*>()) {
+        EXPECT_FALSE(button->text().isEmpty()) << button->objectName().toStdString();
+        const QString text = button->text();
+        ASSERT_TRUE(text.contains(u'&')) << text.toStdString();
+        const QChar mnemonic = text.at(text.indexOf(u'&') + 1).toLower();
+        EXPECT_FALSE(mnemonics.contains(mnemonic)) << text.toStdString();
+        mnemonics.append(mnemonic);
+    }
+    EXPECT_EQ(mnemonics.size(), 10);
+    for (const char* name : {"customMenuBarTextField", "temperatureMatrix", "menuBarSettingGroup"})
+        EXPECT_FALSE(control(name).accessibleName().isEmpty()) << name;
+}
+
 TEST_F(HelperPreferencesTest, loginItemsAreLookedAtWheneverItIsShown)
 {
     helper->showWindow();

@@ -35,7 +35,10 @@ void setLook(const QStringList& words)
 {
     const bool dark = words.contains(QStringLiteral("dark"));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(dark ? test::darkPalette() : test::lightPalette());
+    QPalette palette = dark ? test::darkPalette() : test::lightPalette();
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, Qt::gray);
+    QApplication::setPalette(palette);
     if (words.contains(QStringLiteral("rtl")))
         QApplication::setLayoutDirection(Qt::RightToLeft);
     if (!words.contains(QStringLiteral("huge")))

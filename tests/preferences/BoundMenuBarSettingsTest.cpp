@@ -14,10 +14,10 @@ QString u(const char* text)
     return QString::fromLatin1(text);
 }
 
-class BoundSettingsTest : public testing::Test
+class BoundMenuBarSettingsTest : public testing::Test
 {
 protected:
-    BoundSettingsTest()
+    BoundMenuBarSettingsTest()
     {
         QObject::connect(&settings, &BoundSettings::changed, &settings, [this] { ++changes; });
     }
@@ -56,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(
                     StoredRow{"fraction", 1.5, 0}, StoredRow{"list", QVariantList{1}, 0}),
     [](const testing::TestParamInfo<StoredRow>& c) { return std::string(c.param.name); });
 
-TEST_F(BoundSettingsTest, menuBarSettingIsStoredAsAnInteger)
+TEST_F(BoundMenuBarSettingsTest, menuBarSettingIsStoredAsAnInteger)
 {
     settings.setMenuBarSetting(1);
     EXPECT_EQ(fixture.standard().value(u("customMenuBarSettingSelectedIndex")), QVariant(qint64{1}));
@@ -64,7 +64,7 @@ TEST_F(BoundSettingsTest, menuBarSettingIsStoredAsAnInteger)
     EXPECT_TRUE(fixture.suite().isEmpty());
 }
 
-TEST_F(BoundSettingsTest, standardTitleKeepsTheTextUntilItIsWantedAgain)
+TEST_F(BoundMenuBarSettingsTest, standardTitleKeepsTheTextUntilItIsWantedAgain)
 {
     settings.setMenuBarSetting(1);
     settings.setCustomStatusBar(u("%w W"));
@@ -75,7 +75,7 @@ TEST_F(BoundSettingsTest, standardTitleKeepsTheTextUntilItIsWantedAgain)
     EXPECT_EQ(fixture.suite().value(u("customStatusBar")), QVariant(u("%w W")));
 }
 
-TEST_F(BoundSettingsTest, temperatureOfTitleAndViewWritesBothKeys)
+TEST_F(BoundMenuBarSettingsTest, temperatureOfTitleAndViewWritesBothKeys)
 {
     settings.setTemperatureOfTitleAndView(2);
     EXPECT_EQ(fixture.suite().value(u("temperatureSettingIndex")), QVariant(qint64{2}));
@@ -83,13 +83,13 @@ TEST_F(BoundSettingsTest, temperatureOfTitleAndViewWritesBothKeys)
     EXPECT_EQ(changes, 1);
 }
 
-TEST_F(BoundSettingsTest, temperatureOfTheTitleAloneLeavesTheView)
+TEST_F(BoundMenuBarSettingsTest, temperatureOfTheTitleAloneLeavesTheView)
 {
     settings.setTemperatureSettingIndex(1);
     EXPECT_TRUE(fixture.standard().isEmpty());
 }
 
-TEST_F(BoundSettingsTest, presentationIsStoredAsAText)
+TEST_F(BoundMenuBarSettingsTest, presentationIsStoredAsAText)
 {
     const QStringList stored{u(""), u("label"), u("wide"), u("icon")};
     for (int value = 0; value < stored.size(); ++value) {
@@ -100,7 +100,7 @@ TEST_F(BoundSettingsTest, presentationIsStoredAsAText)
     EXPECT_EQ(changes, 4);
 }
 
-TEST_F(BoundSettingsTest, unknownPresentationIsThePanelsOwn)
+TEST_F(BoundMenuBarSettingsTest, unknownPresentationIsThePanelsOwn)
 {
     EXPECT_EQ(settings.statusItemPresentation(), 0);
     fixture.standard()[u("statusItemPresentation")] = u("huge");
@@ -109,7 +109,7 @@ TEST_F(BoundSettingsTest, unknownPresentationIsThePanelsOwn)
     EXPECT_EQ(settings.statusItemPresentation(), 0);
 }
 
-TEST_F(BoundSettingsTest, uploadMarkIsOneOrZeroAndPermitsNothing)
+TEST_F(BoundMenuBarSettingsTest, uploadMarkIsOneOrZeroAndPermitsNothing)
 {
     settings.setAutoUploadBatteryData(true);
     EXPECT_EQ(fixture.standard().value(u("autoUploadBatteryData")), QVariant(qint64{1}));
