@@ -6,6 +6,7 @@
 
 #include "preferences/LinkButton.h"
 #include "preferences/QuietLabel.h"
+#include "preferences/RadioMatrix.h"
 #include "preferences/WarningImage.h"
 
 namespace quindle {
@@ -30,6 +31,8 @@ void PaneView::fitToFont()
     grid->setColumnStretch(1, 1);
     for (QBoxLayout* box : grid->findChildren<QBoxLayout*>())
         box->setSpacing(box->direction() == QBoxLayout::TopToBottom ? line / 3 : line / 2);
+    for (auto* matrix : findChildren<RadioMatrix*>())
+        matrix->layout()->setSpacing(line);
     alignCaptions();
 }
 
