@@ -40,6 +40,7 @@ void setUpRows(QTreeWidget& rows)
     rows.setAllColumnsShowFocus(true);
     rows.setFrameShape(QFrame::NoFrame);
     rows.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     rows.header()->setStretchLastSection(true);
     rows.header()->setMinimumSectionSize(0);
 }
