@@ -7,6 +7,7 @@
 
 #include "preferences/LinkButton.h"
 #include "preferences/QuietLabel.h"
+#include "preferences/RadioMatrix.h"
 #include "preferences/WarningImage.h"
 
 namespace quindle {
@@ -31,6 +32,8 @@ void PaneView::fitToFont()
     grid->setColumnStretch(1, 1);
     for (QBoxLayout* box : grid->findChildren<QBoxLayout*>())
         box->setSpacing(box->direction() == QBoxLayout::TopToBottom ? line / 3 : line / 2);
+    for (auto* matrix : findChildren<RadioMatrix*>())
+        matrix->layout()->setSpacing(line);
     alignCaptions();
 }
 

@@ -25,6 +25,12 @@ QString missingValue()
     return QStringLiteral(u"\u2013");
 }
 
+// Between the marks that keep "%p" and "-1043" in order within text that runs from right to left.
+QString leftToRight(const QString& text)
+{
+    return QChar(0x2066) + text + QChar(0x2069);
+}
+
 void setUpRows(QTreeWidget& rows)
 {
     rows.setColumnCount(ColumnCount);
@@ -34,6 +40,7 @@ void setUpRows(QTreeWidget& rows)
     rows.setAllColumnsShowFocus(true);
     rows.setFrameShape(QFrame::NoFrame);
     rows.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     rows.header()->setStretchLastSection(true);
     rows.header()->setMinimumSectionSize(0);
 }
@@ -54,7 +61,7 @@ ParameterPopover::ParameterPopover(const StatusBarTitle& title, QLineEdit& targe
     m_rows.setAccessibleName(tr("Parameters of the menu bar text"));
     setUpRows(m_rows);
     for (const Placeholder& placeholder : placeholderTable())
-        m_rows.addTopLevelItem(new QTreeWidgetItem({placeholder.text, placeholder.meaning}));
+        m_rows.addTopLevelItem(new QTreeWidgetItem({leftToRight(placeholder.text), placeholder.meaning}));
     m_rows.setCurrentItem(m_rows.topLevelItem(0));
     m_rows.installEventFilter(this);
     connect(&m_rows, &QTreeWidget::itemClicked, this, &ParameterPopover::insertCurrent);
@@ -99,14 +106,14 @@ bool ParameterPopover::eventFilter(QObject* watched, QEvent* event)
 void ParameterPopover::fillRows()
 {
     const auto values = m_title.titleValues();
-    for (int row = 0; row < m_rows.topLevelItemCount(); ++row) {
-        QTreeWidgetItem* item = m_rows.topLevelItem(row);
-        const QString text = item->text(TextColumn);
-        const QString value = values ? titleFromTemplate(text, *values) : missingValue();
-        item->setText(ValueColumn, value);
+    int row = 0;
+    for (const Placeholder& placeholder : placeholderTable()) {
+        QTreeWidgetItem* item = m_rows.topLevelItem(row++);
+        const QString value = values ? titleFromTemplate(placeholder.text, *values) : missingValue();
+        item->setText(ValueColumn, leftToRight(value));
         item->setTextAlignment(ValueColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(TextColumn, Qt::AccessibleTextRole,
-                      tr("%1, %2, now %3").arg(text, item->text(MeaningColumn), value));
+                      tr("%1, %2, now %3").arg(placeholder.text, placeholder.meaning, value));
     }
 }
 
@@ -114,24 +121,28 @@ void ParameterPopover::fillRows()
 void ParameterPopover::fitToRows()
 {
     const int line = fontMetrics().height();
+    const int rowHeight = line * 3 / 2;
     layout()->setContentsMargins(line / 2, line / 2, line / 2, line / 2);
     layout()->setSpacing(line / 3);
-    for (int row = 0; row < m_rows.topLevelItemCount(); ++row)
-        m_rows.topLevelItem(row)->setSizeHint(TextColumn, QSize(0, line * 3 / 2));
     int width = 0;
     for (int column = 0; column < ColumnCount; ++column) {
-        m_rows.resizeColumnToContents(column);
-        m_rows.setColumnWidth(column, m_rows.columnWidth(column) + line / 2);
-        width += m_rows.columnWidth(column);
+        int widest = 0;
+        for (int row = 0; row < m_rows.topLevelItemCount(); ++row) {
+            QTreeWidgetItem* item = m_rows.topLevelItem(row);
+            widest = std::max(widest, fontMetrics().horizontalAdvance(item->text(column)));
+            item->setSizeHint(column, QSize(0, rowHeight));
+        }
+        m_rows.setColumnWidth(column, widest + line);
+        width += widest + line;
     }
-    const int rowHeight = m_rows.visualItemRect(m_rows.topLevelItem(0)).height();
-    m_rows.setFixedSize(width, std::max(rowHeight, line * 3 / 2) * m_rows.topLevelItemCount());
+    m_rows.setFixedSize(width, rowHeight * m_rows.topLevelItemCount());
     adjustSize();
 }
 
 void ParameterPopover::insertCurrent()
 {
-    m_target.insert(m_rows.currentItem()->text(TextColumn));
+    const int row = m_rows.indexOfTopLevelItem(m_rows.currentItem());
+    m_target.insert(placeholderTable().at(static_cast<std::size_t>(row)).text);
     Q_EMIT inserted();
 }
 

@@ -31,6 +31,19 @@ void RadioMatrix::setCells(const QStringList& labels)
         m_group.addButton(cell, tag);
         line->insertWidget(tag, cell);
     }
+    putCellsIntoTabOrder();
+}
+
+// The cells come after every other control of an interface file, with the texts that can be translated.
+void RadioMatrix::putCellsIntoTabOrder()
+{
+    setFocusPolicy(Qt::TabFocus); // what cannot have the focus has no place in the order
+    QWidget* before = this;
+    for (QAbstractButton* cell : m_group.buttons()) {
+        setTabOrder(before, cell);
+        before = cell;
+    }
+    setFocusPolicy(Qt::NoFocus);
 }
 
 bool RadioMatrix::isRow() const

@@ -34,6 +34,8 @@ Q_SIGNALS:
     void clicked();
 
 private:
+    void putCellsIntoTabOrder();
+
     QButtonGroup m_group;
 };
 

@@ -51,13 +51,25 @@ public:
 /// The settings on an invented computer.
 struct SettingsFixture
 {
+    explicit SettingsFixture(bool hasSuite = true)
+        : preferences(preparedPlatform(hasSuite))
+    {
+    }
+
     FakePlatform computer;
     RecordedLoginItems loginItems;
-    ApplicationPreferences preferences{computer.platform};
+    ApplicationPreferences preferences;
     BoundSettings settings{preferences, computer.userDefaults.standardDefaults, loginItems, computer.bundle};
 
     QVariantMap& suite() { return computer.userDefaults.suiteDefaults.values; }
     QVariantMap& standard() { return computer.userDefaults.standardDefaults.values; }
+
+private:
+    const Platform& preparedPlatform(bool hasSuite)
+    {
+        computer.userDefaults.suiteAvailable = hasSuite;
+        return computer.platform;
+    }
 };
 
 } // namespace quindle::test
