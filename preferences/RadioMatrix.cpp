@@ -26,11 +26,16 @@ void RadioMatrix::setCells(const QStringList& labels)
 {
     qDeleteAll(m_group.buttons());
     auto* row = static_cast<QHBoxLayout*>(layout());
+    setFocusPolicy(Qt::TabFocus); // without one it has no place in the tab order
+    QWidget* previous = this;
     for (int tag = 0; tag < labels.size(); ++tag) {
         auto* cell = new QRadioButton(labels[tag], this);
         m_group.addButton(cell, tag);
         row->insertWidget(tag, cell);
+        setTabOrder(previous, cell); // labels may come when all other controls are there already
+        previous = cell;
     }
+    setFocusPolicy(Qt::NoFocus);
 }
 
 void RadioMatrix::setSelectedTag(qint64 tag)
