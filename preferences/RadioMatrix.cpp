@@ -26,22 +26,14 @@ void RadioMatrix::setCells(const QStringList& labels)
 {
     qDeleteAll(m_group.buttons());
     auto* line = static_cast<QBoxLayout*>(layout());
+    setFocusPolicy(Qt::TabFocus); // without one it has no place in the tab order
+    QWidget* previous = this;
     for (int tag = 0; tag < labels.size(); ++tag) {
         auto* cell = new QRadioButton(labels[tag], this);
         m_group.addButton(cell, tag);
         line->insertWidget(tag, cell);
-    }
-    putCellsIntoTabOrder();
-}
-
-// The cells come after every other control of an interface file, with the texts that can be translated.
-void RadioMatrix::putCellsIntoTabOrder()
-{
-    setFocusPolicy(Qt::TabFocus); // what cannot have the focus has no place in the order
-    QWidget* before = this;
-    for (QAbstractButton* cell : m_group.buttons()) {
-        setTabOrder(before, cell);
-        before = cell;
+        setTabOrder(previous, cell); // labels may come when all other controls are there already
+        previous = cell;
     }
     setFocusPolicy(Qt::NoFocus);
 }

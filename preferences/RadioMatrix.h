@@ -34,8 +34,6 @@ Q_SIGNALS:
     void clicked();
 
 private:
-    void putCellsIntoTabOrder();
-
     QButtonGroup m_group;
 };
 

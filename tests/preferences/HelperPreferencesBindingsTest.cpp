@@ -8,6 +8,7 @@
 #include "preferences/BoundLineEdit.h"
 #include "preferences/ParameterPopover.h"
 #include "preferences/RadioMatrix.h"
+#include "tests/preferences/Input.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
 

@@ -3,8 +3,6 @@
 #include <memory>
 
 #include <QAbstractButton>
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QStringList>
 #include <QWidget>
 
@@ -59,13 +57,6 @@ struct MenuBarFixture : SettingsFixture
         return *control(group).findChildren<QAbstractButton*>().at(tag);
     }
 };
-
-inline void pressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-                     const QString& text = {})
-{
-    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
-    QCoreApplication::sendEvent(&widget, &press);
-}
 
 inline QString latin(const char* text)
 {
