@@ -4,14 +4,15 @@
 #include <QMouseEvent>
 #include <QWindow>
 
+#include "preferences/CloseKey.h"
+
 namespace quindle {
 
 namespace {
 
 bool closesWindow(const QKeyEvent& event)
 {
-    const bool isControlW = event.key() == Qt::Key_W && event.modifiers() == Qt::ControlModifier;
-    return isControlW || event.matches(QKeySequence::Cancel);
+    return isCloseKey(event) || event.matches(QKeySequence::Cancel);
 }
 
 } // namespace

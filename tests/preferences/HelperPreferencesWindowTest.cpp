@@ -56,6 +56,7 @@ TEST(HelperPreferencesWindow, endsEditingWhenItCloses)
     field.setFocus();
     QApplication::processEvents();
     ASSERT_TRUE(field.hasFocus());
+    field.insert(QStringLiteral("typed"));
     window.close();
     EXPECT_EQ(finished, 1);
     EXPECT_EQ(window.focusWidget(), nullptr);
