@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace quindle {
+
+/// A field for a text that others may change as well. The bound text is shown at once, except over what the
+/// user is in the middle of typing.
+class BoundLineEdit : public QLineEdit
+{
+    Q_OBJECT
+    Q_PROPERTY(QString boundText READ boundText WRITE setBoundText USER true)
+
+public:
+    explicit BoundLineEdit(QWidget* parent = nullptr);
+
+    /// The text as it is stored; what the field shows may not be stored yet.
+    const QString& boundText() const { return m_boundText; }
+    void setBoundText(const QString& text);
+
+    /// Takes the shown text for what the user wants.
+    void commit();
+
+Q_SIGNALS:
+    /// The user wants the shown text: once for the Return key, once for leaving the field with another text
+    /// than the bound one, and never twice for the same typing.
+    void committed();
+
+private:
+    void commitChange();
+
+    QString m_boundText;
+};
+
+} // namespace quindle

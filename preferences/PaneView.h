@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+namespace quindle {
+
+/// The view of a pane whose interface file lays it out as a grid of two columns: captions, and controls under
+/// each other. All measures come from the desktop's font, so that the pane grows with it.
+class PaneView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PaneView(QWidget* parent = nullptr);
+
+    /// To be called once after the interface file has been loaded; later changes of the font are followed.
+    void fitToFont();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void alignCaptions();
+};
+
+} // namespace quindle
