@@ -52,9 +52,10 @@ class Login(HelperCase):
         self.assertEqual(self.desktop.start("dex", "-a", "-e", "XFCE", env=self.session).wait(20), 0)
 
     def log_in_with_lxqt(self):
+        # It starts nothing before there is a window manager, and its own where there is none.
         folder = Path(self.desktop.env["XDG_CONFIG_HOME"]) / "lxqt"
         folder.mkdir(exist_ok=True)
-        (folder / "session.conf").write_text("[General]\nwindow_manager=true\nleave_confirmation=false\n")
+        (folder / "session.conf").write_text("[General]\nwindow_manager=openbox\nleave_confirmation=false\n")
         process = self.desktop.start("lxqt-session", env={**self.session, "XDG_CURRENT_DESKTOP": "LXQt"})
 
         def end():
