@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QEvent>
+#include <QLayout>
 #include <QPainter>
 
 #include "preferences/SegmentedControl.h"
@@ -11,9 +12,7 @@ namespace quindle {
 
 namespace {
 
-constexpr double topMargin = 0.5;    // of a line
-constexpr double sideMargin = 0.8;   // of a line
-constexpr double bottomMargin = 0.7; // of a line
+constexpr double marginShare = 0.6; // of a line
 constexpr float lineAlpha = 0.15F;
 
 /// Icons that are masks are shown in the text's colour, on every palette.
@@ -139,7 +138,7 @@ void PreferencesToolbar::setTransparent(bool transparent)
 void PreferencesToolbar::changeEvent(QEvent* event)
 {
     QToolBar::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         fitToFont();
     if (event->type() == QEvent::PaletteChange)
         drawIcons();
@@ -156,9 +155,8 @@ void PreferencesToolbar::drawIcons()
 
 void PreferencesToolbar::fitToFont()
 {
-    const int line = fontMetrics().height();
-    const int side = qRound(line * sideMargin);
-    setContentsMargins(side, qRound(line * topMargin), side, qRound(line * bottomMargin));
+    const int margin = qRound(fontMetrics().height() * marginShare);
+    layout()->setContentsMargins(margin, margin, margin, margin); // different ones get mixed up by its layout
 }
 
 void PreferencesToolbar::paintEvent(QPaintEvent*)

@@ -8,6 +8,7 @@
 #include "preferences/BoundSettings.h"
 #include "preferences/GeneralPreferencesController.h"
 #include "preferences/HelperPreferences.h"
+#include "preferences/HelperPreferencesWindow.h"
 #include "preferences/MenuBarPreferencesController.h"
 #include "preferences/QDPreferencesWindowController.h"
 #include "preferences/UpdatePreferencesController.h"

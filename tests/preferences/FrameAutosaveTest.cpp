@@ -30,10 +30,13 @@ protected:
     QString stored() const { return defaults.values.value(QStringLiteral("Name")).toString(); }
     void store(const QString& frame) { defaults.values.insert(QStringLiteral("Name"), frame); }
 
+    /// With the decorations around it.
     void showAt(const QRect& frame)
     {
-        window.setGeometry(frame);
         window.show();
+        QApplication::processEvents();
+        window.resize(frame.size() - (window.frameGeometry().size() - window.size()));
+        window.move(frame.topLeft());
         QApplication::processEvents();
     }
 
@@ -93,7 +96,7 @@ TEST_F(FrameAutosaveTest, IsRestored)
     store(QStringLiteral("30 40 350 250 ") + screenText());
     const auto kept = autosave();
     EXPECT_TRUE(kept->restore());
-    EXPECT_EQ(window.geometry(), QRect(30, 40, 350, 250));
+    EXPECT_EQ(QRect(window.pos(), window.size()), QRect(30, 40, 350, 250));
 }
 
 TEST_F(FrameAutosaveTest, OfAScreenThatIsGoneComesOntoThisOne)
@@ -101,7 +104,7 @@ TEST_F(FrameAutosaveTest, OfAScreenThatIsGoneComesOntoThisOne)
     store(QStringLiteral("5030 40 350 250 5000 0 1920 1080"));
     const auto kept = autosave();
     EXPECT_TRUE(kept->restore());
-    EXPECT_EQ(window.geometry(), QRect(30, 40, 350, 250));
+    EXPECT_EQ(QRect(window.pos(), window.size()), QRect(30, 40, 350, 250));
 }
 
 TEST_F(FrameAutosaveTest, OfAWindowThatBecameLargerStaysOnTheScreen)
@@ -112,7 +115,7 @@ TEST_F(FrameAutosaveTest, OfAWindowThatBecameLargerStaysOnTheScreen)
     EXPECT_TRUE(kept->restore());
     window.resize(300, 200);
     kept->placeAtRestored();
-    EXPECT_EQ(window.geometry().bottomRight(), screen.bottomRight());
+    EXPECT_EQ(window.frameGeometry().bottomRight(), screen.bottomRight());
 }
 
 TEST_F(FrameAutosaveTest, WithoutAStoredOneNothingHappens)
@@ -136,7 +139,7 @@ TEST_F(FrameAutosaveTest, WhereTheDesktopPlacesWindowsOnlyTheSizeCounts)
     EXPECT_EQ(window.size(), QSize(350, 250));
     EXPECT_EQ(window.pos(), before);
     window.show();
-    window.resize(400, 300);
+    window.resize(QSize(400, 300) - (window.frameGeometry().size() - window.size()));
     QApplication::processEvents();
     window.close();
     EXPECT_EQ(stored(), QStringLiteral("30 40 400 300 0 0 1920 1080"));

@@ -346,7 +346,8 @@ TEST_F(QDPreferencesWindowControllerTest, TheFrameIsRestoredOnTheNextLaunch)
     show();
     window().move(33, 44);
     controller->dismissPreferencesWindow();
-    EXPECT_TRUE(storedFrame().startsWith(QStringLiteral("33 44 500 "))) << storedFrame().toStdString();
+    EXPECT_TRUE(storedFrame().startsWith(QStringLiteral("33 44 %1 ").arg(window().frameGeometry().width())))
+        << storedFrame().toStdString();
 
     controller = makeController();
     show();
