@@ -1,9 +1,14 @@
 #include "preferences/BoundSettings.h"
 
+#include <algorithm>
+#include <array>
+
 #include "app/ApplicationPreferences.h"
+#include "common/NumberConversion.h"
 #include "platform/Bundle.h"
 #include "platform/LoginItems.h"
 #include "platform/UserDefaults.h"
+#include "preferences/MenuBarSettingRule.h"
 #include "preferences/StartupLaunch_pref.h"
 
 namespace quindle {
@@ -16,6 +21,24 @@ QString autoUploadBatteryDataKey()
 {
     return QStringLiteral("autoUploadBatteryData");
 }
+
+QString menuBarSettingKey()
+{
+    return QStringLiteral("customMenuBarSettingSelectedIndex");
+}
+
+QString presentationKey()
+{
+    return QStringLiteral("statusItemPresentation");
+}
+
+// As they are stored; anything else is the first.
+constexpr std::array<QLatin1StringView, 4> presentations{
+    QLatin1StringView(""),
+    QLatin1StringView("label"),
+    QLatin1StringView("wide"),
+    QLatin1StringView("icon"),
+};
 
 } // namespace
 
@@ -50,6 +73,12 @@ void BoundSettings::setTemperatureSettingIndex(qint64 value)
 {
     m_preferences.setTemperatureSettingIndex(value);
     Q_EMIT changed();
+}
+
+void BoundSettings::setTemperatureOfTitleAndView(qint64 value)
+{
+    m_standardDefaults.setInteger(QStringLiteral("QDBatteryTemperatureMode"), value);
+    setTemperatureSettingIndex(value);
 }
 
 bool BoundSettings::showsIconsInMenuBar() const
@@ -89,6 +118,38 @@ void BoundSettings::setStartsAtLogin(bool value)
 {
     m_loginItems.setEnabled(QStringLiteral("com.fernhollow.Quindle-Helper"), value);
     m_startsAtLogin = value;
+    Q_EMIT changed();
+}
+
+qint64 BoundSettings::menuBarSetting() const
+{
+    const auto row = convertToInteger(m_standardDefaults.object(menuBarSettingKey()));
+    return row == customTextRow ? customTextRow : standardTitleRow;
+}
+
+void BoundSettings::setMenuBarSetting(qint64 row)
+{
+    m_standardDefaults.setInteger(menuBarSettingKey(), row);
+    const MenuBarTexts texts{m_preferences.customStatusBar(), m_preferences.statusBarString()};
+    const MenuBarTexts next = textsAfterChoosing(row, texts);
+    if (next.statusBarString != texts.statusBarString) // first: the user's text is never nowhere
+        m_preferences.setStatusBarString(next.statusBarString);
+    if (next.customStatusBar != texts.customStatusBar)
+        m_preferences.setCustomStatusBar(next.customStatusBar);
+    Q_EMIT changed();
+}
+
+qint64 BoundSettings::statusItemPresentation() const
+{
+    const QString stored = m_standardDefaults.object(presentationKey()).toString();
+    const auto* const found = std::find(presentations.begin(), presentations.end(), stored);
+    return found == presentations.end() ? 0 : found - presentations.begin();
+}
+
+void BoundSettings::setStatusItemPresentation(qint64 value)
+{
+    m_standardDefaults.setObject(presentationKey(),
+                                 QString(presentations.at(static_cast<std::size_t>(value))));
     Q_EMIT changed();
 }
 

@@ -22,6 +22,8 @@ class BoundSettings : public QObject
     Q_PROPERTY(bool autoUpload READ autoUpload NOTIFY changed)
     Q_PROPERTY(bool autoUploadBatteryData READ autoUploadBatteryData NOTIFY changed)
     Q_PROPERTY(bool startsAtLogin READ startsAtLogin NOTIFY changed)
+    Q_PROPERTY(qint64 menuBarSetting READ menuBarSetting NOTIFY changed)
+    Q_PROPERTY(qint64 statusItemPresentation READ statusItemPresentation NOTIFY changed)
 
 public:
     BoundSettings(ApplicationPreferences& preferences, UserDefaults& standardDefaults, LoginItems& loginItems,
@@ -34,6 +36,10 @@ public:
     /// 0 Celsius, 1 Fahrenheit, 2 Kelvin; any other stored number as it is.
     qint64 temperatureSettingIndex() const;
     void setTemperatureSettingIndex(qint64 value);
+
+    /// Stores the unit for the title and, in its own key, for the battery view, which takes it up when the
+    /// battery is reloaded. 0 to 2 only: the battery does not survive any other.
+    void setTemperatureOfTitleAndView(qint64 value);
 
     /// Whether 1 is stored; every other number shows no icon.
     bool showsIconsInMenuBar() const;
@@ -54,6 +60,16 @@ public:
 
     /// Switches the login item that is known by the helper's identifier.
     void setStartsAtLogin(bool value);
+
+    /// 1 when the title is the user's own text, that is when exactly the number 1 is stored; otherwise 0.
+    qint64 menuBarSetting() const;
+
+    /// Stores the row, and the template that goes with it.
+    void setMenuBarSetting(qint64 row);
+
+    /// How the status item looks: 0 as it suits the panel, 1 label, 2 wide picture, 3 icon.
+    qint64 statusItemPresentation() const;
+    void setStatusItemPresentation(qint64 value);
 
     /// Looks at the login items anew and tells everyone who is bound to look at everything anew.
     void reload();

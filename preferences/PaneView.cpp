@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QRadioButton>
 
 #include "preferences/LinkButton.h"
 #include "preferences/QuietLabel.h"
@@ -36,6 +37,17 @@ void PaneView::fitToFont()
     alignCaptions();
 }
 
+namespace {
+
+// Of a column of radio buttons the first one.
+int firstLineHeight(const QWidget& control)
+{
+    const auto* first = control.findChild<QRadioButton*>();
+    return (first ? first : &control)->sizeHint().height();
+}
+
+} // namespace
+
 // A caption stands at the height of the control it names, whatever stands below that control.
 void PaneView::alignCaptions()
 {
@@ -44,7 +56,7 @@ void PaneView::alignCaptions()
         if (qobject_cast<QuietLabel*>(label))
             label->setFont(quiet);
         else if (const QWidget* control = label->buddy())
-            label->setMinimumHeight(control->sizeHint().height());
+            label->setMinimumHeight(firstLineHeight(*control));
     }
     for (auto* link : findChildren<LinkButton*>())
         link->setFont(quiet);

@@ -1,6 +1,6 @@
 #include "preferences/RadioMatrix.h"
 
-#include <QHBoxLayout>
+#include <QBoxLayout>
 #include <QRadioButton>
 
 namespace quindle {
@@ -8,9 +8,9 @@ namespace quindle {
 RadioMatrix::RadioMatrix(QWidget* parent)
     : QWidget(parent)
 {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addStretch(1);
+    auto* line = new QBoxLayout(QBoxLayout::LeftToRight, this);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addStretch(1);
     connect(&m_group, &QButtonGroup::idClicked, this, &RadioMatrix::clicked);
 }
 
@@ -25,17 +25,28 @@ QStringList RadioMatrix::cells() const
 void RadioMatrix::setCells(const QStringList& labels)
 {
     qDeleteAll(m_group.buttons());
-    auto* row = static_cast<QHBoxLayout*>(layout());
+    auto* line = static_cast<QBoxLayout*>(layout());
     setFocusPolicy(Qt::TabFocus); // without one it has no place in the tab order
     QWidget* previous = this;
     for (int tag = 0; tag < labels.size(); ++tag) {
         auto* cell = new QRadioButton(labels[tag], this);
         m_group.addButton(cell, tag);
-        row->insertWidget(tag, cell);
+        line->insertWidget(tag, cell);
         setTabOrder(previous, cell); // labels may come when all other controls are there already
         previous = cell;
     }
     setFocusPolicy(Qt::NoFocus);
+}
+
+bool RadioMatrix::isRow() const
+{
+    return static_cast<QBoxLayout*>(layout())->direction() == QBoxLayout::LeftToRight;
+}
+
+void RadioMatrix::setIsRow(bool isRow)
+{
+    static_cast<QBoxLayout*>(layout())->setDirection(isRow ? QBoxLayout::LeftToRight
+                                                           : QBoxLayout::TopToBottom);
 }
 
 void RadioMatrix::setSelectedTag(qint64 tag)

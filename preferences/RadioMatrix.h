@@ -6,11 +6,12 @@
 
 namespace quindle {
 
-/// Radio buttons in a row, one per cell; a cell's tag is its place, counted from 0.
+/// Radio buttons in a row or in a column, one per cell; a cell's tag is its place, counted from 0.
 class RadioMatrix : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(QStringList cells READ cells WRITE setCells)
+    Q_PROPERTY(bool isRow READ isRow WRITE setIsRow)
     Q_PROPERTY(qint64 selectedTag READ selectedTag WRITE setSelectedTag USER true)
 
 public:
@@ -19,6 +20,10 @@ public:
     /// The labels, with their mnemonics.
     QStringList cells() const;
     void setCells(const QStringList& labels);
+
+    /// Whether the cells stand beside each other, as at first, or below.
+    bool isRow() const;
+    void setIsRow(bool isRow);
 
     /// The tag of the selected cell; -1 when none is. A tag that no cell has selects none.
     qint64 selectedTag() const { return m_group.checkedId(); }

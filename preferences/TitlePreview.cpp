@@ -30,16 +30,27 @@ TitlePreview::TitlePreview(QWidget* parent)
 
 void TitlePreview::follow(const QLineEdit& field, const StatusBarTitle& title)
 {
-    m_field = &field;
+    m_titleTemplate = field.text();
+    connect(&field, &QLineEdit::textChanged, this, &TitlePreview::setTitleTemplate);
+    follow(title);
+}
+
+void TitlePreview::follow(const StatusBarTitle& title)
+{
     m_title = &title;
-    connect(&field, &QLineEdit::textChanged, this, &TitlePreview::refresh);
+    refresh();
+}
+
+void TitlePreview::setTitleTemplate(const QString& titleTemplate)
+{
+    m_titleTemplate = titleTemplate;
     refresh();
 }
 
 void TitlePreview::refresh()
 {
     const auto values = m_title->titleValues();
-    const QString title = values ? titleFromTemplate(m_field->text(), *values) : QString();
+    const QString title = values ? titleFromTemplate(m_titleTemplate, *values) : QString();
     const QString instead = values ? tr("no text") : tr("no text without a battery");
     m_shown.setQuiet(title.isEmpty());
     m_shown.setText(title.isEmpty() ? instead : title);

@@ -10,17 +10,23 @@ class ElidedLabel;
 class QuietLabel;
 class StatusBarTitle;
 
-/// The line under a template's field: the title that the text in the field gives at the moment, stored or
-/// not.
+/// The title that a template gives at the moment: the text in a field, stored or not, or one that is bound.
 class TitlePreview : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString titleTemplate READ titleTemplate WRITE setTitleTemplate)
 
 public:
     explicit TitlePreview(QWidget* parent = nullptr);
 
     /// Shows what the field's text gives from now on, at every change of it. Both must outlive the preview.
     void follow(const QLineEdit& field, const StatusBarTitle& title);
+
+    /// Shows what `titleTemplate` gives from now on.
+    void follow(const StatusBarTitle& title);
+
+    const QString& titleTemplate() const { return m_titleTemplate; }
+    void setTitleTemplate(const QString& titleTemplate);
 
     /// Shows the present values. Nothing to show (no battery, an empty text) is said in words.
     void refresh();
@@ -32,7 +38,7 @@ protected:
 private:
     void fitToFont();
 
-    const QLineEdit* m_field = nullptr;
+    QString m_titleTemplate;
     const StatusBarTitle* m_title = nullptr;
     QuietLabel& m_caption;
     ElidedLabel& m_shown;
