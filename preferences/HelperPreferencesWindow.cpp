@@ -4,14 +4,15 @@
 #include <QMouseEvent>
 #include <QWindow>
 
+#include "preferences/CloseKey.h"
+
 namespace quindle {
 
 namespace {
 
 bool closesWindow(const QKeyEvent& event)
 {
-    const bool isControlW = event.key() == Qt::Key_W && event.modifiers() == Qt::ControlModifier;
-    return isControlW || event.matches(QKeySequence::Cancel);
+    return isCloseKey(event) || event.matches(QKeySequence::Cancel);
 }
 
 } // namespace
@@ -33,9 +34,14 @@ void HelperPreferencesWindow::keyPressEvent(QKeyEvent* event)
 void HelperPreferencesWindow::mousePressEvent(QMouseEvent* event)
 {
     if (m_movableByBackground && event->button() == Qt::LeftButton)
-        windowHandle()->startSystemMove();
+        startMove();
     else
         QWidget::mousePressEvent(event);
+}
+
+void HelperPreferencesWindow::startMove()
+{
+    windowHandle()->startSystemMove();
 }
 
 void HelperPreferencesWindow::closeEvent(QCloseEvent* event)

@@ -12,6 +12,17 @@
 
 namespace quindle {
 
+namespace {
+
+// Of a column of radio buttons the first one.
+int firstLineHeight(const QWidget& control)
+{
+    const auto* first = control.findChild<QRadioButton*>();
+    return (first ? first : &control)->sizeHint().height();
+}
+
+} // namespace
+
 PaneView::PaneView(QWidget* parent)
     : QWidget(parent)
 {
@@ -33,20 +44,9 @@ void PaneView::fitToFont()
     for (QBoxLayout* box : grid->findChildren<QBoxLayout*>())
         box->setSpacing(box->direction() == QBoxLayout::TopToBottom ? line / 3 : line / 2);
     for (auto* matrix : findChildren<RadioMatrix*>())
-        matrix->layout()->setSpacing(line);
+        matrix->layout()->setSpacing(matrix->isRow() ? line : line / 3);
     alignCaptions();
 }
-
-namespace {
-
-// Of a column of radio buttons the first one.
-int firstLineHeight(const QWidget& control)
-{
-    const auto* first = control.findChild<QRadioButton*>();
-    return (first ? first : &control)->sizeHint().height();
-}
-
-} // namespace
 
 // A caption stands at the height of the control it names, whatever stands below that control.
 void PaneView::alignCaptions()

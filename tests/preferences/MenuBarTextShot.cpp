@@ -71,9 +71,10 @@ int main(int argc, char** argv)
     const auto helper = HelperPreferences::initWithWindow(nullptr, fixture.settings, title);
     MenuBarPreferencesController pane(fixture.settings, title, [&helper] { helper->showWindow(); });
     QWidget* shown = &pane.view();
-    if (words.contains(QStringLiteral("pane")))
+    if (words.contains(QStringLiteral("pane"))) {
+        shown->resize(shown->sizeHint().width(), shown->heightForWidth(shown->sizeHint().width()));
         shown->show();
-    else {
+    } else {
         helper->showWindow();
         shown = &helper->window();
     }
