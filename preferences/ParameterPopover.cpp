@@ -54,6 +54,7 @@ ParameterPopover::ParameterPopover(const StatusBarTitle& title, QLineEdit& targe
     , m_rows(*new QTreeWidget(this))
 {
     setFrameShape(QFrame::StyledPanel);
+    setAttribute(Qt::WA_NoMouseReplay); // the click that closes it on its button does not open it again
     setAccessibleName(tr("Parameters"));
     auto* hint = new QuietLabel(this);
     hint->setFont(quietFont(font()));

@@ -1,6 +1,6 @@
 // Renders the General pane with an invented battery: GeneralPaneShot CASE FILE.png
 // CASE: words joined by "-" of light, dark, rtl, double (font of 200 %), german, helper, none, long, popover,
-// sent
+// sent; "stay" leaves it open
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -63,5 +63,7 @@ int main(int argc, char** argv)
         shown = shown->findChild<QDialog*>();
     }
     QApplication::processEvents();
+    if (has(QLatin1StringView("stay")))
+        QApplication::exec();
     return shown->grab().save(QString::fromLocal8Bit(argv[2])) ? 0 : 1;
 }

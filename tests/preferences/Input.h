@@ -24,6 +24,8 @@ inline void type(QWidget& widget, const QString& text)
 
 inline void clickAt(QWidget& widget, const QPoint& place)
 {
+    if ((widget.focusPolicy() & Qt::ClickFocus) != 0) // a click of the display's gives it before it arrives
+        widget.setFocus(Qt::MouseFocusReason);
     for (const auto kind : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
         const auto held = kind == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
         QMouseEvent event(kind, place, widget.mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
