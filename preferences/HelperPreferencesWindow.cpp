@@ -34,9 +34,14 @@ void HelperPreferencesWindow::keyPressEvent(QKeyEvent* event)
 void HelperPreferencesWindow::mousePressEvent(QMouseEvent* event)
 {
     if (m_movableByBackground && event->button() == Qt::LeftButton)
-        windowHandle()->startSystemMove();
+        startMove();
     else
         QWidget::mousePressEvent(event);
+}
+
+void HelperPreferencesWindow::startMove()
+{
+    windowHandle()->startSystemMove();
 }
 
 void HelperPreferencesWindow::closeEvent(QCloseEvent* event)

@@ -21,6 +21,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
+    /// Leaves the window to the desktop until the button is released.
+    virtual void startMove();
+
 private:
     bool m_movableByBackground = false;
 };

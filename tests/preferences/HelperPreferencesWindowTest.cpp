@@ -2,8 +2,12 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <gtest/gtest.h>
+
+#include "tests/preferences/Input.h"
 
 namespace quindle {
 
@@ -16,6 +20,15 @@ struct KeyCase
     Qt::KeyboardModifiers modifiers;
     const char* text;
     bool closes;
+};
+
+class MovedWindow : public HelperPreferencesWindow
+{
+public:
+    int moves = 0;
+
+protected:
+    void startMove() override { ++moves; }
 };
 
 class WindowKeys : public testing::TestWithParam<KeyCase>
@@ -35,15 +48,15 @@ TEST_P(WindowKeys, closeTheWindowAlsoFromAField)
     EXPECT_EQ(!window.isVisible(), GetParam().closes);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Keys, WindowKeys,
-    testing::Values(KeyCase{"escape", Qt::Key_Escape, Qt::NoModifier, "", true},
-                    KeyCase{"controlW", Qt::Key_W, Qt::ControlModifier, "\x17", true},
-                    KeyCase{"controlShiftW", Qt::Key_W, Qt::ControlModifier | Qt::ShiftModifier, "", false},
-                    KeyCase{"w", Qt::Key_W, Qt::NoModifier, "w", false},
-                    KeyCase{"controlF4", Qt::Key_F4, Qt::ControlModifier, "", false},
-                    KeyCase{"enter", Qt::Key_Return, Qt::NoModifier, "\r", false}),
-    [](const testing::TestParamInfo<KeyCase>& c) { return std::string(c.param.name); });
+INSTANTIATE_TEST_SUITE_P(Keys, WindowKeys,
+                         testing::Values(KeyCase{"escape", Qt::Key_Escape, Qt::NoModifier, "", true},
+                                         KeyCase{"controlW", Qt::Key_W, Qt::ControlModifier, "\x17", true},
+                                         KeyCase{"controlShiftW", Qt::Key_W,
+                                                 Qt::ControlModifier | Qt::ShiftModifier, "", false},
+                                         KeyCase{"w", Qt::Key_W, Qt::NoModifier, "w", false},
+                                         KeyCase{"controlF4", Qt::Key_F4, Qt::ControlModifier, "", false},
+                                         KeyCase{"enter", Qt::Key_Return, Qt::NoModifier, "\r", false}),
+                         [](const testing::TestParamInfo<KeyCase>& c) { return std::string(c.param.name); });
 
 TEST(HelperPreferencesWindow, endsEditingWhenItCloses)
 {
@@ -62,12 +75,22 @@ TEST(HelperPreferencesWindow, endsEditingWhenItCloses)
     EXPECT_EQ(window.focusWidget(), nullptr);
 }
 
-TEST(HelperPreferencesWindow, isNotMovedByItsBackgroundUnlessThatIsWanted)
+TEST(HelperPreferencesWindow, isMovedByItsBackgroundWhenThatIsWanted)
 {
-    HelperPreferencesWindow window;
-    EXPECT_FALSE(window.isMovableByWindowBackground());
+    MovedWindow window;
+    QPushButton button(&window);
+    QLabel label(&window);
+    window.show();
+    for (QWidget* place : std::initializer_list<QWidget*>{&window, &label, &button})
+        test::clickAt(*place, QPoint(1, 1));
+    EXPECT_EQ(window.moves, 0);
     window.setMovableByWindowBackground(true);
-    EXPECT_TRUE(window.isMovableByWindowBackground());
+    test::clickAt(window, QPoint(1, 1));
+    EXPECT_EQ(window.moves, 1);
+    test::clickAt(label, QPoint(1, 1));
+    EXPECT_EQ(window.moves, 2);
+    test::clickAt(button, QPoint(1, 1));
+    EXPECT_EQ(window.moves, 2);
 }
 
 } // namespace quindle

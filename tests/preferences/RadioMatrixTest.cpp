@@ -41,6 +41,19 @@ TEST_F(RadioMatrixTest, SelectsByTagWithoutAClick)
     EXPECT_EQ(clicks, 0);
 }
 
+TEST_F(RadioMatrixTest, CellsStandBesideOrBelowEachOther)
+{
+    EXPECT_TRUE(matrix.isRow());
+    test::showActive(matrix);
+    EXPECT_EQ(cells[0]->y(), cells[1]->y());
+    EXPECT_LT(cells[0]->x(), cells[1]->x());
+    matrix.setIsRow(false);
+    QApplication::processEvents();
+    EXPECT_FALSE(matrix.isRow());
+    EXPECT_EQ(cells[0]->x(), cells[1]->x());
+    EXPECT_LT(cells[0]->y(), cells[1]->y());
+}
+
 TEST_F(RadioMatrixTest, TellsOfClicksAndArrowKeys)
 {
     cells[2]->click();

@@ -33,6 +33,15 @@ TEST_F(TitlePreviewTest, ShowsWhatTheFieldGivesAtEveryKey)
     EXPECT_EQ(shown(), QStringLiteral(u"66.7% \u2B07\uFE0E 3:42"));
 }
 
+TEST_F(TitlePreviewTest, ShowsWhatABoundTemplateGives)
+{
+    preview.follow(title);
+    EXPECT_EQ(shown(), QStringLiteral("no text"));
+    preview.setProperty("titleTemplate", QStringLiteral("%l"));
+    EXPECT_EQ(preview.titleTemplate(), QStringLiteral("%l"));
+    EXPECT_EQ(shown(), QStringLiteral("293"));
+}
+
 TEST_F(TitlePreviewTest, RefreshShowsThePresentValues)
 {
     field.setText(QStringLiteral("%t"));
