@@ -88,8 +88,8 @@ public:
     /// would not send.
     std::optional<DailyUpload> currentDailyUpload() const;
 
-    /// The same for people: where it would go, and the body decoded. Empty when nothing would be sent, for
-    /// want of a host or of a record.
+    /// The same for people: where it would go, and the body decoded; a sentence when there is no record to
+    /// send. Empty without a host.
     QString dailyUploadText() const;
 
     void quitApp() override;

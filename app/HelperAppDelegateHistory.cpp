@@ -83,8 +83,10 @@ QString HelperAppDelegate::dailyUploadText() const
 {
     const QString host = statisticsHost(m_platform.bundle);
     const auto upload = currentDailyUpload();
-    if (host.isEmpty() || !upload)
+    if (host.isEmpty())
         return {};
+    if (!upload)
+        return QStringLiteral("Nothing would be sent now: a value that names the battery is missing.");
     const auto body = QJsonDocument::fromJson(QByteArray::fromBase64(upload->body));
     return QStringLiteral("POST ") + dailyUploadUrl(host) + QStringLiteral("\n\n") +
            QString::fromUtf8(body.toJson(QJsonDocument::Indented));

@@ -73,7 +73,6 @@ int main(int argc, char** argv)
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quindle-helper"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Quindle Helper"));
     QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
     QApplication::setQuitOnLastWindowClosed(false);
 

@@ -96,10 +96,10 @@ void GeneralPreferencesController::connectControls()
             [this] { showParameterPopover(*m_ui->parametersButton); });
     connect(m_ui->resetButton, &QPushButton::clicked, this, &Controller::resetCustomMenuBarText);
     connect(m_ui->temperatureMatrix, &RadioMatrix::clicked, this, &Controller::changeTemperatureSetting);
-    connect(m_ui->showIconsCheckbox, &QCheckBox::clicked, this, &Controller::showIcons);
-    connect(m_ui->autoUploadCheckbox, &QCheckBox::clicked, this, &Controller::setAutoUpload);
+    connect(m_ui->showIconsCheckbox, &BoundCheckBox::switched, this, &Controller::showIcons);
+    connect(m_ui->autoUploadCheckbox, &BoundCheckBox::switched, this, &Controller::setAutoUpload);
     connect(m_ui->sentDataButton, &LinkButton::clicked, this, &Controller::showSentData);
-    connect(m_ui->launchAtStartupCheckbox, &QCheckBox::clicked, this, &Controller::setAutoStart);
+    connect(m_ui->launchAtStartupCheckbox, &BoundCheckBox::switched, this, &Controller::setAutoStart);
     connect(&m_settings, &BoundSettings::changed, this, &Controller::refresh);
 }
 

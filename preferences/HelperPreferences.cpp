@@ -82,11 +82,10 @@ void HelperPreferences::connectActions()
             [this, ui] { changeMenuBarTemplate(ui->customMenuBarTextField); });
     connect(ui->parametersButton, &QAbstractButton::clicked, this,
             [this, ui] { showParameterPopover(ui->parametersButton); });
-    connect(ui->showIconsBox, &QAbstractButton::clicked, this,
+    connect(ui->showIconsBox, &BoundCheckBox::switched, this,
             [this, ui] { showIconsInMenuBarClicked(ui->showIconsBox); });
-    connect(ui->autoSaveBox, &QAbstractButton::clicked, this,
-            [this, ui] { changeAutoSave(ui->autoSaveBox); });
-    connect(ui->runInBackgroundBox, &QAbstractButton::clicked, this,
+    connect(ui->autoSaveBox, &BoundCheckBox::switched, this, [this, ui] { changeAutoSave(ui->autoSaveBox); });
+    connect(ui->runInBackgroundBox, &BoundCheckBox::switched, this,
             [this, ui] { setRunInBackground(ui->runInBackgroundBox); });
     connect(ui->closeButton, &QAbstractButton::clicked, this, [this, ui] { closeWindow(ui->closeButton); });
     connect(m_outlets.parameterPopover, &ParameterPopover::inserted, ui->customMenuBarTextField,

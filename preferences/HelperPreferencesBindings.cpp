@@ -33,7 +33,7 @@ void HelperPreferencesBindings::storeChanges(const Ui::HelperPreferences& ui, St
         m_settings.setTemperatureOfTitleAndView(matrix->selectedTag());
         title.reloadBattery();
     });
-    connect(ui.showIconsBox, &QAbstractButton::clicked, this,
+    connect(ui.showIconsBox, &BoundCheckBox::switched, this,
             [this](bool checked) { m_settings.setShowsIconsInMenuBar(checked); });
 }
 

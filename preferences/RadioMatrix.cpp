@@ -2,6 +2,7 @@
 
 #include <QBoxLayout>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 
 namespace quindle {
 
@@ -11,7 +12,10 @@ RadioMatrix::RadioMatrix(QWidget* parent)
     auto* line = new QBoxLayout(QBoxLayout::LeftToRight, this);
     line->setContentsMargins(0, 0, 0, 0);
     line->addStretch(1);
-    connect(&m_group, &QButtonGroup::idClicked, this, &RadioMatrix::clicked);
+    connect(&m_group, &QButtonGroup::idToggled, this, [this](int, bool selected) {
+        if (selected && !m_isFilling)
+            Q_EMIT clicked();
+    });
 }
 
 QStringList RadioMatrix::cells() const
@@ -51,6 +55,7 @@ void RadioMatrix::setIsRow(bool isRow)
 
 void RadioMatrix::setSelectedTag(qint64 tag)
 {
+    const QScopedValueRollback filling(m_isFilling, true);
     m_group.setExclusive(false); // an exclusive group refuses to have no cell selected
     for (QAbstractButton* cell : m_group.buttons())
         cell->setChecked(m_group.id(cell) == tag);

@@ -30,11 +30,12 @@ public:
     void setSelectedTag(qint64 tag);
 
 Q_SIGNALS:
-    /// The user has selected a cell.
+    /// The user has selected another cell, by a click or through an assistive technology.
     void clicked();
 
 private:
     QButtonGroup m_group;
+    bool m_isFilling = false;
 };
 
 } // namespace quindle

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOption>
 
@@ -46,8 +48,17 @@ public:
 
     QSize minimumSizeHint() const override { return sizeHint(); }
 
+    /// Whether a click is what changes it at the moment.
+    bool isClicking() const { return m_isClicking; }
+
 protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+
+    void nextCheckState() override
+    {
+        const QScopedValueRollback clicking(m_isClicking, true);
+        QRadioButton::nextCheckState();
+    }
 
     void paintEvent(QPaintEvent*) override
     {
@@ -107,6 +118,8 @@ private:
         const bool shown = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
         return shown ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     }
+
+    bool m_isClicking = false;
 };
 
 } // namespace
@@ -126,6 +139,11 @@ SegmentedControl::SegmentedControl(const QStringList& titles, QWidget* parent)
     for (const QString& title : titles) {
         auto* segment = new Segment(title, this);
         m_segments->addButton(segment, segmentCount());
+        // An assistive technology selects without a click. A click may also choose what is selected already.
+        connect(segment, &Segment::toggled, this, [this, segment](bool selected) {
+            if (selected && !segment->isClicking())
+                Q_EMIT action();
+        });
         layout->addWidget(segment);
     }
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -139,8 +157,10 @@ int SegmentedControl::selectedTag() const
 
 void SegmentedControl::selectSegmentWithTag(int tag)
 {
-    if (QAbstractButton* button = m_segments->button(tag))
+    if (QAbstractButton* button = m_segments->button(tag)) {
+        const QSignalBlocker silent(button);
         button->setChecked(true);
+    }
 }
 
 int SegmentedControl::segmentCount() const

@@ -246,7 +246,8 @@ TEST_F(HelperAppDelegateTest, WithoutABatteryTheDailyUploadHasNothingToShow)
 {
     platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
     launch();
-    EXPECT_EQ(delegate->dailyUploadText(), QString());
+    EXPECT_EQ(delegate->dailyUploadText(),
+              QStringLiteral("Nothing would be sent now: a value that names the battery is missing."));
 }
 
 TEST_F(HelperAppDelegateTest, EmptyBodiesDoNothing)
