@@ -162,8 +162,10 @@ void QDPreferencesWindowController::makeWindow()
 
 void QDPreferencesWindowController::showPreferencesWindow()
 {
-    if (!m_window)
+    if (!m_window) {
         makeWindow();
+        placeForFirstPane();
+    }
     if (!isOnScreen(m_window.get())) {
         if (m_shownViewController)
             m_shownViewController->viewWillAppear();
@@ -174,6 +176,15 @@ void QDPreferencesWindowController::showPreferencesWindow()
     if (!m_shownViewController)
         showFirstPane();
     setWindowAlpha(1);
+}
+
+// Window managers may lose a place and a size that change while the window appears, so both are right before.
+void QDPreferencesWindowController::placeForFirstPane()
+{
+    if (m_viewControllers.empty())
+        return;
+    m_window->setFixedSize(m_window->fitFor(m_viewControllers.front()->view()).size);
+    place();
 }
 
 void QDPreferencesWindowController::bringToFront()
@@ -188,8 +199,14 @@ void QDPreferencesWindowController::showFirstPane()
 {
     if (!m_viewControllers.empty())
         showPane(*m_viewControllers.front());
+    place();
+}
+
+// A restored place is the user's: only without one is the window centred.
+void QDPreferencesWindowController::place()
+{
     if (m_frameRestored)
-        m_frameAutosave->placeAtRestored(); // its place is the user's; the pane may have another size
+        m_frameAutosave->placeAtRestored();
     else
         centre();
 }

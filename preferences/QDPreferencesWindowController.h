@@ -104,8 +104,10 @@ private:
     void selectControlOf(const QDPreferencesWindowControllerProtocol* pane);
     void selectFirstControl();
     void makeWindow();
+    void placeForFirstPane();
     void bringToFront();
     void showFirstPane();
+    void place();
     void showPane(QDPreferencesWindowControllerProtocol& pane);
     void beginTransition(QWidget& view);
     void removeShownView();
