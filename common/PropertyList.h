@@ -18,7 +18,8 @@ std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes);
 /// The same from a file; nothing also when it cannot be read.
 std::optional<QVariant> propertyListFromFile(const QString& path);
 
-/// `value` as an XML property list. Values of other types than those above are left out.
+/// `value` as an XML property list. Values of other types than those above are left out, and so are
+/// dates before the year 0 and after 9999.
 QByteArray xmlPropertyList(const QVariant& value);
 
 } // namespace quindle

@@ -12,6 +12,12 @@ namespace {
 
 void writeValue(QXmlStreamWriter& xml, const QVariant& value);
 
+/// Empty for a date whose year has no four digits, which no reader takes.
+QString isoText(const QDateTime& date)
+{
+    return date.toUTC().toString(Qt::ISODate);
+}
+
 bool isWritable(const QVariant& value)
 {
     switch (value.typeId()) {
@@ -25,11 +31,12 @@ bool isWritable(const QVariant& value)
     case QMetaType::Double:
     case QMetaType::QString:
     case QMetaType::QByteArray:
-    case QMetaType::QDateTime:
     case QMetaType::QVariantList:
     case QMetaType::QStringList:
     case QMetaType::QVariantMap:
         return true;
+    case QMetaType::QDateTime:
+        return !isoText(value.toDateTime()).isEmpty();
     default:
         return false;
     }
@@ -103,7 +110,7 @@ void writeValue(QXmlStreamWriter& xml, const QVariant& value)
         xml.writeTextElement(QStringLiteral("data"), QString::fromLatin1(value.toByteArray().toBase64()));
         return;
     case QMetaType::QDateTime:
-        xml.writeTextElement(QStringLiteral("date"), value.toDateTime().toUTC().toString(Qt::ISODate));
+        xml.writeTextElement(QStringLiteral("date"), isoText(value.toDateTime()));
         return;
     case QMetaType::QVariantList:
     case QMetaType::QStringList:

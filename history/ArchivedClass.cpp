@@ -31,7 +31,7 @@ constexpr std::array namedClasses{
 
 } // namespace
 
-ArchivedClass archivedClass(const PropertyListGraph& graph, PropertyListGraph::Node name)
+ArchivedClass archivedClass(const PropertyListGraph& graph, const PropertyListGraph::Element& name)
 {
     const auto* found =
         std::find_if(namedClasses.begin(), namedClasses.end(), [&](const NamedClass& candidate) {

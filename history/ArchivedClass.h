@@ -10,6 +10,6 @@ namespace quindle {
 enum class ArchivedClass { Unknown, Array, Dictionary, Text, Data, Date, Number, Null };
 
 /// The kind that a class of the platform is, by its name.
-ArchivedClass archivedClass(const PropertyListGraph& graph, PropertyListGraph::Node name);
+ArchivedClass archivedClass(const PropertyListGraph& graph, const PropertyListGraph::Element& name);
 
 } // namespace quindle

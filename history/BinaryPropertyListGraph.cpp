@@ -1,7 +1,6 @@
 #include "history/BinaryPropertyListGraph.h"
 
 #include <bit>
-#include <utility>
 
 #include <QtEndian>
 
@@ -11,49 +10,54 @@ namespace quindle {
 
 namespace {
 
-constexpr quint64 trailerSize = 32;
+using Kind = PropertyListGraph::Kind;
+using Objects = BinaryPropertyListObjects;
 
-enum Type : quint8 {
-    SingleType = 0x0,
-    IntegerType = 0x1,
-    RealType = 0x2,
-    DateType = 0x3,
-    DataType = 0x4,
-    AsciiType = 0x5,
-    Utf16Type = 0x6,
-    ReferenceType = 0x8,
-    ArrayType = 0xa,
-    DictionaryType = 0xd,
-};
+constexpr quint8 wide =
+    1; // the form of a text of 16-bit characters; those of a number are the object's details
+constexpr quint8 falseDetail = 0x8;
+constexpr quint8 trueDetail = 0x9;
+constexpr quint8 singlePrecision = 2;
 
-PropertyListGraph::Kind singleKind(quint8 detail)
+Kind singleKind(quint8 detail)
 {
-    using Kind = PropertyListGraph::Kind;
     if (detail == 0x0)
         return Kind::Null;
-    return detail == 0x8 || detail == 0x9 ? Kind::Boolean : Kind::Invalid;
+    return detail == falseDetail || detail == trueDetail ? Kind::Boolean : Kind::Invalid;
+}
+
+Kind kindOf(const Objects::Object& found)
+{
+    switch (found.type) {
+    case Objects::Single:
+        return singleKind(found.detail);
+    case Objects::Integer:
+        return found.detail <= 4 ? Kind::Integer : Kind::Invalid;
+    case Objects::Real:
+        return found.detail == 2 || found.detail == 3 ? Kind::Real : Kind::Invalid;
+    case Objects::Date:
+        return found.detail == 3 ? Kind::Date : Kind::Invalid;
+    case Objects::Data:
+        return Kind::Data;
+    case Objects::Ascii:
+    case Objects::Utf16:
+        return Kind::Text;
+    case Objects::Reference:
+        return found.detail <= 7 ? Kind::Reference : Kind::Invalid;
+    case Objects::Array:
+        return Kind::Array;
+    case Objects::Dictionary:
+        return Kind::Dictionary;
+    default:
+        return Kind::Invalid;
+    }
 }
 
 } // namespace
 
-BinaryPropertyListGraph::BinaryPropertyListGraph(QByteArray bytes)
-    : m_bytes(std::move(bytes))
-    , m_size(static_cast<quint64>(m_bytes.size()))
+BinaryPropertyListGraph::BinaryPropertyListGraph(const QByteArray& bytes)
+    : m_objects(bytes)
 {
-    if (!isBinary(m_bytes) || m_size < trailerSize)
-        return;
-    const quint64 trailer = m_size - trailerSize;
-    m_offsetWidth = *number(trailer + 6, 1);
-    m_referenceWidth = *number(trailer + 7, 1);
-    m_nodeCount = *number(trailer + 8, 8);
-    const Node top = *number(trailer + 16, 8);
-    m_offsetTable = *number(trailer + 24, 8);
-    const bool areWidthsRight =
-        m_offsetWidth >= 1 && m_offsetWidth <= 8 && m_referenceWidth >= 1 && m_referenceWidth <= 8;
-    const bool isTableInside = areWidthsRight && m_offsetTable <= trailer &&
-                               m_nodeCount <= (trailer - m_offsetTable) / m_offsetWidth;
-    if (isTableInside && top < m_nodeCount)
-        m_root = top;
 }
 
 bool BinaryPropertyListGraph::isBinary(const QByteArray& bytes)
@@ -61,226 +65,127 @@ bool BinaryPropertyListGraph::isBinary(const QByteArray& bytes)
     return bytes.startsWith("bplist0");
 }
 
-/// A big-endian number of 1 to 8 bytes.
-std::optional<quint64> BinaryPropertyListGraph::number(quint64 start, quint64 width) const
+PropertyListGraph::Element BinaryPropertyListGraph::root() const
 {
-    if (start > m_size || width > m_size - start)
-        return std::nullopt;
-    quint64 value = 0;
-    const auto* bytes = reinterpret_cast<const uchar*>(m_bytes.constData()) + start;
-    for (quint64 index = 0; index < width; ++index)
-        value = (value << 8) | bytes[index];
-    return value;
+    return element(m_objects.top());
 }
 
-std::optional<BinaryPropertyListGraph::Content> BinaryPropertyListGraph::content(Node node) const
+PropertyListGraph::Element BinaryPropertyListGraph::element(Node node) const
 {
-    if (m_root == noNode || node >= m_nodeCount)
-        return std::nullopt;
-    const auto offset = number(m_offsetTable + node * m_offsetWidth, m_offsetWidth);
-    const auto marker = offset ? number(*offset, 1) : std::nullopt;
-    if (!marker)
-        return std::nullopt;
-    Content found{.type = static_cast<quint8>(*marker >> 4),
-                  .detail = static_cast<quint8>(*marker & 0x0f),
-                  .start = *offset + 1};
-    if (!readCount(found) || found.start > m_size || found.count > m_size ||
-        byteLength(found) > m_size - found.start)
-        return std::nullopt;
-    return found;
+    const Objects::Object found = m_objects.object(node);
+    const Kind kind = kindOf(found);
+    const quint8 textForm = found.type == Objects::Utf16 ? wide : 0;
+    return {.kind = kind,
+            .form = kind == Kind::Text ? textForm : found.detail,
+            .start = found.start,
+            .count = found.count};
 }
 
-/// A count of 15 and more stands behind the marker, as an integer of its own.
-bool BinaryPropertyListGraph::readCount(Content& found) const
+const char* BinaryPropertyListGraph::content(const Element& element) const
 {
-    found.count = found.detail;
-    const bool hasCount = found.type >= DataType && found.type != ReferenceType;
-    if (!hasCount || found.detail != 0xf)
-        return true;
-    const auto marker = number(found.start, 1);
-    if (!marker || (*marker & 0xf0) != 0x10 || (*marker & 0x0f) > 3)
-        return false;
-    const quint64 width = quint64{1} << (*marker & 0x0f);
-    const auto count = number(found.start + 1, width);
-    if (!count)
-        return false;
-    found.start += 1 + width;
-    found.count = *count;
-    return true;
+    return m_objects.bytes().constData() + element.start;
 }
 
-/// `count` is at most the file's size here, so that nothing overflows.
-quint64 BinaryPropertyListGraph::byteLength(const Content& found) const
+QVariant BinaryPropertyListGraph::value(const Element& element) const
 {
-    switch (found.type) {
-    case IntegerType:
-    case RealType:
-        return quint64{1} << found.detail;
-    case DateType:
-        return sizeof(double);
-    case DataType:
-    case AsciiType:
-        return found.count;
-    case Utf16Type:
-        return found.count * 2;
-    case ReferenceType:
-        return found.count + 1;
-    case ArrayType:
-        return found.count * m_referenceWidth;
-    case DictionaryType:
-        return found.count * m_referenceWidth * 2;
-    default:
-        return 0;
-    }
-}
-
-PropertyListGraph::Kind BinaryPropertyListGraph::kindOf(const Content& found)
-{
-    switch (found.type) {
-    case SingleType:
-        return singleKind(found.detail);
-    case IntegerType:
-        return found.detail <= 4 ? Kind::Integer : Kind::Invalid;
-    case RealType:
-        return found.detail == 2 || found.detail == 3 ? Kind::Real : Kind::Invalid;
-    case DateType:
-        return found.detail == 3 ? Kind::Date : Kind::Invalid;
-    case DataType:
-        return Kind::Data;
-    case AsciiType:
-    case Utf16Type:
-        return Kind::Text;
-    case ReferenceType:
-        return found.detail <= 7 ? Kind::Reference : Kind::Invalid;
-    case ArrayType:
-        return Kind::Array;
-    case DictionaryType:
-        return Kind::Dictionary;
-    default:
-        return Kind::Invalid;
-    }
-}
-
-PropertyListGraph::Kind BinaryPropertyListGraph::kind(Node node) const
-{
-    const auto found = content(node);
-    return found ? kindOf(*found) : Kind::Invalid;
-}
-
-QVariant BinaryPropertyListGraph::value(Node node) const
-{
-    const auto found = content(node);
-    if (!found)
-        return {};
-    const char* bytes = m_bytes.constData() + found->start;
-    switch (kindOf(*found)) {
+    switch (element.kind) {
     case Kind::Boolean:
-        return found->detail == 0x9;
+        return element.form == trueDetail;
     case Kind::Integer:
-        return integer(*found);
+        return integer(element);
     case Kind::Real:
-        return real(*found);
+        return real(element);
     case Kind::Date:
-        return dateFromArchivedSeconds(std::bit_cast<double>(qFromBigEndian<quint64>(bytes)));
+        return date(element);
     case Kind::Data:
-        return QByteArray(bytes, static_cast<qsizetype>(found->count));
+        return QByteArray(content(element), static_cast<qsizetype>(element.count));
     case Kind::Text:
-        return text(*found);
+        return text(element);
     default:
         return {};
     }
 }
 
 /// Of the 16 bytes of the longest integers the lower half counts: a larger number has no place in 64 bits.
-QVariant BinaryPropertyListGraph::integer(const Content& found) const
+QVariant BinaryPropertyListGraph::integer(const Element& element) const
 {
-    const quint64 width = quint64{1} << found.detail;
+    const quint64 width = quint64{1} << element.form;
     const quint64 kept = width > 8 ? 8 : width;
-    return QVariant::fromValue(static_cast<qint64>(*number(found.start + width - kept, kept)));
+    return static_cast<qint64>(m_objects.integer(element.start + width - kept, kept));
 }
 
-QVariant BinaryPropertyListGraph::real(const Content& found) const
+QVariant BinaryPropertyListGraph::real(const Element& element) const
 {
-    const quint64 bits = *number(found.start, quint64{1} << found.detail);
-    if (found.detail == 2)
-        return static_cast<double>(std::bit_cast<float>(static_cast<quint32>(bits)));
-    return std::bit_cast<double>(bits);
+    if (element.form == singlePrecision)
+        return static_cast<double>(
+            std::bit_cast<float>(static_cast<quint32>(m_objects.integer(element.start, sizeof(float)))));
+    return std::bit_cast<double>(m_objects.integer(element.start, sizeof(double)));
 }
 
-QVariant BinaryPropertyListGraph::text(const Content& found) const
+QVariant BinaryPropertyListGraph::date(const Element& element) const
 {
-    const char* bytes = m_bytes.constData() + found.start;
-    const auto length = static_cast<qsizetype>(found.count);
-    if (found.type == AsciiType)
-        return QString::fromLatin1(bytes, length);
+    return dateFromArchivedSeconds(std::bit_cast<double>(m_objects.integer(element.start, sizeof(double))));
+}
+
+QVariant BinaryPropertyListGraph::text(const Element& element) const
+{
+    const auto length = static_cast<qsizetype>(element.count);
+    if (element.form != wide)
+        return QString::fromLatin1(content(element), length);
     QString text(length, Qt::Uninitialized);
-    qFromBigEndian<char16_t>(bytes, length, text.data());
+    qFromBigEndian<char16_t>(content(element), length, text.data());
     return text;
 }
 
-quint64 BinaryPropertyListGraph::reference(Node node) const
+quint64 BinaryPropertyListGraph::reference(const Element& element) const
 {
-    const auto found = content(node);
-    const bool isReference = found && kindOf(*found) == Kind::Reference;
-    return isReference ? *number(found->start, found->count + 1) : noNode;
+    return element.kind == Kind::Reference ? m_objects.integer(element.start, quint64{element.form} + 1)
+                                           : noNode;
 }
 
-bool BinaryPropertyListGraph::addReferences(Node array, std::vector<quint64>& references) const
+bool BinaryPropertyListGraph::addReferences(const Element& array, std::vector<quint64>& references) const
 {
-    const auto found = content(array);
-    if (!found || found->type != ArrayType)
+    if (array.kind != Kind::Array)
         return false;
-    for (quint64 index = 0; index < found->count; ++index) {
-        const auto item = content(nodeAt(found->start, index));
-        if (!item || kindOf(*item) != Kind::Reference)
+    for (quint64 index = 0; index < array.count; ++index) {
+        const Objects::Object item = m_objects.object(nodeAt(array, index));
+        if (kindOf(item) != Kind::Reference)
             return false;
-        references.push_back(*number(item->start, item->count + 1));
+        references.push_back(m_objects.integer(item.start, quint64{item.detail} + 1));
     }
     return true;
 }
 
-quint64 BinaryPropertyListGraph::count(Node node) const
+PropertyListGraph::Node BinaryPropertyListGraph::nodeAt(const Element& container, quint64 index) const
 {
-    const auto found = content(node);
-    const bool isContainer = found && (found->type == ArrayType || found->type == DictionaryType);
-    return isContainer ? found->count : 0;
+    return m_objects.item({.start = container.start}, index);
 }
 
-PropertyListGraph::Node BinaryPropertyListGraph::nodeAt(quint64 start, quint64 index) const
+PropertyListGraph::Node BinaryPropertyListGraph::item(const Element& array, quint64 index) const
 {
-    return number(start + index * m_referenceWidth, m_referenceWidth).value_or(noNode);
+    const bool isThere = array.kind == Kind::Array && index < array.count;
+    return isThere ? nodeAt(array, index) : noNode;
 }
 
-PropertyListGraph::Node BinaryPropertyListGraph::item(Node array, quint64 index) const
+PropertyListGraph::Node BinaryPropertyListGraph::key(const Element& dictionary, quint64 index) const
 {
-    const auto found = content(array);
-    const bool isThere = found && found->type == ArrayType && index < found->count;
-    return isThere ? nodeAt(found->start, index) : noNode;
+    const bool isThere = dictionary.kind == Kind::Dictionary && index < dictionary.count;
+    return isThere ? nodeAt(dictionary, index) : noNode;
 }
 
-PropertyListGraph::Node BinaryPropertyListGraph::key(Node dictionary, quint64 index) const
+PropertyListGraph::Node BinaryPropertyListGraph::entry(const Element& dictionary, quint64 index) const
 {
-    const auto found = content(dictionary);
-    const bool isThere = found && found->type == DictionaryType && index < found->count;
-    return isThere ? nodeAt(found->start, index) : noNode;
+    const bool isThere = dictionary.kind == Kind::Dictionary && index < dictionary.count;
+    return isThere ? nodeAt(dictionary, dictionary.count + index) : noNode;
 }
 
-PropertyListGraph::Node BinaryPropertyListGraph::entry(Node dictionary, quint64 index) const
+bool BinaryPropertyListGraph::isText(const Element& element, QLatin1StringView wanted) const
 {
-    const auto found = content(dictionary);
-    const bool isThere = found && found->type == DictionaryType && index < found->count;
-    return isThere ? nodeAt(found->start, found->count + index) : noNode;
-}
-
-bool BinaryPropertyListGraph::isText(Node node, QLatin1StringView wanted) const
-{
-    const auto found = content(node);
-    if (!found || found->count != static_cast<quint64>(wanted.size()))
+    if (element.kind != Kind::Text || element.count != static_cast<quint64>(wanted.size()))
         return false;
-    if (found->type == Utf16Type)
-        return text(*found).toString() == wanted;
-    return found->type == AsciiType &&
-           QLatin1StringView(m_bytes.constData() + found->start, wanted.size()) == wanted;
+    if (element.form == wide)
+        return text(element).toString() == wanted;
+    return QLatin1StringView(content(element), wanted.size()) == wanted;
 }
 
 } // namespace quindle

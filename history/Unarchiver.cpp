@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <map>
+#include <utility>
 
 #include "common/NumberConversion.h"
 #include "common/ValueDescription.h"
@@ -32,6 +32,12 @@ quint64 unfoldedValues(quint64 size)
     return std::min(64 * size, 64 * million) + 4 * million;
 }
 
+bool isPlainNumber(PropertyListGraph::Kind kind)
+{
+    using Kind = PropertyListGraph::Kind;
+    return kind == Kind::Boolean || kind == Kind::Integer || kind == Kind::Real;
+}
+
 const char* const damagedObject = "an object is damaged";
 
 } // namespace
@@ -45,111 +51,106 @@ Unarchiver::Unarchiver(const PropertyListGraph& graph, quint64 size)
 
 bool Unarchiver::readRecords(QVariantList& records)
 {
-    Node root = PropertyListGraph::noNode;
+    Element root;
     if (!findRoot(root))
         return false;
-    if (m_graph.kind(root) != Kind::Dictionary || classOf(root) != ArchivedClass::Array)
+    if (root.kind != Kind::Dictionary || classOf(root) != ArchivedClass::Array)
         return fail("its root is no array");
     const auto elements = references(root, "NS.objects", "NS.object.");
     if (!elements)
         return fail(damagedObject);
-    Object whole;
+    quint64 weight = 0;
     records.reserve(static_cast<qsizetype>(elements->size()));
     for (const quint64 reference : *elements) {
-        const Object* record = object(reference, 1);
-        if (!record || !add(*record, whole))
+        Object record;
+        if (!object(reference, 1, record) || !add(record.weight, weight))
             return false;
-        if (record->value.typeId() != QMetaType::QVariantMap || record->hasNumberKeys)
+        if (record.value.typeId() != QMetaType::QVariantMap || record.hasNumberKeys)
             return fail("an element is no dictionary with text keys");
-        records.append(record->value);
+        records.append(std::move(record.value));
     }
     return true;
 }
 
-bool Unarchiver::findRoot(Node& root)
+bool Unarchiver::findRoot(Element& root)
 {
-    const Node archive = m_graph.root();
-    if (m_graph.kind(archive) != Kind::Dictionary)
+    const Element archive = m_graph.root();
+    if (archive.kind != Kind::Dictionary)
         return fail("it is no property list of an archive");
     if (!m_graph.isText(find(archive, "$archiver"), QLatin1StringView("NSKeyedArchiver")))
         return fail("it is no keyed archive");
     m_objects = find(archive, "$objects");
-    const quint64 count = m_graph.count(m_objects);
-    const Node reference = find(find(archive, "$top"), "root");
-    if (m_graph.kind(m_objects) != Kind::Array || count >= beingRead ||
-        m_graph.kind(reference) != Kind::Reference)
+    const Element reference = find(find(archive, "$top"), "root");
+    if (m_objects.kind != Kind::Array || m_objects.count >= beingRead || reference.kind != Kind::Reference)
         return fail("it has no root object");
-    m_positions.assign(count, notRead);
+    m_positions.assign(m_objects.count, notRead);
     root = resolved(reference);
     return true;
 }
 
 /// The object that a reference names, read now if it was not before.
-const Unarchiver::Object* Unarchiver::object(quint64 reference, int depth)
+bool Unarchiver::object(quint64 reference, int depth, Object& object)
 {
-    if (reference >= m_positions.size()) {
-        fail("a reference leads nowhere");
-        return nullptr;
-    }
+    if (reference >= m_positions.size())
+        return fail("a reference leads nowhere");
     const quint32 position = m_positions[reference];
-    if (position < beingRead)
-        return &m_read[position];
-    if (position == beingRead || depth > deepestNesting) {
-        fail(position == beingRead ? "an object contains itself" : "its objects are nested too deep");
-        return nullptr;
+    if (position < beingRead) {
+        object = m_read[position];
+        return true;
+    }
+    if (position == beingRead || depth > deepestNesting)
+        return fail(position == beingRead ? "an object contains itself" : "its objects are nested too deep");
+    const Element element = archived(reference);
+    if (isPlainNumber(element.kind)) {
+        object.value = m_graph.value(element);
+        return true;
     }
     m_positions[reference] = beingRead;
-    Object object;
-    if (!read(m_graph.item(m_objects, reference), depth, object)) {
-        fail(damagedObject);
-        return nullptr;
-    }
+    if (!read(element, depth, object))
+        return fail(damagedObject);
     m_positions[reference] = static_cast<quint32>(m_read.size());
-    m_read.push_back(std::move(object));
-    return &m_read.back();
+    m_read.push_back(object);
+    return true;
 }
 
-bool Unarchiver::read(Node node, int depth, Object& object)
+bool Unarchiver::read(const Element& element, int depth, Object& object)
 {
-    switch (m_graph.kind(node)) {
+    switch (element.kind) {
     case Kind::Dictionary:
-        return readInstance(node, depth, object);
+        return readInstance(element, depth, object);
     case Kind::Null:
         return true;
     case Kind::Text:
-        return m_graph.isText(node, QLatin1StringView("$null")) || readText(node, object);
+        return m_graph.isText(element, QLatin1StringView("$null")) || readText(element, object);
     case Kind::Data:
-        return readData(node, object);
-    case Kind::Boolean:
-    case Kind::Integer:
-    case Kind::Real:
+        return readData(element, object);
     case Kind::Date:
-        object.value = m_graph.value(node);
+        object.value = m_graph.value(element);
         return object.value.isValid();
     default:
         return false;
     }
 }
 
-bool Unarchiver::readInstance(Node node, int depth, Object& object)
+bool Unarchiver::readInstance(const Element& element, int depth, Object& object)
 {
-    if (!spend(m_graph.count(node)))
+    if (!spend(element.count))
         return false;
-    switch (classOf(node)) {
+    switch (classOf(element)) {
     case ArchivedClass::Array:
-        return readArray(node, depth, object);
+        return readArray(element, depth, object);
     case ArchivedClass::Dictionary:
-        return readDictionary(node, depth, object);
+        return readDictionary(element, depth, object);
     case ArchivedClass::Text: {
-        const Node text = resolved(find(node, "NS.string"));
-        return readText(text != PropertyListGraph::noNode ? text : resolved(find(node, "NS.bytes")), object);
+        const Element text = resolved(find(element, "NS.string"));
+        return readText(text.kind != Kind::Missing ? text : resolved(find(element, "NS.bytes")), object);
     }
     case ArchivedClass::Data:
-        return readData(resolved(find(node, "NS.data")), object);
+        return readData(resolved(find(element, "NS.data")), object);
     case ArchivedClass::Date:
-        return readDate(node, object);
+        return readDate(element, object);
     case ArchivedClass::Number:
-        return readNumber(node, object);
+        return readNumber(element, object);
     case ArchivedClass::Null:
         return true;
     case ArchivedClass::Unknown:
@@ -158,54 +159,77 @@ bool Unarchiver::readInstance(Node node, int depth, Object& object)
     return fail("an object is of a class that is not known");
 }
 
-bool Unarchiver::readArray(Node node, int depth, Object& object)
+bool Unarchiver::readArray(const Element& element, int depth, Object& object)
 {
-    const auto items = references(node, "NS.objects", "NS.object.");
+    const auto items = references(element, "NS.objects", "NS.object.");
     if (!items)
         return false;
     QVariantList list;
     list.reserve(static_cast<qsizetype>(items->size()));
     for (const quint64 reference : *items) {
-        const Object* item = this->object(reference, depth + 1);
-        if (!item || !add(*item, object))
+        Object item;
+        if (!this->object(reference, depth + 1, item) || !add(item.weight, object.weight))
             return false;
-        list.append(item->value);
+        list.append(std::move(item.value));
     }
     object.value = list;
     return true;
 }
 
-bool Unarchiver::readDictionary(Node node, int depth, Object& object)
+bool Unarchiver::readDictionary(const Element& element, int depth, Object& object)
 {
-    const auto keys = references(node, "NS.keys", "NS.key.");
-    const auto values = references(node, "NS.objects", "NS.object.");
-    if (!keys || !values || keys->size() != values->size())
+    const auto keyReferences = references(element, "NS.keys", "NS.key.");
+    const auto values = references(element, "NS.objects", "NS.object.");
+    if (!keyReferences || !values || keyReferences->size() != values->size())
         return false;
-    QVariantMap map;
-    for (std::size_t index = 0; index < keys->size(); ++index) {
-        const Object* key = this->object((*keys)[index], depth + 1);
-        const Object* value = key ? this->object((*values)[index], depth + 1) : nullptr;
-        if (!value || !insertKey(*key, *value, map, object))
+    const KeyList* keys = keyList(*keyReferences, depth + 1);
+    if (!keys || !add(keys->weight, object.weight))
+        return false;
+    std::map<QString, QVariant> map;
+    for (const Key& key : keys->sorted) {
+        Object value;
+        if (!this->object((*values)[key.index], depth + 1, value) || !add(value.weight, object.weight))
             return false;
+        map.insert_or_assign(map.end(), key.text, std::move(value.value));
     }
-    object.value = map;
+    object.value = QVariantMap(std::move(map));
+    object.hasNumberKeys = keys->hasNumbers;
     return true;
 }
 
-bool Unarchiver::insertKey(const Object& key, const Object& value, QVariantMap& map, Object& object)
+/// Nothing when one of the references leads to what can be no key.
+const Unarchiver::KeyList* Unarchiver::keyList(const References& references, int depth)
 {
+    const auto known = m_keyLists.find(references);
+    if (known != m_keyLists.end())
+        return &known->second;
+    KeyList list;
+    list.sorted.reserve(references.size());
+    for (const quint64 reference : references)
+        if (!readKey(reference, depth, list))
+            return nullptr;
+    std::stable_sort(list.sorted.begin(), list.sorted.end(),
+                     [](const Key& left, const Key& right) { return left.text < right.text; });
+    return &m_keyLists.emplace(references, std::move(list)).first->second;
+}
+
+bool Unarchiver::readKey(quint64 reference, int depth, KeyList& list)
+{
+    Object key;
+    if (!object(reference, depth, key))
+        return false;
     const bool isText = key.value.typeId() == QMetaType::QString;
     if (!isText && !isNumber(key.value))
         return false;
-    object.hasNumberKeys = object.hasNumberKeys || !isText;
-    map.insert(isText ? key.value.toString() : numberDescription(key.value), value.value);
-    return add(key, object) && add(value, object);
+    list.hasNumbers = list.hasNumbers || !isText;
+    list.sorted.push_back({isText ? key.value.toString() : numberDescription(key.value), list.sorted.size()});
+    return add(key.weight, list.weight);
 }
 
 /// From a text as well as from its UTF-8 bytes.
-bool Unarchiver::readText(Node node, Object& object)
+bool Unarchiver::readText(const Element& element, Object& object)
 {
-    const QVariant value = m_graph.value(node);
+    const QVariant value = m_graph.value(element);
     if (value.typeId() == QMetaType::QByteArray)
         object.value = QString::fromUtf8(value.toByteArray());
     else if (value.typeId() == QMetaType::QString)
@@ -217,9 +241,9 @@ bool Unarchiver::readText(Node node, Object& object)
     return spend(length / charactersOfValue);
 }
 
-bool Unarchiver::readData(Node node, Object& object)
+bool Unarchiver::readData(const Element& element, Object& object)
 {
-    object.value = m_graph.value(node);
+    object.value = m_graph.value(element);
     if (object.value.typeId() != QMetaType::QByteArray)
         return false;
     const auto length = static_cast<quint64>(object.value.toByteArray().size());
@@ -227,29 +251,29 @@ bool Unarchiver::readData(Node node, Object& object)
     return spend(length / charactersOfValue);
 }
 
-bool Unarchiver::readDate(Node node, Object& object)
+bool Unarchiver::readDate(const Element& element, Object& object)
 {
-    const auto seconds = convertToDouble(m_graph.value(resolved(find(node, "NS.time"))));
+    const auto seconds = convertToDouble(m_graph.value(resolved(find(element, "NS.time"))));
     if (!seconds)
         return false;
     object.value = dateFromArchivedSeconds(*seconds);
     return object.value.isValid();
 }
 
-bool Unarchiver::readNumber(Node node, Object& object)
+bool Unarchiver::readNumber(const Element& element, Object& object)
 {
     for (const char* key : {"NS.number", "NS.boolval", "NS.intval", "NS.dblval"}) {
-        object.value = m_graph.value(resolved(find(node, key)));
+        object.value = m_graph.value(resolved(find(element, key)));
         if (isNumber(object.value))
             return true;
     }
     return false;
 }
 
-ArchivedClass Unarchiver::classOf(Node node)
+ArchivedClass Unarchiver::classOf(const Element& instance)
 {
-    const Node description = find(node, "$class");
-    if (m_graph.kind(description) != Kind::Reference)
+    const Element description = find(instance, "$class");
+    if (description.kind != Kind::Reference)
         return ArchivedClass::Unknown;
     const quint64 reference = m_graph.reference(description);
     const auto known = m_classes.constFind(reference);
@@ -261,70 +285,73 @@ ArchivedClass Unarchiver::classOf(Node node)
 }
 
 /// The first class that is known, from the object's own up through those it inherits from.
-ArchivedClass Unarchiver::readClass(Node description)
+ArchivedClass Unarchiver::readClass(const Element& description)
 {
     const ArchivedClass own = archivedClass(m_graph, find(description, "$classname"));
-    const Node inherited = find(description, "$classes");
-    const quint64 count = m_graph.kind(inherited) == Kind::Array ? m_graph.count(inherited) : 0;
-    if (own != ArchivedClass::Unknown || !spend(m_graph.count(description) + count))
+    const Element inherited = find(description, "$classes");
+    const quint64 count = inherited.kind == Kind::Array ? inherited.count : 0;
+    if (own != ArchivedClass::Unknown || !spend(description.count + count))
         return own;
     for (quint64 index = 0; index < count; ++index) {
-        const ArchivedClass archived = archivedClass(m_graph, m_graph.item(inherited, index));
+        const ArchivedClass archived =
+            archivedClass(m_graph, m_graph.element(m_graph.item(inherited, index)));
         if (archived != ArchivedClass::Unknown)
             return archived;
     }
     return ArchivedClass::Unknown;
 }
 
-PropertyListGraph::Node Unarchiver::find(Node dictionary, const char* key) const
+PropertyListGraph::Element Unarchiver::find(const Element& dictionary, const char* key) const
 {
-    if (m_graph.kind(dictionary) != Kind::Dictionary)
-        return PropertyListGraph::noNode;
-    const quint64 count = m_graph.count(dictionary);
-    for (quint64 index = 0; index < count; ++index)
-        if (m_graph.isText(m_graph.key(dictionary, index), QLatin1StringView(key)))
-            return m_graph.entry(dictionary, index);
-    return PropertyListGraph::noNode;
+    if (dictionary.kind != Kind::Dictionary)
+        return {};
+    for (quint64 index = 0; index < dictionary.count; ++index)
+        if (m_graph.isText(m_graph.element(m_graph.key(dictionary, index)), QLatin1StringView(key)))
+            return m_graph.element(m_graph.entry(dictionary, index));
+    return {};
 }
 
-/// What a reference leads to; any other node is itself.
-PropertyListGraph::Node Unarchiver::resolved(Node node) const
+/// What a reference leads to; any other element is itself.
+PropertyListGraph::Element Unarchiver::resolved(const Element& element) const
 {
-    if (m_graph.kind(node) != Kind::Reference)
-        return node;
-    return m_graph.item(m_objects, m_graph.reference(node));
+    return element.kind == Kind::Reference ? archived(m_graph.reference(element)) : element;
+}
+
+PropertyListGraph::Element Unarchiver::archived(quint64 reference) const
+{
+    return m_graph.element(m_graph.item(m_objects, reference));
 }
 
 /// The references in a list, or those that older encoders number one by one.
-std::optional<Unarchiver::References> Unarchiver::references(Node node, const char* list,
+std::optional<Unarchiver::References> Unarchiver::references(const Element& element, const char* list,
                                                              const char* numbered)
 {
-    const Node found = find(node, list);
-    return found == PropertyListGraph::noNode ? numberedReferences(node, numbered) : listedReferences(found);
+    const Element found = find(element, list);
+    return found.kind == Kind::Missing ? numberedReferences(element, numbered) : listedReferences(found);
 }
 
-std::optional<Unarchiver::References> Unarchiver::listedReferences(Node list)
+std::optional<Unarchiver::References> Unarchiver::listedReferences(const Element& list)
 {
-    const quint64 count = m_graph.count(list);
-    if (!spend(count))
+    if (list.kind != Kind::Array || !spend(list.count))
         return std::nullopt;
     References found;
-    found.reserve(count);
+    found.reserve(list.count);
     if (!m_graph.addReferences(list, found))
         return std::nullopt;
     return found;
 }
 
-std::optional<Unarchiver::References> Unarchiver::numberedReferences(Node node, const char* prefix)
+std::optional<Unarchiver::References> Unarchiver::numberedReferences(const Element& element,
+                                                                     const char* prefix)
 {
     const QLatin1StringView start(prefix);
     std::map<quint64, quint64> numbered;
-    for (quint64 index = 0; index < m_graph.count(node); ++index) {
-        const QString key = m_graph.value(m_graph.key(node, index)).toString();
+    for (quint64 index = 0; index < element.count; ++index) {
+        const QString key = m_graph.value(m_graph.element(m_graph.key(element, index))).toString();
         bool isNumber = false;
         const quint64 number = key.startsWith(start) ? key.mid(start.size()).toULongLong(&isNumber) : 0;
-        const Node entry = m_graph.entry(node, index);
-        if (isNumber && m_graph.kind(entry) == Kind::Reference)
+        const Element entry = m_graph.element(m_graph.entry(element, index));
+        if (isNumber && entry.kind == Kind::Reference)
             numbered.insert_or_assign(number, m_graph.reference(entry));
     }
     References found;
@@ -345,11 +372,10 @@ bool Unarchiver::spend(quint64 values)
 }
 
 /// Counts shared parts as often as they appear: what is made here is walked through as a tree.
-bool Unarchiver::add(const Object& part, Object& whole)
+bool Unarchiver::add(quint64 weight, quint64& whole)
 {
-    whole.weight += part.weight;
-    return whole.weight <= m_unfoldedAllowed ||
-           fail("its shared objects unfold to more than it has room for");
+    whole += weight;
+    return whole <= m_unfoldedAllowed || fail("its shared objects unfold to more than it has room for");
 }
 
 /// The first reason is the one that is told.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -27,7 +28,7 @@ public:
     const QString& fault() const { return m_fault; }
 
 private:
-    using Node = PropertyListGraph::Node;
+    using Element = PropertyListGraph::Element;
     using Kind = PropertyListGraph::Kind;
     using References = std::vector<quint64>;
 
@@ -38,36 +39,54 @@ private:
         bool hasNumberKeys = false; ///< of a dictionary
     };
 
-    bool findRoot(Node& root);
-    const Object* object(quint64 reference, int depth);
-    bool read(Node node, int depth, Object& object);
-    bool readInstance(Node node, int depth, Object& object);
-    bool readArray(Node node, int depth, Object& object);
-    bool readDictionary(Node node, int depth, Object& object);
-    bool readText(Node node, Object& object);
-    bool readData(Node node, Object& object);
-    bool readDate(Node node, Object& object);
-    bool readNumber(Node node, Object& object);
-    bool insertKey(const Object& key, const Object& value, QVariantMap& map, Object& object);
+    struct Key
+    {
+        QString text;
+        quint64 index = 0; ///< of its value
+    };
 
-    ArchivedClass classOf(Node node);
-    ArchivedClass readClass(Node description);
-    Node find(Node dictionary, const char* key) const;
-    Node resolved(Node node) const;
-    std::optional<References> references(Node node, const char* list, const char* numbered);
-    std::optional<References> listedReferences(Node list);
-    std::optional<References> numberedReferences(Node node, const char* prefix);
+    /// Keys of a dictionary in the order in which a map holds them, of equal ones the last one last. Records
+    /// have the same keys, so these are sorted once and the maps are filled from front to end.
+    struct KeyList
+    {
+        std::vector<Key> sorted;
+        quint64 weight = 0;
+        bool hasNumbers = false;
+    };
+
+    bool findRoot(Element& root);
+    bool object(quint64 reference, int depth, Object& object);
+    bool read(const Element& element, int depth, Object& object);
+    bool readInstance(const Element& element, int depth, Object& object);
+    bool readArray(const Element& element, int depth, Object& object);
+    bool readDictionary(const Element& element, int depth, Object& object);
+    const KeyList* keyList(const References& references, int depth);
+    bool readKey(quint64 reference, int depth, KeyList& list);
+    bool readText(const Element& element, Object& object);
+    bool readData(const Element& element, Object& object);
+    bool readDate(const Element& element, Object& object);
+    bool readNumber(const Element& element, Object& object);
+
+    ArchivedClass classOf(const Element& instance);
+    ArchivedClass readClass(const Element& description);
+    Element find(const Element& dictionary, const char* key) const;
+    Element resolved(const Element& element) const;
+    Element archived(quint64 reference) const;
+    std::optional<References> references(const Element& element, const char* list, const char* numbered);
+    std::optional<References> listedReferences(const Element& list);
+    std::optional<References> numberedReferences(const Element& element, const char* prefix);
 
     bool spend(quint64 values);
-    bool add(const Object& part, Object& whole);
+    bool add(quint64 weight, quint64& whole);
     bool fail(const char* reason);
 
     const PropertyListGraph& m_graph;
     quint64 m_left; ///< values that may still be read
     quint64 m_unfoldedAllowed;
-    Node m_objects = PropertyListGraph::noNode;
+    Element m_objects;
     std::vector<quint32> m_positions; ///< in m_read, by reference; or one of the two marks
-    std::deque<Object> m_read;
+    std::deque<Object> m_read;        ///< all but plain numbers, which are as cheap to read again
+    std::map<References, KeyList> m_keyLists;
     QHash<quint64, ArchivedClass> m_classes; ///< by reference
     QString m_fault;
 };

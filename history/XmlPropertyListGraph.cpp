@@ -163,98 +163,91 @@ bool XmlPropertyListGraph::end()
     return true;
 }
 
-void XmlPropertyListGraph::add(Element element)
+void XmlPropertyListGraph::add(StoredElement element)
 {
     m_open.back().children.push_back(m_elements.size());
     m_elements.push_back(std::move(element));
 }
 
-XmlPropertyListGraph::Element XmlPropertyListGraph::closed(const OpenElement& container)
+XmlPropertyListGraph::StoredElement XmlPropertyListGraph::closed(const OpenElement& container)
 {
     const std::vector<Node>& children = container.children;
     if (container.kind == Kind::Dictionary && children.size() == 2) {
-        const Element& key = m_elements[children[0]];
-        const Element& number = m_elements[children[1]];
+        const StoredElement& key = m_elements[children[0]];
+        const StoredElement& number = m_elements[children[1]];
         if (number.kind == Kind::Integer && key.value.toString() == u"CF$UID")
             return {.kind = Kind::Reference, .value = number.value};
     }
-    const Element element{
+    const StoredElement element{
         .kind = container.kind, .value = {}, .firstChild = m_children.size(), .childCount = children.size()};
     m_children.insert(m_children.end(), children.cbegin(), children.cend());
     return element;
 }
 
-const XmlPropertyListGraph::Element* XmlPropertyListGraph::element(Node node) const
+PropertyListGraph::Element XmlPropertyListGraph::element(Node node) const
 {
-    return node < m_elements.size() ? &m_elements[node] : nullptr;
+    if (node >= m_elements.size())
+        return {.kind = Kind::Invalid};
+    const StoredElement& found = m_elements[node];
+    const quint64 count = found.kind == Kind::Dictionary ? found.childCount / 2 : found.childCount;
+    return {.kind = found.kind, .start = node, .count = count};
 }
 
-PropertyListGraph::Kind XmlPropertyListGraph::kind(Node node) const
+const XmlPropertyListGraph::StoredElement& XmlPropertyListGraph::stored(const Element& element) const
 {
-    const Element* found = element(node);
-    return found ? found->kind : Kind::Invalid;
+    return m_elements[element.start];
 }
 
-QVariant XmlPropertyListGraph::value(Node node) const
+QVariant XmlPropertyListGraph::value(const Element& element) const
 {
-    const Element* found = element(node);
-    return found && found->kind != Kind::Reference ? found->value : QVariant();
+    const bool hasValue = element.kind > Kind::Invalid && element.kind != Kind::Reference;
+    return hasValue ? stored(element).value : QVariant();
 }
 
-quint64 XmlPropertyListGraph::reference(Node node) const
+quint64 XmlPropertyListGraph::reference(const Element& element) const
 {
-    const Element* found = element(node);
-    return found && found->kind == Kind::Reference ? found->value.toULongLong() : noNode;
+    return element.kind == Kind::Reference ? stored(element).value.toULongLong() : noNode;
 }
 
-quint64 XmlPropertyListGraph::count(Node node) const
+PropertyListGraph::Node XmlPropertyListGraph::child(const Element& element, quint64 index) const
 {
-    const Element* found = element(node);
-    if (!found)
-        return 0;
-    return found->kind == Kind::Dictionary ? found->childCount / 2 : found->childCount;
+    return m_children[stored(element).firstChild + index];
 }
 
-PropertyListGraph::Node XmlPropertyListGraph::child(Node node, Kind wanted, quint64 index) const
+PropertyListGraph::Node XmlPropertyListGraph::item(const Element& array, quint64 index) const
 {
-    const Element* found = element(node);
-    const bool isThere = found && found->kind == wanted && index < found->childCount;
-    return isThere ? m_children[found->firstChild + index] : noNode;
+    const bool isThere = array.kind == Kind::Array && index < array.count;
+    return isThere ? child(array, index) : noNode;
 }
 
-PropertyListGraph::Node XmlPropertyListGraph::item(Node array, quint64 index) const
+bool XmlPropertyListGraph::addReferences(const Element& array, std::vector<quint64>& references) const
 {
-    return child(array, Kind::Array, index);
-}
-
-bool XmlPropertyListGraph::addReferences(Node array, std::vector<quint64>& references) const
-{
-    const Element* found = element(array);
-    if (!found || found->kind != Kind::Array)
+    if (array.kind != Kind::Array)
         return false;
-    for (quint64 index = 0; index < found->childCount; ++index) {
-        const Node node = m_children[found->firstChild + index];
-        if (kind(node) != Kind::Reference)
+    for (quint64 index = 0; index < array.count; ++index) {
+        const StoredElement& item = m_elements[child(array, index)];
+        if (item.kind != Kind::Reference)
             return false;
-        references.push_back(reference(node));
+        references.push_back(item.value.toULongLong());
     }
     return true;
 }
 
-PropertyListGraph::Node XmlPropertyListGraph::key(Node dictionary, quint64 index) const
+PropertyListGraph::Node XmlPropertyListGraph::key(const Element& dictionary, quint64 index) const
 {
-    return child(dictionary, Kind::Dictionary, index * 2);
+    const bool isThere = dictionary.kind == Kind::Dictionary && index < dictionary.count;
+    return isThere ? child(dictionary, index * 2) : noNode;
 }
 
-PropertyListGraph::Node XmlPropertyListGraph::entry(Node dictionary, quint64 index) const
+PropertyListGraph::Node XmlPropertyListGraph::entry(const Element& dictionary, quint64 index) const
 {
-    return child(dictionary, Kind::Dictionary, index * 2 + 1);
+    const bool isThere = dictionary.kind == Kind::Dictionary && index < dictionary.count;
+    return isThere ? child(dictionary, index * 2 + 1) : noNode;
 }
 
-bool XmlPropertyListGraph::isText(Node node, QLatin1StringView text) const
+bool XmlPropertyListGraph::isText(const Element& element, QLatin1StringView text) const
 {
-    const Element* found = element(node);
-    return found && found->kind == Kind::Text && found->value.toString() == text;
+    return element.kind == Kind::Text && stored(element).value.toString() == text;
 }
 
 } // namespace quindle

@@ -18,19 +18,18 @@ class XmlPropertyListGraph : public PropertyListGraph
 public:
     explicit XmlPropertyListGraph(const QByteArray& bytes);
 
-    Node root() const override { return m_root; }
-    Kind kind(Node node) const override;
-    QVariant value(Node node) const override;
-    quint64 reference(Node node) const override;
-    quint64 count(Node node) const override;
-    Node item(Node array, quint64 index) const override;
-    bool addReferences(Node array, std::vector<quint64>& references) const override;
-    Node key(Node dictionary, quint64 index) const override;
-    Node entry(Node dictionary, quint64 index) const override;
-    bool isText(Node node, QLatin1StringView text) const override;
+    Element root() const override { return element(m_root); }
+    Element element(Node node) const override;
+    QVariant value(const Element& element) const override;
+    quint64 reference(const Element& element) const override;
+    Node item(const Element& array, quint64 index) const override;
+    bool addReferences(const Element& array, std::vector<quint64>& references) const override;
+    Node key(const Element& dictionary, quint64 index) const override;
+    Node entry(const Element& dictionary, quint64 index) const override;
+    bool isText(const Element& element, QLatin1StringView text) const override;
 
 private:
-    struct Element
+    struct StoredElement
     {
         Kind kind = Kind::Invalid;
         QVariant value;         ///< of a scalar, and the number of a reference
@@ -47,12 +46,12 @@ private:
     bool begin(QXmlStreamReader& xml);
     bool addScalar(QXmlStreamReader& xml, QStringView name);
     bool end();
-    void add(Element element);
-    Element closed(const OpenElement& container);
-    const Element* element(Node node) const;
-    Node child(Node node, Kind kind, quint64 index) const;
+    void add(StoredElement element);
+    StoredElement closed(const OpenElement& container);
+    const StoredElement& stored(const Element& element) const;
+    Node child(const Element& element, quint64 index) const;
 
-    std::vector<Element> m_elements;
+    std::vector<StoredElement> m_elements;
     std::vector<Node> m_children;
     std::vector<OpenElement> m_open;
     Node m_root = noNode;

@@ -13,8 +13,6 @@
 
 QT_BEGIN_NAMESPACE
 class QNetworkAccessManager;
-class QNetworkRequest;
-class QUrl;
 QT_END_NAMESPACE
 
 namespace quindle {
@@ -44,8 +42,6 @@ public:
               std::function<void(int status, const QByteArray& body)> answered) override;
 
 private:
-    QNetworkRequest requestFor(const QUrl& url, qsizetype length) const;
-
     HttpsLimits m_limits;
     std::optional<QSslConfiguration> m_configuration;
     std::unique_ptr<QNetworkAccessManager> m_manager; ///< made for the first post

@@ -6,41 +6,24 @@
 #include <future>
 #include <memory>
 #include <optional>
-#include <thread>
-#include <vector>
+#include <utility>
 
-#include <netdb.h>
 #include <poll.h>
 #include <sys/socket.h>
 
 #include "platform/linux/FileDescriptor.h"
+#include "platform/linux/HostAddresses.h"
 
 namespace quindle {
 
 namespace {
 
-struct AddressesFree
+HostAddresses lookUpUntil(const QString& host, int port, Deadline deadline)
 {
-    void operator()(addrinfo* addresses) const { freeaddrinfo(addresses); }
-};
-using Addresses = std::unique_ptr<addrinfo, AddressesFree>;
-
-Addresses resolve(const QByteArray& host, const QByteArray& port)
-{
-    addrinfo hints{};
-    hints.ai_socktype = SOCK_STREAM;
-    hints.ai_flags = AI_ADDRCONFIG;
-    addrinfo* found = nullptr;
-    return Addresses(getaddrinfo(host.constData(), port.constData(), &hints, &found) == 0 ? found : nullptr);
-}
-
-/// The resolver knows no deadline: a thread of its own asks it, and is left to itself when it takes too long.
-Addresses resolveUntil(const QString& host, int port, Deadline deadline)
-{
-    std::packaged_task<Addresses()> task(
-        [name = host.toLatin1(), service = QByteArray::number(port)] { return resolve(name, service); });
-    std::future<Addresses> addresses = task.get_future();
-    std::thread(std::move(task)).detach();
+    const auto promise = std::make_shared<std::promise<HostAddresses>>();
+    std::future<HostAddresses> addresses = promise->get_future();
+    lookUpHost(host.toLatin1(), port,
+               [promise](HostAddresses found) { promise->set_value(std::move(found)); });
     if (addresses.wait_until(deadline) != std::future_status::ready)
         return nullptr;
     return addresses.get();
@@ -80,7 +63,7 @@ std::optional<FileDescriptor> connectTo(const addrinfo& address, Deadline deadli
 }
 
 /// An address that does not answer gets no more than its share of the time.
-std::optional<FileDescriptor> connectToAny(const Addresses& addresses, Deadline deadline)
+std::optional<FileDescriptor> connectToAny(const HostAddresses& addresses, Deadline deadline)
 {
     int count = 0;
     for (const addrinfo* address = addresses.get(); address; address = address->ai_next)
@@ -113,7 +96,7 @@ bool sendAll(int socket, const QByteArray& bytes, Deadline deadline)
 void exchangeOverTcp(const QString& host, int port, const QByteArray& request, Deadline deadline,
                      const std::function<bool(const QByteArray& bytes, bool isAtEnd)>& received)
 {
-    const auto own = connectToAny(resolveUntil(host, port, deadline), deadline);
+    const auto own = connectToAny(lookUpUntil(host, port, deadline), deadline);
     if (!own || !sendAll(own->get(), request, deadline))
         return;
     QByteArray bytes;

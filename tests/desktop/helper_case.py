@@ -55,10 +55,14 @@ class HelperCase(unittest.TestCase):
         cls.desktop.__enter__()
         cls.addClassCleanup(cls.desktop.close)
 
-    def start(self, computer, name="machine.plist"):
+    def machine_file(self, computer, name):
         path = self.desktop.root / name
         path.write_bytes(plistlib.dumps(computer))
-        process = self.desktop.start(HELPER, env={"QUINDLE_MACHINE": str(path)})
+        return path
+
+    def start(self, computer, name="machine.plist", program=HELPER, env=None):
+        path = self.machine_file(computer, name)
+        process = self.desktop.start(program, env={"QUINDLE_MACHINE": str(path), **(env or {})})
         self.addCleanup(self.stop, process)
         return process
 

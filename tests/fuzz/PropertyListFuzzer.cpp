@@ -9,7 +9,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!value || !value->isValid())
         return 0;
     // What is written is read again, and reads the same from then on.
-    const auto again = propertyListFromBytes(xmlPropertyList(*value));
+    const QByteArray written = xmlPropertyList(*value);
+    if (written.isEmpty())
+        return 0; // nothing but a date that XML cannot hold
+    const auto again = propertyListFromBytes(written);
     expect(again.has_value());
     expect(xmlPropertyList(*again) ==
            xmlPropertyList(propertyListFromBytes(xmlPropertyList(*again)).value()));

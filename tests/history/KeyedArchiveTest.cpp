@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <random>
 
 #include <QDateTime>
@@ -103,6 +104,90 @@ INSTANTIATE_TEST_SUITE_P(Encodings, KeyedArchive, testing::Values("two-records.b
                              return std::string(encoding.param).find("xml") == std::string::npos ? "Binary"
                                                                                                  : "Xml";
                          });
+
+QByteArray uid(int number)
+{
+    return "<dict><key>CF$UID</key><integer>" + QByteArray::number(number) + "</integer></dict>";
+}
+
+QByteArray uids(std::initializer_list<int> numbers)
+{
+    QByteArray list;
+    for (const int number : numbers)
+        list += uid(number);
+    return "<array>" + list + "</array>";
+}
+
+/// The objects 0 to 2 are null and the two classes; `objects` are those from 3, the root.
+QByteArray archiveOf(const QByteArray& objects)
+{
+    const auto aClass = [](const QByteArray& name) {
+        return "<dict><key>$classname</key><string>" + name + "</string></dict>";
+    };
+    return "<plist><dict><key>$archiver</key><string>NSKeyedArchiver</string><key>$top</key><dict>"
+           "<key>root</key>" +
+           uid(3) + "</dict><key>$objects</key><array><string>$null</string>" + aClass("NSArray") +
+           aClass("NSDictionary") + objects + "</array></dict></plist>";
+}
+
+QByteArray array(const QByteArray& items)
+{
+    return "<dict><key>$class</key>" + uid(1) + "<key>NS.objects</key>" + items + "</dict>";
+}
+
+QByteArray dictionary(const QByteArray& keys, const QByteArray& values)
+{
+    return "<dict><key>$class</key>" + uid(2) + "<key>NS.keys</key>" + keys + "<key>NS.objects</key>" +
+           values + "</dict>";
+}
+
+const char* const abTexts = "<string>b</string><string>a</string>";
+const char* const oneTwoThree = "<integer>1</integer><integer>2</integer><integer>3</integer>";
+
+TEST(KeyedArchiveKeys, RecordsMayHaveThemInAnyOrder)
+{
+    const ArchivedRecords read =
+        recordsFromKeyedArchive(archiveOf(array(uids({4, 5, 6})) + dictionary(uids({7, 8}), uids({9, 10})) +
+                                          dictionary(uids({7, 8}), uids({10, 11})) +
+                                          dictionary(uids({8, 7}), uids({9, 10})) + abTexts + oneTwoThree));
+    EXPECT_EQ(read.fault, QString());
+    const auto record = [](qint64 a, qint64 b) {
+        return QVariant(QVariantMap{{QStringLiteral("a"), a}, {QStringLiteral("b"), b}});
+    };
+    EXPECT_EQ(read.records, (QVariantList{record(2, 1), record(3, 2), record(1, 2)}));
+}
+
+TEST(KeyedArchiveKeys, OfEqualOnesTheLastCounts)
+{
+    const ArchivedRecords read = recordsFromKeyedArchive(
+        archiveOf(array(uids({4})) + dictionary(uids({5, 6, 5}), uids({7, 8, 9})) + abTexts + oneTwoThree));
+    EXPECT_EQ(read.fault, QString());
+    EXPECT_EQ(read.records, (QVariantList{QVariantMap{{QStringLiteral("a"), qint64{2}},
+                                                      {QStringLiteral("b"), qint64{3}}}}));
+}
+
+TEST(KeyedArchiveKeys, ThatAreNumbersSpoilARecordEachTime)
+{
+    const QByteArray keyedByNumber = dictionary(uids({6}), uids({6}));
+    const ArchivedRecords inside =
+        recordsFromKeyedArchive(archiveOf(array(uids({4})) + dictionary(uids({5}), uids({7})) +
+                                          "<string>a</string>" + "<integer>1</integer>" + keyedByNumber));
+    EXPECT_EQ(
+        inside.records,
+        (QVariantList{QVariantMap{{QStringLiteral("a"), QVariantMap{{QStringLiteral("1"), qint64{1}}}}}}));
+    const ArchivedRecords outside = recordsFromKeyedArchive(
+        archiveOf(array(uids({4, 5})) + dictionary(uids({8}), uids({7})) + keyedByNumber +
+                  "<integer>1</integer>" + keyedByNumber + "<string>a</string>"));
+    EXPECT_EQ(outside.fault, QStringLiteral("an element is no dictionary with text keys"));
+}
+
+TEST(KeyedArchiveKeys, HaveAsManyValues)
+{
+    for (const auto& values : {uids({7}), uids({7, 8, 9}), QByteArray("<string>none</string>")})
+        EXPECT_FALSE(recordsFromKeyedArchive(archiveOf(array(uids({4})) + dictionary(uids({5, 6}), values) +
+                                                       abTexts + oneTwoThree))
+                         .fault.isEmpty());
+}
 
 TEST(KeyedArchiveGarbage, TenMegabytesAreAnsweredQuickly)
 {

@@ -47,4 +47,15 @@ TEST(FarPropertyListDates, Binary)
         propertyListFromBytes(binaryDate(std::numeric_limits<double>::quiet_NaN())).value().isValid());
 }
 
+// Dates after the year 9999 were written as empty ones, which spoiled the whole list for its reader.
+TEST(FarPropertyListDates, ThatXmlCannotHoldAreLeftOut)
+{
+    for (const qint64 milliseconds : {qint64{9'000'000'000'000'000}, qint64{-9'000'000'000'000'000}}) {
+        const QVariantList list{QDateTime::fromMSecsSinceEpoch(milliseconds), qint64{1}};
+        const auto again = propertyListFromBytes(xmlPropertyList(list));
+        ASSERT_TRUE(again.has_value());
+        EXPECT_EQ(again->toList(), QVariantList{qint64{1}});
+    }
+}
+
 } // namespace

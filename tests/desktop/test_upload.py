@@ -1,0 +1,157 @@
+#!/usr/bin/env python3
+"""The daily upload of the real helper: what arrives, when, and that quitting does not wait for it."""
+
+import base64
+import datetime
+import json
+import os
+import re
+import shutil
+import socket
+import subprocess
+import sys
+import time
+import unittest
+from pathlib import Path
+
+import helper_case
+from helper_case import SOURCE, SUITE, HelperCase, battery, machine, wait_for
+
+sys.path.insert(0, str(SOURCE / "tests" / "platform" / "linux-https"))
+from https_case import HttpsCase  # noqa: E402
+from https_server import Server, answers, drips, never_answers  # noqa: E402
+
+INSPECT, NETWORK, LOOKUP = (os.environ[name] for name in
+                            ("QUINDLE_INSPECT", "QUINDLE_TRUSTING_NETWORK", "QUINDLE_HANGING_LOOKUP"))
+LAUNCHED = datetime.datetime(2024, 5, 1, 12)
+SERIAL = "D865033Y2CXF9CPAW"
+AT_ONCE = 1.0  # seconds from the choice in the menu to the end of the process
+
+
+def computer(host, seconds, auto_upload=True):
+    """So many seconds after the launch its steps happen; with the last one the charge is 50 %."""
+    keys = machine(66, BatterySerialNumber=SERIAL)
+    info = {"CFBundleVersion": "7", "CFBundleShortVersionString": "1.2"}
+    if host is not None:
+        info["QDStatisticsHost"] = host
+    keys["Bundle"]["Info"] = info
+    keys["Defaults"][SUITE]["autoUpload"] = auto_upload
+    keys["Now"] = LAUNCHED
+    keys["Steps"] = [{"After": 0.05, "Now": LAUNCHED + datetime.timedelta(seconds=second)} for second in seconds]
+    keys["Steps"][-1]["Registry"] = {"AppleSmartBattery": battery(50, BatterySerialNumber=SERIAL)}
+    return keys
+
+
+class UploadCase(HttpsCase, HelperCase):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.program = cls.bundle_that_trusts(Path(cls.folder) / "Helper.app" / "Contents")
+
+    @staticmethod
+    def bundle_that_trusts(contents):
+        """The helper's own bundle but for the network module; the path of its program."""
+        own = Path(helper_case.HELPER).parents[1]
+        (contents / "PlugIns").mkdir(parents=True)
+        (contents / "Linux").mkdir()
+        for name in ("Info.plist", "Resources"):
+            (contents / name).symlink_to(own / name)
+        shutil.copy(NETWORK, contents / "PlugIns" / "quindle-network.so")
+        return shutil.copy(helper_case.HELPER, contents / "Linux" / "quindle-helper")
+
+    def launch(self, keys, **env):
+        return self.start(keys, program=self.program,
+                          env={"QUINDLE_TEST_AUTHORITY": str(self.authority.certificate), **env})
+
+
+class Upload(UploadCase):
+    def requests_of(self, seconds, auto_upload=True, configured=True):
+        with Server(self.chain, answers(200, b"ok")) as server:
+            keys = computer(server.host if configured else None, seconds, auto_upload)
+            self.launch(keys)
+            self.assert_title("50.0%")
+            wait_for(lambda: server.requests, 1.5)
+            time.sleep(0.3)  # for a second request that must not come
+            return keys, list(server.requests)
+
+    def shown(self, keys):
+        """What quindle-inspect says would be sent in the last step."""
+        path = self.machine_file(keys, "shown.plist")
+        lines = self.desktop.call(INSPECT, "--json", "--machine", path).splitlines()
+        return json.loads(lines[-1])["upload"]
+
+    def test_one_post_with_the_body_that_was_shown(self):
+        keys, requests = self.requests_of([86401, 86411])
+        (method, target, headers, body), = requests
+        self.assertEqual((method, target), ("POST", "/qndonline/upload_mac_db_pro.php"))
+        self.assertNotIn("Content-Type", headers)
+        first_step = {**keys, "Steps": keys["Steps"][:1]}
+        shown = self.shown(first_step)
+        self.assertEqual(body.decode(), shown["body"])
+        self.assertEqual(json.loads(base64.b64decode(body, validate=True)), [shown["record"]])
+        self.assertNotIn(SERIAL.encode(), base64.b64decode(shown["record"]["Data.Raw"]))
+
+    def test_one_post_for_each_day(self):
+        self.assertEqual(len(self.requests_of([86401, 2 * 86401, 2 * 86401 + 86400])[1]), 2)
+
+    def test_not_before_a_day_has_passed(self):
+        self.assertEqual(self.requests_of([86400])[1], [])
+
+    def test_nothing_without_permission_however_long(self):
+        self.assertEqual(self.requests_of([day * 86401 for day in range(1, 30)], auto_upload=False)[1], [])
+
+    def test_nothing_without_a_host(self):
+        self.assertEqual(self.requests_of([86401], configured=False)[1], [])
+
+    def test_looking_sends_nothing(self):
+        with Server(self.chain, answers(200)) as server:
+            self.assertIsNotNone(self.shown(computer(server.host, [86401])))
+            self.assertEqual(server.requests, [])
+
+
+class QuitDuringUpload(UploadCase):
+    def quit_row(self):
+        """The number of the menu's row."""
+        layout = self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.GetLayout", "0", "-1",
+                                    "[]")
+        return re.search(r"\((\d+), \{[^}]*'label': <'Quit'>", layout).group(1)
+
+    def assert_quits_at_once(self, process):
+        item, row = self.desktop.item_name(), self.quit_row()
+        begin = time.monotonic()
+        self.desktop.gdbus(item, "/MenuBar", "com.canonical.dbusmenu.Event", row, "clicked", "<''>", "0")
+        try:
+            status = process.wait(20)
+        except subprocess.TimeoutExpired:
+            process.kill()  # it may wait where no signal asks it to end
+            self.fail("it does not quit")
+        took = time.monotonic() - begin
+        self.assertEqual(status, 0)
+        self.assertLess(took, AT_ONCE)
+
+    def test_while_the_server_is_silent(self):
+        for behaviour in (never_answers, drips):
+            with self.subTest(behaviour.__name__), Server(self.chain, behaviour) as server:
+                process = self.launch(computer(server.host, [86401]))
+                self.assertTrue(wait_for(lambda: server.requests, 10), "nothing was sent")
+                self.assert_quits_at_once(process)
+
+    def test_while_the_server_does_not_even_greet(self):
+        with socket.create_server(("127.0.0.1", 0)) as server:
+            process = self.launch(computer(f"localhost:{server.getsockname()[1]}", [86401]))
+            server.settimeout(10)
+            with server.accept()[0] as connection:
+                self.assertTrue(connection.recv(1), "nothing was sent")
+                self.assert_quits_at_once(process)
+
+    def test_while_the_host_is_looked_up(self):
+        begun = Path(self.folder) / "lookup"
+        sanitizer = ":".join(filter(None, (os.environ.get("ASAN_OPTIONS"), "verify_asan_link_order=0")))
+        process = self.launch(computer("hangs.test", [86401]), LD_PRELOAD=LOOKUP, QUINDLE_TEST_LOOKUP=str(begun),
+                              ASAN_OPTIONS=sanitizer)
+        self.assertTrue(wait_for(begun.exists, 10), "the host was not looked up")
+        self.assert_quits_at_once(process)
+
+
+if __name__ == "__main__":
+    unittest.main()
