@@ -98,7 +98,8 @@ public:
                 .statusBar = m_statusBar,
                 .application = m_application,
                 .urlSession = m_urlSession,
-                .userDirectories = m_recorded.userDirectories};
+                .userDirectories = m_recorded.userDirectories,
+                .powerEvents = m_recorded.powerEvents};
     }
 
     void play(HelperAppDelegate& delegate) override

@@ -105,7 +105,8 @@ private:
                 .statusBar = hasRealItem ? m_statusBar : recorded,
                 .application = m_others.application,
                 .urlSession = m_others.urlSession,
-                .userDirectories = m_others.userDirectories};
+                .userDirectories = m_others.userDirectories,
+                .powerEvents = m_others.powerEvents};
     }
 
     std::chrono::milliseconds m_now{0};

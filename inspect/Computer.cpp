@@ -52,6 +52,7 @@ Platform Computer::thisComputer()
         .application = m_recorded.application,
         .urlSession = m_recorded.urlSession,
         .userDirectories = linux.userDirectories,
+        .powerEvents = m_recorded.powerEvents,
     };
 }
 

@@ -9,6 +9,7 @@ class DistributedNotificationCenter;
 class Host;
 class IORegistry;
 class NotificationCenter;
+class PowerEvents;
 class PowerSources;
 class RunLoop;
 class StatusBar;
@@ -39,6 +40,7 @@ struct Platform
     Application& application;
     UrlSession& urlSession;
     UserDirectories& userDirectories;
+    PowerEvents& powerEvents;
 };
 
 } // namespace quindle

@@ -7,6 +7,7 @@
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxHost.h"
 #include "platform/linux/LinuxNotifications.h"
+#include "platform/linux/LinuxPowerEvents.h"
 #include "platform/linux/LinuxPowerSources.h"
 #include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxRunLoop.h"
@@ -43,6 +44,7 @@ struct LinuxPlatform::Services
         , powerSources(supplies, times)
         , userDefaults(settingsFolder(), settingsAccess)
         , urlSession(networkModule(bundle))
+        , powerEvents([this] { supplies.rescanNow(); })
     {
     }
 
@@ -63,6 +65,7 @@ struct LinuxPlatform::Services
     LinuxApplication application;
     LinuxUrlSession urlSession;
     LinuxUserDirectories userDirectories;
+    LinuxPowerEvents powerEvents;
 };
 
 LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)
@@ -100,7 +103,8 @@ Platform LinuxPlatform::services(StatusBar& statusBar)
             .statusBar = statusBar,
             .application = own.application,
             .urlSession = own.urlSession,
-            .userDirectories = own.userDirectories};
+            .userDirectories = own.userDirectories,
+            .powerEvents = own.powerEvents};
 }
 
 } // namespace quindle

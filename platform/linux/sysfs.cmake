@@ -7,6 +7,7 @@ target_sources(quindle_platform_linux PRIVATE
     LinuxBundle.cpp
     LinuxClock.cpp
     LinuxHost.cpp
+    LinuxPowerEvents.cpp
     LinuxPowerSources.cpp
     LinuxRegistry.cpp
     LinuxSystemFiles.cpp

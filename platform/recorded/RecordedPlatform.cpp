@@ -36,6 +36,7 @@ Platform RecordedPlatform::platform()
         .application = application,
         .urlSession = urlSession,
         .userDirectories = userDirectories,
+        .powerEvents = powerEvents,
     };
 }
 

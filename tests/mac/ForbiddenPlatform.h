@@ -149,6 +149,11 @@ class ForbiddenPlatform
         }
     };
 
+    struct Events : PowerEvents
+    {
+        void setObserver(std::function<void()>) override { refuse("power events"); }
+    };
+
     Registry m_registry;
     Sources m_powerSources;
     Databases m_userDefaults;
@@ -164,6 +169,7 @@ class ForbiddenPlatform
     Program m_application;
     Network m_urlSession;
     Folders m_userDirectories;
+    Events m_powerEvents;
 
 public:
     FakeClock clock;
@@ -182,7 +188,8 @@ public:
                       .statusBar = m_statusBar,
                       .application = m_application,
                       .urlSession = m_urlSession,
-                      .userDirectories = m_userDirectories};
+                      .userDirectories = m_userDirectories,
+                      .powerEvents = m_powerEvents};
 };
 
 } // namespace quindle

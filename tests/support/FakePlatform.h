@@ -18,6 +18,7 @@
 #include "platform/IORegistry.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
+#include "platform/PowerEvents.h"
 #include "platform/PowerSources.h"
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
@@ -269,6 +270,14 @@ public:
     void wake() const;
 };
 
+class FakePowerEvents : public PowerEvents
+{
+public:
+    std::function<void()> observer;
+
+    void setObserver(std::function<void()> newObserver) override { observer = std::move(newObserver); }
+};
+
 /// All of them together. Must outlive every object that is made on it.
 struct FakePlatform
 {
@@ -288,6 +297,7 @@ struct FakePlatform
     FakeApplication application;
     FakeUrlSession urlSession;
     FakeUserDirectories userDirectories;
+    FakePowerEvents powerEvents;
 
     Platform platform{registry,
                       powerSources,
@@ -304,7 +314,8 @@ struct FakePlatform
                       statusBar,
                       application,
                       urlSession,
-                      userDirectories};
+                      userDirectories,
+                      powerEvents};
 
     FakePlatform() = default;
     FakePlatform(const FakePlatform&) = delete;

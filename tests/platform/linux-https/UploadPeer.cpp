@@ -71,7 +71,8 @@ Platform withSession(const Platform& platform, UrlSession& session)
             .statusBar = platform.statusBar,
             .application = platform.application,
             .urlSession = session,
-            .userDirectories = platform.userDirectories};
+            .userDirectories = platform.userDirectories,
+            .powerEvents = platform.powerEvents};
 }
 
 } // namespace
