@@ -2,6 +2,7 @@
 target_sources(quindle_platform_linux PRIVATE
     BusLink.cpp
     BusLink.h
+    EndOfProcess.cpp
     FileLock.cpp
     FileReplacement.cpp
     LinuxApplication.cpp
