@@ -12,6 +12,7 @@
 #include "platform/Host.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
+#include "platform/PowerEvents.h"
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
 #include "platform/Workspace.h"
@@ -64,6 +65,7 @@ HelperAppDelegate::HelperAppDelegate(const Platform& platform, ApplicationPrefer
     , m_outlets(interface.outlets())
     , m_preferencesController(preferencesController)
     , m_myMac(makeMac(platform))
+    , m_powerEventRate(platform.runLoop, [this] { refreshBatteryAndTitle(); })
     , m_statusItem(platform.statusBar.statusItemWithLength(variableStatusItemLength))
     , m_hueColorGreen(std::make_shared<HueFilter>())
     , m_hueColorYellow(std::make_shared<HueFilter>())
@@ -76,6 +78,7 @@ HelperAppDelegate::HelperAppDelegate(const Platform& platform, ApplicationPrefer
 HelperAppDelegate::~HelperAppDelegate()
 {
     m_interface.setActions(nullptr);
+    m_platform.powerEvents.setObserver([] {});
     if (m_statusBarUpdateTimer)
         m_statusBarUpdateTimer->invalidate();
 }
@@ -91,6 +94,7 @@ void HelperAppDelegate::applicationDidFinishLaunching()
     updateStatusBarTitle();
     updateStatusBarTitle(); // twice: the second marks the first one's image as a template
     startTimer();
+    observePowerEvents();
     setAngles(*m_hueColorGreen, *m_hueColorYellow, *m_hueColorRed);
     setBarFilters();
     setProgressIndicatorColor();
@@ -148,6 +152,19 @@ void HelperAppDelegate::startTimer()
 {
     m_statusBarUpdateTimer =
         m_platform.runLoop.scheduleRepeatingTimer(refreshInterval, 0.0, [this] { updateStatusBarTitle(); });
+}
+
+void HelperAppDelegate::observePowerEvents()
+{
+    m_platform.powerEvents.setObserver([this] { m_powerEventRate.request(); });
+}
+
+void HelperAppDelegate::refreshBatteryAndTitle()
+{
+    QDBattery* battery = m_myMac->Battery();
+    if (battery && battery->updateTimer()) // the demonstration battery has none, and is never refreshed
+        battery->updateData();
+    updateStatusBarTitle();
 }
 
 void HelperAppDelegate::setBarFilters()

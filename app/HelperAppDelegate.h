@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QVariant>
 
+#include "app/RefreshRate.h"
 #include "menubar/BarColours.h"
 #include "menubar/HueFilter.h"
 #include "menubar/MainInterface.h"
@@ -120,6 +121,8 @@ private:
     void setVersionItem();
     void addBatteryView();
     void startTimer();
+    void observePowerEvents();
+    void refreshBatteryAndTitle();
     void setBarFilters();
     void showNoBattery();
     void updateIcon(const QDBattery& battery);
@@ -138,6 +141,7 @@ private:
     NamedImages m_images;
     std::unique_ptr<QDMac> m_myMac;
     std::shared_ptr<Timer> m_statusBarUpdateTimer;
+    RefreshRate m_powerEventRate;
     std::unique_ptr<StatusItem> m_statusItem;
     std::shared_ptr<HueFilter> m_hueColorGreen;
     std::shared_ptr<HueFilter> m_hueColorYellow;

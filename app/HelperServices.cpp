@@ -99,7 +99,8 @@ public:
                 .application = m_application,
                 .urlSession = m_urlSession,
                 .userDirectories = m_recorded.userDirectories,
-                .loginItems = m_recorded.loginItems};
+                .loginItems = m_recorded.loginItems,
+                .powerEvents = m_recorded.powerEvents};
     }
 
     void play(HelperAppDelegate& delegate) override

@@ -101,7 +101,8 @@ private:
                 .application = m_others.application,
                 .urlSession = m_others.urlSession,
                 .userDirectories = m_others.userDirectories,
-                .loginItems = m_others.loginItems};
+                .loginItems = m_others.loginItems,
+                .powerEvents = m_others.powerEvents};
     }
 
     std::chrono::milliseconds m_now{0};

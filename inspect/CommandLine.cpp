@@ -12,7 +12,9 @@ struct Given
     bool json = false;
     bool withSerials = false;
     bool demo = false;
+    bool follow = false;
     std::optional<QString> capture;
+    std::optional<QString> format;
     std::optional<QString> machine;
     std::optional<QString> sysfs;
 };
@@ -30,6 +32,7 @@ constexpr Flag flags[] = {
     {"--json", &Given::json},
     {"--with-serials", &Given::withSerials},
     {"--demo", &Given::demo},
+    {"--follow", &Given::follow},
 };
 
 struct Option
@@ -40,6 +43,7 @@ struct Option
 
 constexpr Option options[] = {
     {"--capture", &Given::capture},
+    {"--format", &Given::format},
     {"--machine", &Given::machine},
     {"--sysfs", &Given::sysfs},
 };
@@ -92,6 +96,14 @@ QString contradiction(const Given& given)
 {
     if (given.json && given.capture)
         return QStringLiteral("--json and --capture exclude each other");
+    if (given.follow && given.json)
+        return QStringLiteral("--follow and --json exclude each other (there is --format json)");
+    if (given.follow && given.capture)
+        return QStringLiteral("--follow and --capture exclude each other");
+    if (given.format && !given.follow)
+        return QStringLiteral("--format belongs to --follow");
+    if (given.format && !barFormatNamed(*given.format))
+        return QStringLiteral("--format is text, json, i3bar or waybar");
     if (given.withSerials && !given.capture)
         return QStringLiteral("--with-serials belongs to --capture");
     return {};
@@ -105,6 +117,8 @@ CommandLine::Call callOf(const Given& given)
         return CommandLine::Call::Version;
     if (given.json)
         return CommandLine::Call::Json;
+    if (given.follow)
+        return CommandLine::Call::Follow;
     return given.capture ? CommandLine::Call::Capture : CommandLine::Call::Report;
 }
 
@@ -131,6 +145,8 @@ CommandLine parseCommandLine(const QStringList& arguments, const InspectEnvironm
     if (commandLine.fault.isEmpty())
         commandLine.fault = contradiction(given);
     commandLine.call = callOf(given);
+    if (given.format)
+        commandLine.format = barFormatNamed(*given.format).value_or(BarFormat::Text);
     commandLine.captureFile = given.capture.value_or(QString());
     commandLine.withSerials = given.withSerials;
     commandLine.demo = given.demo;
@@ -141,8 +157,8 @@ CommandLine parseCommandLine(const QStringList& arguments, const InspectEnvironm
 QString helpText()
 {
     return QStringLiteral(
-        "Usage: quindle-inspect [--json | --capture FILE [--with-serials]] [--demo]\n"
-        "                       [--machine FILE | --sysfs DIR]\n"
+        "Usage: quindle-inspect [--json | --capture FILE [--with-serials] | --follow [--format FORMAT]]\n"
+        "                       [--demo] [--machine FILE | --sysfs DIR]\n"
         "\n"
         "Prints what Quindle Helper knows of this computer and its battery, and what it would show.\n"
         "Sends nothing over the network, changes no settings and shows no window.\n"
@@ -152,6 +168,10 @@ QString helpText()
         "  --capture FILE    write this computer as a machine file, replacing FILE; serial numbers and the\n"
         "                    computer's name are replaced by invented ones\n"
         "  --with-serials    with --capture: keep the true serial numbers, name and model cache\n"
+        "  --follow          the title, and again whenever it changes, a line each, until it is ended or "
+        "nobody\n"
+        "                    reads: for the bars of window managers\n"
+        "  --format FORMAT   with --follow: text, json (an object a line), i3bar or waybar\n"
         "  --demo            the demonstration computer\n"
         "  --machine FILE    a recorded computer instead of this one (environment: QUINDLE_MACHINE)\n"
         "  --sysfs DIR       read DIR in place of /sys (environment: QUINDLE_SYSFS)\n"

@@ -5,14 +5,17 @@
 #include <QString>
 #include <QStringList>
 
+#include "inspect/BarFormat.h"
+
 namespace quindle {
 
 /// What one call of quindle-inspect asks for.
 struct CommandLine
 {
-    enum class Call { Report, Json, Capture, Help, Version };
+    enum class Call { Report, Json, Capture, Follow, Help, Version };
 
     Call call = Call::Report;
+    BarFormat format = BarFormat::Text; ///< of Follow
     QString captureFile;
     bool withSerials = false;
     bool demo = false;

@@ -19,8 +19,9 @@ struct CommandLine;
 struct RecentEvents;
 
 /// The computer that a call looks at: a machine file's, or this one. Either way nothing is shown, sent or
-/// stored: status bar, run loop, workspace and notifications are recorded ones, and settings are written in
-/// memory only.
+/// stored: status bar, workspace and notifications are recorded ones, and settings are written in memory
+/// only. No time passes in it, unless the call follows it: then timers fire, and this computer tells of its
+/// power supplies, its sleep and changed settings.
 class Computer
 {
 public:
@@ -28,6 +29,9 @@ public:
     static std::variant<std::unique_ptr<Computer>, MachineRefusal> open(const CommandLine& commandLine);
 
     const Platform& platform() const { return m_platform; }
+
+    /// Lets a recorded computer's later states happen in their time; this computer does so by itself.
+    void playInTime(HelperAppDelegate& delegate);
 
     /// How many later states there are; 0 for this computer.
     std::size_t stepCount() const { return m_machine.steps.size(); }
@@ -39,9 +43,10 @@ public:
     RecentEvents takeEvents();
 
 private:
-    Computer(Machine machine, bool isRecorded, const QString& sysfsDirectory);
+    Computer(Machine machine, const CommandLine& commandLine);
 
-    Platform thisComputer();
+    Platform thisComputer(bool isFollowed);
+    Platform recordedComputer(bool isFollowed);
 
     Machine m_machine;
     LinuxPlatform m_linux;

@@ -27,6 +27,8 @@ public:
     /// The present state (see JsonState.h); the events told are those since the last call.
     QVariantMap takeState();
 
+    HelperAppDelegate& delegate() { return m_delegate; }
+
     const QDMac& mac() const { return m_delegate.myMac(); }
 
 private:

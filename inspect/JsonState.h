@@ -15,6 +15,7 @@ struct RecentEvents
 {
     double fontSize = 0;    ///< points, of the status item at the end
     QStringList titlesSet;  ///< every title, in order
+    QString toolTip;        ///< of the status item at the end
     QStringList launched;   ///< paths, in order
     int refreshes = 0;      ///< of the status item
     int uploadsStarted = 0; ///< by the daily gate

@@ -1,3 +1,4 @@
+#include <cerrno>
 #include <cstdio>
 
 #include <QCoreApplication>
@@ -6,9 +7,11 @@
 #include "inspect/CommandLine.h"
 #include "inspect/Computer.h"
 #include "inspect/DemoMachine.h"
+#include "inspect/Follower.h"
 #include "inspect/Inspection.h"
 #include "inspect/JsonText.h"
 #include "inspect/TextReport.h"
+#include "platform/linux/EndOfProcess.h"
 
 namespace {
 
@@ -45,6 +48,27 @@ int printReport(Computer& computer, bool isDemo)
     return 0;
 }
 
+/// Later, because it may be asked for before the loop runs.
+void quitLater()
+{
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+/// Until the program is ended, or nobody reads any more. Both are a quiet end.
+int follow(Computer& computer, const CommandLine& commandLine)
+{
+    const EndOfProcess endOfProcess(&quitLater);
+    const Follower follower(computer, commandLine.demo, commandLine.format, [](const QByteArray& lines) {
+        print(lines);
+        if (!std::ferror(stdout))
+            return;
+        if (errno == EPIPE)
+            std::clearerr(stdout);
+        quitLater();
+    });
+    return QCoreApplication::exec();
+}
+
 int capture(Computer& computer, const CommandLine& commandLine)
 {
     QVariantMap keys = commandLine.demo ? keysFromModel(Inspection(computer, true).mac())
@@ -64,6 +88,8 @@ int inspect(const CommandLine& commandLine)
     switch (commandLine.call) {
     case CommandLine::Call::Json:
         return printJson(computer, commandLine.demo);
+    case CommandLine::Call::Follow:
+        return follow(computer, commandLine);
     case CommandLine::Call::Capture:
         return capture(computer, commandLine);
     default:

@@ -10,6 +10,7 @@ class Host;
 class IORegistry;
 class LoginItems;
 class NotificationCenter;
+class PowerEvents;
 class PowerSources;
 class RunLoop;
 class StatusBar;
@@ -41,6 +42,7 @@ struct Platform
     UrlSession& urlSession;
     UserDirectories& userDirectories;
     LoginItems& loginItems;
+    PowerEvents& powerEvents;
 };
 
 } // namespace quindle

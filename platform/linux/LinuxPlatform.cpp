@@ -8,6 +8,7 @@
 #include "platform/linux/LinuxHost.h"
 #include "platform/linux/LinuxLoginItems.h"
 #include "platform/linux/LinuxNotifications.h"
+#include "platform/linux/LinuxPowerEvents.h"
 #include "platform/linux/LinuxPowerSources.h"
 #include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxRunLoop.h"
@@ -45,6 +46,7 @@ struct LinuxPlatform::Services
         , userDefaults(settingsFolder(), settingsAccess)
         , urlSession(networkModule(bundle))
         , loginItems(loginItemPlaces(bundle.path()), settingsAccess)
+        , powerEvents([this] { supplies.rescanNow(); })
     {
     }
 
@@ -66,6 +68,7 @@ struct LinuxPlatform::Services
     LinuxUrlSession urlSession;
     LinuxUserDirectories userDirectories;
     LinuxLoginItems loginItems;
+    LinuxPowerEvents powerEvents;
 };
 
 LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)
@@ -104,7 +107,8 @@ Platform LinuxPlatform::services(StatusBar& statusBar)
             .application = own.application,
             .urlSession = own.urlSession,
             .userDirectories = own.userDirectories,
-            .loginItems = own.loginItems};
+            .loginItems = own.loginItems,
+            .powerEvents = own.powerEvents};
 }
 
 } // namespace quindle

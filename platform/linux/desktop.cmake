@@ -4,6 +4,7 @@ target_sources(quindle_platform_linux PRIVATE
     BusLink.cpp
     BusLink.h
     DesktopEntry.cpp
+    EndOfProcess.cpp
     FileLock.cpp
     FileReplacement.cpp
     LinuxApplication.cpp

@@ -8,6 +8,7 @@ target_sources(quindle_platform_linux PRIVATE
     LinuxClock.cpp
     LinuxHost.cpp
     LinuxInstallationSource.cpp
+    LinuxPowerEvents.cpp
     LinuxPowerSources.cpp
     LinuxRegistry.cpp
     LinuxSystemFiles.cpp

@@ -37,6 +37,7 @@ Platform RecordedPlatform::platform()
         .urlSession = urlSession,
         .userDirectories = userDirectories,
         .loginItems = loginItems,
+        .powerEvents = powerEvents,
     };
 }
 

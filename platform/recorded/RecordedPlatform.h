@@ -9,6 +9,7 @@
 #include "platform/recorded/RecordedIORegistry.h"
 #include "platform/recorded/RecordedLoginItems.h"
 #include "platform/recorded/RecordedNotifications.h"
+#include "platform/recorded/RecordedPowerEvents.h"
 #include "platform/recorded/RecordedPowerSources.h"
 #include "platform/recorded/RecordedRunLoop.h"
 #include "platform/recorded/RecordedStatusBar.h"
@@ -49,6 +50,7 @@ struct RecordedPlatform
     RecordedLoginItems loginItems;
     RecordedUrlSession urlSession;
     RecordedUserDirectories userDirectories;
+    RecordedPowerEvents powerEvents;
 };
 
 } // namespace quindle

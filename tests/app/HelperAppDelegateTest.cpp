@@ -149,6 +149,76 @@ TEST_F(HelperAppDelegateTest, WakingReadsFlagsNowAndFiguresFromTheLastRefresh)
     EXPECT_EQ(title(), QStringLiteral("\u2B06\uFE0E 50.0"));
 }
 
+TEST_F(HelperAppDelegateTest, PowerEventShowsNewFigures)
+{
+    setBattery(50);
+    launch();
+    setRegistry("CurrentCapacity", qint64{60});
+    platform.powerEvents.observer();
+    EXPECT_EQ(title(), QStringLiteral("50.0%"));
+    platform.runLoop.advance(0.03);
+    EXPECT_EQ(title(), QStringLiteral("60.0%"));
+}
+
+TEST_F(HelperAppDelegateTest, PowerEventsOfASecondCauseTwoRefreshes)
+{
+    setBattery(50);
+    launch();
+    record().titlesSet.clear();
+    for (int event = 0; event < 1000; ++event) {
+        platform.powerEvents.observer();
+        platform.runLoop.advance(0.001);
+    }
+    EXPECT_EQ(record().titlesSet.size(), 2 * 3);
+}
+
+TEST_F(HelperAppDelegateTest, ABatteryThatComesLaterIsNotPickedUp)
+{
+    launch();
+    setBattery(50);
+    platform.powerEvents.observer();
+    platform.runLoop.advance(20.0);
+    EXPECT_EQ(title(), QString());
+    EXPECT_EQ(imageName(), QStringLiteral("AppIconBW"));
+}
+
+TEST_F(HelperAppDelegateTest, ABatterySwappedForAnotherIsShownAtOnce)
+{
+    setBattery(50);
+    launch();
+    platform.registry.entries.clear();
+    platform.powerEvents.observer();
+    platform.runLoop.advance(0.03);
+    EXPECT_NE(title(), QStringLiteral("50.0%"));
+    setBattery(90);
+    platform.powerEvents.observer();
+    platform.runLoop.advance(0.5);
+    EXPECT_EQ(title(), QStringLiteral("90.0%"));
+}
+
+TEST_F(HelperAppDelegateTest, DemonstrationBatteryKeepsItsValuesThroughPowerEvents)
+{
+    preferences = std::make_unique<ApplicationPreferences>(platform.platform);
+    delegate = std::make_unique<HelperAppDelegate>(
+        platform.platform, *preferences, interface, preferencesWindow,
+        [](const Platform& services) { return QDMac::initWithDemoMode(services, true); });
+    delegate->applicationDidFinishLaunching();
+    platform.powerEvents.observer();
+    platform.runLoop.advance(1.0);
+    EXPECT_EQ(title(), QStringLiteral("61.0%"));
+}
+
+TEST_F(HelperAppDelegateTest, PowerEventsAfterTheEndAreHarmless)
+{
+    setBattery(50);
+    launch();
+    platform.powerEvents.observer();
+    delegate.reset();
+    platform.powerEvents.observer();
+    platform.runLoop.advance(1.0);
+    EXPECT_FALSE(record().titlesSet.contains(QStringLiteral("60.0%")));
+}
+
 TEST_F(HelperAppDelegateTest, AnnouncedSettingsChangeRefreshesAndUpdateDoesNothing)
 {
     setBattery(50);

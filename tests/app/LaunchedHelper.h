@@ -6,6 +6,7 @@
 #include "app/HelperAppDelegate.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
+#include "platform/Image.h"
 #include "preferences/PreferencesPresenter.h"
 #include "tests/support/FakePlatform.h"
 

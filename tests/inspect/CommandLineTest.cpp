@@ -26,6 +26,10 @@ constexpr Row rows[] = {
     {"--demo", "", "", Call::Report, "", ""},
     {"--capture out", "", "", Call::Capture, "", ""},
     {"--capture=out --with-serials", "", "", Call::Capture, "", ""},
+    {"--follow", "", "", Call::Follow, "", ""},
+    {"--follow --demo --machine m", "", "", Call::Follow, "m", ""},
+    {"--format=json --follow", "", "es", Call::Follow, "", "es"},
+    {"--follow --help", "", "", Call::Help, "", ""},
     {"--help --json", "", "", Call::Help, "", ""},
     {"-h", "", "", Call::Help, "", ""},
     {"--version", "", "", Call::Version, "", ""},
@@ -67,11 +71,33 @@ TEST(CommandLine, OptionsOfACapture)
     EXPECT_TRUE(line.demo);
 }
 
+TEST(CommandLine, FormatOfFollowing)
+{
+    const struct
+    {
+        const char* arguments;
+        BarFormat format;
+    } formats[] = {
+        {"--follow", BarFormat::Text},
+        {"--follow --format text", BarFormat::Text},
+        {"--follow --format json", BarFormat::Json},
+        {"--follow --format=i3bar", BarFormat::I3bar},
+        {"--format waybar --follow", BarFormat::Waybar},
+    };
+    for (const auto& [arguments, format] : formats) {
+        const CommandLine line = parse({arguments, "", "", Call::Follow, "", ""});
+        EXPECT_EQ(line.fault, QString()) << arguments;
+        EXPECT_EQ(line.format, format) << arguments;
+    }
+}
+
 TEST(CommandLine, WrongUsage)
 {
     for (const char* arguments :
          {"--bogus", "file", "--machine", "--capture", "--sysfs", "--capture=", "--jsonx", "--json=1",
-          "--with-serials", "--json --capture out", "--help extra"}) {
+          "--with-serials", "--json --capture out", "--help extra", "--follow --json",
+          "--follow --capture out", "--follow --with-serials", "--format json", "--follow --format",
+          "--follow --format xml", "--follow --format JSON", "--follow=1"}) {
         const CommandLine line = parse({arguments, "", "", Call::Report, "", ""});
         EXPECT_FALSE(line.fault.isEmpty()) << arguments;
         EXPECT_FALSE(line.fault.contains(u'\n')) << arguments;

@@ -159,6 +159,9 @@ class ForbiddenPlatform
         void insertBeforeFirst(const QString&) override { refuse("insert"); }
         void remove(Item) override { refuse("remove"); }
         void setEnabled(const QString&, bool) override { refuse("enable"); }
+    struct Events : PowerEvents
+    {
+        void setObserver(std::function<void()>) override { refuse("power events"); }
     };
 
     Registry m_registry;
@@ -177,6 +180,7 @@ class ForbiddenPlatform
     Network m_urlSession;
     Folders m_userDirectories;
     Login m_loginItems;
+    Events m_powerEvents;
 
 public:
     FakeClock clock;
@@ -196,7 +200,8 @@ public:
                       .application = m_application,
                       .urlSession = m_urlSession,
                       .userDirectories = m_userDirectories,
-                      .loginItems = m_loginItems};
+                      .loginItems = m_loginItems,
+                      .powerEvents = m_powerEvents};
 };
 
 } // namespace quindle

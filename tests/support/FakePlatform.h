@@ -19,6 +19,7 @@
 #include "platform/LoginItems.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
+#include "platform/PowerEvents.h"
 #include "platform/PowerSources.h"
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
@@ -287,6 +288,14 @@ public:
     void wake() const;
 };
 
+class FakePowerEvents : public PowerEvents
+{
+public:
+    std::function<void()> observer;
+
+    void setObserver(std::function<void()> newObserver) override { observer = std::move(newObserver); }
+};
+
 /// All of them together. Must outlive every object that is made on it.
 struct FakePlatform
 {
@@ -307,6 +316,7 @@ struct FakePlatform
     FakeUrlSession urlSession;
     FakeUserDirectories userDirectories;
     FakeLoginItems loginItems;
+    FakePowerEvents powerEvents;
 
     Platform platform{registry,
                       powerSources,
@@ -324,7 +334,8 @@ struct FakePlatform
                       application,
                       urlSession,
                       userDirectories,
-                      loginItems};
+                      loginItems,
+                      powerEvents};
 
     FakePlatform() = default;
     FakePlatform(const FakePlatform&) = delete;

@@ -111,6 +111,33 @@ TEST_F(LinuxRegistryTest, ABatteryPulledOutAndPutBackIsSeen)
     EXPECT_EQ(registry.property(battery, chargeKey), qint64{1234});
 }
 
+TEST_F(LinuxRegistryTest, TimesStartAnewAfterAPlugHoweverOftenTheyAreRead)
+{
+    constexpr qint64 unknown = 65535;
+    tree.add("AC", {{"type", "Mains"}, {"online", "0"}});
+    tree.add("BAT0", {{"type", "Battery"},
+                      {"status", "Discharging"},
+                      {"charge_now", "2000000"},
+                      {"charge_full", "4000000"},
+                      {"current_now", "1000000"}});
+    const RegistryObject battery = openBattery();
+    const auto readFor = [&](std::chrono::milliseconds duration, const char* key) {
+        QVariant minutes;
+        for (const auto end = now + duration; now < end; now += 500ms)
+            minutes = registry.property(battery, QLatin1String(key));
+        return minutes.toLongLong();
+    };
+    EXPECT_EQ(readFor(20s, "AvgTimeToEmpty"), unknown);
+    EXPECT_EQ(readFor(2s, "AvgTimeToEmpty"), 120);
+    tree.write("AC", "online", "1");
+    tree.write("BAT0", "status", "Charging");
+    EXPECT_EQ(readFor(20s, "AvgTimeToFull"), unknown);
+    EXPECT_EQ(readFor(2s, "AvgTimeToFull"), 120);
+    tree.write("AC", "online", "0");
+    tree.write("BAT0", "status", "Discharging");
+    EXPECT_EQ(readFor(20s, "AvgTimeToEmpty"), unknown);
+}
+
 TEST_F(LinuxRegistryTest, AnEmptyBayIsSeen)
 {
     tree.add("BAT0", fullBattery);

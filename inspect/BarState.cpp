@@ -1,0 +1,82 @@
+#include "inspect/BarState.h"
+
+#include <cmath>
+
+#include "app/HelperAppDelegate.h"
+#include "battery/QDBattery.h"
+#include "mac/QDMac.h"
+#include "menubar/BarColours.h"
+#include "menubar/StatusIcon.h"
+#include "platform/StatusBar.h"
+
+namespace quindle {
+
+namespace {
+
+QString noBattery()
+{
+    return QStringLiteral("no-battery");
+}
+
+QString powerState(const QDBattery& battery)
+{
+    if (battery.isCharging())
+        return QStringLiteral("charging");
+    if (!battery.isACPowered())
+        return QStringLiteral("discharging");
+    return battery.isCharged() ? QStringLiteral("full") : QStringLiteral("plugged");
+}
+
+QString iconName(const QString& powerState, double stateOfCharge)
+{
+    return powerState == QStringLiteral("discharging") ? batteryIconName(stateOfCharge)
+                                                       : chargingIconName(stateOfCharge);
+}
+
+std::optional<int> wholePercent(double percentage)
+{
+    constexpr double most = 1000; // what a driver may say of a charge above full, and no more
+    if (!(percentage >= 0 && percentage <= most))
+        return std::nullopt;
+    return static_cast<int>(std::lround(percentage));
+}
+
+} // namespace
+
+QString chargeClass(double stateOfCharge)
+{
+    const auto colour = chargeBarColour(stateOfCharge);
+    if (!colour)
+        return QStringLiteral("unknown");
+    switch (*colour) {
+    case BarColour::Green:
+        return QStringLiteral("good");
+    case BarColour::Yellow:
+        return QStringLiteral("warning");
+    case BarColour::Red:
+        break;
+    }
+    return QStringLiteral("critical");
+}
+
+BarState barState(const HelperAppDelegate& delegate, const QString& toolTip)
+{
+    BarState bar;
+    bar.title = delegate.statusItem().title();
+    bar.toolTip = toolTip;
+    const QDBattery* battery = delegate.myMac().Battery();
+    if (!battery) {
+        bar.icon = noBatteryIconName();
+        bar.state = noBattery();
+        bar.colourClass = noBattery();
+        return bar;
+    }
+    const double charge = battery->StateOfCharge();
+    bar.state = powerState(*battery);
+    bar.icon = iconName(bar.state, charge);
+    bar.percentage = wholePercent(charge);
+    bar.colourClass = chargeClass(charge);
+    return bar;
+}
+
+} // namespace quindle

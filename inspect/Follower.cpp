@@ -1,0 +1,35 @@
+#include "inspect/Follower.h"
+
+#include <utility>
+
+#include "inspect/BarLines.h"
+#include "inspect/BarState.h"
+#include "inspect/Computer.h"
+#include "inspect/JsonState.h"
+
+namespace quindle {
+
+Follower::Follower(Computer& computer, bool isDemo, BarFormat format, Write write)
+    : m_computer(computer)
+    , m_format(format)
+    , m_write(std::move(write))
+    , m_inspection(computer, isDemo)
+{
+    HelperAppDelegate& delegate = m_inspection.delegate();
+    writeIfChanged();
+    QObject::connect(&delegate, &HelperAppDelegate::statusItemRefreshed, &delegate,
+                     [this] { writeIfChanged(); });
+    m_computer.playInTime(delegate);
+}
+
+void Follower::writeIfChanged()
+{
+    const RecentEvents recent = m_computer.takeEvents(); // or they would pile up
+    QByteArray line = barLine(m_format, barState(m_inspection.delegate(), recent.toolTip));
+    if (line == m_lastLine)
+        return;
+    m_write((m_lastLine ? barSeparator(m_format) : barHeader(m_format)) + line + '\n');
+    m_lastLine = std::move(line);
+}
+
+} // namespace quindle

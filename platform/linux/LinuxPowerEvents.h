@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/PowerEvents.h"
+
+class QSocketNotifier;
+struct udev;
+struct udev_monitor;
+
+namespace quindle {
+
+/// The kernel's events of the class "power_supply", as udev's daemon passes them on, or straight from the
+/// kernel where no such daemon runs. Events of other devices do not wake the process in the first case. Where
+/// there is no access to them one line is logged and nothing is told.
+class LinuxPowerEvents : public PowerEvents
+{
+public:
+    /// `aboutToTell` is called before the observer, whenever it is.
+    explicit LinuxPowerEvents(std::function<void()> aboutToTell);
+    ~LinuxPowerEvents() override;
+
+    void setObserver(std::function<void()> observer) override;
+
+private:
+    struct Release
+    {
+        void operator()(udev* context) const;
+        void operator()(udev_monitor* monitor) const;
+    };
+
+    bool open();
+    bool takeEvents();
+    void tell();
+
+    std::function<void()> m_aboutToTell;
+    std::function<void()> m_observer;
+    std::unique_ptr<udev, Release> m_udev;
+    std::unique_ptr<udev_monitor, Release> m_monitor;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace quindle

@@ -1,0 +1,106 @@
+#include "app/RefreshRate.h"
+
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/FakePlatform.h"
+
+using namespace quindle;
+
+namespace {
+
+struct RefreshRateTest : testing::Test
+{
+    FakeClock clock;
+    FakeRunLoop runLoop{clock};
+    const QDateTime start = clock.now();
+    std::vector<int> refreshes; ///< milliseconds after the start
+    RefreshRate rate{runLoop, [this] { refreshes.push_back(elapsed()); }};
+
+    int elapsed() const { return static_cast<int>(start.msecsTo(clock.now())); }
+
+    void advanceTo(int milliseconds) { runLoop.advance((milliseconds - elapsed()) / 1000.0); }
+};
+
+struct Row
+{
+    const char* what;
+    std::vector<int> requests;  ///< milliseconds
+    std::vector<int> refreshes; ///< milliseconds
+};
+
+const Row rows[] = {
+    {"none", {}, {}},
+    {"one", {0}, {30}},
+    {"one change told piece by piece", {0, 5, 10, 29}, {30}},
+    {"the second comes after a pause", {0, 40}, {30, 530}},
+    {"many in the pause are one", {0, 40, 100, 200, 528}, {30, 530}},
+    {"the last one in the pause is not lost", {0, 529}, {30, 530}},
+    {"each pause counts from its own refresh", {0, 40, 540}, {30, 530, 1030}},
+    {"after a quiet pause it begins anew", {0, 540}, {30, 570}},
+    {"plug and battery tell one after the other", {0, 300, 900}, {30, 530, 1030}},
+    {"far apart", {0, 5000, 10000}, {30, 5030, 10030}},
+};
+
+TEST(RefreshRate, Table)
+{
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        FakeClock clock;
+        FakeRunLoop runLoop(clock);
+        const QDateTime start = clock.now();
+        const auto elapsed = [&] { return static_cast<int>(start.msecsTo(clock.now())); };
+        std::vector<int> refreshes;
+        RefreshRate rate(runLoop, [&] { refreshes.push_back(elapsed()); });
+        for (const int request : row.requests) {
+            runLoop.advance((request - elapsed()) / 1000.0);
+            rate.request();
+        }
+        runLoop.advance(20.0);
+        EXPECT_EQ(refreshes, row.refreshes);
+    }
+}
+
+TEST_F(RefreshRateTest, AStormCausesTwoRefreshesInAnySecond)
+{
+    for (int millisecond = 0; millisecond < 10'000; ++millisecond) {
+        advanceTo(millisecond);
+        rate.request();
+    }
+    ASSERT_EQ(refreshes.size(), 20U);
+    for (std::size_t third = 2; third < refreshes.size(); ++third)
+        EXPECT_GE(refreshes[third] - refreshes[third - 2], 999);
+    const int last = refreshes.back();
+    advanceTo(12'000);
+    ASSERT_EQ(refreshes.size(), 21U) << "the last request was lost";
+    EXPECT_LE(refreshes.back() - last, 501);
+}
+
+TEST_F(RefreshRateTest, ARefreshThatAsksForAnotherGetsItLater)
+{
+    int count = 0;
+    RefreshRate* asked = nullptr;
+    RefreshRate asking(runLoop, [&] {
+        if (++count == 1)
+            asked->request();
+    });
+    asked = &asking;
+    asking.request();
+    runLoop.advance(0.03);
+    EXPECT_EQ(count, 1);
+    runLoop.advance(0.5);
+    EXPECT_EQ(count, 2);
+    runLoop.advance(10.0);
+    EXPECT_EQ(count, 2);
+}
+
+TEST_F(RefreshRateTest, NoTimerIsLeftAtRest)
+{
+    rate.request();
+    runLoop.advance(10.0);
+    for (const auto& timer : runLoop.timers)
+        EXPECT_FALSE(timer->valid);
+}
+
+} // namespace

@@ -1,0 +1,179 @@
+#!/usr/bin/env python3
+"""The running helper and the kernel's power events, on mocked hardware: how soon a change shows, and how often.
+
+To be run by umockdev-wrapper."""
+
+import os
+import socket
+import time
+import unittest
+from pathlib import Path
+
+import dbus
+import gi
+
+gi.require_version("UMockdev", "1.0")
+from gi.repository import UMockdev  # noqa: E402
+
+from helper_case import HELPER, HelperCase, wait_for  # noqa: E402
+
+ITEM = "/StatusNotifierItem"
+ITEM_INTERFACE = "org.kde.StatusNotifierItem"
+AT_ONCE = 0.5  # seconds; the timers come every five and ten
+BATTERY = {"type": "Battery", "present": "1", "status": "Discharging", "charge_now": "3000000",
+           "charge_full": "6000000", "charge_full_design": "6500000", "voltage_now": "12000000",
+           "voltage_min_design": "11400000", "current_now": "1000000", "cycle_count": "12"}
+
+
+class Hardware:
+    """Supplies in a folder that programs started with `env` take for /sys."""
+
+    def __init__(self):
+        self.testbed = UMockdev.Testbed.new()
+        self.root = self.testbed.get_root_dir()
+        os.unsetenv("UMOCKDEV_DIR")
+        self.env = {"LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": self.root,
+                    "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", "") + ":verify_asan_link_order=0"}
+        self.adapter = self.add("AC", {"type": "Mains", "online": "0"})
+        self.battery = self.add("BAT0", BATTERY)
+
+    def add(self, name, attributes):
+        pairs = [text for pair in attributes.items() for text in pair]
+        return self.testbed.add_device("power_supply", name, None, pairs, [])
+
+    def write(self, device, **attributes):
+        """In place, as the kernel's values change: the file stays the same one."""
+        for name, value in attributes.items():
+            with open(f"{self.root}{device}/{name}", "r+", encoding="ascii") as file:
+                file.truncate(file.write(f"{value}\n"))
+
+    def tell(self, device, action="change"):
+        os.putenv("UMOCKDEV_DIR", self.root)
+        self.testbed.uevent(device, action)
+        os.unsetenv("UMOCKDEV_DIR")
+
+    def remove(self, device):
+        self.tell(device, "remove")
+        self.testbed.remove_device(device)
+
+    def teller(self, device):
+        """Tells the one listener as `tell` does, but waits where that would give up: for many events in a row."""
+        (listener,) = Path(self.root).glob("event*")
+        message = self.message(device)
+        sender = socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM)
+        return lambda: sender.sendto(message, str(listener))
+
+    def message(self, device):
+        """What listeners receive of one event. Whoever has such a socket in the folder is a listener."""
+        with socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM) as listener:
+            listener.settimeout(5)
+            listener.bind(f"{self.root}/event99999")
+            self.tell(device)
+            message = listener.recv(8192)
+        os.unlink(f"{self.root}/event99999")
+        return message
+
+    def plug(self, is_plugged):
+        self.write(self.adapter, online=int(is_plugged))
+        self.tell(self.adapter)
+        self.write(self.battery, status="Charging" if is_plugged else "Discharging")
+        self.tell(self.battery)
+
+
+class PowerEvents(HelperCase):
+    def setUp(self):
+        self.hardware = Hardware()
+        settings = Path(self.desktop.env["XDG_CONFIG_HOME"]) / "quindle"
+        settings.mkdir(exist_ok=True)
+        (settings / "group.fernhollow.Quindle.plist").write_text(
+            "<plist version='1.0'><dict><key>customStatusBar</key><string>%s %p%</string>"
+            "<key>showIconsInMenuBar</key><integer>1</integer></dict></plist>", encoding="ascii")
+        self.process = self.desktop.start(HELPER, env=self.hardware.env)
+        self.addCleanup(self.stop, self.process)
+        bus = dbus.bus.BusConnection(self.desktop.env["DBUS_SESSION_BUS_ADDRESS"])
+        self.assertTrue(wait_for(self.desktop.registered_items, 10))
+        self.item = bus.get_object(self.desktop.item_name(), ITEM)
+        self.assertIn("50.0%", self.value("Title"))
+
+    def value(self, name):
+        return str(self.item.Get(ITEM_INTERFACE, name, dbus_interface="org.freedesktop.DBus.Properties"))
+
+    def picture(self):
+        return self.item.Get(ITEM_INTERFACE, "IconPixmap", dbus_interface="org.freedesktop.DBus.Properties")
+
+    def assert_shows_at_once(self, condition, what):
+        told = time.monotonic()
+        self.assertTrue(wait_for(condition, 4, 0.002), f"{what}: the title is {self.value('Title')!r}")
+        self.assertLess(time.monotonic() - told, AT_ONCE, f"seconds until {what} was shown")
+
+    def test_plug_and_unplug_show_at_once(self):
+        for is_plugged in (True, False, True):
+            time.sleep(1.3)
+            title, label, picture = self.value("Title"), self.value("XAyatanaLabel"), self.picture()
+            self.hardware.plug(is_plugged)
+            self.assert_shows_at_once(lambda: self.value("Title") != title, "the title")
+            self.assertNotEqual(self.value("XAyatanaLabel"), label)
+            self.assertNotEqual(self.picture(), picture)
+
+    def test_a_battery_swap_shows_at_once(self):
+        time.sleep(1.3)
+        self.hardware.write(self.hardware.battery, present=0)
+        self.hardware.tell(self.hardware.battery)
+        self.assert_shows_at_once(lambda: "50.0%" not in self.value("Title"), "the empty bay")
+        time.sleep(1.3)
+        self.hardware.write(self.hardware.battery, present=1, charge_now=5400000)
+        self.hardware.tell(self.hardware.battery)
+        self.assert_shows_at_once(lambda: "90.0%" in self.value("Title"), "the other battery")
+
+    def test_a_battery_whose_device_goes_and_comes_shows_at_once(self):
+        time.sleep(1.3)
+        self.hardware.remove(self.hardware.battery)
+        self.assert_shows_at_once(lambda: "50.0%" not in self.value("Title"), "the loss")
+        time.sleep(1.3)
+        self.hardware.battery = self.hardware.add("BAT0", {**BATTERY, "charge_now": "4800000"})
+        self.hardware.tell(self.hardware.battery)
+        self.assert_shows_at_once(lambda: "80.0%" in self.value("Title"), "the other battery")
+
+    def test_a_change_nobody_tells_waits_for_the_timers(self):
+        time.sleep(1.3)
+        self.hardware.write(self.hardware.battery, charge_now=4200000)
+        time.sleep(AT_ONCE)
+        self.assertIn("50.0%", self.value("Title"))
+
+    def test_other_devices_are_not_listened_to(self):
+        other = self.hardware.testbed.add_device("leds", "lid", None, ["brightness", "0"], [])
+        self.hardware.write(self.hardware.battery, charge_now=4200000)
+        tell = self.hardware.teller(other)
+        for _ in range(200):
+            tell()
+        time.sleep(AT_ONCE)
+        self.assertIn("50.0%", self.value("Title"))
+        self.hardware.tell(self.hardware.battery)
+        self.assert_shows_at_once(lambda: "70.0%" in self.value("Title"), "the battery's own event")
+
+    def test_a_storm_causes_two_refreshes_a_second(self):
+        """Every event brings another charge, so that every refresh makes another title."""
+        seconds, titles, sent = 4, [], 0
+        time.sleep(1.3)
+        titles.append(self.value("Title"))
+        tell = self.hardware.teller(self.hardware.battery)
+        start = time.monotonic()
+        while (passed := time.monotonic() - start) < seconds:
+            if sent > passed * 1000:
+                time.sleep(0.0005)
+                continue
+            sent += 1
+            self.hardware.write(self.hardware.battery, charge_now=600000 + sent * 1000)
+            tell()
+            if sent % 20 == 0 and (title := self.value("Title")) != titles[-1]:
+                titles.append(title)
+        self.assertGreater(sent / seconds, 500, "events a second: the machine is too slow for this test")
+        # The five-second timer may tick once on top of the two a second, and the first comes after a moment.
+        self.assertLessEqual(len(titles) - 1, 2 * seconds + 1)
+        self.assertGreaterEqual(len(titles) - 1, seconds, "the storm kept it from refreshing")
+        last = f"{(600000 + sent * 1000) / 60000:.1f}%"
+        self.assert_shows_at_once(lambda: last in self.value("Title"), f"the last charge, {last}, ")
+
+
+if __name__ == "__main__":
+    unittest.main()
