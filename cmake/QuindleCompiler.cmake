@@ -33,8 +33,11 @@ add_link_options(-Wl,--as-needed)
 
 include(QuindleHardening)
 
-# No path of the building machine gets into a program, so that every machine builds the same bytes.
-add_compile_options("-ffile-prefix-map=${CMAKE_BINARY_DIR}=." "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.")
+# No path of the building machine gets into a released program, so that every machine builds the same bytes.
+set(released "CONFIG:Release,RelWithDebInfo,MinSizeRel")
+add_compile_options(
+    "$<$<${released}>:-ffile-prefix-map=${CMAKE_BINARY_DIR}=.>"
+    "$<$<${released}>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
 
 if(QUINDLE_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

@@ -1,4 +1,5 @@
-// quindle-render-icon SVG SIZE PNG: draws an icon for those who cannot draw SVG themselves. Part of the build only.
+// quindle-render-icon SVG SIZE PNG: draws an icon for those who cannot draw SVG themselves. Part of the build
+// only.
 
 #include <cstdio>
 
