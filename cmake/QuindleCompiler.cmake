@@ -31,6 +31,14 @@ add_compile_definitions(
 # Libraries that nothing of a program calls are not loaded: they cost start-up time and memory.
 add_link_options(-Wl,--as-needed)
 
+include(QuindleHardening)
+
+# No path of the building machine gets into a released program, so that every machine builds the same bytes.
+set(released "CONFIG:Release,RelWithDebInfo,MinSizeRel")
+add_compile_options(
+    "$<$<${released}>:-ffile-prefix-map=${CMAKE_BINARY_DIR}=.>"
+    "$<$<${released}>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
+
 if(QUINDLE_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
