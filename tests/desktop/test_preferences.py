@@ -1,0 +1,214 @@
+#!/usr/bin/env python3
+"""The windows of settings in a real desktop: title, settings files and autostart folder change as the user works."""
+
+import os
+import time
+import unittest
+
+from helper_case import SUITE, wait_for
+from preferences_case import OWN, PreferencesCase, nodes
+
+
+class General(PreferencesCase):
+    def setUp(self):
+        super().setUp()
+        self.start_helper()
+        self.count = self.announced()
+        self.open("Preferences...", "General")
+
+    def assert_announced(self, expected):
+        wait_for(lambda: self.count() >= expected, 5)
+        time.sleep(0.3)
+        self.assertEqual(self.count(), expected, "announcements")
+
+    def test_opening_announces_nothing(self):
+        self.assert_announced(0)
+
+    def test_typed_text_is_the_title(self):
+        self.type("%p% of it")
+        self.assertTrue(wait_for(lambda: self.control("label", "Now shows 66.0% of it"), 5), "no live preview")
+        self.assertEqual(self.stored("customStatusBar"), "%p%", "stored before it was meant")
+        self.desktop.key("Return")
+        self.assert_title("66.0% of it")
+        self.assert_stored("customStatusBar", "%p% of it")
+        self.desktop.key("Tab")
+        self.assert_announced(1)
+
+    def test_reset(self):
+        self.store(SUITE, {"customStatusBar": "mine"})
+        self.announce()
+        self.assertTrue(wait_for(lambda: self.control("text", "Menu bar text")["text"] == "mine", 5))
+        self.assert_title("mine")
+        self.click("push button", "Reset menu bar text")
+        self.assert_stored("customStatusBar", "%p%")
+        self.assert_title("66.0%")
+        self.assert_announced(2)
+
+    def test_temperature_by_mouse(self):
+        self.type("%t")
+        self.desktop.key("Return")
+        self.assert_title("30.0")
+        self.click("radio button", "Fahrenheit")
+        self.assert_title("86.0")
+        self.assert_stored("temperatureSettingIndex", 1)
+        self.assertIsNone(self.stored("QDBatteryTemperatureMode", OWN))
+        self.assert_announced(2)
+
+    def test_check_boxes_by_mouse_and_by_an_assistive_technology(self):
+        self.click("check box", "Show battery icon")
+        self.assert_stored("showIconsInMenuBar", 0)
+        self.act("check box", "Show battery icon")
+        self.assert_stored("showIconsInMenuBar", 1)
+        self.act("check box", "Send battery health once a day")
+        self.assert_stored("autoUpload", True)
+        self.assertIsNone(self.stored("autoUploadBatteryData", OWN))
+        self.assert_announced(3)
+
+    def test_the_helper_cannot_switch_its_own_login_item_here(self):
+        box = self.control("check box", "Start when I log in")
+        self.assertNotIn("enabled", box["states"])
+        texts = [node["name"] for node in nodes(self.tree())]
+        self.assertIn("This option can only be disabled in main application. "
+                      "Run it via \"Open Application\" from the menu", texts)
+
+    def test_parameters(self):
+        self.type("at ")
+        self.act("push button", "Parameters")
+        self.assertTrue(wait_for(lambda: any("66.0" in node["name"] for node in nodes(self.tree())), 5))
+        self.desktop.key("Down")
+        self.desktop.key("Return")
+        self.desktop.key("Escape")
+        self.assertTrue(wait_for(lambda: self.stored("customStatusBar").startswith("at %"), 5),
+                        self.stored("customStatusBar"))
+        self.assertTrue(self.window("General"), "Escape closed more than the popover")
+
+    def test_what_is_sent(self):
+        self.act("push button", "See exactly what is sent")
+        self.assertTrue(wait_for(lambda: self.window("What is sent"), 5))
+        texts = [node["name"] for node in nodes(self.tree())]
+        self.assertIn("Nothing would be sent: no host of the statistics service is configured.", texts)
+        self.desktop.key("Escape")
+        self.assertTrue(wait_for(lambda: not self.window("What is sent"), 5))
+
+    def test_keys_that_close(self):
+        for key in ("Escape", "ctrl+shift+w"):
+            self.desktop.key(key)
+            time.sleep(0.5)
+            self.assertTrue(self.window("General"), key)
+        self.desktop.key("ctrl+w")
+        self.assertTrue(wait_for(lambda: not self.window("General"), 5))
+
+    def test_panes(self):
+        self.act("radio button", "Update")
+        self.assertTrue(wait_for(lambda: self.window("Update"), 5))
+        self.assertTrue(any("0.1.0" in node["name"] for node in nodes(self.tree())), "no version")
+        self.click("radio button", "Menu Bar")
+        self.assertTrue(wait_for(lambda: self.window("Menu Bar"), 5))
+        time.sleep(0.5)
+        self.act("push button", "Menu Bar Text...")
+        self.assertTrue(wait_for(lambda: self.window("Menu Bar Text"), 5))
+
+    def test_every_control_has_a_name_and_the_keyboard_reaches_it(self):
+        for pane in ("General", "Menu Bar", "Update"):
+            self.act("radio button", pane)
+            self.assertTrue(wait_for(lambda: self.window(pane), 5))
+            time.sleep(0.5)
+            controls = [node for node in nodes(self.tree()) if "focusable" in node["states"]]
+            self.assertTrue(controls)
+            self.assertEqual([node["role"] for node in controls if not node["name"]], [], f"nameless in {pane}")
+            reached = set()
+            for _ in range(len(controls) + 2):
+                self.desktop.key("Tab")
+                focused = [node for node in nodes(self.tree()) if "focused" in node["states"]]
+                self.assertEqual(len(focused), 1, f"{pane}: who has the keyboard?")
+                reached.add((focused[0]["role"], focused[0]["name"]))
+            radio = {node["role"] for node in controls} & {"radio button"}
+            wanted = {(node["role"], node["name"]) for node in controls if node["role"] != "radio button"}
+            self.assertEqual(wanted - reached, set(), f"{pane}: Tab never came there")
+            self.assertTrue(not radio or any(role == "radio button" for role, _ in reached), pane)
+
+
+class MenuBarText(PreferencesCase):
+    def setUp(self):
+        super().setUp()
+        self.start_helper()
+        self.count = self.announced()
+        self.open("Menu Bar Text...", "Menu Bar Text")
+
+    def test_custom_text(self):
+        self.assertNotIn("enabled", self.control("text", "Menu bar text")["states"])
+        self.click("radio button", "Custom text")
+        self.assert_stored("customMenuBarSettingSelectedIndex", 1, OWN)
+        self.assertTrue(wait_for(lambda: "enabled" in self.control("text", "Menu bar text")["states"], 5))
+        self.click("text", "Menu bar text")
+        self.type("%l cycles")
+        self.desktop.key("Return")
+        self.assert_title("12 cycles")
+        self.click("radio button", "Standard title")
+        self.assert_title("66.0%")
+        self.click("radio button", "Custom text")
+        self.assert_title("12 cycles")
+        self.assertEqual(self.count(), 0, "this window announces nothing")
+
+    def test_upload_mark_permits_nothing(self):
+        self.click("check box", "Mark battery data for automatic upload")
+        self.assert_stored("autoUploadBatteryData", 1, OWN)
+        self.assertIsNone(self.stored("autoUpload"))
+
+    def test_both_temperatures(self):
+        self.click("radio button", "Custom text")
+        self.click("radio button", "Kelvin")
+        self.assert_stored("temperatureSettingIndex", 2)
+        self.assert_stored("QDBatteryTemperatureMode", 2, OWN)
+        self.choose("Show Battery...")
+        self.assertTrue(wait_for(lambda: any("303.2 K" in node["name"] for node in nodes(self.tree())), 5),
+                        "the battery view has another unit")
+
+    def test_run_in_background(self):
+        entry = self.config / "autostart" / f"{OWN}.desktop"
+        self.click("check box", "Run in the background when I log in")
+        self.assertTrue(wait_for(entry.exists, 5))
+        self.assertIn(os.environ["QUINDLE_HELPER"], entry.read_text())
+        self.open("Preferences...", "General")
+        self.assert_checked("check box", "Start when I log in")
+        self.act("check box", "Run in the background when I log in")
+        self.assertTrue(wait_for(lambda: not entry.exists(), 5))
+        self.assert_checked("check box", "Start when I log in", False)
+
+    def test_two_windows_show_one_setting(self):
+        self.open("Preferences...", "General")
+        boxes = [node for node in nodes(self.tree()) if node["name"] == "Show battery icon"]
+        self.assertEqual(len(boxes), 2)
+        self.act("check box", "Show battery icon")
+        self.assert_stored("showIconsInMenuBar", 0)
+        self.assertTrue(wait_for(lambda: all("checked" not in node["states"] for node in nodes(self.tree())
+                                             if node["name"] == "Show battery icon"), 5))
+        self.store(SUITE, {"customStatusBar": "other", "showIconsInMenuBar": 1})
+        self.announce()
+        self.assertTrue(wait_for(lambda: [node["text"] for node in nodes(self.tree())
+                                          if node["name"] == "Menu bar text" and node["role"] == "text"]
+                                 == ["other", "other"], 5))
+
+
+class Frame(PreferencesCase):
+    def position(self):
+        shell = self.desktop.call("xdotool", "getwindowgeometry", "--shell", self.window("General"))
+        values = dict(line.split("=") for line in shell.splitlines())
+        return int(values["X"]), int(values["Y"])
+
+    def test_the_window_comes_back_where_it_was(self):
+        first = self.start_helper()
+        self.open("Preferences...", "General")
+        before = self.position()
+        self.desktop.call("xdotool", "windowmove", "--sync", self.window("General"), "40", "120")
+        self.assertTrue(wait_for(lambda: self.position() != before, 5))
+        moved = self.position()
+        time.sleep(1)
+        self.stop(first)
+        self.start_helper()
+        self.open("Preferences...", "General")
+        self.assertEqual(self.position(), moved)
+
+
+if __name__ == "__main__":
+    unittest.main()
