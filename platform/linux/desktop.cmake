@@ -1,5 +1,6 @@
 # Settings, the main loop, notifications, and what one process of a session says to another.
 target_sources(quindle_platform_linux PRIVATE
+    BusAddress.cpp
     BusLink.cpp
     BusLink.h
     FileLock.cpp
