@@ -12,7 +12,7 @@
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxUserDefaults.h"
 #include "platform/recorded/RecordedPlatform.h"
-#include "preferences/PreferencesPresenter.h"
+#include "preferences/NoPreferencesWindow.h"
 #include "tests/soak/SoakTime.h"
 
 namespace quindle {
@@ -53,11 +53,6 @@ public:
     int posts() const { return m_urlSession.posts; }
 
 private:
-    struct NoPreferencesWindow : PreferencesPresenter
-    {
-        void showPreferencesWindow() override {}
-    };
-
     Platform platform();
     void changeBattery();
     void swapBattery();
