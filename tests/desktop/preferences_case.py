@@ -3,7 +3,6 @@ worked as an assistive technology does it."""
 
 import json
 import plistlib
-import re
 import time
 from pathlib import Path
 
@@ -68,18 +67,8 @@ class PreferencesCase(HelperCase):
         self.assert_title("66.0%")
         return process
 
-    def menu(self):
-        """The status menu, as gdbus prints it."""
-        return self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.GetLayout", "0", "-1",
-                                  "[]")
-
-    def choose(self, label):
-        """Chooses an entry of the status menu."""
-        row = re.search(r"\((\d+), \{[^{}]*'label': <'" + re.escape(label) + "'>", self.menu()).group(1)
-        self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.Event", row, "clicked", "<0>", "0")
-
     def open(self, entry, title):
-        self.choose(entry)
+        self.desktop.choose(entry)
         self.assertTrue(wait_for(lambda: self.window(title), 10), f"no window {title!r}")
         time.sleep(0.5)  # the window manager moves it once more
 

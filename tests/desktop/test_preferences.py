@@ -162,7 +162,7 @@ class MenuBarText(PreferencesCase):
         self.click("radio button", "Kelvin")
         self.assert_stored("temperatureSettingIndex", 2)
         self.assert_stored("QDBatteryTemperatureMode", 2, OWN)
-        self.assertTrue(wait_for(lambda: "303.2 K" in self.menu(), 5), "the battery's own unit is another one")
+        self.assertTrue(wait_for(lambda: "303.2 K" in self.desktop.menu(), 5), "the battery's own unit is another one")
 
     def test_run_in_background(self):
         entry = self.config / "autostart" / f"{OWN}.desktop"
