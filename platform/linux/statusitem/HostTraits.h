@@ -21,6 +21,7 @@ struct HostTraits
     bool needsIconFile = false;       ///< only icons in files are shown, pixels sent over the bus are ignored
     bool showsPlainToolTip = false;   ///< tool tips are not parsed as markup
     bool escapesToolTipTitle = false; ///< of a tool tip it parses only the second text as markup
+    bool coloursDrawings = false;     ///< a drawing in a file is shown in the colour that the panel writes in
     QRgb textColour = 0;              ///< what its panel writes in; transparent while that is unknown
 
     friend bool operator==(const HostTraits&, const HostTraits&) = default;

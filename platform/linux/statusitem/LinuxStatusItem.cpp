@@ -163,7 +163,7 @@ void LinuxStatusItem::tell(Presentation next)
     const Presentation last = std::exchange(m_told, std::move(next));
     if (m_told.title != last.title)
         Q_EMIT m_notifierItem->NewTitle();
-    if (m_told.picture != last.picture || m_told.iconInFile != last.iconInFile)
+    if (m_told.picture != last.picture || m_told.carrier != last.carrier)
         Q_EMIT m_notifierItem->NewIcon();
     if (m_told.toolTipTitle != last.toolTipTitle || m_told.toolTipBody != last.toolTipBody)
         Q_EMIT m_notifierItem->NewToolTip();

@@ -43,6 +43,15 @@ Picture pictureFor(const ItemContents& contents, HostShape shape)
     return iconPicture(contents.imageName);
 }
 
+Carrier carrierOf(const Picture& picture, const HostTraits& host)
+{
+    // Drawings are shown as squares.
+    const bool square = picture.kind == Picture::Kind::Icon || picture.kind == Picture::Kind::Text;
+    if (host.coloursDrawings && square)
+        return Carrier::Drawing;
+    return host.needsIconFile ? Carrier::File : Carrier::Pixels;
+}
+
 QString toolTipCut(const QString& text)
 {
     return elided(busText(text), toolTipLength);
@@ -73,7 +82,7 @@ Presentation present(const ItemContents& contents, const HostTraits& host)
         told.labelGuide = QStringLiteral("100.0%");
     told.picture = pictureFor(contents, host.shape);
     told.picture.ink = host.textColour;
-    told.iconInFile = host.needsIconFile;
+    told.carrier = carrierOf(told.picture, host);
     return told;
 }
 

@@ -38,6 +38,13 @@ struct Picture
     friend bool operator==(const Picture&, const Picture&) = default;
 };
 
+/// How a picture gets to the host.
+enum class Carrier {
+    Pixels,  ///< over the bus
+    File,    ///< as a file of pixels
+    Drawing, ///< as a file that the host draws in the colour of its panel's text
+};
+
 /// What a host is told of the item.
 struct Presentation
 {
@@ -48,7 +55,7 @@ struct Presentation
     QString label;
     QString labelGuide; ///< a text as wide as the label gets usually
     Picture picture;
-    bool iconInFile = false;
+    Carrier carrier = Carrier::Pixels;
 
     friend bool operator==(const Presentation&, const Presentation&) = default;
 };

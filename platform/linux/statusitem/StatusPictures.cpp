@@ -11,8 +11,11 @@
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPainter>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <QSvgRenderer>
+
+#include "platform/linux/statusitem/TextDrawing.h"
 
 namespace quindle {
 
@@ -32,6 +35,12 @@ constexpr double panelPixelsPerPoint = 13.0 / 12.0;
 
 constexpr QColor onPlate(255, 255, 255);
 constexpr QColor plateColour(24, 26, 30, 190);
+
+/// By this end of a file's name hosts know drawings that they may colour.
+QString symbolic()
+{
+    return QStringLiteral("-symbolic.svg");
+}
 
 /// The colour that the picture is drawn in.
 QColor inkOf(const Picture& picture)
@@ -124,6 +133,13 @@ QImage wideText(const Picture& picture, const QImage& icon, int height)
     return image;
 }
 
+/// The folder of pictures that hosts read and that are not in the bundle.
+QString writtenPictures()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+           QStringLiteral("/quindle-helper-icons");
+}
+
 /// The glyph of a file in one colour, in its place on a square of that size.
 QImage rendered(const QString& file, int size, const QColor& colour)
 {
@@ -188,8 +204,7 @@ std::vector<QImage> StatusPictures::images(const Picture& picture)
 
 QString StatusPictures::file(const Picture& picture)
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
-                           QStringLiteral("/quindle-helper-icons");
+    const QString folder = writtenPictures();
     QString name = picture.imageName + picture.text;
     name.removeIf([](QChar c) { return !c.isLetterOrNumber(); });
     name += QString::number(picture.ink, 16);
@@ -200,9 +215,30 @@ QString StatusPictures::file(const Picture& picture)
     return written ? path : QString();
 }
 
+QString StatusPictures::drawing(const Picture& picture) const
+{
+    if (picture.kind != Picture::Kind::Text) {
+        const QString path = drawingOfImage(picture.imageName);
+        return QFileInfo::exists(path) ? path : QString();
+    }
+    const QString name = QString::fromLatin1(picture.text.toUtf8().toHex());
+    const QString path = writtenPictures() + QLatin1Char('/') + name + symbolic();
+    if (QFileInfo::exists(path))
+        return path;
+    QSaveFile file(path);
+    const bool written = QDir().mkpath(writtenPictures()) && file.open(QIODevice::WriteOnly) &&
+                         file.write(textDrawing(picture.text)) > 0 && file.commit();
+    return written ? path : QString();
+}
+
 QString StatusPictures::transparentFile() const
 {
     return m_iconsDirectory + QStringLiteral("/transparent.png");
+}
+
+QString StatusPictures::drawingOfImage(const QString& name) const
+{
+    return m_iconsDirectory + QLatin1Char('/') + name + symbolic();
 }
 
 QImage StatusPictures::glyph(const Picture& picture, int size)
@@ -211,7 +247,7 @@ QImage StatusPictures::glyph(const Picture& picture, int size)
     const auto key = std::make_tuple(name, size, picture.ink);
     auto found = m_glyphs.find(key);
     if (found == m_glyphs.end()) {
-        const QString path = m_iconsDirectory + QLatin1Char('/') + name + QStringLiteral(".svg");
+        const QString path = drawingOfImage(name);
         found = m_glyphs.emplace(key, rendered(path, size, inkOf(picture))).first;
         if (found->second.isNull() && m_missing.insert(name).second)
             qCWarning(logPictures) << "no usable picture in" << path;

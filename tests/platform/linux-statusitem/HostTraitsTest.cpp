@@ -16,6 +16,7 @@ struct Case
     Shape shape;
     bool needsIconFile = false;
     bool showsPlainToolTip = false;
+    bool coloursDrawings = false;
 };
 
 class HostTraitsTable : public testing::TestWithParam<Case>
@@ -30,37 +31,40 @@ TEST_P(HostTraitsTable, isKnownByProcessThenDesktop)
     EXPECT_EQ(traits.shape, c.shape);
     EXPECT_EQ(traits.needsIconFile, c.needsIconFile);
     EXPECT_EQ(traits.showsPlainToolTip, c.showsPlainToolTip);
+    EXPECT_EQ(traits.coloursDrawings, c.coloursDrawings);
     EXPECT_TRUE(traits.takesLabel);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Hosts, HostTraitsTable,
-    testing::Values(Case{"gnome", "gnome-shell", "/usr/bin/gnome-shell", "GNOME", Shape::Label},
-                    Case{"mateTray", "notification-area-applet", "", "MATE", Shape::Label},
-                    Case{"mateSecondTray", "mate-panel", "mate-panel", "MATE", Shape::Label},
-                    Case{"indicators", "ayatana-indicator-application-service", "", "MATE", Shape::Label,
-                         true},
-                    Case{"xfce", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsystray.so 1", "XFCE",
-                         Shape::Square},
-                    Case{"xfceSecondTray", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsntray.so 1",
-                         "XFCE", Shape::Square},
-                    Case{"lxqt", "lxqt-panel", "", "LXQt", Shape::Square, false, true},
-                    Case{"plasma", "kded5", "", "KDE", Shape::Square},
-                    Case{"plasma6", "kded6", "", "KDE", Shape::Square},
-                    Case{"waybar", "waybar", "", "sway", Shape::Wide},
-                    Case{"swaybar", "swaybar", "", "sway", Shape::Square},
-                    Case{"cinnamon", "xapp-sn-watcher", "", "X-Cinnamon", Shape::Wide},
-                    Case{"processBeforeDesktop", "waybar", "", "GNOME", Shape::Wide},
-                    Case{"unreadableProgramReadableArguments", "", "/usr/bin/waybar -c x", "", Shape::Wide},
-                    Case{"hiddenProcessOnGnome", "", "", "ubuntu:GNOME", Shape::Label},
-                    Case{"hiddenProcessOnBudgie", "", "", "Budgie:GNOME", Shape::Square},
-                    Case{"hiddenProcessOnCinnamon", "", "", "X-Cinnamon", Shape::Wide},
-                    Case{"hiddenProcessOnLxqt", "", "", "LXQt", Shape::Square, false, true},
-                    Case{"hiddenProcessOnMate", "", "", "MATE", Shape::Label},
-                    Case{"hiddenProcessOnSway", "", "", "sway", Shape::Square},
-                    Case{"unknownProgramKnownDesktop", "some-watcher", "some-watcher", "GNOME", Shape::Label},
-                    Case{"allUnknown", "some-watcher", "some-watcher", "Other", Shape::Square},
-                    Case{"nothing", "", "", "", Shape::Square}),
+    testing::Values(
+        Case{"gnome", "gnome-shell", "/usr/bin/gnome-shell", "GNOME", Shape::Label, false, false, true},
+        Case{"mateTray", "notification-area-applet", "", "MATE", Shape::Label},
+        Case{"mateSecondTray", "mate-panel", "mate-panel", "MATE", Shape::Label},
+        Case{"indicators", "ayatana-indicator-application-service", "", "MATE", Shape::Label, true},
+        Case{"xfce", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsystray.so 1", "XFCE",
+             Shape::Square},
+        Case{"xfceSecondTray", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsntray.so 1", "XFCE",
+             Shape::Square},
+        Case{"lxqt", "lxqt-panel", "", "LXQt", Shape::Square, false, true},
+        Case{"plasma", "kded5", "", "KDE", Shape::Square, false, false, true},
+        Case{"plasma6", "kded6", "", "KDE", Shape::Square, false, false, true},
+        Case{"waybar", "waybar", "", "sway", Shape::Wide},
+        Case{"swaybar", "swaybar", "", "sway", Shape::Square},
+        Case{"cinnamon", "xapp-sn-watcher", "", "X-Cinnamon", Shape::Wide},
+        Case{"processBeforeDesktop", "waybar", "", "GNOME", Shape::Wide},
+        Case{"unreadableProgramReadableArguments", "", "/usr/bin/waybar -c x", "", Shape::Wide},
+        Case{"hiddenProcessOnGnome", "", "", "ubuntu:GNOME", Shape::Label, false, false, true},
+        Case{"hiddenProcessOnBudgie", "", "", "Budgie:GNOME", Shape::Square},
+        Case{"hiddenProcessOnCinnamon", "", "", "X-Cinnamon", Shape::Wide},
+        Case{"hiddenProcessOnLxqt", "", "", "LXQt", Shape::Square, false, true},
+        Case{"hiddenProcessOnMate", "", "", "MATE", Shape::Label},
+        Case{"hiddenProcessOnPlasma", "", "", "KDE", Shape::Square, false, false, true},
+        Case{"hiddenProcessOnSway", "", "", "sway", Shape::Square},
+        Case{"unknownProgramKnownDesktop", "some-watcher", "some-watcher", "GNOME", Shape::Label, false,
+             false, true},
+        Case{"allUnknown", "some-watcher", "some-watcher", "Other", Shape::Square},
+        Case{"nothing", "", "", "", Shape::Square}),
     [](const auto& row) { return row.param.name; });
 
 TEST(HostTraits, choiceOverridesTheShape)

@@ -196,6 +196,18 @@ TEST_F(LinuxStatusItemTest, labelHostWithoutImageGetsATransparentFile)
     EXPECT_EQ(pixmaps("IconPixmap").size(), 0);
 }
 
+TEST_F(LinuxStatusItemTest, hostThatColoursDrawingsGetsNothingElse)
+{
+    currentDesktop = u("KDE");
+    makeRegisteredItem();
+    EXPECT_EQ(host.itemProperty("IconName"), u(QUINDLE_ICONS "/#bat34-symbolic.svg"));
+    EXPECT_EQ(pixmaps("IconPixmap").size(), 0);
+    item->setImage(std::make_shared<Image>(u("none")));
+    settle();
+    EXPECT_EQ(host.takeSignals(), QStringList{u("NewIcon")});
+    EXPECT_EQ(host.itemProperty("IconName"), QString()) << "no file, no name";
+}
+
 TEST_F(LinuxStatusItemTest, choiceIsHeardAtTheNextRefresh)
 {
     makeRegisteredItem();

@@ -118,6 +118,37 @@ TEST(Presentation, everyPictureHasTheColourOfThePanelsText)
     }
 }
 
+TEST(Presentation, squarePicturesAreDrawingsWhereTheHostColoursThem)
+{
+    struct Row
+    {
+        HostShape shape;
+        const char* title;
+        const char* image;
+        Carrier carrier;
+    };
+    constexpr Row rows[] = {{HostShape::Square, "87.0%", "#bat44", Carrier::Drawing},
+                            {HostShape::Square, "87.0%", "", Carrier::Drawing},
+                            {HostShape::Label, "87.0%", "#bat44", Carrier::Drawing},
+                            {HostShape::Label, "87.0%", "", Carrier::Pixels},
+                            {HostShape::Wide, "87.0%", "#bat44", Carrier::Pixels},
+                            {HostShape::Wide, "", "#bat44", Carrier::Drawing}};
+    HostTraits host;
+    host.coloursDrawings = true;
+    for (const Row& row : rows) {
+        host.shape = row.shape;
+        EXPECT_EQ(present({u(row.title), u(row.image), u("87"), {}, 12.0}, host).carrier, row.carrier)
+            << row.title << row.image;
+    }
+}
+
+TEST(Presentation, otherHostsGetPixelsOrFilesOfThem)
+{
+    const ItemContents contents{u("87.0%"), u("#bat44"), u("87"), {}, 12.0};
+    EXPECT_EQ(present(contents, squareHost).carrier, Carrier::Pixels);
+    EXPECT_EQ(present(contents, {HostShape::Label, true, true}).carrier, Carrier::File);
+}
+
 TEST(Presentation, noLabelWhereThePersonWantsNone)
 {
     const Presentation told = present({u("87.0%"), u("#bat34"), {}, {}, 12.0}, {HostShape::Square, false});

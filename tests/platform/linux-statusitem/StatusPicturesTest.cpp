@@ -1,10 +1,12 @@
 #include "platform/linux/statusitem/StatusPictures.h"
 
-#include <set>
+#include <algorithm>
 
 #include <QFile>
 #include <QImage>
 #include <QPainter>
+#include <QSvgRenderer>
+#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 #include "platform/linux/statusitem/NotifierTypes.h"
@@ -195,6 +197,74 @@ TEST_F(StatusPicturesTest, fileHasTheLargestSquare)
     EXPECT_EQ(QImage(path).size(), QSize(44, 44));
     EXPECT_FALSE(path.contains(QLatin1Char('#')));
     QFile::remove(path);
+}
+
+/// The path's attributes in a drawing whose style sheet hosts know by its id; fails for another drawing.
+QXmlStreamAttributes colouredPath(const QString& file)
+{
+    QFile drawing(file);
+    EXPECT_TRUE(drawing.open(QIODevice::ReadOnly)) << file.toStdString();
+    QXmlStreamReader reader(&drawing);
+    bool hasSheet = false;
+    QXmlStreamAttributes path;
+    while (reader.readNext() != QXmlStreamReader::EndDocument && !reader.hasError()) {
+        if (reader.isStartElement() && reader.name() == u"style")
+            hasSheet = reader.attributes().value(QStringLiteral("id")) == u"current-color-scheme" &&
+                       reader.readElementText().contains(QStringLiteral(".ColorScheme-Text"));
+        if (reader.isStartElement() && reader.name() == u"path")
+            path = reader.attributes();
+    }
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    EXPECT_TRUE(hasSheet) << file.toStdString();
+    return path;
+}
+
+TEST_F(StatusPicturesTest, drawingsLeaveTheColourToTheHost)
+{
+    QStringList files{pictures.drawing(text("87"))};
+    for (const QString& name : names())
+        files.append(pictures.drawing(iconPicture(name)));
+    for (const QString& file : files) {
+        EXPECT_TRUE(file.startsWith(QLatin1Char('/')) && file.endsWith(QStringLiteral("-symbolic.svg")));
+        const QXmlStreamAttributes path = colouredPath(file);
+        EXPECT_EQ(path.value(QStringLiteral("class")), QStringLiteral("ColorScheme-Text"));
+        EXPECT_EQ(path.value(QStringLiteral("fill")), QStringLiteral("currentColor"));
+    }
+    QFile::remove(files.first());
+}
+
+TEST_F(StatusPicturesTest, drawnNumberFillsTheSquare)
+{
+    for (const char* number : {"7", "87", "100"}) {
+        const QString path = pictures.drawing(text(number));
+        QSvgRenderer renderer(path);
+        ASSERT_TRUE(renderer.isValid()) << number;
+        QImage image(220, 220, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        renderer.render(&painter);
+        QRect inked;
+        for (int y = 0; y < 220; ++y) {
+            for (int x = 0; x < 220; ++x)
+                inked |= image.pixelColor(x, y).alpha() > 128 ? QRect(x, y, 1, 1) : QRect();
+        }
+        EXPECT_NEAR(std::max(inked.width(), inked.height()), 200, 2) << number;
+        EXPECT_NEAR(inked.center().x(), 110, 2) << number;
+        EXPECT_NEAR(inked.center().y(), 110, 2) << number;
+        QFile::remove(path);
+    }
+}
+
+TEST_F(StatusPicturesTest, whatHasNoDrawingHasNoFile)
+{
+    EXPECT_EQ(pictures.drawing(iconPicture(QStringLiteral("none"))), QString());
+}
+
+TEST_F(StatusPicturesTest, numbersDoNotShareADrawing)
+{
+    EXPECT_NE(pictures.drawing(text("-5")), pictures.drawing(text("5")));
+    for (const char* number : {"-5", "5"})
+        QFile::remove(pictures.drawing(text(number)));
 }
 
 TEST(NotifierPixmap, pixelsAreInNetworkOrderAndNotPremultiplied)
