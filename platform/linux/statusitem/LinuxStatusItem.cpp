@@ -41,11 +41,13 @@ LinuxStatusItem::LinuxStatusItem(QDBusConnection bus, StatusItemSurroundings sur
         [this] { open(); },
         [this](const QString& token) { m_activationToken = token; },
     };
-    m_notifierItem = new NotifierItemAdaptor(&m_itemObject, m_told, m_pictures, requests);
+    m_labelledItem = new LabelledItemAdaptor(&m_itemObject, m_told, m_pictures, requests);
+    m_itemWithoutLabel = new NotifierItemAdaptor(&m_itemObjectWithoutLabel, m_told, m_pictures, requests);
     m_menuAdaptor = new MenuAdaptor(&m_menuObject, [this] { useActivationToken(); });
     connect(m_watcher, &WatcherLink::watcherFound, this, &LinuxStatusItem::watcherFound);
     connect(m_watcher, &WatcherLink::watcherLost, this, &LinuxStatusItem::watcherLost);
-    exportObjects();
+    exportMenu();
+    exportItem(m_labelledItem);
     scheduleFlush();
 }
 
@@ -54,13 +56,23 @@ LinuxStatusItem::~LinuxStatusItem()
     QDBusConnection::disconnectFromBus(m_bus.name());
 }
 
-void LinuxStatusItem::exportObjects()
+void LinuxStatusItem::exportMenu()
 {
-    if (!m_bus.isConnected())
+    if (m_bus.isConnected())
+        warnIfNot(
+            m_bus.registerObject(QLatin1String(menuPath), &m_menuObject, QDBusConnection::ExportAdaptors));
+}
+
+void LinuxStatusItem::exportItem(NotifierItemAdaptor* item)
+{
+    if (std::exchange(m_notifierItem, item) == item || !m_bus.isConnected())
         return;
-    const bool exported =
-        m_bus.registerObject(itemPath(), &m_itemObject, QDBusConnection::ExportAdaptors) &&
-        m_bus.registerObject(QLatin1String(menuPath), &m_menuObject, QDBusConnection::ExportAdaptors);
+    m_bus.unregisterObject(itemPath());
+    warnIfNot(m_bus.registerObject(itemPath(), item->parent(), QDBusConnection::ExportAdaptors));
+}
+
+void LinuxStatusItem::warnIfNot(bool exported)
+{
     if (!exported)
         qCWarning(logItem) << "the status item cannot be offered on the session bus";
 }
@@ -178,6 +190,7 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
     m_tray.reset();
     m_wanted.host = hostTraits(process, m_surroundings.currentDesktop);
     m_wanted.hasWatcher = true;
+    exportItem(m_wanted.host.labelHidesIcon ? m_itemWithoutLabel : m_labelledItem);
     flush();
     m_watcher->registerItem();
     // A panel that is just starting may own the watcher's name before it tells its colours.

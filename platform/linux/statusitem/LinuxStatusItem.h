@@ -52,7 +52,9 @@ public:
     void setMenu(StatusMenu* menu) override;
 
 private:
-    void exportObjects();
+    void exportMenu();
+    void exportItem(NotifierItemAdaptor* item);
+    void warnIfNot(bool exported);
     void scheduleFlush();
     void flush();
     void tell(Presentation next);
@@ -87,8 +89,11 @@ private:
     bool m_menuChanged = false;
     bool m_started = false;
     QObject m_itemObject;
+    QObject m_itemObjectWithoutLabel;
     QObject m_menuObject;
-    NotifierItemAdaptor* m_notifierItem = nullptr;
+    NotifierItemAdaptor* m_notifierItem = nullptr; ///< the one of the exported object
+    NotifierItemAdaptor* m_labelledItem = nullptr;
+    NotifierItemAdaptor* m_itemWithoutLabel = nullptr;
     MenuAdaptor* m_menuAdaptor = nullptr;
     WatcherLink* m_watcher = nullptr;
     std::unique_ptr<TrayIcon> m_tray;

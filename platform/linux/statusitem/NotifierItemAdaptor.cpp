@@ -91,14 +91,19 @@ QDBusObjectPath NotifierItemAdaptor::menu() const
     return QDBusObjectPath(QLatin1String(menuPath));
 }
 
-QString NotifierItemAdaptor::label() const
+QString LabelledItemAdaptor::label() const
 {
-    return m_told.label;
+    return told().label;
 }
 
-QString NotifierItemAdaptor::labelGuide() const
+QString LabelledItemAdaptor::labelGuide() const
 {
-    return m_told.labelGuide;
+    return told().labelGuide;
+}
+
+const Presentation& NotifierItemAdaptor::told() const
+{
+    return m_told;
 }
 
 uint NotifierItemAdaptor::orderingIndex() const

@@ -33,7 +33,8 @@ struct Picture
     QString imageName;
     QString text;
     double fontSize = 0.0;
-    QRgb ink = 0; ///< what the panel writes in; see isKnown
+    QRgb ink = 0;              ///< what the panel writes in; see isKnown
+    bool inAllHeights = false; ///< a wide one is wanted as high as icons are, not high and to be scaled
 
     friend bool operator==(const Picture&, const Picture&) = default;
 };

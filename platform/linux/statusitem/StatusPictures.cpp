@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 #include <QDir>
 #include <QFileInfo>
@@ -24,6 +25,8 @@ namespace {
 Q_LOGGING_CATEGORY(logPictures, "quindle.statusitem.pictures", QtWarningMsg)
 
 constexpr std::array squareSizes{22, 32, 44};
+// Panels that scale give the icon a pixel or two less than their own height.
+constexpr std::array wideHeights{16, 18, 20, 22, 24, 26, 28, 30, 32, 36, 40, 44, 48};
 constexpr int gridSize = 22;
 // Twice the 21 pixels that the one host of wide pictures gives its icons by default, so that it halves them
 // evenly.
@@ -35,6 +38,13 @@ constexpr double panelPixelsPerPoint = 13.0 / 12.0;
 
 constexpr QColor onPlate(255, 255, 255);
 constexpr QColor plateColour(24, 26, 30, 190);
+
+std::span<const int> sizesOf(const Picture& picture)
+{
+    if (picture.kind != Picture::Kind::Wide)
+        return squareSizes;
+    return picture.inAllHeights ? std::span<const int>(wideHeights) : std::span(&wideHeight, 1);
+}
 
 /// By this end of a file's name hosts know drawings that they may colour.
 QString symbolic()
@@ -123,7 +133,8 @@ QImage wideText(const Picture& picture, const QImage& icon, int height)
 
     QImage image = ground(picture, left + textWidth + margin, height);
     QPainter painter(&image);
-    painter.drawImage(margin / 2, height - icon.height(), icon);
+    // In the middle, and on an even pixel as below.
+    painter.drawImage(margin / 2, 2 * static_cast<int>(std::floor((height - icon.height()) / 4.0)), icon);
     painter.setFont(font);
     painter.setPen(inkOf(picture));
     // The figures stand in the middle, not the font's line with its room for accents, and on an even pixel,
@@ -192,11 +203,8 @@ std::vector<QImage> StatusPictures::images(const Picture& picture)
 {
     if (picture.kind == Picture::Kind::Transparent)
         return {};
-    if (picture.kind == Picture::Kind::Wide)
-        return {image(picture, wideHeight)};
     std::vector<QImage> made;
-    made.reserve(squareSizes.size());
-    for (const int size : squareSizes)
+    for (const int size : sizesOf(picture))
         made.push_back(image(picture, size));
     std::erase_if(made, [](const QImage& one) { return one.isNull(); });
     return made;

@@ -208,6 +208,19 @@ TEST_F(LinuxStatusItemTest, hostThatColoursDrawingsGetsNothingElse)
     EXPECT_EQ(host.itemProperty("IconName"), QString()) << "no file, no name";
 }
 
+TEST_F(LinuxStatusItemTest, hostWhoseLabelHidesTheIconSeesNoLabelAtAll)
+{
+    currentDesktop = u("MATE");
+    makeRegisteredItem();
+    EXPECT_FALSE(host.itemProperty("XAyatanaLabel").isValid());
+    EXPECT_EQ(host.itemProperty("Title"), u("87.0%"));
+    ASSERT_GT(pixmaps("IconPixmap").size(), 1);
+    EXPECT_GT(pixmaps("IconPixmap").at(0).width, 32);
+    item->setTitle(u("86.9%"));
+    settle();
+    EXPECT_EQ(host.takeSignals(), (QStringList{u("NewTitle"), u("NewIcon"), u("NewToolTip")}));
+}
+
 TEST_F(LinuxStatusItemTest, choiceIsHeardAtTheNextRefresh)
 {
     makeRegisteredItem();

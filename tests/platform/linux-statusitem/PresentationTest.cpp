@@ -98,13 +98,18 @@ TEST(Presentation, toolTipIsEscapedWhereItIsMarkup)
     const ItemContents contents{u("R&D <b>"), {}, {}, u("a & b"), 12.0};
     EXPECT_EQ(present(contents, squareHost).toolTipTitle, u("R&amp;D &lt;b&gt;"));
     EXPECT_EQ(present(contents, squareHost).toolTipBody, u("a &amp; b"));
-    const HostTraits plain{HostShape::Square, true, false, true};
-    EXPECT_EQ(present(contents, plain).toolTipTitle, u("R&amp;D &lt;b&gt;"));
-    EXPECT_EQ(present(contents, plain).toolTipBody, u("a & b"));
     HostTraits escaping = squareHost;
     escaping.escapesToolTipTitle = true;
     EXPECT_EQ(present(contents, escaping).toolTipTitle, u("R&D <b>"));
     EXPECT_EQ(present(contents, escaping).toolTipBody, u("a &amp; b"));
+}
+
+TEST(Presentation, toolTipIsInTheTitleWhereNothingElseIsShown)
+{
+    const HostTraits host{HostShape::Square, true, false, true};
+    EXPECT_EQ(present({u("87.0%"), {}, {}, u("a & b"), 12.0}, host).toolTipTitle, u("87.0%\na & b"));
+    const QString markup = present({u("R&D <b>"), {}, {}, u("a"), 12.0}, host).toolTipTitle;
+    EXPECT_TRUE(markup.contains(u("R&amp;D")) && markup.contains(u("&lt;b&gt;<br>"))) << markup.toStdString();
 }
 
 TEST(Presentation, everyPictureHasTheColourOfThePanelsText)
@@ -147,6 +152,14 @@ TEST(Presentation, otherHostsGetPixelsOrFilesOfThem)
     const ItemContents contents{u("87.0%"), u("#bat44"), u("87"), {}, 12.0};
     EXPECT_EQ(present(contents, squareHost).carrier, Carrier::Pixels);
     EXPECT_EQ(present(contents, {HostShape::Label, true, true}).carrier, Carrier::File);
+}
+
+TEST(Presentation, pictureComesInAllHeightsWhereThereIsNoLabel)
+{
+    HostTraits host = wideHost;
+    EXPECT_FALSE(present({u("87.0%"), {}, {}, {}, 12.0}, host).picture.inAllHeights);
+    host.labelHidesIcon = true;
+    EXPECT_TRUE(present({u("87.0%"), {}, {}, {}, 12.0}, host).picture.inAllHeights);
 }
 
 TEST(Presentation, noLabelWhereThePersonWantsNone)

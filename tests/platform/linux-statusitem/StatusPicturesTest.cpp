@@ -177,6 +177,19 @@ TEST_F(StatusPicturesTest, widePictureGrowsWithTheTitleWithinBounds)
     EXPECT_LE(width(names()[0], QString(10000, QLatin1Char('W'))), 800);
 }
 
+TEST_F(StatusPicturesTest, widePictureOfEveryHeight)
+{
+    Picture picture = wide(names()[3], QStringLiteral("87%"));
+    picture.inAllHeights = true;
+    std::vector<int> heights;
+    for (const QImage& image : pictures.images(picture)) {
+        EXPECT_GT(image.width(), 2 * image.height());
+        EXPECT_GT(lightPixels(image), image.width());
+        heights.push_back(image.height());
+    }
+    EXPECT_EQ(heights, (std::vector{16, 18, 20, 22, 24, 26, 28, 30, 32, 36, 40, 44, 48}));
+}
+
 TEST_F(StatusPicturesTest, anyTextCanBeDrawn)
 {
     for (const char* title : {"\u202e87%", "שלום 87%", "😀", "e\u0301\u0301\u0301", "&amp; <b>"})
