@@ -15,7 +15,7 @@ constexpr HostTraits squareHost{HostShape::Square, true, false, false};
 constexpr HostTraits xfceHost{HostShape::Square, true, false, false, true};
 constexpr HostTraits lxqtHost{HostShape::Square, true, false, true};
 constexpr HostTraits mateHost{HostShape::Wide, false, false, false, false, false, true};
-constexpr HostTraits gnomeHost{HostShape::Label, true, false, false, false, true};
+constexpr HostTraits gnomeHost{HostShape::Label, true, false, false, false, true, false, true};
 constexpr HostTraits plasmaHost{HostShape::Square, true, false, false, false, true};
 
 struct ProgramRow

@@ -23,8 +23,9 @@ struct HostTraits
     bool escapesToolTipTitle = false;   ///< of a tool tip it parses only the second text as markup
     bool coloursDrawings = false; ///< a drawing in a file is shown in the colour that the panel writes in
     bool labelHidesIcon =
-        false;           ///< even an empty label does; a wide picture is shown if icon-high ones are there
-    QRgb textColour = 0; ///< what its panel writes in; transparent while that is unknown
+        false; ///< even an empty label does; a wide picture is shown if icon-high ones are there
+    bool cutsTallMenus = false; ///< the last rows of a menu higher than the screen cannot be reached
+    QRgb textColour = 0;        ///< what its panel writes in; transparent while that is unknown
 
     friend bool operator==(const HostTraits&, const HostTraits&) = default;
 };

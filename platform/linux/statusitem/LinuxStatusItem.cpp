@@ -191,6 +191,7 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
     m_wanted.host = hostTraits(process, m_surroundings.currentDesktop);
     m_wanted.hasWatcher = true;
     exportItem(m_wanted.host.labelHidesIcon ? m_itemWithoutLabel : m_labelledItem);
+    m_menuAdaptor->setCommandsFirst(m_wanted.host.cutsTallMenus);
     flush();
     m_watcher->registerItem();
     // A panel that is just starting may own the watcher's name before it tells its colours.

@@ -158,8 +158,10 @@ QImage rendered(const QString& file, int size, const QColor& colour)
     if (!renderer.isValid())
         return {};
     QImage image = blankImage(size, size);
-    // Sizes a little above the grid's keep its pixels and get a margin instead of blurred lines.
-    const int drawn = size > gridSize && size < gridSize + 4 ? gridSize : size;
+    // Sizes a little above the grid's or its double keep its pixels and get a margin instead of blurred
+    // lines.
+    const int beyond = size % gridSize;
+    const int drawn = size > gridSize && beyond < 5 ? size - beyond : size;
     const int margin = (size - drawn) / 2;
     QPainter painter(&image);
     renderer.render(&painter, QRectF(margin, margin, drawn, drawn));

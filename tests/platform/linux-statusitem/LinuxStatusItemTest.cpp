@@ -342,6 +342,17 @@ TEST_F(LinuxStatusItemTest, menuLayoutOverTheBus)
     EXPECT_EQ(rows.at(0).properties.value(u("label")), u("87.0%"));
 }
 
+TEST_F(LinuxStatusItemTest, commandsAreAboveTheFactsWhereTallMenusAreCut)
+{
+    menu.addRow({StatusMenu::Kind::Fact, u("last"), true, true, {}});
+    currentDesktop = u("GNOME");
+    makeRegisteredItem();
+    const auto answer = host.call(menuObject, menuInterface, "GetLayout", {0, 1, QStringList()});
+    const auto root = demarshalled<MenuNode>(answer.arguments().value(1));
+    ASSERT_EQ(root.children.size(), 5);
+    EXPECT_EQ(demarshalled<MenuNode>(root.children.at(1).variant()).id, 2);
+}
+
 TEST_F(LinuxStatusItemTest, menuClicks)
 {
     makeRegisteredItem();

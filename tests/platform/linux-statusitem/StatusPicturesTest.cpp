@@ -91,6 +91,19 @@ TEST_F(StatusPicturesTest, glyphsAreOnThePixelGrid)
     EXPECT_EQ(full.pixelColor(10, 1).alpha(), 0);
 }
 
+TEST_F(StatusPicturesTest, sizesALittleAboveTheGridsHaveSharpLines)
+{
+    Picture picture = iconPicture(names()[4]);
+    picture.ink = qRgb(0, 0, 0);
+    for (const int size : {22, 24, 44, 48}) {
+        const QImage image = pictures.image(picture, size);
+        for (int y = 0; y < size; ++y) {
+            const int alpha = image.pixelColor(size / 2, y).alpha();
+            EXPECT_TRUE(alpha == 0 || alpha == 255) << size << " at " << y;
+        }
+    }
+}
+
 /// How light the picture is at a place of the grid on a panel of that colour.
 int lightness(const QImage& picture, QPoint place, const QColor& panel)
 {
