@@ -228,11 +228,11 @@ QString StatusPictures::file(const Picture& picture)
 QString StatusPictures::drawing(const Picture& picture) const
 {
     if (picture.kind != Picture::Kind::Text) {
-        const QString path = drawingOfImage(picture.imageName);
+        QString path = drawingOfImage(picture.imageName);
         return QFileInfo::exists(path) ? path : QString();
     }
     const QString name = QString::fromLatin1(picture.text.toUtf8().toHex());
-    const QString path = writtenPictures() + QLatin1Char('/') + name + symbolic();
+    QString path = writtenPictures() + QLatin1Char('/') + name + symbolic();
     if (QFileInfo::exists(path))
         return path;
     QSaveFile file(path);
