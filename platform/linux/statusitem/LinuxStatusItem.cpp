@@ -31,11 +31,10 @@ bool mayHaveX11Tray()
 
 } // namespace
 
-LinuxStatusItem::LinuxStatusItem(QDBusConnection bus, StatusItemSurroundings surroundings)
-    : m_bus(std::move(bus))
+LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, StatusItemSurroundings surroundings)
+    : m_bus(bus)
     , m_surroundings(std::move(surroundings))
     , m_pictures(m_surroundings.iconsDirectory)
-    , m_watcher(new WatcherLink(m_bus, itemPath(), m_surroundings.registrationCheck, this))
 {
     const NotifierItemAdaptor::Requests requests{
         [this] { open(); },
@@ -44,10 +43,9 @@ LinuxStatusItem::LinuxStatusItem(QDBusConnection bus, StatusItemSurroundings sur
     m_labelledItem = new LabelledItemAdaptor(&m_itemObject, m_told, m_pictures, requests);
     m_itemWithoutLabel = new NotifierItemAdaptor(&m_itemObjectWithoutLabel, m_told, m_pictures, requests);
     m_menuAdaptor = new MenuAdaptor(&m_menuObject, [this] { useActivationToken(); });
-    connect(m_watcher, &WatcherLink::watcherFound, this, &LinuxStatusItem::watcherFound);
-    connect(m_watcher, &WatcherLink::watcherLost, this, &LinuxStatusItem::watcherLost);
-    exportMenu();
-    exportItem(m_labelledItem);
+    m_notifierItem = m_labelledItem;
+    exportObjects();
+    linkToWatcher();
     scheduleFlush();
 }
 
@@ -56,25 +54,40 @@ LinuxStatusItem::~LinuxStatusItem()
     QDBusConnection::disconnectFromBus(m_bus.name());
 }
 
-void LinuxStatusItem::exportMenu()
+void LinuxStatusItem::setBus(const QDBusConnection& bus)
 {
-    if (m_bus.isConnected())
-        warnIfNot(
-            m_bus.registerObject(QLatin1String(menuPath), &m_menuObject, QDBusConnection::ExportAdaptors));
+    m_bus = bus;
+    exportObjects();
+    linkToWatcher();
+    if (m_started)
+        m_watcher->start();
 }
 
-void LinuxStatusItem::exportItem(NotifierItemAdaptor* item)
+void LinuxStatusItem::linkToWatcher()
 {
-    if (std::exchange(m_notifierItem, item) == item || !m_bus.isConnected())
+    m_watcher = std::make_unique<WatcherLink>(m_bus, itemPath(), m_surroundings.registrationCheck);
+    connect(m_watcher.get(), &WatcherLink::watcherFound, this, &LinuxStatusItem::watcherFound);
+    connect(m_watcher.get(), &WatcherLink::watcherLost, this, &LinuxStatusItem::watcherLost);
+}
+
+void LinuxStatusItem::exportObjects()
+{
+    if (!m_bus.isConnected())
         return;
-    m_bus.unregisterObject(itemPath());
-    warnIfNot(m_bus.registerObject(itemPath(), item->parent(), QDBusConnection::ExportAdaptors));
-}
-
-void LinuxStatusItem::warnIfNot(bool exported)
-{
+    const bool exported =
+        m_bus.registerObject(itemPath(), m_notifierItem->parent(), QDBusConnection::ExportAdaptors) &&
+        m_bus.registerObject(QLatin1String(menuPath), &m_menuObject, QDBusConnection::ExportAdaptors);
     if (!exported)
         qCWarning(logItem) << "the status item cannot be offered on the session bus";
+}
+
+void LinuxStatusItem::useItem(NotifierItemAdaptor* item)
+{
+    if (std::exchange(m_notifierItem, item) == item)
+        return;
+    m_bus.unregisterObject(itemPath());
+    m_bus.unregisterObject(QLatin1String(menuPath));
+    exportObjects();
 }
 
 void LinuxStatusItem::setTitle(const QString& title)
@@ -190,7 +203,7 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
     m_tray.reset();
     m_wanted.host = hostTraits(process, m_surroundings.currentDesktop);
     m_wanted.hasWatcher = true;
-    exportItem(m_wanted.host.labelHidesIcon ? m_itemWithoutLabel : m_labelledItem);
+    useItem(m_wanted.host.labelHidesIcon ? m_itemWithoutLabel : m_labelledItem);
     m_menuAdaptor->setCommandsFirst(m_wanted.host.cutsTallMenus);
     flush();
     m_watcher->registerItem();

@@ -39,8 +39,12 @@ class LinuxStatusItem final : public QObject, public StatusItem
 public:
     /// The connection is the item's own, and closed with it: watchers know items by their connection. One
     /// that is not connected leaves the X11 tray.
-    LinuxStatusItem(QDBusConnection bus, StatusItemSurroundings surroundings);
+    LinuxStatusItem(const QDBusConnection& bus, StatusItemSurroundings surroundings);
     ~LinuxStatusItem() override;
+
+    /// Moves the item to another connection, because the present one was lost or a bus has come. As in the
+    /// constructor.
+    void setBus(const QDBusConnection& bus);
 
     void setTitle(const QString& title) override;
     QString title() const override;
@@ -52,9 +56,9 @@ public:
     void setMenu(StatusMenu* menu) override;
 
 private:
-    void exportMenu();
-    void exportItem(NotifierItemAdaptor* item);
-    void warnIfNot(bool exported);
+    void exportObjects();
+    void useItem(NotifierItemAdaptor* item);
+    void linkToWatcher();
     void scheduleFlush();
     void flush();
     void tell(Presentation next);
@@ -95,7 +99,7 @@ private:
     NotifierItemAdaptor* m_labelledItem = nullptr;
     NotifierItemAdaptor* m_itemWithoutLabel = nullptr;
     MenuAdaptor* m_menuAdaptor = nullptr;
-    WatcherLink* m_watcher = nullptr;
+    std::unique_ptr<WatcherLink> m_watcher;
     std::unique_ptr<TrayIcon> m_tray;
 };
 
