@@ -38,11 +38,12 @@ def may_unshare():
 
 
 class Desktop:
-    """Use as `with Desktop("xfce") as desktop:`. Hosts: xfce, tint2 (XEmbed), lxqt, waybar (Wayland), none."""
+    """Use as `with Desktop("xfce") as desktop:`. Hosts: xfce, tint2 (XEmbed), lxqt, mate, waybar (Wayland), none."""
 
     def __init__(self, host, geometry="640x480", scale=1, panel_height=28, keep_log=None, background="#4a6a8a",
-                 dark=None, compositor=False):
-        """`dark` chooses the panel's colours (None: the host's own); `compositor` lets windows be translucent."""
+                 dark=None, compositor=False, pointer=False):
+        """`dark` chooses the panel's colours (None: the host's own); `compositor` lets windows be translucent;
+        `pointer` gives the Wayland compositor a mouse, by making it a window of an X server."""
         self.host = host
         self.geometry = geometry
         self.scale = scale
@@ -50,6 +51,7 @@ class Desktop:
         self.background = background
         self.dark = dark
         self.compositor = compositor
+        self.pointer = pointer
         self.id = uuid.uuid4().hex
         self.root = Path(tempfile.mkdtemp(prefix="quindle-desktop-"))
         self.log_path = Path(keep_log) if keep_log else self.root / "log"
@@ -82,7 +84,7 @@ class Desktop:
                 os.chown(self.root / name, NOBODY, NOBODY)
         env.update({MARK: self.id, "LANG": "C.UTF-8", "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1", "GTK_A11Y": "none",
                     "GSETTINGS_BACKEND": "keyfile", "LIBGL_ALWAYS_SOFTWARE": "1", "TZ": "UTC",
-                    "XDG_CURRENT_DESKTOP": {"xfce": "XFCE", "lxqt": "LXQt", "waybar": "sway"}.get(self.host, "")})
+                    "XDG_CURRENT_DESKTOP": {"xfce": "XFCE", "lxqt": "LXQt", "mate": "MATE", "waybar": "sway"}.get(self.host, "")})
         if self.dark is not None:
             env["GTK_THEME"] = "Adwaita:dark" if self.dark else "Adwaita"
         if self.scale != 1:
@@ -95,11 +97,11 @@ class Desktop:
     def __enter__(self):
         self.log = open(self.log_path, "ab")
         try:
-            self._start_bus()
+            if not self.is_wayland or self.pointer:
+                self._start_x()
+            self._start_bus()  # programs that the bus starts find the display in its environment
             if self.is_wayland:
                 self._start_sway()
-            else:
-                self._start_x()
             self.start_panel()
         except BaseException:
             self.close()
@@ -171,6 +173,8 @@ class Desktop:
         with os.fdopen(read_end) as stream:
             self.env["DISPLAY"] = ":" + stream.readline().strip()
         self.env["XDG_SESSION_TYPE"] = "x11"
+        if self.is_wayland:
+            return
         self.start("openbox")
         wait_for(lambda: "window id" in self.call("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
         self.call("xsetroot", "-solid", self.background)
@@ -180,8 +184,8 @@ class Desktop:
             time.sleep(0.5)
 
     def _start_sway(self):
-        self.env.update({"XDG_SESSION_TYPE": "wayland", "WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman",
-                         "WLR_LIBINPUT_NO_DEVICES": "1"})
+        self.env.update({"XDG_SESSION_TYPE": "wayland", "WLR_BACKENDS": "x11" if self.pointer else "headless",
+                         "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1"})
         config = self.root / "sway.conf"
         config.write_text(f"output * resolution {self.geometry} position 0,0 scale {self.scale} "
                           f"bg {self.background} solid_color\nxwayland disable\ndefault_border none\n")
@@ -205,7 +209,7 @@ class Desktop:
         self.panel.kill()
         self.panel.wait()
         for pid in self._own_processes():
-            if "panel/wrapper" in self._command_line(pid):
+            if re.search("panel/wrapper|notification-area-applet", self._command_line(pid)):
                 os.kill(pid, signal.SIGKILL)
         if self.host != "tint2":
             wait_for(lambda: not self.has_name(WATCHER))
@@ -229,6 +233,13 @@ class Desktop:
         folder.mkdir(parents=True, exist_ok=True)
         (folder / "panel.conf").write_text(LXQT_PANEL.format(size=self.panel_height))
         self.panel = self.start("lxqt-panel")
+        self._wait_for_watcher()
+
+    def _start_mate(self):
+        folder = Path(self.env["XDG_CONFIG_HOME"]) / "glib-2.0/settings"
+        folder.mkdir(parents=True, exist_ok=True)
+        (folder / "keyfile").write_text(MATE_PANEL.format(size=self.panel_height))
+        self.panel = self.start("mate-panel", "--replace")
         self._wait_for_watcher()
 
     def _start_tint2(self):
@@ -372,6 +383,24 @@ iconSize=22
 
 [statusnotifier]
 type=statusnotifier
+"""
+
+MATE_PANEL = """[org/mate/panel/general]
+toplevel-id-list=['top']
+object-id-list=['tray']
+[org/mate/panel/toplevels/top]
+expand=true
+orientation='top'
+screen=0
+size={size}
+y=0
+[org/mate/panel/objects/tray]
+applet-iid='NotificationAreaAppletFactory::NotificationArea'
+locked=true
+object-type='applet'
+panel-right-stick=false
+position=10
+toplevel-id='top'
 """
 
 TINT2_PANEL = """rounded = 0

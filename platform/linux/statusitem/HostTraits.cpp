@@ -13,7 +13,10 @@ constexpr HostTraits labelHostWithFiles{HostShape::Label, true, true, false};
 constexpr HostTraits wideHost{HostShape::Wide, true, false, false};
 constexpr HostTraits squareHost{HostShape::Square, true, false, false};
 constexpr HostTraits xfceHost{HostShape::Square, true, false, false, true};
-constexpr HostTraits plainSquareHost{HostShape::Square, true, false, true};
+constexpr HostTraits lxqtHost{HostShape::Square, true, false, true};
+constexpr HostTraits mateHost{HostShape::Wide, false, false, false, false, false, true};
+constexpr HostTraits gnomeHost{HostShape::Label, true, false, false, false, true, false, true};
+constexpr HostTraits plasmaHost{HostShape::Square, true, false, false, false, true};
 
 struct ProgramRow
 {
@@ -25,14 +28,14 @@ constexpr std::array programs{
     ProgramRow{u"ayatana-indicator-application-service", labelHostWithFiles},
     ProgramRow{u"budgie-panel", squareHost},
     ProgramRow{u"cinnamon", wideHost},
-    ProgramRow{u"gnome-shell", labelHost},
+    ProgramRow{u"gnome-shell", gnomeHost},
     ProgramRow{u"indicator-application-service", labelHostWithFiles},
-    ProgramRow{u"kded5", squareHost},
-    ProgramRow{u"kded6", squareHost},
-    ProgramRow{u"lxqt-panel", plainSquareHost},
+    ProgramRow{u"kded5", plasmaHost},
+    ProgramRow{u"kded6", plasmaHost},
+    ProgramRow{u"lxqt-panel", lxqtHost},
     ProgramRow{u"mate-panel", labelHost},
-    ProgramRow{u"notification-area-applet", labelHost},
-    ProgramRow{u"plasmashell", squareHost},
+    ProgramRow{u"notification-area-applet", mateHost},
+    ProgramRow{u"plasmashell", plasmaHost},
     ProgramRow{u"swaybar", squareHost},
     ProgramRow{u"waybar", wideHost},
     ProgramRow{u"wrapper-2.0", xfceHost}, // Xfce: both of its tray plug-ins show no label
@@ -41,13 +44,13 @@ constexpr std::array programs{
 };
 
 constexpr std::array desktops{
-    ProgramRow{u"Budgie", squareHost},    //
-    ProgramRow{u"GNOME", labelHost},      //
-    ProgramRow{u"KDE", squareHost},       //
-    ProgramRow{u"LXQt", plainSquareHost}, //
-    ProgramRow{u"MATE", labelHost},       //
-    ProgramRow{u"X-Cinnamon", wideHost},  //
-    ProgramRow{u"XFCE", xfceHost},        //
+    ProgramRow{u"Budgie", squareHost},   //
+    ProgramRow{u"GNOME", gnomeHost},     //
+    ProgramRow{u"KDE", plasmaHost},      //
+    ProgramRow{u"LXQt", lxqtHost},       //
+    ProgramRow{u"MATE", mateHost},       //
+    ProgramRow{u"X-Cinnamon", wideHost}, //
+    ProgramRow{u"XFCE", xfceHost},       //
 };
 
 template <typename Table>
@@ -82,7 +85,7 @@ HostTraits hostTraits(const HostProcess& process, const QString& currentDesktop)
 
 HostTraits withChoice(HostTraits traits, const QString& choice)
 {
-    if (choice == QLatin1String("label")) {
+    if (choice == QLatin1String("label") && !traits.labelHidesIcon) {
         traits.shape = HostShape::Label;
     } else if (choice == QLatin1String("wide") && !traits.needsIconFile) {
         // A host with labels would show the title twice.

@@ -18,10 +18,14 @@ struct HostTraits
     HostShape shape = HostShape::Square;
     bool takesLabel =
         true; ///< false: the label stays empty, so that the title is not seen where it is not wanted
-    bool needsIconFile = false;       ///< only icons in files are shown, pixels sent over the bus are ignored
-    bool showsPlainToolTip = false;   ///< tool tips are not parsed as markup
-    bool escapesToolTipTitle = false; ///< of a tool tip it parses only the second text as markup
-    QRgb textColour = 0;              ///< what its panel writes in; transparent while that is unknown
+    bool needsIconFile = false; ///< only icons in files are shown, pixels sent over the bus are ignored
+    bool showsToolTipTitleOnly = false; ///< of a tool tip only the first text, as markup if it looks like it
+    bool escapesToolTipTitle = false;   ///< of a tool tip it parses only the second text as markup
+    bool coloursDrawings = false; ///< a drawing in a file is shown in the colour that the panel writes in
+    bool labelHidesIcon =
+        false; ///< even an empty label does; a wide picture is shown if icon-high ones are there
+    bool cutsTallMenus = false; ///< the last rows of a menu higher than the screen cannot be reached
+    QRgb textColour = 0;        ///< what its panel writes in; transparent while that is unknown
 
     friend bool operator==(const HostTraits&, const HostTraits&) = default;
 };

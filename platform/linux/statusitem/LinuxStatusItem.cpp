@@ -40,8 +40,10 @@ LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, StatusItemSurroundi
         [this] { open(); },
         [this](const QString& token) { m_activationToken = token; },
     };
-    m_notifierItem = new NotifierItemAdaptor(&m_itemObject, m_told, m_pictures, requests);
+    m_labelledItem = new LabelledItemAdaptor(&m_itemObject, m_told, m_pictures, requests);
+    m_itemWithoutLabel = new NotifierItemAdaptor(&m_itemObjectWithoutLabel, m_told, m_pictures, requests);
     m_menuAdaptor = new MenuAdaptor(&m_menuObject, [this] { useActivationToken(); });
+    m_notifierItem = m_labelledItem;
     exportObjects();
     linkToWatcher();
     scheduleFlush();
@@ -73,10 +75,19 @@ void LinuxStatusItem::exportObjects()
     if (!m_bus.isConnected())
         return;
     const bool exported =
-        m_bus.registerObject(itemPath(), &m_itemObject, QDBusConnection::ExportAdaptors) &&
+        m_bus.registerObject(itemPath(), m_notifierItem->parent(), QDBusConnection::ExportAdaptors) &&
         m_bus.registerObject(QLatin1String(menuPath), &m_menuObject, QDBusConnection::ExportAdaptors);
     if (!exported)
         qCWarning(logItem) << "the status item cannot be offered on the session bus";
+}
+
+void LinuxStatusItem::useItem(NotifierItemAdaptor* item)
+{
+    if (std::exchange(m_notifierItem, item) == item)
+        return;
+    m_bus.unregisterObject(itemPath());
+    m_bus.unregisterObject(QLatin1String(menuPath));
+    exportObjects();
 }
 
 void LinuxStatusItem::setTitle(const QString& title)
@@ -177,7 +188,7 @@ void LinuxStatusItem::tell(Presentation next)
     const Presentation last = std::exchange(m_told, std::move(next));
     if (m_told.title != last.title)
         Q_EMIT m_notifierItem->NewTitle();
-    if (m_told.picture != last.picture || m_told.iconInFile != last.iconInFile)
+    if (m_told.picture != last.picture || m_told.carrier != last.carrier)
         Q_EMIT m_notifierItem->NewIcon();
     if (m_told.toolTipTitle != last.toolTipTitle || m_told.toolTipBody != last.toolTipBody)
         Q_EMIT m_notifierItem->NewToolTip();
@@ -192,6 +203,8 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
     m_tray.reset();
     m_wanted.host = hostTraits(process, m_surroundings.currentDesktop);
     m_wanted.hasWatcher = true;
+    useItem(m_wanted.host.labelHidesIcon ? m_itemWithoutLabel : m_labelledItem);
+    m_menuAdaptor->setCommandsFirst(m_wanted.host.cutsTallMenus);
     flush();
     m_watcher->registerItem();
     // A panel that is just starting may own the watcher's name before it tells its colours.

@@ -57,6 +57,7 @@ public:
 
 private:
     void exportObjects();
+    void useItem(NotifierItemAdaptor* item);
     void linkToWatcher();
     void scheduleFlush();
     void flush();
@@ -92,8 +93,11 @@ private:
     bool m_menuChanged = false;
     bool m_started = false;
     QObject m_itemObject;
+    QObject m_itemObjectWithoutLabel;
     QObject m_menuObject;
-    NotifierItemAdaptor* m_notifierItem = nullptr;
+    NotifierItemAdaptor* m_notifierItem = nullptr; ///< the one of the exported object
+    NotifierItemAdaptor* m_labelledItem = nullptr;
+    NotifierItemAdaptor* m_itemWithoutLabel = nullptr;
     MenuAdaptor* m_menuAdaptor = nullptr;
     std::unique_ptr<WatcherLink> m_watcher;
     std::unique_ptr<TrayIcon> m_tray;

@@ -1,5 +1,7 @@
 #include "platform/linux/statusitem/MenuAdaptor.h"
 
+#include <utility>
+
 #include <QGuiApplication>
 
 #include "platform/linux/statusitem/MenuLayout.h"
@@ -31,6 +33,14 @@ void MenuAdaptor::setMenu(StatusMenu* menu)
 {
     m_menu = menu;
     m_told = allRowProperties(menu);
+    ++m_revision;
+    Q_EMIT LayoutUpdated(m_revision, menuRootId);
+}
+
+void MenuAdaptor::setCommandsFirst(bool first)
+{
+    if (std::exchange(m_commandsFirst, first) == first)
+        return;
     ++m_revision;
     Q_EMIT LayoutUpdated(m_revision, menuRootId);
 }
@@ -71,7 +81,7 @@ QStringList MenuAdaptor::iconThemePath() const
 uint MenuAdaptor::GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames,
                             MenuNode& layout)
 {
-    layout = menuLayout(m_menu, parentId, recursionDepth, propertyNames);
+    layout = menuLayout(m_menu, parentId, recursionDepth, propertyNames, m_commandsFirst);
     return m_revision;
 }
 

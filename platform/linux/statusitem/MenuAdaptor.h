@@ -31,6 +31,9 @@ public:
     /// The menu to show, null for an empty one. Rows that it gets later are seen at the host's next question.
     void setMenu(StatusMenu* menu);
 
+    /// Puts the commands above all facts but the first, for hosts that cut menus higher than the screen.
+    void setCommandsFirst(bool first);
+
     /// Tells hosts which rows have changed since they were told last. They are told row by row, because some
     /// close an open menu when its layout changes.
     void tellChanges();
@@ -61,6 +64,7 @@ private:
     void choose(int id);
 
     StatusMenu* m_menu = nullptr;
+    bool m_commandsFirst = false;
     std::function<void()> m_aboutToChoose;
     std::vector<QVariantMap> m_told; ///< of each row; the row with id n at n - 1
     uint m_revision = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QStringList>
 #include <QVariantMap>
 
@@ -19,7 +21,12 @@ QVariantMap menuProperties(const StatusMenu* menu, int id, const QStringList& na
 
 /// The menu or a row with what is below it; depth 0 is the row alone, negative ones are without limit.
 /// Invisible rows are there too, so that rows never come or go while a host shows the menu.
-MenuNode menuLayout(const StatusMenu* menu, int parentId, int depth, const QStringList& names);
+MenuNode menuLayout(const StatusMenu* menu, int parentId, int depth, const QStringList& names,
+                    bool commandsFirst = false);
+
+/// The ids of the rows from above: as the menu has them, or with the commands between the first row and the
+/// other facts.
+std::vector<int> menuOrder(const StatusMenu* menu, bool commandsFirst);
 
 /// Whether the id is the menu itself or one of its rows.
 bool isMenuId(const StatusMenu* menu, int id);

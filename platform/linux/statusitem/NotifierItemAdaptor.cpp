@@ -49,11 +49,22 @@ QString NotifierItemAdaptor::iconName() const
 {
     if (m_told.picture.kind == Picture::Kind::Transparent)
         return m_pictures.transparentFile();
-    return m_told.iconInFile ? m_pictures.file(m_told.picture) : QString();
+    switch (m_told.carrier) {
+    case Carrier::File:
+        return m_pictures.file(m_told.picture);
+    case Carrier::Drawing:
+        return m_pictures.drawing(m_told.picture);
+    case Carrier::Pixels:
+        break;
+    }
+    return {};
 }
 
 QList<NotifierPixmap> NotifierItemAdaptor::iconPixmap() const
 {
+    // Some hosts prefer pixels to a name, and would not colour these.
+    if (m_told.carrier == Carrier::Drawing && !m_pictures.drawing(m_told.picture).isEmpty())
+        return {};
     QList<NotifierPixmap> pixmaps;
     for (const QImage& image : m_pictures.images(m_told.picture))
         pixmaps.append(notifierPixmap(image));
@@ -80,14 +91,19 @@ QDBusObjectPath NotifierItemAdaptor::menu() const
     return QDBusObjectPath(QLatin1String(menuPath));
 }
 
-QString NotifierItemAdaptor::label() const
+QString LabelledItemAdaptor::label() const
 {
-    return m_told.label;
+    return told().label;
 }
 
-QString NotifierItemAdaptor::labelGuide() const
+QString LabelledItemAdaptor::labelGuide() const
 {
-    return m_told.labelGuide;
+    return told().labelGuide;
+}
+
+const Presentation& NotifierItemAdaptor::told() const
+{
+    return m_told;
 }
 
 uint NotifierItemAdaptor::orderingIndex() const

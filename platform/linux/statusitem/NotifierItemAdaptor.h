@@ -16,7 +16,7 @@ class StatusPictures;
 
 /// The status item as hosts see it on the bus. Names and types are the protocol's. Values come from the
 /// presentation that the owner keeps; the owner emits the signals.
-class NotifierItemAdaptor final : public QDBusAbstractAdaptor
+class NotifierItemAdaptor : public QDBusAbstractAdaptor
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
@@ -36,8 +36,6 @@ class NotifierItemAdaptor final : public QDBusAbstractAdaptor
     Q_PROPERTY(quindle::NotifierToolTip ToolTip READ toolTip)
     Q_PROPERTY(bool ItemIsMenu READ itemIsMenu)
     Q_PROPERTY(QDBusObjectPath Menu READ menu)
-    Q_PROPERTY(QString XAyatanaLabel READ label)
-    Q_PROPERTY(QString XAyatanaLabelGuide READ labelGuide)
     Q_PROPERTY(uint XAyatanaOrderingIndex READ orderingIndex)
 
 public:
@@ -62,8 +60,6 @@ public:
     NotifierToolTip toolTip() const;
     bool itemIsMenu() const;
     QDBusObjectPath menu() const;
-    QString label() const;
-    QString labelGuide() const;
     uint orderingIndex() const;
 
 public Q_SLOTS:
@@ -83,10 +79,28 @@ Q_SIGNALS:
     void NewStatus(const QString& status);
     void XAyatanaNewLabel(const QString& label, const QString& guide);
 
+protected:
+    const Presentation& told() const;
+
 private:
     const Presentation& m_told;
     StatusPictures& m_pictures;
     Requests m_requests;
+};
+
+/// The same with a label. Some hosts take any label, even an empty one, for a wish to have no icon.
+class LabelledItemAdaptor final : public NotifierItemAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem") // is not inherited
+    Q_PROPERTY(QString XAyatanaLabel READ label)
+    Q_PROPERTY(QString XAyatanaLabelGuide READ labelGuide)
+
+public:
+    using NotifierItemAdaptor::NotifierItemAdaptor;
+
+    QString label() const;
+    QString labelGuide() const;
 };
 
 /// Where the menu is on the connection.

@@ -43,17 +43,26 @@ Picture pictureFor(const ItemContents& contents, HostShape shape)
     return iconPicture(contents.imageName);
 }
 
+Carrier carrierOf(const Picture& picture, const HostTraits& host)
+{
+    // Drawings are shown as squares.
+    const bool square = picture.kind == Picture::Kind::Icon || picture.kind == Picture::Kind::Text;
+    if (host.coloursDrawings && square)
+        return Carrier::Drawing;
+    return host.needsIconFile ? Carrier::File : Carrier::Pixels;
+}
+
 QString toolTipCut(const QString& text)
 {
     return elided(busText(text), toolTipLength);
 }
 
-QString toolTipLine(const QString& text, const HostTraits& host)
+QString toolTipTitle(const Presentation& told, const ItemContents& contents, const HostTraits& host)
 {
-    const QString cut = toolTipCut(text);
-    // Even hosts with plain tool tips take a text with a tag for markup.
-    const bool plain = host.showsPlainToolTip && !cut.contains(QLatin1Char('<'));
-    return plain ? cut : escapedMarkup(cut);
+    if (host.showsToolTipTitleOnly)
+        return literalPanelToolTip(told.plainToolTip);
+    const QString cut = toolTipCut(contents.title);
+    return host.escapesToolTipTitle ? cut : escapedMarkup(cut);
 }
 
 } // namespace
@@ -62,18 +71,18 @@ Presentation present(const ItemContents& contents, const HostTraits& host)
 {
     Presentation told;
     told.title = busText(contents.title);
-    told.toolTipTitle =
-        host.escapesToolTipTitle ? toolTipCut(contents.title) : toolTipLine(contents.title, host);
-    told.toolTipBody = toolTipLine(contents.toolTipText, host);
     told.plainToolTip =
         (toolTipCut(contents.title) + QLatin1Char('\n') + toolTipCut(contents.toolTipText)).trimmed();
+    told.toolTipTitle = toolTipTitle(told, contents, host);
+    told.toolTipBody = escapedMarkup(toolTipCut(contents.toolTipText));
     if (host.takesLabel)
         told.label = elided(singleLine(contents.title), labelLength);
     if (!told.label.isEmpty())
         told.labelGuide = QStringLiteral("100.0%");
     told.picture = pictureFor(contents, host.shape);
     told.picture.ink = host.textColour;
-    told.iconInFile = host.needsIconFile;
+    told.picture.inAllHeights = host.labelHidesIcon;
+    told.carrier = carrierOf(told.picture, host);
     return told;
 }
 

@@ -33,9 +33,17 @@ struct Picture
     QString imageName;
     QString text;
     double fontSize = 0.0;
-    QRgb ink = 0; ///< what the panel writes in; see isKnown
+    QRgb ink = 0;              ///< what the panel writes in; see isKnown
+    bool inAllHeights = false; ///< a wide one is wanted as high as icons are, not high and to be scaled
 
     friend bool operator==(const Picture&, const Picture&) = default;
+};
+
+/// How a picture gets to the host.
+enum class Carrier {
+    Pixels,  ///< over the bus
+    File,    ///< as a file of pixels
+    Drawing, ///< as a file that the host draws in the colour of its panel's text
 };
 
 /// What a host is told of the item.
@@ -48,7 +56,7 @@ struct Presentation
     QString label;
     QString labelGuide; ///< a text as wide as the label gets usually
     Picture picture;
-    bool iconInFile = false;
+    Carrier carrier = Carrier::Pixels;
 
     friend bool operator==(const Presentation&, const Presentation&) = default;
 };

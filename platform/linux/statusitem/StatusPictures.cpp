@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 #include <QDir>
 #include <QFileInfo>
@@ -11,8 +12,11 @@
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPainter>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <QSvgRenderer>
+
+#include "platform/linux/statusitem/TextDrawing.h"
 
 namespace quindle {
 
@@ -21,6 +25,8 @@ namespace {
 Q_LOGGING_CATEGORY(logPictures, "quindle.statusitem.pictures", QtWarningMsg)
 
 constexpr std::array squareSizes{22, 32, 44};
+// Panels that scale give the icon a pixel or two less than their own height.
+constexpr std::array wideHeights{16, 18, 20, 22, 24, 26, 28, 30, 32, 36, 40, 44, 48};
 constexpr int gridSize = 22;
 // Twice the 21 pixels that the one host of wide pictures gives its icons by default, so that it halves them
 // evenly.
@@ -32,6 +38,19 @@ constexpr double panelPixelsPerPoint = 13.0 / 12.0;
 
 constexpr QColor onPlate(255, 255, 255);
 constexpr QColor plateColour(24, 26, 30, 190);
+
+std::span<const int> sizesOf(const Picture& picture)
+{
+    if (picture.kind != Picture::Kind::Wide)
+        return squareSizes;
+    return picture.inAllHeights ? std::span<const int>(wideHeights) : std::span(&wideHeight, 1);
+}
+
+/// By this end of a file's name hosts know drawings that they may colour.
+QString symbolic()
+{
+    return QStringLiteral("-symbolic.svg");
+}
 
 /// The colour that the picture is drawn in.
 QColor inkOf(const Picture& picture)
@@ -114,7 +133,8 @@ QImage wideText(const Picture& picture, const QImage& icon, int height)
 
     QImage image = ground(picture, left + textWidth + margin, height);
     QPainter painter(&image);
-    painter.drawImage(margin / 2, height - icon.height(), icon);
+    // In the middle, and on an even pixel as below.
+    painter.drawImage(margin / 2, 2 * static_cast<int>(std::floor((height - icon.height()) / 4.0)), icon);
     painter.setFont(font);
     painter.setPen(inkOf(picture));
     // The figures stand in the middle, not the font's line with its room for accents, and on an even pixel,
@@ -124,6 +144,13 @@ QImage wideText(const Picture& picture, const QImage& icon, int height)
     return image;
 }
 
+/// The folder of pictures that hosts read and that are not in the bundle.
+QString writtenPictures()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+           QStringLiteral("/quindle-helper-icons");
+}
+
 /// The glyph of a file in one colour, in its place on a square of that size.
 QImage rendered(const QString& file, int size, const QColor& colour)
 {
@@ -131,8 +158,10 @@ QImage rendered(const QString& file, int size, const QColor& colour)
     if (!renderer.isValid())
         return {};
     QImage image = blankImage(size, size);
-    // Sizes a little above the grid's keep its pixels and get a margin instead of blurred lines.
-    const int drawn = size > gridSize && size < gridSize + 4 ? gridSize : size;
+    // Sizes a little above the grid's or its double keep its pixels and get a margin instead of blurred
+    // lines.
+    const int beyond = size % gridSize;
+    const int drawn = size > gridSize && beyond < 5 ? size - beyond : size;
     const int margin = (size - drawn) / 2;
     QPainter painter(&image);
     renderer.render(&painter, QRectF(margin, margin, drawn, drawn));
@@ -176,11 +205,8 @@ std::vector<QImage> StatusPictures::images(const Picture& picture)
 {
     if (picture.kind == Picture::Kind::Transparent)
         return {};
-    if (picture.kind == Picture::Kind::Wide)
-        return {image(picture, wideHeight)};
     std::vector<QImage> made;
-    made.reserve(squareSizes.size());
-    for (const int size : squareSizes)
+    for (const int size : sizesOf(picture))
         made.push_back(image(picture, size));
     std::erase_if(made, [](const QImage& one) { return one.isNull(); });
     return made;
@@ -188,8 +214,7 @@ std::vector<QImage> StatusPictures::images(const Picture& picture)
 
 QString StatusPictures::file(const Picture& picture)
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
-                           QStringLiteral("/quindle-helper-icons");
+    const QString folder = writtenPictures();
     QString name = picture.imageName + picture.text;
     name.removeIf([](QChar c) { return !c.isLetterOrNumber(); });
     name += QString::number(picture.ink, 16);
@@ -200,9 +225,30 @@ QString StatusPictures::file(const Picture& picture)
     return written ? path : QString();
 }
 
+QString StatusPictures::drawing(const Picture& picture) const
+{
+    if (picture.kind != Picture::Kind::Text) {
+        QString path = drawingOfImage(picture.imageName);
+        return QFileInfo::exists(path) ? path : QString();
+    }
+    const QString name = QString::fromLatin1(picture.text.toUtf8().toHex());
+    QString path = writtenPictures() + QLatin1Char('/') + name + symbolic();
+    if (QFileInfo::exists(path))
+        return path;
+    QSaveFile file(path);
+    const bool written = QDir().mkpath(writtenPictures()) && file.open(QIODevice::WriteOnly) &&
+                         file.write(textDrawing(picture.text)) > 0 && file.commit();
+    return written ? path : QString();
+}
+
 QString StatusPictures::transparentFile() const
 {
     return m_iconsDirectory + QStringLiteral("/transparent.png");
+}
+
+QString StatusPictures::drawingOfImage(const QString& name) const
+{
+    return m_iconsDirectory + QLatin1Char('/') + name + symbolic();
 }
 
 QImage StatusPictures::glyph(const Picture& picture, int size)
@@ -211,7 +257,7 @@ QImage StatusPictures::glyph(const Picture& picture, int size)
     const auto key = std::make_tuple(name, size, picture.ink);
     auto found = m_glyphs.find(key);
     if (found == m_glyphs.end()) {
-        const QString path = m_iconsDirectory + QLatin1Char('/') + name + QStringLiteral(".svg");
+        const QString path = drawingOfImage(name);
         found = m_glyphs.emplace(key, rendered(path, size, inkOf(picture))).first;
         if (found->second.isNull() && m_missing.insert(name).second)
             qCWarning(logPictures) << "no usable picture in" << path;

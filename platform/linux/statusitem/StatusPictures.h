@@ -17,7 +17,7 @@ namespace quindle {
 class StatusPictures
 {
 public:
-    /// Images are the files NAME.svg in that folder; transparent.png is there too.
+    /// Images are the files NAME-symbolic.svg in that folder; transparent.png is there too.
     explicit StatusPictures(QString iconsDirectory);
 
     /// The picture in that size (pixels; the height of a wide one). Null when the image has no file.
@@ -30,10 +30,14 @@ public:
     /// The picture as a file, for hosts that show nothing else; empty if it could not be written.
     QString file(const Picture& picture);
 
+    /// The square picture as a drawing without a colour of its own, as a file; empty if there is none.
+    QString drawing(const Picture& picture) const;
+
     /// A picture of one transparent pixel. It takes the place of the host's own picture for a missing icon.
     QString transparentFile() const;
 
 private:
+    QString drawingOfImage(const QString& name) const;
     QImage glyph(const Picture& picture, int size);
 
     QString m_iconsDirectory;

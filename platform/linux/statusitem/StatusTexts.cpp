@@ -1,6 +1,7 @@
 #include "platform/linux/statusitem/StatusTexts.h"
 
 #include <QTextBoundaryFinder>
+#include <QTextDocument>
 
 namespace quindle {
 
@@ -61,6 +62,11 @@ QString busText(const QString& text)
 QString escapedMarkup(const QString& text)
 {
     return text.toHtmlEscaped();
+}
+
+QString literalPanelToolTip(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
 QString menuLabel(const QString& text)

@@ -7,10 +7,10 @@
 #include <QIcon>
 #include <QMenu>
 #include <QPixmap>
-#include <QTextDocument>
 
 #include "platform/StatusMenu.h"
 #include "platform/linux/statusitem/StatusPictures.h"
+#include "platform/linux/statusitem/StatusTexts.h"
 
 namespace quindle {
 
@@ -25,12 +25,6 @@ QIcon trayIcon(const Picture& picture, StatusPictures& pictures)
     for (const int size : traySizes)
         icon.addPixmap(QPixmap::fromImage(pictures.image(picture, size)));
     return icon;
-}
-
-/// Tool tips take a text that looks like markup for markup.
-QString literal(const QString& text)
-{
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
 QString actionText(const QString& text)
@@ -65,7 +59,7 @@ void TrayIcon::show(const Presentation& told, StatusPictures& pictures)
         m_shownPicture = told.picture;
         m_icon.setIcon(trayIcon(told.picture, pictures));
     }
-    m_icon.setToolTip(literal(told.plainToolTip));
+    m_icon.setToolTip(literalPanelToolTip(told.plainToolTip));
     m_icon.show();
 }
 

@@ -15,7 +15,9 @@ struct Case
     const char* desktop;
     Shape shape;
     bool needsIconFile = false;
-    bool showsPlainToolTip = false;
+    bool showsToolTipTitleOnly = false;
+    bool coloursDrawings = false;
+    bool writesLabelInIconsPlace = false;
 };
 
 class HostTraitsTable : public testing::TestWithParam<Case>
@@ -29,38 +31,41 @@ TEST_P(HostTraitsTable, isKnownByProcessThenDesktop)
                                          QString::fromUtf8(c.desktop));
     EXPECT_EQ(traits.shape, c.shape);
     EXPECT_EQ(traits.needsIconFile, c.needsIconFile);
-    EXPECT_EQ(traits.showsPlainToolTip, c.showsPlainToolTip);
-    EXPECT_TRUE(traits.takesLabel);
+    EXPECT_EQ(traits.showsToolTipTitleOnly, c.showsToolTipTitleOnly);
+    EXPECT_EQ(traits.coloursDrawings, c.coloursDrawings);
+    EXPECT_EQ(traits.takesLabel, !c.writesLabelInIconsPlace);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Hosts, HostTraitsTable,
-    testing::Values(Case{"gnome", "gnome-shell", "/usr/bin/gnome-shell", "GNOME", Shape::Label},
-                    Case{"mateTray", "notification-area-applet", "", "MATE", Shape::Label},
-                    Case{"mateSecondTray", "mate-panel", "mate-panel", "MATE", Shape::Label},
-                    Case{"indicators", "ayatana-indicator-application-service", "", "MATE", Shape::Label,
-                         true},
-                    Case{"xfce", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsystray.so 1", "XFCE",
-                         Shape::Square},
-                    Case{"xfceSecondTray", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsntray.so 1",
-                         "XFCE", Shape::Square},
-                    Case{"lxqt", "lxqt-panel", "", "LXQt", Shape::Square, false, true},
-                    Case{"plasma", "kded5", "", "KDE", Shape::Square},
-                    Case{"plasma6", "kded6", "", "KDE", Shape::Square},
-                    Case{"waybar", "waybar", "", "sway", Shape::Wide},
-                    Case{"swaybar", "swaybar", "", "sway", Shape::Square},
-                    Case{"cinnamon", "xapp-sn-watcher", "", "X-Cinnamon", Shape::Wide},
-                    Case{"processBeforeDesktop", "waybar", "", "GNOME", Shape::Wide},
-                    Case{"unreadableProgramReadableArguments", "", "/usr/bin/waybar -c x", "", Shape::Wide},
-                    Case{"hiddenProcessOnGnome", "", "", "ubuntu:GNOME", Shape::Label},
-                    Case{"hiddenProcessOnBudgie", "", "", "Budgie:GNOME", Shape::Square},
-                    Case{"hiddenProcessOnCinnamon", "", "", "X-Cinnamon", Shape::Wide},
-                    Case{"hiddenProcessOnLxqt", "", "", "LXQt", Shape::Square, false, true},
-                    Case{"hiddenProcessOnMate", "", "", "MATE", Shape::Label},
-                    Case{"hiddenProcessOnSway", "", "", "sway", Shape::Square},
-                    Case{"unknownProgramKnownDesktop", "some-watcher", "some-watcher", "GNOME", Shape::Label},
-                    Case{"allUnknown", "some-watcher", "some-watcher", "Other", Shape::Square},
-                    Case{"nothing", "", "", "", Shape::Square}),
+    testing::Values(
+        Case{"gnome", "gnome-shell", "/usr/bin/gnome-shell", "GNOME", Shape::Label, false, false, true},
+        Case{"mateTray", "notification-area-applet", "", "MATE", Shape::Wide, false, false, false, true},
+        Case{"mateSecondTray", "mate-panel", "mate-panel", "MATE", Shape::Label},
+        Case{"indicators", "ayatana-indicator-application-service", "", "MATE", Shape::Label, true},
+        Case{"xfce", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsystray.so 1", "XFCE",
+             Shape::Square},
+        Case{"xfceSecondTray", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsntray.so 1", "XFCE",
+             Shape::Square},
+        Case{"lxqt", "lxqt-panel", "", "LXQt", Shape::Square, false, true},
+        Case{"plasma", "kded5", "", "KDE", Shape::Square, false, false, true},
+        Case{"plasma6", "kded6", "", "KDE", Shape::Square, false, false, true},
+        Case{"waybar", "waybar", "", "sway", Shape::Wide},
+        Case{"swaybar", "swaybar", "", "sway", Shape::Square},
+        Case{"cinnamon", "xapp-sn-watcher", "", "X-Cinnamon", Shape::Wide},
+        Case{"processBeforeDesktop", "waybar", "", "GNOME", Shape::Wide},
+        Case{"unreadableProgramReadableArguments", "", "/usr/bin/waybar -c x", "", Shape::Wide},
+        Case{"hiddenProcessOnGnome", "", "", "ubuntu:GNOME", Shape::Label, false, false, true},
+        Case{"hiddenProcessOnBudgie", "", "", "Budgie:GNOME", Shape::Square},
+        Case{"hiddenProcessOnCinnamon", "", "", "X-Cinnamon", Shape::Wide},
+        Case{"hiddenProcessOnLxqt", "", "", "LXQt", Shape::Square, false, true},
+        Case{"hiddenProcessOnMate", "", "", "MATE", Shape::Wide, false, false, false, true},
+        Case{"hiddenProcessOnPlasma", "", "", "KDE", Shape::Square, false, false, true},
+        Case{"hiddenProcessOnSway", "", "", "sway", Shape::Square},
+        Case{"unknownProgramKnownDesktop", "some-watcher", "some-watcher", "GNOME", Shape::Label, false,
+             false, true},
+        Case{"allUnknown", "some-watcher", "some-watcher", "Other", Shape::Square},
+        Case{"nothing", "", "", "", Shape::Square}),
     [](const auto& row) { return row.param.name; });
 
 TEST(HostTraits, choiceOverridesTheShape)
@@ -71,6 +76,15 @@ TEST(HostTraits, choiceOverridesTheShape)
     EXPECT_EQ(withChoice(square, QStringLiteral("auto")), square);
     EXPECT_EQ(withChoice(label, QString()), label);
     EXPECT_EQ(withChoice(label, QStringLiteral("Wide")), label);
+}
+
+TEST(HostTraits, noLabelIsChosenThatHidesTheIcon)
+{
+    HostTraits host{Shape::Wide, false};
+    host.labelHidesIcon = true;
+    EXPECT_EQ(withChoice(host, QStringLiteral("label")), host);
+    EXPECT_EQ(withChoice(host, QStringLiteral("wide")), host);
+    EXPECT_EQ(withChoice(host, QStringLiteral("icon")).shape, Shape::Square);
 }
 
 TEST(HostTraits, chosenShapesWithoutLabelSendNone)

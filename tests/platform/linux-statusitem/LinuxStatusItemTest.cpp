@@ -196,6 +196,31 @@ TEST_F(LinuxStatusItemTest, labelHostWithoutImageGetsATransparentFile)
     EXPECT_EQ(pixmaps("IconPixmap").size(), 0);
 }
 
+TEST_F(LinuxStatusItemTest, hostThatColoursDrawingsGetsNothingElse)
+{
+    currentDesktop = u("KDE");
+    makeRegisteredItem();
+    EXPECT_EQ(host.itemProperty("IconName"), u(QUINDLE_ICONS "/#bat34-symbolic.svg"));
+    EXPECT_EQ(pixmaps("IconPixmap").size(), 0);
+    item->setImage(std::make_shared<Image>(u("none")));
+    settle();
+    EXPECT_EQ(host.takeSignals(), QStringList{u("NewIcon")});
+    EXPECT_EQ(host.itemProperty("IconName"), QString()) << "no file, no name";
+}
+
+TEST_F(LinuxStatusItemTest, hostWhoseLabelHidesTheIconSeesNoLabelAtAll)
+{
+    currentDesktop = u("MATE");
+    makeRegisteredItem();
+    EXPECT_FALSE(host.itemProperty("XAyatanaLabel").isValid());
+    EXPECT_EQ(host.itemProperty("Title"), u("87.0%"));
+    ASSERT_GT(pixmaps("IconPixmap").size(), 1);
+    EXPECT_GT(pixmaps("IconPixmap").at(0).width, 32);
+    item->setTitle(u("86.9%"));
+    settle();
+    EXPECT_EQ(host.takeSignals(), (QStringList{u("NewTitle"), u("NewIcon"), u("NewToolTip")}));
+}
+
 TEST_F(LinuxStatusItemTest, choiceIsHeardAtTheNextRefresh)
 {
     makeRegisteredItem();
@@ -315,6 +340,17 @@ TEST_F(LinuxStatusItemTest, menuLayoutOverTheBus)
     const auto rows = demarshalled<QList<MenuRowProperties>>(group.arguments().value(0));
     ASSERT_EQ(rows.size(), 1);
     EXPECT_EQ(rows.at(0).properties.value(u("label")), u("87.0%"));
+}
+
+TEST_F(LinuxStatusItemTest, commandsAreAboveTheFactsWhereTallMenusAreCut)
+{
+    menu.addRow({StatusMenu::Kind::Fact, u("last"), true, true, {}});
+    currentDesktop = u("GNOME");
+    makeRegisteredItem();
+    const auto answer = host.call(menuObject, menuInterface, "GetLayout", {0, 1, QStringList()});
+    const auto root = demarshalled<MenuNode>(answer.arguments().value(1));
+    ASSERT_EQ(root.children.size(), 5);
+    EXPECT_EQ(demarshalled<MenuNode>(root.children.at(1).variant()).id, 2);
 }
 
 TEST_F(LinuxStatusItemTest, menuClicks)

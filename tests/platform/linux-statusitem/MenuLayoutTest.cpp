@@ -49,6 +49,37 @@ TEST_F(MenuLayout, depthZeroHasNoRows)
     EXPECT_TRUE(menuLayout(&menu, 0, 0, {}).children.isEmpty());
 }
 
+using Kind = StatusMenu::Kind;
+
+struct OrderCase
+{
+    std::vector<Kind> rows;
+    std::vector<int> commandsFirst;
+};
+
+TEST(MenuOrder, commandsAreReachedFirstWhereTallMenusAreCut)
+{
+    const OrderCase cases[] = {
+        {{Kind::Fact, Kind::Fact, Kind::Fact, Kind::Separator, Kind::OpenView, Kind::Action},
+         {1, 5, 6, 4, 2, 3}},
+        {{Kind::Fact, Kind::Separator, Kind::OpenView, Kind::Separator, Kind::Action}, {1, 3, 4, 5, 2}},
+        {{Kind::Fact, Kind::Fact, Kind::Action}, {1, 3, 2}},
+        {{Kind::Fact, Kind::Action}, {1, 2}},
+        {{Kind::Action, Kind::Fact}, {1, 2}},
+        {{Kind::Fact, Kind::Fact}, {1, 2}},
+        {{}, {}},
+    };
+    for (const OrderCase& c : cases) {
+        StatusMenu menu;
+        std::vector<int> asAdded;
+        for (const Kind kind : c.rows)
+            asAdded.push_back(menu.addRow({kind, {}, true, true, {}}));
+        EXPECT_EQ(menuOrder(&menu, true), c.commandsFirst);
+        EXPECT_EQ(menuOrder(&menu, false), asAdded);
+    }
+    EXPECT_TRUE(menuOrder(nullptr, true).empty());
+}
+
 TEST_F(MenuLayout, rowHasNothingBelowIt)
 {
     const MenuNode row = menuLayout(&menu, 2, -1, {});

@@ -98,13 +98,18 @@ TEST(Presentation, toolTipIsEscapedWhereItIsMarkup)
     const ItemContents contents{u("R&D <b>"), {}, {}, u("a & b"), 12.0};
     EXPECT_EQ(present(contents, squareHost).toolTipTitle, u("R&amp;D &lt;b&gt;"));
     EXPECT_EQ(present(contents, squareHost).toolTipBody, u("a &amp; b"));
-    const HostTraits plain{HostShape::Square, true, false, true};
-    EXPECT_EQ(present(contents, plain).toolTipTitle, u("R&amp;D &lt;b&gt;"));
-    EXPECT_EQ(present(contents, plain).toolTipBody, u("a & b"));
     HostTraits escaping = squareHost;
     escaping.escapesToolTipTitle = true;
     EXPECT_EQ(present(contents, escaping).toolTipTitle, u("R&D <b>"));
     EXPECT_EQ(present(contents, escaping).toolTipBody, u("a &amp; b"));
+}
+
+TEST(Presentation, toolTipIsInTheTitleWhereNothingElseIsShown)
+{
+    const HostTraits host{HostShape::Square, true, false, true};
+    EXPECT_EQ(present({u("87.0%"), {}, {}, u("a & b"), 12.0}, host).toolTipTitle, u("87.0%\na & b"));
+    const QString markup = present({u("R&D <b>"), {}, {}, u("a"), 12.0}, host).toolTipTitle;
+    EXPECT_TRUE(markup.contains(u("R&amp;D")) && markup.contains(u("&lt;b&gt;<br>"))) << markup.toStdString();
 }
 
 TEST(Presentation, everyPictureHasTheColourOfThePanelsText)
@@ -116,6 +121,45 @@ TEST(Presentation, everyPictureHasTheColourOfThePanelsText)
         host.shape = shape;
         EXPECT_EQ(present({u("87%"), u("#bat44"), u("87"), {}, 12.0}, host).picture.ink, qRgb(1, 2, 3));
     }
+}
+
+TEST(Presentation, squarePicturesAreDrawingsWhereTheHostColoursThem)
+{
+    struct Row
+    {
+        HostShape shape;
+        const char* title;
+        const char* image;
+        Carrier carrier;
+    };
+    constexpr Row rows[] = {{HostShape::Square, "87.0%", "#bat44", Carrier::Drawing},
+                            {HostShape::Square, "87.0%", "", Carrier::Drawing},
+                            {HostShape::Label, "87.0%", "#bat44", Carrier::Drawing},
+                            {HostShape::Label, "87.0%", "", Carrier::Pixels},
+                            {HostShape::Wide, "87.0%", "#bat44", Carrier::Pixels},
+                            {HostShape::Wide, "", "#bat44", Carrier::Drawing}};
+    HostTraits host;
+    host.coloursDrawings = true;
+    for (const Row& row : rows) {
+        host.shape = row.shape;
+        EXPECT_EQ(present({u(row.title), u(row.image), u("87"), {}, 12.0}, host).carrier, row.carrier)
+            << row.title << row.image;
+    }
+}
+
+TEST(Presentation, otherHostsGetPixelsOrFilesOfThem)
+{
+    const ItemContents contents{u("87.0%"), u("#bat44"), u("87"), {}, 12.0};
+    EXPECT_EQ(present(contents, squareHost).carrier, Carrier::Pixels);
+    EXPECT_EQ(present(contents, {HostShape::Label, true, true}).carrier, Carrier::File);
+}
+
+TEST(Presentation, pictureComesInAllHeightsWhereThereIsNoLabel)
+{
+    HostTraits host = wideHost;
+    EXPECT_FALSE(present({u("87.0%"), {}, {}, {}, 12.0}, host).picture.inAllHeights);
+    host.labelHidesIcon = true;
+    EXPECT_TRUE(present({u("87.0%"), {}, {}, {}, 12.0}, host).picture.inAllHeights);
 }
 
 TEST(Presentation, noLabelWhereThePersonWantsNone)

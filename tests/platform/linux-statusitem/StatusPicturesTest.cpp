@@ -1,10 +1,12 @@
 #include "platform/linux/statusitem/StatusPictures.h"
 
-#include <set>
+#include <algorithm>
 
 #include <QFile>
 #include <QImage>
 #include <QPainter>
+#include <QSvgRenderer>
+#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 #include "platform/linux/statusitem/NotifierTypes.h"
@@ -87,6 +89,19 @@ TEST_F(StatusPicturesTest, glyphsAreOnThePixelGrid)
     EXPECT_LT(full.pixelColor(10, 6).lightness(), 60);
     EXPECT_LT(full.pixelColor(10, 3).lightness(), 60);
     EXPECT_EQ(full.pixelColor(10, 1).alpha(), 0);
+}
+
+TEST_F(StatusPicturesTest, sizesALittleAboveTheGridsHaveSharpLines)
+{
+    Picture picture = iconPicture(names()[4]);
+    picture.ink = qRgb(0, 0, 0);
+    for (const int size : {22, 24, 44, 48}) {
+        const QImage image = pictures.image(picture, size);
+        for (int y = 0; y < size; ++y) {
+            const int alpha = image.pixelColor(size / 2, y).alpha();
+            EXPECT_TRUE(alpha == 0 || alpha == 255) << size << " at " << y;
+        }
+    }
 }
 
 /// How light the picture is at a place of the grid on a panel of that colour.
@@ -175,6 +190,19 @@ TEST_F(StatusPicturesTest, widePictureGrowsWithTheTitleWithinBounds)
     EXPECT_LE(width(names()[0], QString(10000, QLatin1Char('W'))), 800);
 }
 
+TEST_F(StatusPicturesTest, widePictureOfEveryHeight)
+{
+    Picture picture = wide(names()[3], QStringLiteral("87%"));
+    picture.inAllHeights = true;
+    std::vector<int> heights;
+    for (const QImage& image : pictures.images(picture)) {
+        EXPECT_GT(image.width(), 2 * image.height());
+        EXPECT_GT(lightPixels(image), image.width());
+        heights.push_back(image.height());
+    }
+    EXPECT_EQ(heights, (std::vector{16, 18, 20, 22, 24, 26, 28, 30, 32, 36, 40, 44, 48}));
+}
+
 TEST_F(StatusPicturesTest, anyTextCanBeDrawn)
 {
     for (const char* title : {"\u202e87%", "שלום 87%", "😀", "e\u0301\u0301\u0301", "&amp; <b>"})
@@ -195,6 +223,74 @@ TEST_F(StatusPicturesTest, fileHasTheLargestSquare)
     EXPECT_EQ(QImage(path).size(), QSize(44, 44));
     EXPECT_FALSE(path.contains(QLatin1Char('#')));
     QFile::remove(path);
+}
+
+/// The path's attributes in a drawing whose style sheet hosts know by its id; fails for another drawing.
+QXmlStreamAttributes colouredPath(const QString& file)
+{
+    QFile drawing(file);
+    EXPECT_TRUE(drawing.open(QIODevice::ReadOnly)) << file.toStdString();
+    QXmlStreamReader reader(&drawing);
+    bool hasSheet = false;
+    QXmlStreamAttributes path;
+    while (reader.readNext() != QXmlStreamReader::EndDocument && !reader.hasError()) {
+        if (reader.isStartElement() && reader.name() == u"style")
+            hasSheet = reader.attributes().value(QStringLiteral("id")) == u"current-color-scheme" &&
+                       reader.readElementText().contains(QStringLiteral(".ColorScheme-Text"));
+        if (reader.isStartElement() && reader.name() == u"path")
+            path = reader.attributes();
+    }
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    EXPECT_TRUE(hasSheet) << file.toStdString();
+    return path;
+}
+
+TEST_F(StatusPicturesTest, drawingsLeaveTheColourToTheHost)
+{
+    QStringList files{pictures.drawing(text("87"))};
+    for (const QString& name : names())
+        files.append(pictures.drawing(iconPicture(name)));
+    for (const QString& file : files) {
+        EXPECT_TRUE(file.startsWith(QLatin1Char('/')) && file.endsWith(QStringLiteral("-symbolic.svg")));
+        const QXmlStreamAttributes path = colouredPath(file);
+        EXPECT_EQ(path.value(QStringLiteral("class")), QStringLiteral("ColorScheme-Text"));
+        EXPECT_EQ(path.value(QStringLiteral("fill")), QStringLiteral("currentColor"));
+    }
+    QFile::remove(files.first());
+}
+
+TEST_F(StatusPicturesTest, drawnNumberFillsTheSquare)
+{
+    for (const char* number : {"7", "87", "100"}) {
+        const QString path = pictures.drawing(text(number));
+        QSvgRenderer renderer(path);
+        ASSERT_TRUE(renderer.isValid()) << number;
+        QImage image(220, 220, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        renderer.render(&painter);
+        QRect inked;
+        for (int y = 0; y < 220; ++y) {
+            for (int x = 0; x < 220; ++x)
+                inked |= image.pixelColor(x, y).alpha() > 128 ? QRect(x, y, 1, 1) : QRect();
+        }
+        EXPECT_NEAR(std::max(inked.width(), inked.height()), 200, 2) << number;
+        EXPECT_NEAR(inked.center().x(), 110, 2) << number;
+        EXPECT_NEAR(inked.center().y(), 110, 2) << number;
+        QFile::remove(path);
+    }
+}
+
+TEST_F(StatusPicturesTest, whatHasNoDrawingHasNoFile)
+{
+    EXPECT_EQ(pictures.drawing(iconPicture(QStringLiteral("none"))), QString());
+}
+
+TEST_F(StatusPicturesTest, numbersDoNotShareADrawing)
+{
+    EXPECT_NE(pictures.drawing(text("-5")), pictures.drawing(text("5")));
+    for (const char* number : {"-5", "5"})
+        QFile::remove(pictures.drawing(text(number)));
 }
 
 TEST(NotifierPixmap, pixelsAreInNetworkOrderAndNotPremultiplied)
