@@ -1,10 +1,29 @@
 #include "platform/NotificationCenter.h"
 
+#include <algorithm>
+#include <utility>
+
+#include <QLoggingCategory>
+
 namespace quindle {
+
+namespace {
+
+Q_LOGGING_CATEGORY(notificationLog, "quindle.notifications")
+
+} // namespace
 
 void NotificationCenter::addObserver(const QString& name, Observer observer)
 {
-    m_observers.emplace_back(name, std::move(observer));
+    const auto isSame = [&](const auto& entry) {
+        return entry.first == name && entry.second.target_type() == observer.target_type();
+    };
+    if (std::count_if(m_observers.begin(), m_observers.end(), isSame) < mostRegistrations) {
+        m_observers.emplace_back(name, std::move(observer));
+        return;
+    }
+    if (!std::exchange(m_hasRefused, true))
+        qCInfo(notificationLog).noquote() << "an observer of" << name << "is registered often enough";
 }
 
 void NotificationCenter::post(const QString& name)

@@ -14,7 +14,12 @@ class NotificationCenter
 public:
     using Observer = std::function<void()>;
 
-    /// Adds an observer for `name`. Nothing removes it; adding it again makes it be called once more.
+    /// How often one observer is called for one post at most, however often it was added.
+    static constexpr int mostRegistrations = 16;
+
+    /// Adds an observer for `name`. Nothing removes it; adding it again makes it be called once more. From
+    /// the 17th time on it is not added, and one line is logged: the helper registers at every refresh once
+    /// a day has passed without an upload. Callables of one type count as one observer.
     void addObserver(const QString& name, Observer observer);
 
     /// Calls every observer of `name`, in the order they were added, before it returns. An observer that is
@@ -23,6 +28,7 @@ public:
 
 private:
     std::list<std::pair<QString, Observer>> m_observers;
+    bool m_hasRefused = false;
 };
 
 /// Notifications between processes: a name, and nothing else. Main thread only.

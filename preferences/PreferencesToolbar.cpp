@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include "preferences/SegmentedControl.h"
+#include "preferences/WindowColours.h"
 
 namespace quindle {
 
@@ -57,7 +58,6 @@ PreferencesToolbar::PreferencesToolbar(const ToolbarConfiguration& configuration
         addItem(item, segments);
     addMnemonics();
     drawIcons();
-    setTransparent(false);
     fitToFont();
 }
 
@@ -132,7 +132,8 @@ void PreferencesToolbar::setSelectedItemIdentifier(const QString& identifier)
 
 void PreferencesToolbar::setTransparent(bool transparent)
 {
-    setBackgroundRole(transparent ? QPalette::Base : QPalette::Window);
+    m_isTransparent = transparent;
+    update();
 }
 
 void PreferencesToolbar::changeEvent(QEvent* event)
@@ -162,7 +163,7 @@ void PreferencesToolbar::fitToFont()
 void PreferencesToolbar::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(backgroundRole()));
+    painter.fillRect(rect(), toolbarColour(palette(), m_isTransparent));
     if (!showsBaselineSeparator())
         return;
     QColor line = palette().color(QPalette::WindowText);

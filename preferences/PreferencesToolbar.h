@@ -62,6 +62,7 @@ private:
     std::vector<ToolbarItem> m_items;
     QActionGroup* m_panes;
     SegmentedControl* m_segmentedControl = nullptr;
+    bool m_isTransparent = false;
 };
 
 } // namespace quindle

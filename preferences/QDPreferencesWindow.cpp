@@ -12,6 +12,7 @@
 
 #include "preferences/CloseKey.h"
 #include "preferences/PreferencesToolbar.h"
+#include "preferences/WindowColours.h"
 
 namespace quindle {
 
@@ -46,7 +47,7 @@ QDPreferencesWindow::QDPreferencesWindow()
 {
     setObjectName(QStringLiteral("preferencesWindow"));
     setAttribute(Qt::WA_QuitOnClose, false);
-    setBackgroundRole(QPalette::Base);
+    setBackgroundRole(contentRole(palette()));
     plainLayout(this)->addWidget(m_scrollArea, 1);
 
     m_contentView->setObjectName(QStringLiteral("contentView"));
@@ -123,6 +124,8 @@ bool QDPreferencesWindow::event(QEvent* event)
     const bool handled = QWidget::event(event);
     if (event->type() == QEvent::LayoutRequest)
         Q_EMIT contentSizeMayDiffer();
+    if (event->type() == QEvent::PaletteChange)
+        setBackgroundRole(contentRole(palette()));
     return handled;
 }
 

@@ -1,5 +1,7 @@
 #include "platform/linux/AttributeFile.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 
 #include <fcntl.h>
@@ -17,6 +19,18 @@ bool wantsReopening(ssize_t result)
     return result == -ENODEV || result == -ENOENT;
 }
 
+/// How long a value stands in for one that cannot be read: a few refreshes.
+constexpr std::chrono::milliseconds longestStandIn(30'000);
+
+constexpr int firstTries = 3;
+
+/// Something went wrong on the way; the value itself may well be there.
+bool isAccident(ssize_t result)
+{
+    constexpr std::array accidents = {EIO, EAGAIN, EBUSY, ETIMEDOUT, EINTR, EREMOTEIO};
+    return std::find(accidents.begin(), accidents.end(), -result) != accidents.end();
+}
+
 } // namespace
 
 ssize_t readDescriptor(int descriptor, const char* /*attribute*/, char* buffer, std::size_t size)
@@ -27,6 +41,37 @@ ssize_t readDescriptor(int descriptor, const char* /*attribute*/, char* buffer, 
 
 ssize_t AttributeFile::read(int folder, const char* attribute, AttributeReader& reader, char* buffer,
                             std::size_t size)
+{
+    ssize_t result = readOnce(folder, attribute, reader, buffer, size);
+    for (int tries = 1; isAccident(result) && !m_lastRead && !m_isSlow && tries < firstTries; ++tries)
+        result = readOnce(folder, attribute, reader, buffer, size);
+    if (!reader.keepsOpen)
+        m_descriptor.close();
+    if (result >= 0)
+        remember(buffer, result, reader.now());
+    else if (isAccident(result))
+        result = remembered(buffer, size, reader.now(), result);
+    else
+        m_lastRead.reset();
+    return result;
+}
+
+void AttributeFile::remember(const char* buffer, ssize_t size, std::chrono::milliseconds now)
+{
+    m_lastText.assign(buffer, static_cast<std::size_t>(size));
+    m_lastRead = now;
+}
+
+ssize_t AttributeFile::remembered(char* buffer, std::size_t size, std::chrono::milliseconds now,
+                                  ssize_t error) const
+{
+    if (!m_lastRead || now - *m_lastRead >= longestStandIn)
+        return error;
+    return static_cast<ssize_t>(m_lastText.copy(buffer, size));
+}
+
+ssize_t AttributeFile::readOnce(int folder, const char* attribute, AttributeReader& reader, char* buffer,
+                                std::size_t size)
 {
     if (m_isAbsent)
         return -ENOENT;

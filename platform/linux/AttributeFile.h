@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/MonotonicClock.h"
@@ -24,11 +26,16 @@ struct AttributeReader
     ReadFunction read;
     MonotonicClock now;
     SlowReads slowReads;
+    bool keepsOpen = true; ///< false where so many files would take the process's descriptors
 };
 
 /// One attribute file. The descriptor stays open, the value is read anew each time: opening costs several
 /// times as much as reading. A file whose read took longer than 100 ms is read by the thread for slow reads
 /// from then on, and what that thread last read is taken.
+///
+/// A read that fails by an accident of the bus to the battery (EIO, EAGAIN, EBUSY, ETIMEDOUT, EINTR,
+/// EREMOTEIO) gives what was read last, if that is less than 30 s ago; before anything was read it is tried
+/// three times. A driver that says that there is no value or no device (ENODATA, ENODEV) is believed.
 class AttributeFile
 {
 public:
@@ -37,12 +44,18 @@ public:
     ssize_t read(int folder, const char* attribute, AttributeReader& reader, char* buffer, std::size_t size);
 
 private:
+    ssize_t readOnce(int folder, const char* attribute, AttributeReader& reader, char* buffer,
+                     std::size_t size);
+    void remember(const char* buffer, ssize_t size, std::chrono::milliseconds now);
+    ssize_t remembered(char* buffer, std::size_t size, std::chrono::milliseconds now, ssize_t error) const;
     int open(int folder, const char* attribute);
     ssize_t readHere(const char* attribute, AttributeReader& reader, char* buffer, std::size_t size);
     ssize_t readElsewhere(const char* attribute, AttributeReader& reader, char* buffer, std::size_t size);
 
     FileDescriptor m_descriptor;
     std::shared_ptr<SlowRead> m_slowRead;
+    std::string m_lastText;
+    std::optional<std::chrono::milliseconds> m_lastRead;
     bool m_isAbsent = false;
     bool m_isSlow = false;
 };

@@ -1,10 +1,15 @@
 #include "platform/linux/BusLink.h"
 
 #include <algorithm>
+#include <sys/stat.h>
 
 #include <QDBusError>
+#include <QFile>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
 #include <QLoggingCategory>
-#include <QTimer>
+
+#include "platform/linux/BusAddress.h"
 
 namespace quindle {
 
@@ -14,20 +19,39 @@ Q_LOGGING_CATEGORY(busLog, "quindle.bus")
 
 constexpr int longestPause = 300'000;
 
-QString ownNameOf(QDBusConnection::BusType type)
+/// A socket's file is there a moment before anybody listens on it.
+constexpr int pauseForNewSocket = 50;
+
+QString usualName(QDBusConnection::BusType type)
 {
     return type == QDBusConnection::SystemBus ? QStringLiteral("quindle-system")
                                               : QStringLiteral("quindle-session");
 }
 
+quint64 inodeOf(const QString& path)
+{
+    struct stat found = {};
+    return ::stat(QFile::encodeName(path).constData(), &found) == 0 ? found.st_ino : 0;
+}
+
 } // namespace
 
-BusLink::BusLink(QDBusConnection::BusType type, int firstPause)
-    : m_type(type)
+BusLink::BusLink(QDBusConnection::BusType type, int firstPause, QObject* parent)
+    : BusLink(type, usualName(type), firstPause, parent)
+{
+    m_startsShared = true;
+}
+
+BusLink::BusLink(QDBusConnection::BusType type, QString ownName, int firstPause, QObject* parent)
+    : QObject(parent)
+    , m_type(type)
     , m_connection(QString())
-    , m_ownName(ownNameOf(type))
+    , m_ownName(std::move(ownName))
+    , m_startsShared(false)
     , m_firstPause(firstPause)
 {
+    m_retry.setSingleShot(true);
+    m_retry.callOnTimeout(this, &BusLink::reconnect);
 }
 
 BusLink::~BusLink()
@@ -35,16 +59,28 @@ BusLink::~BusLink()
     closeOwn();
 }
 
-void BusLink::open(std::function<void(QDBusConnection&)> subscribe)
+void BusLink::open(std::function<void(QDBusConnection&)> subscribe, std::function<void()> lost)
 {
     m_subscribe = std::move(subscribe);
-    const bool isSystem = m_type == QDBusConnection::SystemBus;
-    const QDBusConnection shared = isSystem ? QDBusConnection::systemBus() : QDBusConnection::sessionBus();
-    if (!take(shared))
-        qCWarning(busLog).noquote() << QStringLiteral("no %1 bus: %2")
-                                           .arg(isSystem ? QStringLiteral("system")
-                                                         : QStringLiteral("session"),
-                                                shared.lastError().message());
+    m_lost = std::move(lost);
+    m_socket = busSocketFile(busAddress(m_type));
+    m_socketTried = inodeOf(m_socket);
+    const QDBusConnection first = firstConnection();
+    if (take(first))
+        return;
+    const QString name =
+        m_type == QDBusConnection::SystemBus ? QStringLiteral("system") : QStringLiteral("session");
+    qCWarning(busLog).noquote() << QStringLiteral("no %1 bus: %2").arg(name, first.lastError().message());
+    waitForBus(m_firstPause);
+}
+
+QDBusConnection BusLink::firstConnection()
+{
+    if (m_startsShared)
+        return m_type == QDBusConnection::SystemBus ? QDBusConnection::systemBus()
+                                                    : QDBusConnection::sessionBus();
+    m_triedOwn = true;
+    return QDBusConnection::connectToBus(m_type, m_ownName);
 }
 
 bool BusLink::take(const QDBusConnection& connection)
@@ -62,18 +98,47 @@ bool BusLink::take(const QDBusConnection& connection)
 void BusLink::onDisconnected()
 {
     qCWarning(busLog, "a message bus was lost");
-    m_pause = m_firstPause;
-    QTimer::singleShot(m_pause, this, &BusLink::reconnect);
+    if (m_lost)
+        m_lost();
+    waitForBus(m_firstPause);
+}
+
+void BusLink::waitForBus(int pause)
+{
+    m_retry.start(pause);
+    if (!m_folderWatcher)
+        watchSocketFolder();
+}
+
+void BusLink::watchSocketFolder()
+{
+    const QString folder = QFileInfo(m_socket).path();
+    if (m_socket.isEmpty() || !QFileInfo::exists(folder))
+        return;
+    m_folderWatcher = std::make_unique<QFileSystemWatcher>(QStringList{folder});
+    connect(m_folderWatcher.get(), &QFileSystemWatcher::directoryChanged, this, &BusLink::lookAtSocket);
+    lookAtSocket(); // it may have come between the try and the watch
+}
+
+void BusLink::lookAtSocket()
+{
+    // Everything else that happens in the folder is no reason to try.
+    const quint64 inode = inodeOf(m_socket);
+    if (inode != 0 && inode != m_socketTried)
+        m_retry.start(pauseForNewSocket);
+    m_socketTried = inode;
 }
 
 void BusLink::reconnect()
 {
+    const int next = std::min(m_retry.interval() * 2, longestPause);
     closeOwn();
     m_triedOwn = true;
-    if (take(QDBusConnection::connectToBus(m_type, m_ownName)))
-        return;
-    m_pause = std::min(m_pause * 2, longestPause);
-    QTimer::singleShot(m_pause, this, &BusLink::reconnect);
+    // By address: asked by type, the library may start a bus of its own where there is none.
+    if (take(QDBusConnection::connectToBus(busAddress(m_type), m_ownName)))
+        m_folderWatcher.reset();
+    else
+        waitForBus(next);
 }
 
 void BusLink::closeOwn()

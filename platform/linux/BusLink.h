@@ -1,15 +1,19 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QTimer>
+
+class QFileSystemWatcher;
 
 namespace quindle {
 
-/// A connection to a message bus that comes back. It is the one that the whole process shares; when that is
-/// lost, connections of its own follow, tried after a pause, then ever more slowly up to every 5 minutes. A
-/// bus that was never there is not tried again. Main thread only.
+/// A connection to a message bus that comes back. While there is none, before the bus first came or after it
+/// was lost, it is tried again as soon as a new socket stands where the bus is expected, and besides after a
+/// pause that doubles up to 5 minutes. Main thread only.
 class BusLink : public QObject
 {
     Q_OBJECT
@@ -17,13 +21,18 @@ class BusLink : public QObject
 public:
     static constexpr int usualPause = 10'000;
 
-    /// The first try after a loss comes after `firstPause` milliseconds.
-    explicit BusLink(QDBusConnection::BusType type, int firstPause = usualPause);
+    /// Begins with the connection that the whole process shares; when that is not to be had or lost,
+    /// connections of its own follow. The first try comes after `firstPause` milliseconds.
+    explicit BusLink(QDBusConnection::BusType type, int firstPause = usualPause, QObject* parent = nullptr);
+
+    /// Shares its connections with nobody; they bear `ownName`.
+    BusLink(QDBusConnection::BusType type, QString ownName, int firstPause = usualPause,
+            QObject* parent = nullptr);
     ~BusLink() override;
 
-    /// Connects, and calls `subscribe` with each connection that is made, now and later. Without a bus one
-    /// line is logged.
-    void open(std::function<void(QDBusConnection&)> subscribe);
+    /// Connects, and calls `subscribe` with each connection that is made, now and later, and `lost` when one
+    /// is lost. Without a bus one line is logged.
+    void open(std::function<void(QDBusConnection&)> subscribe, std::function<void()> lost = {});
 
     /// The present connection; one that is not connected when there is none.
     QDBusConnection connection() const { return m_connection; }
@@ -32,17 +41,26 @@ private Q_SLOTS:
     void onDisconnected();
 
 private:
+    QDBusConnection firstConnection();
     bool take(const QDBusConnection& connection);
+    void waitForBus(int pause);
+    void watchSocketFolder();
+    void lookAtSocket();
     void reconnect();
     void closeOwn();
 
     QDBusConnection::BusType m_type;
     QDBusConnection m_connection;
     QString m_ownName;
+    bool m_startsShared;
     bool m_triedOwn = false;
     int m_firstPause;
-    int m_pause = 0;
+    QTimer m_retry;
+    QString m_socket;
+    quint64 m_socketTried = 0; ///< the inode that the last try met; 0 for none
+    std::unique_ptr<QFileSystemWatcher> m_folderWatcher;
     std::function<void(QDBusConnection&)> m_subscribe;
+    std::function<void()> m_lost;
 };
 
 } // namespace quindle

@@ -13,6 +13,9 @@ namespace {
 
 constexpr std::chrono::milliseconds scanInterval(1000);
 
+/// With more supplies than a computer has, their open files could use up the process's descriptors.
+constexpr std::size_t mostSuppliesKeptOpen = 8;
+
 /// A driver that answers every read with ENODEV must not have the directory read each time.
 constexpr std::chrono::milliseconds scanIntervalAfterLoss(100);
 
@@ -122,7 +125,9 @@ void SupplyDirectory::scan()
     m_supplyHasGone = false;
     std::vector<std::unique_ptr<Supply>> found;
     if (DIR* const folder = opendir(m_folder.c_str())) {
-        for (const std::string& name : namesIn(folder)) {
+        const std::vector<std::string> names = namesIn(folder);
+        m_reader.keepsOpen = names.size() <= mostSuppliesKeptOpen;
+        for (const std::string& name : names) {
             if (auto supply = takeOrOpen(dirfd(folder), name)) {
                 supply->update(m_reader);
                 found.push_back(std::move(supply));

@@ -1,6 +1,7 @@
 # Settings, the main loop, notifications, and what one process of a session says to another.
 target_sources(quindle_platform_linux PRIVATE
     AutostartEntry.cpp
+    BusAddress.cpp
     BusLink.cpp
     BusLink.h
     DesktopEntry.cpp

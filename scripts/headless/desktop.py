@@ -292,6 +292,15 @@ class Desktop:
         found = re.search(r"<(['\"])(.*)\1>", self.item_property("Title"), re.S)
         return found.group(2) if found else None
 
+    def menu(self):
+        """The item's menu, as gdbus prints it."""
+        return self.gdbus(self.item_name(), "/MenuBar", "com.canonical.dbusmenu.GetLayout", "0", "-1", "[]")
+
+    def choose(self, label):
+        """Chooses an entry of the menu, as a panel does that draws it."""
+        row = re.search(r"\((\d+), \{[^{}]*'label': <'" + re.escape(label) + "'>", self.menu()).group(1)
+        self.gdbus(self.item_name(), "/MenuBar", "com.canonical.dbusmenu.Event", row, "clicked", "<0>", "0")
+
     def activate_item(self):
         self.gdbus(self.item_name(), ITEM, ITEM_INTERFACE + ".Activate", "0", "0")
 

@@ -3,7 +3,6 @@ worked as an assistive technology does it."""
 
 import json
 import plistlib
-import re
 import time
 from pathlib import Path
 
@@ -68,15 +67,8 @@ class PreferencesCase(HelperCase):
         self.assert_title("66.0%")
         return process
 
-    def choose(self, label):
-        """Chooses an entry of the status menu."""
-        item = self.desktop.item_name()
-        layout = self.desktop.gdbus(item, "/MenuBar", "com.canonical.dbusmenu.GetLayout", "0", "-1", "[]")
-        row = re.search(r"\((\d+), \{[^{}]*'label': <'" + re.escape(label) + "'>", layout).group(1)
-        self.desktop.gdbus(item, "/MenuBar", "com.canonical.dbusmenu.Event", row, "clicked", "<0>", "0")
-
     def open(self, entry, title):
-        self.choose(entry)
+        self.desktop.choose(entry)
         self.assertTrue(wait_for(lambda: self.window(title), 10), f"no window {title!r}")
         time.sleep(0.5)  # the window manager moves it once more
 
@@ -87,8 +79,10 @@ class PreferencesCase(HelperCase):
     def announced(self):
         """Starts to listen; call the result for how often changes were announced since."""
         log = self.desktop.root / "announced"
-        process = self.desktop.start("dbus-monitor", "--session", "interface='com.fernhollow.Quindle.Notifications'",
-                                     stdout=log.open("wb"))
+        with log.open("wb") as stream:
+            process = self.desktop.start("dbus-monitor", "--session",
+                                         "interface='com.fernhollow.Quindle.Notifications'", stdout=stream)
+        self.addCleanup(process.wait)
         self.addCleanup(process.kill)
         wait_for(lambda: log.stat().st_size > 0, 5)
         return lambda: log.read_text().count("member=SettingsChangedNotification")

@@ -2,6 +2,7 @@
 """The windows of settings in a real desktop: title, settings files and autostart folder change as the user works."""
 
 import os
+import re
 import time
 import unittest
 
@@ -74,7 +75,7 @@ class General(PreferencesCase):
     def test_parameters(self):
         self.type("at ")
         self.act("push button", "Parameters")
-        self.assertTrue(wait_for(lambda: any("66.0" in node["name"] for node in nodes(self.tree())), 5))
+        self.assertTrue(wait_for(lambda: len(self.desktop.windows()) == 2, 5), "no popover")
         self.desktop.key("Down")
         self.desktop.key("Return")
         self.desktop.key("Escape")
@@ -105,7 +106,7 @@ class General(PreferencesCase):
         self.click("radio button", "Menu Bar")
         self.assertTrue(wait_for(lambda: self.window("Menu Bar"), 5))
         time.sleep(0.5)
-        self.act("push button", "Menu Bar Text...")
+        self.act("push button", "Menu Bar Text")
         self.assertTrue(wait_for(lambda: self.window("Menu Bar Text"), 5))
 
     def test_every_control_has_a_name_and_the_keyboard_reaches_it(self):
@@ -113,7 +114,8 @@ class General(PreferencesCase):
             self.act("radio button", pane)
             self.assertTrue(wait_for(lambda: self.window(pane), 5))
             time.sleep(0.5)
-            controls = [node for node in nodes(self.tree()) if "focusable" in node["states"]]
+            controls = [node for node in nodes(self.tree()) if {"focusable", "enabled"} <= set(node["states"])
+                        and node["role"] != "label"]  # the version, which the mouse may mark
             self.assertTrue(controls)
             self.assertEqual([node["role"] for node in controls if not node["name"]], [], f"nameless in {pane}")
             reached = set()
@@ -136,11 +138,11 @@ class MenuBarText(PreferencesCase):
         self.open("Menu Bar Text...", "Menu Bar Text")
 
     def test_custom_text(self):
-        self.assertNotIn("enabled", self.control("text", "Menu bar text")["states"])
+        self.assertNotIn("enabled", self.control("text", "Custom menu bar text")["states"])
         self.click("radio button", "Custom text")
         self.assert_stored("customMenuBarSettingSelectedIndex", 1, OWN)
-        self.assertTrue(wait_for(lambda: "enabled" in self.control("text", "Menu bar text")["states"], 5))
-        self.click("text", "Menu bar text")
+        self.assertTrue(wait_for(lambda: "enabled" in self.control("text", "Custom menu bar text")["states"], 5))
+        self.click("text", "Custom menu bar text")
         self.type("%l cycles")
         self.desktop.key("Return")
         self.assert_title("12 cycles")
@@ -160,9 +162,7 @@ class MenuBarText(PreferencesCase):
         self.click("radio button", "Kelvin")
         self.assert_stored("temperatureSettingIndex", 2)
         self.assert_stored("QDBatteryTemperatureMode", 2, OWN)
-        self.choose("Show Battery...")
-        self.assertTrue(wait_for(lambda: any("303.2 K" in node["name"] for node in nodes(self.tree())), 5),
-                        "the battery view has another unit")
+        self.assertTrue(wait_for(lambda: "303.2 K" in self.desktop.menu(), 5), "the battery's own unit is another one")
 
     def test_run_in_background(self):
         entry = self.config / "autostart" / f"{OWN}.desktop"
@@ -185,22 +185,20 @@ class MenuBarText(PreferencesCase):
                                              if node["name"] == "Show battery icon"), 5))
         self.store(SUITE, {"customStatusBar": "other", "showIconsInMenuBar": 1})
         self.announce()
-        self.assertTrue(wait_for(lambda: [node["text"] for node in nodes(self.tree())
-                                          if node["name"] == "Menu bar text" and node["role"] == "text"]
+        self.assertTrue(wait_for(lambda: [node["text"] for node in nodes(self.tree()) if node["role"] == "text"]
                                  == ["other", "other"], 5))
 
 
 class Frame(PreferencesCase):
     def position(self):
-        shell = self.desktop.call("xdotool", "getwindowgeometry", "--shell", self.window("General"))
-        values = dict(line.split("=") for line in shell.splitlines())
-        return int(values["X"]), int(values["Y"])
+        told = self.desktop.call("xwininfo", "-id", self.window("General"))
+        return tuple(int(re.search(f"Absolute upper-left {axis}: +(-?[0-9]+)", told).group(1)) for axis in "XY")
 
     def test_the_window_comes_back_where_it_was(self):
         first = self.start_helper()
         self.open("Preferences...", "General")
         before = self.position()
-        self.desktop.call("xdotool", "windowmove", "--sync", self.window("General"), "40", "120")
+        self.desktop.call("xdotool", "windowmove", "--sync", self.window("General"), "40", "50")
         self.assertTrue(wait_for(lambda: self.position() != before, 5))
         moved = self.position()
         time.sleep(1)

@@ -159,6 +159,8 @@ class ForbiddenPlatform
         void insertBeforeFirst(const QString&) override { refuse("insert"); }
         void remove(Item) override { refuse("remove"); }
         void setEnabled(const QString&, bool) override { refuse("enable"); }
+    };
+
     struct Events : PowerEvents
     {
         void setObserver(std::function<void()>) override { refuse("power events"); }

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/linux/BusLink.h"
+
 namespace quindle {
 
 LinuxStatusBar::LinuxStatusBar(StatusItemSurroundings surroundings)
@@ -12,8 +14,12 @@ LinuxStatusBar::LinuxStatusBar(StatusItemSurroundings surroundings)
 std::unique_ptr<StatusItem> LinuxStatusBar::statusItemWithLength(double /*length*/)
 {
     const QString name = QStringLiteral("quindle-status-item-%1").arg(++m_items);
-    return std::make_unique<LinuxStatusItem>(QDBusConnection::connectToBus(QDBusConnection::SessionBus, name),
-                                             m_surroundings);
+    const QDBusConnection none{QString()};
+    auto item = std::make_unique<LinuxStatusItem>(none, m_surroundings);
+    auto* link = new BusLink(QDBusConnection::SessionBus, name, BusLink::usualPause, item.get());
+    link->open([item = item.get()](const QDBusConnection& bus) { item->setBus(bus); },
+               [item = item.get(), none] { item->setBus(none); });
+    return item;
 }
 
 } // namespace quindle

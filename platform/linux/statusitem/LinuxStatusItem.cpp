@@ -31,11 +31,10 @@ bool mayHaveX11Tray()
 
 } // namespace
 
-LinuxStatusItem::LinuxStatusItem(QDBusConnection bus, StatusItemSurroundings surroundings)
-    : m_bus(std::move(bus))
+LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, StatusItemSurroundings surroundings)
+    : m_bus(bus)
     , m_surroundings(std::move(surroundings))
     , m_pictures(m_surroundings.iconsDirectory)
-    , m_watcher(new WatcherLink(m_bus, itemPath(), m_surroundings.registrationCheck, this))
 {
     const NotifierItemAdaptor::Requests requests{
         [this] { open(); },
@@ -43,15 +42,30 @@ LinuxStatusItem::LinuxStatusItem(QDBusConnection bus, StatusItemSurroundings sur
     };
     m_notifierItem = new NotifierItemAdaptor(&m_itemObject, m_told, m_pictures, requests);
     m_menuAdaptor = new MenuAdaptor(&m_menuObject, [this] { useActivationToken(); });
-    connect(m_watcher, &WatcherLink::watcherFound, this, &LinuxStatusItem::watcherFound);
-    connect(m_watcher, &WatcherLink::watcherLost, this, &LinuxStatusItem::watcherLost);
     exportObjects();
+    linkToWatcher();
     scheduleFlush();
 }
 
 LinuxStatusItem::~LinuxStatusItem()
 {
     QDBusConnection::disconnectFromBus(m_bus.name());
+}
+
+void LinuxStatusItem::setBus(const QDBusConnection& bus)
+{
+    m_bus = bus;
+    exportObjects();
+    linkToWatcher();
+    if (m_started)
+        m_watcher->start();
+}
+
+void LinuxStatusItem::linkToWatcher()
+{
+    m_watcher = std::make_unique<WatcherLink>(m_bus, itemPath(), m_surroundings.registrationCheck);
+    connect(m_watcher.get(), &WatcherLink::watcherFound, this, &LinuxStatusItem::watcherFound);
+    connect(m_watcher.get(), &WatcherLink::watcherLost, this, &LinuxStatusItem::watcherLost);
 }
 
 void LinuxStatusItem::exportObjects()

@@ -39,8 +39,12 @@ class LinuxStatusItem final : public QObject, public StatusItem
 public:
     /// The connection is the item's own, and closed with it: watchers know items by their connection. One
     /// that is not connected leaves the X11 tray.
-    LinuxStatusItem(QDBusConnection bus, StatusItemSurroundings surroundings);
+    LinuxStatusItem(const QDBusConnection& bus, StatusItemSurroundings surroundings);
     ~LinuxStatusItem() override;
+
+    /// Moves the item to another connection, because the present one was lost or a bus has come. As in the
+    /// constructor.
+    void setBus(const QDBusConnection& bus);
 
     void setTitle(const QString& title) override;
     QString title() const override;
@@ -53,6 +57,7 @@ public:
 
 private:
     void exportObjects();
+    void linkToWatcher();
     void scheduleFlush();
     void flush();
     void tell(Presentation next);
@@ -90,7 +95,7 @@ private:
     QObject m_menuObject;
     NotifierItemAdaptor* m_notifierItem = nullptr;
     MenuAdaptor* m_menuAdaptor = nullptr;
-    WatcherLink* m_watcher = nullptr;
+    std::unique_ptr<WatcherLink> m_watcher;
     std::unique_ptr<TrayIcon> m_tray;
 };
 

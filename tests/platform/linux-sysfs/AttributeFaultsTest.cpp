@@ -65,15 +65,44 @@ struct AttributeFaultsTest : testing::Test
     RegistryObject battery = 0;
 };
 
-TEST_F(AttributeFaultsTest, AFailingAttributeIsMissingThatTimeOnly)
+TEST_F(AttributeFaultsTest, AnAttributeWithoutAValueIsMissingThatTimeOnly)
 {
-    for (const int error : {ENODATA, ENODEV, EAGAIN, EIO}) {
+    for (const int error : {ENODATA, ENODEV}) {
         errors["cycle_count"] = error;
         EXPECT_FALSE(property(cyclesKey).isValid()) << error;
         EXPECT_EQ(property(chargeKey), qint64{2000}) << error;
         errors.clear();
         EXPECT_EQ(property(cyclesKey), qint64{7}) << error;
     }
+}
+
+TEST_F(AttributeFaultsTest, AnAccidentGivesTheLastValueForHalfAMinute)
+{
+    for (const int error : {EIO, EAGAIN, EBUSY, ETIMEDOUT, EINTR, EREMOTEIO}) {
+        EXPECT_EQ(property(cyclesKey), qint64{7}) << error;
+        errors["cycle_count"] = error;
+        now += 29999ms;
+        EXPECT_EQ(property(cyclesKey), qint64{7}) << error;
+        now += 1ms;
+        EXPECT_FALSE(property(cyclesKey).isValid()) << error;
+        errors.clear();
+    }
+}
+
+TEST_F(AttributeFaultsTest, AnAccidentAfterNoValueGivesNone)
+{
+    EXPECT_EQ(property(cyclesKey), qint64{7});
+    errors["cycle_count"] = ENODATA;
+    EXPECT_FALSE(property(cyclesKey).isValid());
+    errors["cycle_count"] = EIO;
+    EXPECT_FALSE(property(cyclesKey).isValid());
+}
+
+TEST_F(AttributeFaultsTest, TheFirstReadIsTriedThreeTimes)
+{
+    errors["cycle_count"] = EIO;
+    EXPECT_FALSE(property(cyclesKey).isValid());
+    EXPECT_EQ(reads["cycle_count"], 3);
 }
 
 TEST_F(AttributeFaultsTest, AFailingTypeLeavesTheBatteryWhatItWas)

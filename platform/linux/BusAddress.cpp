@@ -1,0 +1,40 @@
+#include "platform/linux/BusAddress.h"
+
+#include <QFile>
+
+namespace quindle {
+
+namespace {
+
+const QString unixPath = QStringLiteral("unix:path=");
+
+QString usualAddress(QDBusConnection::BusType type)
+{
+    if (type == QDBusConnection::SystemBus)
+        return unixPath + QStringLiteral("/run/dbus/system_bus_socket");
+    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return runtimeFolder.startsWith(u'/') ? unixPath + runtimeFolder + QStringLiteral("/bus") : QString();
+}
+
+} // namespace
+
+QString busAddress(QDBusConnection::BusType type)
+{
+    const bool isSystem = type == QDBusConnection::SystemBus;
+    const QString told =
+        qEnvironmentVariable(isSystem ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS");
+    return told.isEmpty() ? usualAddress(type) : told;
+}
+
+QString busSocketFile(const QString& address)
+{
+    for (const QString& one : address.split(u';')) {
+        if (!one.startsWith(unixPath))
+            continue;
+        const QString escaped = one.mid(unixPath.size()).section(u',', 0, 0);
+        return QFile::decodeName(QByteArray::fromPercentEncoding(QFile::encodeName(escaped)));
+    }
+    return {};
+}
+
+} // namespace quindle

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <memory>
+
+#include <QTemporaryDir>
+
+#include "app/ApplicationPreferences.h"
+#include "app/HelperAppDelegate.h"
+#include "menubar/BatteryPopup.h"
+#include "menubar/MainInterface.h"
+#include "platform/UrlSession.h"
+#include "platform/linux/LinuxBundle.h"
+#include "platform/linux/LinuxUserDefaults.h"
+#include "platform/recorded/RecordedPlatform.h"
+#include "preferences/NoPreferencesWindow.h"
+#include "tests/soak/SoakTime.h"
+
+namespace quindle {
+
+/// Counts posts and answers each at once.
+class AnsweringUrlSession : public UrlSession
+{
+public:
+    int posts = 0;
+
+    void post(const QString& url, const QByteArray& body,
+              std::function<void(int status, const QByteArray& body)> answered) override;
+    std::optional<QByteArray> contents(const QString& /*url*/) override { return std::nullopt; }
+};
+
+/// The real status item, off every bus.
+class UnconnectedStatusBar : public StatusBar
+{
+public:
+    std::unique_ptr<StatusItem> statusItemWithLength(double length) override;
+};
+
+/// A launched helper with battery view, settings files and saved history, on a recorded computer whose clock
+/// and timers run as fast as they are told to.
+class SoakedHelper
+{
+public:
+    SoakedHelper();
+    ~SoakedHelper();
+
+    /// Lets ten seconds pass with everything that happens in them.
+    void passTenSeconds();
+
+    /// Changes a setting as another program does. Returns how often the helper refreshed itself for it.
+    int changeSetting();
+
+    int gatesOpened() const { return m_gatesOpened; }
+    int posts() const { return m_urlSession.posts; }
+
+private:
+    Platform platform();
+    void changeBattery();
+    void swapBattery();
+    void sleepForAnHour();
+    void lookAtView();
+    void toggleUnits();
+    void readHistory();
+    bool isEvery(qint64 seconds, qint64 offset = 0) const { return m_seconds % seconds == offset; }
+
+    qint64 m_seconds = 0;
+    int m_settingsChanged = 0;
+    int m_gatesOpened = 0;
+    int m_refreshes = 0;
+    QTemporaryDir m_folder;
+    LinuxBundle m_programBundle;
+    RecordedPlatform m_recorded;
+    LinuxUserDefaultsDatabases m_userDefaults;
+    AnsweringUrlSession m_urlSession;
+    UnconnectedStatusBar m_statusBar;
+    SoakClock m_clock;
+    SoakRunLoop m_runLoop{m_clock};
+    Platform m_platform;
+    MainInterface m_interface;
+    NoPreferencesWindow m_preferencesWindow;
+    std::unique_ptr<ApplicationPreferences> m_preferences;
+    std::unique_ptr<HelperAppDelegate> m_delegate;
+    std::unique_ptr<BatteryPopup> m_popup;
+};
+
+} // namespace quindle
