@@ -1,5 +1,7 @@
 #include "preferences/HelperPreferences.h"
 
+#include <QScreen>
+
 #include "common/FatalError.h"
 #include "preferences/BoundSettings.h"
 #include "preferences/HelperPreferencesBindings.h"
@@ -7,6 +9,7 @@
 #include "preferences/MenuBarSettingRule.h"
 #include "preferences/ParameterPopover.h"
 #include "preferences/StatusBarTitle.h"
+#include "preferences/WindowFrame.h"
 #include "ui_HelperPreferences.h"
 
 namespace quindle {
@@ -96,6 +99,10 @@ void HelperPreferences::showWindow()
 {
     HelperPreferencesWindow& shown = window();
     m_settings.reload();
+    if (!shown.testAttribute(Qt::WA_Moved)) { // where the user left it, if it was there before
+        shown.adjustSize();
+        shown.move(centredFrame(shown.frameGeometry().size(), shown.screen()->availableGeometry()).topLeft());
+    }
     shown.show();
     shown.raise();
     shown.activateWindow();

@@ -124,8 +124,8 @@ bool QDPreferencesWindow::event(QEvent* event)
     const bool handled = QWidget::event(event);
     if (event->type() == QEvent::LayoutRequest)
         Q_EMIT contentSizeMayDiffer();
-    if (event->type() == QEvent::PaletteChange)
-        setBackgroundRole(contentRole(palette()));
+    if (event->type() == QEvent::PaletteChange && backgroundRole() != contentRole(palette()))
+        setBackgroundRole(contentRole(palette())); // another role is a palette change of its own
     return handled;
 }
 

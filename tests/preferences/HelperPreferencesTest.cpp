@@ -173,6 +173,7 @@ TEST_F(HelperPreferencesTest, popoverOpensAtTheEndOfItsButton)
 {
     storeRow(qint64{1});
     helper->showWindow();
+    helper->window().move(0, 0); // room for it on the right
     auto& button = control<QPushButton>("parametersButton");
     button.click();
     const ParameterPopover& popover = *helper->outlets().parameterPopover;
