@@ -10,7 +10,7 @@ namespace {
 struct RatedCapacity
 {
     QStringView macModel;
-    qint64 capacity; // mAh
+    qint64 capacity = 0; // mAh
 };
 
 constexpr std::array ratedCapacities{

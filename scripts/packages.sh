@@ -9,6 +9,7 @@ test_packages="libgtest-dev libgmock-dev python3 python3-dbus python3-gi python3
     waybar sway grim xcompmgr hsetroot dex lxqt-session at-spi2-core gir1.2-atspi-2.0
     binutils desktop-file-utils appstream man-db"
 fuzz_packages="clang"
+tidy_packages="clang-tidy"
 package_packages="git dpkg-dev file lintian python3 binutils"
 package_check_packages="debootstrap"
 

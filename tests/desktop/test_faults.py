@@ -8,6 +8,8 @@ import unittest
 from fault_case import SETTINGS_CHANGED, FaultCase, anonymous_memory, open_files
 
 KILLS = int(os.environ.get("QUINDLE_WATCHER_KILLS", "100"))
+# The sanitizers' allocator does, so that memory grows without a leak; those they report themselves.
+KEEPS_FREED_MEMORY = os.environ.get("QUINDLE_KEEPS_FREED_MEMORY") == "1"
 PATH = "/com/fernhollow/Quindle"
 
 
@@ -106,7 +108,8 @@ class TrayHosts(FaultCase):
         print(f"{KILLS} kills: files {files} -> {files_after}, connections {names} -> {names_after}, "
               f"memory {memory} -> {memory_after} kB")
         self.assertEqual((files_after, names_after), (files, names))
-        self.assertLess(memory_after - memory, 200, "kB")
+        if not KEEPS_FREED_MEMORY:
+            self.assertLess(memory_after - memory, 200, "kB")
         self.assert_shows(bus, self.watcher(bus).item(), "50.0%")
 
 

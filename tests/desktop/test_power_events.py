@@ -32,8 +32,7 @@ class Hardware:
         self.testbed = UMockdev.Testbed.new()
         self.root = self.testbed.get_root_dir()
         os.unsetenv("UMOCKDEV_DIR")
-        self.env = {"LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": self.root,
-                    "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", "") + ":verify_asan_link_order=0"}
+        self.env = {"LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": self.root}
         self.adapter = self.add("AC", {"type": "Mains", "online": "0"})
         self.battery = self.add("BAT0", BATTERY)
 

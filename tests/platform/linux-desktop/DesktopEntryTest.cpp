@@ -35,7 +35,7 @@ const Value entries[] = {
     {"LinesWithoutEquals", "[Desktop Entry]\ngarbage\n=b\nExec=a\nExec\n", "a"},
     {"KeysBeforeTheGroup", "Exec=b\n[Desktop Entry]\nExec=a\n", "a"},
     {"CaseOfKeys", "[Desktop Entry]\nexec=b\nEXEC=c\n", ""},
-    {"NulInside", QByteArray("[Desktop Entry]\nA=\0\nExec=a\n", 31), "a"},
+    {"NulInside", QByteArray("[Desktop Entry]\nA=\0\nExec=a\n", 27), "a"},
     {"NotUtf8", "[Desktop Entry]\nName=\xff\xfe\nExec=\xe4\n", "\xe4"},
     {"NoGroup", "Exec=a\n", std::nullopt},
     {"OtherGroup", "[KDE Desktop Entry]\nExec=a\n", std::nullopt},

@@ -27,7 +27,9 @@ class Outcome:
 
 class HttpsPostTest(HttpsCase, unittest.TestCase):
     def post(self, url, limit=500, quit_after=0, authority=None):
-        environment = {"PATH": os.environ["PATH"], "LANG": "de_DE.UTF-8", "HOME": self.folder}
+        kept = ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
+        environment = {key: os.environ[key] for key in kept if key in os.environ}
+        environment.update({"LANG": "de_DE.UTF-8", "HOME": self.folder})
         result = subprocess.run([PEER, str(authority or self.authority.certificate), url, BODY, str(limit), str(quit_after)],
                                 env=environment, capture_output=True, text=True, timeout=30)
         self.assertEqual(result.returncode, 0, result.stderr)

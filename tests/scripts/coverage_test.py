@@ -1,0 +1,92 @@
+"""coverage_test.py COMPILER: what scripts/coverage says of a small program."""
+
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+COVERAGE = Path(__file__).resolve().parents[2] / "scripts" / "coverage"
+MODEL = ("battery", "mac", "menubar", "history", "common")
+
+# Ten lines of code that run, and as many as asked for that do not.
+RULE = """int {name}(int number)
+{{
+    int sum = number;
+    sum += 1;
+    sum += 2;
+    sum += 3;
+    sum += 4;
+    sum += 5;
+    if (number == 1)
+        sum += 6;
+{missed}    return sum;
+}}
+"""
+
+
+class Coverage(unittest.TestCase):
+    compiler = "c++"
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.source = Path(folder.name)
+        self.build = self.source / "build"
+        self.build.mkdir()
+
+    def run_program(self, missed):
+        """Builds and runs a program with one file for each folder, with so many lines that do not run."""
+        for folder in MODEL:
+            (self.source / folder).mkdir()
+            lines = "    if (number == 2) {\n" + "        sum += 7;\n" * missed.get(folder, 0) + "    }\n"
+            (self.source / folder / "rule.cpp").write_text(RULE.format(name=folder, missed=lines))
+            self.compile("-c", self.source / folder / "rule.cpp", "-o", self.build / f"{folder}.o")
+        main = self.source / "main.cpp"
+        main.write_text("".join(f"int {folder}(int);\n" for folder in MODEL) +
+                        f"int main() {{ return {' + '.join(f'{folder}(1)' for folder in MODEL)} == 0; }}\n")
+        program = self.build / "program"
+        self.compile(main, *self.build.glob("*.o"), "-o", program)
+        subprocess.run([program], check=True)
+
+    def compile(self, *arguments):
+        subprocess.run([self.compiler, "--coverage", *arguments], check=True, cwd=self.build)
+
+    def coverage(self, *options):
+        done = subprocess.run([COVERAGE, "--source", self.source, *options, self.build], stdout=subprocess.PIPE,
+                              check=False, text=True)
+        return done.returncode, done.stdout
+
+    def test_folders_that_run_whole_pass(self):
+        self.run_program({})
+        status, told = self.coverage()
+        self.assertEqual(status, 0, told)
+        self.assertRegex(told, r"battery +10 +10 +100\.0")
+
+    def test_a_folder_below_the_least_is_named(self):
+        self.run_program({"history": 4, "mac": 1})
+        status, told = self.coverage("--missed")
+        self.assertEqual(status, 1, told)
+        self.assertRegex(told, r"history +15 +11 +73\.3")
+        self.assertRegex(told, r"mac +12 +11 +91\.7")
+        self.assertIn("below 90 percent: history\n", told)
+        self.assertIn("history/rule.cpp: 12 13 14 15\n", told)
+
+    def test_the_least_can_be_given(self):
+        self.run_program({"mac": 1})
+        self.assertEqual(self.coverage("--least", "91")[0], 0)
+        self.assertEqual(self.coverage("--least", "92")[0], 1)
+
+    def test_code_that_no_program_ran_counts(self):
+        self.run_program({})
+        (self.source / "mac" / "unused.cpp").write_text(RULE.format(name="unused", missed=""))
+        self.compile("-c", self.source / "mac" / "unused.cpp", "-o", self.build / "unused.o")
+        self.assertRegex(self.coverage()[1], r"mac +20 +10 +50\.0")
+
+    def test_no_figures_do_not_pass(self):
+        self.assertEqual(self.coverage()[0], 1)
+
+
+if __name__ == "__main__":
+    Coverage.compiler = sys.argv.pop(1)
+    unittest.main()
