@@ -23,7 +23,7 @@ QString programFile(const QByteArray& program, const QStringList& folders)
     return found.isEmpty() ? QString() : QFileInfo(found).canonicalFilePath();
 }
 
-/// Whether sessions start the entry. One key is the specification's; some desktops write the other instead.
+/// Whether sessions start the entry. One key is the format's own; some desktops write the other instead.
 bool isSwitchedOff(const DesktopEntry& entry)
 {
     const QByteArray enabled = "X-GNOME-Autostart-enabled";

@@ -6,8 +6,8 @@
 #include <QHash>
 #include <QList>
 
-/// Files of the Desktop Entry Specification, as far as it takes to know what one starts. All texts are the
-/// file's bytes: paths in them are in the file system's encoding.
+/// Desktop entries, the files that desktops and menus start programs by, as far as it takes to know what one
+/// starts. All texts are the file's bytes: paths in them are in the file system's encoding.
 namespace quindle {
 
 /// The group "Desktop Entry" of a file: values as they are written, by key, translations under theirs

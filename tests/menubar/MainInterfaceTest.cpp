@@ -68,8 +68,9 @@ TEST_F(MainInterfaceTest, EntriesInOrder)
         if (row.kind != Kind::Fact)
             texts.append(row.text);
     }
-    EXPECT_EQ(texts.join(u'|'),
-              QStringLiteral("|Show Battery...|Open Application|Preferences...|Menu Bar Text...|Version|Quit"));
+    EXPECT_EQ(
+        texts.join(u'|'),
+        QStringLiteral("|Show Battery...|Open Application|Preferences...|Menu Bar Text...|Version|Quit"));
 }
 
 TEST_F(MainInterfaceTest, EntriesAskTheApplication)
