@@ -10,6 +10,7 @@ target_sources(quindle_platform_linux PRIVATE
     statusitem/Presentation.cpp
     statusitem/StatusPictures.cpp
     statusitem/StatusTexts.cpp
+    statusitem/StripPainting.cpp
     statusitem/TextDrawing.cpp
     statusitem/TrayIcon.cpp
     statusitem/WatcherLink.cpp

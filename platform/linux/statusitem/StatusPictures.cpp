@@ -16,6 +16,7 @@
 #include <QStandardPaths>
 #include <QSvgRenderer>
 
+#include "platform/linux/statusitem/StripPainting.h"
 #include "platform/linux/statusitem/TextDrawing.h"
 
 namespace quindle {
@@ -73,12 +74,14 @@ QImage ground(const Picture& picture, int width, int height)
     QImage image = blankImage(width, height);
     if (isKnown(picture.ink))
         return image;
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(plateColour);
     const int inset = 2 * (height / gridSize);
-    painter.drawRoundedRect(image.rect().adjusted(0, inset, 0, -inset), height / 5.5, height / 5.5);
+    const QRect plate = image.rect().adjusted(0, inset, 0, -inset);
+    paintInStrips(image, [&](QPainter& painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(plateColour);
+        painter.drawRoundedRect(plate, height / 5.5, height / 5.5);
+    });
     return image;
 }
 
@@ -163,8 +166,9 @@ QImage rendered(const QString& file, int size, const QColor& colour)
     const int beyond = size % gridSize;
     const int drawn = size > gridSize && beyond < 5 ? size - beyond : size;
     const int margin = (size - drawn) / 2;
+    paintInStrips(
+        image, [&](QPainter& painter) { renderer.render(&painter, QRectF(margin, margin, drawn, drawn)); });
     QPainter painter(&image);
-    renderer.render(&painter, QRectF(margin, margin, drawn, drawn));
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), colour);
     return image;
