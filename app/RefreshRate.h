@@ -14,7 +14,7 @@ class Timer;
 class RefreshRate
 {
 public:
-    static constexpr double settleTime = 0.03;   ///< seconds from a first request to its refresh
+    static constexpr double settleTime = 0.02;   ///< seconds from a first request to its refresh
     static constexpr double shortestPause = 0.5; ///< seconds from one refresh to the next
 
     RefreshRate(RunLoop& runLoop, std::function<void()> refresh);

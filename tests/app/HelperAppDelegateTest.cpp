@@ -156,7 +156,7 @@ TEST_F(HelperAppDelegateTest, PowerEventShowsNewFigures)
     setRegistry("CurrentCapacity", qint64{60});
     platform.powerEvents.observer();
     EXPECT_EQ(title(), QStringLiteral("50.0%"));
-    platform.runLoop.advance(0.03);
+    platform.runLoop.advance(0.02);
     EXPECT_EQ(title(), QStringLiteral("60.0%"));
 }
 
@@ -188,7 +188,7 @@ TEST_F(HelperAppDelegateTest, ABatterySwappedForAnotherIsShownAtOnce)
     launch();
     platform.registry.entries.clear();
     platform.powerEvents.observer();
-    platform.runLoop.advance(0.03);
+    platform.runLoop.advance(0.02);
     EXPECT_NE(title(), QStringLiteral("50.0%"));
     setBattery(90);
     platform.powerEvents.observer();
