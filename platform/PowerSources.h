@@ -16,11 +16,11 @@ public:
     /// The external adapter's details ("Watts", a number); nothing when no adapter tells any.
     virtual std::optional<QVariantMap> externalAdapterDetails() = 0;
 
-    /// How many sources there are, described under 0 to n - 1 in the service's order. Nothing when the
-    /// service cannot be asked, which is not the same as 0 sources.
+    /// Lists the sources and tells how many there are, described under 0 to n - 1 in the service's order.
+    /// Nothing when the service cannot be asked, which is not the same as 0 sources.
     virtual std::optional<int> sourceCount() = 0;
 
-    /// The description of one source; nothing when it cannot be had.
+    /// The description of one source of the last list; nothing when it cannot be had.
     virtual std::optional<QVariantMap> description(int source) = 0;
 };
 

@@ -45,8 +45,6 @@ ssize_t AttributeFile::read(int folder, const char* attribute, AttributeReader& 
     ssize_t result = readOnce(folder, attribute, reader, buffer, size);
     for (int tries = 1; isAccident(result) && !m_lastRead && !m_isSlow && tries < firstTries; ++tries)
         result = readOnce(folder, attribute, reader, buffer, size);
-    if (!reader.keepsOpen)
-        m_descriptor.close();
     if (result >= 0)
         remember(buffer, result, reader.now());
     else if (isAccident(result))

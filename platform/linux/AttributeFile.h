@@ -26,12 +26,11 @@ struct AttributeReader
     ReadFunction read;
     MonotonicClock now;
     SlowReads slowReads;
-    bool keepsOpen = true; ///< false where so many files would take the process's descriptors
 };
 
-/// One attribute file. The descriptor stays open, the value is read anew each time: opening costs several
-/// times as much as reading. A file whose read took longer than 100 ms is read by the thread for slow reads
-/// from then on, and what that thread last read is taken.
+/// One attribute file. The descriptor stays open until close(), the value is read anew each time: opening
+/// costs several times as much as reading. A file whose read took longer than 100 ms is read by the thread
+/// for slow reads from then on, and what that thread last read is taken.
 ///
 /// A read that fails by an accident of the bus to the battery (EIO, EAGAIN, EBUSY, ETIMEDOUT, EINTR,
 /// EREMOTEIO) gives what was read last, if that is less than 30 s ago; before anything was read it is tried
@@ -42,6 +41,9 @@ public:
     /// Reads the file `attribute` of `folder` into `buffer`: the number of bytes, or the negated error
     /// number. Anything but a regular file counts as not there.
     ssize_t read(int folder, const char* attribute, AttributeReader& reader, char* buffer, std::size_t size);
+
+    /// Gives the descriptor back; the next read opens the file again.
+    void close() { m_descriptor.close(); }
 
 private:
     ssize_t readOnce(int folder, const char* attribute, AttributeReader& reader, char* buffer,

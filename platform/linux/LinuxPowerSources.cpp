@@ -31,19 +31,25 @@ std::optional<QVariantMap> LinuxPowerSources::externalAdapterDetails()
 
 std::optional<int> LinuxPowerSources::sourceCount()
 {
-    return static_cast<int>(PowerSnapshot(m_supplies).sourceCount());
+    const PowerSnapshot snapshot(m_supplies);
+    const SystemPower power = snapshot.power();
+    const bool externallyPowered = isExternallyPowered(power);
+    const SourceTimes times = sourceTimes(power, m_times);
+    m_descriptions.clear();
+    for (qsizetype source = 0; source < snapshot.sourceCount(); ++source) {
+        const SupplyAttributes& attributes = snapshot.source(source);
+        m_descriptions.push_back(snapshot.isBattery(source)
+                                     ? batteryDescription(attributes, externallyPowered, times)
+                                     : uninterruptibleDescription(attributes));
+    }
+    return static_cast<int>(m_descriptions.size());
 }
 
 std::optional<QVariantMap> LinuxPowerSources::description(int source)
 {
-    const PowerSnapshot snapshot(m_supplies);
-    if (source < 0 || source >= snapshot.sourceCount())
+    if (source < 0 || source >= static_cast<int>(m_descriptions.size()))
         return std::nullopt;
-    const SupplyAttributes& attributes = snapshot.source(source);
-    if (!snapshot.isBattery(source))
-        return uninterruptibleDescription(attributes);
-    const SystemPower power = snapshot.power();
-    return batteryDescription(attributes, isExternallyPowered(power), sourceTimes(power, m_times));
+    return m_descriptions[static_cast<std::size_t>(source)];
 }
 
 } // namespace quindle

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/PowerSources.h"
 
 namespace quindle {
@@ -26,6 +28,7 @@ public:
 private:
     SupplyDirectory& m_supplies;
     BatteryTimes& m_times;
+    std::vector<QVariantMap> m_descriptions; ///< of the last list, all of one moment
 };
 
 } // namespace quindle

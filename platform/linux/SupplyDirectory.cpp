@@ -14,7 +14,7 @@ namespace {
 constexpr std::chrono::milliseconds scanInterval(1000);
 
 /// With more supplies than a computer has, their open files could use up the process's descriptors.
-constexpr std::size_t mostSuppliesKeptOpen = 8;
+constexpr std::size_t mostSuppliesKeptOpen = 16;
 
 /// A driver that answers every read with ENODEV must not have the directory read each time.
 constexpr std::chrono::milliseconds scanIntervalAfterLoss(100);
@@ -61,7 +61,10 @@ Supply::Supply(std::string name, FileDescriptor folder, Identity identity)
 ssize_t Supply::read(Attribute attribute, AttributeReader& reader, char* buffer, std::size_t size)
 {
     AttributeFile& file = m_files[static_cast<std::size_t>(attribute)];
-    return file.read(m_folder.get(), attributeName(attribute), reader, buffer, size);
+    const ssize_t result = file.read(m_folder.get(), attributeName(attribute), reader, buffer, size);
+    if (!m_keepsFilesOpen)
+        file.close();
+    return result;
 }
 
 void Supply::update(AttributeReader& reader)
@@ -125,10 +128,9 @@ void SupplyDirectory::scan()
     m_supplyHasGone = false;
     std::vector<std::unique_ptr<Supply>> found;
     if (DIR* const folder = opendir(m_folder.c_str())) {
-        const std::vector<std::string> names = namesIn(folder);
-        m_reader.keepsOpen = names.size() <= mostSuppliesKeptOpen;
-        for (const std::string& name : names) {
+        for (const std::string& name : namesIn(folder)) {
             if (auto supply = takeOrOpen(dirfd(folder), name)) {
+                supply->setKeepsFilesOpen(found.size() < mostSuppliesKeptOpen);
                 supply->update(m_reader);
                 found.push_back(std::move(supply));
             }
