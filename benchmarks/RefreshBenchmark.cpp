@@ -1,7 +1,9 @@
 // What one refresh costs: the battery's and the status item's, on the files of real computers, with real
-// settings files. Each benchmark is named after the folder of tests/data/sysfs that it reads.
+// settings files. Each benchmark is named after the folder of tests/data/sysfs that it reads; "batteries" has
+// so many copies of one of them.
 
 #include <array>
+#include <filesystem>
 #include <string>
 
 #include <benchmark/benchmark.h>
@@ -47,14 +49,18 @@ class VersionedBundle : public Bundle
     }
 };
 
+std::string suppliesOf(const std::string& machine)
+{
+    return QUINDLE_TEST_DATA "/sysfs/" + machine + "/class/power_supply";
+}
+
 /// A launched helper on the files of one computer. Its refreshes are 5 s apart, so each finds the folder due
 /// to be read again and a new sample due.
 class Helper
 {
 public:
-    Helper(const char* machine, bool hasRealItem)
-        : m_supplies(std::string(QUINDLE_TEST_DATA "/sysfs/") + machine + "/class/power_supply",
-                     readDescriptor, [this] { return m_now; })
+    Helper(const std::string& supplies, bool hasRealItem)
+        : m_supplies(supplies, readDescriptor, [this] { return m_now; })
         , m_times([this] { return m_now; })
         , m_registry(m_supplies, m_times, {})
         , m_powerSources(m_supplies, m_times)
@@ -125,7 +131,7 @@ private:
 
 void refresh(benchmark::State& state, const char* machine, bool hasRealItem)
 {
-    Helper helper(machine, hasRealItem);
+    Helper helper(suppliesOf(machine), hasRealItem);
     for (auto _ : state) {
         helper.passTime();
         helper.refreshBattery();
@@ -135,7 +141,7 @@ void refresh(benchmark::State& state, const char* machine, bool hasRealItem)
 
 void refreshBattery(benchmark::State& state, const char* machine)
 {
-    Helper helper(machine, false);
+    Helper helper(suppliesOf(machine), false);
     for (auto _ : state) {
         helper.passTime();
         helper.refreshBattery();
@@ -144,15 +150,39 @@ void refreshBattery(benchmark::State& state, const char* machine)
 
 void refreshItem(benchmark::State& state, const char* machine)
 {
-    Helper helper(machine, false);
+    Helper helper(suppliesOf(machine), false);
     for (auto _ : state) {
         helper.passTime();
         helper.refreshItem();
     }
 }
 
+/// A computer with an adapter and so many batteries.
+void refreshBatteries(benchmark::State& state)
+{
+    namespace fs = std::filesystem;
+    const QTemporaryDir folder;
+    const fs::path supplies = folder.path().toStdString();
+    const fs::path real = suppliesOf("thinkpad-t430s");
+    fs::copy(real / "AC", supplies / "AC");
+    for (int battery = 0; battery < state.range(0); ++battery)
+        fs::copy(real / "BAT0", supplies / ("BAT" + std::to_string(battery)));
+    Helper helper(supplies, false);
+    for (auto _ : state) {
+        helper.passTime();
+        helper.refreshBattery();
+        helper.refreshItem();
+    }
+    state.SetComplexityN(state.range(0));
+}
+
 void registerBenchmarks()
 {
+    constexpr int mostBatteries = 64;
+    benchmark::RegisterBenchmark("batteries", refreshBatteries)
+        ->RangeMultiplier(2)
+        ->Range(1, mostBatteries)
+        ->Complexity(benchmark::oN);
     constexpr std::array machines = {"framework-13-discharging-93", "thinkpad-t430s",
                                      "thinkpad-procfs-lnv45n1", "macbookpro14-1-sbs-worn"};
     using namespace std::string_literals;
