@@ -8,15 +8,16 @@ namespace quindle {
 
 namespace {
 
-constexpr HostTraits labelHost{HostShape::Label, true, false, false};
-constexpr HostTraits labelHostWithFiles{HostShape::Label, true, true, false};
-constexpr HostTraits wideHost{HostShape::Wide, true, false, false};
-constexpr HostTraits squareHost{HostShape::Square, true, false, false};
-constexpr HostTraits xfceHost{HostShape::Square, true, false, false, true};
-constexpr HostTraits lxqtHost{HostShape::Square, true, false, true};
-constexpr HostTraits mateHost{HostShape::Wide, false, false, false, false, false, true};
-constexpr HostTraits gnomeHost{HostShape::Label, true, false, false, false, true, false, true};
-constexpr HostTraits plasmaHost{HostShape::Square, true, false, false, false, true};
+constexpr HostTraits labelHost{.shape = HostShape::Label};
+constexpr HostTraits labelHostWithFiles{.shape = HostShape::Label, .needsIconFile = true};
+constexpr HostTraits wideHost{.shape = HostShape::Wide};
+constexpr HostTraits squareHost{.shape = HostShape::Square};
+constexpr HostTraits xfceHost{.shape = HostShape::Square, .escapesToolTipTitle = true};
+constexpr HostTraits lxqtHost{.shape = HostShape::Square, .showsToolTipTitleOnly = true};
+constexpr HostTraits mateHost{.shape = HostShape::Wide, .takesLabel = false, .labelHidesIcon = true};
+constexpr HostTraits gnomeHost{
+    .shape = HostShape::Label, .coloursDrawings = true, .drawsSmall = true, .cutsTallMenus = true};
+constexpr HostTraits plasmaHost{.shape = HostShape::Square, .coloursDrawings = true};
 
 struct ProgramRow
 {

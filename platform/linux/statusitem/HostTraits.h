@@ -24,6 +24,7 @@ struct HostTraits
     bool coloursDrawings = false; ///< a drawing in a file is shown in the colour that the panel writes in
     bool labelHidesIcon =
         false; ///< even an empty label does; a wide picture is shown if icon-high ones are there
+    bool drawsSmall = false;    ///< a drawing gets 16 pixels, which are too few for one made on 22
     bool cutsTallMenus = false; ///< the last rows of a menu higher than the screen cannot be reached
     QRgb textColour = 0;        ///< what its panel writes in; transparent while that is unknown
 

@@ -82,6 +82,7 @@ Presentation present(const ItemContents& contents, const HostTraits& host)
     told.picture = pictureFor(contents, host.shape);
     told.picture.ink = host.textColour;
     told.picture.inAllHeights = host.labelHidesIcon;
+    told.picture.isSmall = host.drawsSmall;
     told.carrier = carrierOf(told.picture, host);
     return told;
 }

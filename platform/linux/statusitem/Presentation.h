@@ -34,6 +34,7 @@ struct Picture
     QString text;
     double fontSize = 0.0;
     QRgb ink = 0;              ///< what the panel writes in; see isKnown
+    bool isSmall = false;      ///< the host shows a drawing in 16 pixels, not in 22
     bool inAllHeights = false; ///< a wide one is wanted as high as icons are, not high and to be scaled
 
     friend bool operator==(const Picture&, const Picture&) = default;

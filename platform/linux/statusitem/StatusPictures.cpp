@@ -29,6 +29,7 @@ constexpr std::array squareSizes{22, 32, 44};
 // Panels that scale give the icon a pixel or two less than their own height.
 constexpr std::array wideHeights{16, 18, 20, 22, 24, 26, 28, 30, 32, 36, 40, 44, 48};
 constexpr int gridSize = 22;
+constexpr int smallGridSize = 16;
 // Twice the 21 pixels that the one host of wide pictures gives its icons by default, so that it halves them
 // evenly.
 constexpr int wideHeight = 42;
@@ -45,6 +46,12 @@ std::span<const int> sizesOf(const Picture& picture)
     if (picture.kind != Picture::Kind::Wide)
         return squareSizes;
     return picture.inAllHeights ? std::span<const int>(wideHeights) : std::span(&wideHeight, 1);
+}
+
+/// The pixels that a drawing is made on, so that its edges fall between them in that size and its multiples.
+int gridOf(int size)
+{
+    return size < 20 || size % smallGridSize == 0 ? smallGridSize : gridSize;
 }
 
 /// By this end of a file's name hosts know drawings that they may colour.
@@ -88,7 +95,8 @@ QImage ground(const Picture& picture, int width, int height)
 /// The nearest size in which the grid falls on whole pixels.
 int onGrid(int size)
 {
-    return gridSize * std::max(1, qRound(static_cast<double>(size) / gridSize));
+    const int grid = gridOf(size);
+    return grid * std::max(1, qRound(static_cast<double>(size) / grid));
 }
 
 QFont panelFont(int pixelSize)
@@ -163,8 +171,9 @@ QImage rendered(const QString& file, int size, const QColor& colour)
     QImage image = blankImage(size, size);
     // Sizes a little above the grid's or its double keep its pixels and get a margin instead of blurred
     // lines.
-    const int beyond = size % gridSize;
-    const int drawn = size > gridSize && beyond < 5 ? size - beyond : size;
+    const int grid = gridOf(size);
+    const int beyond = size % grid;
+    const int drawn = size > grid && beyond < 5 ? size - beyond : size;
     const int margin = (size - drawn) / 2;
     paintInStrips(
         image, [&](QPainter& painter) { renderer.render(&painter, QRectF(margin, margin, drawn, drawn)); });
@@ -232,7 +241,7 @@ QString StatusPictures::file(const Picture& picture)
 QString StatusPictures::drawing(const Picture& picture) const
 {
     if (picture.kind != Picture::Kind::Text) {
-        QString path = drawingOfImage(picture.imageName);
+        QString path = drawingOfImage(picture.imageName, picture.isSmall ? smallGridSize : gridSize);
         return QFileInfo::exists(path) ? path : QString();
     }
     const QString name = QString::fromLatin1(picture.text.toUtf8().toHex());
@@ -250,9 +259,10 @@ QString StatusPictures::transparentFile() const
     return m_iconsDirectory + QStringLiteral("/transparent.png");
 }
 
-QString StatusPictures::drawingOfImage(const QString& name) const
+QString StatusPictures::drawingOfImage(const QString& name, int grid) const
 {
-    return m_iconsDirectory + QLatin1Char('/') + name + symbolic();
+    const QString folder = grid == smallGridSize ? QStringLiteral("/16/") : QStringLiteral("/");
+    return m_iconsDirectory + folder + name + symbolic();
 }
 
 QImage StatusPictures::glyph(const Picture& picture, int size)
@@ -261,7 +271,7 @@ QImage StatusPictures::glyph(const Picture& picture, int size)
     const auto key = std::make_tuple(name, size, picture.ink);
     auto found = m_glyphs.find(key);
     if (found == m_glyphs.end()) {
-        const QString path = drawingOfImage(name);
+        const QString path = drawingOfImage(name, gridOf(size));
         found = m_glyphs.emplace(key, rendered(path, size, inkOf(picture))).first;
         if (found->second.isNull() && m_missing.insert(name).second)
             qCWarning(logPictures) << "no usable picture in" << path;

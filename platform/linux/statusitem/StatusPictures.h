@@ -17,7 +17,8 @@ namespace quindle {
 class StatusPictures
 {
 public:
-    /// Images are the files NAME-symbolic.svg in that folder; transparent.png is there too.
+    /// Images are the files NAME-symbolic.svg in that folder, made on 22 pixels, and in its folder "16", made
+    /// on 16; transparent.png is there too.
     explicit StatusPictures(QString iconsDirectory);
 
     /// The picture in that size (pixels; the height of a wide one). Null when the image has no file.
@@ -37,7 +38,7 @@ public:
     QString transparentFile() const;
 
 private:
-    QString drawingOfImage(const QString& name) const;
+    QString drawingOfImage(const QString& name, int grid) const;
     QImage glyph(const Picture& picture, int size);
 
     QString m_iconsDirectory;

@@ -100,5 +100,12 @@ TEST(HostTraits, hostThatShowsFilesOnlyHasNoRoomForWideOnes)
     EXPECT_EQ(withChoice(files, QStringLiteral("wide")), files);
 }
 
+TEST(HostTraits, OnlyGnomeShowsDrawingsInSixteenPixels)
+{
+    EXPECT_TRUE(hostTraits({QStringLiteral("gnome-shell"), {}}, {}).drawsSmall);
+    EXPECT_FALSE(hostTraits({QStringLiteral("kded5"), {}}, {}).drawsSmall);
+    EXPECT_FALSE(hostTraits({}, {}).drawsSmall);
+}
+
 } // namespace
 } // namespace quindle

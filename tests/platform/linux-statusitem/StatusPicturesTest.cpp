@@ -71,7 +71,7 @@ TEST_F(StatusPicturesTest, everyImageHasThreeSquares)
 
 TEST_F(StatusPicturesTest, fullerBatteriesAreVisiblyFuller)
 {
-    for (const int size : {22, 44}) {
+    for (const int size : {16, 22, 32, 44, 48}) {
         int last = 0;
         for (const QString& name : names().mid(0, 5)) {
             const int now = lightPixels(pictures.image(iconPicture(name), size));
@@ -95,7 +95,7 @@ TEST_F(StatusPicturesTest, sizesALittleAboveTheGridsHaveSharpLines)
 {
     Picture picture = iconPicture(names()[4]);
     picture.ink = qRgb(0, 0, 0);
-    for (const int size : {22, 24, 44, 48}) {
+    for (const int size : {16, 18, 22, 24, 32, 44, 48}) {
         const QImage image = pictures.image(picture, size);
         for (int y = 0; y < size; ++y) {
             const int alpha = image.pixelColor(size / 2, y).alpha();
@@ -248,8 +248,12 @@ QXmlStreamAttributes colouredPath(const QString& file)
 TEST_F(StatusPicturesTest, drawingsLeaveTheColourToTheHost)
 {
     QStringList files{pictures.drawing(text("87"))};
-    for (const QString& name : names())
-        files.append(pictures.drawing(iconPicture(name)));
+    for (const QString& name : names()) {
+        Picture picture = iconPicture(name);
+        files.append(pictures.drawing(picture));
+        picture.isSmall = true;
+        files.append(pictures.drawing(picture));
+    }
     for (const QString& file : files) {
         EXPECT_TRUE(file.startsWith(QLatin1Char('/')) && file.endsWith(QStringLiteral("-symbolic.svg")));
         const QXmlStreamAttributes path = colouredPath(file);
@@ -257,6 +261,18 @@ TEST_F(StatusPicturesTest, drawingsLeaveTheColourToTheHost)
         EXPECT_EQ(path.value(QStringLiteral("fill")), QStringLiteral("currentColor"));
     }
     QFile::remove(files.first());
+}
+
+TEST_F(StatusPicturesTest, smallDrawingsAreMadeOnSixteenPixels)
+{
+    for (const QString& name : names()) {
+        Picture picture = iconPicture(name);
+        EXPECT_EQ(QSvgRenderer(pictures.drawing(picture)).viewBox(), QRect(0, 0, 22, 22))
+            << name.toStdString();
+        picture.isSmall = true;
+        EXPECT_EQ(QSvgRenderer(pictures.drawing(picture)).viewBox(), QRect(0, 0, 16, 16))
+            << name.toStdString();
+    }
 }
 
 TEST_F(StatusPicturesTest, drawnNumberFillsTheSquare)
