@@ -2,27 +2,23 @@
 
 #include <array>
 
+#include "mac/FragmentName.h"
+
 namespace quindle {
 
 namespace {
-
-struct MachineTypeName
-{
-    QStringView fragment;
-    QStringView type;
-};
 
 // The first fragment found anywhere in the identifier decides; "MacBook" is last because it is part of
 // others.
 constexpr std::array machineTypes{
     // clang-format off
-    MachineTypeName{u"MacBookPro", u"MacBook Pro"},
-    MachineTypeName{u"MacBookAir", u"MacBook Air"},
-    MachineTypeName{u"iMac", u"iMac"},
-    MachineTypeName{u"Macmini", u"Mac mini"},
-    MachineTypeName{u"MacPro", u"Mac Pro"},
-    MachineTypeName{u"PowerMac", u"Power Mac"},
-    MachineTypeName{u"MacBook", u"MacBook"},
+    FragmentName{u"MacBookPro", u"MacBook Pro"},
+    FragmentName{u"MacBookAir", u"MacBook Air"},
+    FragmentName{u"iMac", u"iMac"},
+    FragmentName{u"Macmini", u"Mac mini"},
+    FragmentName{u"MacPro", u"Mac Pro"},
+    FragmentName{u"PowerMac", u"Power Mac"},
+    FragmentName{u"MacBook", u"MacBook"},
     // clang-format on
 };
 
@@ -30,10 +26,7 @@ constexpr std::array machineTypes{
 
 QString machineType(const QString& model)
 {
-    for (const MachineTypeName& row : machineTypes)
-        if (model.contains(row.fragment))
-            return row.type.toString();
-    return QStringLiteral("");
+    return nameByFragment(machineTypes, model, QStringLiteral(""));
 }
 
 } // namespace quindle

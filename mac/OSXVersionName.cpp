@@ -2,29 +2,25 @@
 
 #include <array>
 
+#include "mac/FragmentName.h"
+
 namespace quindle {
 
 namespace {
-
-struct VersionName
-{
-    QStringView fragment;
-    QStringView name;
-};
 
 // The first fragment found anywhere in the version decides, so the order matters. The two newest have no name
 // of their own on purpose.
 constexpr std::array versionNames{
     // clang-format off
-    VersionName{u"10.14", u"OS X"},
-    VersionName{u"10.13", u"OS X"},
-    VersionName{u"10.12", u"macOS Sierra"},
-    VersionName{u"10.11", u"OS X El Capitan"},
-    VersionName{u"10.10", u"OS X Yosemite"},
-    VersionName{u"10.9", u"OS X Mavericks"},
-    VersionName{u"10.8", u"Mac OS X Mountain Lion"},
-    VersionName{u"10.7", u"Mac OS X Lion"},
-    VersionName{u"10.6", u"Mac OS X Snow Leopard"},
+    FragmentName{u"10.14", u"OS X"},
+    FragmentName{u"10.13", u"OS X"},
+    FragmentName{u"10.12", u"macOS Sierra"},
+    FragmentName{u"10.11", u"OS X El Capitan"},
+    FragmentName{u"10.10", u"OS X Yosemite"},
+    FragmentName{u"10.9", u"OS X Mavericks"},
+    FragmentName{u"10.8", u"Mac OS X Mountain Lion"},
+    FragmentName{u"10.7", u"Mac OS X Lion"},
+    FragmentName{u"10.6", u"Mac OS X Snow Leopard"},
     // clang-format on
 };
 
@@ -32,10 +28,7 @@ constexpr std::array versionNames{
 
 QString osxVersionName(const QString& productVersion)
 {
-    for (const VersionName& row : versionNames)
-        if (productVersion.contains(row.fragment))
-            return row.name.toString();
-    return QStringLiteral("OS X");
+    return nameByFragment(versionNames, productVersion, QStringLiteral("OS X"));
 }
 
 } // namespace quindle

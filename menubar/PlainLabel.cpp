@@ -23,6 +23,12 @@ void PlainLabel::setQuiet(bool quiet)
     update();
 }
 
+void PlainLabel::setElideMode(Qt::TextElideMode elideMode)
+{
+    m_elideMode = elideMode;
+    update();
+}
+
 QSize PlainLabel::sizeHint() const
 {
     const QSize line(plainLineWidth(fontMetrics(), text()), fontMetrics().height());
@@ -48,7 +54,8 @@ void PlainLabel::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const QColor color = textOf(*this);
     painter.setPen(m_quiet ? quietText(color, backgroundOf(*this)) : color);
-    drawPlainLine(painter, contentsRect(), QStyle::visualAlignment(layoutDirection(), alignment()), text());
+    drawPlainLine(painter, contentsRect(), QStyle::visualAlignment(layoutDirection(), alignment()), text(),
+                  m_elideMode);
 }
 
 } // namespace quindle

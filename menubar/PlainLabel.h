@@ -18,6 +18,9 @@ public:
     bool isQuiet() const { return m_quiet; }
     void setQuiet(bool quiet);
 
+    /// Where the ellipsis stands; at the end of the text unless told otherwise.
+    void setElideMode(Qt::TextElideMode elideMode);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -27,6 +30,7 @@ protected:
 
 private:
     bool m_quiet = false;
+    Qt::TextElideMode m_elideMode = Qt::ElideRight;
 };
 
 } // namespace quindle

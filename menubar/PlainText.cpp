@@ -19,9 +19,10 @@ QString measured(const QString& text)
 
 } // namespace
 
-QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignment, const QString& text)
+QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignment, const QString& text,
+                    Qt::TextElideMode elideMode)
 {
-    const QString line = painter.fontMetrics().elidedText(measured(text), Qt::ElideRight, rect.width());
+    const QString line = painter.fontMetrics().elidedText(measured(text), elideMode, rect.width());
     const int direction = line.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     const int flags = static_cast<int>(alignment | Qt::AlignAbsolute) | Qt::TextSingleLine | direction;
     QRect covered;

@@ -11,7 +11,8 @@ namespace quindle {
 
 /// Draws one line in the painter's font and pen, cut with an ellipsis where it does not fit. `alignment` is
 /// absolute; the text runs in the direction of its own first letter. Returns the rectangle it covers.
-QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignment, const QString& text);
+QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignment, const QString& text,
+                    Qt::TextElideMode elideMode = Qt::ElideRight);
 
 /// How wide that line is when it is not cut.
 int plainLineWidth(const QFontMetrics& metrics, const QString& text);

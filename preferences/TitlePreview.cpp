@@ -6,7 +6,7 @@
 #include <QPainter>
 
 #include "menubar/PaletteMix.h"
-#include "preferences/ElidedLabel.h"
+#include "menubar/PlainLabel.h"
 #include "preferences/QuietLabel.h"
 #include "preferences/StatusBarTitle.h"
 
@@ -15,7 +15,7 @@ namespace quindle {
 TitlePreview::TitlePreview(QWidget* parent)
     : QWidget(parent)
     , m_caption(*new QuietLabel(this))
-    , m_shown(*new ElidedLabel(this))
+    , m_shown(*new PlainLabel(this))
 {
     auto* row = new QHBoxLayout(this);
     row->addWidget(&m_caption);
@@ -23,6 +23,9 @@ TitlePreview::TitlePreview(QWidget* parent)
     m_caption.setText(tr("Now shows"));
     m_caption.setBuddy(&m_shown);
     m_shown.setObjectName(QStringLiteral("shownTitle"));
+    // Both ends of a title tell something, and the row stays as wide as its pane.
+    m_shown.setElideMode(Qt::ElideMiddle);
+    m_shown.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_shown.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     fitToFont();

@@ -6,7 +6,7 @@ class QLineEdit;
 
 namespace quindle {
 
-class ElidedLabel;
+class PlainLabel;
 class QuietLabel;
 class StatusBarTitle;
 
@@ -41,7 +41,7 @@ private:
     QString m_titleTemplate;
     const StatusBarTitle* m_title = nullptr;
     QuietLabel& m_caption;
-    ElidedLabel& m_shown;
+    PlainLabel& m_shown;
 };
 
 } // namespace quindle

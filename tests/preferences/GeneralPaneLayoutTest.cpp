@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-#include "preferences/ElidedLabel.h"
+#include "menubar/PlainLabel.h"
 #include "preferences/GeneralPreferencesController.h"
 #include "tests/preferences/Input.h"
 #include "tests/preferences/LongTexts.h"
@@ -33,7 +33,7 @@ struct GeneralPaneLayoutTest : testing::Test, test::SettingsFixture
         std::vector<QWidget*> found;
         for (QWidget* widget : controller.view().findChildren<QWidget*>()) {
             const bool hasText = qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget);
-            if (hasText && widget->isVisible() && !qobject_cast<ElidedLabel*>(widget))
+            if (hasText && widget->isVisible() && !qobject_cast<PlainLabel*>(widget))
                 found.push_back(widget);
         }
         return found;
