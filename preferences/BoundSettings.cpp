@@ -5,6 +5,7 @@
 
 #include "app/ApplicationPreferences.h"
 #include "common/NumberConversion.h"
+#include "menubar/TitleTemplate.h"
 #include "platform/Bundle.h"
 #include "platform/LoginItems.h"
 #include "platform/UserDefaults.h"
@@ -61,6 +62,9 @@ QString BoundSettings::customStatusBar() const
 void BoundSettings::setCustomStatusBar(const QString& value)
 {
     m_preferences.setCustomStatusBar(value);
+    // Whoever writes a text wants to see it, so the standard title is not chosen any more.
+    if (menuBarSetting() == standardTitleRow && customStatusBar() != defaultTitleTemplate())
+        m_standardDefaults.setInteger(menuBarSettingKey(), customTextRow);
     Q_EMIT changed();
 }
 

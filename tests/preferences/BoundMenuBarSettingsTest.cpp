@@ -75,6 +75,15 @@ TEST_F(BoundMenuBarSettingsTest, standardTitleKeepsTheTextUntilItIsWantedAgain)
     EXPECT_EQ(fixture.suite().value(u("customStatusBar")), QVariant(u("%w W")));
 }
 
+TEST_F(BoundMenuBarSettingsTest, aTextWrittenElsewhereIsTheOwnText)
+{
+    settings.setCustomStatusBar(u("%w W"));
+    EXPECT_EQ(settings.menuBarSetting(), 1);
+    settings.setMenuBarSetting(0);
+    settings.setCustomStatusBar(u("%p%"));
+    EXPECT_EQ(settings.menuBarSetting(), 0) << "that is the standard title";
+}
+
 TEST_F(BoundMenuBarSettingsTest, temperatureOfTitleAndViewWritesBothKeys)
 {
     settings.setTemperatureOfTitleAndView(2);
