@@ -63,7 +63,7 @@ bool takeFlag(const QString& argument, Given& given)
 /// value.
 bool takeOption(const QStringList& arguments, qsizetype& index, Given& given, QString& fault)
 {
-    const QString argument = arguments[index];
+    const QString& argument = arguments[index];
     for (const Option& option : options) {
         const QLatin1String name(option.name);
         // "--capture --json" lacks the file's name; one that begins with a dash is given as

@@ -18,6 +18,7 @@ namespace quindle {
 class SupplySnapshot final : public SupplyAttributes
 {
 public:
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the arrays, see below
     SupplySnapshot(SupplyDirectory& directory, Supply& supply)
         : m_directory(&directory)
         , m_supply(&supply)
@@ -33,10 +34,10 @@ private:
     // The arrays stay uninitialised: an object of this class is made for every value that is asked for.
     mutable std::uint64_t m_isKnown = 0;
     mutable std::uint64_t m_isNumber = 0;
-    mutable std::array<double, attributeCount> m_numbers; // NOLINT(cppcoreguidelines-pro-type-member-init)
-    mutable std::array<char, 32> m_status;                // NOLINT(cppcoreguidelines-pro-type-member-init)
+    mutable std::array<double, attributeCount> m_numbers;
+    mutable std::array<char, 32> m_status;
     mutable ssize_t m_statusSize = 0;
-    mutable std::array<char, 512> m_text; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    mutable std::array<char, 512> m_text;
 };
 
 /// The system's supplies for one answer.

@@ -87,7 +87,7 @@ QVariantMap uninterruptibleDescription(const SupplyAttributes& supply)
 
 std::optional<QString> healthWord(const SupplyAttributes& battery)
 {
-    const std::optional<QString> told = readableAttribute(battery, Attribute::Health);
+    std::optional<QString> told = readableAttribute(battery, Attribute::Health);
     if (told && *told != QLatin1String("Unknown"))
         return told;
     const std::optional<double> full = fullCharge(battery);

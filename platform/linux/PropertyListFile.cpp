@@ -11,7 +11,7 @@ namespace quindle {
 
 namespace {
 
-constexpr off_t mostBytes = 16 * 1024 * 1024;
+constexpr off_t mostBytes = off_t{16} * 1024 * 1024;
 
 // File times come from a clock that steps every few milliseconds: two writes within one step can leave the
 // same time, so a file this young is read again at the next look.

@@ -74,7 +74,7 @@ QVariant minutes(const SystemPower& power, BatteryTimes& times)
 struct Row
 {
     QLatin1String key;
-    Value value;
+    Value value = nullptr;
 };
 
 const std::array rows = {
@@ -115,9 +115,9 @@ QVariantMap registryValues(const SystemPower& power, BatteryTimes& times)
     if (power.batteries.empty())
         return values;
     for (const Row& row : rows) {
-        QVariant value = row.value(power, times);
+        const QVariant value = row.value(power, times);
         if (value.isValid())
-            values.insert(row.key, std::move(value));
+            values.insert(row.key, value);
     }
     return values;
 }

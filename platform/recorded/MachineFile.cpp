@@ -129,7 +129,7 @@ Verdict checkBundle(const QVariant& value)
 
 Verdict checkDefaults(const QVariant& value)
 {
-    if (const Verdict fault = checkDictionariesByName(value))
+    if (Verdict fault = checkDictionariesByName(value))
         return fault;
     const QVariantMap databases = value.toMap();
     for (auto it = databases.cbegin(); it != databases.cend(); ++it)
@@ -227,7 +227,7 @@ Verdict checkKeys(const QVariantMap& keys, Place place)
 
 Verdict checkMachine(const QVariantMap& keys)
 {
-    if (const Verdict fault = checkKeys(keys, Place::File))
+    if (Verdict fault = checkKeys(keys, Place::File))
         return fault;
     const QVariantList steps = keys.value(QStringLiteral("Steps")).toList();
     for (qsizetype index = 0; index < steps.size(); ++index)

@@ -48,10 +48,11 @@ std::span<const int> sizesOf(const Picture& picture)
     return picture.inAllHeights ? std::span<const int>(wideHeights) : std::span(&wideHeight, 1);
 }
 
-/// The pixels that a drawing is made on, so that its edges fall between them in that size and its multiples.
+/// The pixels that the drawing for that size is made on. The small one has no room around it for a plate, so
+/// it is for the sizes only in which the lines of the other would be less than a pixel wide.
 int gridOf(int size)
 {
-    return size < 20 || size % smallGridSize == 0 ? smallGridSize : gridSize;
+    return size < 20 ? smallGridSize : gridSize;
 }
 
 /// By this end of a file's name hosts know drawings that they may colour.
