@@ -178,7 +178,7 @@ XmlPropertyListGraph::StoredElement XmlPropertyListGraph::closed(const OpenEleme
         if (number.kind == Kind::Integer && key.value.toString() == u"CF$UID")
             return {.kind = Kind::Reference, .value = number.value};
     }
-    const StoredElement element{
+    StoredElement element{
         .kind = container.kind, .value = {}, .firstChild = m_children.size(), .childCount = children.size()};
     m_children.insert(m_children.end(), children.cbegin(), children.cend());
     return element;

@@ -115,7 +115,7 @@ QString inventedSerial(const QString& serial, bool keepsDate, const QStringList&
 {
     constexpr int attempts = 120; // every pairing of the two alphabets
     for (int attempt = 0; attempt < attempts; ++attempt) {
-        const QString invented = candidate(serial, keepsDate, attempt);
+        QString invented = candidate(serial, keepsDate, attempt);
         const auto shares = [&](const QString& other) { return hasRunOf(invented, other); };
         if (std::none_of(trueSerials.cbegin(), trueSerials.cend(), shares))
             return invented;

@@ -166,7 +166,7 @@ QString toolTipText(const QObject* mac)
         return QStringLiteral("No battery");
     static const DisplayPattern state(QStringLiteral(u"{BatteryState} \u00B7 {WattThroughput:watts}"));
     const auto resolve = [battery](const KeyPath& path) { return path.resolve(battery).value; };
-    const QString power = state.text(resolve).value_or(QString());
+    QString power = state.text(resolve).value_or(QString());
     if (!hasState(battery))
         return power;
     const QString caption = battery->property("RemainingString").toString();

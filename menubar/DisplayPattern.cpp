@@ -75,7 +75,7 @@ std::optional<QString> DisplayPattern::partText(const Part& part, const Resolver
 QString DisplayPattern::fieldText(const Field& field, const Resolver& resolve)
 {
     for (const KeyPath& path : field.paths) {
-        const QString text = valueText(resolve(path), field.format);
+        QString text = valueText(resolve(path), field.format);
         if (!text.isEmpty())
             return text;
     }

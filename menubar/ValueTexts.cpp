@@ -59,7 +59,7 @@ QString cycles(const QVariant& value)
 struct Format
 {
     QLatin1String name;
-    QString (*text)(const QVariant&);
+    QString (*text)(const QVariant&) = nullptr;
 };
 
 constexpr std::array formats{

@@ -21,7 +21,7 @@ QFont scaled(const QFont& font, double factor)
 
 ViewMetrics::ViewMetrics(const QWidget& widget)
 {
-    const QFont font = widget.font();
+    const QFont& font = widget.font();
     const int line = widget.fontMetrics().height();
     width = line * 17;
     margin = qRound(line * 0.85);

@@ -9,7 +9,7 @@ namespace {
 /// With Control held the text is a control character or nothing, so the letter comes from the key.
 QString charactersIgnoringModifiers(const QKeyEvent& event)
 {
-    const QString text = event.text();
+    QString text = event.text();
     if (!text.isEmpty() && text.at(0).isPrint())
         return text;
     if (event.key() < Qt::Key_A || event.key() > Qt::Key_Z)

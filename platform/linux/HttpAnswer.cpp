@@ -134,7 +134,7 @@ qsizetype endOfHead(const QByteArray& bytes)
 
 HttpReading readHttpAnswer(const QByteArray& bytes, bool isAtEnd, qsizetype bodyLimit)
 {
-    constexpr qsizetype longestHead = 16 * 1024;
+    constexpr qsizetype longestHead = qsizetype{16} * 1024;
     const qsizetype end = endOfHead(bytes);
     if (end < 0)
         return {isAtEnd || bytes.size() > longestHead ? State::Broken : State::Incomplete, {}};

@@ -10,8 +10,8 @@ namespace quindle {
 
 struct HttpLimits
 {
-    std::chrono::milliseconds time{3000}; ///< for the whole exchange, finding the host included
-    qsizetype size = 64 * 1024;           ///< of the body, before and after decompression
+    std::chrono::milliseconds time{3000};  ///< for the whole exchange, finding the host included
+    qsizetype size = qsizetype{64} * 1024; ///< of the body, before and after decompression
 };
 
 /// The body of the answer to a GET of `url`, an http address with a host. Nothing for another address, an

@@ -94,7 +94,7 @@ InstallationSource installationSource(const QString& bundlePath, const QString& 
         return {InstallationSource::Kind::Build, {}, {}};
     const QString file = bundlePath + QStringLiteral("/Contents/Info.plist");
     for (const auto& ask : {fromDpkg, fromPacman, fromRpm}) {
-        const InstallationSource source = ask(file, root);
+        InstallationSource source = ask(file, root);
         if (source.kind == InstallationSource::Kind::Package)
             return source;
     }

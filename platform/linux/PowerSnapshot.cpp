@@ -48,6 +48,7 @@ std::optional<std::string_view> SupplySnapshot::text(Attribute attribute) const
     return viewOf(m_status.data(), m_statusSize);
 }
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the room for snapshots is raw memory
 PowerSnapshot::PowerSnapshot(SupplyDirectory& directory)
 {
     const auto& supplies = directory.supplies();

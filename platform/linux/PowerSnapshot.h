@@ -58,8 +58,7 @@ public:
 
 private:
     // A few supplies need no memory of the heap, where so large a piece is found and given back slowly.
-    alignas(SupplySnapshot) std::array<
-        std::byte, 4 * sizeof(SupplySnapshot)> m_room; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    alignas(SupplySnapshot) std::array<std::byte, 4 * sizeof(SupplySnapshot)> m_room;
     std::pmr::monotonic_buffer_resource m_memory{m_room.data(), m_room.size()};
     std::pmr::vector<SupplySnapshot> m_snapshots{&m_memory};
     QVarLengthArray<const SupplyAttributes*, 4> m_batteries;

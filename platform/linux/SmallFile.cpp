@@ -12,7 +12,7 @@ namespace quindle {
 
 std::optional<QByteArray> readSmallFile(const QString& path)
 {
-    constexpr qsizetype limit = 64 * 1024;
+    constexpr qsizetype limit = qsizetype{64} * 1024;
     const FileDescriptor file(
         open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
     struct stat status

@@ -100,8 +100,8 @@ void exchangeOverTcp(const QString& host, int port, const QByteArray& request, D
     if (!own || !sendAll(own->get(), request, deadline))
         return;
     QByteArray bytes;
-    std::array<char, 16 * 1024>
-        part; // NOLINT(cppcoreguidelines-pro-type-member-init): read into before it is read
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): read into before it is read
+    std::array<char, 16384> part;
     while (waitFor(own->get(), POLLIN, deadline)) {
         const ssize_t size = recv(own->get(), part.data(), part.size(), 0);
         if (size < 0 && errno != EAGAIN && errno != EINTR)
