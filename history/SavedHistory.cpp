@@ -27,7 +27,8 @@ QString savedHistoryFile(const QString& applicationSupportDirectory)
 
 QVariantList savedRecords(const QString& path)
 {
-    constexpr qint64 largestFile = qint64{1024} * 1024 * 1024; // bytes; a century of records takes a fifth of it
+    constexpr qint64 largestFile =
+        qint64{1024} * 1024 * 1024; // bytes; a century of records takes a fifth of it
     const QFileInfo info(path);
     if (!info.exists())
         return {};
