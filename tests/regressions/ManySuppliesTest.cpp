@@ -1,5 +1,5 @@
 // The attribute files of many batteries stayed open until the process had no descriptor left for anything
-// else.
+// else; and one that was taken out while they were described ended the program.
 
 #include "tests/faults/HelperOnSupplies.h"
 #include "tests/support/QtPrinters.h"
@@ -45,6 +45,19 @@ TEST_F(ManySuppliesTest, FortyAreOneBatteryAndTakeFewDescriptors)
     EXPECT_EQ(title(), QStringLiteral("50.0% -40000"));
     EXPECT_EQ(powerSources.sourceCount(), 40);
     EXPECT_LE(openFiles() - before, 40 + 16 * 12 + 5); // folders, files of the first
+}
+
+TEST_F(ManySuppliesTest, OneTakenOutAfterTheListIsStillDescribed)
+{
+    addBatteries(2);
+    launch(QStringLiteral("%p%"));
+    ASSERT_EQ(powerSources.sourceCount(), 2);
+    tree.remove("BAT1");
+    now += std::chrono::seconds(2);                       // the directory is due to be read again
+    EXPECT_TRUE(powerSources.description(1).has_value()); // without one the program would end
+    passTenSeconds();
+    EXPECT_EQ(powerSources.sourceCount(), 1);
+    EXPECT_FALSE(powerSources.description(1).has_value());
 }
 
 TEST_F(ManySuppliesTest, TheyMayGoAndComeBack)
