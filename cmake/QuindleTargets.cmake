@@ -7,7 +7,7 @@ function(quindle_library name)
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE ${ARG_PRIVATE_USES})
     quindle_counts_coverage(${name})
-    quindle_precompiles(${name})
+    quindle_compiles_together(${name})
 endfunction()
 
 # Of the libraries only: which of their own lines the tests run tells nothing.
@@ -18,18 +18,20 @@ function(quindle_counts_coverage name)
     endif()
 endfunction()
 
-# The sanitized build is a second one of the same sources, and most of its time would go into reading headers. That
-# each file includes what it needs is for the others to show.
-function(quindle_precompiles name)
-    if(NOT QUINDLE_SANITIZE)
-        return()
+# Most of a cold build's time goes into reading Qt's headers once for each small file, so the files of a library are
+# compiled a few at a time. Each file as itself: QUINDLE_FILE_BY_FILE, and scripts/check-files in CI.
+function(quindle_compiles_together name)
+    if(NOT QUINDLE_FILE_BY_FILE)
+        set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
     endif()
-    set(headers <algorithm> <array> <functional> <memory> <optional> <vector> <QDateTime> <QObject> <QVariant>)
-    get_target_property(libraries ${name} LINK_LIBRARIES)
-    if("Qt6::Widgets" IN_LIST libraries)
-        list(APPEND headers <QApplication> <QLabel> <QPainter>)
+endfunction()
+
+# What every test reads. The tests of a folder repeat each other's names, so they are not compiled together.
+function(quindle_precompiles_for_tests name)
+    if(NOT QUINDLE_FILE_BY_FILE)
+        target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <algorithm> <functional> <memory> <optional> <vector>
+            <QDateTime> <QObject> <QVariant> ${ARGN})
     endif()
-    target_precompile_headers(${name} PRIVATE ${headers} ${ARGN})
 endfunction()
 
 # The folders with QObjects or .ui files ask for moc and uic; the others are spared their cost.

@@ -13,7 +13,7 @@ namespace {
 using Kind = PropertyListGraph::Kind;
 
 // Keyed archives are flat: whatever is nested deeper than this is none.
-constexpr std::size_t deepestNesting = 64;
+constexpr std::size_t deepestXmlNesting = 64;
 
 QVariant integerFromText(QString text)
 {
@@ -127,7 +127,7 @@ bool XmlPropertyListGraph::begin(QXmlStreamReader& xml)
     const QString name = xml.name().toString();
     if (name != u"array" && name != u"dict")
         return addScalar(xml, name);
-    if (m_open.size() > deepestNesting)
+    if (m_open.size() > deepestXmlNesting)
         return false;
     m_open.push_back({name == u"array" ? Kind::Array : Kind::Dictionary, {}});
     return true;

@@ -10,16 +10,12 @@
 #include <memory>
 #include <sys/stat.h>
 
+#include "platform/linux/CloseFolder.h"
 #include "platform/linux/FileDescriptor.h"
 
 namespace quindle {
 
 namespace {
-
-struct CloseFolder
-{
-    void operator()(DIR* folder) const { ::closedir(folder); }
-};
 
 QByteArray nameOf(const QByteArray& path)
 {

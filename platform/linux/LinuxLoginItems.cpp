@@ -14,6 +14,7 @@
 #include "platform/FileUrl.h"
 #include "platform/HelperBundle.h"
 #include "platform/linux/AutostartEntry.h"
+#include "platform/linux/CloseFolder.h"
 #include "platform/linux/FileLock.h"
 #include "platform/linux/FileReplacement.h"
 #include "platform/linux/SmallFile.h"
@@ -32,11 +33,6 @@ QByteArray ownEntryName()
 {
     return "com.fernhollow.Quindle-Helper.desktop";
 }
-
-struct CloseFolder
-{
-    void operator()(DIR* folder) const { ::closedir(folder); }
-};
 
 /// The names of the entries in a folder, unsorted; none when it is not there yet, nothing when it cannot be
 /// read.
