@@ -2,9 +2,21 @@
 
 #include <optional>
 
+#include <QList>
+#include <QString>
 #include <QVariantMap>
 
 namespace quindle {
+
+/// The battery of something beside the computer: a mouse, a keyboard, a headset.
+struct PeripheralBattery
+{
+    QString name;                 ///< what its maker calls it; never empty
+    std::optional<int> percent;   ///< 0 to 100; nothing where its driver only knows words
+    std::optional<QString> level; ///< the driver's word ("Low", "Normal", "Full"); nothing where it has none
+
+    bool operator==(const PeripheralBattery&) const = default;
+};
 
 /// The power-source service: what the operating system says about batteries, uninterruptible supplies and the
 /// adapter. Main thread only.
@@ -22,6 +34,14 @@ public:
 
     /// The description of one source of the last list; nothing when it cannot be had.
     virtual std::optional<QVariantMap> description(int source) = 0;
+
+    /// The charge in percent (1 to 99) at which the computer stops charging its battery; nothing where
+    /// charging is not limited or the driver knows no limit.
+    virtual std::optional<int> chargeLimit() = 0;
+
+    /// The batteries of devices beside the computer, in a stable order; none on most computers. They are no
+    /// sources: nothing that the battery or computer model knows comes from them.
+    virtual QList<PeripheralBattery> peripherals() = 0;
 };
 
 } // namespace quindle

@@ -24,6 +24,8 @@ public:
     std::optional<QVariantMap> externalAdapterDetails() override;
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
+    std::optional<int> chargeLimit() override { return std::nullopt; }
+    QList<PeripheralBattery> peripherals() override { return {}; }
 
 private:
     SupplyDirectory& m_supplies;

@@ -18,6 +18,9 @@ public:
     std::optional<QVariantMap> externalAdapterDetails() override;
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
+    /// Machine files record neither limits nor devices.
+    std::optional<int> chargeLimit() override { return std::nullopt; }
+    QList<PeripheralBattery> peripherals() override { return {}; }
 
 private:
     const RecordedComputer& m_computer;

@@ -62,11 +62,15 @@ public:
     /// The descriptions in order; a description that is nothing cannot be had. No list: the service cannot be
     /// asked.
     std::optional<std::vector<std::optional<QVariantMap>>> sources{std::in_place};
+    std::optional<int> limit;
+    QList<PeripheralBattery> devices;
     int calls = 0;
 
     std::optional<QVariantMap> externalAdapterDetails() override;
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
+    std::optional<int> chargeLimit() override { return limit; }
+    QList<PeripheralBattery> peripherals() override { return devices; }
 };
 
 class MemoryUserDefaults : public UserDefaults
