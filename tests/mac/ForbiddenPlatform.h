@@ -36,6 +36,11 @@ class ForbiddenPlatform
         }
         std::optional<int> sourceCount() override { return refuse<int>("sources"); }
         std::optional<QVariantMap> description(int) override { return refuse<QVariantMap>("description"); }
+        std::optional<int> chargeLimit() override { return refuse<int>("charge limit"); }
+        QList<PeripheralBattery> peripherals() override
+        {
+            return refuse<QList<PeripheralBattery>>("peripherals").value_or(QList<PeripheralBattery>());
+        }
     };
 
     struct Settings : UserDefaults
