@@ -23,6 +23,8 @@ endfunction()
 function(quindle_compiles_together name)
     if(NOT QUINDLE_FILE_BY_FILE)
         set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
+        # Meant for headers, which a source file looks like here.
+        target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
     endif()
 endfunction()
 

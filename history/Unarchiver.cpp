@@ -34,8 +34,8 @@ quint64 unfoldedValues(quint64 size)
 
 bool isPlainNumber(PropertyListGraph::Kind kind)
 {
-    using Kind = PropertyListGraph::Kind;
-    return kind == Kind::Boolean || kind == Kind::Integer || kind == Kind::Real;
+    return kind == PropertyListGraph::Kind::Boolean || kind == PropertyListGraph::Kind::Integer ||
+           kind == PropertyListGraph::Kind::Real;
 }
 
 const char* const damagedObject = "an object is damaged";

@@ -39,7 +39,7 @@ class ForbiddenPlatform
         std::optional<int> chargeLimit() override { return refuse<int>("charge limit"); }
         QList<PeripheralBattery> peripherals() override
         {
-            return refuse<QList<PeripheralBattery>>("peripherals").value_or(QList<PeripheralBattery>());
+            return refuse<QList<PeripheralBattery>>("peripherals");
         }
     };
 
