@@ -3,13 +3,13 @@
 #include <QIcon>
 
 #include "common/FatalError.h"
-#include "menubar/KeyPathBinder.h"
 #include "menubar/TitleTemplate.h"
 #include "platform/Bundle.h"
 #include "platform/NotificationCenter.h"
 #include "preferences/BoundSettings.h"
 #include "preferences/ParameterPopover.h"
 #include "preferences/SentDataDialog.h"
+#include "preferences/SettingsBinder.h"
 #include "ui_GeneralPreferencesController.h"
 
 namespace quindle {
@@ -34,7 +34,6 @@ GeneralPreferencesController::GeneralPreferencesController(BoundSettings& settin
     , m_bundle(bundle)
     , m_sentText(std::move(sentText))
 {
-    m_boundSettings.addObject(&settings);
 }
 
 GeneralPreferencesController::~GeneralPreferencesController() = default;
@@ -85,7 +84,8 @@ void GeneralPreferencesController::loadView()
     m_ui->titlePreview->follow(*m_ui->customMenuBarTextField, m_title);
     m_view->fitToFont();
     connectControls();
-    fill();
+    m_binder = std::make_unique<SettingsBinder>(*m_view, m_settings);
+    applyHelperOnlyRule();
 }
 
 void GeneralPreferencesController::connectControls()
@@ -110,11 +110,9 @@ void GeneralPreferencesController::setUI()
     fill();
 }
 
-// Binding anew fills every control, also one that shows a change which could not be stored.
 void GeneralPreferencesController::fill()
 {
-    m_binder.reset(); // there is one binder at a time
-    m_binder = std::make_unique<KeyPathBinder>(*m_view, m_boundSettings);
+    m_binder->fill();
     applyHelperOnlyRule();
 }
 

@@ -5,7 +5,6 @@
 
 #include <QObject>
 
-#include "menubar/ObjectController.h"
 #include "preferences/QDPreferencesWindowControllerProtocol.h"
 
 namespace quindle {
@@ -13,9 +12,9 @@ namespace quindle {
 class BoundSettings;
 class Bundle;
 class DistributedNotificationCenter;
-class KeyPathBinder;
 class PaneView;
 class ParameterPopover;
+class SettingsBinder;
 class StatusBarTitle;
 
 namespace Ui {
@@ -77,10 +76,9 @@ private:
     DistributedNotificationCenter& m_distributedCenter;
     const Bundle& m_bundle;
     SentText m_sentText;
-    ObjectController m_boundSettings;
     std::unique_ptr<Ui::GeneralPreferencesController> m_ui;
     std::unique_ptr<PaneView> m_view;
-    std::unique_ptr<KeyPathBinder> m_binder;
+    std::unique_ptr<SettingsBinder> m_binder;
     ParameterPopover* m_parameterPopover = nullptr;
 };
 

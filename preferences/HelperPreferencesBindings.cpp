@@ -12,9 +12,8 @@ HelperPreferencesBindings::HelperPreferencesBindings(const Ui::HelperPreferences
                                                      HelperPreferencesWindow& window, BoundSettings& settings,
                                                      StatusBarTitle& title)
     : m_settings(settings)
-    , m_binder(window, m_controller)
+    , m_binder(window, settings)
 {
-    m_controller.addObject(&settings);
     ui.titlePreview->follow(*ui.customMenuBarTextField, title);
     connect(&settings, &BoundSettings::changed, ui.titlePreview, &TitlePreview::refresh);
     storeChanges(ui, title);

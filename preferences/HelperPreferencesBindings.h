@@ -2,8 +2,7 @@
 
 #include <QObject>
 
-#include "menubar/KeyPathBinder.h"
-#include "menubar/ObjectController.h"
+#include "preferences/SettingsBinder.h"
 
 namespace quindle {
 
@@ -31,8 +30,7 @@ private:
     void followMenuBarSetting(QWidget* widget);
 
     BoundSettings& m_settings;
-    ObjectController m_controller;
-    KeyPathBinder m_binder;
+    SettingsBinder m_binder;
 };
 
 } // namespace quindle

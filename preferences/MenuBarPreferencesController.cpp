@@ -2,8 +2,8 @@
 
 #include <QIcon>
 
-#include "menubar/KeyPathBinder.h"
 #include "preferences/BoundSettings.h"
+#include "preferences/SettingsBinder.h"
 #include "preferences/StatusBarTitle.h"
 #include "ui_MenuBarPreferencesController.h"
 
@@ -15,7 +15,6 @@ MenuBarPreferencesController::MenuBarPreferencesController(BoundSettings& settin
     , m_title(title)
     , m_openMenuBarText(std::move(openMenuBarText))
 {
-    m_boundSettings.addObject(&settings);
 }
 
 MenuBarPreferencesController::~MenuBarPreferencesController() = default;
@@ -46,9 +45,7 @@ void MenuBarPreferencesController::viewWillAppear()
 {
     view();
     m_settings.reload();
-    // Binding anew fills every control, also one that shows a change which could not be stored.
-    m_binder.reset();
-    m_binder = std::make_unique<KeyPathBinder>(*m_view, m_boundSettings);
+    m_binder->fill();
     refresh();
 }
 
@@ -75,6 +72,7 @@ void MenuBarPreferencesController::loadView()
     connect(m_ui->presentationMatrix, &RadioMatrix::clicked, this,
             &MenuBarPreferencesController::changePresentation);
     connect(&m_settings, &BoundSettings::changed, this, &MenuBarPreferencesController::refresh);
+    m_binder = std::make_unique<SettingsBinder>(*m_view, m_settings);
     viewWillAppear();
 }
 

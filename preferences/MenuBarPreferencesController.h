@@ -5,14 +5,13 @@
 
 #include <QObject>
 
-#include "menubar/ObjectController.h"
 #include "preferences/QDPreferencesWindowControllerProtocol.h"
 
 namespace quindle {
 
 class BoundSettings;
-class KeyPathBinder;
 class PaneView;
+class SettingsBinder;
 class StatusBarTitle;
 
 namespace Ui {
@@ -48,10 +47,9 @@ private:
     BoundSettings& m_settings;
     StatusBarTitle& m_title;
     std::function<void()> m_openMenuBarText;
-    ObjectController m_boundSettings;
     std::unique_ptr<Ui::MenuBarPreferencesController> m_ui;
     std::unique_ptr<PaneView> m_view;
-    std::unique_ptr<KeyPathBinder> m_binder;
+    std::unique_ptr<SettingsBinder> m_binder;
 };
 
 } // namespace quindle

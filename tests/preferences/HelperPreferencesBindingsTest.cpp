@@ -44,9 +44,7 @@ protected:
 
 TEST_F(HelperPreferencesBindingsTest, everyKeyPathResolves)
 {
-    ObjectController controller;
-    controller.addObject(&settings);
-    const KeyPathBinder binder(helper->window(), controller);
+    const SettingsBinder binder(helper->window(), settings);
     EXPECT_EQ(binder.unresolved(), QStringList());
     EXPECT_EQ(binder.paths(), (QStringList{latin("autoUploadBatteryData"), latin("customStatusBar"),
                                            latin("menuBarSetting"), latin("showsIconsInMenuBar"),

@@ -7,8 +7,7 @@
 #include <QPushButton>
 #include <QXmlStreamReader>
 
-#include "menubar/KeyPathBinder.h"
-#include "menubar/ObjectController.h"
+#include "preferences/SettingsBinder.h"
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
 
@@ -37,15 +36,13 @@ void addBoundWidgets(const QString& path, QWidget& root)
 TEST(InterfaceFilesTest, EveryBoundKeyPathIsASetting)
 {
     test::SettingsFixture on;
-    ObjectController controller;
-    controller.addObject(&on.settings);
     const QDir folder(QStringLiteral(QUINDLE_PREFERENCES_FOLDER));
     const QStringList files = folder.entryList({QStringLiteral("*.ui")});
     EXPECT_TRUE(files.contains(QStringLiteral("GeneralPreferencesController.ui")));
     for (const QString& file : files) {
         QWidget root;
         addBoundWidgets(folder.filePath(file), root);
-        const KeyPathBinder binder(root, controller);
+        const SettingsBinder binder(root, on.settings);
         EXPECT_EQ(binder.unresolved().join(u' '), QString()) << file.toStdString();
     }
 }

@@ -5,8 +5,8 @@
 #include <QPushButton>
 #include <gtest/gtest.h>
 
-#include "menubar/KeyPathBinder.h"
 #include "preferences/RadioMatrix.h"
+#include "preferences/SettingsBinder.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
 
@@ -38,9 +38,7 @@ TEST_F(MenuBarPaneTest, hasTheNamesOfASecondPane)
 
 TEST_F(MenuBarPaneTest, everyKeyPathResolves)
 {
-    ObjectController controller;
-    controller.addObject(&settings);
-    const KeyPathBinder binder(pane.view(), controller);
+    const SettingsBinder binder(pane.view(), settings);
     EXPECT_EQ(binder.unresolved(), QStringList());
     EXPECT_EQ(binder.paths(), (QStringList{latin("customStatusBar"), latin("statusItemPresentation")}));
 }
