@@ -1,23 +1,23 @@
 #include "platform/linux/LinuxPlatform.h"
 
 #include "platform/NotificationCenter.h"
-#include "platform/linux/BatteryTimes.h"
 #include "platform/linux/LinuxApplication.h"
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxHost.h"
 #include "platform/linux/LinuxLoginItems.h"
 #include "platform/linux/LinuxNotifications.h"
-#include "platform/linux/LinuxPowerEvents.h"
-#include "platform/linux/LinuxPowerSources.h"
-#include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/LinuxSystemFiles.h"
 #include "platform/linux/LinuxUrlSession.h"
 #include "platform/linux/LinuxUserDefaults.h"
 #include "platform/linux/LinuxUserDirectories.h"
 #include "platform/linux/LinuxWorkspace.h"
-#include "platform/linux/SupplyDirectory.h"
+#include "platform/linux/power/BatteryTimes.h"
+#include "platform/linux/power/LinuxPowerEvents.h"
+#include "platform/linux/power/LinuxPowerSources.h"
+#include "platform/linux/power/LinuxRegistry.h"
+#include "platform/linux/power/SupplyDirectory.h"
 
 namespace quindle {
 

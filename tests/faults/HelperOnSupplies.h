@@ -8,12 +8,12 @@
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/Image.h"
-#include "platform/linux/BatteryTimes.h"
-#include "platform/linux/LinuxPowerSources.h"
-#include "platform/linux/LinuxRegistry.h"
-#include "platform/linux/SupplyDirectory.h"
+#include "platform/linux/power/BatteryTimes.h"
+#include "platform/linux/power/LinuxPowerSources.h"
+#include "platform/linux/power/LinuxRegistry.h"
+#include "platform/linux/power/SupplyDirectory.h"
 #include "tests/app/LaunchedHelper.h"
-#include "tests/platform/linux-sysfs/SupplyTree.h"
+#include "tests/platform/linux/power/SupplyTree.h"
 
 namespace quindle {
 

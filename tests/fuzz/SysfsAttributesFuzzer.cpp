@@ -1,11 +1,11 @@
 #include <cmath>
 #include <vector>
 
-#include "platform/linux/PowerSourceDescription.h"
-#include "platform/linux/RegistryValues.h"
-#include "platform/linux/SupplyDirectory.h"
+#include "platform/linux/power/PowerSourceDescription.h"
+#include "platform/linux/power/RegistryValues.h"
+#include "platform/linux/power/SupplyDirectory.h"
 #include "tests/fuzz/FuzzInput.h"
-#include "tests/platform/linux-sysfs/MapAttributes.h"
+#include "tests/platform/linux/power/MapAttributes.h"
 
 using namespace quindle;
 

@@ -1,0 +1,87 @@
+#include "platform/linux/power/LinuxPowerEvents.h"
+
+#include <cerrno>
+#include <utility>
+
+#include <QLoggingCategory>
+#include <QSocketNotifier>
+
+#include <libudev.h>
+#include <unistd.h>
+
+namespace quindle {
+
+namespace {
+
+Q_LOGGING_CATEGORY(powerLog, "quindle.power")
+
+/// Only the daemon's messages can be filtered in the kernel; without the daemon (in a container) they never
+/// come.
+const char* eventSource()
+{
+    return access("/run/udev/control", F_OK) == 0 ? "udev" : "kernel";
+}
+
+} // namespace
+
+void LinuxPowerEvents::Release::operator()(udev* context) const
+{
+    udev_unref(context);
+}
+
+void LinuxPowerEvents::Release::operator()(udev_monitor* monitor) const
+{
+    udev_monitor_unref(monitor);
+}
+
+LinuxPowerEvents::LinuxPowerEvents(std::function<void()> aboutToTell)
+    : m_aboutToTell(std::move(aboutToTell))
+{
+}
+
+LinuxPowerEvents::~LinuxPowerEvents() = default;
+
+void LinuxPowerEvents::setObserver(std::function<void()> observer)
+{
+    m_observer = std::move(observer);
+    if (m_monitor)
+        return;
+    if (!open()) {
+        qCWarning(powerLog, "no events of the power supplies: changes show at the next refresh");
+        return;
+    }
+    m_notifier =
+        std::make_unique<QSocketNotifier>(udev_monitor_get_fd(m_monitor.get()), QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { tell(); });
+}
+
+bool LinuxPowerEvents::open()
+{
+    m_udev.reset(udev_new());
+    if (m_udev)
+        m_monitor.reset(udev_monitor_new_from_netlink(m_udev.get(), eventSource()));
+    udev_monitor* const monitor = m_monitor.get();
+    return monitor &&
+           udev_monitor_filter_add_match_subsystem_devtype(monitor, "power_supply", nullptr) >= 0 &&
+           udev_monitor_enable_receiving(monitor) >= 0;
+}
+
+bool LinuxPowerEvents::takeEvents()
+{
+    bool any = false;
+    while (udev_device* const device = udev_monitor_receive_device(m_monitor.get())) {
+        udev_device_unref(device);
+        any = true;
+    }
+    return any || errno == ENOBUFS; // there were more than the socket holds
+}
+
+void LinuxPowerEvents::tell()
+{
+    if (!takeEvents())
+        return;
+    m_aboutToTell();
+    m_observer();
+}
+
+} // namespace quindle

@@ -1,0 +1,117 @@
+#include "platform/linux/power/LinuxRegistry.h"
+
+#include "platform/linux/SmallFile.h"
+#include "platform/linux/power/PowerSnapshot.h"
+#include "platform/linux/power/RegistryValues.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr IOStatus badArgument = static_cast<IOStatus>(0xe00002c2);
+
+const QString modelKey = QStringLiteral("model");
+const QString serialKey = QStringLiteral("IOPlatformSerialNumber");
+
+/// The text in the first of two firmware files that holds any. Device trees end theirs with NUL.
+std::optional<QString> firmwareText(const QString& dmiFolder, const char* dmiName, const QString& treeFolder,
+                                    const char* treeName)
+{
+    for (const auto& [folder, name] : {std::pair(dmiFolder, dmiName), std::pair(treeFolder, treeName)}) {
+        if (folder.isEmpty())
+            continue;
+        const std::optional<QByteArray> content = readSmallFile(folder + u'/' + QLatin1String(name));
+        if (!content)
+            continue;
+        const std::string_view text(content->constData(), static_cast<std::size_t>(content->size()));
+        if (std::optional<QString> readable = readableText(text))
+            return readable;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+LinuxRegistry::LinuxRegistry(SupplyDirectory& supplies, BatteryTimes& times, Folders folders)
+    : m_supplies(supplies)
+    , m_times(times)
+    , m_folders(std::move(folders))
+{
+}
+
+RegistryObject LinuxRegistry::serviceMatchingName(const QString& name)
+{
+    if (name != QLatin1String("AppleSmartBattery"))
+        return 0;
+    m_supplies.rescanNow();
+    const PowerSnapshot snapshot(m_supplies);
+    return snapshot.power().batteries.empty() ? 0 : open(Entry::Battery);
+}
+
+RegistryObject LinuxRegistry::serviceMatchingClass(const QString& className)
+{
+    return className == QLatin1String("IOPlatformExpertDevice") ? open(Entry::Computer) : 0;
+}
+
+QVariant LinuxRegistry::property(RegistryObject object, const QString& key)
+{
+    const auto entry = m_open.find(object);
+    if (entry == m_open.end())
+        return {};
+    if (entry->second == Entry::Computer)
+        return computerProperty(key);
+    const PowerSnapshot snapshot(m_supplies);
+    return registryValue(key, snapshot.power(), m_times);
+}
+
+QVariantMap LinuxRegistry::properties(RegistryObject object)
+{
+    const auto entry = m_open.find(object);
+    if (entry == m_open.end())
+        return {};
+    if (entry->second == Entry::Computer)
+        return computerProperties();
+    const PowerSnapshot snapshot(m_supplies);
+    return registryValues(snapshot.power(), m_times);
+}
+
+IOStatus LinuxRegistry::release(RegistryObject object)
+{
+    return m_open.erase(object) == 1 ? kIOReturnSuccess : badArgument;
+}
+
+RegistryObject LinuxRegistry::open(Entry entry)
+{
+    do
+        ++m_lastHandle;
+    while (m_lastHandle == 0 || m_open.contains(m_lastHandle));
+    m_open.emplace(m_lastHandle, entry);
+    return m_lastHandle;
+}
+
+QVariant LinuxRegistry::computerProperty(const QString& key) const
+{
+    if (key == modelKey) {
+        const auto model = firmwareText(m_folders.dmi, "product_name", m_folders.deviceTree, "model");
+        return model ? QVariant(model->toUtf8().append('\0')) : QVariant();
+    }
+    if (key == serialKey) {
+        const auto serial =
+            firmwareText(m_folders.dmi, "product_serial", m_folders.deviceTree, "serial-number");
+        return serial ? QVariant(*serial) : QVariant();
+    }
+    return {};
+}
+
+QVariantMap LinuxRegistry::computerProperties() const
+{
+    QVariantMap values;
+    for (const QString& key : {modelKey, serialKey}) {
+        const QVariant value = computerProperty(key);
+        if (value.isValid())
+            values.insert(key, value);
+    }
+    return values;
+}
+
+} // namespace quindle

@@ -1,0 +1,104 @@
+#include "platform/linux/power/TimeEstimator.h"
+
+#include <cmath>
+
+namespace quindle {
+
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::milliseconds;
+
+constexpr milliseconds sampleInterval = 1s;
+
+/// A current just after a plug or unplug is not the one that stays.
+constexpr milliseconds shortestWatch = 20s;
+
+constexpr milliseconds currentWindow = 60s;
+
+/// Charges move in steps, often of a whole percent, so their change shows only over a longer time.
+constexpr milliseconds chargeWindow = 10min;
+
+std::optional<int> minutesFor(std::optional<double> charge, std::optional<double> current)
+{
+    constexpr double tenDays = 10.0 * 24 * 60;
+    if (!charge || !current || *charge < 0 || !(*current > 0))
+        return std::nullopt;
+    const double minutes = *charge / *current * 60;
+    if (!(minutes < tenDays))
+        return std::nullopt;
+    return static_cast<int>(std::lround(minutes));
+}
+
+} // namespace
+
+void TimeEstimator::setState(bool isPlugged, Direction direction)
+{
+    if (isPlugged == m_isPlugged && direction == m_direction)
+        return;
+    m_isPlugged = isPlugged;
+    m_direction = direction;
+    m_samples.clear();
+}
+
+bool TimeEstimator::wantsSample(milliseconds now) const
+{
+    return m_samples.empty() || now - m_samples.back().time >= sampleInterval;
+}
+
+void TimeEstimator::addSample(const Sample& sample)
+{
+    while (!m_samples.empty() && sample.time - m_samples.front().time > chargeWindow)
+        m_samples.pop_front();
+    m_samples.push_back(sample);
+}
+
+std::optional<int> TimeEstimator::minutesUntilEmpty() const
+{
+    if (m_direction != Direction::Discharging || m_samples.empty())
+        return std::nullopt;
+    return minutesFor(m_samples.back().charge, averageCurrent());
+}
+
+std::optional<int> TimeEstimator::minutesUntilFull() const
+{
+    if (m_direction != Direction::Charging || m_samples.empty())
+        return std::nullopt;
+    const Sample& last = m_samples.back();
+    if (!last.charge || !last.fullCharge)
+        return std::nullopt;
+    return minutesFor(*last.fullCharge - *last.charge, averageCurrent());
+}
+
+std::optional<double> TimeEstimator::averageCurrent() const
+{
+    const milliseconds end = m_samples.back().time;
+    milliseconds watched{};
+    double sum = 0;
+    int count = 0;
+    for (auto sample = m_samples.rbegin(); sample != m_samples.rend() && end - sample->time <= currentWindow;
+         ++sample) {
+        if (!sample->current)
+            continue;
+        sum += std::abs(*sample->current);
+        ++count;
+        watched = end - sample->time;
+    }
+    if (count == 0)
+        return currentFromCharges();
+    return watched >= shortestWatch ? std::optional(sum / count) : std::nullopt;
+}
+
+std::optional<double> TimeEstimator::currentFromCharges() const
+{
+    const Sample& first = m_samples.front();
+    const Sample& last = m_samples.back();
+    const milliseconds watched = last.time - first.time;
+    if (!first.charge || !last.charge || watched < shortestWatch)
+        return std::nullopt;
+    const double gained = *last.charge - *first.charge;
+    const double hours = std::chrono::duration<double, std::ratio<3600>>(watched).count();
+    return (m_direction == Direction::Charging ? gained : -gained) / hours;
+}
+
+} // namespace quindle

@@ -1,0 +1,102 @@
+#include <gtest/gtest.h>
+
+#include "platform/linux/power/PowerSourceDescription.h"
+#include "tests/platform/linux/power/MapAttributes.h"
+#include "tests/support/QtPrinters.h"
+
+using namespace quindle;
+
+namespace {
+
+TEST(PowerSourceDescription, HealthWord)
+{
+    const auto word = [](const char* full, const char* design, const char* health) {
+        return healthWord(
+            MapAttributes{{"charge_full", full}, {"charge_full_design", design}, {"health", health}});
+    };
+    EXPECT_EQ(word("3200000", "4000000", ""), QStringLiteral("Good"));
+    EXPECT_EQ(word("3199999", "4000000", "Unknown\n"), QStringLiteral("Fair"));
+    EXPECT_EQ(word("2000000", "4000000", ""), QStringLiteral("Fair"));
+    EXPECT_EQ(word("1999999", "4000000", ""), QStringLiteral("Poor"));
+    EXPECT_EQ(word("4500000", "4000000", "Overheat\n"), QStringLiteral("Overheat"));
+    EXPECT_EQ(word("4500000", "0", ""), std::nullopt);
+    EXPECT_EQ(word("4500000", "", "Unknown"), std::nullopt);
+}
+
+TEST(PowerSourceDescription, Battery)
+{
+    const MapAttributes battery = {{"charge_now", "1000000"}, {"charge_full", "3000000"},
+                                   {"status", "Discharging"}, {"model_name", "FRANGWA"},
+                                   {"current_now", "402000"}, {"voltage_now", "17296000"}};
+    const QVariantMap description = batteryDescription(battery, false, {150, {}});
+    const QVariantMap expected = {
+        {QStringLiteral("Name"), QStringLiteral("FRANGWA")},
+        {QStringLiteral("Type"), QStringLiteral("InternalBattery")},
+        {QStringLiteral("Transport Type"), QStringLiteral("Internal")},
+        {QStringLiteral("Power Source State"), QStringLiteral("Battery Power")},
+        {QStringLiteral("Is Present"), true},
+        {QStringLiteral("Is Charging"), false},
+        {QStringLiteral("Current Capacity"), qint64{33}},
+        {QStringLiteral("Max Capacity"), qint64{100}},
+        {QStringLiteral("Time to Empty"), qint64{150}},
+        {QStringLiteral("Time to Full Charge"), qint64{-1}},
+        {QStringLiteral("Current"), qint64{-402}},
+        {QStringLiteral("Voltage"), qint64{17296}},
+    };
+    EXPECT_EQ(description, expected);
+}
+
+TEST(PowerSourceDescription, UninterruptibleSupply)
+{
+    const MapAttributes supply = {{"capacity", "80"},
+                                  {"status", "Discharging"},
+                                  {"time_to_empty_avg", "1200"},
+                                  {"serial_number", "  A1 "}};
+    const QVariantMap description = uninterruptibleDescription(supply);
+    EXPECT_EQ(description.value(QStringLiteral("Type")), QStringLiteral("UPS"));
+    EXPECT_EQ(description.value(QStringLiteral("Current Capacity")), qint64{80});
+    EXPECT_EQ(description.value(QStringLiteral("Power Source State")), QStringLiteral("Battery Power"));
+    EXPECT_EQ(description.value(QStringLiteral("Time to Empty")), qint64{20});
+    EXPECT_EQ(description.value(QStringLiteral("Hardware Serial Number")), QStringLiteral("A1"));
+}
+
+struct WattsCase
+{
+    const char* type;
+    const char* modes;
+    const char* online;
+    const char* microvolts;
+    const char* microamps;
+    std::optional<qint64> watts;
+};
+
+TEST(PowerSourceDescription, AdapterWatts)
+{
+    const WattsCase cases[] = {
+        {"USB", "C [PD] PD_PPS\n", "1", "20000000", "3250000", 65},
+        {"USB", "C PD [PD_PPS]", "1", "20000000", "2250000", 45},
+        {"USB", "PD", "1", "9000000", "3000000", 27},
+        {"USB_PD", "", "1", "20000000", "5000000", 100},
+        {"USB", "[C] PD PD_PPS", "1", "5000000", "3000000", {}},
+        {"USB", "C PD PD_PPS", "1", "5000000", "3000000", {}},
+        {"USB", "C [PD", "1", "20000000", "3000000", 60},
+        {"USB", "", "1", "20000000", "3250000", {}},
+        {"Mains", "", "1", "20000000", "3250000", {}},
+        {"USB", "[PD]", "0", "20000000", "3250000", {}},
+        {"USB", "[PD]", "", "20000000", "3250000", {}},
+        {"USB", "[PD]", "1", "", "3250000", {}},
+        {"USB", "[PD]", "1", "0", "3250000", {}},
+        {"USB", "[PD]", "1", "9223372036854775807", "9223372036854775807", {}},
+    };
+    for (const WattsCase& each : cases) {
+        SCOPED_TRACE(&each - cases);
+        const MapAttributes supply = {{"type", each.type},
+                                      {"usb_type", each.modes},
+                                      {"online", each.online},
+                                      {"voltage_max", each.microvolts},
+                                      {"current_max", each.microamps}};
+        EXPECT_EQ(adapterWatts(supply), each.watts);
+    }
+}
+
+} // namespace

@@ -1,0 +1,106 @@
+#include <gtest/gtest.h>
+
+#include "platform/linux/power/TimeEstimator.h"
+
+using namespace quindle;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Direction = TimeEstimator::Direction;
+
+TEST(TimeEstimator, KnowsNothingWithoutSamples)
+{
+    TimeEstimator estimator;
+    estimator.setState(false, Direction::Discharging);
+    EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
+    EXPECT_EQ(estimator.minutesUntilFull(), std::nullopt);
+    EXPECT_TRUE(estimator.wantsSample(0s));
+}
+
+TEST(TimeEstimator, WantsOneSampleASecond)
+{
+    TimeEstimator estimator;
+    estimator.addSample({5s, 1000, 2000, 100});
+    EXPECT_FALSE(estimator.wantsSample(5999ms));
+    EXPECT_TRUE(estimator.wantsSample(6s));
+}
+
+TEST(TimeEstimator, AveragesTheLastMinute)
+{
+    TimeEstimator estimator;
+    estimator.setState(false, Direction::Discharging);
+    estimator.addSample({0s, 1000, 2000, -9000}); // older than a minute at the end
+    estimator.addSample({40s, 1000, 2000, -400});
+    estimator.addSample({100s, 900, 2000, -500});
+    EXPECT_EQ(estimator.minutesUntilEmpty(), 120);
+    EXPECT_EQ(estimator.minutesUntilFull(), std::nullopt);
+}
+
+TEST(TimeEstimator, OneSampleAfterAGapIsNotEnough)
+{
+    TimeEstimator estimator;
+    estimator.setState(false, Direction::Discharging);
+    estimator.addSample({0s, 1000, 2000, -400});
+    estimator.addSample({61s, 1000, 2000, -400});
+    EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
+}
+
+TEST(TimeEstimator, UntilFull)
+{
+    TimeEstimator estimator;
+    estimator.setState(true, Direction::Charging);
+    estimator.addSample({0s, 1000, 2000, 500});
+    estimator.addSample({20s, 1000, 2000, 500});
+    EXPECT_EQ(estimator.minutesUntilFull(), 120);
+    EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
+}
+
+TEST(TimeEstimator, NoCurrentFlows)
+{
+    TimeEstimator estimator;
+    estimator.setState(true, Direction::Charging);
+    estimator.addSample({0s, 1000, 2000, 0});
+    estimator.addSample({30s, 1000, 2000, 0});
+    EXPECT_EQ(estimator.minutesUntilFull(), std::nullopt);
+}
+
+TEST(TimeEstimator, TenDaysAreNoEstimate)
+{
+    for (const auto& [charge, expected] :
+         {std::pair(240.0, std::optional<int>()), std::pair(239.0, std::optional<int>(14340))}) {
+        TimeEstimator estimator;
+        estimator.setState(false, Direction::Discharging);
+        estimator.addSample({0s, charge, 1000, -1});
+        estimator.addSample({20s, charge, 1000, -1});
+        EXPECT_EQ(estimator.minutesUntilEmpty(), expected);
+    }
+}
+
+TEST(TimeEstimator, AChangedStateForgets)
+{
+    TimeEstimator estimator;
+    estimator.setState(false, Direction::Discharging);
+    estimator.addSample({0s, 1000, 2000, -400});
+    estimator.addSample({20s, 1000, 2000, -400});
+    ASSERT_TRUE(estimator.minutesUntilEmpty());
+    estimator.setState(false, Direction::Discharging);
+    ASSERT_TRUE(estimator.minutesUntilEmpty());
+    estimator.setState(true, Direction::Discharging);
+    EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
+}
+
+TEST(TimeEstimator, TheChargesChangeStandsInForTheCurrent)
+{
+    TimeEstimator estimator;
+    estimator.setState(false, Direction::Discharging);
+    estimator.addSample({0s, 1010, 2000, {}});
+    estimator.addSample({10s, 1010, 2000, {}});
+    EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
+    estimator.addSample({36s, 1000, 2000, {}}); // 10 mAh in a hundredth of an hour
+    EXPECT_EQ(estimator.minutesUntilEmpty(), 60);
+    estimator.addSample({72s, 1020, 2000, {}}); // rose although it discharges
+    EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
+}
+
+} // namespace
