@@ -1,4 +1,5 @@
-# Installs Debian or Ubuntu packages by name, the missing ones only. Sourced by ./run, ./test, ./package and scripts.
+# Installs Debian or Ubuntu packages by name, the missing ones only. Sourced by ./run, ./test, ./package and scripts, which may
+# say in by_hand what to do where there is no apt.
 
 build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools qt6-svg-dev
     libgl-dev libplist-dev libudev-dev libxml2-dev zlib1g-dev libxcb1-dev"
@@ -30,6 +31,11 @@ as_root() {
 
 install_packages() {
     local name missing=()
+    if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+        echo "This installs packages with apt, which is not here. Install what Debian names" $* \
+            "and go on by hand: ${by_hand:-cmake --preset release && cmake --build --preset release}" >&2
+        return 1
+    fi
     for name in "$@"; do
         is_installed "$name" || missing+=("$name")
     done

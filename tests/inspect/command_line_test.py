@@ -1,5 +1,6 @@
 """Runs quindle-inspect with arguments: usage, environment, report, demonstration computer, captures."""
 
+import datetime
 import json
 import os
 import plistlib
@@ -146,7 +147,11 @@ class CommandLine(unittest.TestCase):
             self.assertEqual(keys[key], MACHINE[key], key)
 
     def test_captured_machine_reads_the_same(self):
-        target, _ = self.captured("--with-serials")
+        """Both at one moment: the snapshot and ages tell the time."""
+        target, content = self.captured("--with-serials")
+        for path, machine in ((self.machine, MACHINE), (target, plistlib.loads(content))):
+            with open(path, "wb") as file:
+                plistlib.dump(machine | {"Now": datetime.datetime(2026, 3, 2, 12)}, file)
         states = [json.loads(self.run_program("--json", "--machine", path).stdout.splitlines()[0])
                   for path in (self.machine, target)]
         for state in states:
