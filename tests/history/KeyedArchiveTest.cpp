@@ -11,6 +11,7 @@
 #include <QTimeZone>
 
 #include "tests/support/QtPrinters.h"
+#include "tests/support/TestData.h"
 
 using namespace quindle;
 
@@ -18,7 +19,7 @@ namespace {
 
 QByteArray archive(const char* name)
 {
-    QFile file(QStringLiteral(QUINDLE_TEST_DATA "/archives/") + QLatin1String(name));
+    QFile file(testDataFolder() + QStringLiteral("/archives/") + QLatin1String(name));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return file.readAll();
 }

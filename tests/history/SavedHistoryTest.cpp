@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 
 #include "tests/support/QtPrinters.h"
+#include "tests/support/TestData.h"
 
 using namespace quindle;
 
@@ -46,7 +47,7 @@ TEST_F(SavedHistory, NoFileIsNoFault)
 
 TEST_F(SavedHistory, RecordsAreRead)
 {
-    QFile::copy(QStringLiteral(QUINDLE_TEST_DATA "/archives/two-records.binary"), path());
+    QFile::copy(testDataFolder() + QStringLiteral("/archives/two-records.binary"), path());
     EXPECT_TRUE(path().endsWith(QStringLiteral("/QuindleData.qndarchive")));
     EXPECT_EQ(savedRecords(path()).size(), 2);
     EXPECT_EQ(lines(), QStringList());

@@ -10,6 +10,7 @@
 #include "preferences/UpdateTexts.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/TestData.h"
 
 using namespace quindle;
 
@@ -47,7 +48,7 @@ TEST_F(UpdatePreferencesControllerTest, HasTheBundlesIcon)
     const QTemporaryDir folder;
     const QString icons = folder.filePath(QStringLiteral("Contents/Resources/icons"));
     ASSERT_TRUE(QDir().mkpath(icons));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(QUINDLE_TEST_DATA "/../../resources/icons/prefUpdate.svg"),
+    ASSERT_TRUE(QFile::copy(testDataFolder() + QStringLiteral("/../../resources/icons/prefUpdate.svg"),
                             icons + QStringLiteral("/prefUpdate.svg")));
     bundle.bundlePath = folder.path();
     const QIcon icon = pane.preferencesIcon();

@@ -6,13 +6,15 @@
 #include <QFile>
 #include <QStringList>
 
+#include "tests/support/TestData.h"
+
 namespace quindle {
 
 /// The rows of a table in tests/data: fields separated by tabs, after one line of headings. A table that is
 /// missing or has no rows fails the test that reads it.
 inline std::vector<QStringList> dataTable(const QString& name)
 {
-    QFile file(QStringLiteral(QUINDLE_TEST_DATA "/") + name);
+    QFile file(testDataFolder() + u'/' + name);
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error("no table " + name.toStdString());
     file.readLine();

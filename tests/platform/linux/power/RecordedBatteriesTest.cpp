@@ -6,12 +6,13 @@
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
 #include "platform/linux/power/SupplyDirectory.h"
+#include "tests/support/TestData.h"
 
 using namespace quindle;
 
 namespace {
 
-const QString dataFolder = QStringLiteral(QUINDLE_TEST_DATA "/sysfs/");
+const QString dataFolder = testDataFolder() + QStringLiteral("/sysfs/");
 
 /// "none" on a computer without a battery; else the properties by name. Times that are not known (65535) are
 /// left out; all four are always there.
