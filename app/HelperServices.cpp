@@ -6,7 +6,7 @@
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxRunLoop.h"
-#include "platform/linux/LinuxUrlSession.h"
+#include "platform/linux/network/LinuxUrlSession.h"
 #include "platform/linux/statusitem/LinuxStatusBar.h"
 #include "platform/recorded/RecordedPlatform.h"
 

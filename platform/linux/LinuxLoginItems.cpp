@@ -25,7 +25,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(loginLog, "quindle.loginitems")
 
-constexpr std::chrono::milliseconds patience(250); // writers hold the lock for milliseconds
+constexpr std::chrono::milliseconds lockPatience(250); // writers hold the lock for milliseconds
 
 constexpr QByteArrayView suffix(".desktop");
 
@@ -165,7 +165,7 @@ QString LinuxLoginItems::enter(const QByteArray& entryName, const QString& bundl
     for (const QByteArray& needed : {folder, folderOf(lockPath)})
         if (const int error = makeFolder(needed))
             return reason(error);
-    const auto lock = FileLock::take(lockPath, patience);
+    const auto lock = FileLock::take(lockPath, lockPatience);
     if (!lock)
         return reason(errno);
     const QByteArray path = folder + '/' + entryName;

@@ -1,14 +1,9 @@
-// The helper's network module for tests: the same posts, but it trusts the authority that the test made and
-// no other.
+// The helper's network module for tests: the same exchanges, but posts trust the authority that the test made
+// and no other.
 
-#include <QSslCertificate>
-#include <QSslConfiguration>
+#include "platform/linux/network/CurlUrlSession.h"
 
-#include "platform/linux/HttpsPost.h"
-
-extern "C" Q_DECL_EXPORT quindle::Poster* quindleMakePoster()
+extern "C" Q_DECL_EXPORT quindle::UrlSession* quindleMakeUrlSession()
 {
-    QSslConfiguration trust = QSslConfiguration::defaultConfiguration();
-    trust.setCaCertificates(QSslCertificate::fromPath(qEnvironmentVariable("QUINDLE_TEST_AUTHORITY")));
-    return new quindle::HttpsPost({}, trust);
+    return new quindle::CurlUrlSession({.authorities = qgetenv("QUINDLE_TEST_AUTHORITY")});
 }

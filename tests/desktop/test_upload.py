@@ -17,12 +17,12 @@ from pathlib import Path
 import helper_case
 from helper_case import SOURCE, SUITE, HelperCase, battery, machine, wait_for
 
-sys.path.insert(0, str(SOURCE / "tests" / "platform" / "linux-https"))
+sys.path.insert(0, str(SOURCE / "tests" / "platform" / "linux" / "network"))
 from https_case import HttpsCase  # noqa: E402
 from https_server import Server, answers, drips, never_answers  # noqa: E402
 
 INSPECT, NETWORK, LOOKUP = (os.environ[name] for name in
-                            ("QUINDLE_INSPECT", "QUINDLE_TRUSTING_NETWORK", "QUINDLE_HANGING_LOOKUP"))
+                            ("QUINDLE_INSPECT", "QUINDLE_TRUSTING_NETWORK", "QUINDLE_TEST_LOOKUP"))
 LAUNCHED = datetime.datetime(2024, 5, 1, 12)
 SERIAL = "D865033Y2CXF9CPAW"
 AT_ONCE = 1.0  # seconds from the choice in the menu to the end of the process
@@ -60,13 +60,14 @@ class UploadCase(HttpsCase, HelperCase):
         return shutil.copy(helper_case.HELPER, contents / "Linux" / "quindle-helper")
 
     def launch(self, keys, **env):
-        return self.start(keys, program=self.program,
-                          env={"QUINDLE_TEST_AUTHORITY": str(self.authority.certificate), **env})
+        sanitizer = ":".join(filter(None, (os.environ.get("ASAN_OPTIONS"), "verify_asan_link_order=0")))
+        return self.start(keys, program=self.program, env={
+            "QUINDLE_TEST_AUTHORITY": str(self.authority.certificate), "LD_PRELOAD": LOOKUP, "ASAN_OPTIONS": sanitizer, **env})
 
 
 class Upload(UploadCase):
     def requests_of(self, seconds, auto_upload=True, configured=True):
-        with Server(self.chain, answers(200, b"ok")) as server:
+        with Server(self.chain, answers(200, b"ok", Set_Cookie="id=1; Path=/")) as server:
             keys = computer(server.host if configured else None, seconds, auto_upload)
             self.launch(keys)
             self.assert_title("50.0%")
@@ -84,7 +85,7 @@ class Upload(UploadCase):
         keys, requests = self.requests_of([86401, 86411])
         (method, target, headers, body), = requests
         self.assertEqual((method, target), ("POST", "/qndonline/upload_mac_db_pro.php"))
-        self.assertNotIn("Content-Type", headers)
+        self.assertNotIn("Content-Type", dict(headers))
         first_step = {**keys, "Steps": keys["Steps"][:1]}
         shown = self.shown(first_step)
         self.assertEqual(body.decode(), shown["body"])
@@ -92,7 +93,10 @@ class Upload(UploadCase):
         self.assertNotIn(SERIAL.encode(), base64.b64decode(shown["record"]["Data.Raw"]))
 
     def test_one_post_for_each_day(self):
-        self.assertEqual(len(self.requests_of([86401, 2 * 86401, 2 * 86401 + 86400])[1]), 2)
+        requests = self.requests_of([86401, 2 * 86401, 2 * 86401 + 86400])[1]
+        self.assertEqual(len(requests), 2)
+        for _, _, headers, _ in requests:
+            self.assertNotIn("Cookie", dict(headers))
 
     def test_not_before_a_day_has_passed(self):
         self.assertEqual(self.requests_of([86400])[1], [])
@@ -102,6 +106,32 @@ class Upload(UploadCase):
 
     def test_nothing_without_a_host(self):
         self.assertEqual(self.requests_of([86401], configured=False)[1], [])
+
+    def network_libraries(self, process):
+        names = {Path(line.split(maxsplit=5)[-1]).name.split(".so")[0]
+                 for line in Path(f"/proc/{process.pid}/maps").read_text().splitlines()}
+        return {name for name in names if re.match("quindle-network|libcurl|libssl|libgnutls|libQt6Network", name)}
+
+    def test_network_libraries_are_loaded_by_the_first_post(self):
+        with Server(self.chain, answers(200, b"ok")) as server:
+            process = self.launch(computer(server.host, [86400]))
+            self.assert_title("50.0%")
+            self.assertEqual(self.network_libraries(process), set())
+            self.stop(process)
+            process = self.launch(computer(server.host, [86401]))
+            self.assertTrue(wait_for(lambda: server.requests, 10), "nothing was sent")
+            self.assertLess({"quindle-network"}, self.network_libraries(process))
+
+    def test_certificate_for_another_host(self):
+        """The host that is configured, at the address of another one."""
+        for name, sent in (("other.test", 0), ("statistics.test", 1)):
+            chain = self.authority.issue(name, host=name)
+            with self.subTest(name), Server(chain, answers(200, b"ok")) as server:
+                process = self.launch(computer(f"statistics.test:{server.port}", [86401]))
+                self.assertTrue(wait_for(lambda: server.server.connections, 10), "nobody came")
+                wait_for(lambda: server.requests, 1.5)
+                self.assertEqual(len(server.requests), sent)
+                self.stop(process)
 
     def test_looking_sends_nothing(self):
         with Server(self.chain, answers(200)) as server:
@@ -138,7 +168,7 @@ class QuitDuringUpload(UploadCase):
 
     def test_while_the_server_does_not_even_greet(self):
         with socket.create_server(("127.0.0.1", 0)) as server:
-            process = self.launch(computer(f"localhost:{server.getsockname()[1]}", [86401]))
+            process = self.launch(computer(f"127.0.0.1:{server.getsockname()[1]}", [86401]))
             server.settimeout(10)
             with server.accept()[0] as connection:
                 self.assertTrue(connection.recv(1), "nothing was sent")
@@ -146,9 +176,7 @@ class QuitDuringUpload(UploadCase):
 
     def test_while_the_host_is_looked_up(self):
         begun = Path(self.folder) / "lookup"
-        sanitizer = ":".join(filter(None, (os.environ.get("ASAN_OPTIONS"), "verify_asan_link_order=0")))
-        process = self.launch(computer("hangs.test", [86401]), LD_PRELOAD=LOOKUP, QUINDLE_TEST_LOOKUP=str(begun),
-                              ASAN_OPTIONS=sanitizer)
+        process = self.launch(computer("hangs.test", [86401]), QUINDLE_TEST_LOOKUP=str(begun))
         self.assertTrue(wait_for(begun.exists, 10), "the host was not looked up")
         self.assert_quits_at_once(process)
 

@@ -7,29 +7,27 @@
 namespace quindle {
 
 class Bundle;
-class Poster;
 
 /// The file of the network module in the program's bundle.
 QString networkModule(const Bundle& programBundle);
 
-/// Exchanges over the network. The network libraries are loaded with the first post; fetching needs none.
+/// Exchanges over the network, made by a module that is loaded for the first one to a host.
 class LinuxUrlSession : public UrlSession
 {
 public:
-    /// `modulePath`: the module that posts. When it cannot be loaded nothing is sent.
+    /// `modulePath`: when it cannot be loaded, one line is logged, nothing is sent and nothing is found.
     explicit LinuxUrlSession(QString modulePath);
-    ~LinuxUrlSession() override;
 
     void post(const QString& url, const QByteArray& body,
               std::function<void(int status, const QByteArray& body)> answered) override;
     std::optional<QByteArray> contents(const QString& url) override;
 
 private:
-    void load();
+    UrlSession* sessionFor(const QString& url);
 
     QString m_modulePath;
     bool m_loaded = false;
-    std::unique_ptr<Poster> m_poster;
+    std::unique_ptr<UrlSession> m_session;
 };
 
 } // namespace quindle

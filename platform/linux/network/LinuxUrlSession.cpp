@@ -1,4 +1,4 @@
-#include "platform/linux/LinuxUrlSession.h"
+#include "platform/linux/network/LinuxUrlSession.h"
 
 #include <utility>
 
@@ -7,8 +7,6 @@
 #include <QUrl>
 
 #include "platform/Bundle.h"
-#include "platform/linux/HttpContents.h"
-#include "platform/linux/Poster.h"
 
 namespace quindle {
 
@@ -28,34 +26,33 @@ LinuxUrlSession::LinuxUrlSession(QString modulePath)
 {
 }
 
-LinuxUrlSession::~LinuxUrlSession() = default;
-
 void LinuxUrlSession::post(const QString& url, const QByteArray& body,
                            std::function<void(int status, const QByteArray& body)> answered)
 {
-    if (QUrl(url).host().isEmpty())
-        return;
-    if (!m_loaded)
-        load();
-    if (m_poster)
-        m_poster->post(url, body, std::move(answered));
+    if (UrlSession* session = sessionFor(url))
+        session->post(url, body, std::move(answered));
 }
 
 std::optional<QByteArray> LinuxUrlSession::contents(const QString& url)
 {
-    return httpContents(url);
+    UrlSession* session = sessionFor(url);
+    return session ? session->contents(url) : std::nullopt;
 }
 
-void LinuxUrlSession::load()
+/// None without a host: as built no host is configured, and nothing is loaded.
+UrlSession* LinuxUrlSession::sessionFor(const QString& url)
 {
+    if (QUrl(url).host().isEmpty() || m_loaded)
+        return m_session.get();
     m_loaded = true;
     QLibrary module(m_modulePath);
-    using MakePoster = Poster* (*)();
-    const auto make = reinterpret_cast<MakePoster>(module.resolve("quindleMakePoster"));
+    using MakeUrlSession = UrlSession* (*)();
+    const auto make = reinterpret_cast<MakeUrlSession>(module.resolve("quindleMakeUrlSession"));
     if (make)
-        m_poster.reset(make());
+        m_session.reset(make());
     else
-        qCWarning(networkLog).noquote() << QStringLiteral("nothing can be sent: ") + module.errorString();
+        qCWarning(networkLog).noquote() << QStringLiteral("no network: ") + module.errorString();
+    return m_session.get();
 }
 
 } // namespace quindle

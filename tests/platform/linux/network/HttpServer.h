@@ -8,7 +8,7 @@
 
 namespace quindle {
 
-/// The server of server.py while this lives.
+/// The server of http_server.py while this lives.
 class HttpServer
 {
 public:

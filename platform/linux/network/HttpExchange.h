@@ -1,0 +1,41 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <stop_token>
+
+#include <QByteArray>
+#include <QList>
+#include <QUrl>
+
+namespace quindle {
+
+struct HttpRequest
+{
+    QUrl url;                         ///< http or https, with a host
+    QList<QByteArray> headers;        ///< all there are besides "Host", in this order
+    std::optional<QByteArray> body{}; ///< is posted; without one it is a GET
+    QByteArray authorities{};         ///< the file of those that are trusted; the system's when empty
+};
+
+struct HttpLimits
+{
+    std::chrono::milliseconds time; ///< for the whole exchange, finding the host included
+    qsizetype size; ///< of the answer's body, decompressed; all around it may take three times as much
+};
+
+struct HttpAnswer
+{
+    long status = 0;
+    QByteArray body;    ///< decompressed; of a compressed one that is cut off, what there is
+    QUrl redirection{}; ///< where the answer leads to; empty when nowhere
+};
+
+/// Sends `request` once and waits for its answer, without dispatching any event. Nothing without a complete
+/// answer within the limits, and as soon as a stop is requested. Certificates and their host names are
+/// verified; redirections are not followed; proxies, cookies, passwords and settings of the user are not
+/// looked at. To be called in any thread, after curl_global_init().
+std::optional<HttpAnswer> exchangeOverHttp(const HttpRequest& request, const HttpLimits& limits,
+                                           const std::stop_token& stop = {});
+
+} // namespace quindle
