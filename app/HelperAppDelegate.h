@@ -68,6 +68,8 @@ public:
     /// With the temperature in the unit that the title's setting chooses.
     std::optional<TitleValues> titleValues() const override;
 
+    Punctuality watchValues() const override;
+
     /// Colours both bars; without a battery they stay as they are.
     void setProgressIndicatorColor();
 

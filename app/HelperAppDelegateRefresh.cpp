@@ -10,6 +10,8 @@
 #include "menubar/StatusIcon.h"
 #include "menubar/TitleTemplate.h"
 #include "platform/Image.h"
+#include "platform/Platform.h"
+#include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
 
 namespace quindle {
@@ -92,6 +94,11 @@ std::optional<TitleValues> HelperAppDelegate::titleValues() const
     if (const QDBattery* battery = m_myMac->Battery())
         return titleValuesOf(*battery);
     return std::nullopt;
+}
+
+Punctuality HelperAppDelegate::watchValues() const
+{
+    return m_platform.runLoop.keepPunctual();
 }
 
 TitleValues HelperAppDelegate::titleValuesOf(const QDBattery& battery) const

@@ -39,7 +39,7 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
 {
     const Platform platform = services.platform();
     MainInterface interface;
-    BatteryPopup popup(interface, platform.application);
+    BatteryPopup popup(interface, platform.application, platform.runLoop);
     ApplicationPreferences& settings = ApplicationPreferences::sharedInstance(&platform);
     PreferencesWindows preferences(platform, settings);
     HelperAppDelegate delegate(platform, settings, interface, preferences, &QDMac::init);

@@ -14,6 +14,7 @@ Follower::Follower(Computer& computer, bool isDemo, BarFormat format, Write writ
     , m_format(format)
     , m_write(std::move(write))
     , m_inspection(computer, isDemo)
+    , m_figureWatch(computer.platform().runLoop)
 {
     HelperAppDelegate& delegate = m_inspection.delegate();
     writeIfChanged();
@@ -24,6 +25,7 @@ Follower::Follower(Computer& computer, bool isDemo, BarFormat format, Write writ
 
 void Follower::writeIfChanged()
 {
+    m_figureWatch.setTitleTemplate(m_inspection.preferences().customStatusBar());
     const RecentEvents recent = m_computer.takeEvents(); // or they would pile up
     QByteArray line = barLine(m_format, barState(m_inspection.delegate(), recent.toolTip));
     if (line == m_lastLine)

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "inspect/BarFormat.h"
+#include "inspect/FigureWatch.h"
 #include "inspect/Inspection.h"
 
 namespace quindle {
@@ -27,6 +28,7 @@ private:
     BarFormat m_format;
     Write m_write;
     Inspection m_inspection;
+    FigureWatch m_figureWatch;
     std::optional<QByteArray> m_lastLine;
 };
 

@@ -29,6 +29,8 @@ public:
 
     HelperAppDelegate& delegate() { return m_delegate; }
 
+    const ApplicationPreferences& preferences() const { return m_preferences; }
+
     const QDMac& mac() const { return m_delegate.myMac(); }
 
 private:

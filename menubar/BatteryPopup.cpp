@@ -6,6 +6,7 @@
 #include "menubar/BatteryWindow.h"
 #include "menubar/MainInterface.h"
 #include "platform/Application.h"
+#include "platform/RunLoop.h"
 
 namespace quindle {
 
@@ -22,10 +23,12 @@ BatteryWindow::Kind windowKind(const Application& application)
 
 } // namespace
 
-BatteryPopup::BatteryPopup(MainInterface& interface, const Application& application, QObject* parent)
+BatteryPopup::BatteryPopup(MainInterface& interface, const Application& application, RunLoop& runLoop,
+                           QObject* parent)
     : QObject(parent)
     , m_interface(interface)
     , m_application(application)
+    , m_runLoop(runLoop)
 {
     interface.statusMenu().setViewOpener([this] { toggle(); });
     interface.statusMenu().addObserver([popup = QPointer(this)](int id) {
@@ -53,6 +56,7 @@ void BatteryPopup::open()
         return;
     }
     m_window = new BatteryWindow(m_interface, windowKind(m_application));
+    m_window->setPunctuality(m_runLoop.keepPunctual());
     m_window->setClosedOutside([this] {
         m_closedAt = QCursor::pos();
         m_sinceClosedOutside.start();

@@ -10,17 +10,18 @@ namespace quindle {
 class Application;
 class BatteryWindow;
 class MainInterface;
+class RunLoop;
 
 /// Opens and closes the battery view: beside the pointer where windows may place themselves, as an ordinary
-/// window on Wayland. Nothing of it exists while it is closed.
+/// window on Wayland. Nothing of it exists while it is closed; while it is open the timers are punctual.
 class BatteryPopup : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Becomes what opens the view of the interface's status menu. Both must outlive it.
-    explicit BatteryPopup(MainInterface& interface, const Application& application,
-                          QObject* parent = nullptr);
+    /// Becomes what opens the view of the interface's status menu. All must outlive it.
+    BatteryPopup(MainInterface& interface, const Application& application, RunLoop& runLoop,
+                 QObject* parent = nullptr);
     ~BatteryPopup() override;
 
     bool isOpen() const;
@@ -38,6 +39,7 @@ private:
 
     MainInterface& m_interface;
     const Application& m_application;
+    RunLoop& m_runLoop;
     QPointer<BatteryWindow> m_window;
     QElapsedTimer m_sinceClosedOutside;
     QPoint m_closedAt;

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include "platform/RunLoop.h"
+
 class QScrollArea;
 class QVBoxLayout;
 
@@ -34,6 +36,9 @@ public:
     /// Brings one entry up to date with its row of the menu.
     void updateEntry(int id);
 
+    /// Held until the window goes.
+    void setPunctuality(Punctuality punctuality) { m_punctuality = std::move(punctuality); }
+
     /// Called when the window was closed by a press outside of it.
     void setClosedOutside(std::function<void()> closed) { m_closedOutside = std::move(closed); }
 
@@ -57,6 +62,7 @@ private:
     QWidget* m_menu = nullptr;
     std::map<int, MenuEntry*> m_entries;
     std::function<void()> m_closedOutside;
+    Punctuality m_punctuality;
 };
 
 } // namespace quindle

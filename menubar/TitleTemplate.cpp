@@ -1,5 +1,6 @@
 #include "menubar/TitleTemplate.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -37,6 +38,14 @@ QString titleFromTemplate(const QString& titleTemplate, const TitleValues& value
     for (const auto& [placeholder, text] : replacements)
         title.replace(placeholder, text);
     return title;
+}
+
+bool showsPassingFigures(const QString& titleTemplate)
+{
+    const std::array passing{QStringLiteral("%r"), QStringLiteral("%w"), QStringLiteral("%mA")};
+    return std::any_of(passing.begin(), passing.end(), [&titleTemplate](const QString& placeholder) {
+        return titleTemplate.contains(placeholder);
+    });
 }
 
 } // namespace quindle

@@ -23,4 +23,8 @@ QString defaultTitleTemplate();
 /// result of the one before, so that a "%" left by one may form a later placeholder with what follows it.
 QString titleFromTemplate(const QString& titleTemplate, const TitleValues& values);
 
+/// Whether it shows a figure that changes from one reading of the battery to the next: power, current or
+/// time.
+bool showsPassingFigures(const QString& titleTemplate);
+
 } // namespace quindle

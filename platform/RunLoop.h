@@ -15,6 +15,9 @@ public:
     virtual void invalidate() = 0;
 };
 
+/// Somebody's wish that ticks come on time; it ends with the last copy, which may outlive the run loop.
+using Punctuality = std::shared_ptr<void>;
+
 /// The main thread's loop.
 class RunLoop
 {
@@ -26,6 +29,10 @@ public:
     /// counted from the planned time, and ticks that were missed altogether (sleep) are passed over.
     virtual std::shared_ptr<Timer> scheduleRepeatingTimer(double interval, double tolerance,
                                                           std::function<void()> fire) = 0;
+
+    /// While somebody looks at what timers bring up to date: no timer uses its tolerance as long as one of
+    /// the answers exists. A tick that has been put off comes at once.
+    virtual Punctuality keepPunctual() = 0;
 };
 
 } // namespace quindle

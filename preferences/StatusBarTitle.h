@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "menubar/TitleTemplate.h"
+#include "platform/RunLoop.h"
 
 namespace quindle {
 
@@ -20,6 +21,9 @@ public:
 
     /// What the placeholders of a title template stand for at the moment; nothing without a battery.
     virtual std::optional<TitleValues> titleValues() const = 0;
+
+    /// The values are brought up to date on time for as long as the answer exists.
+    virtual Punctuality watchValues() const = 0;
 };
 
 } // namespace quindle

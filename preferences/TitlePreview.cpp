@@ -41,6 +41,7 @@ void TitlePreview::follow(const QLineEdit& field, const StatusBarTitle& title)
 void TitlePreview::follow(const StatusBarTitle& title)
 {
     m_title = &title;
+    watch(isVisible());
     refresh();
 }
 
@@ -65,6 +66,23 @@ void TitlePreview::changeEvent(QEvent* event)
     if (event->type() == QEvent::FontChange)
         fitToFont();
     QWidget::changeEvent(event);
+}
+
+void TitlePreview::showEvent(QShowEvent* event)
+{
+    watch(true);
+    QWidget::showEvent(event);
+}
+
+void TitlePreview::hideEvent(QHideEvent* event)
+{
+    watch(false);
+    QWidget::hideEvent(event);
+}
+
+void TitlePreview::watch(bool isSeen)
+{
+    m_watched = isSeen && m_title ? m_title->watchValues() : nullptr;
 }
 
 void TitlePreview::fitToFont()

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "platform/RunLoop.h"
+
 class QLineEdit;
 
 namespace quindle {
@@ -11,6 +13,7 @@ class QuietLabel;
 class StatusBarTitle;
 
 /// The title that a template gives at the moment: the text in a field, stored or not, or one that is bound.
+/// While it is seen it watches the values.
 class TitlePreview : public QWidget
 {
     Q_OBJECT
@@ -33,13 +36,17 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void fitToFont();
+    void watch(bool isSeen);
 
     QString m_titleTemplate;
     const StatusBarTitle* m_title = nullptr;
+    Punctuality m_watched;
     QuietLabel& m_caption;
     PlainLabel& m_shown;
 };

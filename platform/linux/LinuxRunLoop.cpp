@@ -32,6 +32,7 @@ public:
 
     int add(double interval, double tolerance, std::shared_ptr<std::function<void()>> fire);
     void remove(int number);
+    void addPunctuality(int change);
 
 private:
     void wakeUp();
@@ -41,6 +42,7 @@ private:
     SteadyClock m_clock;
     TimerSchedule m_schedule;
     std::map<int, std::shared_ptr<std::function<void()>>> m_actions;
+    int m_punctualities = 0;
     QTimer m_timer;
 };
 
@@ -84,6 +86,13 @@ void LinuxRunLoop::Wheel::remove(int number)
 {
     m_schedule.remove(number);
     m_actions.erase(number);
+    armTimer();
+}
+
+void LinuxRunLoop::Wheel::addPunctuality(int change)
+{
+    m_punctualities += change;
+    m_schedule.setPunctual(m_punctualities > 0);
     armTimer();
 }
 
@@ -133,6 +142,15 @@ std::shared_ptr<Timer> LinuxRunLoop::scheduleRepeatingTimer(double interval, dou
 {
     auto action = std::make_shared<std::function<void()>>(std::move(fire));
     return std::make_shared<ScheduledTimer>(m_wheel, m_wheel->add(interval, tolerance, std::move(action)));
+}
+
+Punctuality LinuxRunLoop::keepPunctual()
+{
+    m_wheel->addPunctuality(1);
+    return {this, [weak = std::weak_ptr(m_wheel)](void*) {
+                if (const auto wheel = weak.lock())
+                    wheel->addPunctuality(-1);
+            }};
 }
 
 } // namespace quindle

@@ -24,6 +24,8 @@ public:
     std::shared_ptr<Timer> scheduleRepeatingTimer(double interval, double tolerance,
                                                   std::function<void()> fire) override;
 
+    Punctuality keepPunctual() override;
+
 private:
     class Wheel;
     class ScheduledTimer;

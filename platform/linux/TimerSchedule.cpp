@@ -8,20 +8,20 @@ namespace quindle {
 
 namespace {
 
+constexpr double microsecondsInSecond = 1e6;
 constexpr double shortestInterval = 0.0001;
-constexpr double sharedSlack = 0.25;
-constexpr double slackOfInterval = 0.1;
+constexpr double longestInterval = 1e9; // further than any clock runs, and sums of it are no overflow
 
 } // namespace
 
 int TimerSchedule::add(double start, double interval, double tolerance)
 {
     Entry entry;
-    entry.start = start;
-    entry.interval = interval >= shortestInterval ? interval : shortestInterval;
-    entry.lateness = std::max(tolerance, 0.0) + std::min(sharedSlack, entry.interval * slackOfInterval);
-    entry.planned = start + entry.interval;
-    entry.fallsInStep = tolerance >= entry.interval;
+    entry.start = microseconds(start);
+    entry.interval =
+        microseconds(interval >= shortestInterval ? std::min(interval, longestInterval) : shortestInterval);
+    entry.tolerance = microseconds(tolerance > 0 ? std::min(tolerance, longestInterval) : 0);
+    entry.planned = entry.start + entry.interval;
     m_entries.emplace(++m_lastNumber, entry);
     return m_lastNumber;
 }
@@ -35,41 +35,40 @@ std::optional<double> TimerSchedule::nextWakeUp() const
 {
     if (m_entries.empty())
         return std::nullopt;
-    double limit = std::numeric_limits<double>::infinity();
+    Microseconds limit = std::numeric_limits<Microseconds>::max();
     for (const auto& [number, entry] : m_entries)
-        limit = std::min(limit, entry.planned + entry.lateness);
-    double latest = -std::numeric_limits<double>::infinity();
+        limit = std::min(limit, entry.planned + (m_isPunctual ? 0 : entry.tolerance));
+    Microseconds latest = std::numeric_limits<Microseconds>::min();
     for (const auto& [number, entry] : m_entries)
         if (entry.planned <= limit)
             latest = std::max(latest, entry.planned);
-    return latest;
+    return static_cast<double>(latest) / microsecondsInSecond;
 }
 
 std::vector<int> TimerSchedule::takeDue(double now)
 {
-    std::vector<std::pair<double, int>> due;
-    for (auto& [number, entry] : m_entries) {
-        if (entry.planned > now)
-            continue;
-        due.emplace_back(entry.planned, number);
-        if (entry.fallsInStep)
-            entry.start = now;
-        entry.planned = firstTickAfter(entry, now);
-    }
+    const Microseconds present = microseconds(now);
+    std::vector<std::pair<Microseconds, int>> due;
+    for (const auto& [number, entry] : m_entries)
+        if (entry.planned <= present)
+            due.emplace_back(entry.planned, number);
     std::sort(due.begin(), due.end());
     std::vector<int> numbers;
     numbers.reserve(due.size());
-    for (const auto& [planned, number] : due)
+    for (const auto& [planned, number] : due) {
+        Entry& entry = m_entries.at(number);
+        if (entry.tolerance >= entry.interval)
+            entry.start = due.back().first;
+        const Microseconds ticks = (present - entry.start) / entry.interval;
+        entry.planned = entry.start + (ticks + 1) * entry.interval;
         numbers.push_back(number);
+    }
     return numbers;
 }
 
-double TimerSchedule::firstTickAfter(const Entry& entry, double now)
+TimerSchedule::Microseconds TimerSchedule::microseconds(double seconds)
 {
-    double count = std::floor((now - entry.start) / entry.interval) + 1;
-    while (entry.start + count * entry.interval <= now)
-        ++count; // the quotient was rounded down
-    return entry.start + count * entry.interval;
+    return std::llround(seconds * microsecondsInSecond);
 }
 
 } // namespace quindle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <vector>
@@ -7,14 +8,15 @@
 namespace quindle {
 
 /// When repeating timers fire, so that their ticks share as few wake-ups as they allow. Plain numbers in and
-/// out: all times are seconds of one steady clock.
+/// out: all times are seconds of one steady clock, kept as whole microseconds, so that equal times are equal.
 ///
 /// A timer's ticks are planned at start + n * interval, n = 1, 2, ... A tick may be late by the timer's
-/// tolerance and, where that lets it share a wake-up, by 0.25 s more (a tenth of the interval, if that is
-/// less). The next wake-up is the latest of the timers' next planned ticks that makes none of them too late.
+/// tolerance, and not at all while the schedule is punctual. The next wake-up is the latest of the timers'
+/// next planned ticks that makes none of them too late.
 ///
 /// A timer that tolerates its whole interval may fire at any time, because some tick of it is in tolerance
-/// then: it starts anew whenever it fires, and so falls in step with the others wherever they started.
+/// then: it starts anew at the latest tick it fires together with, and so falls in step with the others
+/// wherever they started.
 class TimerSchedule
 {
 public:
@@ -25,7 +27,11 @@ public:
     /// Takes a timer out; an unknown number is ignored.
     void remove(int number);
 
-    /// When to wake next; nothing when there is no timer.
+    /// Whether tolerances count for nothing; at first they do count.
+    void setPunctual(bool isPunctual) { m_isPunctual = isPunctual; }
+
+    /// When to wake next; nothing when there is no timer. It may be past, when the schedule has just become
+    /// punctual.
     std::optional<double> nextWakeUp() const;
 
     /// The timers whose planned tick is not after `now`, in the order of these ticks, then of their numbers.
@@ -33,19 +39,21 @@ public:
     std::vector<int> takeDue(double now);
 
 private:
+    using Microseconds = std::int64_t;
+
     struct Entry
     {
-        double start = 0;
-        double interval = 0;
-        double lateness = 0;
-        double planned = 0;
-        bool fallsInStep = false;
+        Microseconds start = 0;
+        Microseconds interval = 0;
+        Microseconds tolerance = 0;
+        Microseconds planned = 0;
     };
 
-    static double firstTickAfter(const Entry& entry, double now);
+    static Microseconds microseconds(double seconds);
 
     std::map<int, Entry> m_entries;
     int m_lastNumber = 0;
+    bool m_isPunctual = false;
 };
 
 } // namespace quindle

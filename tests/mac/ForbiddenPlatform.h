@@ -112,6 +112,7 @@ class ForbiddenPlatform
         {
             return refuse<std::shared_ptr<Timer>>("a timer");
         }
+        Punctuality keepPunctual() override { return refuse<Punctuality>("punctual timers"); }
     };
 
     struct Bar : StatusBar

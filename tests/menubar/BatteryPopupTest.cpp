@@ -24,6 +24,7 @@
 #include "menubar/menuIndicator.h"
 #include "platform/Application.h"
 #include "tests/menubar/FakeModels.h"
+#include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -111,7 +112,8 @@ struct BatteryPopupTest : testing::Test
     RecordingActions actions;
     MainInterface interface;
     InventedDesktop desktop;
-    BatteryPopup popup{interface, desktop};
+    FakePlatform computer;
+    BatteryPopup popup{interface, desktop, computer.runLoop};
 };
 
 TEST_F(BatteryPopupTest, NothingExistsWhileClosed)
@@ -132,6 +134,20 @@ TEST_F(BatteryPopupTest, OpeningTwiceKeepsOneWindow)
 {
     const QWidget* first = open();
     EXPECT_EQ(open(), first);
+}
+
+TEST_F(BatteryPopupTest, TimersArePunctualWhileItIsOpen)
+{
+    EXPECT_FALSE(computer.runLoop.isPunctual());
+    open();
+    EXPECT_TRUE(computer.runLoop.isPunctual());
+    popup.close();
+    popup.open(); // the first window is still there until the loop has turned
+    deleteClosed();
+    EXPECT_TRUE(computer.runLoop.isPunctual());
+    press(window(), Qt::Key_Escape);
+    deleteClosed();
+    EXPECT_FALSE(computer.runLoop.isPunctual());
 }
 
 TEST_F(BatteryPopupTest, ShowsWhatTheModelsKnow)

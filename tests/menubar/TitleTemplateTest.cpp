@@ -116,6 +116,14 @@ TEST(TitleTemplateValues, WholeIntegers)
     EXPECT_EQ(titleFromTemplate(QStringLiteral("%mA"), values), QStringLiteral("-9223372036854775808"));
 }
 
+TEST(TitleTemplateFigures, PassingOnesArePowerCurrentAndTime)
+{
+    for (const char* passing : {"%w", "%mA", "%r", "now %p% at %wW", "%%r"})
+        EXPECT_TRUE(showsPassingFigures(QString::fromLatin1(passing))) << passing;
+    for (const char* other : {"", "%", "%p%", "%t %s %l", "%m", "% w", "%R"})
+        EXPECT_FALSE(showsPassingFigures(QString::fromLatin1(other))) << other;
+}
+
 TEST(TitleTemplateLength, LongTemplateIsExact)
 {
     const QString title = titleFromTemplate(QStringLiteral("%p").repeated(5000), discharging());

@@ -46,6 +46,12 @@ public:
     void updateStatusBarTitle() override {}
     void reloadBattery() override {}
     std::optional<TitleValues> titleValues() const override { return values; }
+    Punctuality watchValues() const override { return m_watched; }
+
+    bool isWatched() const { return m_watched.use_count() > 1; }
+
+private:
+    Punctuality m_watched = std::make_shared<int>();
 };
 
 /// The settings on an invented computer.

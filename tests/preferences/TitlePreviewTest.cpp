@@ -63,6 +63,24 @@ TEST_F(TitlePreviewTest, SaysWhenThereIsNoTitle)
     EXPECT_EQ(shown(), QStringLiteral("no text without a battery"));
 }
 
+TEST_F(TitlePreviewTest, WatchesTheValuesWhileItIsSeen)
+{
+    preview.show();
+    EXPECT_FALSE(title.isWatched());
+    preview.follow(field, title);
+    EXPECT_TRUE(title.isWatched());
+    preview.hide();
+    EXPECT_FALSE(title.isWatched());
+    preview.show();
+    EXPECT_TRUE(title.isWatched());
+}
+
+TEST_F(TitlePreviewTest, NobodyWatchesBeforeItIsSeen)
+{
+    preview.follow(title);
+    EXPECT_FALSE(title.isWatched());
+}
+
 TEST_F(TitlePreviewTest, LongTitlesNeedNoMoreRoom)
 {
     preview.follow(field, title);

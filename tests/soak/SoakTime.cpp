@@ -1,5 +1,6 @@
 #include "tests/soak/SoakTime.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quindle {
@@ -32,11 +33,24 @@ std::shared_ptr<Timer> SoakRunLoop::scheduleRepeatingTimer(double interval, doub
     return std::make_shared<SoakTimer>(*this, number);
 }
 
+// Views, which ask for it, do not outlive the loop here.
+Punctuality SoakRunLoop::keepPunctual()
+{
+    addPunctuality(1);
+    return {this, [this](void*) { addPunctuality(-1); }};
+}
+
+void SoakRunLoop::addPunctuality(int change)
+{
+    m_punctualities += change;
+    m_schedule.setPunctual(m_punctualities > 0);
+}
+
 void SoakRunLoop::advance(double seconds)
 {
     const double until = m_now + seconds;
     for (auto next = m_schedule.nextWakeUp(); next && *next <= until; next = m_schedule.nextWakeUp()) {
-        moveTo(*next);
+        moveTo(std::max(*next, m_now)); // a tick that was put off comes at once
         for (const int number : m_schedule.takeDue(m_now))
             if (const auto action = m_actions.find(number); action != m_actions.end())
                 action->second();

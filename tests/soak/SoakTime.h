@@ -31,16 +31,19 @@ public:
 
     std::shared_ptr<Timer> scheduleRepeatingTimer(double interval, double tolerance,
                                                   std::function<void()> fire) override;
+    Punctuality keepPunctual() override;
     void advance(double seconds);
 
 private:
     class SoakTimer;
 
+    void addPunctuality(int change);
     void moveTo(double time);
 
     SoakClock& m_clock;
     double m_now = 0;
     TimerSchedule m_schedule;
+    int m_punctualities = 0;
     std::map<int, std::function<void()>> m_actions;
 };
 

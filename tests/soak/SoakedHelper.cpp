@@ -105,7 +105,7 @@ SoakedHelper::SoakedHelper()
     m_preferences = std::make_unique<ApplicationPreferences>(m_platform);
     m_delegate = std::make_unique<HelperAppDelegate>(m_platform, *m_preferences, m_interface,
                                                      m_preferencesWindow, &QDMac::init);
-    m_popup = std::make_unique<BatteryPopup>(m_interface, m_recorded.application);
+    m_popup = std::make_unique<BatteryPopup>(m_interface, m_recorded.application, m_runLoop);
     QObject::connect(m_delegate.get(), &HelperAppDelegate::dailyUploadStarted, m_delegate.get(),
                      [this] { ++m_gatesOpened; });
     QObject::connect(m_delegate.get(), &HelperAppDelegate::statusItemRefreshed, m_delegate.get(),

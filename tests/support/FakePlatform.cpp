@@ -102,6 +102,11 @@ std::shared_ptr<Timer> FakeRunLoop::scheduleRepeatingTimer(double interval, doub
     return timer;
 }
 
+Punctuality FakeRunLoop::keepPunctual()
+{
+    return m_punctuality;
+}
+
 void FakeRunLoop::advance(double seconds)
 {
     const double until = m_time + seconds;

@@ -148,7 +148,11 @@ public:
 
     std::shared_ptr<Timer> scheduleRepeatingTimer(double interval, double tolerance,
                                                   std::function<void()> fire) override;
+    Punctuality keepPunctual() override;
     void advance(double seconds);
+
+    /// Whether somebody wants ticks on time.
+    bool isPunctual() const { return m_punctuality.use_count() > 1; }
 
 private:
     std::shared_ptr<FakeTimer> nextTimer(double until) const;
@@ -156,6 +160,7 @@ private:
 
     FakeClock& m_clock;
     double m_time = 0;
+    Punctuality m_punctuality = std::make_shared<int>();
 };
 
 /// Everything that was set on one status item; outlives the item.

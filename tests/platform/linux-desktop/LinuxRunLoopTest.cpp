@@ -37,16 +37,20 @@ TEST(LinuxRunLoop, FiresAgainAndAgain)
     QElapsedTimer watch;
     watch.start();
     runLoop.scheduleRepeatingTimer(0.02, 0, [&] { ++fired; });
-    EXPECT_TRUE(runUntil([&] { return fired == 3; }));
+    EXPECT_TRUE(runUntil([&] { return fired >= 3; }));
     EXPECT_GE(watch.nsecsElapsed(), 60'000'000);
 }
 
 TEST(LinuxRunLoop, TolerantTimerWaitsForTheOther)
 {
-    LinuxRunLoop runLoop;
+    QElapsedTimer watch;
+    watch.start();
+    bool runs = false;
+    LinuxRunLoop runLoop([&] { return runs ? static_cast<double>(watch.nsecsElapsed()) / 1e9 : 0; });
     std::string fired;
     runLoop.scheduleRepeatingTimer(0.05, 0.05, [&] { fired += 'a'; });
     runLoop.scheduleRepeatingTimer(0.1, 0, [&] { fired += 'b'; });
+    runs = true;
     EXPECT_TRUE(runUntil([&] { return fired.size() >= 2; }));
     EXPECT_EQ(fired, "ab");
 }
@@ -60,7 +64,7 @@ TEST(LinuxRunLoop, InvalidatedTimerIsSilent)
     runLoop.scheduleRepeatingTimer(0.01, 0, [&] { ++other; });
     timer->invalidate();
     timer->invalidate();
-    EXPECT_TRUE(runUntil([&] { return other == 3; }));
+    EXPECT_TRUE(runUntil([&] { return other >= 3; }));
     EXPECT_EQ(fired, 0);
 }
 
@@ -78,7 +82,7 @@ TEST(LinuxRunLoop, TimersChangeInsideACallback)
     });
     second = runLoop.scheduleRepeatingTimer(0.02, 0.02, [&] { fired += '2'; });
     EXPECT_TRUE(runUntil([&] { return fired.size() >= 3; }));
-    EXPECT_EQ(fired, "133");
+    EXPECT_EQ(fired.substr(0, 3), "133"); // a slow machine makes up for more ticks at once
 }
 
 TEST(LinuxRunLoop, TicksGoOnInALoopInsideACallback)
@@ -108,6 +112,50 @@ TEST(LinuxRunLoop, MissedTicksArePassedOver)
     EXPECT_TRUE(runUntil([&] { return fired == 1; }));
     runFor(50);
     EXPECT_EQ(fired, 1);
+}
+
+TEST(LinuxRunLoop, TicksComeOnTimeWhileSomebodyWantsThem)
+{
+    double now = 0;
+    LinuxRunLoop runLoop([&] { return now; });
+    std::string fired;
+    runLoop.scheduleRepeatingTimer(1000, 1000, [&] { fired += 'a'; });
+    runLoop.scheduleRepeatingTimer(2000, 0, [&] { fired += 'b'; });
+    now = 1500;
+    Punctuality wanted = runLoop.keepPunctual();
+    const Punctuality copy = wanted;
+    wanted = runLoop.keepPunctual();
+    EXPECT_TRUE(runUntil([&] { return fired == "a"; })); // at once
+    now = 2000;
+    wanted.reset();
+    EXPECT_TRUE(runUntil([&] { return fired == "aab"; }));
+    now = 3500;
+    wanted = runLoop.keepPunctual();
+    EXPECT_TRUE(runUntil([&] { return fired == "aaba"; }));
+}
+
+TEST(LinuxRunLoop, TicksMayBeLateAgainWhenNobodyWantsThemOnTime)
+{
+    double now = 0;
+    LinuxRunLoop runLoop([&] { return now; });
+    int fired = 0;
+    runLoop.scheduleRepeatingTimer(1000, 1000, [&] { ++fired; });
+    runLoop.scheduleRepeatingTimer(2000, 0, [] {});
+    runLoop.keepPunctual();
+    now = 1500;
+    runLoop.keepPunctual().reset();
+    runFor(20);
+    EXPECT_EQ(fired, 0);
+}
+
+TEST(LinuxRunLoop, AWishMayOutliveTheLoop)
+{
+    Punctuality wanted;
+    {
+        LinuxRunLoop runLoop;
+        wanted = runLoop.keepPunctual();
+    }
+    wanted.reset();
 }
 
 TEST(LinuxRunLoop, LettingGoOfTimerOrLoopIsSafe)
