@@ -41,7 +41,8 @@ public:
     /// the process is in the background. Nothing removes it; adding it again makes it be called once more.
     virtual void addObserver(const QString& name, NotificationCenter::Observer observer) = 0;
 
-    /// Sends `name` to every process that observes it, this one included.
+    /// Sends `name` to every process that observes it. This process's own observers are called before it
+    /// returns, once for each registration, also where no other process can be reached.
     virtual void post(const QString& name) = 0;
 };
 

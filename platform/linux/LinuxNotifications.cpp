@@ -30,6 +30,7 @@ void LinuxDistributedNotificationCenter::post(const QString& name)
 {
     openOnce();
     m_link.connection().send(QDBusMessage::createSignal(notificationPath, notificationInterface, name));
+    m_observers.post(name);
 }
 
 void LinuxDistributedNotificationCenter::openOnce()
@@ -51,7 +52,8 @@ void LinuxDistributedNotificationCenter::subscribe(QDBusConnection& connection, 
 
 void LinuxDistributedNotificationCenter::onNotification(const QDBusMessage& message)
 {
-    m_observers.post(message.member());
+    if (message.service() != m_link.connection().baseService()) // its own were heard when they were posted
+        m_observers.post(message.member());
 }
 
 void LinuxWorkspaceNotifications::addWillSleepObserver(NotificationCenter::Observer observer)

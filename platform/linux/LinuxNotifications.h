@@ -13,7 +13,8 @@ namespace quindle {
 
 /// Notifications between processes as signals on the session bus, without arguments: object
 /// /com/fernhollow/Quindle, interface com.fernhollow.Quindle.Notifications, member = the notification's name.
-/// A post comes back from the bus to this process like to any other; without a bus nothing is delivered.
+/// This process's own observers hear a post before it returns, with a bus or without one, and what comes back
+/// from the bus not again.
 class LinuxDistributedNotificationCenter : public QObject, public DistributedNotificationCenter
 {
     Q_OBJECT
@@ -27,7 +28,7 @@ public:
 
     void addObserver(const QString& name, NotificationCenter::Observer observer) override;
 
-    /// A name that is no D-Bus member name (letters, digits, underscores) is not sent.
+    /// A name that is no D-Bus member name (letters, digits, underscores) reaches this process only.
     void post(const QString& name) override;
 
 private Q_SLOTS:

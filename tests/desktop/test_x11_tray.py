@@ -4,7 +4,8 @@
 import time
 import unittest
 
-from helper_case import HelperCase, charge_step, machine, wait_for
+from helper_case import HELPER, HelperCase, charge_step, machine, wait_for
+from preferences_case import PreferencesCase
 
 ICON = (14, 14)
 
@@ -45,6 +46,32 @@ class X11Tray(HelperCase):
         self.desktop.kill_panel()
         self.desktop.start_panel()
         self.assertTrue(wait_for(lambda: self.picture() == before, 8), "the icon did not come back as it was")
+
+
+class WithoutASessionBus(PreferencesCase):
+    host = "tint2"
+
+    def picture(self):
+        return self.desktop.call("sh", "-c", "import -silent -window root -crop 28x28+0+0 rgb:- | md5sum")
+
+    def test_the_tray_follows_the_preferences_at_once(self):
+        process = self.desktop.start(HELPER, env={"QUINDLE_SYSFS": str(self.system),
+                                                  "DBUS_SESSION_BUS_ADDRESS": "unix:path=/nowhere"})
+        self.addCleanup(self.stop, process)
+        self.assertTrue(wait_for(self.desktop.windows, 8), "no icon in the tray")
+        time.sleep(1)
+        self.desktop.click(*ICON)
+        self.assertTrue(wait_for(lambda: len(self.desktop.windows()) > 1, 5), "no battery view appeared")
+        time.sleep(0.5)
+        for key in ("Up", "Up", "Up", "Return"):  # from the last entry of the menu to "Preferences..."
+            self.desktop.key(key)
+        self.assertTrue(wait_for(lambda: self.window("General"), 5), "no preferences")
+        time.sleep(1)
+        for number in range(3):
+            before = self.picture()
+            self.desktop.key("alt+i")
+            self.assertTrue(wait_for(lambda: self.picture() != before, 2), f"after switch {number} the icon stayed")
+            time.sleep(0.5)
 
 
 if __name__ == "__main__":
