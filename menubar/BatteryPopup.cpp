@@ -30,7 +30,8 @@ BatteryPopup::BatteryPopup(MainInterface& interface, const Application& applicat
     , m_application(application)
     , m_runLoop(runLoop)
 {
-    interface.statusMenu().setViewOpener([this] { toggle(); });
+    interface.statusMenu().setViewOpener([this] { open(); });
+    interface.statusMenu().setViewToggler([this] { toggle(); });
     interface.statusMenu().addObserver([popup = QPointer(this)](int id) {
         if (popup && popup->m_window)
             popup->m_window->updateEntry(id);
@@ -40,6 +41,7 @@ BatteryPopup::BatteryPopup(MainInterface& interface, const Application& applicat
 BatteryPopup::~BatteryPopup()
 {
     m_interface.statusMenu().setViewOpener({});
+    m_interface.statusMenu().setViewToggler({});
     delete m_window;
 }
 

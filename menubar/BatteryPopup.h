@@ -19,7 +19,7 @@ class BatteryPopup : public QObject
     Q_OBJECT
 
 public:
-    /// Becomes what opens the view of the interface's status menu. All must outlive it.
+    /// Becomes what opens and toggles the view of the interface's status menu. All must outlive it.
     BatteryPopup(MainInterface& interface, const Application& application, RunLoop& runLoop,
                  QObject* parent = nullptr);
     ~BatteryPopup() override;

@@ -47,6 +47,12 @@ void StatusMenu::openView() const
         m_viewOpener();
 }
 
+void StatusMenu::toggleView() const
+{
+    if (m_viewToggler)
+        m_viewToggler();
+}
+
 void StatusMenu::addObserver(std::function<void(int id)> changed)
 {
     m_observers.push_back(std::move(changed));

@@ -41,11 +41,16 @@ public:
     /// Does what choosing the row does; nothing for an unknown id or a row that cannot be chosen.
     void choose(int id) const;
 
-    /// Opens the battery view. Called for a click on the status item and for rows of kind OpenView.
+    /// Opens the battery view, or raises it where it is open. Called for rows of kind OpenView and for
+    /// further starts of the program.
     void openView() const;
 
-    /// Says what opens the battery view; until it is said, opening does nothing.
+    /// Opens the battery view, or closes it where it is open. Called for a click on the status item.
+    void toggleView() const;
+
+    /// Says what opens and what toggles the battery view; until it is said, neither does anything.
     void setViewOpener(std::function<void()> opener) { m_viewOpener = std::move(opener); }
+    void setViewToggler(std::function<void()> toggler) { m_viewToggler = std::move(toggler); }
 
     /// Calls `changed` with the id of each row whose text or visibility has changed.
     void addObserver(std::function<void(int id)> changed);
@@ -56,6 +61,7 @@ private:
 
     std::vector<Row> m_rows;
     std::function<void()> m_viewOpener;
+    std::function<void()> m_viewToggler;
     std::vector<std::function<void(int)>> m_observers;
 };
 

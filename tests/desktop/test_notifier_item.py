@@ -91,6 +91,25 @@ class NotifierItem(HelperCase):
         self.assert_title("66.0%")
         self.assertIsNone(first.poll())
 
+    def assert_view_stays(self, what):
+        time.sleep(1)
+        self.assertEqual(len(self.desktop.windows()), 1, what)
+
+    def test_only_a_click_on_the_item_closes_the_view(self):
+        self.start(machine(66))
+        self.assert_title("66.0%")
+        for what in ("the first", "another"):
+            self.desktop.choose("Show Battery...")
+            self.assert_view_opens()
+            self.assert_view_stays(f"after {what} \"Show Battery...\"")
+        for number in range(2):
+            self.assertEqual(self.start(machine(12), "second.plist").wait(5), 0)
+            self.assert_view_stays(f"after {number + 1} further starts")
+        self.desktop.activate_item()
+        self.assert_view_closes()
+        self.desktop.activate_item()
+        self.assert_view_opens()
+
     def test_quit_in_the_menu_ends_it(self):
         process = self.start(machine(66))
         self.assert_title("66.0%")

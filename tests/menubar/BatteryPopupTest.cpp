@@ -120,13 +120,13 @@ TEST_F(BatteryPopupTest, NothingExistsWhileClosed)
 {
     EXPECT_EQ(window(), nullptr);
     EXPECT_FALSE(popup.isOpen());
-    interface.statusMenu().openView();
+    interface.statusMenu().toggleView();
     EXPECT_TRUE(popup.isOpen());
-    interface.statusMenu().openView();
+    interface.statusMenu().toggleView();
     EXPECT_FALSE(popup.isOpen());
     deleteClosed();
     EXPECT_EQ(window(), nullptr);
-    interface.statusMenu().openView();
+    interface.statusMenu().toggleView();
     EXPECT_TRUE(popup.isOpen());
 }
 
@@ -148,6 +148,18 @@ TEST_F(BatteryPopupTest, TimersArePunctualWhileItIsOpen)
     press(window(), Qt::Key_Escape);
     deleteClosed();
     EXPECT_FALSE(computer.runLoop.isPunctual());
+}
+
+TEST_F(BatteryPopupTest, TheMenuOpensAndNeverCloses)
+{
+    for (int times = 0; times < 3; ++times) {
+        interface.statusMenu().openView();
+        EXPECT_TRUE(popup.isOpen());
+    }
+    pressMouse(window(), {-50, -50});
+    EXPECT_FALSE(popup.isOpen());
+    interface.statusMenu().openView();
+    EXPECT_TRUE(popup.isOpen()) << "it is no click on the item";
 }
 
 TEST_F(BatteryPopupTest, ShowsWhatTheModelsKnow)
@@ -303,7 +315,7 @@ TEST_F(BatteryPopupTest, TheClickThatClosedItDoesNotOpenItAgain)
 {
     pressMouse(open(), {-50, -50});
     EXPECT_FALSE(popup.isOpen());
-    interface.statusMenu().openView();
+    interface.statusMenu().toggleView();
     EXPECT_FALSE(popup.isOpen());
     popup.open();
     EXPECT_TRUE(popup.isOpen());

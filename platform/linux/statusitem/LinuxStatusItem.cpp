@@ -37,7 +37,7 @@ LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, StatusItemSurroundi
     , m_pictures(m_surroundings.iconsDirectory)
 {
     const NotifierItemAdaptor::Requests requests{
-        [this] { open(); },
+        [this] { toggleView(); },
         [this](const QString& token) { m_activationToken = token; },
     };
     m_labelledItem = new LabelledItemAdaptor(&m_itemObject, m_told, m_pictures, requests);
@@ -230,15 +230,15 @@ void LinuxStatusItem::watcherLost()
     m_tray->show(m_told, m_pictures);
 }
 
-void LinuxStatusItem::open()
+void LinuxStatusItem::toggleView()
 {
     // Afterwards: the host waits for the answer to its call.
-    const auto openView = [this] {
+    const auto toggle = [this] {
         useActivationToken();
         if (m_menu)
-            m_menu->openView();
+            m_menu->toggleView();
     };
-    QMetaObject::invokeMethod(this, openView, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, toggle, Qt::QueuedConnection);
 }
 
 void LinuxStatusItem::useActivationToken()

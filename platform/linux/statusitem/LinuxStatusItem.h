@@ -65,7 +65,7 @@ private:
     void watcherFound(const HostProcess& process);
     void watcherLost();
     void lookAtPanelAgain();
-    void open();
+    void toggleView();
     void useActivationToken();
 
     /// Everything that decides what hosts are told.

@@ -114,23 +114,23 @@ uint NotifierItemAdaptor::orderingIndex() const
 // Only hosts that cannot show the exported menu call this. The battery view has the menu's entries too.
 void NotifierItemAdaptor::ContextMenu(int /*x*/, int /*y*/)
 {
-    m_requests.open();
+    m_requests.clicked();
 }
 
 // Hosts give coordinates relative to screen, panel or widget, so they are of no use.
 void NotifierItemAdaptor::Activate(int /*x*/, int /*y*/)
 {
-    m_requests.open();
+    m_requests.clicked();
 }
 
 void NotifierItemAdaptor::SecondaryActivate(int /*x*/, int /*y*/)
 {
-    m_requests.open();
+    m_requests.clicked();
 }
 
 void NotifierItemAdaptor::XAyatanaSecondaryActivate(uint /*timestamp*/)
 {
-    m_requests.open();
+    m_requests.clicked();
 }
 
 void NotifierItemAdaptor::Scroll(int /*delta*/, const QString& /*orientation*/) {}

@@ -42,7 +42,7 @@ public:
     /// What a host can ask of the item.
     struct Requests
     {
-        std::function<void()> open;                          ///< the item was clicked
+        std::function<void()> clicked;                       ///< the item was clicked
         std::function<void(const QString&)> activationToken; ///< allows the next window to come to the front
     };
 

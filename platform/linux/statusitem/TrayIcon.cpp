@@ -80,7 +80,7 @@ void TrayIcon::activated(QSystemTrayIcon::ActivationReason reason)
     if (reason == QSystemTrayIcon::Context)
         openMenu();
     else if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::MiddleClick)
-        m_menu->openView();
+        m_menu->toggleView();
 }
 
 void TrayIcon::openMenu()

@@ -55,6 +55,7 @@ protected:
         menu.addRow({StatusMenu::Kind::Separator, {}, true, true, {}});
         menu.addRow({StatusMenu::Kind::Action, u("Quit_all"), true, true, [this] { ++chosen; }});
         menu.setViewOpener([this] { ++opened; });
+        menu.setViewToggler([this] { ++toggled; });
     }
 
     void makeItem(std::chrono::milliseconds registrationCheck = std::chrono::milliseconds(3000))
@@ -96,6 +97,7 @@ protected:
     QString choice;
     QString currentDesktop;
     int opened = 0;
+    int toggled = 0;
     int chosen = 0;
     std::unique_ptr<LinuxStatusItem> item;
 };
@@ -295,28 +297,29 @@ TEST_F(LinuxStatusItemTest, registersOnceWithAWatcherThatListsIt)
     EXPECT_EQ(host.registrations(), 1);
 }
 
-TEST_F(LinuxStatusItemTest, everyClickOpensTheView)
+TEST_F(LinuxStatusItemTest, everyClickTogglesTheView)
 {
     makeRegisteredItem();
     host.call(itemPath, itemInterface, "Activate", {10, 20});
-    EXPECT_TRUE(comesTrue([this] { return opened == 1; }));
+    EXPECT_TRUE(comesTrue([this] { return toggled == 1; }));
     host.call(itemPath, itemInterface, "SecondaryActivate", {10, 20});
-    EXPECT_TRUE(comesTrue([this] { return opened == 2; }));
+    EXPECT_TRUE(comesTrue([this] { return toggled == 2; }));
     host.call(itemPath, itemInterface, "XAyatanaSecondaryActivate", {1U});
-    EXPECT_TRUE(comesTrue([this] { return opened == 3; }));
+    EXPECT_TRUE(comesTrue([this] { return toggled == 3; }));
     host.call(itemPath, itemInterface, "ContextMenu", {10, 20});
-    EXPECT_TRUE(comesTrue([this] { return opened == 4; }));
+    EXPECT_TRUE(comesTrue([this] { return toggled == 4; }));
     EXPECT_EQ(host.call(itemPath, itemInterface, "Scroll", {120, u("vertical")}).type(),
               QDBusMessage::ReplyMessage);
-    EXPECT_EQ(opened, 4);
+    EXPECT_EQ(toggled, 4);
+    EXPECT_EQ(opened, 0);
 }
 
-TEST_F(LinuxStatusItemTest, activationTokenIsThereWhenTheViewOpens)
+TEST_F(LinuxStatusItemTest, activationTokenIsThereWhenTheViewIsToggled)
 {
     makeRegisteredItem();
     qunsetenv("XDG_ACTIVATION_TOKEN");
     QString token;
-    menu.setViewOpener([&token] { token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN"); });
+    menu.setViewToggler([&token] { token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN"); });
     host.call(itemPath, itemInterface, "ProvideXdgActivationToken", {u("token-1")});
     EXPECT_EQ(qEnvironmentVariable("XDG_ACTIVATION_TOKEN"), QString());
     host.call(itemPath, itemInterface, "Activate", {0, 0});
@@ -368,6 +371,7 @@ TEST_F(LinuxStatusItemTest, menuClicks)
     EXPECT_TRUE(comesTrue([this] { return opened == 1; }));
     EXPECT_EQ(qdbus_cast<QList<int>>(answer.arguments().value(0)), QList<int>{9});
     EXPECT_EQ(chosen, 1);
+    EXPECT_EQ(toggled, 0);
 }
 
 TEST_F(LinuxStatusItemTest, menuNeedsNoUpdateBeforeItIsShown)

@@ -49,6 +49,7 @@ void fill(StatusMenu& menu, const QString& title)
     menu.addRow({StatusMenu::Kind::Action, QStringLiteral("Snake_case & Co."), true, true, say("chosen")});
     menu.addRow({StatusMenu::Kind::Action, QStringLiteral("Disabled"), true, false, say("disabled")});
     menu.setViewOpener(say("view"));
+    menu.setViewToggler(say("view"));
 }
 
 } // namespace
