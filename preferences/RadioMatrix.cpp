@@ -1,8 +1,8 @@
 #include "preferences/RadioMatrix.h"
 
 #include <QBoxLayout>
-#include <QRadioButton>
-#include <QScopedValueRollback>
+
+#include "preferences/RadioCell.h"
 
 namespace quindle {
 
@@ -12,10 +12,7 @@ RadioMatrix::RadioMatrix(QWidget* parent)
     auto* line = new QBoxLayout(QBoxLayout::LeftToRight, this);
     line->setContentsMargins(0, 0, 0, 0);
     line->addStretch(1);
-    connect(&m_group, &QButtonGroup::idToggled, this, [this](int, bool selected) {
-        if (selected && !m_isFilling)
-            Q_EMIT clicked();
-    });
+    connect(&m_group, &QButtonGroup::idClicked, this, &RadioMatrix::clicked);
 }
 
 QStringList RadioMatrix::cells() const
@@ -33,7 +30,7 @@ void RadioMatrix::setCells(const QStringList& labels)
     setFocusPolicy(Qt::TabFocus); // without one it has no place in the tab order
     QWidget* previous = this;
     for (int tag = 0; tag < labels.size(); ++tag) {
-        auto* cell = new QRadioButton(labels[tag], this);
+        auto* cell = new RadioCell(labels[tag], this);
         m_group.addButton(cell, tag);
         line->insertWidget(tag, cell);
         setTabOrder(previous, cell); // labels may come when all other controls are there already
@@ -55,7 +52,6 @@ void RadioMatrix::setIsRow(bool isRow)
 
 void RadioMatrix::setSelectedTag(qint64 tag)
 {
-    const QScopedValueRollback filling(m_isFilling, true);
     m_group.setExclusive(false); // an exclusive group refuses to have no cell selected
     for (QAbstractButton* cell : m_group.buttons())
         cell->setChecked(m_group.id(cell) == tag);

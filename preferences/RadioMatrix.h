@@ -30,12 +30,11 @@ public:
     void setSelectedTag(qint64 tag);
 
 Q_SIGNALS:
-    /// The user has selected another cell, by a click or through an assistive technology.
+    /// The user has chosen a cell in whatever way, also the one that was selected already.
     void clicked();
 
 private:
     QButtonGroup m_group;
-    bool m_isFilling = false;
 };
 
 } // namespace quindle

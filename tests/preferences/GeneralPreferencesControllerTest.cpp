@@ -126,6 +126,8 @@ TEST_F(GeneralPreferencesControllerTest, StoresTheUnit)
         EXPECT_EQ(stored(QLatin1StringView("temperatureSettingIndex")), QVariant(tag));
         expectAnnouncedOnce("unit");
     }
+    cells[0]->click();
+    expectAnnouncedOnce("the unit there is, chosen again");
     EXPECT_TRUE(standard().isEmpty());
 }
 
