@@ -74,7 +74,7 @@ class RecordedMachine : public HelperServices
 public:
     explicit RecordedMachine(const Machine& machine)
         : m_steps(machine.steps)
-        , m_recorded(machine.keys, m_programBundle)
+        , m_recorded(machine.keys, m_programBundle, machine.file)
         , m_urlSession(m_recorded.computer, m_recorded.urlSession, m_programBundle)
         , m_statusBar(surroundings(m_programBundle, m_recorded.userDefaults))
         , m_platform(platform())

@@ -40,13 +40,20 @@ QString ageModeKey()
     return QStringLiteral("QDBatteryAgeMode");
 }
 
+[[noreturn]] void endForStoredMode(const UserDefaults& defaults, const QString& key, qint64 number)
+{
+    const QString file = defaults.file();
+    const QString place = file.isEmpty() ? key : file + QStringLiteral(": ") + key;
+    fatalError(QString(place + QStringLiteral(": %1 is none of 0, 1 and 2").arg(number)));
+}
+
 /// The mode stored under `key`; the stored number must be one of the mode's three.
 template <typename Mode>
 Mode storedMode(const UserDefaults& defaults, const QString& key)
 {
     const qint64 number = defaults.integer(key);
     if (number < 0 || number > 2)
-        fatalError(QString(key + QStringLiteral(" is stored out of range")));
+        endForStoredMode(defaults, key, number);
     return static_cast<Mode>(number);
 }
 

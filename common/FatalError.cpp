@@ -1,5 +1,6 @@
 #include "common/FatalError.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -9,7 +10,11 @@ namespace quindle {
 
 void fatalError(QStringView message)
 {
-    std::fprintf(stderr, "quindle: fatal: %s\n", message.toUtf8().constData());
+    QString line = message.toString();
+    // Names of files are anybody's text, the message stays one line.
+    std::replace_if(
+        line.begin(), line.end(), [](QChar c) { return c < u' '; }, u' ');
+    std::fprintf(stderr, "quindle: fatal: %s\n", line.toUtf8().constData());
     std::abort();
 }
 

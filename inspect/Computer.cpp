@@ -46,7 +46,7 @@ std::variant<std::unique_ptr<Computer>, MachineRefusal> Computer::open(const Com
 Computer::Computer(Machine machine, const CommandLine& commandLine)
     : m_machine(std::move(machine))
     , m_linux(commandLine.sysfsDirectory, SettingsAccess::ReadOnly)
-    , m_recorded(m_machine.keys, m_linux.bundle())
+    , m_recorded(m_machine.keys, m_linux.bundle(), m_machine.file)
     , m_settings(isRecorded(commandLine) ? static_cast<UserDefaultsDatabases&>(m_recorded.userDefaults)
                                          : m_linux.userDefaults())
     , m_platform(isRecorded(commandLine) ? recordedComputer(isFollowed(commandLine))

@@ -21,6 +21,9 @@ public:
     /// Everything that is stored.
     virtual QVariantMap dictionaryRepresentation() const = 0;
 
+    /// The file that the values are in, for messages; empty when they are in none.
+    virtual QString file() const = 0;
+
     /// The stored value as an integer, converted as `integerFromObject` does; 0 when there is none.
     qint64 integer(const QString& key) const;
 

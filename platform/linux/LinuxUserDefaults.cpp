@@ -168,6 +168,11 @@ void LinuxUserDefaults::setObject(const QString& key, const QVariant& value)
     m_writeFailure = failure;
 }
 
+QString LinuxUserDefaults::file() const
+{
+    return QFile::decodeName(m_file.path());
+}
+
 QString LinuxUserDefaults::store(const QString& key, const QVariant& value)
 {
     const QByteArray xml = xmlPropertyList(value);

@@ -30,6 +30,8 @@ public:
 
     QVariantMap dictionaryRepresentation() const override;
 
+    QString file() const override;
+
 private:
     void refresh() const;
     bool setAside() const;

@@ -290,7 +290,7 @@ MachineResult machineFromPropertyList(const QVariant& root, const QString& path)
 {
     if (!isDictionary(root))
         return refusal(path, QStringLiteral("must be a dictionary"));
-    Machine machine{root.toMap(), {}};
+    Machine machine{root.toMap(), {}, path};
     if (const Verdict fault = checkMachine(machine.keys))
         return refusal(path, fault->inside + QStringLiteral(": ") + fault->reason);
     const QDir folder = QFileInfo(path).absoluteDir();

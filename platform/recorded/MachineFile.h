@@ -40,6 +40,7 @@ struct Machine
 {
     QVariantMap keys;
     std::vector<MachineStep> steps;
+    QString file = {}; ///< as it was named; empty for an invented computer
 };
 
 /// Why a file is no machine file: one line, "FILE: KEY: reason", with keys inside others as in

@@ -19,6 +19,7 @@ public:
     QVariant object(const QString& key) const override;
     void setObject(const QString& key, const QVariant& value) override;
     QVariantMap dictionaryRepresentation() const override;
+    QString file() const override { return m_below.file(); }
 
 private:
     UserDefaults& m_below;

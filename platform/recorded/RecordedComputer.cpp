@@ -52,8 +52,9 @@ std::optional<QVariantMap> entryOf(const std::optional<QVariantMap>& map, const 
 
 } // namespace
 
-RecordedComputer::RecordedComputer(QVariantMap keys)
+RecordedComputer::RecordedComputer(QVariantMap keys, QString machineFile)
     : m_keys(std::move(keys))
+    , m_machineFile(std::move(machineFile))
 {
 }
 

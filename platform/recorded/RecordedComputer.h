@@ -14,8 +14,11 @@ namespace quindle {
 class RecordedComputer
 {
 public:
-    /// `keys` are those of a checked `Machine`.
-    explicit RecordedComputer(QVariantMap keys);
+    /// `keys` are those of a checked `Machine`, `machineFile` is its file.
+    explicit RecordedComputer(QVariantMap keys, QString machineFile = {});
+
+    /// As it was named when it was read; empty for an invented computer.
+    const QString& machineFile() const { return m_machineFile; }
 
     /// Brings in a later state: takes out what the step removes, then lays its registry and settings over the
     /// present ones property by property and replaces every other key whole. Its actions are not played.
@@ -58,6 +61,7 @@ private:
     std::optional<QVariantMap> dictionary(const QString& key) const;
 
     QVariantMap m_keys;
+    QString m_machineFile;
 };
 
 } // namespace quindle

@@ -2,8 +2,9 @@
 
 namespace quindle {
 
-RecordedPlatform::RecordedPlatform(const QVariantMap& machineKeys, const Bundle& programBundle)
-    : computer(machineKeys)
+RecordedPlatform::RecordedPlatform(const QVariantMap& machineKeys, const Bundle& programBundle,
+                                   const QString& machineFile)
+    : computer(machineKeys, machineFile)
     , registry(computer)
     , powerSources(computer)
     , userDefaults(computer)

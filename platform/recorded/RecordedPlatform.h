@@ -24,8 +24,10 @@ namespace quindle {
 /// real tray, a real run loop) takes the others out of `platform()`.
 struct RecordedPlatform
 {
-    /// `programBundle` answers where the machine file has no bundle; it must outlive this.
-    RecordedPlatform(const QVariantMap& machineKeys, const Bundle& programBundle);
+    /// `programBundle` answers where the machine file has no bundle; it must outlive this. `machineFile` as
+    /// for RecordedComputer.
+    RecordedPlatform(const QVariantMap& machineKeys, const Bundle& programBundle,
+                     const QString& machineFile = {});
 
     RecordedPlatform(const RecordedPlatform&) = delete;
     RecordedPlatform& operator=(const RecordedPlatform&) = delete;

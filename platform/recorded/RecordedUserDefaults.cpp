@@ -27,6 +27,11 @@ QVariantMap RecordedUserDefaults::dictionaryRepresentation() const
     return m_computer.database(m_name);
 }
 
+QString RecordedUserDefaults::file() const
+{
+    return m_computer.machineFile();
+}
+
 RecordedUserDefaultsDatabases::RecordedUserDefaultsDatabases(RecordedComputer& computer)
     : m_computer(computer)
     , m_standard(computer, QStringLiteral("standard"))

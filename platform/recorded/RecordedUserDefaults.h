@@ -15,6 +15,7 @@ public:
     QVariant object(const QString& key) const override;
     void setObject(const QString& key, const QVariant& value) override;
     QVariantMap dictionaryRepresentation() const override;
+    QString file() const override; ///< the machine file
 
 private:
     RecordedComputer& m_computer;

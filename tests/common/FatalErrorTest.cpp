@@ -10,6 +10,7 @@ TEST(FatalErrorDeathTest, WritesOneLineAndAborts)
 {
     EXPECT_EXIT(fatalError(u"it is °broken"), testing::KilledBySignal(SIGABRT),
                 "^quindle: fatal: it is °broken\n$");
+    EXPECT_DEATH(fatalError(u"/home/a\nb: broken"), "^quindle: fatal: /home/a b: broken\n$");
 }
 
 } // namespace

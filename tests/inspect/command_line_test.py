@@ -4,6 +4,7 @@ import datetime
 import json
 import os
 import plistlib
+import signal
 import stat
 import subprocess
 import sys
@@ -75,6 +76,23 @@ class CommandLine(unittest.TestCase):
         result = self.run_program("--json", "--machine", "/nonexistent/x.plist")
         self.assertEqual((result.returncode, result.stdout), (2, ""))
         self.assertIn("/nonexistent/x.plist", result.stderr)
+
+    def assert_mode_is_fatal(self, key, value, file, *arguments):
+        result = self.run_program("--json", *arguments)
+        self.assertEqual((result.returncode, result.stdout), (-signal.SIGABRT, ""))
+        self.assertEqual(result.stderr, f"quindle: fatal: {file}: {key}: {value} is none of 0, 1 and 2\n")
+
+    def test_a_stored_mode_out_of_range_names_file_key_and_value(self):
+        for key, value in (("QDBatteryAgeMode", 7), ("QDBatteryTemperatureMode", -1)):
+            with open(self.machine, "wb") as file:
+                plistlib.dump(MACHINE | {"Defaults": {"standard": {key: value}}}, file)
+            self.assert_mode_is_fatal(key, value, self.machine, "--machine", self.machine)
+        os.mkdir(self.path("quindle"))
+        settings = self.path("quindle/com.fernhollow.Quindle-Helper.plist")
+        with open(settings, "wb") as file:
+            plistlib.dump({"QDBatteryTemperatureMode": 3}, file)
+        os.makedirs(self.path("sys/class/power_supply"))
+        self.assert_mode_is_fatal("QDBatteryTemperatureMode", 3, settings, "--sysfs", self.path("sys"))
 
     def test_machine_from_the_environment(self):
         by_variable = self.run_program("--json", QUINDLE_MACHINE=self.machine)

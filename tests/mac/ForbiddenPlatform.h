@@ -54,6 +54,7 @@ class ForbiddenPlatform
         }
         void setObject(const QString&, const QVariant&) override { refuse("a write of settings"); }
         QVariantMap dictionaryRepresentation() const override { return refuse<QVariantMap>("all settings"); }
+        QString file() const override { return refuse<QString>("the file of settings"); }
     };
 
     struct Databases : UserDefaultsDatabases

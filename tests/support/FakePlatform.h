@@ -82,6 +82,7 @@ public:
     QVariant object(const QString& key) const override { return values.value(key); }
     void setObject(const QString& key, const QVariant& value) override;
     QVariantMap dictionaryRepresentation() const override { return values; }
+    QString file() const override { return {}; }
 };
 
 class FakeUserDefaultsDatabases : public UserDefaultsDatabases
