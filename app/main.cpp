@@ -10,6 +10,7 @@
 #include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "app/HelperServices.h"
+#include "app/OlderSettings.h"
 #include "mac/QDMac.h"
 #include "menubar/BatteryPopup.h"
 #include "menubar/MainInterface.h"
@@ -38,6 +39,7 @@ bool hasDisplay()
 int run(QApplication& application, HelperServices& services, SingleInstance& instance)
 {
     const Platform platform = services.platform();
+    copyTextParkedByOlderHelper(platform.userDefaults);
     MainInterface interface;
     BatteryPopup popup(interface, platform.application, platform.runLoop);
     ApplicationPreferences& settings = ApplicationPreferences::sharedInstance(&platform);

@@ -5,7 +5,6 @@
 
 #include "app/ApplicationPreferences.h"
 #include "common/NumberConversion.h"
-#include "menubar/TitleTemplate.h"
 #include "platform/Bundle.h"
 #include "platform/LoginItems.h"
 #include "platform/UserDefaults.h"
@@ -21,11 +20,6 @@ constexpr qint64 iconsShown = 1;
 QString autoUploadBatteryDataKey()
 {
     return QStringLiteral("autoUploadBatteryData");
-}
-
-QString menuBarSettingKey()
-{
-    return QStringLiteral("customMenuBarSettingSelectedIndex");
 }
 
 QString presentationKey()
@@ -62,9 +56,6 @@ QString BoundSettings::customStatusBar() const
 void BoundSettings::setCustomStatusBar(const QString& value)
 {
     m_preferences.setCustomStatusBar(value);
-    // Whoever writes a text wants to see it, so the standard title is not chosen any more.
-    if (menuBarSetting() == standardTitleRow && customStatusBar() != defaultTitleTemplate())
-        m_standardDefaults.setInteger(menuBarSettingKey(), customTextRow);
     Q_EMIT changed();
 }
 
@@ -131,13 +122,20 @@ qint64 BoundSettings::menuBarSetting() const
     return row == customTextRow ? customTextRow : standardTitleRow;
 }
 
+qint64 BoundSettings::shownMenuBarSetting() const
+{
+    return rowInForce(menuBarSetting(), customStatusBar());
+}
+
 void BoundSettings::setMenuBarSetting(qint64 row)
 {
+    const qint64 before = menuBarSetting();
     m_standardDefaults.setInteger(menuBarSettingKey(), row);
-    const MenuBarTexts texts{m_preferences.customStatusBar(), m_preferences.statusBarString()};
-    const MenuBarTexts next = textsAfterChoosing(row, texts);
-    if (next.statusBarString != texts.statusBarString) // first: the user's text is never nowhere
-        m_preferences.setStatusBarString(next.statusBarString);
+    const MenuBarTexts texts{m_preferences.customStatusBar(),
+                             convertToText(m_standardDefaults.object(parkedTextKey()))};
+    const MenuBarTexts next = textsAfterChoosing(before, row, texts);
+    if (next.parked && next.parked != texts.parked) // first: the user's text is never nowhere
+        m_standardDefaults.setObject(parkedTextKey(), *next.parked);
     if (next.customStatusBar != texts.customStatusBar)
         m_preferences.setCustomStatusBar(next.customStatusBar);
     Q_EMIT changed();

@@ -22,7 +22,7 @@ class BoundSettings : public QObject
     Q_PROPERTY(bool autoUpload READ autoUpload NOTIFY changed)
     Q_PROPERTY(bool autoUploadBatteryData READ autoUploadBatteryData NOTIFY changed)
     Q_PROPERTY(bool startsAtLogin READ startsAtLogin NOTIFY changed)
-    Q_PROPERTY(qint64 menuBarSetting READ menuBarSetting NOTIFY changed)
+    Q_PROPERTY(qint64 shownMenuBarSetting READ shownMenuBarSetting NOTIFY changed)
     Q_PROPERTY(qint64 statusItemPresentation READ statusItemPresentation NOTIFY changed)
 
 public:
@@ -61,10 +61,14 @@ public:
     /// Switches the login item that is known by the helper's identifier.
     void setStartsAtLogin(bool value);
 
-    /// 1 when the title is the user's own text, that is when exactly the number 1 is stored; otherwise 0.
+    /// 1 when the user's own text was chosen as the title, that is when exactly the number 1 is stored;
+    /// otherwise 0.
     qint64 menuBarSetting() const;
 
-    /// Stores the row, and the template that goes with it.
+    /// The row of what is in force: a text that was written elsewhere counts as the user's own.
+    qint64 shownMenuBarSetting() const;
+
+    /// Stores the row, and the template that goes with it. For the window of the menu bar text alone.
     void setMenuBarSetting(qint64 row);
 
     /// How the status item looks: 0 as it suits the panel, 1 label, 2 wide picture, 3 icon.

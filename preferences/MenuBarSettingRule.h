@@ -10,18 +10,27 @@ namespace quindle {
 constexpr qint64 standardTitleRow = 0;
 constexpr qint64 customTextRow = 1;
 
+/// Where the helper's own database holds the chosen row, which only the window of the menu bar text writes,
+/// and the user's own text while the standard title is shown.
+QString menuBarSettingKey();
+QString parkedTextKey();
+
 /// The title's template, and the one that is kept while the standard title is shown.
 struct MenuBarTexts
 {
     QString customStatusBar;
-    std::optional<QString> statusBarString;
+    std::optional<QString> parked;
 
     friend bool operator==(const MenuBarTexts&, const MenuBarTexts&) = default;
 };
 
-/// The texts after a row was chosen. The standard row keeps the user's own template and shows the default
-/// one; any other row puts the kept one back unless there is another of the user's own by then, so that no
-/// text is lost that was written elsewhere.
-MenuBarTexts textsAfterChoosing(qint64 row, const MenuBarTexts& texts);
+/// The texts after `row` was chosen where `before` was stored. The standard row parks the user's own template
+/// and shows the default one. Any other row after the standard one puts the parked one back unless there is
+/// another of the user's own by then, so that no text is lost that was written elsewhere.
+MenuBarTexts textsAfterChoosing(qint64 before, qint64 row, const MenuBarTexts& texts);
+
+/// The row to show as selected: the one of what is in force. A template that was written elsewhere is a
+/// custom text, whatever row is stored.
+qint64 rowInForce(qint64 stored, const QString& customStatusBar);
 
 } // namespace quindle

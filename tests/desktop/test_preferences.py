@@ -152,6 +152,34 @@ class MenuBarText(PreferencesCase):
         self.assert_title("12 cycles")
         self.assertEqual(self.count(), 0, "this window announces nothing")
 
+    def test_the_selected_row_is_chosen_in_four_ways(self):
+        row = "customMenuBarSettingSelectedIndex"
+        self.assertIsNone(self.stored(row, OWN))
+        for choose in (lambda: self.click("radio button", "Standard title"), lambda: self.desktop.key("space"),
+                       lambda: self.desktop.key("alt+s"), lambda: self.act("radio button", "Standard title")):
+            choose()
+            self.assert_stored(row, 0, OWN)
+            self.assert_checked("radio button", "Standard title")
+            self.store(OWN, {})
+
+    def test_a_text_written_in_the_other_window_is_shown_as_selected(self):
+        self.open("Preferences...", "General")
+        self.type("%l cycles")
+        self.desktop.key("Return")
+        self.assert_title("12 cycles")
+        self.assert_checked("radio button", "Custom text")
+        self.assertNotIn("enabled", self.control("text", "Custom menu bar text")["states"])
+        self.assertIsNone(self.stored("customMenuBarSettingSelectedIndex", OWN))
+        self.act("radio button", "Custom text")
+        self.assert_stored("customMenuBarSettingSelectedIndex", 1, OWN)
+        self.assertTrue(wait_for(lambda: "enabled" in self.control("text", "Custom menu bar text")["states"], 5))
+        self.act("radio button", "Standard title")
+        self.assert_title("66.0%")
+        self.assert_stored("parkedCustomStatusBar", "%l cycles", OWN)
+        self.assertIsNone(self.stored("statusBarString", OWN))
+        self.act("radio button", "Custom text")
+        self.assert_title("12 cycles")
+
     def test_upload_mark_permits_nothing(self):
         self.click("check box", "Mark battery data for automatic upload")
         self.assert_stored("autoUploadBatteryData", 1, OWN)
@@ -187,6 +215,16 @@ class MenuBarText(PreferencesCase):
         self.announce()
         self.assertTrue(wait_for(lambda: [node["text"] for node in nodes(self.tree()) if node["role"] == "text"]
                                  == ["other", "other"], 5))
+
+
+class OlderHelper(PreferencesCase):
+    def test_the_text_that_it_parked_comes_back(self):
+        self.store(OWN, {"customMenuBarSettingSelectedIndex": 0, "statusBarString": "%l cycles"})
+        self.start_helper()
+        self.open("Menu Bar Text...", "Menu Bar Text")
+        self.click("radio button", "Custom text")
+        self.assert_title("12 cycles")
+        self.assert_stored("statusBarString", "%l cycles", OWN)
 
 
 class Frame(PreferencesCase):

@@ -70,18 +70,54 @@ TEST_F(BoundMenuBarSettingsTest, standardTitleKeepsTheTextUntilItIsWantedAgain)
     settings.setCustomStatusBar(u("%w W"));
     settings.setMenuBarSetting(0);
     EXPECT_EQ(settings.customStatusBar(), u("%p%"));
-    EXPECT_EQ(fixture.standard().value(u("statusBarString")), QVariant(u("%w W")));
+    EXPECT_EQ(fixture.standard().value(u("parkedCustomStatusBar")), QVariant(u("%w W")));
     settings.setMenuBarSetting(1);
     EXPECT_EQ(fixture.suite().value(u("customStatusBar")), QVariant(u("%w W")));
+    EXPECT_FALSE(fixture.standard().contains(u("statusBarString")));
 }
 
-TEST_F(BoundMenuBarSettingsTest, aTextWrittenElsewhereIsTheOwnText)
+TEST_F(BoundMenuBarSettingsTest, aTextWrittenElsewhereIsParkedToo)
 {
     settings.setCustomStatusBar(u("%w W"));
-    EXPECT_EQ(settings.menuBarSetting(), 1);
     settings.setMenuBarSetting(0);
+    EXPECT_EQ(settings.customStatusBar(), u("%p%"));
+    EXPECT_EQ(fixture.standard().value(u("parkedCustomStatusBar")), QVariant(u("%w W")));
+}
+
+TEST_F(BoundMenuBarSettingsTest, noPaneReadsOrWritesTheMainApplicationsText)
+{
+    fixture.standard() = {{u("statusBarString"), u("theirs")}};
+    settings.setMenuBarSetting(1);
+    EXPECT_EQ(settings.customStatusBar(), u("%p%"));
+    settings.setCustomStatusBar(u("%w W"));
+    settings.setMenuBarSetting(0);
+    EXPECT_EQ(fixture.standard().value(u("statusBarString")), QVariant(u("theirs")));
+}
+
+TEST_F(BoundMenuBarSettingsTest, theOwnTextComesBackOnlyAfterTheStandardTitle)
+{
+    fixture.standard() = {{u("parkedCustomStatusBar"), u("%w W")}};
+    settings.setMenuBarSetting(1);
+    EXPECT_EQ(settings.customStatusBar(), u("%w W"));
+    settings.setCustomStatusBar(u("%p%")); // put back to the default elsewhere
+    settings.setMenuBarSetting(1);
+    EXPECT_EQ(settings.customStatusBar(), u("%p%"));
+    settings.setMenuBarSetting(0);
+    settings.setMenuBarSetting(1);
+    EXPECT_EQ(settings.customStatusBar(), u("%w W"));
+}
+
+TEST_F(BoundMenuBarSettingsTest, theRowOfTheTextInForceIsShown)
+{
+    EXPECT_EQ(settings.shownMenuBarSetting(), 0);
+    settings.setCustomStatusBar(u("%w W"));
+    EXPECT_EQ(settings.shownMenuBarSetting(), 1);
+    EXPECT_EQ(settings.menuBarSetting(), 0) << "nobody chose it in the window";
+    EXPECT_TRUE(fixture.standard().isEmpty());
     settings.setCustomStatusBar(u("%p%"));
-    EXPECT_EQ(settings.menuBarSetting(), 0) << "that is the standard title";
+    EXPECT_EQ(settings.shownMenuBarSetting(), 0);
+    settings.setMenuBarSetting(1);
+    EXPECT_EQ(settings.shownMenuBarSetting(), 1) << "an own text that says the same as the standard title";
 }
 
 TEST_F(BoundMenuBarSettingsTest, temperatureOfTitleAndViewWritesBothKeys)

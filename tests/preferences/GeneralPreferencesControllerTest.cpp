@@ -140,6 +140,7 @@ TEST_F(GeneralPreferencesControllerTest, StoresTheTextAtReturn)
     EXPECT_EQ(pane->preview(), QStringLiteral("293"));
     test::pressKey(pane->field(), Qt::Key_Return);
     EXPECT_EQ(stored(QLatin1StringView("customStatusBar")), QVariant(QStringLiteral("%l")));
+    EXPECT_TRUE(standard().isEmpty()) << "the title's setting is another window's";
     expectAnnouncedOnce("return");
     pane->icons().setFocus();
     EXPECT_TRUE(posted().isEmpty());

@@ -47,7 +47,7 @@ TEST_F(HelperPreferencesBindingsTest, everyKeyPathResolves)
     const SettingsBinder binder(helper->window(), settings);
     EXPECT_EQ(binder.unresolved(), QStringList());
     EXPECT_EQ(binder.paths(), (QStringList{latin("autoUploadBatteryData"), latin("customStatusBar"),
-                                           latin("menuBarSetting"), latin("showsIconsInMenuBar"),
+                                           latin("shownMenuBarSetting"), latin("showsIconsInMenuBar"),
                                            latin("startsAtLogin"), latin("temperatureSettingIndex")}));
 }
 
@@ -129,6 +129,52 @@ TEST_F(HelperPreferencesBindingsTest, standardTitleIsShownAndTheOwnTextComesBack
     EXPECT_EQ(field().text(), latin("%w W"));
 }
 
+TEST_F(HelperPreferencesBindingsTest, choosingTheSelectedRowRunsItsAction)
+{
+    helper->showWindow();
+    cell("menuBarSettingGroup", 0).click();
+    EXPECT_EQ(title.calls, QStringList(latin("title")));
+    EXPECT_EQ(standard().value(latin("customMenuBarSettingSelectedIndex")), QVariant(qint64{0}));
+    cell("menuBarSettingGroup", 1).click();
+    cell("menuBarSettingGroup", 1).click();
+    EXPECT_EQ(title.calls, QStringList(3, latin("title")));
+    title.calls.clear();
+    cell("temperatureMatrix", 0).click();
+    EXPECT_EQ(title.calls, (QStringList{latin("battery"), latin("title")}));
+}
+
+TEST_F(HelperPreferencesBindingsTest, aTextInForceIsShownAsSelectedAndStoresNothing)
+{
+    suite()[latin("customStatusBar")] = latin("%w W");
+    helper->showWindow();
+    EXPECT_EQ(control<RadioMatrix>("menuBarSettingGroup").selectedTag(), 1);
+    EXPECT_FALSE(field().isEnabled()) << "it was not chosen here";
+    suite()[latin("customStatusBar")] = latin("%p%");
+    settings.reload();
+    EXPECT_EQ(control<RadioMatrix>("menuBarSettingGroup").selectedTag(), 0);
+    suite()[latin("customStatusBar")] = latin("%w W");
+    settings.reload();
+    EXPECT_EQ(control<RadioMatrix>("menuBarSettingGroup").selectedTag(), 1);
+    EXPECT_TRUE(standard().isEmpty());
+    EXPECT_TRUE(title.calls.isEmpty());
+    cell("menuBarSettingGroup", 1).click();
+    EXPECT_EQ(standard().value(latin("customMenuBarSettingSelectedIndex")), QVariant(qint64{1}));
+    EXPECT_TRUE(field().isEnabled());
+    EXPECT_EQ(field().text(), latin("%w W"));
+}
+
+TEST_F(HelperPreferencesBindingsTest, theMainApplicationsTextIsLeftAlone)
+{
+    standard() = {{latin("statusBarString"), latin("theirs")}};
+    suite()[latin("customStatusBar")] = latin("%w W");
+    showCustomText();
+    cell("menuBarSettingGroup", 0).click();
+    EXPECT_EQ(standard().value(latin("statusBarString")), QVariant(latin("theirs")));
+    cell("menuBarSettingGroup", 1).click();
+    EXPECT_EQ(field().text(), latin("%w W"));
+    EXPECT_EQ(standard().value(latin("statusBarString")), QVariant(latin("theirs")));
+}
+
 TEST_F(HelperPreferencesBindingsTest, enterStoresTheTextAndUpdatesTheTitleOnce)
 {
     showCustomText();
@@ -177,7 +223,7 @@ TEST_F(HelperPreferencesBindingsTest, choosingTheStandardTitleKeepsTheTextThatWa
     type("%l cycles");
     cell("menuBarSettingGroup", 0).setFocus(Qt::MouseFocusReason);
     cell("menuBarSettingGroup", 0).click();
-    EXPECT_EQ(standard().value(latin("statusBarString")), QVariant(latin("%l cycles")));
+    EXPECT_EQ(standard().value(latin("parkedCustomStatusBar")), QVariant(latin("%l cycles")));
     EXPECT_EQ(suite().value(latin("customStatusBar")), QVariant(latin("%p%")));
     EXPECT_EQ(field().text(), latin("%p%"));
 }

@@ -1,0 +1,41 @@
+#include "app/OlderSettings.h"
+
+#include <QLoggingCategory>
+
+#include "common/NumberConversion.h"
+#include "menubar/TitleTemplate.h"
+#include "platform/UserDefaults.h"
+#include "preferences/MenuBarSettingRule.h"
+
+namespace quindle {
+
+namespace {
+
+Q_LOGGING_CATEGORY(olderSettingsLog, "quindle.settings")
+
+/// An older helper that parked a text stored the standard row and wrote the default template in its place; by
+/// itself neither of them is stored.
+bool hasParkedByOlderHelper(const UserDefaults& standard, const UserDefaults& suite)
+{
+    const auto row = convertToInteger(standard.object(menuBarSettingKey()));
+    const QVariant shown = suite.object(QStringLiteral("customStatusBar"));
+    return row && row != customTextRow && convertToText(shown) == defaultTitleTemplate() &&
+           !standard.object(parkedTextKey()).isValid();
+}
+
+} // namespace
+
+void copyTextParkedByOlderHelper(UserDefaultsDatabases& databases)
+{
+    UserDefaults& standard = databases.standard();
+    const UserDefaults* suite = databases.suite(QStringLiteral("group.fernhollow.Quindle"));
+    if (!suite || !hasParkedByOlderHelper(standard, *suite))
+        return;
+    const auto parked = convertToText(standard.object(QStringLiteral("statusBarString")));
+    if (!parked)
+        return;
+    standard.setObject(parkedTextKey(), *parked);
+    qCInfo(olderSettingsLog) << "the menu bar text of an older helper is copied from statusBarString";
+}
+
+} // namespace quindle

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace quindle {
+
+class UserDefaultsDatabases;
+
+/// Copies the menu bar text that an older helper parked in a key of the main application's,
+/// "statusBarString", to where it is looked for now. Takes nothing away, and copies only what such a helper
+/// must have left: the standard title is chosen and written down, and nothing is parked in the right place
+/// yet.
+void copyTextParkedByOlderHelper(UserDefaultsDatabases& databases);
+
+} // namespace quindle
