@@ -4,11 +4,11 @@
 #include <sys/stat.h>
 
 #include <QDBusError>
-#include <QFile>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
 #include <QLoggingCategory>
 
+#include "common/Paths.h"
 #include "platform/linux/BusAddress.h"
 
 namespace quindle {
@@ -31,7 +31,7 @@ QString usualName(QDBusConnection::BusType type)
 quint64 inodeOf(const QString& path)
 {
     struct stat found = {};
-    return ::stat(QFile::encodeName(path).constData(), &found) == 0 ? found.st_ino : 0;
+    return ::stat(pathBytes(path).constData(), &found) == 0 ? found.st_ino : 0;
 }
 
 } // namespace

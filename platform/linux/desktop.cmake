@@ -5,6 +5,7 @@ target_sources(quindle_platform_linux PRIVATE
     BusLink.cpp
     BusLink.h
     DesktopEntry.cpp
+    DetachedProcess.cpp
     EndOfProcess.cpp
     FileLock.cpp
     FileReplacement.cpp
@@ -15,8 +16,10 @@ target_sources(quindle_platform_linux PRIVATE
     LinuxRunLoop.cpp
     LinuxUserDefaults.cpp
     LinuxUserDirectories.cpp
+    ProgramFile.cpp
     PropertyListFile.cpp
     SingleInstance.cpp
     TimerSchedule.cpp
+    UserFolders.cpp
     X11Desktop.cpp
 )
