@@ -19,6 +19,8 @@
 #include "platform/Bundle.h"
 #include "platform/linux/LinuxInstallationSource.h"
 #include "platform/linux/SingleInstance.h"
+#include "platform/linux/StandardError.h"
+#include "platform/linux/StartDeadline.h"
 #include "platform/recorded/MachineFile.h"
 #include "preferences/PreferencesWindows.h"
 
@@ -31,7 +33,7 @@ constexpr int wrongUsage = 2;
 
 int fail(const QString& line, int status)
 {
-    std::fprintf(stderr, "quindle-helper: %s\n", pathBytes(line).constData());
+    printToStandardError("quindle-helper: " + pathBytes(line));
     return status;
 }
 
@@ -65,6 +67,10 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
                      [&preferences] { preferences.refresh(); });
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      &HelperAppDelegate::applicationWillTerminate);
+    instance.setTakenByAnother([&application] {
+        fail(QStringLiteral("another one is on the session bus that came"), 0);
+        application.quit();
+    });
     instance.setShowRequested([&interface] { interface.statusMenu().openView(); });
     delegate.applicationDidFinishLaunching();
     services.play(delegate);
@@ -75,6 +81,13 @@ int print(const QByteArray& text)
 {
     std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
     return std::fflush(stdout) == 0 ? 0 : fail(QStringLiteral("cannot write to standard output"), wrongUsage);
+}
+
+StartAnswer answerInTime(SingleInstance& instance)
+{
+    constexpr unsigned seconds = 5;
+    const StartDeadline deadline(seconds);
+    return instance.start();
 }
 
 int start(int argc, char** argv)
@@ -95,10 +108,10 @@ int start(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     leaveLoginToLoginItems(application);
 
-    SingleInstance instance(instanceFolder(), instanceName());
-    while (!instance.acquire())
-        if (instance.askFirstToShow())
-            return 0;
+    SingleInstance instance;
+    const StartAnswer answer = answerInTime(instance);
+    if (answer.outcome != StartAnswer::Outcome::First)
+        return answer.fault.isEmpty() ? 0 : fail(answer.fault, cannotRun);
     const auto services = machine ? HelperServices::ofMachine(*machine)
                                   : HelperServices::ofThisComputer(pathText(qgetenv("QUINDLE_SYSFS")));
     return run(application, *services, instance);
@@ -108,6 +121,7 @@ int start(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    neverWaitForStandardError();
     const HelperCommandLine commandLine = parseHelperCommandLine(argumentTexts(argc, argv));
     if (!commandLine.fault.isEmpty())
         return fail(commandLine.fault + QStringLiteral(" (see --help)"), wrongUsage);

@@ -6,9 +6,13 @@ target_sources(quindle_platform_linux PRIVATE
     BusLink.h
     DesktopEntry.cpp
     DetachedProcess.cpp
+    DisplayKey.cpp
     EndOfProcess.cpp
     FileLock.cpp
     FileReplacement.cpp
+    InstanceBusName.cpp
+    InstanceBusName.h
+    InstanceFiles.cpp
     LinuxApplication.cpp
     LinuxLoginItems.cpp
     LinuxNotifications.cpp
@@ -19,6 +23,8 @@ target_sources(quindle_platform_linux PRIVATE
     ProgramFile.cpp
     PropertyListFile.cpp
     SingleInstance.cpp
+    StandardError.cpp
+    StartDeadline.cpp
     TimerSchedule.cpp
     UserFolders.cpp
     X11Desktop.cpp
