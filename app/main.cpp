@@ -6,17 +6,22 @@
 #include <variant>
 
 #include <QApplication>
+#include <QSessionManager>
 
 #include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
+#include "app/HelperCommandLine.h"
 #include "app/HelperServices.h"
 #include "app/OlderSettings.h"
+#include "common/Paths.h"
 #include "mac/QDMac.h"
 #include "menubar/BatteryPopup.h"
 #include "menubar/MainInterface.h"
 #include "platform/Bundle.h"
 #include "platform/linux/LinuxInstallationSource.h"
 #include "platform/linux/SingleInstance.h"
+#include "platform/linux/StandardError.h"
+#include "platform/linux/StartDeadline.h"
 #include "platform/recorded/MachineFile.h"
 #include "preferences/PreferencesWindows.h"
 
@@ -24,9 +29,12 @@ using namespace quindle;
 
 namespace {
 
+constexpr int cannotRun = 1;
+constexpr int wrongUsage = 2;
+
 int fail(const QString& line, int status)
 {
-    std::fprintf(stderr, "quindle-helper: %s\n", line.toUtf8().constData());
+    printToStandardError("quindle-helper: " + pathBytes(line));
     return status;
 }
 
@@ -34,6 +42,14 @@ bool hasDisplay()
 {
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
            !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+/// Whether the helper starts at login is the login item's to say. A session manager that starts again what
+/// ran when the session ended would start one that the user has taken out, and with arguments.
+void leaveLoginToLoginItems(const QApplication& application)
+{
+    QObject::connect(&application, &QGuiApplication::saveStateRequest, &application,
+                     [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); });
 }
 
 int run(QApplication& application, HelperServices& services, SingleInstance& instance)
@@ -53,36 +69,71 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
                      [&preferences] { preferences.refresh(); });
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      &HelperAppDelegate::applicationWillTerminate);
+    instance.setTakenByAnother([&application] {
+        fail(QStringLiteral("another one is on the session bus that came"), 0);
+        application.quit();
+    });
     instance.setShowRequested([&interface] { interface.statusMenu().openView(); });
     delegate.applicationDidFinishLaunching();
     services.play(delegate);
     return QApplication::exec();
 }
 
-} // namespace
+int print(const QByteArray& text)
+{
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+    return std::fflush(stdout) == 0 ? 0 : fail(QStringLiteral("cannot write to standard output"), wrongUsage);
+}
 
-int main(int argc, char** argv)
+StartAnswer answerInTime(SingleInstance& instance)
+{
+    constexpr unsigned seconds = 5;
+    const StartDeadline deadline(seconds);
+    return instance.start();
+}
+
+int start(int argc, char** argv)
 {
     std::optional<Machine> machine;
-    if (const QString path = qEnvironmentVariable("QUINDLE_MACHINE"); !path.isEmpty()) {
+    if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
         MachineResult result = readMachineFile(path);
         if (const auto* refusal = std::get_if<MachineRefusal>(&result))
-            return fail(refusal->line, 2);
+            return fail(refusal->line, wrongUsage);
         machine = std::get<Machine>(std::move(result));
     }
     if (!hasDisplay())
-        return fail(QStringLiteral("there is no display to show a tray item on"), 1);
+        return fail(QStringLiteral("there is no display to show a tray item on"), cannotRun);
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quindle-helper"));
     QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
     QApplication::setQuitOnLastWindowClosed(false);
+    leaveLoginToLoginItems(application);
 
-    SingleInstance instance(instanceFolder(), instanceName());
-    while (!instance.acquire())
-        if (instance.askFirstToShow())
-            return 0;
+    SingleInstance instance;
+    const StartAnswer answer = answerInTime(instance);
+    if (answer.outcome != StartAnswer::Outcome::First)
+        return answer.fault.isEmpty() ? 0 : fail(answer.fault, cannotRun);
     const auto services = machine ? HelperServices::ofMachine(*machine)
-                                  : HelperServices::ofThisComputer(qEnvironmentVariable("QUINDLE_SYSFS"));
+                                  : HelperServices::ofThisComputer(pathText(qgetenv("QUINDLE_SYSFS")));
     return run(application, *services, instance);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    neverWaitForStandardError();
+    const HelperCommandLine commandLine = parseHelperCommandLine(argumentTexts(argc, argv));
+    if (!commandLine.fault.isEmpty())
+        return fail(commandLine.fault + QStringLiteral(" (see --help)"), wrongUsage);
+    switch (commandLine.call) {
+    case HelperCommandLine::Call::Help:
+        return print(helperHelpText().toUtf8());
+    case HelperCommandLine::Call::Version:
+        return print("quindle-helper " QUINDLE_VERSION "\n");
+    case HelperCommandLine::Call::Run:
+        break;
+    }
+    return start(argc, argv);
 }

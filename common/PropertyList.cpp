@@ -8,12 +8,12 @@
 #include <memory>
 
 #include <QDateTime>
-#include <QFile>
 #include <QTimeZone>
 #include <QtEndian>
 #include <plist/plist.h>
 
 #include "common/BinaryPropertyListShape.h"
+#include "common/FileContents.h"
 #include "common/PropertyListXml.h"
 
 namespace quindle {
@@ -168,10 +168,8 @@ std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes)
 
 std::optional<QVariant> propertyListFromFile(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    return propertyListFromBytes(file.readAll());
+    const FileContents file = fileContents(path, mostPropertyListBytes);
+    return file.error == 0 ? propertyListFromBytes(file.bytes) : std::nullopt;
 }
 
 } // namespace quindle

@@ -15,7 +15,9 @@ namespace quindle {
 /// and when they are nested deeper than 512 or, with shared values written out, hold more than a million.
 std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes);
 
-/// The same from a file; nothing also when it cannot be read.
+constexpr qint64 mostPropertyListBytes = qint64{64} * 1024 * 1024;
+
+/// The same from a file; nothing also when it is no ordinary file, larger than that, or cannot be read.
 std::optional<QVariant> propertyListFromFile(const QString& path);
 
 /// `value` as an XML property list. Values of other types than those above are left out, and so are

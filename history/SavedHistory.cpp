@@ -1,9 +1,10 @@
 #include "history/SavedHistory.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <cerrno>
+
 #include <QLoggingCategory>
 
+#include "common/FileContents.h"
 #include "history/KeyedArchive.h"
 
 namespace quindle {
@@ -29,16 +30,12 @@ QVariantList savedRecords(const QString& path)
 {
     constexpr qint64 largestFile =
         qint64{1024} * 1024 * 1024; // bytes; a century of records takes a fifth of it
-    const QFileInfo info(path);
-    if (!info.exists())
+    const FileContents file = fileContents(path, largestFile);
+    if (file.error == ENOENT || file.error == ENOTDIR)
         return {};
-    QFile file(path);
-    // Anything but a plain file could keep the reader waiting for ever.
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
-        return nothing(path, QStringLiteral("it cannot be read"));
-    if (file.size() > largestFile)
-        return nothing(path, QStringLiteral("it is too large"));
-    const ArchivedRecords archived = recordsFromKeyedArchive(file.read(largestFile));
+    if (file.error != 0)
+        return nothing(path, QStringLiteral("it ") + readingFault(file.error));
+    const ArchivedRecords archived = recordsFromKeyedArchive(file.bytes);
     return archived.fault.isEmpty() ? archived.records : nothing(path, archived.fault);
 }
 

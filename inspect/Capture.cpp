@@ -1,11 +1,8 @@
 #include "inspect/Capture.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QSaveFile>
-
-#include "common/PropertyList.h"
+#include "common/Paths.h"
 #include "inspect/InventedSerial.h"
+#include "inspect/NeutralPath.h"
 #include "inspect/SettingsDatabases.h"
 #include "mac/QDMac.h"
 #include "platform/Bundle.h"
@@ -121,37 +118,12 @@ QVariantMap withoutModelCache(QVariantMap databases)
     return databases;
 }
 
-QVariantMap withoutHomeFolder(QVariantMap bundle)
+QVariantMap withoutUserName(QVariantMap bundle)
 {
-    const QString home = QDir::homePath() + u'/';
-    const QString path = bundle.value(QStringLiteral("Path")).toString();
-    if (path.startsWith(home))
-        bundle.insert(QStringLiteral("Path"), QStringLiteral("/home/user/") + path.mid(home.size()));
+    const QString key = QStringLiteral("Path");
+    if (const QString path = bundle.value(key).toString(); !path.isEmpty())
+        bundle.insert(key, neutralPath(path, homeFolder()));
     return bundle;
-}
-
-bool isDeviceOrPipe(const QString& path)
-{
-    const QFileInfo target(path);
-    return target.exists() && !target.isFile() && !target.isDir();
-}
-
-/// A device or pipe is written into: a file put in its place would take it away from everybody.
-QString writeInto(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(content) == content.size();
-    return isWritten ? QString() : file.errorString();
-}
-
-QString replaceFile(const QString& path, const QByteArray& content)
-{
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-                           file.write(content) >= 0 && file.commit();
-    return isWritten ? QString() : file.errorString();
 }
 
 } // namespace
@@ -183,7 +155,7 @@ QVariantMap withoutIdentity(const QVariantMap& keys)
             clean.insert(key, change(clean.value(key).toMap()));
     };
     edit(QStringLiteral("Defaults"), withoutModelCache);
-    edit(QStringLiteral("Bundle"), withoutHomeFolder);
+    edit(QStringLiteral("Bundle"), withoutUserName);
     if (clean.contains(QStringLiteral("LoginItems")))
         clean.insert(QStringLiteral("LoginItems"),
                      helperLoginItem(clean.value(QStringLiteral("Bundle")).toMap()));
@@ -192,12 +164,6 @@ QVariantMap withoutIdentity(const QVariantMap& keys)
     for (QVariant& value : clean) // the format's own keys stay, whatever the serials are
         value = withoutSerials(value, serials);
     return clean;
-}
-
-QString writeMachineFile(const QString& path, const QVariantMap& keys)
-{
-    const QByteArray content = xmlPropertyList(keys);
-    return isDeviceOrPipe(path) ? writeInto(path, content) : replaceFile(path, content);
 }
 
 } // namespace quindle

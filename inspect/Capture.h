@@ -13,12 +13,8 @@ struct Platform;
 QVariantMap capturedKeys(const Platform& platform);
 
 /// The same without what tells whose computer it is: both serials are invented ones wherever they occur, the
-/// name is "Computer", the model cache (its keys are parts of serials) is gone, and so is the home folder in
-/// the bundle's path.
+/// name is "Computer", the model cache (its keys are parts of serials) is gone, and so is the user's
+/// name in the bundle's path.
 QVariantMap withoutIdentity(const QVariantMap& keys);
-
-/// Writes the keys as a machine file that only its owner can read, replacing the file at once or not at all.
-/// The reason of a failure; empty on success.
-QString writeMachineFile(const QString& path, const QVariantMap& keys);
 
 } // namespace quindle

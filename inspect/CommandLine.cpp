@@ -179,7 +179,9 @@ QString helpText()
         "  --version         the version\n"
         "\n"
         "An option beats the environment; a machine file beats a sysfs folder.\n"
-        "Exit status: 0; 2 for wrong usage, a refused machine file or a file that cannot be written.\n");
+        "Exit status: 0; 2 for wrong usage, a refused machine file, a DIR without class/power_supply or a "
+        "file that\n"
+        "cannot be written.\n");
 }
 
 } // namespace quindle

@@ -1,10 +1,10 @@
 #include "inspect/Computer.h"
 
+#include <filesystem>
 #include <utility>
 
-#include <QFileInfo>
-
 #include "app/MachineSteps.h"
+#include "common/Paths.h"
 #include "inspect/CommandLine.h"
 #include "inspect/JsonState.h"
 
@@ -22,17 +22,32 @@ bool isFollowed(const CommandLine& commandLine)
     return commandLine.call == CommandLine::Call::Follow;
 }
 
+/// A folder without the one that Linux keeps power supplies in is a mistake, not a computer without a
+/// battery.
+QString supplyFolderFault(const CommandLine& commandLine)
+{
+    const QByteArray folder = pathBytes(commandLine.sysfsDirectory + QStringLiteral("/class/power_supply"));
+    std::error_code error;
+    if (isRecorded(commandLine) || commandLine.sysfsDirectory.isEmpty() ||
+        std::filesystem::is_directory(folder.toStdString(), error))
+        return {};
+    return commandLine.sysfsDirectory + QStringLiteral(": holds no folder class/power_supply");
+}
+
 /// A bus that is asked for without an address may be started for it.
 bool hasSessionBus()
 {
+    std::error_code error;
     return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
-           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
+           std::filesystem::exists((qgetenv("XDG_RUNTIME_DIR") + "/bus").toStdString(), error);
 }
 
 } // namespace
 
 std::variant<std::unique_ptr<Computer>, MachineRefusal> Computer::open(const CommandLine& commandLine)
 {
+    if (const QString fault = supplyFolderFault(commandLine); !fault.isEmpty())
+        return MachineRefusal{fault};
     Machine machine;
     if (isRecorded(commandLine)) {
         MachineResult result = readMachineFile(commandLine.machineFile);

@@ -3,7 +3,9 @@
 
 #include <QCoreApplication>
 
+#include "common/Paths.h"
 #include "inspect/Capture.h"
+#include "inspect/CaptureFile.h"
 #include "inspect/CommandLine.h"
 #include "inspect/Computer.h"
 #include "inspect/DemoMachine.h"
@@ -27,7 +29,7 @@ void print(const QByteArray& bytes)
 
 int refuse(const QString& line)
 {
-    std::fprintf(stderr, "quindle-inspect: %s\n", qUtf8Printable(line));
+    std::fprintf(stderr, "quindle-inspect: %s\n", pathBytes(line).constData());
     return wrongUsage;
 }
 
@@ -116,9 +118,9 @@ int answer(const CommandLine& commandLine)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    const CommandLine commandLine = parseCommandLine(
-        QCoreApplication::arguments().mid(1), {.machineFile = qEnvironmentVariable("QUINDLE_MACHINE"),
-                                               .sysfsDirectory = qEnvironmentVariable("QUINDLE_SYSFS")});
+    const CommandLine commandLine =
+        parseCommandLine(argumentTexts(argc, argv), {.machineFile = pathText(qgetenv("QUINDLE_MACHINE")),
+                                                     .sysfsDirectory = pathText(qgetenv("QUINDLE_SYSFS"))});
     if (!commandLine.fault.isEmpty())
         return refuse(commandLine.fault + QStringLiteral(" (see --help)"));
     const int status = answer(commandLine);

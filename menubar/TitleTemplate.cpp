@@ -16,6 +16,16 @@ QString chargingDirection(bool isCharging)
     return isCharging ? QStringLiteral(u"\u2B06\uFE0E") : QStringLiteral(u"\u2B07\uFE0E");
 }
 
+// Nobody reads a longer title, and putting one together and sending it makes the helper and the panel busy.
+constexpr qsizetype longestTemplate = 4096;
+
+QString cutTemplate(const QString& titleTemplate)
+{
+    const bool splitsCharacter =
+        titleTemplate.size() > longestTemplate && titleTemplate[longestTemplate - 1].isHighSurrogate();
+    return titleTemplate.left(splitsCharacter ? longestTemplate - 1 : longestTemplate);
+}
+
 } // namespace
 
 QString defaultTitleTemplate()
@@ -34,7 +44,7 @@ QString titleFromTemplate(const QString& titleTemplate, const TitleValues& value
         {QStringLiteral("%mA"), integerText(values.amperage)},
         {QStringLiteral("%l"), integerText(values.cycleCount)},
     }};
-    QString title = titleTemplate;
+    QString title = cutTemplate(titleTemplate);
     for (const auto& [placeholder, text] : replacements)
         title.replace(placeholder, text);
     return title;

@@ -2,21 +2,34 @@
 
 #include <QUrl>
 
+#include "common/Paths.h"
+
 namespace quindle {
 
 QString fileUrl(const QString& path)
 {
-    return QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
+    if (path.isValidUtf16())
+        return QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
+    // The class would put a replacement for each byte that is not UTF-8.
+    return QStringLiteral("file://") +
+           QString::fromLatin1(pathBytes(path).toPercentEncoding("/!$&'()*+,;=:@[]"));
+}
+
+QString pathOfFileUrl(const QString& url)
+{
+    const QUrl parsed(url); // takes blanks and the like that were not encoded
+    const QByteArray bytes = QByteArray::fromPercentEncoding(parsed.path(QUrl::FullyEncoded).toLatin1());
+    return bytes.isValidUtf8() ? parsed.toLocalFile() : pathText(bytes);
 }
 
 QString normalFileUrl(const QString& url)
 {
-    QUrl parsed(url); // takes blanks and the like that were not encoded
+    QUrl parsed(url);
     if (parsed.scheme() != u"file")
         return url;
     if (parsed.host() == u"localhost") // the older way to write the same
         parsed.setHost(QString());
-    QString path = parsed.toLocalFile();
+    QString path = pathOfFileUrl(parsed.toString(QUrl::FullyEncoded));
     while (path.size() > 1 && path.endsWith(u'/'))
         path.chop(1);
     return fileUrl(path.endsWith(u".app") ? path + u'/' : path);

@@ -7,6 +7,9 @@ namespace quindle {
 /// The file URL of an absolute path, percent-encoded ("file:///opt/Quindle%20Helper").
 QString fileUrl(const QString& path);
 
+/// The absolute path that a file URL names.
+QString pathOfFileUrl(const QString& url);
+
 /// The one form in which file URLs of the same place are equal text: percent-encoded, no host, a bundle
 /// ("….app") with one slash at its end because it is a folder, anything else with none. Text that is no file
 /// URL stays as it is.

@@ -1,11 +1,35 @@
 #include "preferences/UpdatePreferencesController.h"
 
+#include <QBuffer>
+#include <QImageReader>
+#include <QPixmap>
+
 #include "common/FatalError.h"
+#include "common/FileContents.h"
 #include "platform/Bundle.h"
 #include "preferences/UpdateTexts.h"
 #include "preferences/UpdateView.h"
 
 namespace quindle {
+
+namespace {
+
+/// The toolkit opens files by names in UTF-8 only, so one at another path is read for it, in a size to scale
+/// from.
+QIcon iconFromFile(const QString& path)
+{
+    if (path.isValidUtf16())
+        return QIcon(path);
+    constexpr qint64 mostBytes = 1024 * 1024;
+    constexpr QSize size(128, 128);
+    QBuffer drawing;
+    drawing.setData(fileContents(path, mostBytes).bytes);
+    QImageReader reader(&drawing, "svg");
+    reader.setScaledSize(size);
+    return QIcon(QPixmap::fromImage(reader.read()));
+}
+
+} // namespace
 
 UpdatePreferencesController::UpdatePreferencesController(
     const Bundle& bundle, std::function<InstallationSource()> installationSource)
@@ -33,7 +57,7 @@ QString UpdatePreferencesController::preferencesTitle() const
 
 QIcon UpdatePreferencesController::preferencesIcon() const
 {
-    QIcon icon(m_bundle.path() + QStringLiteral("/Contents/Resources/icons/prefUpdate.svg"));
+    QIcon icon = iconFromFile(m_bundle.path() + QStringLiteral("/Contents/Resources/icons/prefUpdate.svg"));
     icon.setIsMask(true);
     return icon;
 }

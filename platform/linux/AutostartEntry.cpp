@@ -1,11 +1,11 @@
 #include "platform/linux/AutostartEntry.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QStandardPaths>
+#include <algorithm>
 
+#include "common/Paths.h"
 #include "platform/FileUrl.h"
 #include "platform/linux/DesktopEntry.h"
+#include "platform/linux/ProgramFile.h"
 
 namespace quindle {
 
@@ -13,14 +13,36 @@ namespace {
 
 constexpr QStringView programInBundle(u"/Contents/Linux/quindle-helper");
 
-/// The file of a program that can be run, links followed; empty when there is none.
-QString programFile(const QByteArray& program, const QStringList& folders)
+// Not "~", which LXQt replaces itself, before the shell would.
+constexpr QByteArrayView shellInHome("cd && exec ./");
+
+/// Whether every session starts what an entry names so. By the format all of these can be quoted; but GLib
+/// looks for a program with two percent signs where "%%" stands for one, and neither dex nor LXQt resolves
+/// the escapes of the others. A value that is not UTF-8 is none for GLib.
+bool isReadEverywhere(const QByteArray& path)
 {
-    const bool isPath = program.contains('/');
-    if (program.isEmpty() || program.contains('\0') || (isPath && !program.startsWith('/')))
-        return {};
-    const QString found = QStandardPaths::findExecutable(QFile::decodeName(program), folders);
-    return found.isEmpty() ? QString() : QFileInfo(found).canonicalFilePath();
+    return path.isValidUtf8() && std::none_of(path.begin(), path.end(), [](char c) {
+               return QByteArrayView("\"`$\\%").contains(c) || (c >= 0 && c < ' ') || c == 0x7f;
+           });
+}
+
+/// Whether a shell takes it as it stands.
+bool isPlainWord(const QByteArray& text)
+{
+    return std::all_of(text.begin(), text.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+               QByteArrayView("/._-").contains(c);
+    });
+}
+
+/// The program that a command runs; a shell is looked through as far as `startCommand` uses one.
+QByteArray programOf(const QList<QByteArray>& arguments, const QString& home)
+{
+    const bool isShell = arguments.size() == 3 && arguments[0] == "sh" && arguments[1] == "-c" &&
+                         arguments[2].startsWith(shellInHome);
+    if (!isShell || home.isEmpty())
+        return arguments.first();
+    return pathBytes(home) + '/' + arguments[2].mid(shellInHome.size());
 }
 
 /// Whether sessions start the entry. One key is the format's own; some desktops write the other instead.
@@ -49,13 +71,28 @@ QString bundleProgram(const QString& bundlePath)
     return bundlePath + programInBundle.toString();
 }
 
-std::optional<QString> urlStartedBy(const QByteArray& entryBytes, const QStringList& programFolders)
+StartCommand startCommand(const QString& program, const QString& link, const QString& home)
+{
+    const StartCommand direct{execValue(pathBytes(program)), false};
+    if (link.isEmpty() || isReadEverywhere(pathBytes(program)))
+        return direct;
+    if (isReadEverywhere(pathBytes(link)))
+        return {execValue(pathBytes(link)), true};
+    if (home.isEmpty() || !link.startsWith(home + u'/'))
+        return direct;
+    const QByteArray inHome = pathBytes(link.mid(home.size() + 1));
+    return isPlainWord(inHome) ? StartCommand{"sh -c \"" + shellInHome.toByteArray() + inHome + '"', true}
+                               : direct;
+}
+
+std::optional<QString> urlStartedBy(const QByteArray& entryBytes, const QStringList& programFolders,
+                                    const QString& home)
 {
     const auto entry = desktopEntryFromBytes(entryBytes);
     if (!entry || isSwitchedOff(*entry) || !isApplication(*entry) || !isInstalled(*entry, programFolders))
         return std::nullopt;
     const auto arguments = execArguments(entry->value("Exec"));
-    QString program = arguments ? programFile(arguments->first(), programFolders) : QString();
+    QString program = arguments ? programFile(programOf(*arguments, home), programFolders) : QString();
     if (program.isEmpty())
         return std::nullopt;
     if (program.endsWith(programInBundle))
@@ -63,14 +100,14 @@ std::optional<QString> urlStartedBy(const QByteArray& entryBytes, const QStringL
     return normalFileUrl(fileUrl(program));
 }
 
-QByteArray autostartEntry(const QString& program)
+QByteArray autostartEntry(const QByteArray& command)
 {
     return "[Desktop Entry]\n"
            "Type=Application\n"
            "Name=Quindle Helper\n"
            "Comment=Battery charge, health and time in the panel\n"
            "Exec=" +
-           execValue(QFile::encodeName(program)) +
+           command +
            "\n"
            "Icon=quindle-helper\n"
            "StartupNotify=false\n"

@@ -15,10 +15,24 @@ QString bundleProgram(const QString& bundlePath);
 /// the program of one, else the program's own. Nothing for an entry that starts nothing: switched off, no
 /// application, broken, or of a program that is not there. For which desktops the entry is does not matter.
 ///
-/// `programFolders` are looked through for a program without a path; $PATH when empty.
-std::optional<QString> urlStartedBy(const QByteArray& entryBytes, const QStringList& programFolders);
+/// `programFolders` are looked through for a program without a path; $PATH when empty. `home` is the user's
+/// home folder, empty where there is none.
+std::optional<QString> urlStartedBy(const QByteArray& entryBytes, const QStringList& programFolders,
+                                    const QString& home);
 
-/// The contents of an autostart entry that starts the helper from this path.
-QByteArray autostartEntry(const QString& program);
+/// A value to be written for "Exec".
+struct StartCommand
+{
+    QByteArray exec;
+    bool isThroughLink = false; ///< `link` has to lead to the program
+};
+
+/// The command that starts a program in every session. Sessions differ in how they read a path with unusual
+/// characters, so such a program is started through `link`, a path of our own; where that has them too,
+/// through a shell that finds it in the home folder. Where neither helps, as the format says.
+StartCommand startCommand(const QString& program, const QString& link, const QString& home);
+
+/// The contents of an autostart entry that starts the helper by this command.
+QByteArray autostartEntry(const QByteArray& command);
 
 } // namespace quindle

@@ -1,6 +1,6 @@
 #include "platform/linux/BusAddress.h"
 
-#include <QFile>
+#include "common/Paths.h"
 
 namespace quindle {
 
@@ -12,8 +12,10 @@ QString usualAddress(QDBusConnection::BusType type)
 {
     if (type == QDBusConnection::SystemBus)
         return unixPath + QStringLiteral("/run/dbus/system_bus_socket");
-    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return runtimeFolder.startsWith(u'/') ? unixPath + runtimeFolder + QStringLiteral("/bus") : QString();
+    const QByteArray runtimeFolder = qgetenv("XDG_RUNTIME_DIR");
+    if (!runtimeFolder.startsWith('/'))
+        return {};
+    return unixPath + QString::fromLatin1((runtimeFolder + "/bus").toPercentEncoding("-_/.\\*", "~"));
 }
 
 } // namespace
@@ -32,7 +34,7 @@ QString busSocketFile(const QString& address)
         if (!one.startsWith(unixPath))
             continue;
         const QString escaped = one.mid(unixPath.size()).section(u',', 0, 0);
-        return QFile::decodeName(QByteArray::fromPercentEncoding(QFile::encodeName(escaped)));
+        return pathText(QByteArray::fromPercentEncoding(pathBytes(escaped)));
     }
     return {};
 }

@@ -4,11 +4,11 @@
 #include <sys/stat.h>
 
 #include <QDBusError>
-#include <QFile>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
 #include <QLoggingCategory>
 
+#include "common/Paths.h"
 #include "platform/linux/BusAddress.h"
 
 namespace quindle {
@@ -31,7 +31,7 @@ QString usualName(QDBusConnection::BusType type)
 quint64 inodeOf(const QString& path)
 {
     struct stat found = {};
-    return ::stat(QFile::encodeName(path).constData(), &found) == 0 ? found.st_ino : 0;
+    return ::stat(pathBytes(path).constData(), &found) == 0 ? found.st_ino : 0;
 }
 
 } // namespace
@@ -54,6 +54,12 @@ BusLink::BusLink(QDBusConnection::BusType type, QString ownName, int firstPause,
     m_retry.callOnTimeout(this, &BusLink::reconnect);
 }
 
+void BusLink::followShared()
+{
+    m_startsShared = true;
+    m_logs = false;
+}
+
 BusLink::~BusLink()
 {
     closeOwn();
@@ -68,10 +74,12 @@ void BusLink::open(std::function<void(QDBusConnection&)> subscribe, std::functio
     const QDBusConnection first = firstConnection();
     if (take(first))
         return;
+    waitForBus(m_firstPause);
+    if (!m_logs)
+        return;
     const QString name =
         m_type == QDBusConnection::SystemBus ? QStringLiteral("system") : QStringLiteral("session");
     qCWarning(busLog).noquote() << QStringLiteral("no %1 bus: %2").arg(name, first.lastError().message());
-    waitForBus(m_firstPause);
 }
 
 QDBusConnection BusLink::firstConnection()
@@ -97,7 +105,8 @@ bool BusLink::take(const QDBusConnection& connection)
 
 void BusLink::onDisconnected()
 {
-    qCWarning(busLog, "a message bus was lost");
+    if (m_logs)
+        qCWarning(busLog, "a message bus was lost");
     if (m_lost)
         m_lost();
     waitForBus(m_firstPause);

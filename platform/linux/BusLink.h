@@ -30,6 +30,10 @@ public:
             QObject* parent = nullptr);
     ~BusLink() override;
 
+    /// Has `open` begin with the connection that the whole process shares, and log nothing: its other link
+    /// does.
+    void followShared();
+
     /// Connects, and calls `subscribe` with each connection that is made, now and later, and `lost` when one
     /// is lost. Without a bus one line is logged.
     void open(std::function<void(QDBusConnection&)> subscribe, std::function<void()> lost = {});
@@ -53,6 +57,7 @@ private:
     QDBusConnection m_connection;
     QString m_ownName;
     bool m_startsShared;
+    bool m_logs = true;
     bool m_triedOwn = false;
     int m_firstPause;
     QTimer m_retry;

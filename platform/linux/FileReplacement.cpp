@@ -110,6 +110,20 @@ int replaceFile(const QByteArray& path, const QByteArray& bytes)
     return error;
 }
 
+int replaceLink(const QByteArray& path, const QByteArray& target)
+{
+    // One name for all: who replaces the link holds the lock of its writers.
+    const QByteArray temporary = folderOf(path) + '/' + temporaryPrefix(path) + "link";
+    ::unlink(temporary.constData());
+    if (::symlink(target.constData(), temporary.constData()) != 0)
+        return errno;
+    if (::rename(temporary.constData(), path.constData()) == 0)
+        return 0;
+    const int error = errno;
+    ::unlink(temporary.constData());
+    return error;
+}
+
 void removeLeftovers(const QByteArray& path)
 {
     const std::unique_ptr<DIR, CloseFolder> folder(::opendir(folderOf(path).constData()));

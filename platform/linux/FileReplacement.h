@@ -20,6 +20,9 @@ int makeFolder(const QByteArray& path);
 /// what stood under the name still does and nothing is left over.
 int replaceFile(const QByteArray& path, const QByteArray& bytes);
 
+/// Has `path` be a symbolic link to `target`, in place of what stood there.
+int replaceLink(const QByteArray& path, const QByteArray& target);
+
 /// Removes temporary files of `replaceFile` for `path` that a killed process left. Only for who holds the
 /// lock that keeps other writers of `path` away.
 void removeLeftovers(const QByteArray& path);

@@ -1,17 +1,18 @@
 #include "platform/linux/LinuxBundle.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include <filesystem>
 
+#include "common/Paths.h"
 #include "platform/linux/LinuxSystemFiles.h"
 
 namespace quindle {
 
 LinuxBundle::LinuxBundle(const QString& executablePath)
 {
-    const QString executable = QFileInfo(executablePath).canonicalFilePath();
-    if (!executable.isEmpty())
-        m_path = QDir::cleanPath(QFileInfo(executable).path() + QStringLiteral("/../.."));
+    std::error_code error;
+    const auto executable = std::filesystem::canonical(pathBytes(executablePath).toStdString(), error);
+    if (!error)
+        m_path = pathText(QByteArray::fromStdString(executable.parent_path().parent_path().parent_path()));
 }
 
 std::optional<QVariantMap> LinuxBundle::infoDictionary() const

@@ -1,9 +1,13 @@
 #include "platform/linux/LinuxInstallationSource.h"
 
+#include <filesystem>
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QStringList>
+
+#include "common/Paths.h"
 
 namespace quindle {
 
@@ -31,7 +35,7 @@ bool hasLine(const QString& file, const QString& line)
     QFile list(file);
     if (!list.open(QIODevice::ReadOnly))
         return false;
-    return list.readAll().split('\n').contains(line.toUtf8());
+    return list.readAll().split('\n').contains(pathBytes(line));
 }
 
 InstallationSource package(const QString& manager, const QString& name)
@@ -81,7 +85,9 @@ InstallationSource fromRpm(const QString& file, const QString& root)
 /// The build folder holds the tree that starts with the folder "Quindle Helper".
 bool isInBuildFolder(const QString& bundlePath)
 {
-    return QFile::exists(bundlePath + QStringLiteral("/../../../../../CMakeCache.txt"));
+    std::error_code error;
+    return std::filesystem::exists(
+        pathBytes(bundlePath + QStringLiteral("/../../../../../CMakeCache.txt")).toStdString(), error);
 }
 
 } // namespace

@@ -6,18 +6,18 @@
 #include <memory>
 #include <unistd.h>
 
-#include <QFile>
-#include <QFileInfo>
 #include <QLoggingCategory>
-#include <QUrl>
 
+#include "common/Paths.h"
 #include "platform/FileUrl.h"
 #include "platform/HelperBundle.h"
 #include "platform/linux/AutostartEntry.h"
 #include "platform/linux/CloseFolder.h"
 #include "platform/linux/FileLock.h"
 #include "platform/linux/FileReplacement.h"
+#include "platform/linux/ProgramFile.h"
 #include "platform/linux/SmallFile.h"
+#include "platform/linux/UserFolders.h"
 
 namespace quindle {
 
@@ -57,7 +57,7 @@ bool comesBefore(const QByteArray& left, const QByteArray& right)
 
 QString bundleOf(const QString& url)
 {
-    QString path = QUrl(url).toLocalFile();
+    QString path = pathOfFileUrl(url);
     while (path.size() > 1 && path.endsWith(u'/'))
         path.chop(1);
     return path;
@@ -74,11 +74,14 @@ LoginItemPlaces loginItemPlaces(const QString& bundlePath)
 {
     const QString settings = settingsFolder();
     if (settings.isEmpty())
-        return {.entries = {}, .lock = {}, .bundle = bundlePath, .programFolders = {}};
-    return {.entries = QFileInfo(settings).path() + QStringLiteral("/autostart"),
+        return {
+            .entries = {}, .lock = {}, .link = {}, .bundle = bundlePath, .programFolders = {}, .home = {}};
+    return {.entries = configurationFolder() + QStringLiteral("/autostart"),
             .lock = settings + QStringLiteral("/autostart.lock"),
+            .link = settings + QStringLiteral("/quindle-helper"),
             .bundle = bundlePath,
-            .programFolders = {}};
+            .programFolders = {},
+            .home = homeFolder()};
 }
 
 LinuxLoginItems::LinuxLoginItems(LoginItemPlaces places, SettingsAccess access)
@@ -91,7 +94,7 @@ std::optional<std::vector<LoginItems::Item>> LinuxLoginItems::snapshot()
 {
     if (m_places.entries.isEmpty())
         return std::nullopt;
-    auto names = entryNames(QFile::encodeName(m_places.entries));
+    auto names = entryNames(pathBytes(m_places.entries));
     if (!names)
         return std::nullopt;
     std::sort(names->begin(), names->end(), comesBefore);
@@ -121,7 +124,7 @@ void LinuxLoginItems::remove(Item item)
 
 void LinuxLoginItems::setEnabled(const QString& identifier, bool enabled)
 {
-    const QByteArray entryName = QFile::encodeName(identifier) + suffix.toByteArray();
+    const QByteArray entryName = pathBytes(identifier) + suffix.toByteArray();
     if (identifier.isEmpty() || entryName.contains('/') || entryName.contains('\0'))
         return report(QStringLiteral("\"%1\" names no entry").arg(identifier));
     const QString helper = helperBundlePath(m_places.bundle);
@@ -137,7 +140,7 @@ void LinuxLoginItems::setEnabled(const QString& identifier, bool enabled)
 
 QString LinuxLoginItems::pathOf(const QByteArray& entryName) const
 {
-    return m_places.entries + u'/' + QFile::decodeName(entryName);
+    return m_places.entries + u'/' + pathText(entryName);
 }
 
 /// A file as long as none of these is, is not read to its end, and so not understood.
@@ -147,7 +150,8 @@ std::optional<QString> LinuxLoginItems::urlOf(const QByteArray& entryName) const
     if (entryName.isEmpty())
         return std::nullopt;
     const auto bytes = readSmallFile(pathOf(entryName));
-    return bytes && bytes->size() <= limit ? urlStartedBy(*bytes, m_places.programFolders) : std::nullopt;
+    return bytes && bytes->size() <= limit ? urlStartedBy(*bytes, m_places.programFolders, m_places.home)
+                                           : std::nullopt;
 }
 
 /// Why the entry could not be made; empty on success.
@@ -158,20 +162,24 @@ QString LinuxLoginItems::enter(const QByteArray& entryName, const QString& bundl
         return QStringLiteral("they are for reading only");
     if (m_places.entries.isEmpty())
         return QStringLiteral("there is no folder for them");
-    if (!QFileInfo(program).isExecutable())
+    if (programFile(pathBytes(program), {}).isEmpty())
         return QStringLiteral("%1 is no program").arg(program);
-    const QByteArray folder = QFile::encodeName(m_places.entries);
-    const QByteArray lockPath = QFile::encodeName(m_places.lock);
+    const QByteArray folder = pathBytes(m_places.entries);
+    const QByteArray lockPath = pathBytes(m_places.lock);
     for (const QByteArray& needed : {folder, folderOf(lockPath)})
         if (const int error = makeFolder(needed))
             return reason(error);
     const auto lock = FileLock::take(lockPath, lockPatience);
     if (!lock)
         return reason(errno);
+    const StartCommand command = startCommand(program, m_places.link, m_places.home);
+    if (const int error =
+            command.isThroughLink ? replaceLink(pathBytes(m_places.link), pathBytes(program)) : 0)
+        return reason(error);
     const QByteArray path = folder + '/' + entryName;
     removeLeftovers(path);
     // A link in the entry's place is replaced itself: what it leads to is not ours.
-    return reason(replaceFile(path, autostartEntry(program)));
+    return reason(replaceFile(path, autostartEntry(command.exec)));
 }
 
 /// Takes out every entry that starts the helper, and the named one where it starts anything. An entry that
@@ -193,9 +201,13 @@ QString LinuxLoginItems::erase(const QByteArray& entryName) const
 {
     if (m_access == SettingsAccess::ReadOnly)
         return QStringLiteral("they are for reading only");
-    if (entryName.isEmpty() || ::unlink(QFile::encodeName(pathOf(entryName)).constData()) == 0)
+    if (entryName.isEmpty())
         return {};
-    return errno == ENOENT ? QString() : reason(errno);
+    if (::unlink(pathBytes(pathOf(entryName)).constData()) != 0 && errno != ENOENT)
+        return reason(errno);
+    if (entryName == ownEntryName())
+        ::unlink(pathBytes(m_places.link).constData());
+    return {};
 }
 
 void LinuxLoginItems::report(const QString& failure)

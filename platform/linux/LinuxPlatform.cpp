@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxPlatform.h"
 
+#include "common/Paths.h"
 #include "platform/NotificationCenter.h"
 #include "platform/linux/LinuxApplication.h"
 #include "platform/linux/LinuxBundle.h"
@@ -40,7 +41,7 @@ LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 struct LinuxPlatform::Services
 {
     Services(const QString& systemRoot, SettingsAccess settingsAccess)
-        : supplies((rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
+        : supplies(pathBytes(rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
         , registry(supplies, times, firmwareFolders(systemRoot))
         , powerSources(supplies, times)
         , userDefaults(settingsFolder(), settingsAccess)

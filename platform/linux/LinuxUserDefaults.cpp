@@ -2,16 +2,16 @@
 
 #include <cerrno>
 #include <optional>
-#include <pwd.h>
 #include <thread>
 
 #include <QDateTime>
-#include <QFile>
 #include <QLoggingCategory>
 
+#include "common/Paths.h"
 #include "common/PropertyList.h"
 #include "platform/linux/FileLock.h"
 #include "platform/linux/FileReplacement.h"
+#include "platform/linux/UserFolders.h"
 
 namespace quindle {
 
@@ -27,14 +27,6 @@ constexpr std::chrono::milliseconds readerPatience(100);
 
 // An editor that writes a file in its place is given this long to finish.
 constexpr std::chrono::milliseconds editorPatience(50);
-
-QString homeFolder()
-{
-    if (const QByteArray home = qgetenv("HOME"); !home.isEmpty())
-        return QFile::decodeName(home);
-    const passwd* user = ::getpwuid(::geteuid());
-    return user && user->pw_dir ? QFile::decodeName(user->pw_dir) : QString();
-}
 
 QString filePath(const QString& folder, const QString& domain)
 {
@@ -63,19 +55,13 @@ int renameAsDamaged(const QByteArray& path, QByteArray& newPath)
 
 QString settingsFolder()
 {
-    QString configuration = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
-    if (!configuration.startsWith(u'/')) {
-        const QString home = homeFolder();
-        if (!home.startsWith(u'/'))
-            return {};
-        configuration = home + QStringLiteral("/.config");
-    }
-    return configuration + QStringLiteral("/quindle");
+    const QString configuration = configurationFolder();
+    return configuration.isEmpty() ? QString() : configuration + QStringLiteral("/quindle");
 }
 
 LinuxUserDefaults::LinuxUserDefaults(const QString& path, SettingsAccess access)
     : m_access(access)
-    , m_file(QFile::encodeName(path))
+    , m_file(pathBytes(path))
 {
 }
 
@@ -103,7 +89,7 @@ void LinuxUserDefaults::refresh() const
     m_leftDamaged = false;
     if (state == State::Unreadable)
         reportReading(QStringLiteral("cannot read %1: %2")
-                          .arg(QFile::decodeName(m_file.path()), qt_error_string(m_file.error())));
+                          .arg(pathText(m_file.path()), qt_error_string(m_file.error())));
     else
         m_readFailure.clear();
 }
@@ -119,14 +105,14 @@ void LinuxUserDefaults::reportReading(const QString& failure) const
 bool LinuxUserDefaults::setAside() const
 {
     if (m_access == SettingsAccess::ReadOnly) {
-        reportReading(QStringLiteral("%1 is damaged").arg(QFile::decodeName(m_file.path())));
+        reportReading(QStringLiteral("%1 is damaged").arg(pathText(m_file.path())));
         return false;
     }
     const auto lock = lockFor(m_file.path(), readerPatience);
     if (lock)
         return setAsideLocked();
     reportReading(QStringLiteral("%1 is damaged and cannot be set aside: %2")
-                      .arg(QFile::decodeName(m_file.path()), qt_error_string(errno)));
+                      .arg(pathText(m_file.path()), qt_error_string(errno)));
     return false;
 }
 
@@ -142,12 +128,11 @@ bool LinuxUserDefaults::setAsideLocked() const
     const int error = renameAsDamaged(linkTarget(m_file.path()), newPath);
     if (error != 0) {
         reportReading(QStringLiteral("%1 is damaged and cannot be set aside: %2")
-                          .arg(QFile::decodeName(m_file.path()), qt_error_string(error)));
+                          .arg(pathText(m_file.path()), qt_error_string(error)));
         return false;
     }
-    qCWarning(settingsLog).noquote() << QStringLiteral("%1 is damaged, set aside as %2")
-                                            .arg(QFile::decodeName(m_file.path()),
-                                                 QFile::decodeName(newPath));
+    qCWarning(settingsLog).noquote()
+        << QStringLiteral("%1 is damaged, set aside as %2").arg(pathText(m_file.path()), pathText(newPath));
     m_file.refresh();
     return true;
 }
@@ -164,7 +149,7 @@ void LinuxUserDefaults::setObject(const QString& key, const QVariant& value)
     const QString failure = store(key, value);
     if (!failure.isEmpty() && failure != m_writeFailure)
         qCWarning(settingsLog).noquote()
-            << QStringLiteral("cannot write %1: %2").arg(QFile::decodeName(m_file.path()), failure);
+            << QStringLiteral("cannot write %1: %2").arg(pathText(m_file.path()), failure);
     m_writeFailure = failure;
 }
 

@@ -8,8 +8,7 @@
 
 namespace quindle {
 
-/// The folder of the settings files: "quindle" in $XDG_CONFIG_HOME when that is an absolute path, else in
-/// ~/.config. Empty when the user has no home folder.
+/// The folder of the settings files: "quindle" in the user's configuration folder. Empty without one.
 QString settingsFolder();
 
 /// Whether files may be changed: a program that only looks leaves a damaged file where it is.

@@ -4,8 +4,7 @@
 
 namespace quindle {
 
-/// One Application Support directory: "quindle" in $XDG_DATA_HOME when that is an absolute path, else in
-/// ~/.local/share. None for a user without a home folder.
+/// One Application Support directory: "quindle" in the user's data folder. None without one.
 class LinuxUserDirectories : public UserDirectories
 {
 public:

@@ -1,9 +1,12 @@
 #include "platform/linux/LinuxWorkspace.h"
 
-#include <QFileInfo>
+#include <filesystem>
+
 #include <QLoggingCategory>
-#include <QProcess>
-#include <QStandardPaths>
+
+#include "common/Paths.h"
+#include "platform/linux/DetachedProcess.h"
+#include "platform/linux/ProgramFile.h"
 
 namespace quindle {
 
@@ -11,20 +14,13 @@ namespace {
 
 Q_LOGGING_CATEGORY(workspaceLog, "quindle.workspace")
 
-struct Command
+/// The command that has the desktop open `path`; none where no handler is installed.
+QList<QByteArray> openCommand(const QByteArray& path, const QStringList& handlerFolders)
 {
-    QString program;
-    QStringList arguments;
-};
-
-/// The command that has the desktop open `path`; its program is empty where no handler is installed.
-Command openCommand(const QString& path, const QStringList& handlerFolders)
-{
-    const QString xdgOpen = QStandardPaths::findExecutable(QStringLiteral("xdg-open"), handlerFolders);
-    if (!xdgOpen.isEmpty())
-        return {xdgOpen, {path}};
-    return {QStandardPaths::findExecutable(QStringLiteral("gio"), handlerFolders),
-            {QStringLiteral("open"), path}};
+    if (const QByteArray xdgOpen = programPath("xdg-open", handlerFolders); !xdgOpen.isEmpty())
+        return {xdgOpen, path};
+    const QByteArray gio = programPath("gio", handlerFolders);
+    return gio.isEmpty() ? QList<QByteArray>() : QList<QByteArray>{gio, "open", path};
 }
 
 } // namespace
@@ -48,15 +44,15 @@ void LinuxWorkspace::launchApplication(const QString& path)
 
 bool LinuxWorkspace::launch(const QString& path) const
 {
-    const QFileInfo target(path);
-    if (path.isEmpty() || !target.exists())
+    std::error_code error;
+    const auto target = std::filesystem::absolute(pathBytes(path).toStdString(), error);
+    if (path.isEmpty() || error || !std::filesystem::exists(target, error))
         return false;
-    const QString absolutePath = target.absoluteFilePath();
-    const Command command = target.isFile() && target.isExecutable()
-                                ? Command{absolutePath, {}}
-                                : openCommand(absolutePath, m_handlerFolders);
-    // Started detached it is not this process's child, so none has to be waited for.
-    return !command.program.isEmpty() && QProcess::startDetached(command.program, command.arguments);
+    const QByteArray absolutePath = QByteArray::fromStdString(target);
+    const bool isProgram = !programPath(absolutePath, {}).isEmpty();
+    const QList<QByteArray> command =
+        isProgram ? QList<QByteArray>{absolutePath} : openCommand(absolutePath, m_handlerFolders);
+    return !command.isEmpty() && startDetached(command);
 }
 
 } // namespace quindle

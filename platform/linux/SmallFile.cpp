@@ -1,11 +1,11 @@
 #include "platform/linux/SmallFile.h"
 
-#include <QFile>
 #include <QString>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include "common/Paths.h"
 #include "platform/linux/FileDescriptor.h"
 
 namespace quindle {
@@ -14,7 +14,7 @@ std::optional<QByteArray> readSmallFile(const QString& path)
 {
     constexpr qsizetype limit = qsizetype{64} * 1024;
     const FileDescriptor file(
-        open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+        open(pathBytes(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
     struct stat status
     {
     };

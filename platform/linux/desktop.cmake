@@ -5,9 +5,14 @@ target_sources(quindle_platform_linux PRIVATE
     BusLink.cpp
     BusLink.h
     DesktopEntry.cpp
+    DetachedProcess.cpp
+    DisplayKey.cpp
     EndOfProcess.cpp
     FileLock.cpp
     FileReplacement.cpp
+    InstanceBusName.cpp
+    InstanceBusName.h
+    InstanceFiles.cpp
     LinuxApplication.cpp
     LinuxLoginItems.cpp
     LinuxNotifications.cpp
@@ -15,8 +20,12 @@ target_sources(quindle_platform_linux PRIVATE
     LinuxRunLoop.cpp
     LinuxUserDefaults.cpp
     LinuxUserDirectories.cpp
+    ProgramFile.cpp
     PropertyListFile.cpp
     SingleInstance.cpp
+    StandardError.cpp
+    StartDeadline.cpp
     TimerSchedule.cpp
+    UserFolders.cpp
     X11Desktop.cpp
 )

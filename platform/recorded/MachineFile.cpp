@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "common/FileContents.h"
 #include "common/Paths.h"
 #include "common/PropertyList.h"
 
@@ -280,9 +281,12 @@ QString groupDatabaseName()
 
 MachineResult readMachineFile(const QString& path)
 {
-    const std::optional<QVariant> root = propertyListFromFile(path);
+    const FileContents file = fileContents(path, mostPropertyListBytes);
+    if (file.error != 0)
+        return refusal(path, readingFault(file.error));
+    const std::optional<QVariant> root = propertyListFromBytes(file.bytes);
     if (!root)
-        return refusal(path, QStringLiteral("not a property list, or not readable"));
+        return refusal(path, QStringLiteral("is not a property list"));
     return machineFromPropertyList(*root, path);
 }
 

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include "common/Paths.h"
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxLoginItems.h"
 #include "preferences/StartupLaunch_pref.h"
@@ -15,7 +16,7 @@ int main(int argc, char** argv)
 {
     if (argc != 3)
         return 2;
-    const LinuxBundle bundle(QString::fromLocal8Bit(argv[1]));
+    const LinuxBundle bundle(pathText(argv[1]));
     LinuxLoginItems items(loginItemPlaces(bundle.path()));
     const QString wish = QString::fromLocal8Bit(argv[2]);
     if (wish != u"ask")

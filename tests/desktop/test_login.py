@@ -3,6 +3,7 @@
 
 import os
 import plistlib
+import shutil
 import unittest
 from pathlib import Path
 
@@ -12,26 +13,32 @@ PEER = os.environ.get("QUINDLE_LOGIN_PEER", "")
 OWN = "com.fernhollow.Quindle-Helper.desktop"
 
 
-class Login(HelperCase):
+class LoginCase(HelperCase):
+    program = HELPER
+
     def setUp(self):
-        self.autostart = Path(self.desktop.env["XDG_CONFIG_HOME"]) / "autostart"
+        self.autostart, places = self.surroundings()
         path = self.desktop.root / "machine.plist"
         path.write_bytes(plistlib.dumps(machine(42)))
         system = self.desktop.root / "system"  # no entries of this computer's
         system.mkdir(exist_ok=True)
-        self.session = {"QUINDLE_MACHINE": str(path), "XDG_CONFIG_DIRS": str(system)}
+        self.session = {"QUINDLE_MACHINE": str(path), "XDG_CONFIG_DIRS": str(system), **places}
         self.addCleanup(self.end_helper)
         self.addCleanup(self.login_item, "off")
 
+    def surroundings(self):
+        """The folder of the user's autostart entries, and what in the environment says so."""
+        return Path(self.desktop.env["XDG_CONFIG_HOME"]) / "autostart", {}
+
     def login_item(self, wish):
-        return self.desktop.call(PEER, HELPER, wish)
+        return self.desktop.call(PEER, self.program, wish, env=self.session)
 
     def helpers(self):
         """Processes of the helper on this desktop, whoever started them."""
         running = []
         for pid in self.desktop._own_processes():
             try:
-                if os.path.realpath(f"/proc/{pid}/exe") == os.path.realpath(HELPER):
+                if os.path.realpath(f"/proc/{pid}/exe") == os.path.realpath(self.program):
                     running.append(pid)
             except OSError:
                 continue
@@ -53,7 +60,7 @@ class Login(HelperCase):
 
     def log_in_with_lxqt(self):
         # It starts nothing before there is a window manager, and its own where there is none.
-        folder = Path(self.desktop.env["XDG_CONFIG_HOME"]) / "lxqt"
+        folder = self.autostart.parent / "lxqt"
         folder.mkdir(exist_ok=True)
         (folder / "session.conf").write_text("[General]\nwindow_manager=openbox\nleave_confirmation=false\n")
         process = self.desktop.start("lxqt-session", env={**self.session, "XDG_CURRENT_DESKTOP": "LXQt"})
@@ -63,6 +70,11 @@ class Login(HelperCase):
             process.wait(10)
         self.addCleanup(end)
 
+    def launch_with_gio(self):
+        self.desktop.start("gio", "launch", self.autostart / OWN, env=self.session).wait(20)
+
+
+class Login(LoginCase):
     def test_enabled_starts_with_dex(self):
         self.assertEqual(self.login_item("on"), "on")
         self.log_in_with_dex()
@@ -98,6 +110,48 @@ class Login(HelperCase):
         self.log_in_with_dex()
         self.assertTrue(wait_for(marker.exists, 10), "the session started nothing at all")
         self.assertEqual(self.helpers(), [])
+
+
+class OddInstallation(LoginCase):
+    """Installed where the path has characters that sessions read differently in an entry."""
+
+    folder = "100% of $ure `things\\"
+
+    def setUp(self):
+        super().setUp()
+        bundle = Path(HELPER).parents[2]
+        copied = self.desktop.root / self.folder / bundle.name
+        if not copied.exists():
+            shutil.copytree(bundle, copied)
+        self.program = copied / "Contents/Linux/quindle-helper"
+        self.assertEqual(self.login_item("on"), "on")
+
+    def test_starts_with_gio(self):
+        self.launch_with_gio()
+        self.assert_one_helper()
+
+    def test_starts_with_dex(self):
+        self.log_in_with_dex()
+        self.assert_one_helper()
+
+    def test_starts_with_lxqt(self):
+        self.log_in_with_lxqt()
+        self.assert_one_helper()
+
+    def test_leaves_nothing_behind(self):
+        self.assertEqual(self.login_item("off"), "off")
+        self.assertEqual(list(self.autostart.iterdir()), [])
+        self.assertFalse((self.autostart.parent / "quindle/quindle-helper").is_symlink())
+
+
+class OddHome(OddInstallation):
+    """The home folder's path, in which the settings are, has them too."""
+
+    folder = "home/100% $ure/Applications"
+
+    def surroundings(self):
+        home = self.desktop.root / "home/100% $ure"
+        return home / ".config/autostart", {"HOME": str(home), "XDG_CONFIG_HOME": str(home / ".config")}
 
 
 if __name__ == "__main__":

@@ -44,11 +44,16 @@ class CommandLine(unittest.TestCase):
         with open(self.machine, "wb") as file:
             plistlib.dump(MACHINE, file)
 
+    def supplies(self):
+        """A folder to stand for /sys, without any supply."""
+        os.makedirs(self.path("class/power_supply"), exist_ok=True)
+        return self.folder
+
     def path(self, name):
         return os.path.join(self.folder, name)
 
     def run_program(self, *arguments, **environment):
-        clean = {"PATH": os.environ["PATH"], "TZ": "UTC", "HOME": self.folder, "XDG_CONFIG_HOME": self.folder}
+        clean = {"PATH": os.environ["PATH"], "TZ": "UTC", "LC_ALL": "C.UTF-8", "HOME": self.folder, "XDG_CONFIG_HOME": self.folder}
         return subprocess.run([PROGRAM, *arguments], env=clean | environment, capture_output=True, text=True,
                               timeout=60)
 
@@ -72,10 +77,41 @@ class CommandLine(unittest.TestCase):
             self.assertEqual((result.returncode, result.stderr), (0, ""))
             self.assertTrue(result.stdout.startswith(text))
 
-    def test_missing_machine_file(self):
-        result = self.run_program("--json", "--machine", "/nonexistent/x.plist")
+    def assert_refused(self, path, reason):
+        result = self.run_program("--json", "--machine", path)
         self.assertEqual((result.returncode, result.stdout), (2, ""))
-        self.assertIn("/nonexistent/x.plist", result.stderr)
+        self.assertEqual(result.stderr, f"quindle-inspect: {path}: {reason}\n")
+
+    def test_a_refusal_says_whether_the_file_or_what_is_in_it_is_at_fault(self):
+        self.assert_refused("/nonexistent/x.plist", "cannot be read: No such file or directory")
+        with open(self.path("text"), "w", encoding="ascii") as file:
+            file.write("hello")
+        self.assert_refused(self.path("text"), "is not a property list")
+        os.truncate(self.path("text"), 64 * 1024 * 1024 + 1)
+        self.assert_refused(self.path("text"), "is too large")
+
+    def test_a_machine_file_that_is_none_is_refused_at_once(self):
+        os.mkfifo(self.path("pipe"))
+        for path in (self.path("pipe"), self.folder, "/dev/zero", "/dev/tty"):
+            self.assert_refused(path, "is not an ordinary file")
+
+    def test_a_folder_without_supplies_is_no_computer(self):
+        for arguments, environment in ((["--sysfs", self.folder], {}), ([], {"QUINDLE_SYSFS": self.folder})):
+            result = self.run_program("--json", *arguments, **environment)
+            self.assertEqual((result.returncode, result.stdout), (2, ""))
+            self.assertEqual(result.stderr, f"quindle-inspect: {self.folder}: holds no folder class/power_supply\n")
+
+    def test_a_capture_holds_no_users_name(self):
+        for path, neutral in (("/home/jane/Apps/Quindle-Helper.app", "/home/user/Apps/Quindle-Helper.app"),
+                              ("/Users/jane/Quindle-Helper.app", "/Users/user/Quindle-Helper.app"),
+                              (self.folder + "/Quindle-Helper.app", "/home/user/Quindle-Helper.app")):
+            with open(self.machine, "wb") as file:
+                plistlib.dump(MACHINE | {"Bundle": {"Path": path}}, file)
+            target = self.path("capture.plist")
+            for environment in ({}, {"HOME": ""}) if "jane" in path else ({},):
+                self.run_program("--machine", self.machine, "--capture", target, **environment)
+                with open(target, "rb") as file:
+                    self.assertEqual(plistlib.load(file)["Bundle"]["Path"], neutral)
 
     def assert_mode_is_fatal(self, key, value, file, *arguments):
         result = self.run_program("--json", *arguments)
@@ -211,7 +247,7 @@ class CommandLine(unittest.TestCase):
         for name in names:
             with open(os.path.join(settings, name), "w", encoding="ascii") as file:
                 file.write("damaged")
-        result = self.run_program("--json", "--sysfs", self.folder)
+        result = self.run_program("--json", "--sysfs", self.supplies())
         self.assertEqual(result.returncode, 0)
         self.assertEqual(sorted(os.listdir(settings)), names)
 
@@ -222,14 +258,14 @@ class CommandLine(unittest.TestCase):
         for name, program in (("a", f'"{bundle}/Contents/Linux/quindle-helper"'), ("b", "/bin/sh")):
             with open(os.path.join(autostart, name + ".desktop"), "w", encoding="utf-8") as file:
                 file.write(f"[Desktop Entry]\nType=Application\nName=x\nExec={program}\n")
-        seen = json.loads(self.run_program("--json", "--sysfs", self.folder).stdout)["isAppLoginItem"]
+        seen = json.loads(self.run_program("--json", "--sysfs", self.supplies()).stdout)["isAppLoginItem"]
         target = self.path("capture.plist")
-        self.run_program("--sysfs", self.folder, "--capture", target)
+        self.run_program("--sysfs", self.supplies(), "--capture", target)
         with open(target, "rb") as file:
             items = plistlib.load(file)["LoginItems"]
         again = json.loads(self.run_program("--json", "--machine", target).stdout)["isAppLoginItem"]
         os.remove(os.path.join(autostart, "a.desktop"))
-        gone = json.loads(self.run_program("--json", "--sysfs", self.folder).stdout)["isAppLoginItem"]
+        gone = json.loads(self.run_program("--json", "--sysfs", self.supplies()).stdout)["isAppLoginItem"]
         self.assertEqual((seen, again, gone), (True, True, False))
         self.assertEqual(len(items), 1)
         self.assertEqual(os.listdir(autostart), ["b.desktop"])

@@ -66,7 +66,8 @@ TITLES = [
         {"Actions": ["SettingsChangedNotification"]}]), [(1, "app/refreshes", 2)]),
     Case("an update about to happen does nothing", machine(battery=charge(50), steps=[
         {"Actions": ["WillUpdateImmediately"]}]), [(1, "app/refreshes", 1)]),
-    Case("ten thousand characters", titled("😀ש%p\n" * 2000, charge(5)), title("😀ש5.0\n" * 2000)),
+    Case("of ten thousand characters 4,096 count", titled("😀ש%p\n" * 2000, charge(5)),
+         title("😀ש5.0\n" * 682 + "😀ש%")),
 ]
 
 

@@ -126,8 +126,16 @@ TEST(TitleTemplateFigures, PassingOnesArePowerCurrentAndTime)
 
 TEST(TitleTemplateLength, LongTemplateIsExact)
 {
-    const QString title = titleFromTemplate(QStringLiteral("%p").repeated(5000), discharging());
-    EXPECT_EQ(title, QStringLiteral("87.0").repeated(5000));
+    const QString title = titleFromTemplate(QStringLiteral("%p").repeated(2048), discharging());
+    EXPECT_EQ(title, QStringLiteral("87.0").repeated(2048));
+}
+
+TEST(TitleTemplateLength, WhatIsBeyondTheLimitIsNotShown)
+{
+    const QString filling(4095, u'x');
+    EXPECT_EQ(titleFromTemplate(filling + QStringLiteral("yz%p"), discharging()), filling + u'y');
+    EXPECT_EQ(titleFromTemplate(filling + QStringLiteral("%p"), discharging()), filling + u'%');
+    EXPECT_EQ(titleFromTemplate(filling + QStringLiteral("😀"), discharging()), filling);
 }
 
 } // namespace

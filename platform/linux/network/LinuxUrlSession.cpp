@@ -1,11 +1,12 @@
 #include "platform/linux/network/LinuxUrlSession.h"
 
+#include <dlfcn.h>
 #include <utility>
 
-#include <QLibrary>
 #include <QLoggingCategory>
 #include <QUrl>
 
+#include "common/Paths.h"
 #include "platform/Bundle.h"
 
 namespace quindle {
@@ -45,13 +46,16 @@ UrlSession* LinuxUrlSession::sessionFor(const QString& url)
     if (QUrl(url).host().isEmpty() || m_loaded)
         return m_session.get();
     m_loaded = true;
-    QLibrary module(m_modulePath);
     using MakeUrlSession = UrlSession* (*)();
-    const auto make = reinterpret_cast<MakeUrlSession>(module.resolve("quindleMakeUrlSession"));
+    // Never closed: what it made outlives any moment at which it could be.
+    void* const module = ::dlopen(pathBytes(m_modulePath).constData(), RTLD_LAZY);
+    const auto make =
+        module ? reinterpret_cast<MakeUrlSession>(::dlsym(module, "quindleMakeUrlSession")) : nullptr;
     if (make)
         m_session.reset(make());
     else
-        qCWarning(networkLog).noquote() << QStringLiteral("no network: ") + module.errorString();
+        qCWarning(networkLog).noquote()
+            << QStringLiteral("no network: ") + QString::fromLocal8Bit(::dlerror());
     return m_session.get();
 }
 

@@ -3,19 +3,22 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <filesystem>
+#include <functional>
 #include <span>
 
-#include <QDir>
-#include <QFileInfo>
+#include <QBuffer>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPainter>
-#include <QSaveFile>
-#include <QStandardPaths>
 #include <QSvgRenderer>
 
+#include "common/FileContents.h"
+#include "common/Paths.h"
+#include "platform/linux/FileReplacement.h"
+#include "platform/linux/UserFolders.h"
 #include "platform/linux/statusitem/StripPainting.h"
 #include "platform/linux/statusitem/TextDrawing.h"
 
@@ -156,17 +159,58 @@ QImage wideText(const Picture& picture, const QImage& icon, int height)
     return image;
 }
 
-/// The folder of pictures that hosts read and that are not in the bundle.
+/// The folder of pictures that hosts read and that are not in the bundle; empty when there is none.
 QString writtenPictures()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
-           QStringLiteral("/quindle-helper-icons");
+    const QString runtime = runtimeFolder();
+    const QString folder = runtime.isEmpty() ? cacheFolder() : runtime;
+    return folder.isEmpty() ? QString() : folder + QStringLiteral("/quindle-helper-icons");
+}
+
+/// Whether a path can be told over the bus, which takes text only.
+bool isTellable(const QString& path)
+{
+    return !path.isEmpty() && path.isValidUtf16();
+}
+
+bool isThere(const QString& path)
+{
+    std::error_code error;
+    return std::filesystem::exists(pathBytes(path).toStdString(), error);
+}
+
+QByteArray contentsOf(const QString& path)
+{
+    constexpr qint64 mostBytes = 1024 * 1024; // a drawing has a thousandth of that
+    return fileContents(path, mostBytes).bytes;
+}
+
+/// The file of that name among the written pictures, made by `make` if it is not there yet; empty if it could
+/// not be written, or not be told.
+QString writtenPicture(const QString& name, const std::function<QByteArray()>& make)
+{
+    const QString folder = writtenPictures();
+    if (!isTellable(folder))
+        return {};
+    QString path = folder + u'/' + name;
+    if (isThere(path))
+        return path;
+    const QByteArray bytes = make();
+    const bool isWritten =
+        !bytes.isEmpty() && makeFolder(pathBytes(folder)) == 0 && replaceFile(pathBytes(path), bytes) == 0;
+    return isWritten ? path : QString();
+}
+
+QByteArray pngOf(const QImage& image)
+{
+    QBuffer buffer;
+    return image.save(&buffer, "PNG") ? buffer.data() : QByteArray();
 }
 
 /// The glyph of a file in one colour, in its place on a square of that size.
 QImage rendered(const QString& file, int size, const QColor& colour)
 {
-    QSvgRenderer renderer(file);
+    QSvgRenderer renderer(contentsOf(file));
     if (!renderer.isValid())
         return {};
     QImage image = blankImage(size, size);
@@ -228,36 +272,32 @@ std::vector<QImage> StatusPictures::images(const Picture& picture)
 
 QString StatusPictures::file(const Picture& picture)
 {
-    const QString folder = writtenPictures();
     QString name = picture.imageName + picture.text;
     name.removeIf([](QChar c) { return !c.isLetterOrNumber(); });
-    name += QString::number(picture.ink, 16);
-    QString path = folder + QLatin1Char('/') + name + QStringLiteral(".png");
-    if (QFileInfo::exists(path))
-        return path;
-    const bool written = QDir().mkpath(folder) && image(picture, squareSizes.back()).save(path);
-    return written ? path : QString();
+    name += QString::number(picture.ink, 16) + QStringLiteral(".png");
+    return writtenPicture(name, [&] { return pngOf(image(picture, squareSizes.back())); });
 }
 
 QString StatusPictures::drawing(const Picture& picture) const
 {
-    if (picture.kind != Picture::Kind::Text) {
-        QString path = drawingOfImage(picture.imageName, picture.isSmall ? smallGridSize : gridSize);
-        return QFileInfo::exists(path) ? path : QString();
-    }
-    const QString name = QString::fromLatin1(picture.text.toUtf8().toHex());
-    QString path = writtenPictures() + QLatin1Char('/') + name + symbolic();
-    if (QFileInfo::exists(path))
+    if (picture.kind == Picture::Kind::Text)
+        return writtenPicture(QString::fromLatin1(picture.text.toUtf8().toHex()) + symbolic(),
+                              [&] { return textDrawing(picture.text); });
+    const int grid = picture.isSmall ? smallGridSize : gridSize;
+    QString path = drawingOfImage(picture.imageName, grid);
+    if (!isThere(path))
+        return {};
+    if (isTellable(path))
         return path;
-    QSaveFile file(path);
-    const bool written = QDir().mkpath(writtenPictures()) && file.open(QIODevice::WriteOnly) &&
-                         file.write(textDrawing(picture.text)) > 0 && file.commit();
-    return written ? path : QString();
+    return writtenPicture(QString::number(grid) + u'-' + picture.imageName + symbolic(),
+                          [&] { return contentsOf(path); });
 }
 
 QString StatusPictures::transparentFile() const
 {
-    return m_iconsDirectory + QStringLiteral("/transparent.png");
+    const QString name = QStringLiteral("transparent.png");
+    QString path = m_iconsDirectory + u'/' + name;
+    return isTellable(path) ? path : writtenPicture(name, [&] { return contentsOf(path); });
 }
 
 QString StatusPictures::drawingOfImage(const QString& name, int grid) const

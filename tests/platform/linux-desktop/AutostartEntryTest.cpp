@@ -1,5 +1,6 @@
 #include "platform/linux/AutostartEntry.h"
 
+#include "common/Paths.h"
 #include "tests/platform/linux-desktop/AutostartFolder.h"
 #include "tests/support/QtPrinters.h"
 
@@ -24,7 +25,7 @@ protected:
     {
         lines.replace("{bundle}", QFile::encodeName(folder.bundle()));
         lines.replace("{bin}", QFile::encodeName(folder.path(QStringLiteral("bin"))));
-        return urlStartedBy("[Desktop Entry]\n" + lines + '\n', {folder.path(QStringLiteral("bin"))});
+        return urlStartedBy("[Desktop Entry]\n" + lines + '\n', {folder.path(QStringLiteral("bin"))}, {});
     }
 
     QString inBin(const char* name) const
@@ -88,23 +89,60 @@ TEST_F(AutostartEntryTest, WhatStartsNothingDoesNotResolve)
              "[Desktop Action x]\nExec=quindle-helper",
          })
         EXPECT_EQ(started(lines), std::nullopt) << lines;
-    EXPECT_EQ(urlStartedBy("Exec=other\n", {folder.path(QStringLiteral("bin"))}), std::nullopt);
+    EXPECT_EQ(urlStartedBy("Exec=other\n", {folder.path(QStringLiteral("bin"))}, {}), std::nullopt);
 }
 
 TEST_F(AutostartEntryTest, TheSearchPathIsAskedWithoutFoldersOfItsOwn)
 {
-    EXPECT_EQ(urlStartedBy("[Desktop Entry]\nExec=sh\n", {}),
+    EXPECT_EQ(urlStartedBy("[Desktop Entry]\nExec=sh\n", {}, {}),
               fileUrl(QFileInfo(QStringLiteral("/bin/sh")).canonicalFilePath()));
 }
 
 TEST_F(AutostartEntryTest, AWrittenEntryStartsTheBundle)
 {
-    EXPECT_EQ(urlStartedBy(autostartEntry(folder.program()), {}), folder.bundleUrl());
+    EXPECT_EQ(urlStartedBy(autostartEntry(startCommand(folder.program(), {}, {}).exec), {}, {}),
+              folder.bundleUrl());
+}
+
+TEST_F(AutostartEntryTest, ACommandIsOneThatEverySessionReads)
+{
+    const QString link = QStringLiteral("/home/jane/.config/quindle/quindle-helper");
+    const QString home = QStringLiteral("/home/jane");
+    const auto command = [&](const QByteArray& program, const QString& linkPath, const QString& homePath) {
+        return startCommand(pathText(program), linkPath, homePath).exec;
+    };
+    for (const char* plain :
+         {"/opt/q", "/opt/Quindle Helper (new)/q", "/opt/zoë's & co/~q#1;<>*?|=!{}[]^+,@:'"})
+        EXPECT_EQ(command(plain, link, home), '"' + QByteArray(plain) + '"');
+    for (const char* odd :
+         {"/opt/100%/q", "/opt/$q", "/opt/`q`", "/opt/a\\b", "/opt/\"q\"", "/opt/\xff", "/opt/a\nb"})
+        EXPECT_EQ(command(odd, link, home), '"' + link.toUtf8() + '"') << odd;
+    const QString oddHome = QStringLiteral("/home/100%");
+    const QString linkInOddHome = oddHome + QStringLiteral("/.config/quindle/quindle-helper");
+    EXPECT_EQ(command("/home/100%/q", linkInOddHome, oddHome),
+              "sh -c \"cd && exec ./.config/quindle/quindle-helper\"");
+    // Nothing that all of them read is left.
+    EXPECT_EQ(command("/opt/100%/q", QStringLiteral("/100%/quindle-helper"), home), "\"/opt/100%%/q\"");
+    EXPECT_EQ(command("/opt/100%/q", QStringLiteral("/home/100%/$c/quindle-helper"), oddHome),
+              "\"/opt/100%%/q\"");
+    EXPECT_EQ(command("/opt/100%/q", {}, home), "\"/opt/100%%/q\"");
+}
+
+TEST_F(AutostartEntryTest, ACommandInTheHomeFolderIsSeenThroughItsShell)
+{
+    const QString home = folder.path(QStringLiteral("100%"));
+    QDir().mkpath(home);
+    QFile::link(folder.program(), home + QStringLiteral("/link"));
+    const QByteArray entry =
+        autostartEntry(startCommand(QStringLiteral("/odd%"), home + QStringLiteral("/link"), home).exec);
+    EXPECT_EQ(urlStartedBy(entry, {}, home), folder.bundleUrl());
+    EXPECT_NE(urlStartedBy(entry, {}, {}), folder.bundleUrl());
+    EXPECT_NE(urlStartedBy(entry, {}, folder.path(QStringLiteral("other"))), folder.bundleUrl());
 }
 
 TEST_F(AutostartEntryTest, AWrittenEntryIsWhatSessionsRead)
 {
-    EXPECT_EQ(autostartEntry(QStringLiteral("/usr/lib/Quindle Helper/quindle-helper")),
+    EXPECT_EQ(autostartEntry("\"/usr/lib/Quindle Helper/quindle-helper\""),
               "[Desktop Entry]\n"
               "Type=Application\n"
               "Name=Quindle Helper\n"

@@ -36,8 +36,10 @@ public:
     {
         return {.entries = entries(),
                 .lock = configuration() + QStringLiteral("/quindle/autostart.lock"),
+                .link = configuration() + QStringLiteral("/quindle/quindle-helper"),
                 .bundle = bundle(),
-                .programFolders = {path(QStringLiteral("bin"))}};
+                .programFolders = {path(QStringLiteral("bin"))},
+                .home = path(QStringLiteral("home"))};
     }
 
     static void addProgram(const QString& path)

@@ -1,12 +1,12 @@
 // A second process for tests: starts as the helper does, and says on standard output what became of it.
 //
-//     quindle_desktop_peer FOLDER NAME     "first", then "show" for each request; or "asked" and the end
+//     quindle_desktop_peer STEM     "first", then "show" for each request; or "asked" and the end
 
 #include <cstdio>
 
 #include <QCoreApplication>
 
-#include "platform/linux/SingleInstance.h"
+#include "platform/linux/InstanceFiles.h"
 
 namespace {
 
@@ -20,16 +20,19 @@ void say(const char* word)
 
 int main(int argc, char** argv)
 {
+    using Outcome = quindle::StartAnswer::Outcome;
     const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    quindle::SingleInstance instance(arguments.at(1), arguments.at(2));
+    quindle::InstanceFiles instance({QCoreApplication::arguments().at(1)});
     instance.setShowRequested([] { say("show"); });
-    if (instance.acquire()) {
+    switch (instance.start().outcome) {
+    case Outcome::First:
         say("first");
         return QCoreApplication::exec();
+    case Outcome::AnotherWoken:
+        say("asked");
+        return 0;
+    case Outcome::GivenUp:
+        break;
     }
-    if (!instance.askFirstToShow())
-        return 1;
-    say("asked");
-    return 0;
+    return 1;
 }

@@ -5,7 +5,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "common/Paths.h"
 #include "platform/linux/FileLock.h"
+#include "platform/linux/FileReplacement.h"
 #include "preferences/StartupLaunch_pref.h"
 #include "tests/platform/LoginItemsContract.h"
 #include "tests/platform/linux-desktop/AutostartFolder.h"
@@ -363,6 +365,30 @@ TEST_F(LinuxLoginItemsTest, AnotherWriterIsNotWaitedForWithoutEnd)
     launchOnLogin(true);
     EXPECT_FALSE(isLoginItem());
     EXPECT_EQ(messages().size(), 1);
+}
+
+TEST_F(LinuxLoginItemsTest, AProgramAtAPathThatNotAllSessionsReadIsStartedThroughALink)
+{
+    for (const QByteArray name : {"100%", "a\xff"}) {
+        const QByteArray bundle =
+            QFile::encodeName(folder.path(QStringLiteral("lib/"))) + name + "/Quindle-Helper.app";
+        ASSERT_EQ(::mkdir(folderOf(bundle).constData(), 0700), 0);
+        ASSERT_EQ(::symlink(QFile::encodeName(folder.bundle()).constData(), bundle.constData()), 0);
+        LoginItemPlaces places = folder.places();
+        places.bundle = pathText(bundle);
+        LinuxLoginItems odd(places);
+        StartupLaunch_pref::setLaunchOnLogin(odd, places.bundle, true);
+        const QByteArray link = QFile::encodeName(places.link);
+        EXPECT_TRUE(folder.entry(own).contains("\nExec=\"" + link + "\"\n"))
+            << folder.entry(own).toStdString();
+        EXPECT_EQ(linkTarget(link), bundle + "/Contents/Linux/quindle-helper");
+        EXPECT_EQ(odd.resolve(odd.snapshot()->front()), folder.bundleUrl());
+        StartupLaunch_pref::setLaunchOnLogin(odd, folder.bundle(), false);
+        EXPECT_FALSE(QFileInfo::exists(places.link));
+        EXPECT_EQ(folder.entryNames(), QStringList());
+        ::unlink(bundle.constData());
+        ::rmdir(folderOf(bundle).constData());
+    }
 }
 
 TEST(LoginItemPlaces, AreBesideTheSettings)

@@ -2,12 +2,15 @@
 #include <thread>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "common/Paths.h"
 #include "common/PropertyList.h"
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxClock.h"
@@ -158,6 +161,16 @@ TEST_F(LinuxWorkspaceTest, GivesFoldersAndFilesToTheDesktop)
     const QString preferred = write("bin/xdg-open", scriptThatNotes("xdg-note"), true);
     LinuxWorkspace({path("bin")}).launchApplication(folder.path());
     EXPECT_EQ(written("xdg-note"), preferred.toUtf8() + '|' + folder.path().toUtf8() + '\n');
+}
+
+TEST_F(LinuxWorkspaceTest, OpensWhatHasANameThatIsNotUtf8)
+{
+    const QByteArray odd = QFile::encodeName(path("odd")) + "\xff";
+    ASSERT_EQ(::mkdir(odd.constData(), 0700), 0);
+    write("bin/xdg-open", scriptThatNotes("xdg-note"), true);
+    LinuxWorkspace({path("bin")}).launchApplication(pathText(odd));
+    EXPECT_TRUE(written("xdg-note").endsWith('|' + odd + '\n'));
+    ::rmdir(odd.constData());
 }
 
 TEST_F(LinuxWorkspaceTest, LogsAFailureOnce)

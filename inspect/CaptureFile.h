@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+#include <QVariantMap>
+
+namespace quindle {
+
+/// Writes the keys as a machine file that only its owner can read, replacing the file at once or not at all;
+/// a device or pipe is written into. The reason of a failure; empty on success.
+QString writeMachineFile(const QString& path, const QVariantMap& keys);
+
+} // namespace quindle

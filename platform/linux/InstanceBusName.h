@@ -1,0 +1,62 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QObject>
+#include <QVariantMap>
+
+#include "platform/linux/BusLink.h"
+#include "platform/linux/StartAnswer.h"
+
+namespace quindle {
+
+/// What others of the session may ask of the one that runs.
+class ApplicationAdaptor : public QDBusAbstractAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    ApplicationAdaptor(QObject* object, std::function<void()> activated);
+
+public Q_SLOTS:
+    void Activate(const QVariantMap& platformData);
+
+private:
+    std::function<void()> m_activated;
+};
+
+/// Sees to it that one process runs for a session bus: the bus gives a name to one of its connections. The
+/// name is taken again on each bus that comes later. Main thread only.
+class InstanceBusName : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit InstanceBusName(QObject* parent = nullptr);
+
+    /// Takes the name, or asks who has it to open the battery view, for which it gets up to four seconds.
+    /// Nothing where there is no bus, or one that gives no names: then the name is taken once there is.
+    std::optional<StartAnswer> start();
+
+    void setShowRequested(std::function<void()> showRequested) { m_showRequested = std::move(showRequested); }
+
+    /// Says what happens when another one has the name on a bus that came later.
+    void setTakenByAnother(std::function<void()> taken) { m_takenByAnother = std::move(taken); }
+
+private:
+    void offer(QDBusConnection& connection);
+    void takeLater(const QDBusConnection& connection);
+    std::optional<StartAnswer> startOn(const QDBusConnection& connection) const;
+
+    BusLink m_link;
+    bool m_isStarted = false;
+    std::function<void()> m_showRequested;
+    std::function<void()> m_takenByAnother;
+};
+
+} // namespace quindle

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+/// What a start is to do, so that one helper runs.
+struct StartAnswer
+{
+    enum class Outcome {
+        First,        ///< run
+        AnotherWoken, ///< another one runs and was asked to open its battery view: end
+        GivenUp,      ///< end, and say why
+    };
+
+    Outcome outcome = Outcome::First;
+    QString fault; ///< of GivenUp, one line
+};
+
+} // namespace quindle
