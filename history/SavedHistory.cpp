@@ -4,7 +4,7 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 
-#include "history/KeyedArchive.h"
+#include "plist/KeyedArchive.h"
 
 namespace quindle {
 

@@ -4,7 +4,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "inspect/InventedSerial.h"
 #include "inspect/SettingsDatabases.h"
 #include "mac/QDMac.h"

@@ -9,7 +9,7 @@
 #include <QFile>
 #include <QLoggingCategory>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "platform/linux/FileLock.h"
 #include "platform/linux/FileReplacement.h"
 

@@ -8,7 +8,7 @@
 #include <QFileInfo>
 
 #include "common/Paths.h"
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 
 namespace quindle {
 

@@ -8,7 +8,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxHost.h"

@@ -1,4 +1,4 @@
-#include "history/KeyedArchive.h"
+#include "plist/KeyedArchive.h"
 
 #include <gtest/gtest.h>
 
@@ -188,6 +188,21 @@ TEST(KeyedArchiveKeys, HaveAsManyValues)
         EXPECT_FALSE(recordsFromKeyedArchive(archiveOf(array(uids({4})) + dictionary(uids({5, 6}), values) +
                                                        abTexts + oneTwoThree))
                          .fault.isEmpty());
+}
+
+TEST(KeyedArchiveDates, ReachAsFarAsADateCan)
+{
+    const auto readDate = [](const char* seconds) {
+        return recordsFromKeyedArchive(archiveOf(array(uids({4})) + dictionary(uids({5}), uids({6})) +
+                                                 "<string>k</string><dict><key>$class</key>" + uid(7) +
+                                                 "<key>NS.time</key><real>" + seconds + "</real></dict>" +
+                                                 "<dict><key>$classname</key><string>NSDate</string></dict>"))
+            .records;
+    };
+    ASSERT_EQ(readDate("1e300").size(), 1);
+    EXPECT_EQ(readDate("1e300"), readDate("inf"));
+    EXPECT_GT(readDate("inf").at(0).toMap().value(QStringLiteral("k")).toDate().year(), 200'000);
+    EXPECT_EQ(readDate("nan").size(), 0);
 }
 
 TEST(KeyedArchiveGarbage, TenMegabytesAreAnsweredQuickly)

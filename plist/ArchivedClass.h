@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QLatin1StringView>
-
-#include "history/PropertyListGraph.h"
+#include "plist/PropertyListGraph.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "history/ArchivedClass.h"
+#include "plist/ArchivedClass.h"
 
 #include <algorithm>
 #include <array>
