@@ -122,6 +122,7 @@ bool Unarchiver::readInstance(const Element& element, int level, Object& object)
     const ArchivedClass archived = classOf(element);
     switch (archived) {
     case ArchivedClass::Array:
+    case ArchivedClass::Set:
     case ArchivedClass::Dictionary:
         return readContainer(element, archived, level, object);
     case ArchivedClass::Text: {

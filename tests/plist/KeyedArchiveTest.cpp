@@ -120,14 +120,14 @@ QByteArray uids(std::initializer_list<int> numbers)
 }
 
 /// The objects 0 to 2 are null and the two classes; `objects` are those from 3, the root.
-QByteArray archiveOf(const QByteArray& objects)
+QByteArray archiveOf(const QByteArray& objects, const QByteArray& arrayClass = "NSArray")
 {
     const auto aClass = [](const QByteArray& name) {
         return "<dict><key>$classname</key><string>" + name + "</string></dict>";
     };
     return "<plist><dict><key>$archiver</key><string>NSKeyedArchiver</string><key>$top</key><dict>"
            "<key>root</key>" +
-           uid(3) + "</dict><key>$objects</key><array><string>$null</string>" + aClass("NSArray") +
+           uid(3) + "</dict><key>$objects</key><array><string>$null</string>" + aClass(arrayClass) +
            aClass("NSDictionary") + objects + "</array></dict></plist>";
 }
 
@@ -188,6 +188,22 @@ TEST(KeyedArchiveKeys, HaveAsManyValues)
         EXPECT_FALSE(recordsFromKeyedArchive(archiveOf(array(uids({4})) + dictionary(uids({5, 6}), values) +
                                                        abTexts + oneTwoThree))
                          .fault.isEmpty());
+}
+
+TEST(KeyedArchiveRoot, IsAnArray)
+{
+    struct
+    {
+        const char* rootClass;
+        qsizetype records;
+    } const rows[] = {{"NSArray", 1},      {"NSMutableArray", 1}, {"NSSet", 0},
+                      {"NSMutableSet", 0}, {"NSOrderedSet", 0},   {"NSMutableOrderedSet", 0}};
+    const QByteArray objects = array(uids({4})) + dictionary(uids({5}), uids({6})) + abTexts;
+    for (const auto& row : rows) {
+        const ArchivedRecords read = recordsFromKeyedArchive(archiveOf(objects, row.rootClass));
+        EXPECT_EQ(read.records.size(), row.records) << row.rootClass;
+        EXPECT_EQ(read.fault, row.records > 0 ? QString() : QStringLiteral("its root is no array"));
+    }
 }
 
 TEST(KeyedArchiveDates, ReachAsFarAsADateCan)
