@@ -6,7 +6,7 @@
 #include <QtEndian>
 #include <benchmark/benchmark.h>
 
-#include "history/KeyedArchive.h"
+#include "plist/KeyedArchive.h"
 
 using namespace quindle;
 

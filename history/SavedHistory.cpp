@@ -5,7 +5,7 @@
 #include <QLoggingCategory>
 
 #include "common/FileContents.h"
-#include "history/KeyedArchive.h"
+#include "plist/KeyedArchive.h"
 
 namespace quindle {
 

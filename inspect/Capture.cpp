@@ -13,6 +13,7 @@
 #include "platform/Platform.h"
 #include "platform/PowerSources.h"
 #include "platform/UserDefaults.h"
+#include "plist/PropertyList.h"
 #include "preferences/StartupLaunch_pref.h"
 
 namespace quindle {

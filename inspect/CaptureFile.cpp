@@ -7,9 +7,9 @@
 #include <unistd.h>
 
 #include "common/Paths.h"
-#include "common/PropertyList.h"
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/FileReplacement.h"
+#include "plist/PropertyList.h"
 
 namespace quindle {
 

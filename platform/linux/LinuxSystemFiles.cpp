@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxSystemFiles.h"
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 
 namespace quindle {
 

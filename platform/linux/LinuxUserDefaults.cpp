@@ -8,7 +8,7 @@
 #include <QLoggingCategory>
 
 #include "common/Paths.h"
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "platform/linux/FileLock.h"
 #include "platform/linux/FileReplacement.h"
 #include "platform/linux/UserFolders.h"

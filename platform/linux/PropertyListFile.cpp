@@ -4,7 +4,7 @@
 #include <cmath>
 #include <fcntl.h>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "platform/linux/FileDescriptor.h"
 
 namespace quindle {

@@ -9,7 +9,7 @@
 
 #include "common/FileContents.h"
 #include "common/Paths.h"
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 
 namespace quindle {
 

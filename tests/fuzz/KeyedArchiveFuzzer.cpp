@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "history/KeyedArchive.h"
+#include "plist/KeyedArchive.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

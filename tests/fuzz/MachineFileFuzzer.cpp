@@ -1,4 +1,4 @@
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "platform/recorded/MachineFile.h"
 #include "platform/recorded/RecordedComputer.h"
 #include "tests/fuzz/FuzzInput.h"

@@ -1,4 +1,4 @@
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "tests/fuzz/FuzzInput.h"
 
 using namespace quindle;

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

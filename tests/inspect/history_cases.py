@@ -234,6 +234,7 @@ ARCHIVES = [
     saved("shared record", archived([RECORD, RECORD]), [SHOWN, SHOWN]),
     saved("class known by what it inherits", archived([Instance("MyRecord", {"k": 1}, inherited=["NSDictionary"])]),
           [{"k": 1}]),
+    one_value("set inside a record", Instance("NSSet", [1, "a"]), [1, "a"]),
     one_value("mutable text", Instance("NSMutableString", fields={"NS.string": "ä"}, inherited=["NSString"]), "ä"),
     one_value("text of bytes", Instance("NSString", fields={"NS.bytes": "ä".encode()}), "ä"),
     one_value("data in an object", Instance("NSMutableData", fields={"NS.data": b"\x01\x02"}), "AQI="),
@@ -253,6 +254,9 @@ ARCHIVES = [
     saved("nil as an element", archived([RECORD, None]), []),
     saved("number keys in a record", archived([RECORD, {1: "a"}]), []),
     saved("root is a record", archived(RECORD), []),
+    *[saved("root is a set: " + name, archived(Instance(name, [RECORD], inherited=inherited)), [])
+      for name, *inherited in (("NSSet",), ("NSMutableSet", "NSSet"), ("NSCountedSet", "NSMutableSet", "NSSet"),
+                               ("NSOrderedSet",), ("NSMutableOrderedSet", "NSOrderedSet"))],
     saved("root is a text", archived("x"), []),
     saved("root is nil", of_objects(root=0), []),
     saved("keys numbered one by one", of_objects(

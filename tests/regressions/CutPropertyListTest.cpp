@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

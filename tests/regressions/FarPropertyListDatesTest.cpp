@@ -1,13 +1,14 @@
 // Dates that are further from 2001 than 32 bits of seconds came out as other dates, and one that is no number
 // at all as any date.
 
+#include <bit>
 #include <limits>
 
 #include <QDateTime>
-#include <QtEndian>
 #include <gtest/gtest.h>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
+#include "tests/support/BinaryPropertyList.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -16,10 +17,7 @@ namespace {
 
 QByteArray binaryDate(double seconds)
 {
-    QByteArray number(8, '\0');
-    qToBigEndian(seconds, number.data());
-    return "bplist00\x33" + number + QByteArray("\x08\0\0\0\0\0\0\x01\x01", 9) + QByteArray(7, '\0') +
-           "\x01" + QByteArray(15, '\0') + "\x11";
+    return binaryPropertyList({'\x33' + bigEndian(std::bit_cast<quint64>(seconds), 8)});
 }
 
 TEST(FarPropertyListDates, Xml)

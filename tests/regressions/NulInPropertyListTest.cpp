@@ -2,48 +2,52 @@
 
 #include <gtest/gtest.h>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
+#include "tests/support/BinaryPropertyList.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
 
 namespace {
 
-/// A binary dictionary of one key and one text.
-QByteArray dictionary(const QByteArray& key, const QByteArray& value)
+std::optional<QVariant> dictionary(const QByteArray& key, const QByteArray& text)
 {
-    const auto text = [](const QByteArray& bytes) {
-        return QByteArray(1, static_cast<char>(0x50 + bytes.size())) + bytes;
-    };
-    QByteArray bytes("bplist00\xd1\x01\x02" + text(key) + text(value));
-    const auto table = static_cast<char>(bytes.size());
-    bytes += QByteArray("\x08\x0b") + static_cast<char>(0x0c + key.size());
-    return bytes + QByteArray(6, '\0') + "\x01\x01" + QByteArray(7, '\0') + "\x03" + QByteArray(15, '\0') +
-           table;
+    return propertyListFromBytes(binaryPropertyList({QByteArray("\xd1\1\2"), key, text}));
 }
 
-TEST(NulInPropertyList, ValuesBeginBeforeIt)
+const QString withNul = QStringLiteral("c") + QChar(u'\0') + QStringLiteral("d");
+
+TEST(NulInPropertyList, IsACharacterOfTexts)
 {
-    const auto list = propertyListFromBytes(dictionary("ab", QByteArray("c\0d", 3)));
-    ASSERT_TRUE(list.has_value());
-    EXPECT_TRUE(list->toMap().value(QStringLiteral("ab")).toString().startsWith(u'c'));
+    const std::optional<QVariant> wanted = QVariantMap{{QStringLiteral("ab"), withNul}};
+    EXPECT_EQ(dictionary("\x52"
+                         "ab",
+                         QByteArray("\x53"
+                                    "c\0d",
+                                    4)),
+              wanted);
+    EXPECT_EQ(dictionary("\x52"
+                         "ab",
+                         QByteArray("\x63\0c\0\0\0d", 7)),
+              wanted);
 }
 
-TEST(NulInPropertyList, WideCharacters)
+TEST(NulInPropertyList, IsACharacterOfKeys)
 {
-    QByteArray bytes = dictionary("ab", QByteArray("\0c\0\0", 4));
-    const qsizetype marker = bytes.indexOf('\x54');
-    bytes[marker] = '\x62'; // two characters of 16 bits
-    const auto list = propertyListFromBytes(bytes);
-    ASSERT_TRUE(list.has_value());
-    EXPECT_TRUE(list->toMap().value(QStringLiteral("ab")).toString().startsWith(u'c'));
+    const std::optional<QVariant> wanted = QVariantMap{{withNul, true}};
+    EXPECT_EQ(dictionary(QByteArray("\x53"
+                                    "c\0d",
+                                    4),
+                         "\x09"),
+              wanted);
+    EXPECT_EQ(dictionary(QByteArray("\x63\0c\0\0\0d", 7), "\x09"), wanted);
 }
 
-TEST(NulInPropertyList, KeysCannotHaveIt)
+// XML has no way to write it.
+TEST(NulInPropertyList, IsLeftOutWhenWritten)
 {
-    EXPECT_TRUE(propertyListFromBytes(dictionary("a", "b")).has_value());
-    EXPECT_FALSE(propertyListFromBytes(dictionary(QByteArray("a\0b", 3), "c")).has_value());
-    EXPECT_FALSE(propertyListFromBytes(dictionary(QByteArray(1, '\0'), "c")).has_value());
+    EXPECT_EQ(propertyListFromBytes(xmlPropertyList(QVariantMap{{withNul, withNul}})),
+              std::optional<QVariant>(QVariantMap{{QStringLiteral("cd"), QStringLiteral("cd")}}));
 }
 
 } // namespace

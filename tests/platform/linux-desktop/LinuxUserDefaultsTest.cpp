@@ -5,11 +5,11 @@
 #include <thread>
 
 #include <QRegularExpression>
-#include <plist/plist.h>
 
 #include "platform/linux/LinuxUserDefaults.h"
 #include "tests/platform/UserDefaultsContract.h"
 #include "tests/platform/linux-desktop/TemporarySettings.h"
+#include "tests/support/BinaryPropertyList.h"
 
 using namespace quindle;
 
@@ -120,15 +120,7 @@ TEST_F(LinuxUserDefaultsTest, FileAndFolderAreTheUsersAlone)
 
 TEST_F(LinuxUserDefaultsTest, ReadsBinaryAndKeepsTheRestOfTheFile)
 {
-    const plist_t root = plist_new_dict();
-    plist_dict_set_item(root, "other", plist_new_uint(12));
-    char* bytes = nullptr;
-    std::uint32_t size = 0;
-    plist_to_bin(root, &bytes, &size);
-    writeBytes(path(), QByteArray(bytes, static_cast<qsizetype>(size)));
-    std::free(bytes);
-    plist_free(root);
-
+    writeBytes(path(), binaryPropertyList({QByteArray("\xd1\1\2"), "\x55other", "\x10\x0c"}));
     LinuxUserDefaults defaults(path());
     EXPECT_EQ(defaults.integer(QStringLiteral("other")), 12);
     defaults.setObject(key, QStringLiteral("x"));

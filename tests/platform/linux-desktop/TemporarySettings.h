@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "tests/support/QtPrinters.h"
 
 namespace quindle {

@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

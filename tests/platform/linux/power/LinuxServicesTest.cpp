@@ -11,7 +11,7 @@
 #include <QTemporaryDir>
 
 #include "common/Paths.h"
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxHost.h"

@@ -13,7 +13,7 @@ struct ArchivedRecords
 };
 
 /// The records in a keyed archive, binary or XML, whose root is an array of dictionaries with text keys.
-/// Values come back as property-list values (see common/PropertyList.h), nulls as invalid ones; a number that
+/// Values come back as property-list values (see plist/PropertyList.h), nulls as invalid ones; a number that
 /// is a key of an inner dictionary becomes a text. Any damage, a class that is not known and an element that
 /// is no such dictionary leave nothing. Time and memory grow with the size of the bytes, whatever they say.
 ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes);

@@ -3,7 +3,7 @@
 #include <QTimeZone>
 #include <gtest/gtest.h>
 
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

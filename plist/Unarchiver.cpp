@@ -1,4 +1,4 @@
-#include "history/Unarchiver.h"
+#include "plist/Unarchiver.h"
 
 #include <algorithm>
 #include <limits>
@@ -6,7 +6,7 @@
 
 #include "common/NumberConversion.h"
 #include "common/ValueDescription.h"
-#include "history/ArchiveDate.h"
+#include "plist/PropertyListDate.h"
 
 namespace quindle {
 
@@ -14,23 +14,6 @@ namespace {
 
 constexpr quint32 notRead = std::numeric_limits<quint32>::max();
 constexpr quint32 beingRead = notRead - 1;
-constexpr int deepestNesting = 200;       // records are two levels deep, registry entries a few more
-constexpr quint64 charactersOfValue = 16; // that take the memory of one value
-
-// So many values may be read out of an archive of this size in bytes. Honest ones hold fewer than one in a
-// byte; the rest is for small archives whose objects share their lists of keys.
-quint64 readableValues(quint64 size)
-{
-    return size + quint64{64} * 1024;
-}
-
-// So many may come of them where shared objects are walked through as often as they appear: enough for a
-// lifetime of records that are all the same, and an end to archives made to unfold for ever.
-quint64 unfoldedValues(quint64 size)
-{
-    constexpr quint64 million = quint64{1024} * 1024;
-    return std::min(64 * size, 64 * million) + 4 * million;
-}
 
 bool isPlainNumber(PropertyListGraph::Kind kind)
 {
@@ -39,13 +22,13 @@ bool isPlainNumber(PropertyListGraph::Kind kind)
 }
 
 const char* const damagedObject = "an object is damaged";
+const char* const tooDeep = "its objects are nested too deep";
 
 } // namespace
 
-Unarchiver::Unarchiver(const PropertyListGraph& graph, quint64 size)
+Unarchiver::Unarchiver(const PropertyListGraph& graph)
     : m_graph(graph)
-    , m_left(readableValues(size))
-    , m_unfoldedAllowed(unfoldedValues(size))
+    , m_limits(graph.size())
 {
 }
 
@@ -59,11 +42,11 @@ bool Unarchiver::readRecords(QVariantList& records)
     const auto elements = references(root, "NS.objects", "NS.object.");
     if (!elements)
         return fail(damagedObject);
-    quint64 weight = 0;
+    Extent extent{.height = 1};
     records.reserve(static_cast<qsizetype>(elements->size()));
     for (const quint64 reference : *elements) {
         Object record;
-        if (!object(reference, 1, record) || !add(record.weight, weight))
+        if (!object(reference, 2, record) || !put(record, extent))
             return false;
         if (record.value.typeId() != QMetaType::QVariantMap || record.hasNumberKeys)
             return fail("an element is no dictionary with text keys");
@@ -74,7 +57,7 @@ bool Unarchiver::readRecords(QVariantList& records)
 
 bool Unarchiver::findRoot(Element& root)
 {
-    const Element archive = m_graph.root();
+    const Element archive = m_graph.element(m_graph.root());
     if (archive.kind != Kind::Dictionary)
         return fail("it is no property list of an archive");
     if (!m_graph.isText(find(archive, "$archiver"), QLatin1StringView("NSKeyedArchiver")))
@@ -89,7 +72,7 @@ bool Unarchiver::findRoot(Element& root)
 }
 
 /// The object that a reference names, read now if it was not before.
-bool Unarchiver::object(quint64 reference, int depth, Object& object)
+bool Unarchiver::object(quint64 reference, int level, Object& object)
 {
     if (reference >= m_positions.size())
         return fail("a reference leads nowhere");
@@ -98,26 +81,26 @@ bool Unarchiver::object(quint64 reference, int depth, Object& object)
         object = m_read[position];
         return true;
     }
-    if (position == beingRead || depth > deepestNesting)
-        return fail(position == beingRead ? "an object contains itself" : "its objects are nested too deep");
+    if (position == beingRead)
+        return fail("an object contains itself");
     const Element element = archived(reference);
     if (isPlainNumber(element.kind)) {
         object.value = m_graph.value(element);
         return true;
     }
     m_positions[reference] = beingRead;
-    if (!read(element, depth, object))
+    if (!read(element, level, object))
         return fail(damagedObject);
     m_positions[reference] = static_cast<quint32>(m_read.size());
     m_read.push_back(object);
     return true;
 }
 
-bool Unarchiver::read(const Element& element, int depth, Object& object)
+bool Unarchiver::read(const Element& element, int level, Object& object)
 {
     switch (element.kind) {
     case Kind::Dictionary:
-        return readInstance(element, depth, object);
+        return readInstance(element, level, object);
     case Kind::Null:
         return true;
     case Kind::Text:
@@ -132,15 +115,16 @@ bool Unarchiver::read(const Element& element, int depth, Object& object)
     }
 }
 
-bool Unarchiver::readInstance(const Element& element, int depth, Object& object)
+bool Unarchiver::readInstance(const Element& element, int level, Object& object)
 {
     if (!spend(element.count))
         return false;
-    switch (classOf(element)) {
+    const ArchivedClass archived = classOf(element);
+    switch (archived) {
     case ArchivedClass::Array:
-        return readArray(element, depth, object);
+    case ArchivedClass::Set:
     case ArchivedClass::Dictionary:
-        return readDictionary(element, depth, object);
+        return readContainer(element, archived, level, object);
     case ArchivedClass::Text: {
         const Element text = resolved(find(element, "NS.string"));
         return readText(text.kind != Kind::Missing ? text : resolved(find(element, "NS.bytes")), object);
@@ -159,7 +143,16 @@ bool Unarchiver::readInstance(const Element& element, int depth, Object& object)
     return fail("an object is of a class that is not known");
 }
 
-bool Unarchiver::readArray(const Element& element, int depth, Object& object)
+bool Unarchiver::readContainer(const Element& element, ArchivedClass archived, int level, Object& object)
+{
+    if (level > mostPropertyListLevels)
+        return fail(tooDeep);
+    object.extent.height = 1;
+    return archived == ArchivedClass::Dictionary ? readDictionary(element, level, object)
+                                                 : readArray(element, level, object);
+}
+
+bool Unarchiver::readArray(const Element& element, int level, Object& object)
 {
     const auto items = references(element, "NS.objects", "NS.object.");
     if (!items)
@@ -168,7 +161,7 @@ bool Unarchiver::readArray(const Element& element, int depth, Object& object)
     list.reserve(static_cast<qsizetype>(items->size()));
     for (const quint64 reference : *items) {
         Object item;
-        if (!this->object(reference, depth + 1, item) || !add(item.weight, object.weight))
+        if (!this->object(reference, level + 1, item) || !put(item, object.extent))
             return false;
         list.append(std::move(item.value));
     }
@@ -176,19 +169,20 @@ bool Unarchiver::readArray(const Element& element, int depth, Object& object)
     return true;
 }
 
-bool Unarchiver::readDictionary(const Element& element, int depth, Object& object)
+bool Unarchiver::readDictionary(const Element& element, int level, Object& object)
 {
     const auto keyReferences = references(element, "NS.keys", "NS.key.");
     const auto values = references(element, "NS.objects", "NS.object.");
     if (!keyReferences || !values || keyReferences->size() != values->size())
         return false;
-    const KeyList* keys = keyList(*keyReferences, depth + 1);
-    if (!keys || !add(keys->weight, object.weight))
+    const KeyList* keys = keyList(*keyReferences, level + 1);
+    if (!keys)
         return false;
+    object.extent.weight += keys->weight;
     std::map<QString, QVariant> map;
     for (const Key& key : keys->sorted) {
         Object value;
-        if (!this->object((*values)[key.index], depth + 1, value) || !add(value.weight, object.weight))
+        if (!this->object((*values)[key.index], level + 1, value) || !put(value, object.extent))
             return false;
         map.insert_or_assign(map.end(), key.text, std::move(value.value));
     }
@@ -198,7 +192,7 @@ bool Unarchiver::readDictionary(const Element& element, int depth, Object& objec
 }
 
 /// Nothing when one of the references leads to what can be no key.
-const Unarchiver::KeyList* Unarchiver::keyList(const References& references, int depth)
+const Unarchiver::KeyList* Unarchiver::keyList(const References& references, int level)
 {
     const auto known = m_keyLists.find(references);
     if (known != m_keyLists.end())
@@ -206,24 +200,25 @@ const Unarchiver::KeyList* Unarchiver::keyList(const References& references, int
     KeyList list;
     list.sorted.reserve(references.size());
     for (const quint64 reference : references)
-        if (!readKey(reference, depth, list))
+        if (!readKey(reference, level, list))
             return nullptr;
     std::stable_sort(list.sorted.begin(), list.sorted.end(),
                      [](const Key& left, const Key& right) { return left.text < right.text; });
     return &m_keyLists.emplace(references, std::move(list)).first->second;
 }
 
-bool Unarchiver::readKey(quint64 reference, int depth, KeyList& list)
+bool Unarchiver::readKey(quint64 reference, int level, KeyList& list)
 {
     Object key;
-    if (!object(reference, depth, key))
+    if (!object(reference, level, key))
         return false;
     const bool isText = key.value.typeId() == QMetaType::QString;
     if (!isText && !isNumber(key.value))
         return false;
     list.hasNumbers = list.hasNumbers || !isText;
     list.sorted.push_back({isText ? key.value.toString() : numberDescription(key.value), list.sorted.size()});
-    return add(key.weight, list.weight);
+    list.weight += key.extent.weight;
+    return true;
 }
 
 /// From a text as well as from its UTF-8 bytes.
@@ -236,9 +231,7 @@ bool Unarchiver::readText(const Element& element, Object& object)
         object.value = value;
     else
         return false;
-    const auto length = static_cast<quint64>(object.value.toString().size());
-    object.weight += length / charactersOfValue;
-    return spend(length / charactersOfValue);
+    return spendContent(object.value.toString().size(), object);
 }
 
 bool Unarchiver::readData(const Element& element, Object& object)
@@ -246,9 +239,7 @@ bool Unarchiver::readData(const Element& element, Object& object)
     object.value = m_graph.value(element);
     if (object.value.typeId() != QMetaType::QByteArray)
         return false;
-    const auto length = static_cast<quint64>(object.value.toByteArray().size());
-    object.weight += length / charactersOfValue;
-    return spend(length / charactersOfValue);
+    return spendContent(object.value.toByteArray().size(), object);
 }
 
 bool Unarchiver::readDate(const Element& element, Object& object)
@@ -256,7 +247,7 @@ bool Unarchiver::readDate(const Element& element, Object& object)
     const auto seconds = convertToDouble(m_graph.value(resolved(find(element, "NS.time"))));
     if (!seconds)
         return false;
-    object.value = dateFromArchivedSeconds(*seconds);
+    object.value = dateFromSeconds(*seconds);
     return object.value.isValid();
 }
 
@@ -336,8 +327,12 @@ std::optional<Unarchiver::References> Unarchiver::listedReferences(const Element
         return std::nullopt;
     References found;
     found.reserve(list.count);
-    if (!m_graph.addReferences(list, found))
-        return std::nullopt;
+    for (quint64 index = 0; index < list.count; ++index) {
+        const Element item = m_graph.element(m_graph.item(list, index));
+        if (item.kind != Kind::Reference)
+            return std::nullopt;
+        found.push_back(m_graph.reference(item));
+    }
     return found;
 }
 
@@ -365,17 +360,23 @@ std::optional<Unarchiver::References> Unarchiver::numberedReferences(const Eleme
 
 bool Unarchiver::spend(quint64 values)
 {
-    if (values > m_left)
-        return fail("it says it holds more than it has room for");
-    m_left -= values;
-    return true;
+    return m_limits.spend(values) || fail("it says it holds more than it has room for");
 }
 
-/// Counts shared parts as often as they appear: what is made here is walked through as a tree.
-bool Unarchiver::add(quint64 weight, quint64& whole)
+bool Unarchiver::spendContent(qsizetype count, Object& object)
 {
-    whole += weight;
-    return whole <= m_unfoldedAllowed || fail("its shared objects unfold to more than it has room for");
+    const quint64 weight = weightOfContent(static_cast<quint64>(count));
+    object.extent.weight += weight;
+    return spend(weight);
+}
+
+bool Unarchiver::put(const Object& part, Extent& whole)
+{
+    if (m_limits.put(part.extent, whole))
+        return true;
+    return fail(whole.height > mostPropertyListLevels
+                    ? tooDeep
+                    : "its shared objects unfold to more than it has room for");
 }
 
 /// The first reason is the one that is told.

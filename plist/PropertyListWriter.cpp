@@ -2,10 +2,8 @@
 #include <QXmlStreamWriter>
 
 #include "common/NumberTexts.h"
-#include "common/PropertyList.h"
+#include "plist/PropertyList.h"
 
-// Written here and not by the library that reads them: it writes negative integers as unsigned ones, which
-// other readers take for numbers near 2^64, and cuts reals to fewer digits than it takes to read them back.
 namespace quindle {
 
 namespace {

@@ -9,8 +9,9 @@
 #include <QString>
 #include <QVariant>
 
-#include "history/ArchivedClass.h"
-#include "history/PropertyListGraph.h"
+#include "plist/ArchivedClass.h"
+#include "plist/PropertyListGraph.h"
+#include "plist/PropertyListLimits.h"
 
 namespace quindle {
 
@@ -19,8 +20,7 @@ namespace quindle {
 class Unarchiver
 {
 public:
-    /// `size`: of the archive in bytes, which bounds what a hostile one can make this take.
-    Unarchiver(const PropertyListGraph& graph, quint64 size);
+    explicit Unarchiver(const PropertyListGraph& graph);
 
     /// False, with `fault` told, when the root is no array of dictionaries with text keys.
     bool readRecords(QVariantList& records);
@@ -35,7 +35,7 @@ private:
     struct Object
     {
         QVariant value;
-        quint64 weight = 1;         ///< values inside, shared ones as often as they appear
+        Extent extent;
         bool hasNumberKeys = false; ///< of a dictionary
     };
 
@@ -55,13 +55,14 @@ private:
     };
 
     bool findRoot(Element& root);
-    bool object(quint64 reference, int depth, Object& object);
-    bool read(const Element& element, int depth, Object& object);
-    bool readInstance(const Element& element, int depth, Object& object);
-    bool readArray(const Element& element, int depth, Object& object);
-    bool readDictionary(const Element& element, int depth, Object& object);
-    const KeyList* keyList(const References& references, int depth);
-    bool readKey(quint64 reference, int depth, KeyList& list);
+    bool object(quint64 reference, int level, Object& object);
+    bool read(const Element& element, int level, Object& object);
+    bool readInstance(const Element& element, int level, Object& object);
+    bool readContainer(const Element& element, ArchivedClass archived, int level, Object& object);
+    bool readArray(const Element& element, int level, Object& object);
+    bool readDictionary(const Element& element, int level, Object& object);
+    const KeyList* keyList(const References& references, int level);
+    bool readKey(quint64 reference, int level, KeyList& list);
     bool readText(const Element& element, Object& object);
     bool readData(const Element& element, Object& object);
     bool readDate(const Element& element, Object& object);
@@ -77,12 +78,12 @@ private:
     std::optional<References> numberedReferences(const Element& element, const char* prefix);
 
     bool spend(quint64 values);
-    bool add(quint64 weight, quint64& whole);
+    bool spendContent(qsizetype count, Object& object);
+    bool put(const Object& part, Extent& whole);
     bool fail(const char* reason);
 
     const PropertyListGraph& m_graph;
-    quint64 m_left; ///< values that may still be read
-    quint64 m_unfoldedAllowed;
+    PropertyListLimits m_limits;
     Element m_objects;
     std::vector<quint32> m_positions; ///< in m_read, by reference; or one of the two marks
     std::deque<Object> m_read;        ///< all but plain numbers, which are as cheap to read again

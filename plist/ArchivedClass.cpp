@@ -1,4 +1,4 @@
-#include "history/ArchivedClass.h"
+#include "plist/ArchivedClass.h"
 
 #include <algorithm>
 #include <array>
@@ -16,8 +16,8 @@ struct NamedClass
 constexpr std::array namedClasses{
     NamedClass{"NSArray", ArchivedClass::Array},
     NamedClass{"NSMutableArray", ArchivedClass::Array},
-    NamedClass{"NSSet", ArchivedClass::Array},
-    NamedClass{"NSMutableSet", ArchivedClass::Array},
+    NamedClass{"NSSet", ArchivedClass::Set},
+    NamedClass{"NSMutableSet", ArchivedClass::Set},
     NamedClass{"NSDictionary", ArchivedClass::Dictionary},
     NamedClass{"NSMutableDictionary", ArchivedClass::Dictionary},
     NamedClass{"NSString", ArchivedClass::Text},

@@ -1,4 +1,4 @@
-#include "history/KeyedArchive.h"
+#include "plist/KeyedArchive.h"
 
 #include <gtest/gtest.h>
 
@@ -120,14 +120,14 @@ QByteArray uids(std::initializer_list<int> numbers)
 }
 
 /// The objects 0 to 2 are null and the two classes; `objects` are those from 3, the root.
-QByteArray archiveOf(const QByteArray& objects)
+QByteArray archiveOf(const QByteArray& objects, const QByteArray& arrayClass = "NSArray")
 {
     const auto aClass = [](const QByteArray& name) {
         return "<dict><key>$classname</key><string>" + name + "</string></dict>";
     };
     return "<plist><dict><key>$archiver</key><string>NSKeyedArchiver</string><key>$top</key><dict>"
            "<key>root</key>" +
-           uid(3) + "</dict><key>$objects</key><array><string>$null</string>" + aClass("NSArray") +
+           uid(3) + "</dict><key>$objects</key><array><string>$null</string>" + aClass(arrayClass) +
            aClass("NSDictionary") + objects + "</array></dict></plist>";
 }
 
@@ -188,6 +188,37 @@ TEST(KeyedArchiveKeys, HaveAsManyValues)
         EXPECT_FALSE(recordsFromKeyedArchive(archiveOf(array(uids({4})) + dictionary(uids({5, 6}), values) +
                                                        abTexts + oneTwoThree))
                          .fault.isEmpty());
+}
+
+TEST(KeyedArchiveRoot, IsAnArray)
+{
+    struct
+    {
+        const char* rootClass;
+        qsizetype records;
+    } const rows[] = {{"NSArray", 1},      {"NSMutableArray", 1}, {"NSSet", 0},
+                      {"NSMutableSet", 0}, {"NSOrderedSet", 0},   {"NSMutableOrderedSet", 0}};
+    const QByteArray objects = array(uids({4})) + dictionary(uids({5}), uids({6})) + abTexts;
+    for (const auto& row : rows) {
+        const ArchivedRecords read = recordsFromKeyedArchive(archiveOf(objects, row.rootClass));
+        EXPECT_EQ(read.records.size(), row.records) << row.rootClass;
+        EXPECT_EQ(read.fault, row.records > 0 ? QString() : QStringLiteral("its root is no array"));
+    }
+}
+
+TEST(KeyedArchiveDates, ReachAsFarAsADateCan)
+{
+    const auto readDate = [](const char* seconds) {
+        return recordsFromKeyedArchive(archiveOf(array(uids({4})) + dictionary(uids({5}), uids({6})) +
+                                                 "<string>k</string><dict><key>$class</key>" + uid(7) +
+                                                 "<key>NS.time</key><real>" + seconds + "</real></dict>" +
+                                                 "<dict><key>$classname</key><string>NSDate</string></dict>"))
+            .records;
+    };
+    ASSERT_EQ(readDate("1e300").size(), 1);
+    EXPECT_EQ(readDate("1e300"), readDate("inf"));
+    EXPECT_GT(readDate("inf").at(0).toMap().value(QStringLiteral("k")).toDate().year(), 200'000);
+    EXPECT_EQ(readDate("nan").size(), 0);
 }
 
 TEST(KeyedArchiveGarbage, TenMegabytesAreAnsweredQuickly)

@@ -1,0 +1,28 @@
+#include "plist/PropertyListDate.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quindle {
+
+namespace {
+
+constexpr qint64 startOf2001 = 978307200000; // milliseconds after the start of 1970
+
+} // namespace
+
+QVariant dateFromSeconds(double seconds)
+{
+    if (std::isnan(seconds))
+        return {};
+    constexpr double farthest = 9.0e15; // milliseconds, some 285,000 years
+    const double milliseconds = std::clamp(std::round(seconds * 1000.0), -farthest, farthest);
+    return QDateTime::fromMSecsSinceEpoch(startOf2001 + static_cast<qint64>(milliseconds), Qt::LocalTime);
+}
+
+double secondsOfDate(const QDateTime& date)
+{
+    return static_cast<double>(date.toMSecsSinceEpoch() - startOf2001) / 1000.0;
+}
+
+} // namespace quindle

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <QByteArray>
+#include <QLatin1StringView>
+#include <QVariant>
+
+namespace quindle {
+
+/// A property list as the binary encoding stores it: numbered nodes that refer to each other, each read only
+/// when asked for. Unlike a tree of values it does not multiply what a file refers to more than once. An XML
+/// list is rewritten in the binary encoding first, so that there is one reader for both.
+///
+/// Nothing is promised of the graph's form: nodes may hold themselves, and share others without end.
+class PropertyListGraph
+{
+public:
+    using Node = quint64;
+
+    enum class Kind : quint8 {
+        Missing, ///< nothing was looked up
+        Invalid, ///< broken in the file, or beyond its end
+        Null,
+        Boolean,
+        Integer,
+        Real,
+        Date,
+        Data,
+        Text,
+        Reference, ///< a UID, which refers to an object of a keyed archive
+        Array,     ///< or a set
+        Dictionary,
+    };
+
+    /// What stands at a node. Looked up once, it answers everything else about the node.
+    struct Element
+    {
+        Kind kind = Kind::Missing;
+        quint8 marker = 0; ///< the byte that it begins with
+        quint64 start = 0; ///< of what follows the marker and the count
+        quint64 count = 0; ///< of items, entries, characters or bytes
+    };
+
+    /// No node of any list.
+    static constexpr Node noNode = ~Node{0};
+
+    /// XML or binary. The root is Invalid when `bytes` are no property list of either encoding.
+    explicit PropertyListGraph(const QByteArray& bytes);
+
+    /// Of the binary encoding in bytes: at least one for each node, reference and character.
+    quint64 size() const { return m_size; }
+
+    Node root() const { return m_root; }
+
+    Element element(Node node) const
+    {
+        if (node >= m_count)
+            return {.kind = Kind::Invalid};
+        return elementAt(number(m_offsetTable + node * m_offsetWidth, m_offsetWidth));
+    }
+
+    /// The value of anything from Boolean to Text, of the types of plist/PropertyList.h; invalid for every
+    /// other kind and for a date that is not a number.
+    QVariant value(const Element& element) const;
+
+    /// The number that a reference holds; `noNode` for every other kind.
+    quint64 reference(const Element& element) const;
+
+    /// An item of an array; `noNode` when there is none.
+    Node item(const Element& array, quint64 index) const;
+
+    /// The key and the value of a dictionary's entry; `noNode` when there is none.
+    Node key(const Element& dictionary, quint64 index) const;
+    Node entry(const Element& dictionary, quint64 index) const;
+
+    bool isText(const Element& element, QLatin1StringView text) const;
+
+private:
+    void readTrailer();
+    Element elementAt(quint64 offset) const;
+    bool readCount(Element& found) const;
+    quint64 byteLength(const Element& found) const;
+    const char* content(const Element& element) const;
+    quint64 integer(const Element& element) const;
+    QString text(const Element& element) const;
+
+    /// The reference at `index` behind the start of a container.
+    Node nodeAt(const Element& container, quint64 index) const
+    {
+        return number(container.start + index * m_referenceWidth, m_referenceWidth);
+    }
+
+    /// A big-endian number of 1 to 8 bytes that lie inside the list.
+    quint64 number(quint64 start, quint64 width) const
+    {
+        const auto* bytes = reinterpret_cast<const uchar*>(m_bytes.constData()) + start;
+        quint64 value = 0;
+        for (quint64 index = 0; index < width; ++index)
+            value = value << 8 | bytes[index];
+        return value;
+    }
+
+    QByteArray m_bytes;
+    quint64 m_size;
+    quint64 m_offsetWidth = 0;
+    quint64 m_referenceWidth = 0;
+    quint64 m_count = 0; ///< of nodes; 0 when the bytes are no list
+    Node m_root = noNode;
+    quint64 m_offsetTable = 0;
+};
+
+} // namespace quindle
