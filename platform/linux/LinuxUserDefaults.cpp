@@ -155,7 +155,7 @@ void LinuxUserDefaults::setObject(const QString& key, const QVariant& value)
 
 QString LinuxUserDefaults::file() const
 {
-    return QFile::decodeName(m_file.path());
+    return pathText(m_file.path());
 }
 
 QString LinuxUserDefaults::store(const QString& key, const QVariant& value)
