@@ -73,11 +73,13 @@ HelperAppDelegate::HelperAppDelegate(const Platform& platform, ApplicationPrefer
     , m_lastDailyUploadToOnlineService(platform.clock.now())
 {
     m_interface.setActions(this);
+    m_interface.setPowerSources(m_myMac->isDemonstration() ? nullptr : &platform.powerSources);
 }
 
 HelperAppDelegate::~HelperAppDelegate()
 {
     m_interface.setActions(nullptr);
+    m_interface.setPowerSources(nullptr);
     m_platform.powerEvents.setObserver([] {});
     if (m_statusBarUpdateTimer)
         m_statusBarUpdateTimer->invalidate();

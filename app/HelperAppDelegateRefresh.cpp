@@ -5,8 +5,8 @@
 #include "app/RequiredOutlet.h"
 #include "battery/QDBattery.h"
 #include "common/NumberTexts.h"
+#include "facts/Facts.h"
 #include "mac/QDMac.h"
-#include "menubar/BatteryFacts.h"
 #include "menubar/StatusIcon.h"
 #include "menubar/TitleTemplate.h"
 #include "platform/Image.h"
@@ -113,6 +113,9 @@ TitleValues HelperAppDelegate::titleValuesOf(const QDBattery& battery) const
     values.wattThroughput = battery.WattThroughput();
     values.amperage = battery.amperage();
     values.cycleCount = battery.CycleCount();
+    values.knowsTemperature = battery.knowsTemperature();
+    values.knowsPower = battery.knowsPower();
+    values.knowsCurrent = battery.knowsCurrent();
     return values;
 }
 
@@ -125,7 +128,7 @@ void HelperAppDelegate::updateTitle(const QDBattery& battery)
 
 void HelperAppDelegate::updateFacts()
 {
-    m_statusItem->setToolTipText(toolTipText(m_myMac.get()));
+    m_statusItem->setToolTipText(toolTipText({m_myMac.get()}));
     const QDBattery* battery = m_myMac->Battery();
     m_statusItem->setFallbackText(battery ? fixedText(battery->StateOfCharge(), 0) : QString());
     m_interface.updateFacts(m_statusItem->title());

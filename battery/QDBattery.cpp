@@ -155,8 +155,11 @@ void QDBattery::updatePercentages()
 
 void QDBattery::updateWattThroughput()
 {
-    const qint64 millivolts = voltage();
-    m_wattThroughput = wattThroughput(millivolts, amperage());
+    const auto millivolts = knownInteger(BatteryRegistryKey::Voltage);
+    const auto milliamperes = knownInteger(BatteryRegistryKey::Amperage);
+    m_knowsCurrent = milliamperes.has_value();
+    m_knowsPower = millivolts && milliamperes;
+    m_wattThroughput = wattThroughput(millivolts.value_or(0), milliamperes.value_or(0));
 }
 
 void QDBattery::updateAge()
@@ -311,8 +314,9 @@ std::optional<QDateTime> QDBattery::calculateManufactureDate_deprecated(qint64 p
 
 bool QDBattery::knowsManufactureDate() const
 {
+    constexpr int firstYear = 1980; // packed dates count from it, and an empty one falls before
     const auto made = ManufactureDate();
-    return made && *made != decodeManufactureDate(0);
+    return made && made->date().year() >= firstYear;
 }
 
 QStringList QDBattery::getFailureKeys() const

@@ -62,10 +62,6 @@ class QDBattery : public QObject
     Q_PROPERTY(QString Temperature MEMBER m_temperature NOTIFY changed)
     Q_PROPERTY(QString CustomAge MEMBER m_customAge NOTIFY changed)
     Q_PROPERTY(QVariantList raw MEMBER m_raw NOTIFY changed)
-    // For views only, and no values of the battery: whether there is anything behind the texts that stand in
-    // for what a battery does not report ("0.0 °C", an age counted from 1979).
-    Q_PROPERTY(bool knowsTemperature READ knowsTemperature NOTIFY changed STORED false)
-    Q_PROPERTY(bool knowsManufactureDate READ knowsManufactureDate NOTIFY changed STORED false)
 
 public:
     /// Reads both modes from the standard defaults (`QDBatteryTemperatureMode`, `QDBatteryAgeMode`); touches
@@ -163,11 +159,12 @@ public:
     /// fatal.
     QVariantList collectAllAvailableDataForBattery() const;
 
-    /// Whether the last refresh found a temperature.
-    bool knowsTemperature() const { return m_knowsTemperature; }
-
-    /// Whether `ManufactureDate` is another than the date of a battery that reports none.
-    bool knowsManufactureDate() const;
+    // Whether there is anything behind what stands in for values that a battery does not report ("0.0 °C",
+    // 0 W, an age counted from 1979). Values that were given by key count as known.
+    bool knowsTemperature() const { return m_knowsTemperature; } ///< the last refresh found one
+    bool knowsCurrent() const { return m_knowsCurrent; }         ///< the same for "Amperage"
+    bool knowsPower() const { return m_knowsPower; }             ///< the same for both factors of the power
+    bool knowsManufactureDate() const;                           ///< it is one that can be packed
 
     TemperatureUnit temperatureMode() const { return m_temperatureMode; }
     AgeFieldMode ageMode() const { return m_ageMode; }
@@ -212,6 +209,7 @@ Q_SIGNALS:
 
 private:
     QVariant registryValue(BatteryRegistryKey key) const;
+    std::optional<qint64> knownInteger(BatteryRegistryKey key) const;
     qint64 registryInteger(BatteryRegistryKey key) const;
     std::optional<double> registryDouble(BatteryRegistryKey key) const;
     bool registryBoolean(BatteryRegistryKey key) const;
@@ -260,7 +258,9 @@ private:
     QString m_temperature = QStringLiteral("");
     QString m_customAge = QStringLiteral("");
     QVariantList m_raw;
-    bool m_knowsTemperature = true; // values that were given by key count as known
+    bool m_knowsTemperature = true;
+    bool m_knowsCurrent = true;
+    bool m_knowsPower = true;
     TemperatureUnit m_temperatureMode = TemperatureUnit::Celsius;
     AgeFieldMode m_ageMode = AgeFieldMode::Days;
     RegistryObject m_service = 0;

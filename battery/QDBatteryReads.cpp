@@ -126,15 +126,20 @@ QVariant QDBattery::registryValue(BatteryRegistryKey key) const
     return m_platform.registry.property(m_service, registryKeyText(key));
 }
 
-qint64 QDBattery::registryInteger(BatteryRegistryKey key) const
+std::optional<qint64> QDBattery::knownInteger(BatteryRegistryKey key) const
 {
     const QVariant value = registryValue(key);
     if (!value.isValid())
-        return 0;
+        return std::nullopt;
     const auto integer = convertToInteger(value);
     if (!integer)
         failConversion(key);
-    return *integer;
+    return integer;
+}
+
+qint64 QDBattery::registryInteger(BatteryRegistryKey key) const
+{
+    return knownInteger(key).value_or(0);
 }
 
 std::optional<double> QDBattery::registryDouble(BatteryRegistryKey key) const

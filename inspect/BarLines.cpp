@@ -1,25 +1,13 @@
 #include "inspect/BarLines.h"
 
-#include <algorithm>
-
 #include <QVariantMap>
 
+#include "common/SingleLine.h"
 #include "inspect/JsonText.h"
 
 namespace quindle {
 
 namespace {
-
-/// A bar has one line: what would break it or hide in it becomes a blank.
-QString singleLine(QString text)
-{
-    const auto breaksLine = [](QChar c) {
-        return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
-               c.category() == QChar::Separator_Paragraph;
-    };
-    std::replace_if(text.begin(), text.end(), breaksLine, u' ');
-    return text;
-}
 
 QVariant percentage(const BarState& state)
 {

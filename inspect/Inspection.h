@@ -28,6 +28,7 @@ public:
     QVariantMap takeState();
 
     HelperAppDelegate& delegate() { return m_delegate; }
+    const MainInterface& interface() const { return m_interface; }
 
     const ApplicationPreferences& preferences() const { return m_preferences; }
 

@@ -31,8 +31,7 @@ QVariantMap valueProperties(const QObject& object)
     const QMetaObject& meta = *object.metaObject();
     for (int index = QObject::staticMetaObject.propertyCount(); index < meta.propertyCount(); ++index) {
         const QMetaProperty property = meta.property(index);
-        const bool isForViewsOnly = !property.isStored();
-        if (!isForViewsOnly && !(property.metaType().flags() & QMetaType::PointerToQObject))
+        if (!(property.metaType().flags() & QMetaType::PointerToQObject))
             values.insert(QString::fromLatin1(property.name()), property.read(&object));
     }
     return values;

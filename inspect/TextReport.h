@@ -1,10 +1,15 @@
 #pragma once
 
+#include <vector>
+
 #include <QVariantMap>
+
+#include "facts/Fact.h"
 
 namespace quindle {
 
-/// A state (see JsonState.h) in aligned lines for a person. Rows without anything to tell are left out.
-QString reportText(const QVariantMap& state);
+/// A state (see JsonState.h) and the facts of the place Report in aligned lines for a person. Rows without
+/// anything to tell are left out.
+QString reportText(const QVariantMap& state, const std::vector<Fact>& facts);
 
 } // namespace quindle

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 
 #include "common/Paths.h"
+#include "facts/Facts.h"
 #include "inspect/Capture.h"
 #include "inspect/CaptureFile.h"
 #include "inspect/CommandLine.h"
@@ -46,7 +47,9 @@ int printJson(Computer& computer, bool isDemo)
 
 int printReport(Computer& computer, bool isDemo)
 {
-    print(reportText(Inspection(computer, isDemo).takeState()).toUtf8());
+    Inspection inspection(computer, isDemo);
+    const std::vector<Fact> facts = factsFor(FactPlace::Report, inspection.interface().factSources());
+    print(reportText(inspection.takeState(), facts).toUtf8());
     return 0;
 }
 

@@ -71,6 +71,7 @@ std::unique_ptr<QDMac> QDMac::init(const Platform& platform)
 std::unique_ptr<QDMac> QDMac::initWithDemoMode(const Platform& platform, bool /*demoMode*/)
 {
     std::unique_ptr<QDMac> mac(new QDMac(platform));
+    mac->m_isDemonstration = true;
     setDemoValues(*mac);
     // Not opened and without a timer: a refresh would overwrite the demonstration values.
     mac->m_battery = std::make_unique<QDBattery>(platform, demoModel());

@@ -30,9 +30,6 @@ class QDMac : public QObject
     Q_PROPERTY(QVariant Serial MEMBER m_serial NOTIFY changed)
     Q_PROPERTY(QVariant CustomAge MEMBER m_customAge NOTIFY changed)
     Q_PROPERTY(QString privateFrameworksURL READ privateFrameworksURL CONSTANT)
-    // For views only: whether `ManufactureDate` comes of the serial number, and is not the moment of the
-    // launch.
-    Q_PROPERTY(bool knowsManufactureDate READ knowsManufactureDate NOTIFY changed STORED false)
 
 public:
     /// This computer: reads every value (`loadSettings`), then makes the battery object, opens it, and when
@@ -97,7 +94,12 @@ public:
     std::optional<QString> Serial() const;
     std::optional<QString> CustomAge() const;
 
+    /// Whether `ManufactureDate` comes from the serial number or was given by key, and is not the moment of
+    /// the launch.
     bool knowsManufactureDate() const { return m_knowsManufactureDate; }
+
+    /// Made by `initWithDemoMode`: no platform service has anything to say about it.
+    bool isDemonstration() const { return m_isDemonstration; }
 
     /// The age mode: 0 days, 1 months, 2 years; whatever was stored, also another number, which shows days.
     qint64 ageMode() const { return m_ageMode; }
@@ -124,7 +126,8 @@ private:
     QVariant m_serial;
     QVariant m_customAge;
     qint64 m_ageMode = 0;
-    bool m_knowsManufactureDate = true; // values that were given by key count as known
+    bool m_knowsManufactureDate = true;
+    bool m_isDemonstration = false;
 };
 
 } // namespace quindle

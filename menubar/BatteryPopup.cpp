@@ -36,12 +36,17 @@ BatteryPopup::BatteryPopup(MainInterface& interface, const Application& applicat
         if (popup && popup->m_window)
             popup->m_window->updateEntry(id);
     });
+    interface.setFactsObserver([this] {
+        if (m_window)
+            m_window->updateFacts();
+    });
 }
 
 BatteryPopup::~BatteryPopup()
 {
     m_interface.statusMenu().setViewOpener({});
     m_interface.statusMenu().setViewToggler({});
+    m_interface.setFactsObserver({});
     delete m_window;
 }
 

@@ -9,9 +9,10 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "menubar/BatteryFacts.h"
+#include "battery/QDBattery.h"
+#include "facts/Facts.h"
+#include "mac/QDMac.h"
 #include "menubar/BatteryView.h"
-#include "menubar/KeyPathBinder.h"
 #include "menubar/MainInterface.h"
 #include "menubar/MenuEntry.h"
 #include "menubar/NoBatteryView.h"
@@ -57,31 +58,67 @@ BatteryWindow::BatteryWindow(MainInterface& interface, Kind kind)
     const int border = isPopup() ? 1 : 0;
     layout->setContentsMargins(border, border, border, border);
     layout->setSpacing(0);
-    addView(*layout);
+    addScrollArea(*layout);
     addEntries(*layout);
+    updateFacts();
 }
 
-void BatteryWindow::addView(QVBoxLayout& layout)
+void BatteryWindow::addScrollArea(QVBoxLayout& layout)
 {
-    ObjectController& controller = m_interface.macObjectController();
-    QWidget* view = nullptr;
-    if (hasBattery(controller.content()))
-        view = new BatteryView(m_interface);
-    else
-        view = new NoBatteryView;
-    new KeyPathBinder(*view, controller, view);
-
     m_scrollArea = new QScrollArea(this); // scrolls on screens that are lower than the view
     m_scrollArea->setFrameShape(QFrame::NoFrame);
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_scrollArea->setWidgetResizable(true);
-    m_scrollArea->setWidget(view);
     m_scrollArea->viewport()->setAutoFillBackground(false); // the window draws it
-    view->setAutoFillBackground(false);
-    view->installEventFilter(this);
     m_scrollArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     layout.addWidget(m_scrollArea, 1);
+}
+
+void BatteryWindow::setView(FactsView* view)
+{
+    if (QWidget* former = m_scrollArea->takeWidget())
+        former->deleteLater(); // it may be the one that was clicked
+    m_view = view;
+    m_scrollArea->setWidget(view);
+    view->setAutoFillBackground(false);
+    view->installEventFilter(this);
+    connect(view, &FactsView::clicked, this, &BatteryWindow::performClick);
+}
+
+// A battery may come and go while the window is open.
+void BatteryWindow::updateFacts()
+{
+    const QDMac* mac = m_interface.macObjectController().content();
+    const bool hasBattery = mac && mac->Battery();
+    const std::vector<Fact> facts = factsFor(FactPlace::View, m_interface.factSources());
+    followModels();
+    if (!m_view || hasBattery != m_showsBattery) {
+        m_showsBattery = hasBattery;
+        if (hasBattery)
+            setView(new BatteryView(m_interface));
+        else
+            setView(new NoBatteryView);
+    }
+    m_view->setFacts(facts);
+    if (isVisible())
+        fit();
+}
+
+void BatteryWindow::followModels()
+{
+    const QDMac* mac = m_interface.macObjectController().content();
+    if (!mac)
+        return;
+    connect(mac, &QDMac::changed, this, &BatteryWindow::updateFacts, Qt::UniqueConnection);
+    if (const QDBattery* battery = mac->Battery())
+        connect(battery, &QDBattery::changed, this, &BatteryWindow::updateFacts, Qt::UniqueConnection);
+}
+
+void BatteryWindow::performClick(FactClick click)
+{
+    if (QDMac* mac = m_interface.macObjectController().content())
+        quindle::performClick(click, *mac);
 }
 
 void BatteryWindow::addEntries(QVBoxLayout& layout)
@@ -137,8 +174,9 @@ void BatteryWindow::open(const QPoint& anchor)
 void BatteryWindow::fit()
 {
     const ViewMetrics metrics(*this);
-    const QSize view = m_scrollArea->widget()->sizeHint();
-    const QSize content(m_scrollArea->widget()->maximumWidth(), view.height() + m_menu->sizeHint().height());
+    m_view->layout()->activate(); // layouts within it remember rows that are hidden since
+    const QSize view = m_view->sizeHint();
+    const QSize content(m_view->maximumWidth(), view.height() + m_menu->sizeHint().height());
     const QSize wanted = content.grownBy(layout()->contentsMargins());
     const QRect available = screenAt(m_anchor)->availableGeometry();
     const int gap = metrics.rowGap * 2;
@@ -152,7 +190,7 @@ void BatteryWindow::fit()
         move(place.topLeft());
 }
 
-// Rows come and go inside the scroll area, which does not pass that on.
+// Fonts change inside the scroll area, which does not pass that on.
 bool BatteryWindow::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::LayoutRequest && isVisible())

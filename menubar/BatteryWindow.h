@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include "facts/Fact.h"
 #include "platform/RunLoop.h"
 
 class QScrollArea;
@@ -12,11 +13,12 @@ class QVBoxLayout;
 
 namespace quindle {
 
+class FactsView;
 class MainInterface;
 class MenuEntry;
 
-/// What opens on a click: the battery view, bound and live, and the menu's entries under it. Deletes itself
-/// when it is closed.
+/// What opens on a click: the battery view, live, and the menu's entries under it. Deletes itself when it is
+/// closed.
 class BatteryWindow : public QWidget
 {
     Q_OBJECT
@@ -32,6 +34,9 @@ public:
 
     /// Places it for a click at `anchor` and shows it.
     void open(const QPoint& anchor);
+
+    /// Shows the facts of this moment.
+    void updateFacts();
 
     /// Brings one entry up to date with its row of the menu.
     void updateEntry(int id);
@@ -49,7 +54,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void addView(QVBoxLayout& layout);
+    void addScrollArea(QVBoxLayout& layout);
+    void setView(FactsView* view);
+    void followModels();
+    void performClick(FactClick click);
     void addEntries(QVBoxLayout& layout);
     void choose(int id);
     void fit();
@@ -59,6 +67,8 @@ private:
     Kind m_kind;
     QPoint m_anchor;
     QScrollArea* m_scrollArea = nullptr;
+    FactsView* m_view = nullptr;
+    bool m_showsBattery = false;
     QWidget* m_menu = nullptr;
     std::map<int, MenuEntry*> m_entries;
     std::function<void()> m_closedOutside;

@@ -5,10 +5,22 @@
 #include <QEvent>
 #include <QStyle>
 
+#include "facts/Facts.h"
+#include "facts/ValueTexts.h"
 #include "menubar/PlainLabel.h"
+#include "menubar/PlainText.h"
 #include "menubar/SwitchField.h"
 
 namespace quindle {
+
+namespace {
+
+QString clickHint()
+{
+    return QStringLiteral("Click to switch the unit");
+}
+
+} // namespace
 
 FactRow::FactRow(QWidget* parent)
     : QWidget(parent)
@@ -20,30 +32,38 @@ FactRow::FactRow(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-QString FactRow::caption() const
+void FactRow::setFact(const Fact& fact)
 {
-    return m_caption->text();
+    setVisible(fact.shown);
+    if (fact == m_fact)
+        return;
+    m_fact = fact;
+    setQuietText(fact.isQuiet);
+    setClickable(fact.click != FactClick::Nothing);
+    setToolTips(fact.toolTip);
+    setTexts(fact.caption, factText(fact, FactPlace::View));
 }
 
-void FactRow::setCaption(const QString& caption)
+void FactRow::setTexts(const QString& caption, const QString& text)
 {
+    if (caption == this->caption() && text == this->text())
+        return;
     m_caption->setText(caption);
-    tellAssistants();
-    arrange();
-}
-
-QString FactRow::text() const
-{
-    return m_value->text();
-}
-
-void FactRow::setText(const QString& text)
-{
     m_value->setText(text);
     if (m_switchField)
         m_switchField->setLabel(text);
     tellAssistants();
     arrange();
+}
+
+QString FactRow::caption() const
+{
+    return m_caption->text();
+}
+
+QString FactRow::text() const
+{
+    return m_value->text();
 }
 
 bool FactRow::hasQuietCaption() const
@@ -66,21 +86,33 @@ void FactRow::setQuietText(bool quiet)
     m_value->setQuiet(quiet);
 }
 
-void FactRow::setSwitchesUnit(bool switches)
+void FactRow::setClickable(bool clickable)
 {
-    if (switches == switchesUnit())
+    if (clickable == (m_switchField != nullptr))
         return;
-    if (switches) {
+    if (clickable) {
         m_switchField = new SwitchField(this);
         m_switchField->setLabel(text());
-        connect(m_switchField, &SwitchField::clicked, this, &FactRow::clicked);
+        connect(m_switchField, &SwitchField::clicked, this, [this] { Q_EMIT clicked(m_fact.click); });
     } else {
         delete m_switchField;
         m_switchField = nullptr;
     }
-    m_value->setVisible(!switches);
+    m_value->setVisible(!clickable);
+    if (m_switchField)
+        m_switchField->show();
     tellAssistants();
     arrange();
+}
+
+void FactRow::setToolTips(const QString& text)
+{
+    setToolTip(literalToolTip(text));
+    if (!m_switchField)
+        return;
+    const QString whole = joined(text, QStringLiteral("\n"), clickHint());
+    m_switchField->setToolTip(literalToolTip(whole));
+    m_switchField->setAccessibleDescription(whole); // which would be the tool tip with its markup
 }
 
 QSize FactRow::sizeHint() const

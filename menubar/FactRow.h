@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "facts/Fact.h"
+
 namespace quindle {
 
 class PlainLabel;
@@ -12,20 +14,24 @@ class SwitchField;
 class FactRow : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QString caption READ caption WRITE setCaption)
-    Q_PROPERTY(QString text READ text WRITE setText USER true)
     Q_PROPERTY(bool quietCaption READ hasQuietCaption WRITE setQuietCaption)
     Q_PROPERTY(bool quietText READ hasQuietText WRITE setQuietText)
-    Q_PROPERTY(bool switchesUnit READ switchesUnit WRITE setSwitchesUnit)
 
 public:
     explicit FactRow(QWidget* parent = nullptr);
 
-    QString caption() const;
-    void setCaption(const QString& caption);
+    /// Shows a fact with its detail, its tool tip and the way to click it; hides the row where it is not
+    /// shown.
+    void setFact(const Fact& fact);
 
+    /// The fact shown last.
+    const Fact& fact() const { return m_fact; }
+
+    /// Shows these texts alone.
+    void setTexts(const QString& caption, const QString& text);
+
+    QString caption() const;
     QString text() const;
-    void setText(const QString& text);
 
     bool hasQuietCaption() const;
     void setQuietCaption(bool quiet);
@@ -33,22 +39,20 @@ public:
     bool hasQuietText() const;
     void setQuietText(bool quiet);
 
-    /// True when a click on the value asks for another unit.
-    bool switchesUnit() const { return m_switchField != nullptr; }
-    void setSwitchesUnit(bool switches);
-
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// Another unit is asked for.
-    void clicked();
+    /// The value was clicked.
+    void clicked(quindle::FactClick click);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
+    void setClickable(bool clickable);
+    void setToolTips(const QString& text);
     QWidget* valueWidget() const;
     void arrange();
     void tellAssistants();
@@ -56,6 +60,7 @@ private:
     PlainLabel* m_caption;
     PlainLabel* m_value;
     SwitchField* m_switchField = nullptr;
+    Fact m_fact;
 };
 
 } // namespace quindle

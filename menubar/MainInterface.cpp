@@ -1,11 +1,39 @@
 #include "menubar/MainInterface.h"
 
+#include <algorithm>
+
+#include "common/SingleLine.h"
+#include "facts/ValueTexts.h"
+
 namespace quindle {
 
 namespace {
 
 // Menus grow as wide as their longest row, and a title may be of any length.
-constexpr qsizetype longestTitle = 100;
+constexpr int longestTitle = 100;
+constexpr int longestText = 60;
+
+using Kind = StatusMenu::Kind;
+
+/// Not to be chosen, and hidden until there is something to tell.
+StatusMenu::Row factRow(int parent)
+{
+    return {Kind::Fact, {}, false, false, {}, parent};
+}
+
+QString oneLine(const QString& text, int length)
+{
+    return elided(singleLine(text), length);
+}
+
+/// Caption and value with a tab between, or the one that is there.
+QString menuText(const Fact& fact)
+{
+    if (!fact.shown)
+        return {};
+    return joined(oneLine(fact.caption, longestText), QStringLiteral("\t"),
+                  oneLine(factText(fact, FactPlace::Menu), longestText));
+}
 
 } // namespace
 
@@ -26,40 +54,51 @@ MainOutlets MainInterface::outlets()
             m_versionItem};
 }
 
+// A row for every fact, in the order of their ranks: none comes or goes while a desktop shows the menu.
 void MainInterface::addFactRows()
 {
-    const StatusMenu::Row hidden{StatusMenu::Kind::Fact, {}, false, false, {}};
-    m_titleRow = m_statusMenu.addRow(hidden);
-    for (std::size_t i = 0; i < m_facts.texts().size(); ++i)
-        m_factRows.push_back(m_statusMenu.addRow(hidden));
+    const std::vector<Fact> facts = factsFor(FactPlace::Menu, {});
+    m_titleRow = m_statusMenu.addRow(factRow(0));
+    for (const Fact& fact : facts) {
+        const bool isDetail = fact.rank > lastRankOfMenu;
+        if (isDetail && m_detailsRow == 0)
+            m_detailsRow = m_statusMenu.addRow({Kind::Submenu, QStringLiteral("Details"), true, true, {}, 0});
+        m_factRows.push_back(m_statusMenu.addRow(factRow(isDetail ? m_detailsRow : 0)));
+    }
 }
 
 void MainInterface::addEntries()
 {
-    using Kind = StatusMenu::Kind;
     const auto entry = [this](const QString& text, void (StatusMenuActions::*action)()) {
-        m_statusMenu.addRow({Kind::Action, text, true, true, [this, action] {
-                                 if (m_actions)
-                                     (m_actions->*action)();
-                             }});
+        const auto chosen = [this, action] {
+            if (m_actions)
+                (m_actions->*action)();
+        };
+        return m_statusMenu.addRow({Kind::Action, text, true, true, chosen, 0});
     };
-    m_statusMenu.addRow({Kind::Separator, {}, true, true, {}});
-    m_statusMenu.addRow({Kind::OpenView, QStringLiteral("Show Battery..."), true, true, {}});
+    m_statusMenu.addRow({Kind::Separator, {}, true, true, {}, 0});
+    m_statusMenu.addRow({Kind::OpenView, QStringLiteral("Show Battery..."), true, true, {}, 0});
     entry(QStringLiteral("Open Application"), &StatusMenuActions::openApplication);
     entry(QStringLiteral("Preferences..."), &StatusMenuActions::openPreferences);
     entry(QStringLiteral("Menu Bar Text..."), &StatusMenuActions::openMenuBarText);
-    m_versionItem = m_statusMenu.addRow({Kind::Action, QStringLiteral("Version"), true, false, {}});
+    m_versionItem = m_statusMenu.addRow({Kind::Action, QStringLiteral("Version"), true, false, {}, 0});
     entry(QStringLiteral("Quit"), &StatusMenuActions::quitApp);
 }
 
 void MainInterface::updateFacts(const QString& title)
 {
-    const QObject* mac = m_macObjectController.content();
-    const QString noTitle = hasBattery(mac) ? QString() : QStringLiteral("No battery");
-    setFactRow(m_titleRow, title.isEmpty() ? noTitle : singleLine(title, longestTitle));
-    m_facts.update(mac);
-    for (std::size_t i = 0; i < m_factRows.size(); ++i)
-        setFactRow(m_factRows[i], m_facts.texts()[i]);
+    const QDMac* mac = m_macObjectController.content();
+    const QString noTitle = mac && mac->Battery() ? QString() : QStringLiteral("No battery");
+    setFactRow(m_titleRow, title.isEmpty() ? noTitle : oneLine(title, longestTitle));
+    const std::vector<Fact> facts = factsFor(FactPlace::Menu, factSources());
+    bool hasDetails = false;
+    for (std::size_t i = 0; i < facts.size(); ++i) {
+        setFactRow(m_factRows[i], menuText(facts[i]));
+        hasDetails = hasDetails || (facts[i].shown && facts[i].rank > lastRankOfMenu);
+    }
+    m_statusMenu.setVisible(m_detailsRow, hasDetails);
+    if (m_factsUpdated)
+        m_factsUpdated();
 }
 
 void MainInterface::setFactRow(int id, const QString& text)

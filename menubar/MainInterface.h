@@ -1,10 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include <QString>
 
-#include "menubar/BatteryFacts.h"
+#include "facts/Facts.h"
 #include "menubar/ObjectController.h"
 #include "menubar/ProgressIndicator.h"
 #include "platform/StatusMenu.h"
@@ -45,9 +46,9 @@ public:
 /// The main interface without its widgets: the status menu with its rows, the two bars, both views by name
 /// and the object controller. The helper shows it in a window of its own, quindle-inspect only reads it.
 ///
-/// Rows in order: the title and the battery's facts as text (kind Fact), a separator, "Show Battery...", then
-/// the entries "Open Application", "Preferences...", "Menu Bar Text...", the version
-/// entry and "Quit".
+/// Rows in order: the title and the facts that matter at the moment, the submenu "Details" with the others, a
+/// separator, "Show Battery...", then the entries "Open Application", "Preferences...", "Menu Bar Text...",
+/// the version entry and "Quit".
 class MainInterface
 {
 public:
@@ -60,9 +61,18 @@ public:
     /// Says who carries out the entries. Until then they do nothing.
     void setActions(StatusMenuActions* actions) { m_actions = actions; }
 
-    /// Brings the Fact rows up to date from the content of the object controller and `title`; rows without
-    /// anything to tell are hidden. Observers of the menu hear only of rows that are different.
+    /// Says whom facts may ask besides the content of the object controller; nobody when null.
+    void setPowerSources(PowerSources* powerSources) { m_powerSources = powerSources; }
+
+    /// Where the interface's facts come from.
+    FactSources factSources() const { return {m_macObjectController.content(), m_powerSources}; }
+
+    /// Brings the Fact rows up to date; what is not shown is hidden. Observers of the menu hear only of rows
+    /// that are different, the observer of the facts of each call.
     void updateFacts(const QString& title);
+
+    /// The one observer of `updateFacts`; an empty function for none.
+    void setFactsObserver(std::function<void()> updated) { m_factsUpdated = std::move(updated); }
 
     StatusMenu& statusMenu() { return m_statusMenu; }
     ObjectController& macObjectController() { return m_macObjectController; }
@@ -81,8 +91,10 @@ private:
     ProgressIndicator m_stateOfHealthProgress;
     StatusMenu m_statusMenu;
     StatusMenuActions* m_actions = nullptr;
-    BatteryFacts m_facts;
+    PowerSources* m_powerSources = nullptr;
+    std::function<void()> m_factsUpdated;
     int m_titleRow = 0;
+    int m_detailsRow = 0;
     std::vector<int> m_factRows;
     int m_versionItem = 0;
 };

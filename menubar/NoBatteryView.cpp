@@ -8,14 +8,22 @@
 namespace quindle {
 
 NoBatteryView::NoBatteryView(QWidget* parent)
-    : QWidget(parent)
+    : FactsView(parent)
     , m_ui(std::make_unique<Ui::NoBatteryView>())
 {
     m_ui->setupUi(this);
+    for (const FactList* list : {m_ui->devicesList, m_ui->computerList})
+        connect(list, &FactList::clicked, this, &FactsView::clicked);
     fitToFont();
 }
 
 NoBatteryView::~NoBatteryView() = default;
+
+void NoBatteryView::setFacts(const std::vector<Fact>& facts)
+{
+    m_ui->devicesList->setFacts(facts, FactGroup::Devices);
+    m_ui->computerList->setFacts(facts, FactGroup::Computer);
+}
 
 void NoBatteryView::changeEvent(QEvent* event)
 {

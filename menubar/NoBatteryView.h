@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include <QWidget>
+#include "menubar/FactsView.h"
 
 namespace quindle {
 
@@ -10,14 +10,16 @@ namespace Ui {
 class NoBatteryView;
 }
 
-/// The view ("noBatteryView") of a computer without a battery. A KeyPathBinder fills it.
-class NoBatteryView : public QWidget
+/// The view ("noBatteryView") of a computer without a battery: its devices and itself.
+class NoBatteryView : public FactsView
 {
     Q_OBJECT
 
 public:
     explicit NoBatteryView(QWidget* parent = nullptr);
     ~NoBatteryView() override;
+
+    void setFacts(const std::vector<Fact>& facts) override;
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -1,29 +1,23 @@
 #pragma once
 
-#include <functional>
-
 #include <QPointer>
 
-class QObject;
+#include "mac/QDMac.h"
 
 namespace quindle {
 
-/// Holds the object that an interface is bound to by key paths.
+/// Holds the computer that an interface shows.
 class ObjectController
 {
 public:
     /// Sets the content object, which the controller does not own.
-    void addObject(QObject* object);
+    void addObject(QDMac* mac) { m_content = mac; }
 
     /// Null before one was added, and after it was destroyed.
-    QObject* content() const { return m_content; }
-
-    /// The one observer of `addObject`.
-    void setObserver(std::function<void()> changed) { m_changed = std::move(changed); }
+    QDMac* content() const { return m_content; }
 
 private:
-    QPointer<QObject> m_content;
-    std::function<void()> m_changed;
+    QPointer<QDMac> m_content;
 };
 
 } // namespace quindle

@@ -14,7 +14,6 @@ SwitchField::SwitchField(QWidget* parent)
     : PlainButton(parent)
 {
     setCursor(Qt::PointingHandCursor);
-    setToolTip(QStringLiteral("Click to switch the unit"));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 

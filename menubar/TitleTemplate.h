@@ -14,6 +14,11 @@ struct TitleValues
     double wattThroughput = 0; ///< %w, watts with one decimal
     qint64 amperage = 0;       ///< %mA, mA, negative while discharging
     qint64 cycleCount = 0;     ///< %l
+
+    // Where nothing is known a title has what stands in for it ("0.0"); who explains placeholders may say so.
+    bool knowsTemperature = true;
+    bool knowsPower = true;
+    bool knowsCurrent = true;
 };
 
 /// The template of a user who has not written one.

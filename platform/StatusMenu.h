@@ -14,6 +14,7 @@ class StatusMenu
 public:
     enum class Kind {
         Fact,      ///< tells something and cannot be chosen; only in menus that the desktop draws
+        Submenu,   ///< opens the rows whose parent it is; only in menus that the desktop draws
         OpenView,  ///< opens the battery view; only in menus that the desktop draws
         Action,    ///< can be chosen
         Separator, ///< a line between groups
@@ -26,6 +27,7 @@ public:
         bool visible = true;
         bool enabled = true;
         std::function<void()> chosen; ///< what choosing the row does
+        int parent = 0;               ///< the id of the submenu it stands in, which comes before; 0 for none
     };
 
     /// Adds a row at the end and returns its id: 1 for the first, then counting up.

@@ -9,6 +9,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "facts/ValueTexts.h"
 #include "preferences/PlaceholderTable.h"
 #include "preferences/PopoverGeometry.h"
 #include "preferences/QuietLabel.h"
@@ -19,11 +20,6 @@ namespace quindle {
 namespace {
 
 enum Column { TextColumn, MeaningColumn, ValueColumn, ColumnCount };
-
-QString missingValue()
-{
-    return QStringLiteral(u"\u2013");
-}
 
 // Between the marks that keep "%p" and "-1043" in order within text that runs from right to left.
 QString leftToRight(const QString& text)
@@ -110,7 +106,7 @@ void ParameterPopover::fillRows()
     int row = 0;
     for (const Placeholder& placeholder : placeholderTable()) {
         QTreeWidgetItem* item = m_rows.topLevelItem(row++);
-        const QString value = values ? titleFromTemplate(placeholder.text, *values) : missingValue();
+        const QString value = values ? presentValue(placeholder, *values) : missingValueText();
         item->setText(ValueColumn, leftToRight(value));
         item->setTextAlignment(ValueColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(TextColumn, Qt::AccessibleTextRole,

@@ -22,7 +22,7 @@ public:
     /// Opens it beside the sender's trailing edge, or beside the leading one where there is no room.
     void showRelativeTo(const QWidget& sender);
 
-    /// Shows the present values; without a battery en dashes. Does nothing while it is closed.
+    /// Shows the present values; en dashes for what is not known. Does nothing while it is closed.
     void refresh();
 
 Q_SIGNALS:

@@ -6,14 +6,21 @@
 
 namespace quindle {
 
+struct TitleValues;
+
 /// One placeholder of the title template, as users read of it.
 struct Placeholder
 {
     QString text;    ///< "%p"
     QString meaning; ///< what it stands for, with its unit
+    bool (*isKnown)(const TitleValues&);
 };
 
 /// All of them, in the order in which they are replaced.
 const std::vector<Placeholder>& placeholderTable();
+
+/// What a placeholder gives at the moment; an en dash for what is not known, where a title has what the
+/// battery's figures give ("0.0", "nan").
+QString presentValue(const Placeholder& placeholder, const TitleValues& values);
 
 } // namespace quindle

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The helper as a StatusNotifierItem in a real panel."""
 
+import re
 import time
 import unittest
 
@@ -21,6 +22,23 @@ class NotifierItem(HelperCase):
                                     "[]")
         for text in ("66.0% 1:35", "Open Application", "Version 9", "Quit", "42"):
             self.assertIn(text, layout)
+
+    def menu(self, parent=0):
+        """The rows of the menu itself or of a submenu, as a host asks for them: {id: printed properties}."""
+        layout = self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.GetLayout", str(parent),
+                                    "1", "[]")
+        return {int(row): properties for row, properties in re.findall(r"<\((\d+), (\{.*?\}), ", layout)}
+
+    def test_the_menu_has_four_facts_the_commands_and_details(self):
+        self.start(machine(66))
+        self.assert_title("66.0%")
+        rows = self.menu()
+        seen = [row for row in rows.values() if "'visible': <true>" in row and "separator" not in row]
+        facts = [row for row in seen if "'enabled': <false>" in row and "Version" not in row]
+        self.assertEqual(len(facts), 4, facts)
+        self.assertLessEqual(len(seen), 11, seen)  # all of it is seen on a screen of 600 pixels
+        details = next(number for number, row in rows.items() if "'children-display': <'submenu'>" in row)
+        self.assertIn("Cycles: 42", "".join(self.menu(details).values()))
 
     def test_the_template_is_shown_literally(self):
         self.start(machine(50, template="<b>&x_y %p %1 %n"))
@@ -115,7 +133,6 @@ class NotifierItem(HelperCase):
         self.assert_title("66.0%")
         layout = self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.GetLayout", "0", "-1",
                                     "['label']")
-        import re
         row = re.search(r"\((\d+), \{[^}]*'label': <'Quit'>", layout)
         self.assertIsNotNone(row, layout)
         self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.Event", row.group(1), "clicked",

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/facts/FactComputer.h"
+
 using namespace quindle;
 
 namespace {
@@ -19,75 +21,94 @@ QVariant text(const char* utf8)
     return QString::fromUtf8(utf8);
 }
 
-QVariantMap batteryValues()
+struct TextReport : testing::Test, test::FactComputer
 {
-    return map({{"StateOfCharge", 61.0},
-                {"CurrentCapacity", 2967},
-                {"FullChargeCapacity", 4865},
-                {"StateOfHealth", 89.0},
-                {"DesignCapacity", 5466},
-                {"BatteryState", text("Discharging...")},
-                {"StateText", text("Discharging with")},
-                {"WattThroughput", 4.61},
-                {"RemainingString", text("Time until empty")},
-                {"TimeRemaining", text("4:41")},
-                {"AdapterConnected", text("Not connected")},
-                {"CycleCount", 293},
-                {"Temperature", text("25.8 °C")}});
-}
-
-TEST(TextReport, AlignsWhatIsThere)
-{
-    const QVariantMap state = map({
+    QVariantMap state = map({
         {"statusItem", map({{"title", text("61.0%")}, {"image", text("#bat24")}})},
         {"bars", map({{"stateOfCharge", text("green")}, {"stateOfHealth", text("green")}})},
-        {"battery", batteryValues()},
-        {"mac", map({{"Name", text("Demo")}, {"Model", text("MacBookAir4,2")}, {"LongModel", QVariant()}})},
+        {"battery", map({})},
     });
-    EXPECT_EQ(reportText(state).toStdString(), "Status item\n"
-                                               "  Title             61.0%\n"
-                                               "  Icon              #bat24\n"
-                                               "  Charge bar        green\n"
-                                               "  Health bar        green\n"
-                                               "\n"
-                                               "Battery\n"
-                                               "  Charge            61.0 % (2967 mAh of 4865 mAh)\n"
-                                               "  Health            89.0 % (4865 mAh of 5466 mAh)\n"
-                                               "  State             Discharging...\n"
-                                               "  Discharging with  4.61 W\n"
-                                               "  Time until empty  4:41\n"
-                                               "  Adapter           Not connected\n"
-                                               "  Cycles            293\n"
-                                               "  Temperature       25.8 °C\n"
-                                               "\n"
-                                               "Computer\n"
-                                               "  Name              Demo\n"
-                                               "  Model             MacBookAir4,2\n");
+
+    std::string report() { return reportText(state, factsFor(FactPlace::Report, sources())).toStdString(); }
+};
+
+TEST_F(TextReport, AlignsWhatIsThere)
+{
+    makeDemo();
+    EXPECT_EQ(report(), "Status item\n"
+                        "  Title             61.0%\n"
+                        "  Icon              #bat24\n"
+                        "  Charge bar        green\n"
+                        "  Health bar        green\n"
+                        "\n"
+                        "Battery\n"
+                        "  Charge            61.0 % (2967 mAh of 4865 mAh)\n"
+                        "  Health            89.0 % (4865 mAh)\n"
+                        "  Condition         Good\n"
+                        "  Discharging with  4.6 W\n"
+                        "  Time until empty  4:41\n"
+                        "  Adapter           Not connected\n"
+                        "  Cycles            293\n"
+                        "  Temperature       78.5 °F\n"
+                        "  Failures          No Errors\n"
+                        "  Manufactured      2014-04-04\n"
+                        "\n"
+                        "Computer\n"
+                        "  Name              Demo Computer\n"
+                        "  Type              MacBook Air (13-inch, Late 2013)\n"
+                        "  Model             MacBookAir4,2\n"
+                        "  System            El Capitan\n"
+                        "  Serial number     C02MN1TXF5YW\n");
 }
 
-TEST(TextReport, SaysThatThereIsNoBattery)
+TEST_F(TextReport, SaysThatThereIsNoBattery)
 {
-    const QVariantMap state = map({
+    removeBattery();
+    platform.registry.entries.clear();
+    platform.systemFiles.files.clear();
+    make();
+    state = map({
         {"statusItem", map({{"title", text("")}, {"image", text("AppIconBW")}})},
         {"battery", QVariant()},
-        {"mac", map({{"Name", text("Tower")}})},
         {"isAppLoginItem", true},
     });
-    EXPECT_EQ(reportText(state).toStdString(), "Status item\n"
-                                               "  Icon             AppIconBW\n"
-                                               "  Starts at login  yes\n"
-                                               "\n"
-                                               "Battery\n"
-                                               "  None             this computer has no battery\n"
-                                               "\n"
-                                               "Computer\n"
-                                               "  Name             Tower\n");
+    EXPECT_EQ(report(), "Status item\n"
+                        "  Starts at login  yes\n"
+                        "\n"
+                        "Battery\n"
+                        "  None             this computer has no battery\n"
+                        "\n"
+                        "Computer\n"
+                        "  Name             Demo Computer\n");
 }
 
-TEST(TextReport, KeepsControlCharactersFromTheTerminal)
+TEST_F(TextReport, HasAGroupOfDevicesWhereThereAreAny)
 {
-    const QVariantMap state = map({{"statusItem", map({{"title", text("a\x1b[31mb\nc")}})}});
-    EXPECT_TRUE(reportText(state).contains(QStringLiteral("a [31mb c\n")));
+    addDevices();
+    make();
+    EXPECT_NE(report().find("\nDevices\n"
+                            "  Marathon Mouse M705  85 %\n"
+                            "  K750 Keyboard        Low\n"
+                            "\nComputer\n"),
+              std::string::npos)
+        << report();
+    EXPECT_NE(report().find("  Charge limit         80 %\n"), std::string::npos);
+}
+
+TEST_F(TextReport, HasNoBarOfAFigureThatIsNotKnown)
+{
+    setBattery("MaxCapacity", 0);
+    make();
+    EXPECT_EQ(report().find("bar"), std::string::npos) << report();
+}
+
+TEST_F(TextReport, KeepsControlCharactersFromTheTerminal)
+{
+    makeDemo();
+    mac->setProperty("Name", QStringLiteral("x\x1b[31my"));
+    state = map({{"statusItem", map({{"title", text("a\x1b[31mb\nc")}})}});
+    EXPECT_NE(report().find("a [31mb c\n"), std::string::npos);
+    EXPECT_NE(report().find("x [31my\n"), std::string::npos);
 }
 
 } // namespace

@@ -152,10 +152,33 @@ class CommandLine(unittest.TestCase):
         for text in ("50.0 %", SERIAL, "Jane's Computer", "MacBookAir4,2", "60 Watts"):
             self.assertIn(text, result.stdout)
 
-    def test_report_without_battery(self):
+    def report_of(self, battery=None, **keys):
+        registry = {} if battery is None else {"AppleSmartBattery": battery}
         with open(self.machine, "wb") as file:
-            plistlib.dump({"Bundle": MACHINE["Bundle"]}, file)
-        self.assertIn("this computer has no battery", self.run_program("--machine", self.machine).stdout)
+            plistlib.dump({"Bundle": MACHINE["Bundle"], "Registry": registry, "PowerSources": []} | keys, file)
+        return self.run_program("--machine", self.machine).stdout
+
+    def test_report_without_battery(self):
+        report = self.report_of()
+        self.assertIn("this computer has no battery", report)
+        self.assertNotIn("AppIconBW", report)
+
+    def test_report_shows_nothing_that_is_not_known(self):
+        for battery in ({}, {"CurrentCapacity": 50}, {"CurrentCapacity": 50, "MaxCapacity": 100}):
+            report = self.report_of(battery).partition("Battery\n")[2]  # a title may hold anything
+            for text in ("nan", "inf", "0.0 °C", "Cycles", "0.0 W", "0.00 W", "Health", "Built", "Manufactured"):
+                self.assertNotIn(text, report, battery)
+
+    def test_report_dates_no_computer_by_a_serial_that_does_not_decode(self):
+        expert = {"model": b"x\0", "IOPlatformSerialNumber": "PFQQABCDEFG"}
+        report = self.report_of(Registry={"IOPlatformExpertDevice": expert})
+        self.assertIn("PFQQABCDEFG", report)
+        self.assertNotIn("Built", report)
+
+    def test_report_tells_power_with_one_decimal_and_failures(self):
+        report = self.report_of({"CurrentCapacity": 50, "MaxCapacity": 100, "Voltage": 12345, "Amperage": -1000})
+        self.assertRegex(report, "Discharging with +12.3 W\n")
+        self.assertRegex(report, "Failures +No Errors\n")
 
     def test_demonstration_computer(self):
         state = json.loads(self.run_program("--demo", "--json", "--machine", self.machine).stdout.splitlines()[0])

@@ -1,7 +1,6 @@
-// Renders the opened battery view with invented models: BatteryViewShot CASE FILE.png
-// CASE: words joined by "-" of light, dark, charging, low, held, none, rtl, long; "stay" leaves it open
-
-#include <limits>
+// Renders the opened battery view of an invented computer: BatteryViewShot CASE FILE.png
+// CASE: words joined by "-" of light, dark, charging, full, low, held, nodesign, limit, devices, demo, none,
+// rtl, long; "stay" leaves it open
 
 #include <QApplication>
 #include <QPalette>
@@ -10,53 +9,58 @@
 #include "menubar/BatteryWindow.h"
 #include "menubar/MainInterface.h"
 #include "menubar/MenuEntry.h"
-#include "tests/menubar/FakeModels.h"
+#include "tests/facts/FactComputer.h"
 #include "tests/menubar/Palettes.h"
 
 using namespace quindle;
+using test::FactComputer;
 
 namespace {
 
-void makeCharging(test::FakeBattery& battery)
+void charging(FactComputer& computer)
 {
-    battery.batteryState = QStringLiteral("Charging...");
-    battery.stateText = QStringLiteral("Charging with");
-    battery.remainingString = QStringLiteral("Calculating...");
-    battery.timeRemaining.clear();
-    battery.adapterConnected = QStringLiteral("Connected");
-    battery.adapterWatt = QStringLiteral("60 Watts");
-    battery.stateOfCharge = 31.2;
-    battery.currentCapacity = 1872;
+    computer.plugIn();
+    computer.setBattery("CurrentCapacity", 1872);
 }
 
-void makeLow(test::FakeBattery& battery)
+void low(FactComputer& computer)
 {
-    battery.stateOfCharge = 7;
-    battery.currentCapacity = 420;
-    battery.stateOfHealth = 41;
+    computer.setBattery("CurrentCapacity", 180);
+    computer.setBattery("MaxCapacity", 2950);
+    computer.setCondition(QStringLiteral("Poor"));
 }
 
-void makeHeld(test::FakeBattery& battery)
+/// A computer of another make, of which little is known.
+void noDesign(FactComputer& computer)
 {
-    battery.batteryState.clear();
-    battery.stateText = QStringLiteral("Chargin with");
-    battery.timeRemaining.clear();
-    battery.wattThroughput = 0;
-    battery.manufacturer = {};
-    battery.serialNumber = QString();
-    battery.designCapacity = 0;
-    battery.stateOfHealth = std::numeric_limits<double>::infinity();
-    battery.adapterConnected = QStringLiteral("Connected");
+    computer.platform.setComputer(QStringLiteral("20Y70037MH"), QStringLiteral("PF123456"));
+    computer.platform.systemFiles.files.clear();
+    for (const char* key : {"DesignCapacity", "CycleCount", "Temperature", "ManufactureDate"})
+        computer.setBattery(key, {});
+    computer.setCondition(QString());
 }
 
-void makeLong(test::FakeBattery& battery, test::FakeMac& mac)
+void limit(FactComputer& computer)
 {
-    mac.name = QStringLiteral(u"<b>A&B</b> ") + QString(300, u'n');
-    mac.type = QStringLiteral(u"\u05D0\u05D1\u05D2 ").repeated(100);
-    mac.longModel = QStringLiteral("line\nbreak ") + QString(10000, u'w');
-    battery.manufacturer = QString(QStringLiteral(u"\U0001F50B emoji ")).repeated(50);
-    battery.batteryState = QStringLiteral("Discharging for a very very long time in a far away place...");
-    battery.cycleCount = 1234567890123;
+    computer.holdBack();
+    computer.platform.powerSources.limit = 80;
+}
+
+void none(FactComputer& computer)
+{
+    computer.removeBattery();
+}
+
+void makeLong(QDMac& mac)
+{
+    mac.setProperty("Name", QString(QStringLiteral("<b>A&B</b> ") + QString(300, u'n')));
+    mac.setProperty("Type", QStringLiteral(u"\u05D0\u05D1\u05D2 ").repeated(100));
+    mac.setProperty("LongModel", QString(QStringLiteral("line\nbreak ") + QString(10000, u'w')));
+    QDBattery& battery = *mac.Battery();
+    battery.setProperty("Manufacturer", QStringLiteral(u"\U0001F50B emoji ").repeated(50));
+    battery.setProperty("BatteryState",
+                        QStringLiteral("Discharging for a very very long time in a far away place..."));
+    battery.setProperty("CycleCount", qint64{1234567890123});
 }
 
 std::shared_ptr<HueFilter> hueFilter(double angle)
@@ -71,37 +75,35 @@ std::shared_ptr<HueFilter> hueFilter(double angle)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    const QString name = QString::fromLocal8Bit(argv[1]);
-    const QStringList words = name.split(u'-');
-    const bool dark = words.contains(QStringLiteral("dark"));
+    const QStringList words = QString::fromLocal8Bit(argv[1]).split(u'-');
+    const auto has = [&words](const char* word) { return words.contains(QLatin1String(word)); };
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(dark ? test::darkPalette() : test::lightPalette());
-    if (words.contains(QStringLiteral("rtl")))
+    QApplication::setPalette(has("dark") ? test::darkPalette() : test::lightPalette());
+    if (has("rtl"))
         QApplication::setLayoutDirection(Qt::RightToLeft);
 
-    test::FakeBattery battery;
-    test::FakeMac mac;
-    if (!words.contains(QStringLiteral("none")))
-        mac.battery = &battery;
-    double angle = 4;
-    if (words.contains(QStringLiteral("charging"))) {
-        makeCharging(battery);
-        angle = -16;
+    FactComputer computer;
+    const std::pair<const char*, void (*)(FactComputer&)> changes[]{
+        {"charging", charging}, {"full", [](FactComputer& c) { c.fillUp(); }},
+        {"low", low},           {"held", [](FactComputer& c) { c.holdBack(); }},
+        {"nodesign", noDesign}, {"devices", [](FactComputer& c) { c.addDevices(); }},
+        {"limit", limit},       {"none", none},
+    };
+    for (const auto& [word, change] : changes) {
+        if (has(word))
+            change(computer);
     }
-    if (words.contains(QStringLiteral("low"))) {
-        makeLow(battery);
-        angle = 241;
-    }
-    if (words.contains(QStringLiteral("held")))
-        makeHeld(battery);
-    if (words.contains(QStringLiteral("long")))
-        makeLong(battery, mac);
+    has("demo") ? computer.makeDemo() : computer.make();
+    if (has("long"))
+        makeLong(*computer.mac);
 
+    const double angle = has("low") ? 241 : has("charging") ? -16 : 4;
     MainInterface interface;
-    interface.macObjectController().addObject(&mac);
+    interface.macObjectController().addObject(computer.mac.get());
+    interface.setPowerSources(has("demo") ? nullptr : &computer.platform.powerSources);
     interface.statusMenu().setText(interface.outlets().versionItem, QStringLiteral("Version 123"));
     interface.stateOfChargeProgress().setContentFilters({hueFilter(angle)});
-    interface.stateOfHealthProgress().setContentFilters({hueFilter(angle == 241 ? 241 : 4)});
+    interface.stateOfHealthProgress().setContentFilters({hueFilter(has("low") ? 241 : 4)});
 
     auto* window = new BatteryWindow(interface, BatteryWindow::Kind::Popup);
     window->open(QPoint(400, 10));
@@ -110,7 +112,7 @@ int main(int argc, char** argv)
         entry->setFocus(Qt::OtherFocusReason);
     QApplication::processEvents();
     const bool saved = window->grab().save(QString::fromLocal8Bit(argv[2]));
-    if (words.contains(QStringLiteral("stay")))
+    if (has("stay"))
         QApplication::exec();
     window->close();
     return saved ? 0 : 1;

@@ -50,6 +50,18 @@ std::optional<QVariantMap> FakePowerSources::externalAdapterDetails()
     return adapter;
 }
 
+std::optional<int> FakePowerSources::chargeLimit()
+{
+    ++calls;
+    return limit;
+}
+
+QList<PeripheralBattery> FakePowerSources::peripherals()
+{
+    ++calls;
+    return devices;
+}
+
 std::optional<int> FakePowerSources::sourceCount()
 {
     ++calls;

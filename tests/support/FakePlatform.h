@@ -69,8 +69,8 @@ public:
     std::optional<QVariantMap> externalAdapterDetails() override;
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
-    std::optional<int> chargeLimit() override { return limit; }
-    QList<PeripheralBattery> peripherals() override { return devices; }
+    std::optional<int> chargeLimit() override;
+    QList<PeripheralBattery> peripherals() override;
 };
 
 class MemoryUserDefaults : public UserDefaults

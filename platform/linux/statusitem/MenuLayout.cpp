@@ -1,7 +1,6 @@
 #include "platform/linux/statusitem/MenuLayout.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "platform/linux/statusitem/StatusTexts.h"
 
@@ -12,6 +11,17 @@ namespace {
 int rowCount(const StatusMenu* menu)
 {
     return menu ? static_cast<int>(menu->rows().size()) : 0;
+}
+
+/// The rows of a submenu, or those of the menu itself.
+std::vector<int> rowsIn(const StatusMenu* menu, int parentId)
+{
+    std::vector<int> ids;
+    for (int id = 1; id <= rowCount(menu); ++id) {
+        if (menu->rows()[static_cast<std::size_t>(id) - 1].parent == parentId)
+            ids.push_back(id);
+    }
+    return ids;
 }
 
 QVariantMap only(const QVariantMap& properties, const QStringList& names)
@@ -33,13 +43,14 @@ QVariantMap menuRowProperties(const StatusMenu::Row& row)
     if (row.kind == StatusMenu::Kind::Separator)
         return {{QStringLiteral("type"), QStringLiteral("separator")},
                 {QStringLiteral("visible"), row.visible}};
-    // Facts count as enabled although choosing one does nothing: hosts draw disabled rows in a grey that is
-    // hard to read and leave them out when stepping by keyboard, so a screen reader would never tell them.
-    return {
+    QVariantMap properties{
         {QStringLiteral("label"), menuLabel(row.text)},
-        {QStringLiteral("enabled"), row.enabled || row.kind == StatusMenu::Kind::Fact},
+        {QStringLiteral("enabled"), row.enabled},
         {QStringLiteral("visible"), row.visible},
     };
+    if (row.kind == StatusMenu::Kind::Submenu)
+        properties.insert(QStringLiteral("children-display"), QStringLiteral("submenu"));
+    return properties;
 }
 
 QVariantMap menuProperties(const StatusMenu* menu, int id, const QStringList& names)
@@ -55,10 +66,12 @@ MenuNode menuLayout(const StatusMenu* menu, int parentId, int depth, const QStri
                     bool commandsFirst)
 {
     MenuNode node{parentId, menuProperties(menu, parentId, names), {}};
-    if (parentId != menuRootId || depth == 0)
+    if (depth == 0)
         return node;
-    for (const int id : menuOrder(menu, commandsFirst)) {
-        const MenuNode child{id, menuProperties(menu, id, names), {}};
+    const std::vector<int> ids =
+        parentId == menuRootId ? menuOrder(menu, commandsFirst) : rowsIn(menu, parentId);
+    for (const int id : ids) {
+        const MenuNode child = menuLayout(menu, id, depth - 1, names);
         node.children.append(QDBusVariant(QVariant::fromValue(child)));
     }
     return node;
@@ -66,8 +79,7 @@ MenuNode menuLayout(const StatusMenu* menu, int parentId, int depth, const QStri
 
 std::vector<int> menuOrder(const StatusMenu* menu, bool commandsFirst)
 {
-    std::vector<int> ids(static_cast<std::size_t>(rowCount(menu)));
-    std::iota(ids.begin(), ids.end(), 1);
+    std::vector<int> ids = rowsIn(menu, menuRootId);
     if (!commandsFirst)
         return ids;
     const auto kindOf = [menu](int id) { return menu->rows()[static_cast<std::size_t>(id) - 1].kind; };

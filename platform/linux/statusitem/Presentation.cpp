@@ -1,5 +1,6 @@
 #include "platform/linux/statusitem/Presentation.h"
 
+#include "common/SingleLine.h"
 #include "platform/linux/statusitem/StatusTexts.h"
 
 namespace quindle {

@@ -1,7 +1,8 @@
 #include "platform/linux/statusitem/StatusTexts.h"
 
-#include <QTextBoundaryFinder>
 #include <QTextDocument>
+
+#include "common/SingleLine.h"
 
 namespace quindle {
 
@@ -9,49 +10,7 @@ namespace {
 
 constexpr int menuLabelLength = 100;
 
-// One character as a person counts them may carry any number of combining marks; this bounds them.
-constexpr qsizetype unitsPerCharacter = 8;
-
-bool isControl(QChar c)
-{
-    return c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-           c == QChar::ParagraphSeparator;
-}
-
-/// Where the character after the first `count` ones begins; -1 if the text has no more than that.
-qsizetype positionAfter(const QString& text, int count)
-{
-    const qsizetype limit = count * unitsPerCharacter;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.left(limit + 1));
-    qsizetype position = 0;
-    for (int i = 0; i < count && position >= 0; ++i)
-        position = finder.toNextBoundary();
-    if (position >= 0 && position <= limit)
-        return position < text.size() ? position : -1;
-    return text.size() > limit ? limit : -1;
-}
-
 } // namespace
-
-QString singleLine(const QString& text)
-{
-    QString line = text;
-    for (QChar& c : line) {
-        if (isControl(c))
-            c = QLatin1Char(' ');
-    }
-    return line;
-}
-
-QString elided(const QString& text, int length)
-{
-    if (text.size() <= length || positionAfter(text, length) < 0)
-        return text;
-    qsizetype cut = positionAfter(text, length - 1);
-    if (cut > 0 && text.at(cut - 1).isHighSurrogate())
-        --cut;
-    return text.left(cut) + QChar(0x2026);
-}
 
 QString busText(const QString& text)
 {

@@ -4,12 +4,6 @@
 
 namespace quindle {
 
-/// The text on one line: line breaks, tabs and other control characters become blanks.
-QString singleLine(const QString& text);
-
-/// At most `length` characters as a person counts them, an ellipsis included where the text is cut.
-QString elided(const QString& text, int length);
-
 /// The text as the bus can carry it: text over the bus ends at the first NUL, so a NUL is replaced.
 QString busText(const QString& text);
 

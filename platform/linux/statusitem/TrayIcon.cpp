@@ -39,7 +39,7 @@ void bringUpToDate(QAction* action, const StatusMenu::Row& row)
     if (row.kind == StatusMenu::Kind::Separator)
         return;
     action->setText(actionText(row.text));
-    action->setEnabled(row.enabled || row.kind == StatusMenu::Kind::Fact);
+    action->setEnabled(row.enabled);
 }
 
 } // namespace
@@ -67,10 +67,9 @@ void TrayIcon::updateMenu()
 {
     if (!m_contextMenu || !m_menu)
         return;
-    const QList<QAction*> actions = m_contextMenu->actions();
     const auto& rows = m_menu->rows();
-    for (std::size_t i = 0; i < rows.size() && static_cast<qsizetype>(i) < actions.size(); ++i)
-        bringUpToDate(actions[static_cast<qsizetype>(i)], rows[i]);
+    for (std::size_t i = 0; i < rows.size() && i < m_actions.size(); ++i)
+        bringUpToDate(m_actions[i], rows[i]);
 }
 
 void TrayIcon::activated(QSystemTrayIcon::ActivationReason reason)
@@ -85,15 +84,26 @@ void TrayIcon::activated(QSystemTrayIcon::ActivationReason reason)
 
 void TrayIcon::openMenu()
 {
+    m_actions.clear();
     m_contextMenu = std::make_unique<QMenu>();
     int id = 0;
     for (const StatusMenu::Row& row : m_menu->rows()) {
-        QAction* action = m_contextMenu->addAction(QString());
-        action->setSeparator(row.kind == StatusMenu::Kind::Separator);
+        QAction* action = addRow(row);
         bringUpToDate(action, row);
         connect(action, &QAction::triggered, this, [menu = m_menu, chosen = ++id] { menu->choose(chosen); });
     }
     m_contextMenu->popup(QCursor::pos());
+}
+
+QAction* TrayIcon::addRow(const StatusMenu::Row& row)
+{
+    QMenu* menu =
+        row.parent == 0 ? m_contextMenu.get() : m_actions[static_cast<std::size_t>(row.parent) - 1]->menu();
+    const bool isSubmenu = row.kind == StatusMenu::Kind::Submenu;
+    QAction* action = isSubmenu ? menu->addMenu(QString())->menuAction() : menu->addAction(QString());
+    action->setSeparator(row.kind == StatusMenu::Kind::Separator);
+    m_actions.push_back(action);
+    return action;
 }
 
 } // namespace quindle

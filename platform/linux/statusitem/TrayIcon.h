@@ -2,17 +2,19 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include <QObject>
 #include <QSystemTrayIcon>
 
+#include "platform/StatusMenu.h"
 #include "platform/linux/statusitem/Presentation.h"
 
+class QAction;
 class QMenu;
 
 namespace quindle {
 
-class StatusMenu;
 class StatusPictures;
 
 /// The item in an X11 tray, for desktops without a watcher of status notifier items. It shows itself as soon
@@ -35,11 +37,13 @@ public:
 private:
     void activated(QSystemTrayIcon::ActivationReason reason);
     void openMenu();
+    QAction* addRow(const StatusMenu::Row& row);
 
     StatusMenu* m_menu;
     QSystemTrayIcon m_icon;
     std::optional<Picture> m_shownPicture;
     std::unique_ptr<QMenu> m_contextMenu;
+    std::vector<QAction*> m_actions; ///< of the rows; the row with id n at n - 1
 };
 
 } // namespace quindle

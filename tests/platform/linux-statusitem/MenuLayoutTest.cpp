@@ -23,6 +23,14 @@ protected:
         menu.addRow({StatusMenu::Kind::Action, u("a_b"), false, false, {}});
     }
 
+    /// Rows 5 to 7.
+    void addDetails()
+    {
+        const int details = menu.addRow({StatusMenu::Kind::Submenu, u("Details"), true, true, {}});
+        menu.addRow({StatusMenu::Kind::Fact, u("Cycles\t293"), true, false, {}, details});
+        menu.addRow({StatusMenu::Kind::Fact, u("Model\tx"), false, false, {}, details});
+    }
+
     static MenuNode child(const MenuNode& node, int index)
     {
         return node.children.at(index).variant().value<MenuNode>();
@@ -44,6 +52,30 @@ TEST_F(MenuLayout, rootHasAllRowsInvisibleOnesToo)
     }
 }
 
+TEST_F(MenuLayout, rowsOfASubmenuStandBelowIt)
+{
+    addDetails();
+    const MenuNode root = menuLayout(&menu, 0, -1, {});
+    ASSERT_EQ(root.children.size(), 5);
+    const MenuNode details = child(root, 4);
+    EXPECT_EQ(details.properties.value(u("children-display")), u("submenu"));
+    EXPECT_EQ(details.properties.value(u("label")), u("Details"));
+    ASSERT_EQ(details.children.size(), 2);
+    EXPECT_EQ(child(details, 0).id, 6);
+    EXPECT_EQ(child(details, 1).properties.value(u("visible")), false);
+}
+
+TEST_F(MenuLayout, aSubmenuIsAskedForByItself)
+{
+    addDetails();
+    const MenuNode shallow = menuLayout(&menu, 0, 1, {});
+    EXPECT_TRUE(child(shallow, 4).children.isEmpty());
+    EXPECT_EQ(menuLayout(&menu, 5, 1, {}).children.size(), 2);
+    EXPECT_EQ(menuLayout(&menu, 0, 2, {}).children.size(), 5);
+    EXPECT_EQ(child(menuLayout(&menu, 0, 2, {}), 4).children.size(), 2);
+    EXPECT_TRUE(menuLayout(&menu, 5, 0, {}).children.isEmpty());
+}
+
 TEST_F(MenuLayout, depthZeroHasNoRows)
 {
     EXPECT_TRUE(menuLayout(&menu, 0, 0, {}).children.isEmpty());
@@ -63,6 +95,8 @@ TEST(MenuOrder, commandsAreReachedFirstWhereTallMenusAreCut)
         {{Kind::Fact, Kind::Fact, Kind::Fact, Kind::Separator, Kind::OpenView, Kind::Action},
          {1, 5, 6, 4, 2, 3}},
         {{Kind::Fact, Kind::Separator, Kind::OpenView, Kind::Separator, Kind::Action}, {1, 3, 4, 5, 2}},
+        {{Kind::Fact, Kind::Fact, Kind::Submenu, Kind::Separator, Kind::OpenView, Kind::Action},
+         {1, 5, 6, 4, 2, 3}},
         {{Kind::Fact, Kind::Fact, Kind::Action}, {1, 3, 2}},
         {{Kind::Fact, Kind::Action}, {1, 2}},
         {{Kind::Action, Kind::Fact}, {1, 2}},
@@ -98,7 +132,7 @@ TEST_F(MenuLayout, onlyNamedProperties)
 TEST_F(MenuLayout, kinds)
 {
     const auto enabled = [this](int id) { return menuProperties(&menu, id, {}).value(u("enabled")); };
-    EXPECT_EQ(enabled(1), true) << "a fact must be legible";
+    EXPECT_EQ(enabled(1), false) << "choosing a fact would do nothing";
     EXPECT_EQ(enabled(2), true);
     EXPECT_EQ(enabled(4), false);
     EXPECT_EQ(menuProperties(&menu, 3, {}).value(u("type")), u("separator"));

@@ -1,0 +1,238 @@
+#include "facts/BatteryFacts.h"
+
+#include <cmath>
+#include <utility>
+
+#include "battery/BatteryStateRule.h"
+#include "battery/QDBattery.h"
+#include "common/DateFromText.h"
+#include "common/NumberTexts.h"
+#include "facts/FactRule.h"
+#include "facts/ValueTexts.h"
+
+namespace quindle {
+
+namespace {
+
+struct BatterySource
+{
+    const QDBattery& battery;
+    std::optional<int> limit;
+    FactPlace place;
+};
+
+std::optional<double> knownPercent(double percent)
+{
+    return std::isfinite(percent) ? std::optional(percent) : std::nullopt;
+}
+
+FactText charge(const BatterySource& source)
+{
+    const QDBattery& battery = source.battery;
+    const QString figure = percentText(battery.StateOfCharge());
+    const QString capacities =
+        capacitiesText(battery.CurrentCapacity(), battery.FullChargeCapacity(), source.place);
+    FactText text;
+    text.percent = knownPercent(battery.StateOfCharge());
+    text.value = figure;
+    text.detail = capacities;
+    // Only the view has a place for the capacities alone.
+    if (figure.isEmpty() && source.place != FactPlace::View)
+        std::swap(text.value, text.detail);
+    return text;
+}
+
+/// Nothing to compare with is no health: neither a full charge nor a design capacity of 0 is one.
+std::optional<double> knownHealth(const QDBattery& battery)
+{
+    return battery.FullChargeCapacity() > 0 ? knownPercent(battery.StateOfHealth()) : std::nullopt;
+}
+
+/// With nothing to compare with, only the report tells the full charge again: it has one line for both.
+QString fullAgainstDesign(const BatterySource& source)
+{
+    const QDBattery& battery = source.battery;
+    const bool isTold = battery.DesignCapacity() > 0 || source.place == FactPlace::Report;
+    return isTold ? capacitiesText(battery.FullChargeCapacity(), battery.DesignCapacity(), source.place)
+                  : QString();
+}
+
+/// The view has a place for health, so there it is said that it is missing.
+QString missingHealth(const BatterySource& source)
+{
+    if (source.place != FactPlace::View)
+        return {};
+    return source.battery.DesignCapacity() > 0 ? QStringLiteral("Not known")
+                                               : QStringLiteral("No design capacity");
+}
+
+QString capacityDescription(qint64 capacity, const QString& description, FactPlace place)
+{
+    const QString amount = countText(capacity, place);
+    return amount.isEmpty() ? amount : amount + QStringLiteral(" mAh: ") + description;
+}
+
+QString designDescription(const BatterySource& source)
+{
+    const QDBattery& battery = source.battery;
+    const QString reported = capacityDescription(battery.ReportedDesignCapacity(),
+                                                 QDBattery::ReportedDesignCapacity_Desc(), source.place);
+    const QString actual = capacityDescription(battery.ActualDesignCapacity(),
+                                               QDBattery::ActualDesignCapacity_Desc(), source.place);
+    return joined(reported, QStringLiteral("\n"), actual);
+}
+
+FactText health(const BatterySource& source)
+{
+    const QString condition = knownText(source.battery.BatteryHealth());
+    FactText text;
+    text.percent = knownHealth(source.battery);
+    text.value = text.percent ? percentText(*text.percent) : missingHealth(source);
+    text.detail = fullAgainstDesign(source);
+    text.toolTip = designDescription(source);
+    if (source.place == FactPlace::Report)
+        return text;
+    text.value = joined(text.value, besideEachOther(), condition);
+    if (source.place == FactPlace::Menu)
+        text.detail.clear(); // "Full charge" tells it
+    return text;
+}
+
+FactText condition(const BatterySource& source)
+{
+    return {.value = knownText(source.battery.BatteryHealth())};
+}
+
+QString power(const QDBattery& battery)
+{
+    return battery.knowsPower() ? wattsText(battery.WattThroughput()) : QString();
+}
+
+FactText state(const BatterySource& source)
+{
+    const QString state = knownText(source.battery.BatteryState());
+    const bool hasOwnPower = source.place == FactPlace::View || source.place == FactPlace::Report;
+    return {.value = hasOwnPower ? state : joined(state, besideEachOther(), power(source.battery))};
+}
+
+FactText powerWithCaption(const BatterySource& source)
+{
+    return {.value = power(source.battery), .caption = source.battery.StateText()};
+}
+
+/// Without a time the caption tells that it is not estimated yet, or that the battery is full; a menu that
+/// says "Charged" already does not say so again.
+FactText time(const BatterySource& source)
+{
+    const QDBattery& battery = source.battery;
+    const bool isSaidAbove =
+        source.place == FactPlace::Menu && battery.BatteryState() == chargedTexts().batteryState;
+    const bool captionTells =
+        source.place != FactPlace::Report && !isSaidAbove && !knownText(battery.BatteryState()).isEmpty();
+    return {.value = knownText(battery.TimeRemaining()),
+            .caption = battery.RemainingString(),
+            .captionTells = captionTells};
+}
+
+FactText chargeLimit(const BatterySource& source)
+{
+    return {.value = source.limit ? integerText(*source.limit) + QStringLiteral(" %") : QString()};
+}
+
+FactText fullCharge(const BatterySource& source)
+{
+    return {.value = fullAgainstDesign(source)};
+}
+
+FactText adapter(const BatterySource& source)
+{
+    return {.value = knownText(source.battery.AdapterConnected()),
+            .detail = knownText(source.battery.AdapterWatt())};
+}
+
+FactText cycles(const BatterySource& source)
+{
+    QString count = countText(source.battery.CycleCount(), source.place);
+    if (source.place == FactPlace::View && !count.isEmpty())
+        count += source.battery.CycleCount() == 1 ? QStringLiteral(" cycle") : QStringLiteral(" cycles");
+    return {.value = count, .toolTip = QDBattery::CycleCount_Desc()};
+}
+
+FactText temperature(const BatterySource& source)
+{
+    return {.value = source.battery.knowsTemperature() ? knownText(source.battery.Temperature()) : QString()};
+}
+
+FactText failures(const BatterySource& source)
+{
+    return {.value = knownText(source.battery.PermanentFailureString()), .isQuiet = true};
+}
+
+FactText manufacturer(const BatterySource& source)
+{
+    return {.value = knownText(source.battery.Manufacturer())};
+}
+
+FactText device(const BatterySource& source)
+{
+    return {.value = knownText(source.battery.DeviceName())};
+}
+
+FactText madeBy(const BatterySource& source)
+{
+    return {.value = joined(manufacturer(source).value, besideEachOther(), device(source).value)};
+}
+
+FactText serialNumber(const BatterySource& source)
+{
+    return {.value = knownText(source.battery.SerialNumber())};
+}
+
+FactText age(const BatterySource& source)
+{
+    if (!source.battery.knowsManufactureDate())
+        return {};
+    const QString day = dayText(*source.battery.ManufactureDate());
+    const QString age = knownText(source.battery.CustomAge());
+    if (source.place == FactPlace::Report)
+        return {.value = day, .detail = age};
+    return {.value = age, .toolTip = QStringLiteral("Manufactured ") + day};
+}
+
+using Id = FactId;
+using Group = FactGroup;
+using Click = FactClick;
+
+// In the report's order; the other places order by rank. Power and time have captions of the battery's own.
+constexpr FactRule<BatterySource> batteryTable[]{
+    {Id::Charge, Group::Summary, 20, everywhere(u"Charge"), charge},
+    {Id::Health, Group::Summary, 11, everywhere(u"Health"), health},
+    {Id::Condition, Group::Summary, 90, {nullptr, nullptr, u"Condition"}, condition},
+    {Id::State, Group::Summary, 1, {u"State", u"", u"State"}, state},
+    {Id::Power, Group::State, 2, inViewAndReport(u"Power"), powerWithCaption},
+    {Id::Time, Group::State, 3, everywhere(u"Time"), time},
+    {Id::ChargeLimit, Group::State, 21, everywhere(u"Charge limit"), chargeLimit},
+    {Id::Adapter, Group::Battery, 43, everywhere(u"Adapter"), adapter},
+    {Id::FullCharge, Group::Summary, 30, {nullptr, u"Full charge", nullptr}, fullCharge},
+    {Id::Cycles, Group::Summary, 31, everywhere(u"Cycles"), cycles},
+    {Id::Temperature, Group::Battery, 42, everywhere(u"Temperature"), temperature, Click::Temperature},
+    {Id::Failures, Group::Battery, 44, everywhere(u"Failures"), failures},
+    {Id::MadeBy, Group::Battery, 40, {u"Made by", u"Battery made by", nullptr}, madeBy},
+    {Id::Manufacturer, Group::Battery, 90, {nullptr, nullptr, u"Manufacturer"}, manufacturer},
+    {Id::Device, Group::Battery, 90, {nullptr, nullptr, u"Device"}, device},
+    {Id::BatterySerial, Group::Battery, 90, inViewAndReport(u"Serial number"), serialNumber},
+    {Id::BatteryAge, Group::Battery, 41, {u"Age", u"Battery age", u"Manufactured"}, age, Click::BatteryAge},
+};
+
+} // namespace
+
+void addBatteryFacts(std::vector<Fact>& facts, FactPlace place, const QDBattery* battery,
+                     std::optional<int> chargeLimit)
+{
+    std::optional<BatterySource> source;
+    if (battery)
+        source.emplace(BatterySource{*battery, chargeLimit, place});
+    addFacts(facts, batteryTable, place, source);
+}
+
+} // namespace quindle

@@ -1,0 +1,100 @@
+#include "facts/ComputerFacts.h"
+
+#include <optional>
+
+#include "facts/FactRule.h"
+#include "facts/ValueTexts.h"
+#include "mac/QDMac.h"
+
+namespace quindle {
+
+namespace {
+
+struct ComputerSource
+{
+    const QDMac& mac;
+    FactPlace place;
+};
+
+/// The name is the caption: both are about the computer as a whole.
+FactText nameAndType(const ComputerSource& source)
+{
+    const QString name = knownText(source.mac.Name());
+    return {.value = knownText(source.mac.Type()), .caption = name, .captionTells = !name.isEmpty()};
+}
+
+FactText name(const ComputerSource& source)
+{
+    return {.value = knownText(source.mac.Name())};
+}
+
+FactText type(const ComputerSource& source)
+{
+    const QString type = knownText(source.mac.Type());
+    if (type.isEmpty() || source.place != FactPlace::Report)
+        return {.value = type};
+    return {.value = joined(type, QStringLiteral(" "), knownText(source.mac.LongModel()))};
+}
+
+/// The words if they are known, with the identifier as tool tip; else the identifier, as always in the
+/// report.
+FactText model(const ComputerSource& source)
+{
+    const QString identifier = knownText(source.mac.Model());
+    const QString words = knownText(source.mac.LongModel());
+    if (source.place == FactPlace::Report || words.isEmpty())
+        return {.value = identifier};
+    return {.value = words, .toolTip = identifier};
+}
+
+FactText operatingSystem(const ComputerSource& source)
+{
+    return {.value = knownText(source.mac.OSXVersion())};
+}
+
+FactText computerSerial(const ComputerSource& source)
+{
+    return {.value = knownText(source.mac.Serial())};
+}
+
+FactText computerAge(const ComputerSource& source)
+{
+    if (!source.mac.knowsManufactureDate())
+        return {};
+    const QString day = knownText(source.mac.ManufactureDateString());
+    const QString age = knownText(source.mac.CustomAge());
+    if (source.place == FactPlace::Report)
+        return {.value = day, .detail = age};
+    return {.value = age, .toolTip = day.isEmpty() ? day : QStringLiteral("Built ") + day};
+}
+
+using Id = FactId;
+using Group = FactGroup;
+
+// In the report's order; the other places order by rank.
+constexpr FactRule<ComputerSource> computerTable[]{
+    {Id::Computer, Group::Computer, 50, {u"Type", nullptr, nullptr}, nameAndType},
+    {Id::Name, Group::Computer, 50, {nullptr, u"Computer", u"Name"}, name},
+    {Id::Type, Group::Computer, 51, {nullptr, u"Type", u"Type"}, type},
+    {Id::Model, Group::Computer, 52, everywhere(u"Model"), model},
+    {Id::System, Group::Computer, 53, everywhere(u"System"), operatingSystem},
+    {Id::ComputerSerial, Group::Computer, 90, inViewAndReport(u"Serial number"), computerSerial},
+    {Id::ComputerAge,
+     Group::Computer,
+     54,
+     {u"Age", u"Computer age", u"Built"},
+     computerAge,
+     FactClick::ComputerAge},
+};
+
+} // namespace
+
+void addComputerFacts(std::vector<Fact>& facts, FactPlace place, const QDMac* mac)
+{
+    std::optional<ComputerSource> source;
+    if (mac)
+        source.emplace(ComputerSource{*mac, place});
+    addFacts(facts, computerTable, place, source);
+}
+
+} // namespace quindle

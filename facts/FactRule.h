@@ -1,0 +1,95 @@
+#pragma once
+
+#include <vector>
+
+#include "facts/Fact.h"
+
+namespace quindle {
+
+/// What a fact says of its source. With nothing known all is empty, and the fact is not shown.
+struct FactText
+{
+    QString value = {};
+    QString detail = {};
+    QString caption = {}; ///< in place of the table's, where it is not empty
+    QString toolTip = {};
+    bool captionTells = false; ///< also shown without a value
+    std::optional<double> percent = {};
+    bool isQuiet = false;
+};
+
+/// A fact's caption at each place; null: it is not told there.
+struct FactCaptions
+{
+    const char16_t* inView = nullptr;
+    const char16_t* inMenu = nullptr; ///< also in the tool tip, for the ranks that are told there
+    const char16_t* inReport = nullptr;
+};
+
+constexpr FactCaptions everywhere(const char16_t* caption)
+{
+    return {caption, caption, caption};
+}
+
+constexpr FactCaptions inViewAndReport(const char16_t* caption)
+{
+    return {caption, nullptr, caption};
+}
+
+/// One line in a table of facts. `Source` is what they are made from.
+template <class Source>
+struct FactRule
+{
+    FactId id;
+    FactGroup group;
+    int rank;
+    FactCaptions captions;
+    FactText (*text)(const Source&);
+    FactClick click = FactClick::Nothing;
+
+    const char16_t* caption(FactPlace place) const
+    {
+        switch (place) {
+        case FactPlace::View:
+            return captions.inView;
+        case FactPlace::Menu:
+            return captions.inMenu;
+        case FactPlace::ToolTip:
+            return rank <= lastRankOfToolTip ? captions.inMenu : nullptr;
+        case FactPlace::Report:
+            break;
+        }
+        return captions.inReport;
+    }
+};
+
+/// The rule of all places: what is not known is not shown. `text` is empty for what is not known.
+template <class Source>
+Fact factOf(const FactRule<Source>& rule, const char16_t* caption, const FactText& text)
+{
+    return {.id = rule.id,
+            .group = rule.group,
+            .rank = rule.rank,
+            .caption = text.caption.isEmpty() ? QString::fromUtf16(caption) : text.caption,
+            .value = text.value,
+            .detail = text.detail,
+            .shown = !text.value.isEmpty() || text.captionTells,
+            .toolTip = text.toolTip,
+            .click = rule.click,
+            .percent = text.percent,
+            .isQuiet = text.isQuiet};
+}
+
+/// Adds the facts of a table that are told at `place`: always the same ones in the table's order. Without a
+/// source none is known.
+template <class Table, class Source>
+void addFacts(std::vector<Fact>& facts, const Table& table, FactPlace place,
+              const std::optional<Source>& source)
+{
+    for (const auto& rule : table) {
+        if (const char16_t* caption = rule.caption(place))
+            facts.push_back(factOf(rule, caption, source ? rule.text(*source) : FactText()));
+    }
+}
+
+} // namespace quindle

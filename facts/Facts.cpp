@@ -1,0 +1,109 @@
+#include "facts/Facts.h"
+
+#include <algorithm>
+
+#include <QStringList>
+
+#include "battery/QDBattery.h"
+#include "common/NumberTexts.h"
+#include "facts/BatteryFacts.h"
+#include "facts/ComputerFacts.h"
+#include "facts/ValueTexts.h"
+#include "mac/QDMac.h"
+#include "platform/PowerSources.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr int rankOfDevices = 45; // before the computer, which hardly ever changes
+
+const QDBattery* batteryOf(const FactSources& sources)
+{
+    return sources.mac ? sources.mac->Battery() : nullptr;
+}
+
+std::optional<int> chargeLimit(const FactSources& sources, FactPlace place)
+{
+    const bool isTold = place != FactPlace::ToolTip && batteryOf(sources);
+    return isTold && sources.powerSources ? sources.powerSources->chargeLimit() : std::nullopt;
+}
+
+Fact deviceFact(const PeripheralBattery& device)
+{
+    const QString level = knownText(device.level);
+    const QString value = device.percent ? integerText(*device.percent) + QStringLiteral(" %") : level;
+    return {.id = FactId::Peripheral,
+            .group = FactGroup::Devices,
+            .rank = rankOfDevices,
+            .caption = device.name,
+            .value = value,
+            .detail = {},
+            .shown = !value.isEmpty(),
+            .toolTip = {},
+            .percent = {}};
+}
+
+void addDeviceFacts(std::vector<Fact>& facts, FactPlace place, PowerSources* powerSources)
+{
+    const bool isTold = place == FactPlace::View || place == FactPlace::Report;
+    if (!isTold || !powerSources)
+        return;
+    for (const PeripheralBattery& device : powerSources->peripherals())
+        facts.push_back(deviceFact(device));
+}
+
+} // namespace
+
+std::vector<Fact> factsFor(FactPlace place, const FactSources& sources)
+{
+    std::vector<Fact> facts;
+    addBatteryFacts(facts, place, batteryOf(sources), chargeLimit(sources, place));
+    addDeviceFacts(facts, place, sources.powerSources);
+    addComputerFacts(facts, place, sources.mac);
+    if (place != FactPlace::Report)
+        std::stable_sort(facts.begin(), facts.end(),
+                         [](const Fact& one, const Fact& other) { return one.rank < other.rank; });
+    return facts;
+}
+
+QString factText(const Fact& fact, FactPlace place)
+{
+    if (place != FactPlace::Report)
+        return joined(fact.value, besideEachOther(), fact.detail);
+    return fact.detail.isEmpty() ? fact.value : fact.value + QStringLiteral(" (") + fact.detail + u')';
+}
+
+QString toolTipText(const FactSources& sources)
+{
+    if (!batteryOf(sources))
+        return QStringLiteral("No battery");
+    QStringList lines;
+    for (const Fact& fact : factsFor(FactPlace::ToolTip, sources)) {
+        if (fact.shown)
+            lines.append(joined(fact.caption, QStringLiteral(" "), factText(fact, FactPlace::ToolTip)));
+    }
+    return lines.join(u'\n');
+}
+
+void performClick(FactClick click, QDMac& mac)
+{
+    QDBattery* battery = mac.Battery();
+    switch (click) {
+    case FactClick::Nothing:
+        break;
+    case FactClick::ComputerAge:
+        mac.toggleAge();
+        break;
+    case FactClick::BatteryAge:
+        if (battery)
+            battery->toggleAge();
+        break;
+    case FactClick::Temperature:
+        if (battery)
+            battery->toggleTemperatureMode();
+        break;
+    }
+}
+
+} // namespace quindle

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <vector>
+
+#include "facts/Fact.h"
+
+namespace quindle {
+
+class PowerSources;
+class QDMac;
+
+/// Where facts come from. Null: nothing is known, or nobody is asked.
+struct FactSources
+{
+    const QDMac* mac = nullptr;
+    PowerSources* powerSources = nullptr; ///< for the charge limit and the devices
+};
+
+/// What is told at one place: for the report in the order of a record, elsewhere by rank. There are always
+/// the same facts, shown or not; only devices come and go, which are told in view and report.
+std::vector<Fact> factsFor(FactPlace place, const FactSources& sources);
+
+/// Value and detail in one text: "Connected · 60 Watts", in the report "Connected (60 Watts)".
+QString factText(const Fact& fact, FactPlace place);
+
+/// The status item's tool tip: what the battery does, then the remaining time on a line of its own; "No
+/// battery" without one.
+QString toolTipText(const FactSources& sources);
+
+/// Does what a click on a fact does; nothing for the battery's without a battery.
+void performClick(FactClick click, QDMac& mac);
+
+} // namespace quindle

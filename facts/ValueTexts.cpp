@@ -1,0 +1,89 @@
+#include "facts/ValueTexts.h"
+
+#include <cmath>
+
+#include <QLocale>
+
+#include "common/NumberTexts.h"
+
+namespace quindle {
+
+namespace {
+
+QString withUnit(const QString& figure, const QString& unit)
+{
+    return figure.isEmpty() ? figure : figure + u' ' + unit;
+}
+
+} // namespace
+
+QString knownText(const std::optional<QString>& text)
+{
+    return text && !text->trimmed().isEmpty() ? *text : QString();
+}
+
+QString figureText(double figure)
+{
+    return std::isfinite(figure) ? fixedText(figure, 1) : QString();
+}
+
+QString percentText(double percent)
+{
+    return withUnit(figureText(percent), QStringLiteral("%"));
+}
+
+QString wattsText(double watts)
+{
+    return withUnit(figureText(watts), QStringLiteral("W"));
+}
+
+QString countText(qint64 count, FactPlace place)
+{
+    return count > 0 ? groupedText(count, groupSeparator(place)) : QString();
+}
+
+QString capacitiesText(qint64 held, qint64 room, FactPlace place)
+{
+    const QString unit = QStringLiteral("mAh");
+    const QString first = countText(held, place);
+    const QString second = withUnit(countText(room, place), unit);
+    if (place == FactPlace::Report) // each with its unit, for programs that pick a column
+        return first.isEmpty() ? first : joined(withUnit(first, unit), QStringLiteral(" of "), second);
+    if (second.isEmpty())
+        return withUnit(first, unit);
+    return (first.isEmpty() ? missingValueText() : first) + QStringLiteral(" of ") + second;
+}
+
+QString groupedText(qint64 number, const QString& separator)
+{
+    QString text = integerText(number);
+    const qsizetype firstDigit = number < 0 ? 1 : 0;
+    for (qsizetype position = text.size() - 3; position > firstDigit; position -= 3)
+        text.insert(position, separator);
+    return text;
+}
+
+QString groupSeparator(FactPlace place)
+{
+    if (place == FactPlace::Report)
+        return {};
+    const QString separator = QLocale().groupSeparator();
+    return separator == u'.' ? QString(QChar(u'\u202F')) : separator;
+}
+
+QString joined(const QString& first, const QString& between, const QString& second)
+{
+    return first.isEmpty() || second.isEmpty() ? first + second : first + between + second;
+}
+
+QString besideEachOther()
+{
+    return QStringLiteral(u" \u00B7 ");
+}
+
+QString missingValueText()
+{
+    return QString(QChar(u'\u2013'));
+}
+
+} // namespace quindle

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+
+#include "facts/Fact.h"
+
+/// Values in words, with ASCII digits and a decimal point in every locale like the texts of the models
+/// themselves. Each is empty for what is not known.
+namespace quindle {
+
+/// The text, if it has more than blanks.
+QString knownText(const std::optional<QString>& text);
+
+/// One decimal, e.g. "66.7"; not known when not finite.
+QString figureText(double figure);
+
+QString percentText(double percent); ///< "83.9 %"
+QString wattsText(double watts);     ///< "12.4 W"
+
+/// A number of things, e.g. "1,234". 0 and less is how drivers say that they do not count.
+QString countText(qint64 count, FactPlace place);
+
+/// What is held of what there is room for, in mAh: "4,000 of 6,000 mAh"; of two capacities one may be
+/// unknown (0 or less).
+QString capacitiesText(qint64 held, qint64 room, FactPlace place);
+
+/// Whole digits in groups of three, e.g. "6,000" or "-1,600".
+QString groupedText(qint64 number, const QString& separator);
+
+/// What separates groups of digits for this user: their locale's sign, but a narrow space where that is the
+/// point, which is the decimal point here. Nothing in the report.
+QString groupSeparator(FactPlace place);
+
+/// Both texts with `between` between them, or the one that is there.
+QString joined(const QString& first, const QString& between, const QString& second);
+
+/// What stands between two things that are told together.
+QString besideEachOther();
+
+/// What stands where a value is missing: an en dash.
+QString missingValueText();
+
+} // namespace quindle
