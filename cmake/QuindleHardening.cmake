@@ -27,3 +27,17 @@ endif()
 add_compile_options("$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:SHELL:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=${level}>")
 
 add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
+
+# A program is noted to be fit for shadow stacks (SHSTK) and checked jumps (IBT) where each of its object files is, the
+# C library's start files among them. Where those are not (Debian 12), the shadow stack is noted all the same: start
+# files do nothing to the stack but call. Checked jumps are not, because their functions lack the marks.
+include(CheckLinkerFlag)
+if(QUINDLE_HAS_fcf_protection_full)
+    set(CMAKE_REQUIRED_FLAGS -fcf-protection=full)
+    check_linker_flag(CXX "-Wl,--fatal-warnings,-z,cet-report=error" QUINDLE_START_FILES_ARE_FIT)
+    check_linker_flag(CXX "-Wl,--fatal-warnings,-z,shstk" QUINDLE_LINKER_NOTES_SHADOW_STACKS)
+    unset(CMAKE_REQUIRED_FLAGS)
+    if(NOT QUINDLE_START_FILES_ARE_FIT AND QUINDLE_LINKER_NOTES_SHADOW_STACKS)
+        add_link_options(-Wl,-z,shstk)
+    endif()
+endif()

@@ -1,4 +1,4 @@
-"""check_hardening.py [--not-optimised] FILE...: whether programs and modules were built with what keeps mistakes with
+"""check_hardening.py [--not-optimised] [--start-files-unfit] FILE...: whether programs and modules were built with what keeps mistakes with
 memory from serving an attacker. Prints a line for each that is missing; exit status 1 when one is."""
 
 import re
@@ -26,6 +26,7 @@ class Binary:
         self.segments = readelf(path, "-l")
         self.dynamic = readelf(path, "-d")
         symbols = readelf(path, "--dyn-syms")
+        self.notes = readelf(path, "-n")
         self.imports = set(re.findall(r" UND ([A-Za-z_0-9]+)", symbols))
 
     def is_x86(self):
@@ -50,6 +51,11 @@ def functions_marked(binary):
     return not binary.is_x86() or binary.code().count(b"\xf3\x0f\x1e\xfa") >= 10
 
 
+def noted(feature):
+    """Whether processors of the x86 family may hold the program to it."""
+    return lambda binary: not binary.is_x86() or re.search(rf"x86 feature:.*\b{feature}\b", binary.notes)
+
+
 CHECKS = [
     ("position independent", lambda b: b.position_independent),
     ("read-only relocations", lambda b: "GNU_RELRO" in b.segments),
@@ -60,16 +66,21 @@ CHECKS = [
     ("no library path of its own", lambda b: not re.search(r"\((RPATH|RUNPATH)\)", b.dynamic)),
     ("stack protector", lambda b: "__stack_chk_fail" in b.imports),
     ("jump targets marked", functions_marked),
+    ("fit for shadow stacks", noted("SHSTK")),
 ]
 OPTIMISED_CHECKS = [("checked C library functions", fortified)]
+# Of the whole program, and so of the C library's start files in it, which are the distribution's.
+START_FILE_CHECKS = [("fit for checked jumps", noted("IBT"))]
 
 
 def main():
     arguments = sys.argv[1:]
-    checks = CHECKS + OPTIMISED_CHECKS
-    if "--not-optimised" in arguments:
-        arguments.remove("--not-optimised")
-        checks = CHECKS
+    checks = CHECKS
+    for option, more in (("--not-optimised", OPTIMISED_CHECKS), ("--start-files-unfit", START_FILE_CHECKS)):
+        if option in arguments:
+            arguments.remove(option)
+        else:
+            checks = checks + more
     if not arguments:
         sys.exit("nothing to look at")
     faults = [f"{path}: not {name}" for path in arguments

@@ -6,7 +6,7 @@ import sys
 import tempfile
 import unittest
 
-from check_hardening import CHECKS, OPTIMISED_CHECKS, Binary
+from check_hardening import CHECKS, OPTIMISED_CHECKS, START_FILE_CHECKS, Binary
 
 COMPILER = sys.argv.pop()
 SOURCE = """
@@ -25,8 +25,11 @@ int main(int argc, char** argv)
 """
 HARDENED = ["-O2", "-fPIE", "-pie", "-fstack-protector-strong", "-U_FORTIFY_SOURCE", "-D_FORTIFY_SOURCE=2",
             "-Wl,-z,relro", "-Wl,-z,now", "-Wl,-z,noexecstack"]
+NOTES = []
 if os.uname().machine == "x86_64":
     HARDENED.append("-fcf-protection=full")
+    # By force, as the distribution's start files decide otherwise.
+    NOTES = ["-Wl,-z,shstk", "-Wl,-z,ibt"]
 
 
 class CheckHardening(unittest.TestCase):
@@ -35,13 +38,13 @@ class CheckHardening(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = folder.name
 
-    def missing(self, *options):
+    def missing(self, *options, notes=tuple(NOTES)):
         source, program = (os.path.join(self.folder, name) for name in ("program.cpp", "program"))
         with open(source, "w", encoding="ascii") as file:
             file.write(SOURCE)
-        subprocess.run([COMPILER, source, "-o", program, *HARDENED, *options], check=True, capture_output=True)
+        subprocess.run([COMPILER, source, "-o", program, *HARDENED, *notes, *options], check=True, capture_output=True)
         binary = Binary(program)
-        return [name for name, holds in CHECKS + OPTIMISED_CHECKS if not holds(binary)]
+        return [name for name, holds in CHECKS + OPTIMISED_CHECKS + START_FILE_CHECKS if not holds(binary)]
 
     def test_hardened(self):
         self.assertEqual(self.missing(), [])
@@ -63,6 +66,13 @@ class CheckHardening(unittest.TestCase):
     def test_unmarked_jump_targets(self):
         if os.uname().machine == "x86_64":
             self.assertEqual(self.missing("-fcf-protection=none"), ["jump targets marked"])
+
+    def test_one_unfit_object_file(self):
+        if os.uname().machine == "x86_64":
+            unfit = os.path.join(self.folder, "unfit.s")
+            with open(unfit, "w", encoding="ascii") as file:
+                file.write('.section .note.GNU-stack,"",@progbits\n')
+            self.assertEqual(self.missing(unfit, notes=()), ["fit for shadow stacks", "fit for checked jumps"])
 
 
 if __name__ == "__main__":
