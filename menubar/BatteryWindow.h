@@ -37,6 +37,7 @@ public:
 
     /// Shows the facts of this moment.
     void updateFacts();
+    void orderFocus();
 
     /// Brings one entry up to date with its row of the menu.
     void updateEntry(int id);

@@ -416,6 +416,21 @@ TEST_F(BatteryPopupTest, ArrowsReachEverything)
         EXPECT_EQ(reached.count(entry) == 1, entry->isEnabled()) << entry->label().toStdString();
 }
 
+TEST_F(BatteryPopupTest, TheKeyboardGoesFromTheFactsDownToTheEntries)
+{
+    QWidget* shown = open();
+    QStringList order;
+    for (QWidget* next = shown->nextInFocusChain(); next != shown; next = next->nextInFocusChain()) {
+        if (qobject_cast<SwitchField*>(next))
+            order.append(QStringLiteral("field"));
+        else if (qobject_cast<MenuEntry*>(next))
+            order.append(QStringLiteral("entry"));
+    }
+    ASSERT_TRUE(order.contains(QStringLiteral("field")));
+    ASSERT_TRUE(order.contains(QStringLiteral("entry")));
+    EXPECT_LT(order.lastIndexOf(QStringLiteral("field")), order.indexOf(QStringLiteral("entry")));
+}
+
 TEST_F(BatteryPopupTest, TheClickThatClosedItDoesNotOpenItAgain)
 {
     pressMouse(open(), {-50, -50});
