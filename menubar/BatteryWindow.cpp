@@ -18,7 +18,6 @@
 #include "menubar/NoBatteryView.h"
 #include "menubar/PaletteMix.h"
 #include "menubar/PopupGeometry.h"
-#include "menubar/SwitchField.h"
 #include "menubar/ViewMetrics.h"
 
 namespace quindle {
@@ -60,8 +59,8 @@ BatteryWindow::BatteryWindow(MainInterface& interface, Kind kind)
     layout->setContentsMargins(border, border, border, border);
     layout->setSpacing(0);
     addScrollArea(*layout);
+    updateFacts(); // before the entries: the keyboard goes through them in the order in which they were made
     addEntries(*layout);
-    updateFacts();
 }
 
 void BatteryWindow::addScrollArea(QVBoxLayout& layout)
@@ -102,24 +101,8 @@ void BatteryWindow::updateFacts()
             setView(new NoBatteryView);
     }
     m_view->setFacts(facts);
-    orderFocus();
     if (isVisible())
         fit();
-}
-
-// The view is made after the entries, and anew when a battery comes or goes, but stands above them.
-void BatteryWindow::orderFocus()
-{
-    QWidget* previous = nullptr;
-    const auto follow = [&previous](QWidget* next) {
-        if (previous)
-            setTabOrder(previous, next);
-        previous = next;
-    };
-    for (SwitchField* field : m_view->findChildren<SwitchField*>())
-        follow(field);
-    for (const auto& [id, entry] : m_entries)
-        follow(entry);
 }
 
 void BatteryWindow::followModels()

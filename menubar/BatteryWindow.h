@@ -37,7 +37,6 @@ public:
 
     /// Shows the facts of this moment.
     void updateFacts();
-    void orderFocus();
 
     /// Brings one entry up to date with its row of the menu.
     void updateEntry(int id);
