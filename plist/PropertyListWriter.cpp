@@ -43,17 +43,29 @@ bool isWritable(const QVariant& value)
 bool isXmlCharacter(QChar character)
 {
     const char16_t code = character.unicode();
+    if (character.isSurrogate())
+        return false; // one half of a character
     return code >= 0x20 ? code < 0xfffe : code == u'\t' || code == u'\n' || code == u'\r';
 }
 
-/// XML has no way to write other control characters; one of them would make the whole list unreadable.
+bool isPairAt(const QString& text, qsizetype index)
+{
+    return text[index].isHighSurrogate() && index + 1 < text.size() && text[index + 1].isLowSurrogate();
+}
+
+/// XML has no way to write other control characters, nor half a surrogate pair; one of them would make the
+/// whole list unreadable.
 QString xmlText(const QString& text)
 {
     QString kept;
     kept.reserve(text.size());
-    for (const QChar character : text)
-        if (isXmlCharacter(character))
-            kept += character;
+    for (qsizetype index = 0; index < text.size(); ++index) {
+        if (isPairAt(text, index))
+            kept += text[index++];
+        else if (!isXmlCharacter(text[index]))
+            continue;
+        kept += text[index];
+    }
     return kept;
 }
 

@@ -61,6 +61,9 @@ TEST(PropertyListWriter, TypesStayApart)
 TEST(PropertyListWriter, WhatXmlCannotHoldIsLeftOut)
 {
     EXPECT_EQ(roundTrip(QStringLiteral("a\x01z\ufffe")), QVariant(QStringLiteral("az")));
+    const QString unpaired =
+        QStringLiteral("a") + QChar(0xdae0) + QStringLiteral("😀") + QChar(0xdc00) + QStringLiteral("z");
+    EXPECT_EQ(roundTrip(unpaired), QVariant(QStringLiteral("a😀z")));
     EXPECT_EQ(roundTrip(QVariantList{QVariant(), qint64{2}}), QVariant(QVariantList{qint64{2}}));
     EXPECT_EQ(roundTrip(QVariantMap{{QStringLiteral("a"), QVariant()}}), QVariant(QVariantMap()));
     EXPECT_TRUE(xmlPropertyList(QVariant()).isEmpty());
