@@ -6,6 +6,7 @@
 #include <QCursor>
 #include <QIcon>
 #include <QMenu>
+#include <QPalette>
 #include <QPixmap>
 
 #include "platform/StatusMenu.h"
@@ -25,6 +26,19 @@ QIcon trayIcon(const Picture& picture, StatusPictures& pictures)
     for (const int size : traySizes)
         icon.addPixmap(QPixmap::fromImage(pictures.image(picture, size)));
     return icon;
+}
+
+/// Facts are disabled rows, which many styles write in a grey that can hardly be read.
+void makeDisabledLegible(QMenu& menu)
+{
+    constexpr double share = 0.62; // contrast of about 5 on white and on black
+    QPalette palette = menu.palette();
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        QColor quiet = palette.color(QPalette::Active, role);
+        quiet.setAlphaF(share);
+        palette.setColor(QPalette::Disabled, role, quiet);
+    }
+    menu.setPalette(palette);
 }
 
 QString actionText(const QString& text)
@@ -86,6 +100,7 @@ void TrayIcon::openMenu()
 {
     m_actions.clear();
     m_contextMenu = std::make_unique<QMenu>();
+    makeDisabledLegible(*m_contextMenu);
     int id = 0;
     for (const StatusMenu::Row& row : m_menu->rows()) {
         QAction* action = addRow(row);
@@ -99,8 +114,10 @@ QAction* TrayIcon::addRow(const StatusMenu::Row& row)
 {
     QMenu* menu =
         row.parent == 0 ? m_contextMenu.get() : m_actions[static_cast<std::size_t>(row.parent) - 1]->menu();
-    const bool isSubmenu = row.kind == StatusMenu::Kind::Submenu;
-    QAction* action = isSubmenu ? menu->addMenu(QString())->menuAction() : menu->addAction(QString());
+    QAction* action = row.kind == StatusMenu::Kind::Submenu ? menu->addMenu(QString())->menuAction()
+                                                            : menu->addAction(QString());
+    if (action->menu())
+        makeDisabledLegible(*action->menu());
     action->setSeparator(row.kind == StatusMenu::Kind::Separator);
     m_actions.push_back(action);
     return action;
