@@ -16,7 +16,6 @@
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
 #include "platform/Workspace.h"
-#include "preferences/PreferencesPresenter.h"
 
 namespace quindle {
 
@@ -57,19 +56,19 @@ void setAngles(HueFilter& green, HueFilter& yellow, HueFilter& red)
 } // namespace
 
 HelperAppDelegate::HelperAppDelegate(const Platform& platform, ApplicationPreferences& preferences,
-                                     MainInterface& interface, PreferencesPresenter& preferencesController,
-                                     const MacFactory& makeMac)
+                                     MainInterface& interface, const MacFactory& makeMac,
+                                     const ControllerFactory& makeControllers)
     : m_platform(platform)
     , m_preferences(preferences)
     , m_interface(interface)
     , m_outlets(interface.outlets())
-    , m_preferencesController(preferencesController)
     , m_myMac(makeMac(platform))
     , m_powerEventRate(platform.runLoop, [this] { refreshBatteryAndTitle(); })
     , m_statusItem(platform.statusBar.statusItemWithLength(variableStatusItemLength))
     , m_hueColorGreen(std::make_shared<HueFilter>())
     , m_hueColorYellow(std::make_shared<HueFilter>())
     , m_hueColorRed(std::make_shared<HueFilter>())
+    , m_controllers(makeControllers(*this))
     , m_lastDailyUploadToOnlineService(platform.clock.now())
 {
     m_interface.setActions(this);
@@ -205,13 +204,15 @@ void HelperAppDelegate::openApplication()
 void HelperAppDelegate::openPreferences()
 {
     m_platform.application.activateIgnoringOtherApplications();
-    m_preferencesController.showPreferencesWindow();
+    if (m_controllers.preferencesController)
+        m_controllers.preferencesController->showPreferencesWindow();
 }
 
 void HelperAppDelegate::openMenuBarText()
 {
     m_platform.application.activateIgnoringOtherApplications();
-    m_preferencesController.showHelperPreferences();
+    if (m_controllers.preferencesWindow)
+        m_controllers.preferencesWindow->showWindow();
 }
 
 } // namespace quindle

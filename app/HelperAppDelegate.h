@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QVariant>
 
+#include "app/DelegateControllers.h"
 #include "app/RefreshRate.h"
 #include "menubar/BarColours.h"
 #include "menubar/HueFilter.h"
@@ -18,7 +19,6 @@
 namespace quindle {
 
 class ApplicationPreferences;
-class PreferencesPresenter;
 class QDBattery;
 class QDMac;
 class StatusItem;
@@ -35,10 +35,11 @@ class HelperAppDelegate : public QObject, public StatusMenuActions, public Statu
 public:
     using MacFactory = std::function<std::unique_ptr<QDMac>(const Platform&)>;
 
-    /// Makes, in this order, the computer's model (by `makeMac`), the status item, the three hue filters; and
-    /// marks now as the time of the last daily upload, so that the first one comes a full day after launch.
+    /// Makes, in this order, the computer's model (by `makeMac`), the status item, the three hue filters, the
+    /// controllers (by `makeControllers`); and marks now as the time of the last daily upload, so that the
+    /// first one comes a full day after launch.
     HelperAppDelegate(const Platform& platform, ApplicationPreferences& preferences, MainInterface& interface,
-                      PreferencesPresenter& preferencesController, const MacFactory& makeMac);
+                      const MacFactory& makeMac, const ControllerFactory& makeControllers);
     ~HelperAppDelegate() override;
 
     /// The launch sequence. A bundle without version information, and a missing outlet, are fatal.
@@ -100,6 +101,7 @@ public:
     /// Launches the main application: the bundle's path without its last four components.
     void openApplication() override;
 
+    /// Both activate the helper and show one of its windows; nothing more in a program without windows.
     void openPreferences() override;
     void openMenuBarText() override;
 
@@ -110,6 +112,22 @@ public:
     const std::shared_ptr<HueFilter>& hueColorGreen() const { return m_hueColorGreen; }
     const std::shared_ptr<HueFilter>& hueColorYellow() const { return m_hueColorYellow; }
     const std::shared_ptr<HueFilter>& hueColorRed() const { return m_hueColorRed; }
+
+    // Null in a program without windows.
+    QObject* batteryPopover() const { return m_controllers.batteryPopover.get(); }
+    WindowController* preferencesWindow() const { return m_controllers.preferencesWindow.get(); }
+    QDPreferencesWindowControllerProtocol* generalController() const
+    {
+        return m_controllers.generalController.get();
+    }
+    QDPreferencesWindowControllerProtocol* menuBarController() const
+    {
+        return m_controllers.menuBarController.get();
+    }
+    PreferencesWindowController* preferencesController() const
+    {
+        return m_controllers.preferencesController.get();
+    }
 
 Q_SIGNALS:
     /// The status item has been brought up to date.
@@ -139,7 +157,6 @@ private:
     ApplicationPreferences& m_preferences;
     MainInterface& m_interface;
     MainOutlets m_outlets;
-    PreferencesPresenter& m_preferencesController;
     NamedImages m_images;
     std::unique_ptr<QDMac> m_myMac;
     std::shared_ptr<Timer> m_statusBarUpdateTimer;
@@ -149,6 +166,7 @@ private:
     std::shared_ptr<HueFilter> m_hueColorYellow;
     std::shared_ptr<HueFilter> m_hueColorRed;
     const MenuView* m_shownView = nullptr;
+    DelegateControllers m_controllers;
     QDateTime m_lastDailyUploadToOnlineService;
 };
 

@@ -11,11 +11,11 @@
 #include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "app/HelperCommandLine.h"
+#include "app/HelperControllers.h"
 #include "app/HelperServices.h"
 #include "app/OlderSettings.h"
 #include "common/Paths.h"
 #include "mac/QDMac.h"
-#include "menubar/BatteryPopup.h"
 #include "menubar/MainInterface.h"
 #include "platform/Bundle.h"
 #include "platform/linux/LinuxInstallationSource.h"
@@ -23,7 +23,6 @@
 #include "platform/linux/StandardError.h"
 #include "platform/linux/StartDeadline.h"
 #include "platform/recorded/MachineFile.h"
-#include "preferences/PreferencesWindows.h"
 
 using namespace quindle;
 
@@ -57,16 +56,11 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
     const Platform platform = services.platform();
     copyTextParkedByOlderHelper(platform.userDefaults);
     MainInterface interface;
-    BatteryPopup popup(interface, platform.application, platform.runLoop);
     ApplicationPreferences& settings = ApplicationPreferences::sharedInstance(&platform);
-    PreferencesWindows preferences(platform, settings);
-    HelperAppDelegate delegate(platform, settings, interface, preferences, &QDMac::init);
-    preferences.setSources(
-        {.delegate = delegate,
-         .dailyUploadText = [&delegate] { return delegate.dailyUploadText(); },
-         .installationSource = [&platform] { return installationSource(platform.bundle.path()); }});
-    QObject::connect(&delegate, &HelperAppDelegate::statusItemRefreshed, &delegate,
-                     [&preferences] { preferences.refresh(); });
+    HelperControllers controllers(platform, settings, interface,
+                                  [&platform] { return installationSource(platform.bundle.path()); });
+    HelperAppDelegate delegate(platform, settings, interface, &QDMac::init,
+                               [&controllers](HelperAppDelegate& owner) { return controllers.make(owner); });
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      &HelperAppDelegate::applicationWillTerminate);
     instance.setTakenByAnother([&application] {

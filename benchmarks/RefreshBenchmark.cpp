@@ -24,7 +24,6 @@
 #include "platform/linux/power/SupplyDirectory.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
 #include "platform/recorded/RecordedPlatform.h"
-#include "preferences/NoPreferencesWindow.h"
 
 using namespace quindle;
 
@@ -72,7 +71,7 @@ public:
             ->setObject(QStringLiteral("customStatusBar"), QStringLiteral("%p% %r %w W %mA mA %t %l %s"));
         m_preferences = std::make_unique<ApplicationPreferences>(m_platform);
         m_delegate = std::make_unique<HelperAppDelegate>(m_platform, *m_preferences, m_interface,
-                                                         m_preferencesWindow, &QDMac::init);
+                                                         &QDMac::init, noControllers);
         m_delegate->applicationDidFinishLaunching();
         QCoreApplication::processEvents();
     }
@@ -124,7 +123,6 @@ private:
     UnconnectedStatusBar m_statusBar;
     Platform m_platform;
     MainInterface m_interface;
-    NoPreferencesWindow m_preferencesWindow;
     std::unique_ptr<ApplicationPreferences> m_preferences;
     std::unique_ptr<HelperAppDelegate> m_delegate;
 };

@@ -22,7 +22,7 @@ HelperAppDelegate::MacFactory macFactory(bool isDemo)
 Inspection::Inspection(Computer& computer, bool isDemo)
     : m_computer(computer)
     , m_preferences(computer.platform())
-    , m_delegate(computer.platform(), m_preferences, m_interface, m_preferencesWindow, macFactory(isDemo))
+    , m_delegate(computer.platform(), m_preferences, m_interface, macFactory(isDemo), noControllers)
 {
     QObject::connect(&m_delegate, &HelperAppDelegate::statusItemRefreshed, &m_delegate,
                      [this] { ++m_refreshes; });

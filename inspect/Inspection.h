@@ -7,7 +7,6 @@
 #include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "menubar/MainInterface.h"
-#include "preferences/NoPreferencesWindow.h"
 
 namespace quindle {
 
@@ -36,7 +35,6 @@ public:
 
 private:
     Computer& m_computer;
-    NoPreferencesWindow m_preferencesWindow;
     ApplicationPreferences m_preferences;
     MainInterface m_interface;
     HelperAppDelegate m_delegate;

@@ -2,11 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+
+#include <QPointer>
 
 #include "app/ApplicationPreferences.h"
 #include "common/NumberConversion.h"
 #include "platform/Bundle.h"
 #include "platform/LoginItems.h"
+#include "platform/NotificationCenter.h"
 #include "platform/UserDefaults.h"
 #include "preferences/MenuBarSettingRule.h"
 #include "preferences/StartupLaunch_pref.h"
@@ -38,13 +42,14 @@ constexpr std::array<QLatin1StringView, 4> presentations{
 } // namespace
 
 BoundSettings::BoundSettings(ApplicationPreferences& preferences, UserDefaults& standardDefaults,
-                             LoginItems& loginItems, const Bundle& bundle, QObject* parent)
+                             LoginItems& loginItems, const Bundle& bundle,
+                             DistributedNotificationCenter& distributedCenter, QObject* parent)
     : QObject(parent)
     , m_preferences(preferences)
     , m_standardDefaults(standardDefaults)
     , m_loginItems(loginItems)
     , m_bundle(bundle)
-    , m_startsAtLogin(StartupLaunch_pref::isAppLoginItem(loginItems, bundle.path()))
+    , m_distributedCenter(distributedCenter)
 {
 }
 
@@ -157,8 +162,19 @@ void BoundSettings::setStatusItemPresentation(qint64 value)
 
 void BoundSettings::reload()
 {
+    if (!std::exchange(m_isObserving, true))
+        observeAnnouncements();
     m_startsAtLogin = StartupLaunch_pref::isAppLoginItem(m_loginItems, m_bundle.path());
     Q_EMIT changed();
+}
+
+void BoundSettings::observeAnnouncements()
+{
+    // An observer stays for as long as the process, which may be longer than the settings do.
+    m_distributedCenter.addObserver(QStringLiteral("SettingsChangedNotification"), [self = QPointer(this)] {
+        if (self)
+            self->reload();
+    });
 }
 
 } // namespace quindle

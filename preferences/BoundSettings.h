@@ -7,6 +7,7 @@ namespace quindle {
 
 class ApplicationPreferences;
 class Bundle;
+class DistributedNotificationCenter;
 class LoginItems;
 class UserDefaults;
 
@@ -27,7 +28,8 @@ class BoundSettings : public QObject
 
 public:
     BoundSettings(ApplicationPreferences& preferences, UserDefaults& standardDefaults, LoginItems& loginItems,
-                  const Bundle& bundle, QObject* parent = nullptr);
+                  const Bundle& bundle, DistributedNotificationCenter& distributedCenter,
+                  QObject* parent = nullptr);
 
     /// The title template.
     QString customStatusBar() const;
@@ -75,7 +77,8 @@ public:
     qint64 statusItemPresentation() const;
     void setStatusItemPresentation(qint64 value);
 
-    /// Looks at the login items anew and tells everyone who is bound to look at everything anew.
+    /// Looks at the login items anew and tells everyone who is bound to look at everything anew; for every
+    /// showing. From the first time on it happens too whenever a change of the settings is announced.
     void reload();
 
 Q_SIGNALS:
@@ -83,11 +86,15 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void observeAnnouncements();
+
     ApplicationPreferences& m_preferences;
     UserDefaults& m_standardDefaults;
     LoginItems& m_loginItems;
     const Bundle& m_bundle;
+    DistributedNotificationCenter& m_distributedCenter;
     bool m_startsAtLogin = false;
+    bool m_isObserving = false;
 };
 
 } // namespace quindle

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include "preferences/WindowControllers.h"
+
 class QAbstractButton;
 class QLineEdit;
 
@@ -33,7 +35,7 @@ struct HelperPreferencesOutlets
 /// The controller of the helper's own window: what the menu bar shows. Its actions are the side effects of
 /// the controls only; the values are stored before, by the bindings of its interface. Nothing is announced to
 /// other processes. The window and everything in it is made when it is first needed. Main thread only.
-class HelperPreferences : public QObject
+class HelperPreferences : public QObject, public WindowController
 {
     Q_OBJECT
 
@@ -56,8 +58,8 @@ public:
     /// The window; loads its interface when it is asked for the first time.
     HelperPreferencesWindow& window();
 
-    /// Shows the window with the settings of this moment, or brings it to the front.
-    void showWindow();
+    /// With the settings of this moment.
+    void showWindow() override;
 
     /// Shows the present values in the preview and the popover; for every refresh of the status item.
     void refresh();

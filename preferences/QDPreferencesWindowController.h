@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include "preferences/PreferencesToolbarItems.h"
+#include "preferences/WindowControllers.h"
 
 class QKeyEvent;
 
@@ -32,7 +33,7 @@ struct PreferencesDesktop
 
 /// Shows panes in one window, chosen by toolbar items or by one segmented control in the toolbar. The window
 /// is made when it is first shown; until then this is a list of panes and a few flags.
-class QDPreferencesWindowController : public QObject
+class QDPreferencesWindowController : public QObject, public PreferencesWindowController
 {
     Q_OBJECT
 
@@ -75,7 +76,7 @@ public:
 
     /// Shows the window. One that was hidden comes with the pane it was left with, and with the first pane's
     /// control selected. A window that is visible stays as it is.
-    void showPreferencesWindow();
+    void showPreferencesWindow() override;
 
     /// Closes the window.
     void dismissPreferencesWindow();

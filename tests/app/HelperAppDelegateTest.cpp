@@ -58,9 +58,8 @@ void launchWith(const std::function<void(MainOutlets&)>& disconnect)
     platform.battery()[QStringLiteral("MaxCapacity")] = qint64{100};
     IncompleteInterface interface;
     disconnect(interface.connected);
-    CountingPreferences window;
     ApplicationPreferences preferences(platform.platform);
-    HelperAppDelegate delegate(platform.platform, preferences, interface, window, &QDMac::init);
+    HelperAppDelegate delegate(platform.platform, preferences, interface, &QDMac::init, noControllers);
     delegate.applicationDidFinishLaunching();
 }
 
@@ -200,8 +199,8 @@ TEST_F(HelperAppDelegateTest, DemonstrationBatteryKeepsItsValuesThroughPowerEven
 {
     preferences = std::make_unique<ApplicationPreferences>(platform.platform);
     delegate = std::make_unique<HelperAppDelegate>(
-        platform.platform, *preferences, interface, preferencesWindow,
-        [](const Platform& services) { return QDMac::initWithDemoMode(services, true); });
+        platform.platform, *preferences, interface,
+        [](const Platform& services) { return QDMac::initWithDemoMode(services, true); }, noControllers);
     delegate->applicationDidFinishLaunching();
     platform.powerEvents.observer();
     platform.runLoop.advance(1.0);
@@ -286,10 +285,89 @@ TEST_F(HelperAppDelegateTest, MenuEntriesAct)
         if (row.kind == StatusMenu::Kind::Action && row.enabled && row.chosen)
             row.chosen();
     EXPECT_EQ(platform.workspace.launched.size(), 1);
-    EXPECT_EQ(preferencesWindow.shown, 1);
-    EXPECT_EQ(preferencesWindow.menuBarTextShown, 1);
+    EXPECT_EQ(windowsShown.preferences, 1);
+    EXPECT_EQ(windowsShown.menuBarText, 1);
     EXPECT_EQ(platform.application.activated, 2);
     EXPECT_EQ(platform.application.terminated, 1);
+}
+
+/// Writes down when it goes.
+template <typename Base>
+struct Leaving : Base
+{
+    Leaving(QStringList& log, const char* name)
+        : m_log(log)
+        , m_name(QLatin1String(name))
+    {
+    }
+    ~Leaving() override { m_log.append(m_name); }
+
+    QStringList& m_log;
+    QString m_name;
+};
+
+struct Popover : QObject
+{
+};
+
+struct Pane : QDPreferencesWindowControllerProtocol
+{
+    QString preferencesIdentifier() const override { return {}; }
+    QString preferencesTitle() const override { return {}; }
+    QIcon preferencesIcon() const override { return {}; }
+    QWidget& view() override { std::abort(); }
+};
+
+struct TextWindow : WindowController
+{
+    void showWindow() override {}
+};
+
+struct Preferences : PreferencesWindowController
+{
+    void showPreferencesWindow() override {}
+};
+
+TEST_F(HelperAppDelegateTest, OwnsItsControllersByTheirNames)
+{
+    QStringList gone;
+    const HelperAppDelegate* maker = nullptr;
+    preferences = std::make_unique<ApplicationPreferences>(platform.platform);
+    delegate = std::make_unique<HelperAppDelegate>(
+        platform.platform, *preferences, interface, &QDMac::init, [&](HelperAppDelegate& owner) {
+            maker = &owner;
+            EXPECT_EQ(platform.statusBar.items.size(), 1U) << "the status item comes first";
+            DelegateControllers made;
+            made.batteryPopover = std::make_unique<Leaving<Popover>>(gone, "batteryPopover");
+            made.preferencesWindow = std::make_unique<Leaving<TextWindow>>(gone, "preferencesWindow");
+            made.generalController = std::make_unique<Leaving<Pane>>(gone, "generalController");
+            made.menuBarController = std::make_unique<Leaving<Pane>>(gone, "menuBarController");
+            made.preferencesController =
+                std::make_unique<Leaving<Preferences>>(gone, "preferencesController");
+            return made;
+        });
+    EXPECT_EQ(maker, delegate.get());
+    EXPECT_NE(dynamic_cast<Popover*>(delegate->batteryPopover()), nullptr);
+    EXPECT_NE(delegate->preferencesWindow(), nullptr);
+    EXPECT_NE(delegate->generalController(), nullptr);
+    EXPECT_NE(delegate->menuBarController(), delegate->generalController());
+    EXPECT_NE(delegate->preferencesController(), nullptr);
+    delegate.reset();
+    EXPECT_EQ(gone.join(u' '), QStringLiteral("preferencesController menuBarController generalController "
+                                              "preferencesWindow batteryPopover"))
+        << "a window goes before the panes that it shows";
+}
+
+TEST_F(HelperAppDelegateTest, RunsWithoutWindows)
+{
+    preferences = std::make_unique<ApplicationPreferences>(platform.platform);
+    delegate = std::make_unique<HelperAppDelegate>(platform.platform, *preferences, interface, &QDMac::init,
+                                                   noControllers);
+    delegate->applicationDidFinishLaunching();
+    delegate->openPreferences();
+    delegate->openMenuBarText();
+    EXPECT_EQ(delegate->batteryPopover(), nullptr);
+    EXPECT_EQ(platform.application.activated, 2);
 }
 
 TEST_F(HelperAppDelegateTest, ShowsWhatTheDailyUploadWouldSend)

@@ -7,18 +7,30 @@
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/Image.h"
-#include "preferences/PreferencesPresenter.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quindle {
 
-struct CountingPreferences : PreferencesPresenter
+/// Counts how often both windows are shown.
+struct ShownWindows
 {
-    int shown = 0;
-    int menuBarTextShown = 0;
+    int preferences = 0;
+    int menuBarText = 0;
+};
 
-    void showPreferencesWindow() override { ++shown; }
-    void showHelperPreferences() override { ++menuBarTextShown; }
+class CountingWindow : public WindowController, public PreferencesWindowController
+{
+public:
+    explicit CountingWindow(ShownWindows& shown)
+        : m_shown(shown)
+    {
+    }
+
+    void showWindow() override { ++m_shown.menuBarText; }
+    void showPreferencesWindow() override { ++m_shown.preferences; }
+
+private:
+    ShownWindows& m_shown;
 };
 
 /// A helper on an invented computer. Fill in `platform` first, then make the delegate and launch it.
@@ -26,7 +38,7 @@ struct Helper
 {
     FakePlatform platform;
     MainInterface interface;
-    CountingPreferences preferencesWindow;
+    ShownWindows windowsShown;
     std::unique_ptr<ApplicationPreferences> preferences;
     std::unique_ptr<HelperAppDelegate> delegate;
 
@@ -34,7 +46,17 @@ struct Helper
     {
         preferences = std::make_unique<ApplicationPreferences>(platform.platform);
         delegate = std::make_unique<HelperAppDelegate>(platform.platform, *preferences, interface,
-                                                       preferencesWindow, &QDMac::init);
+                                                       &QDMac::init, controllers());
+    }
+
+    ControllerFactory controllers()
+    {
+        return [this](HelperAppDelegate&) {
+            DelegateControllers made;
+            made.preferencesWindow = std::make_unique<CountingWindow>(windowsShown);
+            made.preferencesController = std::make_unique<CountingWindow>(windowsShown);
+            return made;
+        };
     }
 
     void launch()

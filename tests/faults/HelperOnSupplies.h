@@ -49,7 +49,6 @@ struct HelperOnSupplies
                       .loginItems = others.loginItems,
                       .powerEvents = others.powerEvents};
     MainInterface interface;
-    CountingPreferences preferencesWindow;
     std::unique_ptr<ApplicationPreferences> preferences;
     std::unique_ptr<HelperAppDelegate> delegate;
 
@@ -57,8 +56,8 @@ struct HelperOnSupplies
     {
         others.userDefaults.suiteDefaults.values[QStringLiteral("customStatusBar")] = titleTemplate;
         preferences = std::make_unique<ApplicationPreferences>(platform);
-        delegate = std::make_unique<HelperAppDelegate>(platform, *preferences, interface, preferencesWindow,
-                                                       &QDMac::init);
+        delegate = std::make_unique<HelperAppDelegate>(platform, *preferences, interface, &QDMac::init,
+                                                       noControllers);
         delegate->applicationDidFinishLaunching();
     }
 

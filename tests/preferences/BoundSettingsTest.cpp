@@ -92,6 +92,22 @@ TEST_F(BoundSettingsTest, KeepsTheLoginSwitchUntilItLooksAgain)
     EXPECT_TRUE(settings.startsAtLogin());
 }
 
+TEST_F(BoundSettingsTest, LooksAgainAtAnnouncedChangesOnceItWasShown)
+{
+    loginItems.urls.append(helperUrl());
+    DistributedNotificationCenter& center = computer.distributedNotificationCenter;
+    center.post(QStringLiteral("SettingsChangedNotification"));
+    EXPECT_EQ(changes, 0);
+    EXPECT_FALSE(settings.startsAtLogin()) << "nobody has looked";
+    settings.reload();
+    settings.reload();
+    changes = 0;
+    loginItems.urls.clear();
+    center.post(QStringLiteral("SettingsChangedNotification"));
+    EXPECT_EQ(changes, 1);
+    EXPECT_FALSE(settings.startsAtLogin());
+}
+
 TEST(BoundSettingsWithoutSuiteTest, ReadsDefaultsAndStoresNothing)
 {
     test::SettingsFixture on(false);

@@ -65,7 +65,8 @@ struct SettingsFixture
     FakePlatform computer;
     RecordedLoginItems loginItems;
     ApplicationPreferences preferences;
-    BoundSettings settings{preferences, computer.userDefaults.standardDefaults, loginItems, computer.bundle};
+    BoundSettings settings{preferences, computer.userDefaults.standardDefaults, loginItems, computer.bundle,
+                           computer.distributedNotificationCenter};
 
     QVariantMap& suite() { return computer.userDefaults.suiteDefaults.values; }
     QVariantMap& standard() { return computer.userDefaults.standardDefaults.values; }

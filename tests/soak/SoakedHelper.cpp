@@ -103,8 +103,8 @@ SoakedHelper::SoakedHelper()
     m_userDefaults.suite(QStringLiteral("group.fernhollow.Quindle"))
         ->setObject(QStringLiteral("autoUpload"), true);
     m_preferences = std::make_unique<ApplicationPreferences>(m_platform);
-    m_delegate = std::make_unique<HelperAppDelegate>(m_platform, *m_preferences, m_interface,
-                                                     m_preferencesWindow, &QDMac::init);
+    m_delegate = std::make_unique<HelperAppDelegate>(m_platform, *m_preferences, m_interface, &QDMac::init,
+                                                     noControllers);
     m_popup = std::make_unique<BatteryPopup>(m_interface, m_recorded.application, m_runLoop);
     QObject::connect(m_delegate.get(), &HelperAppDelegate::dailyUploadStarted, m_delegate.get(),
                      [this] { ++m_gatesOpened; });

@@ -12,7 +12,6 @@
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxUserDefaults.h"
 #include "platform/recorded/RecordedPlatform.h"
-#include "preferences/NoPreferencesWindow.h"
 #include "tests/soak/SoakTime.h"
 
 namespace quindle {
@@ -76,7 +75,6 @@ private:
     SoakRunLoop m_runLoop{m_clock};
     Platform m_platform;
     MainInterface m_interface;
-    NoPreferencesWindow m_preferencesWindow;
     std::unique_ptr<ApplicationPreferences> m_preferences;
     std::unique_ptr<HelperAppDelegate> m_delegate;
     std::unique_ptr<BatteryPopup> m_popup;

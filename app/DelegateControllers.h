@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QObject>
+
+#include "preferences/QDPreferencesWindowControllerProtocol.h"
+#include "preferences/WindowControllers.h"
+
+namespace quindle {
+
+class HelperAppDelegate;
+
+/// The controllers of the helper's windows, which the application delegate owns, each under its own name.
+/// Null in a program without windows.
+struct DelegateControllers
+{
+    std::unique_ptr<QObject> batteryPopover;
+    std::unique_ptr<WindowController> preferencesWindow;
+    std::unique_ptr<QDPreferencesWindowControllerProtocol> generalController;
+    std::unique_ptr<QDPreferencesWindowControllerProtocol> menuBarController;
+    std::unique_ptr<PreferencesWindowController> preferencesController; ///< shows the panes, so it goes first
+};
+
+/// Makes them for the delegate that is being made.
+using ControllerFactory = std::function<DelegateControllers(HelperAppDelegate& delegate)>;
+
+/// For programs that have no windows.
+inline DelegateControllers noControllers(HelperAppDelegate& /*delegate*/)
+{
+    return {};
+}
+
+} // namespace quindle

@@ -1,0 +1,71 @@
+#include "app/HelperControllers.h"
+
+#include "app/HelperAppDelegate.h"
+#include "menubar/BatteryPopup.h"
+#include "menubar/MainInterface.h"
+#include "platform/Bundle.h"
+#include "platform/Platform.h"
+#include "platform/UserDefaults.h"
+#include "preferences/GeneralPreferencesController.h"
+#include "preferences/HelperPreferences.h"
+#include "preferences/HelperPreferencesWindow.h"
+#include "preferences/MenuBarPreferencesController.h"
+#include "preferences/QDPreferencesWindowController.h"
+
+namespace quindle {
+
+namespace {
+
+/// Previews and popovers show the values of each refresh.
+template <typename Controller>
+void refreshWith(const HelperAppDelegate& delegate, Controller& controller)
+{
+    QObject::connect(&delegate, &HelperAppDelegate::statusItemRefreshed, &controller, &Controller::refresh);
+}
+
+std::unique_ptr<QDPreferencesWindowController> preferencesController(const Platform& platform,
+                                                                     PreferencesPanes panes)
+{
+    auto controller = std::make_unique<QDPreferencesWindowController>(platform.userDefaults.standard(),
+                                                                      platform.application);
+    controller->setShowToolbarItemsAsSegmentedControl(true);
+    controller->setCenterToolbarItems(true);
+    controller->setShowToolbarSeparator(true);
+    controller->setViewControllers(std::move(panes));
+    return controller;
+}
+
+} // namespace
+
+HelperControllers::HelperControllers(const Platform& platform, ApplicationPreferences& preferences,
+                                     MainInterface& interface,
+                                     std::function<InstallationSource()> installationSource)
+    : m_platform(platform)
+    , m_interface(interface)
+    , m_settings(preferences, platform.userDefaults.standard(), platform.loginItems, platform.bundle,
+                 platform.distributedNotificationCenter)
+    , m_updateController(platform.bundle, std::move(installationSource))
+{
+}
+
+DelegateControllers HelperControllers::make(HelperAppDelegate& delegate)
+{
+    auto menuBarText = HelperPreferences::initWithWindow(nullptr, m_settings, delegate);
+    auto general = std::make_unique<GeneralPreferencesController>(
+        m_settings, delegate, m_platform.distributedNotificationCenter, m_platform.bundle,
+        [&delegate] { return delegate.dailyUploadText(); });
+    auto menuBar = std::make_unique<MenuBarPreferencesController>(
+        m_settings, delegate, [window = menuBarText.get()] { window->showWindow(); });
+    refreshWith(delegate, *menuBarText);
+    refreshWith(delegate, *general);
+    refreshWith(delegate, *menuBar);
+    auto window = preferencesController(m_platform, {general.get(), menuBar.get(), &m_updateController});
+    auto popover = std::make_unique<BatteryPopup>(m_interface, m_platform.application, m_platform.runLoop);
+    return {.batteryPopover = std::move(popover),
+            .preferencesWindow = std::move(menuBarText),
+            .generalController = std::move(general),
+            .menuBarController = std::move(menuBar),
+            .preferencesController = std::move(window)};
+}
+
+} // namespace quindle

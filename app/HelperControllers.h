@@ -1,0 +1,33 @@
+#pragma once
+
+#include "app/DelegateControllers.h"
+#include "preferences/BoundSettings.h"
+#include "preferences/UpdatePreferencesController.h"
+
+namespace quindle {
+
+class ApplicationPreferences;
+class MainInterface;
+struct Platform;
+
+/// Makes the controllers of the helper's windows, and holds what they share. None of them makes a widget,
+/// reads or observes anything before it is shown for the first time. Must outlive the delegate that it makes
+/// them for.
+class HelperControllers
+{
+public:
+    /// All must outlive it. `installationSource` as for UpdatePreferencesController.
+    HelperControllers(const Platform& platform, ApplicationPreferences& preferences, MainInterface& interface,
+                      std::function<InstallationSource()> installationSource);
+
+    /// A ControllerFactory.
+    DelegateControllers make(HelperAppDelegate& delegate);
+
+private:
+    const Platform& m_platform;
+    MainInterface& m_interface;
+    BoundSettings m_settings;
+    UpdatePreferencesController m_updateController;
+};
+
+} // namespace quindle
