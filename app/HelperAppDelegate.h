@@ -8,11 +8,11 @@
 #include <QObject>
 #include <QVariant>
 
-#include "app/RefreshRate.h"
 #include "menubar/BarColours.h"
 #include "menubar/HueFilter.h"
 #include "menubar/MainInterface.h"
 #include "menubar/NamedImages.h"
+#include "platform/RateLimit.h"
 #include "preferences/StatusBarTitle.h"
 
 namespace quindle {
@@ -143,7 +143,7 @@ private:
     NamedImages m_images;
     std::unique_ptr<QDMac> m_myMac;
     std::shared_ptr<Timer> m_statusBarUpdateTimer;
-    RefreshRate m_powerEventRate;
+    RateLimit m_powerEventRate;
     std::unique_ptr<StatusItem> m_statusItem;
     std::shared_ptr<HueFilter> m_hueColorGreen;
     std::shared_ptr<HueFilter> m_hueColorYellow;
