@@ -63,7 +63,7 @@ HelperAppDelegate::HelperAppDelegate(const Platform& platform, ApplicationPrefer
     , m_interface(interface)
     , m_outlets(interface.outlets())
     , m_myMac(makeMac(platform))
-    , m_powerEventRate(platform.runLoop, [this] { refreshBatteryAndTitle(); })
+    , m_powerEventRate(platform.runLoop, RateLimit::settleTime, [this] { refreshBatteryAndTitle(); })
     , m_statusItem(platform.statusBar.statusItemWithLength(variableStatusItemLength))
     , m_hueColorGreen(std::make_shared<HueFilter>())
     , m_hueColorYellow(std::make_shared<HueFilter>())

@@ -9,11 +9,11 @@
 #include <QVariant>
 
 #include "app/DelegateControllers.h"
-#include "app/RefreshRate.h"
 #include "menubar/BarColours.h"
 #include "menubar/HueFilter.h"
 #include "menubar/MainInterface.h"
 #include "menubar/NamedImages.h"
+#include "platform/RateLimit.h"
 #include "preferences/StatusBarTitle.h"
 
 namespace quindle {
@@ -160,7 +160,7 @@ private:
     NamedImages m_images;
     std::unique_ptr<QDMac> m_myMac;
     std::shared_ptr<Timer> m_statusBarUpdateTimer;
-    RefreshRate m_powerEventRate;
+    RateLimit m_powerEventRate;
     std::unique_ptr<StatusItem> m_statusItem;
     std::shared_ptr<HueFilter> m_hueColorGreen;
     std::shared_ptr<HueFilter> m_hueColorYellow;

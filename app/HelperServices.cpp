@@ -17,7 +17,7 @@ namespace {
 /// The tray around the item. The user's own choice of its form is asked for each time it is shown anew.
 StatusItemSurroundings surroundings(const Bundle& programBundle, UserDefaultsDatabases& databases)
 {
-    return {.iconsDirectory = programBundle.path() + QStringLiteral("/Contents/Resources/icons"),
+    return {.iconsDirectory = programBundle.resourcesPath() + QStringLiteral("/icons"),
             .currentDesktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
             .presentationChoice = [&databases] {
                 return databases.standard().object(QStringLiteral("statusItemPresentation")).toString();
@@ -29,7 +29,7 @@ class ThisComputer : public HelperServices
 public:
     explicit ThisComputer(const QString& systemRoot)
         : m_linux(systemRoot)
-        , m_statusBar(surroundings(m_linux.bundle(), m_linux.userDefaults()))
+        , m_statusBar(m_linux.runLoop(), surroundings(m_linux.bundle(), m_linux.userDefaults()))
     {
     }
 
@@ -76,7 +76,7 @@ public:
         : m_steps(machine.steps)
         , m_recorded(machine.keys, m_programBundle, machine.file)
         , m_urlSession(m_recorded.computer, m_recorded.urlSession, m_programBundle)
-        , m_statusBar(surroundings(m_programBundle, m_recorded.userDefaults))
+        , m_statusBar(m_runLoop, surroundings(m_programBundle, m_recorded.userDefaults))
         , m_platform(platform())
     {
     }

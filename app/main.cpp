@@ -18,6 +18,7 @@
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/Bundle.h"
+#include "platform/linux/CoreDumps.h"
 #include "platform/linux/LinuxInstallationSource.h"
 #include "platform/linux/SingleInstance.h"
 #include "platform/linux/StandardError.h"
@@ -88,6 +89,7 @@ StartAnswer answerInTime(SingleInstance& instance)
 
 int start(int argc, char** argv)
 {
+    keepMemoryOutOfCoreDumps();
     std::optional<Machine> machine;
     if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
         MachineResult result = readMachineFile(path);

@@ -14,6 +14,7 @@
 #include "inspect/Inspection.h"
 #include "inspect/JsonText.h"
 #include "inspect/TextReport.h"
+#include "platform/linux/CoreDumps.h"
 #include "platform/linux/EndOfProcess.h"
 
 namespace {
@@ -120,6 +121,7 @@ int answer(const CommandLine& commandLine)
 
 int main(int argc, char** argv)
 {
+    keepMemoryOutOfCoreDumps();
     const QCoreApplication application(argc, argv);
     const CommandLine commandLine =
         parseCommandLine(argumentTexts(argc, argv), {.machineFile = pathText(qgetenv("QUINDLE_MACHINE")),

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include <QString>
 #include <QVariantMap>
 
 namespace quindle {
@@ -17,6 +18,9 @@ public:
 
     /// The dictionary of Contents/Info.plist; nothing when there is none.
     virtual std::optional<QVariantMap> infoDictionary() const = 0;
+
+    /// The folder of the program's pictures.
+    virtual QString resourcesPath() const { return path() + QStringLiteral("/Contents/Resources"); }
 };
 
 } // namespace quindle

@@ -57,7 +57,7 @@ QString UpdatePreferencesController::preferencesTitle() const
 
 QIcon UpdatePreferencesController::preferencesIcon() const
 {
-    QIcon icon = iconFromFile(m_bundle.path() + QStringLiteral("/Contents/Resources/icons/prefUpdate.svg"));
+    QIcon icon = iconFromFile(m_bundle.resourcesPath() + QStringLiteral("/icons/prefUpdate.svg"));
     icon.setIsMask(true);
     return icon;
 }

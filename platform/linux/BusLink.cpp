@@ -22,6 +22,10 @@ constexpr int longestPause = 300'000;
 /// A socket's file is there a moment before anybody listens on it.
 constexpr int pauseForNewSocket = 50;
 
+const QString localPath = QStringLiteral("/org/freedesktop/DBus/Local");
+const QString localInterface = QStringLiteral("org.freedesktop.DBus.Local");
+const QString disconnected = QStringLiteral("Disconnected");
+
 QString usualName(QDBusConnection::BusType type)
 {
     return type == QDBusConnection::SystemBus ? QStringLiteral("quindle-system")
@@ -96,9 +100,7 @@ bool BusLink::take(const QDBusConnection& connection)
     if (!connection.isConnected())
         return false;
     m_connection = connection;
-    m_connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
-                         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
-                         SLOT(onDisconnected()));
+    m_connection.connect(QString(), localPath, localInterface, disconnected, this, SLOT(onDisconnected()));
     m_subscribe(m_connection);
     return true;
 }
@@ -107,6 +109,17 @@ void BusLink::onDisconnected()
 {
     if (m_logs)
         qCWarning(busLog, "a message bus was lost");
+    if (m_lost)
+        m_lost();
+    waitForBus(m_firstPause);
+}
+
+void BusLink::drop()
+{
+    qCWarning(busLog, "somebody on a message bus does not wait for answers: it is left for %d s",
+              m_firstPause / 1000);
+    m_connection.disconnect(QString(), localPath, localInterface, disconnected, this, SLOT(onDisconnected()));
+    closeOwn();
     if (m_lost)
         m_lost();
     waitForBus(m_firstPause);

@@ -38,6 +38,10 @@ public:
     /// is lost. Without a bus one line is logged.
     void open(std::function<void(QDBusConnection&)> subscribe, std::function<void()> lost = {});
 
+    /// Closes the connection, which must not be the shared one, because a peer abuses it: it is lost, and
+    /// tried again after the first pause.
+    void drop();
+
     /// The present connection; one that is not connected when there is none.
     QDBusConnection connection() const { return m_connection; }
 

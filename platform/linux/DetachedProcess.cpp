@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "platform/linux/CoreDumps.h"
 #include "platform/linux/FileDescriptor.h"
 
 namespace quindle {
@@ -20,6 +21,7 @@ namespace {
     ::setsid();
     if (const pid_t child = ::fork(); child != 0)
         ::_exit(child > 0 ? 0 : 1);
+    takeWholeCoreDumps();
     ::execv(arguments[0], arguments);
     const char failed = 1;
     [[maybe_unused]] const ssize_t told = ::write(faults, &failed, sizeof failed);

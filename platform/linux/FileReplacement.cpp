@@ -86,8 +86,11 @@ int makeFolder(const QByteArray& path)
         return 0;
     const int error = errno;
     struct stat found = {};
-    if (error == EEXIST)
-        return ::stat(path.constData(), &found) == 0 && S_ISDIR(found.st_mode) ? 0 : ENOTDIR;
+    if (error == EEXIST) {
+        if (::stat(path.constData(), &found) != 0)
+            return errno == ENOENT ? ENOTDIR : errno; // a link to nowhere; a network home that is away
+        return S_ISDIR(found.st_mode) ? 0 : ENOTDIR;
+    }
     if (error != ENOENT || path.size() <= 1)
         return error;
     const int above = makeFolder(folderOf(path));

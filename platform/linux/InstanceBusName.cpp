@@ -4,6 +4,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QTimer>
 
 namespace quindle {
 
@@ -74,8 +75,10 @@ void ApplicationAdaptor::Activate(const QVariantMap& /*platformData*/)
 InstanceBusName::InstanceBusName(QObject* parent)
     : QObject(parent)
     , m_link(QDBusConnection::SessionBus, QStringLiteral("quindle-instance"))
+    , m_guard([this] { pauseAnswers(); })
 {
     m_link.followShared();
+    m_guard.watch(*this);
     new ApplicationAdaptor(this, [this] {
         if (m_showRequested)
             m_showRequested();
@@ -94,9 +97,24 @@ std::optional<StartAnswer> InstanceBusName::start()
 /// Before the name is taken, so that who finds it taken also finds somebody to ask.
 void InstanceBusName::offer(QDBusConnection& connection)
 {
-    connection.registerObject(instancePath, this, QDBusConnection::ExportAdaptors);
+    answerCalls(connection);
     if (m_isStarted)
         takeLater(connection);
+}
+
+void InstanceBusName::answerCalls(QDBusConnection& connection)
+{
+    m_guard.setBus(connection);
+    connection.registerObject(instancePath, this, QDBusConnection::ExportAdaptors);
+}
+
+void InstanceBusName::pauseAnswers()
+{
+    m_link.connection().unregisterObject(instancePath);
+    QTimer::singleShot(BusLink::usualPause, this, [this] {
+        QDBusConnection present = m_link.connection();
+        answerCalls(present);
+    });
 }
 
 std::optional<StartAnswer> InstanceBusName::startOn(const QDBusConnection& connection) const

@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QVariantMap>
 
+#include "platform/linux/BacklogGuard.h"
 #include "platform/linux/BusLink.h"
 #include "platform/linux/StartAnswer.h"
 
@@ -31,7 +32,8 @@ private:
 };
 
 /// Sees to it that one process runs for a session bus: the bus gives a name to one of its connections. The
-/// name is taken again on each bus that comes later. Main thread only.
+/// name is taken again on each bus that comes later. Who asks without end and does not wait is not answered
+/// for a while. Main thread only.
 class InstanceBusName : public QObject
 {
     Q_OBJECT
@@ -50,10 +52,13 @@ public:
 
 private:
     void offer(QDBusConnection& connection);
+    void answerCalls(QDBusConnection& connection);
+    void pauseAnswers();
     void takeLater(const QDBusConnection& connection);
     std::optional<StartAnswer> startOn(const QDBusConnection& connection) const;
 
     BusLink m_link;
+    BacklogGuard m_guard;
     bool m_isStarted = false;
     std::function<void()> m_showRequested;
     std::function<void()> m_takenByAnother;

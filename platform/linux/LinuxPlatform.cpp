@@ -45,6 +45,7 @@ struct LinuxPlatform::Services
         , registry(supplies, times, firmwareFolders(systemRoot))
         , powerSources(supplies, times)
         , userDefaults(settingsFolder(), settingsAccess)
+        , workspaceNotifications(runLoop)
         , urlSession(networkModule(bundle))
         , loginItems(loginItemPlaces(bundle.path()), settingsAccess)
         , powerEvents([this] { supplies.rescanNow(); })
@@ -58,13 +59,13 @@ struct LinuxPlatform::Services
     LinuxUserDefaultsDatabases userDefaults;
     NotificationCenter notificationCenter;
     LinuxDistributedNotificationCenter distributedNotificationCenter;
+    LinuxRunLoop runLoop;
     LinuxWorkspaceNotifications workspaceNotifications;
     LinuxWorkspace workspace;
     LinuxBundle bundle;
     LinuxClock clock;
     LinuxHost host;
     LinuxSystemFiles systemFiles;
-    LinuxRunLoop runLoop;
     LinuxApplication application;
     LinuxUrlSession urlSession;
     LinuxUserDirectories userDirectories;
@@ -82,6 +83,11 @@ LinuxPlatform::~LinuxPlatform() = default;
 Bundle& LinuxPlatform::bundle()
 {
     return m_services->bundle;
+}
+
+RunLoop& LinuxPlatform::runLoop()
+{
+    return m_services->runLoop;
 }
 
 UserDefaultsDatabases& LinuxPlatform::userDefaults()

@@ -19,6 +19,7 @@ public:
     ~LinuxPlatform();
 
     Bundle& bundle();
+    RunLoop& runLoop();
     UserDefaultsDatabases& userDefaults();
 
     /// All of them, with a status bar of the caller's choice.

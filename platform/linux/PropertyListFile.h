@@ -34,7 +34,8 @@ public:
     /// Reads the file whether or not it has changed.
     State reread();
 
-    /// What the last look found; empty unless the state is Good.
+    /// What the last look found; empty while the file is missing or damaged. One that is unreadable keeps
+    /// what was read last.
     const QVariantMap& contents() const { return m_contents; }
 
     /// The errno value of the last look, when the state is Unreadable.

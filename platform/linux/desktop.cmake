@@ -2,6 +2,8 @@
 target_sources(quindle_platform_linux PRIVATE
     AutostartEntry.cpp
     BusAddress.cpp
+    BacklogGuard.cpp
+    BacklogGuard.h
     BusLink.cpp
     BusLink.h
     DesktopEntry.cpp
@@ -20,6 +22,8 @@ target_sources(quindle_platform_linux PRIVATE
     LinuxRunLoop.cpp
     LinuxUserDefaults.cpp
     LinuxUserDirectories.cpp
+    NameOwner.cpp
+    NameOwner.h
     ProgramFile.cpp
     PropertyListFile.cpp
     SingleInstance.cpp

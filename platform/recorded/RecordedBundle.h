@@ -15,6 +15,9 @@ public:
     QString path() const override;
     std::optional<QVariantMap> infoDictionary() const override;
 
+    /// The program's own: nothing is opened at a place that a machine file names.
+    QString resourcesPath() const override { return m_programBundle.resourcesPath(); }
+
 private:
     const RecordedComputer& m_computer;
     const Bundle& m_programBundle;

@@ -5,6 +5,9 @@ import os
 import time
 import unittest
 
+import dbus
+import dbus.lowlevel
+
 from fault_case import SETTINGS_CHANGED, FaultCase, anonymous_memory, open_files
 
 KILLS = int(os.environ.get("QUINDLE_WATCHER_KILLS", "100"))
@@ -83,7 +86,14 @@ class MessageBuses(FaultCase):
         system.start()
         time.sleep(1)
         self.set_template("woken")
-        system.send("/org/freedesktop/login1", "org.freedesktop.login1.Manager.PrepareForSleep", "boolean:false")
+        login_manager = dbus.bus.BusConnection(system.address)
+        self.addCleanup(login_manager.close)
+        login_manager.request_name("org.freedesktop.login1")
+        time.sleep(0.5)
+        woken = dbus.lowlevel.SignalMessage("/org/freedesktop/login1", "org.freedesktop.login1.Manager", "PrepareForSleep")
+        woken.append(False, signature="b")
+        login_manager.send_message(woken)
+        login_manager.flush()
         self.assert_shows(bus, item, "woken", 2)
 
 

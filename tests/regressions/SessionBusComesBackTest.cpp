@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/BusLink.h"
+#include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/statusitem/LinuxStatusBar.h"
 #include "tests/support/QtPrinters.h"
 
@@ -102,7 +103,8 @@ TEST_F(SessionBusComesBackTest, ANewSocketIsNoticedWithoutWaiting)
 
 TEST_F(SessionBusComesBackTest, TheItemIsOfferedAgain)
 {
-    LinuxStatusBar bar({});
+    LinuxRunLoop runLoop;
+    LinuxStatusBar bar(runLoop, {});
     const auto item = bar.statusItemWithLength(-1);
     item->setTitle(QStringLiteral("50 %"));
     for (int round = 0; round < 2; ++round) {

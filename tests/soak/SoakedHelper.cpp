@@ -88,7 +88,7 @@ void AnsweringUrlSession::post(const QString& /*url*/, const QByteArray& body,
 
 std::unique_ptr<StatusItem> UnconnectedStatusBar::statusItemWithLength(double /*length*/)
 {
-    return std::make_unique<LinuxStatusItem>(QDBusConnection(QStringLiteral("none")),
+    return std::make_unique<LinuxStatusItem>(QDBusConnection(QStringLiteral("none")), m_runLoop,
                                              StatusItemSurroundings{});
 }
 

@@ -31,7 +31,15 @@ public:
 class UnconnectedStatusBar : public StatusBar
 {
 public:
+    explicit UnconnectedStatusBar(RunLoop& runLoop)
+        : m_runLoop(runLoop)
+    {
+    }
+
     std::unique_ptr<StatusItem> statusItemWithLength(double length) override;
+
+private:
+    RunLoop& m_runLoop;
 };
 
 /// A launched helper with battery view, settings files and saved history, on a recorded computer whose clock
@@ -70,9 +78,9 @@ private:
     RecordedPlatform m_recorded;
     LinuxUserDefaultsDatabases m_userDefaults;
     AnsweringUrlSession m_urlSession;
-    UnconnectedStatusBar m_statusBar;
     SoakClock m_clock;
     SoakRunLoop m_runLoop{m_clock};
+    UnconnectedStatusBar m_statusBar{m_runLoop};
     Platform m_platform;
     MainInterface m_interface;
     std::unique_ptr<ApplicationPreferences> m_preferences;

@@ -9,12 +9,14 @@ namespace quindle {
 class LinuxStatusBar final : public StatusBar
 {
 public:
-    explicit LinuxStatusBar(StatusItemSurroundings surroundings);
+    /// The loop must outlive it and its items.
+    LinuxStatusBar(RunLoop& runLoop, StatusItemSurroundings surroundings);
 
     /// Hosts decide on the width, so the length has no effect here.
     std::unique_ptr<StatusItem> statusItemWithLength(double length) override;
 
 private:
+    RunLoop& m_runLoop;
     StatusItemSurroundings m_surroundings;
     int m_items = 0;
 };

@@ -31,11 +31,20 @@ bool mayHaveX11Tray()
 
 } // namespace
 
-LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, StatusItemSurroundings surroundings)
+LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, RunLoop& runLoop,
+                                 StatusItemSurroundings surroundings)
     : m_bus(bus)
+    , m_runLoop(runLoop)
     , m_surroundings(std::move(surroundings))
     , m_pictures(m_surroundings.iconsDirectory)
+    , m_guard([this] {
+        withdrawObjects();
+        Q_EMIT busAbused();
+    })
 {
+    for (QObject* offered : {&m_itemObject, &m_itemObjectWithoutLabel, &m_menuObject})
+        m_guard.watch(*offered);
+    m_guard.setBus(m_bus);
     const NotifierItemAdaptor::Requests requests{
         [this] { toggleView(); },
         [this](const QString& token) { m_activationToken = token; },
@@ -57,6 +66,7 @@ LinuxStatusItem::~LinuxStatusItem()
 void LinuxStatusItem::setBus(const QDBusConnection& bus)
 {
     m_bus = bus;
+    m_guard.setBus(m_bus);
     exportObjects();
     linkToWatcher();
     if (m_started)
@@ -65,7 +75,7 @@ void LinuxStatusItem::setBus(const QDBusConnection& bus)
 
 void LinuxStatusItem::linkToWatcher()
 {
-    m_watcher = std::make_unique<WatcherLink>(m_bus, itemPath(), m_surroundings.registrationCheck);
+    m_watcher = std::make_unique<WatcherLink>(m_bus, itemPath(), m_surroundings.registrationCheck, m_runLoop);
     connect(m_watcher.get(), &WatcherLink::watcherFound, this, &LinuxStatusItem::watcherFound);
     connect(m_watcher.get(), &WatcherLink::watcherLost, this, &LinuxStatusItem::watcherLost);
 }
@@ -81,12 +91,17 @@ void LinuxStatusItem::exportObjects()
         qCWarning(logItem) << "the status item cannot be offered on the session bus";
 }
 
+void LinuxStatusItem::withdrawObjects()
+{
+    m_bus.unregisterObject(itemPath());
+    m_bus.unregisterObject(QLatin1String(menuPath));
+}
+
 void LinuxStatusItem::useItem(NotifierItemAdaptor* item)
 {
     if (std::exchange(m_notifierItem, item) == item)
         return;
-    m_bus.unregisterObject(itemPath());
-    m_bus.unregisterObject(QLatin1String(menuPath));
+    withdrawObjects();
     exportObjects();
 }
 

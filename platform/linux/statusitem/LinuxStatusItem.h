@@ -10,6 +10,7 @@
 #include <QString>
 
 #include "platform/StatusBar.h"
+#include "platform/linux/BacklogGuard.h"
 #include "platform/linux/statusitem/HostTraits.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
@@ -18,6 +19,7 @@ namespace quindle {
 
 class MenuAdaptor;
 class NotifierItemAdaptor;
+class RunLoop;
 class TrayIcon;
 class WatcherLink;
 
@@ -39,7 +41,7 @@ class LinuxStatusItem final : public QObject, public StatusItem
 public:
     /// The connection is the item's own, and closed with it: watchers know items by their connection. One
     /// that is not connected leaves the X11 tray.
-    LinuxStatusItem(const QDBusConnection& bus, StatusItemSurroundings surroundings);
+    LinuxStatusItem(const QDBusConnection& bus, RunLoop& runLoop, StatusItemSurroundings surroundings);
     ~LinuxStatusItem() override;
 
     /// Moves the item to another connection, because the present one was lost or a bus has come. As in the
@@ -55,8 +57,14 @@ public:
     void setToolTipText(const QString& text) override;
     void setMenu(StatusMenu* menu) override;
 
+Q_SIGNALS:
+    /// Somebody calls the item without end and does not wait for the answers. It is off the bus; the
+    /// connection ought to be closed, with all that waits in it.
+    void busAbused();
+
 private:
     void exportObjects();
+    void withdrawObjects();
     void useItem(NotifierItemAdaptor* item);
     void linkToWatcher();
     void scheduleFlush();
@@ -81,6 +89,7 @@ private:
     };
 
     QDBusConnection m_bus;
+    RunLoop& m_runLoop;
     StatusItemSurroundings m_surroundings;
     StatusPictures m_pictures;
     std::shared_ptr<Image> m_image;
@@ -99,6 +108,7 @@ private:
     NotifierItemAdaptor* m_labelledItem = nullptr;
     NotifierItemAdaptor* m_itemWithoutLabel = nullptr;
     MenuAdaptor* m_menuAdaptor = nullptr;
+    BacklogGuard m_guard;
     std::unique_ptr<WatcherLink> m_watcher;
     std::unique_ptr<TrayIcon> m_tray;
 };

@@ -4,12 +4,13 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QTimer>
+
+#include "platform/linux/NameOwner.h"
 
 namespace quindle {
 
@@ -24,12 +25,12 @@ QString watcherService()
     return QStringLiteral("org.kde.StatusNotifierWatcher");
 }
 
-QDBusMessage busCall(const QString& method, const QString& argument)
+QDBusMessage processOf(const QString& connectionName)
 {
     const QString bus = QStringLiteral("org.freedesktop.DBus");
-    QDBusMessage message =
-        QDBusMessage::createMethodCall(bus, QStringLiteral("/org/freedesktop/DBus"), bus, method);
-    message << argument;
+    QDBusMessage message = QDBusMessage::createMethodCall(bus, QStringLiteral("/org/freedesktop/DBus"), bus,
+                                                          QStringLiteral("GetConnectionUnixProcessID"));
+    message << connectionName;
     return message;
 }
 
@@ -67,39 +68,34 @@ bool listsItemOf(const QString& uniqueName, const QStringList& items)
 }
 
 WatcherLink::WatcherLink(QDBusConnection bus, QString itemPath, std::chrono::milliseconds checkDelay,
-                         QObject* parent)
+                         RunLoop& runLoop, QObject* parent)
     : QObject(parent)
     , m_bus(std::move(bus))
     , m_itemPath(std::move(itemPath))
     , m_checkDelay(checkDelay)
+    , m_changes(runLoop, 0, [this] { answerOwner(); })
 {
 }
 
 void WatcherLink::start()
 {
     if (!m_bus.isConnected()) {
-        setOwner({});
+        answerOwner();
         return;
     }
-    auto* watcher =
-        new QDBusServiceWatcher(watcherService(), m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString&, const QString&, const QString& owner) { setOwner(owner); });
-    call(busCall(QStringLiteral("GetNameOwner"), watcherService()), [this](const QDBusMessage& answer) {
-        if (!m_ownerKnown)
-            setOwner(answer.type() == QDBusMessage::ReplyMessage ? answer.arguments().value(0).toString()
-                                                                 : QString());
-    });
+    const auto changed = [this](const QString& owner) {
+        m_owner = owner;
+        m_changes.request();
+    };
+    new NameOwner(m_bus, watcherService(), changed, this);
 }
 
-void WatcherLink::setOwner(const QString& owner)
+// Also when the owner is the same as the last that was answered: it left meanwhile, and has forgotten its
+// items.
+void WatcherLink::answerOwner()
 {
-    if (m_ownerKnown && owner == m_owner)
-        return;
-    m_ownerKnown = true;
-    m_owner = owner;
     ++m_round;
-    if (owner.isEmpty())
+    if (m_owner.isEmpty())
         Q_EMIT watcherLost();
     else
         askProcess();
@@ -107,7 +103,7 @@ void WatcherLink::setOwner(const QString& owner)
 
 void WatcherLink::askProcess()
 {
-    call(busCall(QStringLiteral("GetConnectionUnixProcessID"), m_owner), [this](const QDBusMessage& answer) {
+    call(processOf(m_owner), [this](const QDBusMessage& answer) {
         const uint pid = answer.arguments().value(0).toUInt();
         const bool answered = answer.type() == QDBusMessage::ReplyMessage && pid != 0;
         Q_EMIT watcherFound(answered ? processWithId(pid) : HostProcess());
@@ -124,9 +120,11 @@ void WatcherLink::sendRegistration(int attempt)
     QDBusMessage message = watcherCall(watcherService(), QStringLiteral("RegisterStatusNotifierItem"));
     // By path: with a name of its own, one host loses items now and then.
     message << m_itemPath;
-    call(message, [](const QDBusMessage& answer) {
-        if (answer.type() == QDBusMessage::ErrorMessage)
-            qCWarning(logWatcher) << "registration failed:" << answer.errorMessage();
+    call(message, [this](const QDBusMessage& answer) {
+        const QString failure = answer.errorMessage(); // empty after a success
+        if (!failure.isEmpty() && failure != m_failure)
+            qCWarning(logWatcher) << "registration failed:" << failure;
+        m_failure = failure;
     });
     const auto check = [this, attempt, round = m_round] {
         if (round == m_round)

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "platform/RateLimit.h"
 #include "platform/linux/statusitem/HostTraits.h"
 
 class QDBusMessage;
@@ -19,14 +20,15 @@ namespace quindle {
 bool listsItemOf(const QString& uniqueName, const QStringList& items);
 
 /// The way to the watcher of status notifier items: hears when it comes, goes or is replaced, and registers
-/// the item there. Every call is asynchronous; without a watcher nothing runs until the bus tells of one.
+/// the item there. Every call is asynchronous; without a watcher nothing runs until the bus tells of one. One
+/// that comes and goes all the time is answered at most twice a second.
 class WatcherLink final : public QObject
 {
     Q_OBJECT
 
 public:
     /// `checkDelay`: how long after a registration the watcher's list is looked at.
-    WatcherLink(QDBusConnection bus, QString itemPath, std::chrono::milliseconds checkDelay,
+    WatcherLink(QDBusConnection bus, QString itemPath, std::chrono::milliseconds checkDelay, RunLoop& runLoop,
                 QObject* parent = nullptr);
 
     /// Looks for the watcher. One of the signals follows, at once or later; without a bus, watcherLost.
@@ -45,7 +47,7 @@ Q_SIGNALS:
 private:
     using Answered = std::function<void(const QDBusMessage&)>;
 
-    void setOwner(const QString& owner);
+    void answerOwner();
     void askProcess();
     void sendRegistration(int attempt);
     void checkRegistration(int attempt);
@@ -54,9 +56,10 @@ private:
     QDBusConnection m_bus;
     QString m_itemPath;
     std::chrono::milliseconds m_checkDelay;
+    RateLimit m_changes;
     QString m_owner;
-    bool m_ownerKnown = false;
-    int m_round = 0; ///< counts the owners; answers that belong to an earlier one are not heard
+    QString m_failure; ///< of the last registration
+    int m_round = 0;   ///< counts the owners; answers that belong to an earlier one are not heard
 };
 
 } // namespace quindle

@@ -1,6 +1,8 @@
 #include <memory>
 
 #include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
@@ -10,6 +12,9 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/LinuxNotifications.h"
+#include "platform/linux/LinuxRunLoop.h"
+#include "platform/linux/NameOwner.h"
+#include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -87,17 +92,79 @@ public:
                    QStringLiteral("com.fernhollow.Quindle.Notifications.") + name);
     }
 
-    void emitPrepareForSleep(bool goingToSleep) const
-    {
-        emitSignal(QStringLiteral("/org/freedesktop/login1"),
-                   QStringLiteral("org.freedesktop.login1.Manager.PrepareForSleep"),
-                   {goingToSleep ? QStringLiteral("boolean:true") : QStringLiteral("boolean:false")});
-    }
-
 private:
     QString m_type;
     QTemporaryDir m_folder;
     QProcess m_daemon;
+};
+
+// The login manager, on a connection of its own.
+class LoginManager
+{
+public:
+    explicit LoginManager(const QString& address)
+        : m_connection(QDBusConnection::connectToBus(address, QStringLiteral("login-manager")))
+    {
+        EXPECT_TRUE(m_connection.registerService(QStringLiteral("org.freedesktop.login1")));
+    }
+    ~LoginManager() { QDBusConnection::disconnectFromBus(QStringLiteral("login-manager")); }
+
+    LoginManager(const LoginManager&) = delete;
+    LoginManager& operator=(const LoginManager&) = delete;
+
+    void prepareForSleep(bool goingToSleep) { m_connection.send(prepareForSleepSignal() << goingToSleep); }
+
+    static QDBusMessage prepareForSleepSignal()
+    {
+        return QDBusMessage::createSignal(path, interface, QStringLiteral("PrepareForSleep"));
+    }
+
+    static inline const QString path = QStringLiteral("/org/freedesktop/login1");
+    static inline const QString interface = QStringLiteral("org.freedesktop.login1.Manager");
+
+private:
+    QDBusConnection m_connection;
+};
+
+// Somebody else on the bus who would like to be taken for the login manager.
+class Forger
+{
+public:
+    explicit Forger(const QString& address)
+        : m_connection(QDBusConnection::connectToBus(address, QStringLiteral("forger")))
+    {
+    }
+    ~Forger() { QDBusConnection::disconnectFromBus(QStringLiteral("forger")); }
+
+    Forger(const Forger&) = delete;
+    Forger& operator=(const Forger&) = delete;
+
+    // To everybody, and to `victim` alone if there is one, which no match rule keeps out.
+    void send(const QString& victim, const QString& path, const QString& interface, const QString& member,
+              const QVariantList& arguments)
+    {
+        QDBusMessage toAll = QDBusMessage::createSignal(path, interface, member);
+        toAll.setArguments(arguments);
+        m_connection.send(toAll);
+        if (victim.isEmpty())
+            return;
+        QDBusMessage toVictim = QDBusMessage::createTargetedSignal(victim, path, interface, member);
+        toVictim.setArguments(arguments);
+        m_connection.send(toVictim);
+    }
+
+    QString name() const { return m_connection.baseService(); }
+
+    // The bus has passed on everything when this returns.
+    void finish()
+    {
+        const QString bus = QStringLiteral("org.freedesktop.DBus");
+        m_connection.call(
+            QDBusMessage::createMethodCall(bus, QStringLiteral("/"), bus, QStringLiteral("GetId")));
+    }
+
+private:
+    QDBusConnection m_connection;
 };
 
 // Each test runs in a process of its own (CTest), because the process's shared bus connections last as long
@@ -177,55 +244,138 @@ TEST_F(LinuxNotificationsTest, OtherNamesPathsAndUnsendableNamesCallNobody)
     EXPECT_EQ(called, "a");
 }
 
-TEST_F(LinuxNotificationsTest, SleepAndWake)
+TEST_F(LinuxNotificationsTest, AFloodIsNotHeardForAWhile)
 {
-    LinuxWorkspaceNotifications notifications;
+    LinuxDistributedNotificationCenter center(500);
+    int heard = 0;
+    center.addObserver(settingsChanged, [&] { ++heard; });
+    Forger peer(s_buses->session.address());
+    const auto flood = [&] {
+        for (int time = 0; time < 3000; ++time)
+            peer.send(QString(), QStringLiteral("/com/fernhollow/Quindle"),
+                      QStringLiteral("com.fernhollow.Quindle.Notifications"), settingsChanged, {});
+        peer.finish();
+    };
+    flood();
+    EXPECT_TRUE(runUntil([&] { return heard > 0; }));
+    runFor(100);
+    flood();
+    runFor(100);
+    EXPECT_LE(heard, 2 * BacklogGuard::mostOnTheWay);
+    heard = 0;
+    EXPECT_TRUE(runUntil([&] {
+        s_buses->session.emitNotification(settingsChanged);
+        runFor(20);
+        return heard > 0;
+    }));
+}
+
+// Observers of sleep and wake on a loop in which time passes by hand.
+class SleepAndWakeTest : public LinuxNotificationsTest
+{
+protected:
+    SleepAndWakeTest()
+    {
+        notifications.addWillSleepObserver([this] { called += 's'; });
+        notifications.addDidWakeObserver([this] { called += 'w'; });
+        runFor(50); // the bus is connected from the main loop
+    }
+
+    // Until the manager is known, what it says is not heard.
+    void expectHeard(LoginManager& manager)
+    {
+        EXPECT_TRUE(runUntil([&] {
+            manager.prepareForSleep(true);
+            runFor(10);
+            return !called.empty();
+        }));
+        runFor(50);
+        called.clear();
+    }
+
+    FakeClock clock;
+    FakeRunLoop runLoop{clock};
+    LinuxWorkspaceNotifications notifications{runLoop};
     std::string called;
-    notifications.addWillSleepObserver([&] { called += 's'; });
-    notifications.addDidWakeObserver([&] { called += 'w'; });
-    runFor(50); // the bus is connected from the main loop
-    s_buses->system.emitPrepareForSleep(true);
+};
+
+TEST_F(SleepAndWakeTest, AreHeardAtOnce)
+{
+    LoginManager manager(s_buses->system.address());
+    expectHeard(manager);
+    manager.prepareForSleep(true);
     EXPECT_TRUE(runUntil([&] { return called == "s"; }));
-    s_buses->system.emitPrepareForSleep(false);
+    manager.prepareForSleep(false);
     EXPECT_TRUE(runUntil([&] { return called == "sw"; }));
 }
 
-TEST_F(LinuxNotificationsTest, ALoginManagerThatComesLateIsHeard)
+TEST_F(SleepAndWakeTest, AManagerThatComesLateIsHeard)
 {
-    LinuxWorkspaceNotifications notifications;
-    int woken = 0;
-    notifications.addDidWakeObserver([&] { ++woken; });
-    runFor(50);
-    for (int start = 1; start <= 2; ++start) {
-        QProcess manager;
-        manager.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        manager.start(QStringLiteral("/usr/bin/python3"),
-                      {QStringLiteral("-m"), QStringLiteral("dbusmock"), QStringLiteral("--system"),
-                       QStringLiteral("--template"), QStringLiteral("logind")});
-        ASSERT_TRUE(manager.waitForStarted());
-        EXPECT_TRUE(runUntil(
-            [&] {
-                QProcess::execute(
-                    QStringLiteral("gdbus"),
-                    {QStringLiteral("call"), QStringLiteral("--address"), s_buses->system.address(),
-                     QStringLiteral("--dest"), QStringLiteral("org.freedesktop.login1"),
-                     QStringLiteral("--object-path"), QStringLiteral("/org/freedesktop/login1"),
-                     QStringLiteral("--method"), QStringLiteral("org.freedesktop.DBus.Mock.EmitSignal"),
-                     QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("PrepareForSleep"),
-                     QStringLiteral("b"), QStringLiteral("[<false>]")});
-                runFor(100);
-                return woken >= start;
-            },
-            20'000));
-        manager.kill();
-        manager.waitForFinished();
+    for (int start = 0; start < 2; ++start) {
+        LoginManager manager(s_buses->system.address());
+        expectHeard(manager);
+        manager.prepareForSleep(false);
+        EXPECT_TRUE(runUntil([&] { return called == "w"; })) << start;
+        called.clear();
+        runLoop.advance(1);
     }
+}
+
+// Everybody on the system bus could wake the helper, 14,000 times a second.
+TEST_F(SleepAndWakeTest, NobodyButTheLoginManagerIsHeard)
+{
+    LoginManager manager(s_buses->system.address());
+    expectHeard(manager);
+    Forger forger(s_buses->system.address());
+    const QString victim = QDBusConnection::systemBus().baseService();
+    const QString bus = QStringLiteral("org.freedesktop.DBus");
+    const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+    const auto forge = [&] {
+        forger.send(victim, LoginManager::path, LoginManager::interface, QStringLiteral("PrepareForSleep"),
+                    {true});
+        forger.finish();
+    };
+    forge();
+    forger.send(victim, busPath, bus, QStringLiteral("NameOwnerChanged"),
+                {QStringLiteral("org.freedesktop.login1"), QString(), forger.name()});
+    forger.finish();
+    runFor(50);
+    forge();
+    manager.prepareForSleep(false);
+    EXPECT_TRUE(runUntil([&] { return !called.empty(); }));
+    EXPECT_EQ(called, "w");
+}
+
+TEST_F(SleepAndWakeTest, NobodyIsHeardWithoutALoginManager)
+{
+    Forger forger(s_buses->system.address());
+    forger.send(QDBusConnection::systemBus().baseService(), LoginManager::path, LoginManager::interface,
+                QStringLiteral("PrepareForSleep"), {true});
+    forger.finish();
+    runFor(100);
+    EXPECT_EQ(called, "");
+}
+
+TEST_F(SleepAndWakeTest, WakingIsHeardTwiceASecondAtMost)
+{
+    LoginManager manager(s_buses->system.address());
+    expectHeard(manager);
+    for (int time = 0; time < 100; ++time)
+        manager.prepareForSleep(false);
+    manager.prepareForSleep(true);
+    EXPECT_TRUE(runUntil([&] { return called.find('s') != std::string::npos; }));
+    EXPECT_EQ(called, "ws");
+    runLoop.advance(0.5);
+    EXPECT_EQ(called, "wsw");
+    runLoop.advance(10);
+    EXPECT_EQ(called, "wsw");
 }
 
 TEST_F(LinuxNotificationsTest, ALostBusIsTriedAgain)
 {
     LinuxDistributedNotificationCenter center(50);
-    LinuxWorkspaceNotifications workspace(50);
+    LinuxRunLoop runLoop;
+    LinuxWorkspaceNotifications workspace(runLoop, 50);
     int notified = 0;
     int woken = 0;
     center.addObserver(settingsChanged, [&] { ++notified; });
@@ -237,9 +387,10 @@ TEST_F(LinuxNotificationsTest, ALostBusIsTriedAgain)
         runFor(120);
         s_buses->session.start();
         s_buses->system.start();
+        LoginManager manager(s_buses->system.address());
         EXPECT_TRUE(runUntil([&] {
             s_buses->session.emitNotification(settingsChanged);
-            s_buses->system.emitPrepareForSleep(false);
+            manager.prepareForSleep(false);
             runFor(20);
             return notified >= round && woken >= round;
         }));
@@ -257,7 +408,8 @@ TEST(LinuxNotificationsDeathTest, WithoutABusOnlyOwnPostsAreHeard)
             qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere");
             int called = 0;
             LinuxDistributedNotificationCenter center(5);
-            LinuxWorkspaceNotifications workspace(5);
+            LinuxRunLoop runLoop;
+            LinuxWorkspaceNotifications workspace(runLoop, 5);
             center.addObserver(settingsChanged, [&] { ++called; });
             workspace.addDidWakeObserver([&] { ++called; });
             center.post(settingsChanged);

@@ -309,6 +309,25 @@ TEST_F(LinuxUserDefaultsTest, WhatIsNoReadableFileIsReadAsNothingAndKept)
     }
 }
 
+// The defaults in place of the user's settings would change title and icon while a network home is away.
+TEST_F(LinuxUserDefaultsTest, WhatCannotBeReadAnyMoreIsWhatItWas)
+{
+    writeBytes(path(), listOf(key, 1));
+    LinuxUserDefaults defaults(path());
+    EXPECT_EQ(defaults.integer(key), 1);
+    QFile::remove(path());
+    QDir().mkpath(path()); // as unreadable as a file of a server that is away, also for root
+    for (int time = 0; time < 3; ++time)
+        EXPECT_EQ(defaults.integer(key), 1);
+    EXPECT_EQ(messages().size(), 1);
+    defaults.setInteger(key, 2);
+    EXPECT_EQ(defaults.integer(key), 1);
+    QDir().rmdir(path());
+    EXPECT_FALSE(defaults.object(key).isValid());
+    writeBytes(path(), listOf(key, 3));
+    EXPECT_EQ(defaults.integer(key), 3);
+}
+
 TEST_F(LinuxUserDefaultsTest, FullDiskChangesNothing)
 {
     LinuxUserDefaults defaults(path());

@@ -8,6 +8,7 @@
 
 #include "platform/Image.h"
 #include "platform/StatusMenu.h"
+#include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/statusitem/MenuTypes.h"
 #include "platform/linux/statusitem/NotifierTypes.h"
 #include "tests/platform/linux-statusitem/FakeHost.h"
@@ -61,8 +62,9 @@ protected:
     void makeItem(std::chrono::milliseconds registrationCheck = std::chrono::milliseconds(3000))
     {
         item = std::make_unique<LinuxStatusItem>(
-            bus.connect(), StatusItemSurroundings{QStringLiteral(QUINDLE_ICONS), currentDesktop,
-                                                  [this] { return choice; }, registrationCheck});
+            bus.connect(), runLoop,
+            StatusItemSurroundings{QStringLiteral(QUINDLE_ICONS), currentDesktop, [this] { return choice; },
+                                   registrationCheck});
         item->setTitle(u("87.0%"));
         item->setFallbackText(u("87"));
         item->setToolTipText(u("R&D"));
@@ -91,6 +93,7 @@ protected:
         return demarshalled<QList<NotifierPixmap>>(host.itemProperty(name));
     }
 
+    LinuxRunLoop runLoop;
     PrivateBus bus;
     FakeHost host{bus.connect()};
     StatusMenu menu;
@@ -412,7 +415,8 @@ TEST_F(LinuxStatusItemTest, menuMayOutliveTheItem)
 
 TEST(LinuxStatusItemWithoutBus, keepsItsValues)
 {
-    LinuxStatusItem item(QDBusConnection(u("no such connection")),
+    LinuxRunLoop runLoop;
+    LinuxStatusItem item(QDBusConnection(u("no such connection")), runLoop,
                          StatusItemSurroundings{QStringLiteral(QUINDLE_ICONS), {}, {}});
     item.setTitle(u("87.0%"));
     QCoreApplication::processEvents();

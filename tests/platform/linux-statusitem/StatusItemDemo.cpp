@@ -9,6 +9,7 @@
 
 #include "platform/Image.h"
 #include "platform/StatusMenu.h"
+#include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/statusitem/LinuxStatusBar.h"
 
 namespace {
@@ -74,7 +75,9 @@ int main(int argc, char** argv)
     }
 
     const QString choice = arguments.value(QStringLiteral("choice"));
-    LinuxStatusBar bar({icons, qEnvironmentVariable("XDG_CURRENT_DESKTOP"), [choice] { return choice; }});
+    LinuxRunLoop runLoop;
+    LinuxStatusBar bar(runLoop,
+                       {icons, qEnvironmentVariable("XDG_CURRENT_DESKTOP"), [choice] { return choice; }});
     const auto item = bar.statusItemWithLength(variableStatusItemLength);
     const QString title = arguments.value(QStringLiteral("text"));
     StatusMenu menu;

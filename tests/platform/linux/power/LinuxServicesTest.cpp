@@ -12,6 +12,7 @@
 
 #include "common/Paths.h"
 #include "plist/PropertyList.h"
+#include "platform/linux/CoreDumps.h"
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxHost.h"
@@ -171,6 +172,23 @@ TEST_F(LinuxWorkspaceTest, OpensWhatHasANameThatIsNotUtf8)
     LinuxWorkspace({path("bin")}).launchApplication(pathText(odd));
     EXPECT_TRUE(written("xdg-note").endsWith('|' + odd + '\n'));
     ::rmdir(odd.constData());
+}
+
+TEST_F(LinuxWorkspaceTest, KeepsItsOwnMemoryOutOfCoreDumpsButNotThatOfTheLaunched)
+{
+    const auto filter = [] {
+        QFile file(QStringLiteral("/proc/self/coredump_filter"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+    };
+    const QString program =
+        write("program", "#!/bin/sh\ncat /proc/self/coredump_filter > " + path("note").toUtf8() + '\n', true);
+    keepMemoryOutOfCoreDumps();
+    EXPECT_EQ(filter(), "00000010");
+    LinuxWorkspace({folder.path()}).launchApplication(program);
+    EXPECT_EQ(written("note"), "00000033\n");
+    EXPECT_EQ(filter(), "00000010");
+    takeWholeCoreDumps();
+    EXPECT_EQ(filter(), "00000033");
 }
 
 TEST_F(LinuxWorkspaceTest, LogsAFailureOnce)

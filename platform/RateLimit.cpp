@@ -1,4 +1,4 @@
-#include "app/RefreshRate.h"
+#include "platform/RateLimit.h"
 
 #include <utility>
 
@@ -6,39 +6,49 @@
 
 namespace quindle {
 
-RefreshRate::RefreshRate(RunLoop& runLoop, std::function<void()> refresh)
+RateLimit::RateLimit(RunLoop& runLoop, double settling, std::function<void()> act)
     : m_runLoop(runLoop)
-    , m_refresh(std::move(refresh))
+    , m_settling(settling)
+    , m_act(std::move(act))
 {
 }
 
-RefreshRate::~RefreshRate()
+RateLimit::~RateLimit()
 {
     if (m_timer)
         m_timer->invalidate();
 }
 
-void RefreshRate::request()
+void RateLimit::request()
 {
     m_isRequested = true;
-    if (!m_timer)
-        wait(settleTime);
+    if (m_timer)
+        return;
+    if (m_settling > 0)
+        wait(m_settling);
+    else
+        actIfRequested();
 }
 
-void RefreshRate::wait(double seconds)
+void RateLimit::wait(double seconds)
 {
     m_timer = m_runLoop.scheduleRepeatingTimer(seconds, 0.0, [this] { waitIsOver(); });
 }
 
-void RefreshRate::waitIsOver()
+void RateLimit::waitIsOver()
 {
     // A timer of its own for each wait: the next tick of the same one would count from when this one was
     // planned, and come too soon after it.
     std::exchange(m_timer, nullptr)->invalidate();
+    actIfRequested();
+}
+
+void RateLimit::actIfRequested()
+{
     if (!std::exchange(m_isRequested, false))
         return;
     wait(shortestPause);
-    m_refresh();
+    m_act();
 }
 
 } // namespace quindle

@@ -1,4 +1,4 @@
-#include "app/RefreshRate.h"
+#include "platform/RateLimit.h"
 
 #include <vector>
 
@@ -10,13 +10,13 @@ using namespace quindle;
 
 namespace {
 
-struct RefreshRateTest : testing::Test
+struct RateLimitTest : testing::Test
 {
     FakeClock clock;
     FakeRunLoop runLoop{clock};
     const QDateTime start = clock.now();
     std::vector<int> refreshes; ///< milliseconds after the start
-    RefreshRate rate{runLoop, [this] { refreshes.push_back(elapsed()); }};
+    RateLimit rate{runLoop, RateLimit::settleTime, [this] { refreshes.push_back(elapsed()); }};
 
     int elapsed() const { return static_cast<int>(start.msecsTo(clock.now())); }
 
@@ -43,7 +43,7 @@ const Row rows[] = {
     {"far apart", {0, 5000, 10000}, {20, 5020, 10020}},
 };
 
-TEST(RefreshRate, Table)
+TEST(RateLimit, Table)
 {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
@@ -52,7 +52,7 @@ TEST(RefreshRate, Table)
         const QDateTime start = clock.now();
         const auto elapsed = [&] { return static_cast<int>(start.msecsTo(clock.now())); };
         std::vector<int> refreshes;
-        RefreshRate rate(runLoop, [&] { refreshes.push_back(elapsed()); });
+        RateLimit rate(runLoop, RateLimit::settleTime, [&] { refreshes.push_back(elapsed()); });
         for (const int request : row.requests) {
             runLoop.advance((request - elapsed()) / 1000.0);
             rate.request();
@@ -62,7 +62,7 @@ TEST(RefreshRate, Table)
     }
 }
 
-TEST_F(RefreshRateTest, AStormCausesTwoRefreshesInAnySecond)
+TEST_F(RateLimitTest, AStormCausesTwoRefreshesInAnySecond)
 {
     for (int millisecond = 0; millisecond < 10'000; ++millisecond) {
         advanceTo(millisecond);
@@ -77,11 +77,11 @@ TEST_F(RefreshRateTest, AStormCausesTwoRefreshesInAnySecond)
     EXPECT_LE(refreshes.back() - last, 501);
 }
 
-TEST_F(RefreshRateTest, ARefreshThatAsksForAnotherGetsItLater)
+TEST_F(RateLimitTest, ARefreshThatAsksForAnotherGetsItLater)
 {
     int count = 0;
-    RefreshRate* asked = nullptr;
-    RefreshRate asking(runLoop, [&] {
+    RateLimit* asked = nullptr;
+    RateLimit asking(runLoop, RateLimit::settleTime, [&] {
         if (++count == 1)
             asked->request();
     });
@@ -95,7 +95,23 @@ TEST_F(RefreshRateTest, ARefreshThatAsksForAnotherGetsItLater)
     EXPECT_EQ(count, 2);
 }
 
-TEST_F(RefreshRateTest, NoTimerIsLeftAtRest)
+TEST_F(RateLimitTest, WithoutSettlingTheFirstRequestIsActedOnAtOnce)
+{
+    int count = 0;
+    RateLimit limit(runLoop, 0, [&] { ++count; });
+    limit.request();
+    EXPECT_EQ(count, 1);
+    for (int times = 0; times < 1000; ++times)
+        limit.request();
+    EXPECT_EQ(count, 1);
+    runLoop.advance(RateLimit::shortestPause);
+    EXPECT_EQ(count, 2);
+    runLoop.advance(RateLimit::shortestPause);
+    limit.request();
+    EXPECT_EQ(count, 3);
+}
+
+TEST_F(RateLimitTest, NoTimerIsLeftAtRest)
 {
     rate.request();
     runLoop.advance(10.0);
