@@ -31,7 +31,7 @@ QIcon trayIcon(const Picture& picture, StatusPictures& pictures)
 /// Facts are disabled rows, which many styles write in a grey that can hardly be read.
 void makeDisabledLegible(QMenu& menu)
 {
-    constexpr double share = 0.62; // contrast of about 5 on white and on black
+    constexpr float share = 0.62F; // contrast of about 5 on white and on black
     QPalette palette = menu.palette();
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
         QColor quiet = palette.color(QPalette::Active, role);

@@ -59,8 +59,8 @@ protected:
     {
         for (int time = 0; time < times; ++time)
             caller.send(callMessage());
-        const QString bus = QStringLiteral("org.freedesktop.DBus");
-        caller.call(QDBusMessage::createMethodCall(bus, QStringLiteral("/"), bus, QStringLiteral("GetId")));
+        const QString name = QStringLiteral("org.freedesktop.DBus");
+        caller.call(QDBusMessage::createMethodCall(name, QStringLiteral("/"), name, QStringLiteral("GetId")));
     }
 
     PrivateBus bus;

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/statusitem/WatcherLink.h"
-#include "tests/platform/linux-statusitem/FakeHost.h"
+#include "tests/platform/linux-statusitem/FakeTrayHost.h"
 #include "tests/platform/linux-statusitem/PrivateBus.h"
 #include "tests/support/FakePlatform.h"
 
@@ -50,7 +50,7 @@ protected:
     FakeClock clock;
     FakeRunLoop runLoop{clock};
     PrivateBus bus;
-    FakeHost host{bus.connect()};
+    FakeTrayHost host{bus.connect()};
     QDBusConnection connection = bus.connect();
     WatcherLink link{connection, QStringLiteral("/StatusNotifierItem"), std::chrono::hours(1), runLoop};
     int found = 0;

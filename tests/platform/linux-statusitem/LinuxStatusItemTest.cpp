@@ -11,7 +11,7 @@
 #include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/statusitem/MenuTypes.h"
 #include "platform/linux/statusitem/NotifierTypes.h"
-#include "tests/platform/linux-statusitem/FakeHost.h"
+#include "tests/platform/linux-statusitem/FakeTrayHost.h"
 #include "tests/platform/linux-statusitem/PrivateBus.h"
 #include "tests/support/QtPrinters.h"
 
@@ -95,7 +95,7 @@ protected:
 
     LinuxRunLoop runLoop;
     PrivateBus bus;
-    FakeHost host{bus.connect()};
+    FakeTrayHost host{bus.connect()};
     StatusMenu menu;
     QString choice;
     QString currentDesktop;
@@ -261,7 +261,7 @@ TEST_F(LinuxStatusItemTest, registersAgainWhenTheWatcherComesBack)
 TEST_F(LinuxStatusItemTest, registersAgainWhenTheWatcherIsReplaced)
 {
     makeRegisteredItem();
-    FakeHost other(bus.connect());
+    FakeTrayHost other(bus.connect());
     // The name passes on at once: the bus tells of one change, from owner to owner.
     other.queueUp();
     host.disappear();

@@ -1,4 +1,4 @@
-#include "tests/platform/linux-statusitem/FakeHost.h"
+#include "tests/platform/linux-statusitem/FakeTrayHost.h"
 
 #include <array>
 
@@ -23,7 +23,7 @@ QString watcherName()
 
 } // namespace
 
-FakeHost::FakeHost(QDBusConnection bus)
+FakeTrayHost::FakeTrayHost(QDBusConnection bus)
     : m_bus(std::move(bus))
 {
     m_bus.registerObject(u("/StatusNotifierWatcher"), this,
@@ -46,29 +46,29 @@ FakeHost::FakeHost(QDBusConnection bus)
         m_bus.connect({}, {}, u(row.interface), u(row.signal), this, SLOT(hear(QDBusMessage)));
 }
 
-FakeHost::~FakeHost()
+FakeTrayHost::~FakeTrayHost()
 {
     QDBusConnection::disconnectFromBus(m_bus.name());
 }
 
-bool FakeHost::appear()
+bool FakeTrayHost::appear()
 {
     return m_bus.registerService(watcherName());
 }
 
-void FakeHost::disappear()
+void FakeTrayHost::disappear()
 {
     m_items.clear();
     m_bus.unregisterService(watcherName());
 }
 
-void FakeHost::queueUp()
+void FakeTrayHost::queueUp()
 {
     m_bus.interface()->registerService(watcherName(), QDBusConnectionInterface::QueueService);
 }
 
-QDBusMessage FakeHost::call(const char* path, const char* interface, const char* method,
-                            const QVariantList& arguments)
+QDBusMessage FakeTrayHost::call(const char* path, const char* interface, const char* method,
+                                const QVariantList& arguments)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(m_itemConnection, u(path), u(interface), u(method));
     message.setArguments(arguments);
@@ -81,24 +81,24 @@ QDBusMessage FakeHost::call(const char* path, const char* interface, const char*
     return pending.reply();
 }
 
-QVariant FakeHost::property(const char* path, const char* interface, const char* name)
+QVariant FakeTrayHost::property(const char* path, const char* interface, const char* name)
 {
     const QDBusMessage answer = call(path, "org.freedesktop.DBus.Properties", "Get", {u(interface), u(name)});
     return answer.arguments().value(0).value<QDBusVariant>().variant();
 }
 
-QVariant FakeHost::itemProperty(const char* name)
+QVariant FakeTrayHost::itemProperty(const char* name)
 {
     return property("/StatusNotifierItem", "org.kde.StatusNotifierItem", name);
 }
 
-QStringList FakeHost::takeSignals()
+QStringList FakeTrayHost::takeSignals()
 {
     m_messages.clear();
     return std::exchange(m_signals, {});
 }
 
-void FakeHost::RegisterStatusNotifierItem(const QString& path)
+void FakeTrayHost::RegisterStatusNotifierItem(const QString& path)
 {
     ++m_registrations;
     m_itemConnection = message().service();
@@ -106,7 +106,7 @@ void FakeHost::RegisterStatusNotifierItem(const QString& path)
         m_items.append(m_itemConnection + path);
 }
 
-void FakeHost::hear(const QDBusMessage& message)
+void FakeTrayHost::hear(const QDBusMessage& message)
 {
     m_signals.append(message.member());
     m_messages.append(message);

@@ -9,15 +9,15 @@
 namespace quindle {
 
 /// A watcher and host of status notifier items: takes registrations, calls items, logs their signals.
-class FakeHost final : public QObject, protected QDBusContext
+class FakeTrayHost final : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
     Q_PROPERTY(QStringList RegisteredStatusNotifierItems READ items)
 
 public:
-    explicit FakeHost(QDBusConnection bus);
-    ~FakeHost() override;
+    explicit FakeTrayHost(QDBusConnection bus);
+    ~FakeTrayHost() override;
 
     /// Takes the watcher's name, or leaves it.
     bool appear();
