@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxPlatform.h"
 
+#include <QAbstractEventDispatcher>
+
 #include "platform/NotificationCenter.h"
 #include "platform/linux/LinuxApplication.h"
 #include "platform/linux/LinuxBundle.h"
@@ -13,11 +15,10 @@
 #include "platform/linux/LinuxUserDirectories.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/network/LinuxUrlSession.h"
-#include "platform/linux/power/BatteryTimes.h"
 #include "platform/linux/power/LinuxPowerEvents.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
-#include "platform/linux/power/SupplyDirectory.h"
+#include "platform/linux/power/PowerSampler.h"
 
 namespace quindle {
 
@@ -40,18 +41,22 @@ LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 struct LinuxPlatform::Services
 {
     Services(const QString& systemRoot, SettingsAccess settingsAccess)
-        : supplies((rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
-        , registry(supplies, times, firmwareFolders(systemRoot))
-        , powerSources(supplies, times)
+        : sampler((rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
+        , registry(sampler, firmwareFolders(systemRoot))
+        , powerSources(sampler)
         , userDefaults(settingsFolder(), settingsAccess)
         , urlSession(networkModule(bundle))
         , loginItems(loginItemPlaces(bundle.path()), settingsAccess)
-        , powerEvents([this] { supplies.rescanNow(); })
+        , powerEvents([this] { sampler.lookAgain(); })
     {
+        // A sample is of one turn of the main loop.
+        using Loop = QAbstractEventDispatcher;
+        const auto expire = [this] { sampler.expire(); };
+        QObject::connect(Loop::instance(), &Loop::aboutToBlock, &turns, expire);
+        QObject::connect(Loop::instance(), &Loop::awake, &turns, expire);
     }
 
-    SupplyDirectory supplies;
-    BatteryTimes times;
+    PowerSampler sampler;
     LinuxRegistry registry;
     LinuxPowerSources powerSources;
     LinuxUserDefaultsDatabases userDefaults;
@@ -69,6 +74,7 @@ struct LinuxPlatform::Services
     LinuxUserDirectories userDirectories;
     LinuxLoginItems loginItems;
     LinuxPowerEvents powerEvents;
+    QObject turns;
 };
 
 LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)
