@@ -109,11 +109,12 @@ std::optional<ssize_t> SlowFiles::insteadOf(const std::string& path, char* buffe
     if (found == m_files.end())
         return isGivenUp(path) ? std::optional<ssize_t>(-EAGAIN) : std::nullopt;
     const std::shared_ptr<SlowFile> file = found->second;
+    const ssize_t result = file->latest(buffer, size); // before the next read begins
     if (file->hasRecovered() && m_timesFoundSlow[path] <= mostRecoveries)
         m_files.erase(found);
     else
         SlowFile::request(file);
-    return file->latest(buffer, size);
+    return result;
 }
 
 bool SlowFiles::areTooMany() const
