@@ -139,7 +139,6 @@ Q_SIGNALS:
 private:
     void send(const std::optional<DailyUpload>& upload);
     void setVersionItem();
-    void chooseView();
     void addBatteryView();
     void startTimer();
     void observePowerEvents();

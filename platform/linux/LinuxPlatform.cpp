@@ -1,7 +1,5 @@
 #include "platform/linux/LinuxPlatform.h"
 
-#include <QAbstractEventDispatcher>
-
 #include "common/Paths.h"
 #include "platform/NotificationCenter.h"
 #include "platform/linux/LinuxApplication.h"
@@ -16,10 +14,11 @@
 #include "platform/linux/LinuxUserDirectories.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/network/LinuxUrlSession.h"
+#include "platform/linux/power/BatteryTimes.h"
 #include "platform/linux/power/LinuxPowerEvents.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
-#include "platform/linux/power/PowerSampler.h"
+#include "platform/linux/power/SupplyDirectory.h"
 
 namespace quindle {
 
@@ -42,23 +41,19 @@ LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 struct LinuxPlatform::Services
 {
     Services(const QString& systemRoot, SettingsAccess settingsAccess)
-        : sampler(pathBytes(rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
-        , registry(sampler, firmwareFolders(systemRoot))
-        , powerSources(sampler)
+        : supplies(pathBytes(rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
+        , registry(supplies, times, firmwareFolders(systemRoot))
+        , powerSources(supplies, times)
         , userDefaults(settingsFolder(), settingsAccess)
         , workspaceNotifications(runLoop)
         , urlSession(networkModule(bundle))
         , loginItems(loginItemPlaces(bundle.path()), settingsAccess)
-        , powerEvents([this] { sampler.lookAgain(); })
+        , powerEvents([this] { supplies.rescanNow(); })
     {
-        // A sample is of one turn of the main loop.
-        using Loop = QAbstractEventDispatcher;
-        const auto expire = [this] { sampler.expire(); };
-        QObject::connect(Loop::instance(), &Loop::aboutToBlock, &turns, expire);
-        QObject::connect(Loop::instance(), &Loop::awake, &turns, expire);
     }
 
-    PowerSampler sampler;
+    SupplyDirectory supplies;
+    BatteryTimes times;
     LinuxRegistry registry;
     LinuxPowerSources powerSources;
     LinuxUserDefaultsDatabases userDefaults;
@@ -76,7 +71,6 @@ struct LinuxPlatform::Services
     LinuxUserDirectories userDirectories;
     LinuxLoginItems loginItems;
     LinuxPowerEvents powerEvents;
-    QObject turns;
 };
 
 LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)

@@ -1,34 +1,36 @@
 #pragma once
 
-#include <memory>
+#include <vector>
 
 #include "platform/PowerSources.h"
 
 namespace quindle {
 
-class PowerSampler;
-struct PowerSample;
+class BatteryTimes;
+class SupplyDirectory;
 
 /// The power sources of a Linux computer: the system's batteries, then its uninterruptible supplies. There is
 /// always an answer; without supplies it is an empty list.
 class LinuxPowerSources final : public PowerSources
 {
 public:
-    /// `sampler` is shared with the registry and lives longer than this object.
-    explicit LinuxPowerSources(PowerSampler& sampler)
-        : m_sampler(sampler)
+    /// `supplies` and `times` are shared with the registry and live longer than this object.
+    LinuxPowerSources(SupplyDirectory& supplies, BatteryTimes& times)
+        : m_supplies(supplies)
+        , m_times(times)
     {
     }
 
     std::optional<QVariantMap> externalAdapterDetails() override;
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
-    std::optional<int> chargeLimit() override;
+    std::optional<int> chargeLimit() override { return std::nullopt; }
     QList<PeripheralBattery> peripherals() override { return {}; }
 
 private:
-    PowerSampler& m_sampler;
-    std::shared_ptr<const PowerSample> m_listed; ///< what the last list was made from
+    SupplyDirectory& m_supplies;
+    BatteryTimes& m_times;
+    std::vector<QVariantMap> m_descriptions; ///< of the last list, all of one moment
 };
 
 } // namespace quindle

@@ -1,7 +1,8 @@
 #include "platform/linux/power/LinuxRegistry.h"
 
 #include "platform/linux/SmallFile.h"
-#include "platform/linux/power/PowerSampler.h"
+#include "platform/linux/power/PowerSnapshot.h"
+#include "platform/linux/power/RegistryValues.h"
 
 namespace quindle {
 
@@ -9,7 +10,6 @@ namespace {
 
 constexpr IOStatus badArgument = static_cast<IOStatus>(0xe00002c2);
 
-const QLatin1String batteryName("AppleSmartBattery");
 const QString modelKey = QStringLiteral("model");
 const QString serialKey = QStringLiteral("IOPlatformSerialNumber");
 
@@ -32,23 +32,20 @@ std::optional<QString> firmwareText(const QString& dmiFolder, const char* dmiNam
 
 } // namespace
 
-LinuxRegistry::LinuxRegistry(PowerSampler& sampler, Folders folders)
-    : m_sampler(sampler)
+LinuxRegistry::LinuxRegistry(SupplyDirectory& supplies, BatteryTimes& times, Folders folders)
+    : m_supplies(supplies)
+    , m_times(times)
     , m_folders(std::move(folders))
 {
 }
 
 RegistryObject LinuxRegistry::serviceMatchingName(const QString& name)
 {
-    if (name != batteryName)
+    if (name != QLatin1String("AppleSmartBattery"))
         return 0;
-    m_sampler.lookAgain();
-    return m_sampler.sample()->batteryEntry.isEmpty() ? 0 : open(Entry::Battery);
-}
-
-std::optional<bool> LinuxRegistry::isMatched(const QString& name)
-{
-    return name == batteryName && !m_sampler.sample()->batteryEntry.isEmpty();
+    m_supplies.rescanNow();
+    const PowerSnapshot snapshot(m_supplies);
+    return snapshot.power().batteries.empty() ? 0 : open(Entry::Battery);
 }
 
 RegistryObject LinuxRegistry::serviceMatchingClass(const QString& className)
@@ -63,7 +60,8 @@ QVariant LinuxRegistry::property(RegistryObject object, const QString& key)
         return {};
     if (entry->second == Entry::Computer)
         return computerProperty(key);
-    return batteryEntry().value(key);
+    const PowerSnapshot snapshot(m_supplies);
+    return registryValue(key, snapshot.power(), m_times);
 }
 
 QVariantMap LinuxRegistry::properties(RegistryObject object)
@@ -73,7 +71,8 @@ QVariantMap LinuxRegistry::properties(RegistryObject object)
         return {};
     if (entry->second == Entry::Computer)
         return computerProperties();
-    return batteryEntry();
+    const PowerSnapshot snapshot(m_supplies);
+    return registryValues(snapshot.power(), m_times);
 }
 
 IOStatus LinuxRegistry::release(RegistryObject object)
@@ -88,14 +87,6 @@ RegistryObject LinuxRegistry::open(Entry entry)
     while (m_lastHandle == 0 || m_open.contains(m_lastHandle));
     m_open.emplace(m_lastHandle, entry);
     return m_lastHandle;
-}
-
-const QVariantMap& LinuxRegistry::batteryEntry()
-{
-    const std::shared_ptr<const PowerSample> sample = m_sampler.sample();
-    if (!sample->batteryEntry.isEmpty())
-        m_lastBatteryEntry = sample->batteryEntry;
-    return m_lastBatteryEntry;
 }
 
 QVariant LinuxRegistry::computerProperty(const QString& key) const
