@@ -6,12 +6,16 @@
 #include <QDBusPendingReply>
 #include <QTimer>
 
+#include "platform/linux/ActivationToken.h"
+
 namespace quindle {
 
 namespace {
 
 const QString instanceName = QStringLiteral("com.fernhollow.Quindle-Helper");
 const QString instancePath = QStringLiteral("/com/fernhollow/Quindle_Helper");
+
+const QString tokenKey = QStringLiteral("activation-token");
 
 constexpr uint doNotQueue = 4;
 constexpr uint nameIsOthers = 3;
@@ -38,7 +42,10 @@ QDBusMessage activateOwner(const QDBusConnection& connection)
                                                        QStringLiteral("org.freedesktop.Application"),
                                                        QStringLiteral("Activate"));
     call.setAutoStartService(false);
-    call << QVariantMap();
+    QVariantMap platformData;
+    if (const QByteArray token = activationTokenOfProcess(); !token.isEmpty())
+        platformData.insert(tokenKey, QString::fromUtf8(token));
+    call << platformData;
     return connection.call(call, QDBus::Block, answerPatience);
 }
 
@@ -60,16 +67,19 @@ QString silentOwner(const QDBusConnection& connection)
 
 } // namespace
 
-ApplicationAdaptor::ApplicationAdaptor(QObject* object, std::function<void()> activated)
+ApplicationAdaptor::ApplicationAdaptor(QObject* object, Activated activated)
     : QDBusAbstractAdaptor(object)
     , m_activated(std::move(activated))
 {
 }
 
-void ApplicationAdaptor::Activate(const QVariantMap& /*platformData*/)
+void ApplicationAdaptor::Activate(const QVariantMap& platformData)
 {
     // Afterwards: the other start waits for the answer to its call.
-    QMetaObject::invokeMethod(this, m_activated, Qt::QueuedConnection);
+    const auto activate = [this, token = platformData.value(tokenKey).toString().toUtf8()] {
+        m_activated(token);
+    };
+    QMetaObject::invokeMethod(this, activate, Qt::QueuedConnection);
 }
 
 InstanceBusName::InstanceBusName(QObject* parent)
@@ -79,10 +89,14 @@ InstanceBusName::InstanceBusName(QObject* parent)
 {
     m_link.followShared();
     m_guard.watch(*this);
-    new ApplicationAdaptor(this, [this] {
-        if (m_showRequested)
-            m_showRequested();
-    });
+    new ApplicationAdaptor(this, [this](const QByteArray& token) { show(token); });
+}
+
+void InstanceBusName::show(const QByteArray& activationToken) const
+{
+    const ActivationToken used(activationToken);
+    if (m_showRequested)
+        m_showRequested();
 }
 
 std::optional<StartAnswer> InstanceBusName::start()

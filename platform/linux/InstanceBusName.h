@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 
+#include <QByteArray>
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
 #include <QObject>
@@ -22,13 +23,16 @@ class ApplicationAdaptor : public QDBusAbstractAdaptor
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    ApplicationAdaptor(QObject* object, std::function<void()> activated);
+    /// `activated` gets the token of the start that asks, empty where it has none.
+    using Activated = std::function<void(const QByteArray& token)>;
+
+    ApplicationAdaptor(QObject* object, Activated activated);
 
 public Q_SLOTS:
     void Activate(const QVariantMap& platformData);
 
 private:
-    std::function<void()> m_activated;
+    Activated m_activated;
 };
 
 /// Sees to it that one process runs for a session bus: the bus gives a name to one of its connections. The
@@ -45,12 +49,14 @@ public:
     /// Nothing where there is no bus, or one that gives no names: then the name is taken once there is.
     std::optional<StartAnswer> start();
 
+    /// Windows that `showRequested` activates may come to the front in the name of the start that asks.
     void setShowRequested(std::function<void()> showRequested) { m_showRequested = std::move(showRequested); }
 
     /// Says what happens when another one has the name on a bus that came later.
     void setTakenByAnother(std::function<void()> taken) { m_takenByAnother = std::move(taken); }
 
 private:
+    void show(const QByteArray& activationToken) const;
     void offer(QDBusConnection& connection);
     void answerCalls(QDBusConnection& connection);
     void pauseAnswers();

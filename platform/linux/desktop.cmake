@@ -8,6 +8,7 @@ target_sources(quindle_platform_linux PRIVATE
     BusLink.h
     DesktopEntry.cpp
     DetachedProcess.cpp
+    ActivationToken.cpp
     DisplayKey.cpp
     EndOfProcess.cpp
     FileLock.cpp

@@ -3,6 +3,7 @@
 import fcntl
 import os
 import signal
+import subprocess
 import time
 import unittest
 
@@ -120,6 +121,16 @@ class OnABus(StartCase):
         self.addCleanup(bus.close)
         application = bus.get_object(NAME, "/com/fernhollow/Quindle_Helper", introspect=False)
         application.Activate({}, dbus_interface="org.freedesktop.Application", signature="a{sv}", timeout=10)
+
+    def test_the_first_gets_the_activation_token_of_the_second(self):
+        self.first()
+        monitor = subprocess.Popen(["dbus-monitor", "--address", self.session.address,
+                                    "interface='org.freedesktop.Application'"], stdout=subprocess.PIPE, text=True)
+        self.addCleanup(monitor.kill)
+        self.assertTrue(monitor.stdout.readline())  # it listens
+        self.assert_second_ends(XDG_ACTIVATION_TOKEN="token-of-the-second")
+        monitor.terminate()
+        self.assertRegex(monitor.communicate()[0], r'"activation-token"\s+variant\s+string "token-of-the-second"')
 
     def test_a_bus_that_comes_late_and_a_second_start_leave_one(self):
         self.session.kill()

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+
+#include <QByteArray>
+
+namespace quindle {
+
+/// What a Wayland compositor gave a program that the user started, so that a window may come to the front
+/// for it; empty where there is none.
+QByteArray activationTokenOfProcess();
+
+/// As long as it lives, windows that are activated use this token. Qt takes it from the environment, in which
+/// it is put without leaving memory behind. An empty or overlong token is not used. Main thread, one at a
+/// time.
+class ActivationToken
+{
+public:
+    explicit ActivationToken(const QByteArray& token);
+    ~ActivationToken();
+    ActivationToken(const ActivationToken&) = delete;
+    ActivationToken& operator=(const ActivationToken&) = delete;
+
+private:
+    std::array<char, 512> m_entry{};
+};
+
+} // namespace quindle
