@@ -8,10 +8,10 @@
 #include <QLoggingCategory>
 
 #include "common/Paths.h"
-#include "plist/PropertyList.h"
 #include "platform/linux/FileLock.h"
 #include "platform/linux/FileReplacement.h"
 #include "platform/linux/UserFolders.h"
+#include "plist/PropertyList.h"
 
 namespace quindle {
 

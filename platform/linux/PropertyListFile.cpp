@@ -4,8 +4,8 @@
 #include <cmath>
 #include <fcntl.h>
 
-#include "plist/PropertyList.h"
 #include "platform/linux/FileDescriptor.h"
+#include "plist/PropertyList.h"
 
 namespace quindle {
 

@@ -32,6 +32,18 @@ def wait_for(condition, seconds=10.0, pause=0.05):
         time.sleep(pause)
 
 
+def start_message_bus(start, *options):
+    """Starts a message bus by `start(command..., pass_fds=...)`, as subprocess.Popen does; the process and its address."""
+    read_end, write_end = os.pipe()
+    daemon = start("dbus-daemon", *(options or ("--session",)), "--nofork", f"--print-address={write_end}",
+                   pass_fds=(write_end,))
+    os.close(write_end)
+    with os.fdopen(read_end) as stream:
+        address = stream.readline().strip()
+    assert address, "the bus did not start"
+    return daemon, address
+
+
 def may_unshare():
     return subprocess.run([*UNSHARE, "true"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                           check=False).returncode == 0
@@ -154,16 +166,12 @@ class Desktop:
     # ---- parts of the desktop
 
     def _start_bus(self):
-        read_end, write_end = os.pipe()
-        config = ["--session"]
+        options = []
         if self.compositor_prefix:
             path = self.root / "bus.conf"
             path.write_text(BUS_OF_TWO_ACCOUNTS.format(folder=self.root))
-            config = [f"--config-file={path}"]
-        self.start("dbus-daemon", *config, "--nofork", f"--print-address={write_end}", pass_fds=(write_end,))
-        os.close(write_end)
-        with os.fdopen(read_end) as stream:
-            self.env["DBUS_SESSION_BUS_ADDRESS"] = stream.readline().strip()
+            options = [f"--config-file={path}"]
+        _, self.env["DBUS_SESSION_BUS_ADDRESS"] = start_message_bus(self.start, *options)
 
     def _start_x(self):
         read_end, write_end = os.pipe()

@@ -13,7 +13,7 @@ import dbus.mainloop.glib
 import dbus.service
 from gi.repository import GLib
 
-from helper_case import HELPER, SUITE, HelperCase, wait_for
+from helper_case import HELPER, SUITE, HelperCase, start_message_bus, wait_for
 
 WATCHER = "org.kde.StatusNotifierWatcher"
 SETTINGS_CHANGED = "com.fernhollow.Quindle.Notifications.SettingsChangedNotification"
@@ -32,12 +32,7 @@ class Bus:
         self.daemon = None
 
     def start(self):
-        read_end, write_end = os.pipe()
-        self.daemon = self.desktop.start("dbus-daemon", "--session", "--nofork", f"--address={self.address}",
-                                         f"--print-address={write_end}", pass_fds=(write_end,))
-        os.close(write_end)
-        with os.fdopen(read_end) as stream:
-            assert stream.readline(), "the bus did not start"
+        self.daemon, _ = start_message_bus(self.desktop.start, "--session", f"--address={self.address}")
 
     def kill(self):
         if self.daemon and self.daemon.poll() is None:

@@ -8,7 +8,7 @@ from pathlib import Path
 
 SOURCE = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(SOURCE / "scripts" / "headless"))
-from desktop import Desktop, wait_for  # noqa: E402,F401
+from desktop import Desktop, start_message_bus, wait_for  # noqa: E402,F401
 
 HELPER = os.environ.get("QUINDLE_HELPER", "")
 SUITE = "group.fernhollow.Quindle"

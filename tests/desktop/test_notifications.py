@@ -13,7 +13,7 @@ from pathlib import Path
 
 import dbus
 
-from helper_case import HELPER, SUITE, HelperCase, wait_for
+from helper_case import HELPER, SUITE, HelperCase, start_message_bus, wait_for
 
 ITEM = "/StatusNotifierItem"
 ITEM_INTERFACE = "org.kde.StatusNotifierItem"
@@ -31,20 +31,12 @@ class Notifications(HelperCase):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        cls.system_bus = cls.start_bus(cls)
+        _, cls.system_bus = start_message_bus(cls.desktop.start)
         cls.desktop.env["DBUS_SYSTEM_BUS_ADDRESS"] = cls.system_bus
         cls.bus = dbus.bus.BusConnection(cls.desktop.env["DBUS_SESSION_BUS_ADDRESS"])
         cls.sysfs = cls.desktop.root / "sys"
         cls.settings = Path(cls.desktop.env["XDG_CONFIG_HOME"]) / "quindle"
         cls.settings.mkdir()
-
-    def start_bus(self):
-        read_end, write_end = os.pipe()
-        self.desktop.start("dbus-daemon", "--session", "--nofork", f"--print-address={write_end}",
-                           pass_fds=(write_end,))
-        os.close(write_end)
-        with os.fdopen(read_end) as stream:
-            return stream.readline().strip()
 
     def setUp(self):
         for file in self.settings.iterdir():

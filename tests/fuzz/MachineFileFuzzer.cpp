@@ -1,6 +1,6 @@
-#include "plist/PropertyList.h"
 #include "platform/recorded/MachineFile.h"
 #include "platform/recorded/RecordedComputer.h"
+#include "plist/PropertyList.h"
 #include "tests/fuzz/FuzzInput.h"
 
 using namespace quindle;

@@ -5,13 +5,10 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDeadlineTimer>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "platform/linux/LinuxNotifications.h"
+#include "tests/support/MessageBus.h"
 
 using namespace quindle;
 
@@ -21,38 +18,10 @@ constexpr int soon = 20; // milliseconds until a lost bus is tried again
 const QString settingsChanged = QStringLiteral("SettingsChangedNotification");
 const QString marker = QStringLiteral("Marker");
 
-template <typename Condition>
-bool comesTrue(Condition condition)
-{
-    const QDeadlineTimer deadline(10'000);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-    return condition();
-}
-
 class OwnAnnouncementTest : public testing::Test
 {
 protected:
-    OwnAnnouncementTest() { qputenv("DBUS_SESSION_BUS_ADDRESS", address().toUtf8()); }
-    ~OwnAnnouncementTest() override { stopBus(); }
-
-    QString socket() const { return m_folder.filePath(QStringLiteral("bus")); }
-    QString address() const { return QStringLiteral("unix:path=") + socket(); }
-
-    void startBus()
-    {
-        m_daemon.start(QStringLiteral("dbus-daemon"),
-                       {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                        QStringLiteral("--address=") + address(), QStringLiteral("--print-address=1")});
-        ASSERT_TRUE(m_daemon.waitForReadyRead(10'000));
-    }
-
-    void stopBus()
-    {
-        m_daemon.kill();
-        m_daemon.waitForFinished();
-        QFile::remove(socket());
-    }
+    OwnAnnouncementTest() { qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8()); }
 
     void observe(LinuxDistributedNotificationCenter& center)
     {
@@ -64,13 +33,13 @@ protected:
     void sendFromElsewhere(const QString& notification) const
     {
         const QString name = QStringLiteral("elsewhere");
-        QDBusConnection bus = QDBusConnection::connectToBus(address(), name);
-        bus.send(QDBusMessage::createSignal(QStringLiteral("/com/fernhollow/Quindle"),
-                                            QStringLiteral("com.fernhollow.Quindle.Notifications"),
-                                            notification));
-        if (bus.isConnected())
-            bus.interface()->isServiceRegistered(name); // answered when the signal is on its way
-        bus = QDBusConnection(QString());
+        QDBusConnection elsewhere = QDBusConnection::connectToBus(bus.address(), name);
+        elsewhere.send(QDBusMessage::createSignal(QStringLiteral("/com/fernhollow/Quindle"),
+                                                  QStringLiteral("com.fernhollow.Quindle.Notifications"),
+                                                  notification));
+        if (elsewhere.isConnected())
+            elsewhere.interface()->isServiceRegistered(name); // answered when the signal is on its way
+        elsewhere = QDBusConnection(QString());
         QDBusConnection::disconnectFromBus(name);
     }
 
@@ -85,17 +54,16 @@ protected:
         });
     }
 
+    MessageBus bus;
     int m_heard = 0;
 
 private:
-    QTemporaryDir m_folder;
-    QProcess m_daemon;
     int m_markers = 0;
 };
 
 TEST_F(OwnAnnouncementTest, IsHeardAtOnceAndOnceWithABus)
 {
-    startBus();
+    bus.start();
     LinuxDistributedNotificationCenter center(soon);
     observe(center);
     center.post(settingsChanged);
@@ -111,7 +79,7 @@ TEST_F(OwnAnnouncementTest, IsHeardAtOnceAndOnceWithoutABus)
     observe(center);
     center.post(settingsChanged);
     EXPECT_EQ(m_heard, 1);
-    startBus();
+    bus.start();
     EXPECT_TRUE(arrives());
     EXPECT_EQ(m_heard, 1);
     center.post(settingsChanged);
@@ -121,22 +89,22 @@ TEST_F(OwnAnnouncementTest, IsHeardAtOnceAndOnceWithoutABus)
 
 TEST_F(OwnAnnouncementTest, IsHeardAtOnceAndOnceWhileTheBusIsLost)
 {
-    startBus();
+    bus.start();
     LinuxDistributedNotificationCenter center(soon);
     observe(center);
     EXPECT_TRUE(arrives());
     center.post(settingsChanged);
-    stopBus(); // perhaps with the signal still on its way
+    bus.stop(); // perhaps with the signal still on its way
     center.post(settingsChanged);
     EXPECT_EQ(m_heard, 2);
-    startBus();
+    bus.start();
     EXPECT_TRUE(arrives());
     EXPECT_EQ(m_heard, 2);
 }
 
 TEST_F(OwnAnnouncementTest, AnotherProcesssIsHeardOncePerRegistration)
 {
-    startBus();
+    bus.start();
     LinuxDistributedNotificationCenter center(soon);
     observe(center);
     center.addObserver(settingsChanged, [this] { ++m_heard; });

@@ -5,8 +5,8 @@ import plistlib
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
-import time
 import unittest
 import urllib.parse
 from pathlib import Path
@@ -15,21 +15,13 @@ import dbus
 import dbus.bus
 import dbus.lowlevel
 
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts" / "headless"))
+from desktop import ITEM, start_message_bus, wait_for  # noqa: E402
+
 HELPER = os.environ["QUINDLE_HELPER"]
 SUITE = "group.fernhollow.Quindle"
-ITEM = "/StatusNotifierItem"
 BATTERY = {"type": "Battery", "present": "1", "status": "Discharging", "charge_now": "3000000",
            "charge_full": "6000000", "charge_full_design": "6500000", "voltage_now": "12000000"}
-
-
-def wait_for(condition, seconds=10.0, pause=0.05):
-    """The first true value of condition() within so many seconds, else its last value."""
-    end = time.monotonic() + seconds
-    while True:
-        value = condition()
-        if value or time.monotonic() > end:
-            return value
-        time.sleep(pause)
 
 
 class Bus:
@@ -38,13 +30,11 @@ class Bus:
     def __init__(self, socket):
         self.socket = Path(socket)
         self.address = "unix:path=" + urllib.parse.quote(os.fsencode(socket), safe="/-_.")
-        read_end, write_end = os.pipe()
-        self.daemon = subprocess.Popen(["dbus-daemon", "--session", "--nofork", f"--address={self.address}",
-                                        f"--print-address={write_end}"], pass_fds=(write_end,),
-                                       stderr=subprocess.DEVNULL)
-        os.close(write_end)
-        with os.fdopen(read_end) as stream:
-            assert stream.readline(), "the bus did not start"
+        self.daemon, _ = start_message_bus(self.start_process, "--session", f"--address={self.address}")
+
+    @staticmethod
+    def start_process(*command, **options):
+        return subprocess.Popen(command, stderr=subprocess.DEVNULL, **options)
 
     def kill(self):
         if self.daemon.poll() is None:

@@ -5,16 +5,14 @@
 #include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QTextStream>
 #include <gtest/gtest.h>
 
 #include "platform/linux/LinuxNotifications.h"
 #include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/NameOwner.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/MessageBus.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -38,48 +36,16 @@ void runFor(int milliseconds)
     runUntil([] { return false; }, milliseconds);
 }
 
-// A message bus of the test's own, at a fixed address so that it can go and come back.
-class PrivateBus
+// A bus that runs, and signals from another process on it.
+class RunningBus : public MessageBus
 {
 public:
-    explicit PrivateBus(const QString& type)
-        : m_type(type)
+    explicit RunningBus(const QString& type)
+        : MessageBus(type)
     {
         start();
     }
-    ~PrivateBus() { stop(); }
 
-    void start()
-    {
-        QFile configuration(m_folder.filePath(QStringLiteral("bus.conf")));
-        ASSERT_TRUE(configuration.open(QIODevice::WriteOnly));
-        QTextStream(&configuration) << QStringLiteral(
-                                           "<busconfig><type>%1</type><listen>%2</listen>"
-                                           "<policy context=\"default\"><allow send_destination=\"*\"/>"
-                                           "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy>"
-                                           "</busconfig>")
-                                           .arg(m_type, address());
-        configuration.close();
-        m_daemon.start(QStringLiteral("dbus-daemon"),
-                       {QStringLiteral("--config-file=") + configuration.fileName(),
-                        QStringLiteral("--nofork"), QStringLiteral("--print-address")});
-        ASSERT_TRUE(m_daemon.waitForReadyRead(10'000));
-        m_daemon.readAll();
-    }
-
-    void stop()
-    {
-        m_daemon.kill();
-        m_daemon.waitForFinished();
-        QFile::remove(m_folder.filePath(QStringLiteral("bus")));
-    }
-
-    QString address() const
-    {
-        return QStringLiteral("unix:path=") + m_folder.filePath(QStringLiteral("bus"));
-    }
-
-    // Emits a signal from another process.
     void emitSignal(const QString& path, const QString& member, const QStringList& arguments = {}) const
     {
         QStringList all{QStringLiteral("--bus=") + address(), QStringLiteral("--type=signal"), path, member};
@@ -91,11 +57,6 @@ public:
         emitSignal(QStringLiteral("/com/fernhollow/Quindle"),
                    QStringLiteral("com.fernhollow.Quindle.Notifications.") + name);
     }
-
-private:
-    QString m_type;
-    QTemporaryDir m_folder;
-    QProcess m_daemon;
 };
 
 // The login manager, on a connection of its own.
@@ -172,8 +133,8 @@ private:
 class Buses
 {
 public:
-    PrivateBus session{QStringLiteral("session")};
-    PrivateBus system{QStringLiteral("system")};
+    RunningBus session{QStringLiteral("session")};
+    RunningBus system{QStringLiteral("system")};
 
     Buses()
     {

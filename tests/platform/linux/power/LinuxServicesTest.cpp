@@ -11,13 +11,13 @@
 #include <QTemporaryDir>
 
 #include "common/Paths.h"
-#include "plist/PropertyList.h"
 #include "platform/linux/CoreDumps.h"
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxHost.h"
 #include "platform/linux/LinuxSystemFiles.h"
 #include "platform/linux/LinuxWorkspace.h"
+#include "plist/PropertyList.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
