@@ -5,8 +5,8 @@
 
 #include <QObject>
 
-#include "preferences/QDPreferencesWindowControllerProtocol.h"
-#include "preferences/WindowControllers.h"
+#include "preferences/window/QDPreferencesWindowControllerProtocol.h"
+#include "preferences/window/WindowControllers.h"
 
 namespace quindle {
 

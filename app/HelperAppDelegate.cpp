@@ -1,6 +1,5 @@
 #include "app/HelperAppDelegate.h"
 
-#include "app/ApplicationPreferences.h"
 #include "app/RequiredOutlet.h"
 #include "battery/QDBattery.h"
 #include "common/FatalError.h"
@@ -16,6 +15,7 @@
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
 #include "platform/Workspace.h"
+#include "settings/ApplicationPreferences.h"
 
 namespace quindle {
 

@@ -14,7 +14,7 @@
 #include "menubar/MainInterface.h"
 #include "menubar/NamedImages.h"
 #include "platform/RateLimit.h"
-#include "preferences/StatusBarTitle.h"
+#include "preferences/panes/StatusBarTitle.h"
 
 namespace quindle {
 

@@ -3,7 +3,6 @@
 #include <QJsonDocument>
 #include <QLoggingCategory>
 
-#include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "history/DailyGate.h"
 #include "history/DailyUpload.h"
@@ -15,6 +14,7 @@
 #include "platform/Platform.h"
 #include "platform/UrlSession.h"
 #include "platform/UserDirectories.h"
+#include "settings/ApplicationPreferences.h"
 
 namespace quindle {
 

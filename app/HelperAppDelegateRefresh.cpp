@@ -1,6 +1,5 @@
 // The refresh of the status item: font, icon, title, texts around it, bar colours.
 
-#include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "app/RequiredOutlet.h"
 #include "battery/QDBattery.h"
@@ -13,6 +12,7 @@
 #include "platform/Platform.h"
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
+#include "settings/ApplicationPreferences.h"
 
 namespace quindle {
 

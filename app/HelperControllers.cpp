@@ -1,16 +1,16 @@
 #include "app/HelperControllers.h"
 
 #include "app/HelperAppDelegate.h"
-#include "menubar/BatteryPopup.h"
 #include "menubar/MainInterface.h"
 #include "platform/Bundle.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
-#include "preferences/GeneralPreferencesController.h"
-#include "preferences/HelperPreferences.h"
-#include "preferences/HelperPreferencesWindow.h"
-#include "preferences/MenuBarPreferencesController.h"
-#include "preferences/QDPreferencesWindowController.h"
+#include "preferences/panes/GeneralPreferencesController.h"
+#include "preferences/panes/HelperPreferences.h"
+#include "preferences/panes/HelperPreferencesWindow.h"
+#include "preferences/panes/MenuBarPreferencesController.h"
+#include "preferences/window/QDPreferencesWindowController.h"
+#include "view/BatteryPopup.h"
 
 namespace quindle {
 

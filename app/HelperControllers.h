@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/DelegateControllers.h"
-#include "preferences/BoundSettings.h"
-#include "preferences/UpdatePreferencesController.h"
+#include "preferences/panes/BoundSettings.h"
+#include "preferences/panes/UpdatePreferencesController.h"
 
 namespace quindle {
 

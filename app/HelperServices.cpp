@@ -2,12 +2,12 @@
 
 #include "app/MachineSteps.h"
 #include "platform/UserDefaults.h"
-#include "platform/linux/LinuxApplication.h"
-#include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxPlatform.h"
-#include "platform/linux/LinuxRunLoop.h"
 #include "platform/linux/network/LinuxUrlSession.h"
+#include "platform/linux/session/LinuxApplication.h"
+#include "platform/linux/session/LinuxRunLoop.h"
 #include "platform/linux/statusitem/LinuxStatusBar.h"
+#include "platform/linux/system/LinuxBundle.h"
 #include "platform/recorded/RecordedPlatform.h"
 
 namespace quindle {

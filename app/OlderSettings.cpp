@@ -3,9 +3,9 @@
 #include <QLoggingCategory>
 
 #include "common/NumberConversion.h"
+#include "menubar/MenuBarSettingRule.h"
 #include "menubar/TitleTemplate.h"
 #include "platform/UserDefaults.h"
-#include "preferences/MenuBarSettingRule.h"
 
 namespace quindle {
 

@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QSessionManager>
 
-#include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "app/HelperCommandLine.h"
 #include "app/HelperControllers.h"
@@ -18,12 +17,13 @@
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/Bundle.h"
-#include "platform/linux/CoreDumps.h"
-#include "platform/linux/LinuxInstallationSource.h"
-#include "platform/linux/SingleInstance.h"
-#include "platform/linux/StandardError.h"
-#include "platform/linux/StartDeadline.h"
+#include "platform/linux/os/CoreDumps.h"
+#include "platform/linux/os/StandardError.h"
+#include "platform/linux/session/SingleInstance.h"
+#include "platform/linux/session/StartDeadline.h"
+#include "platform/linux/system/LinuxInstallationSource.h"
 #include "platform/recorded/MachineFile.h"
+#include "settings/ApplicationPreferences.h"
 
 using namespace quindle;
 

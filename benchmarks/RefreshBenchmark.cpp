@@ -11,19 +11,19 @@
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
-#include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "battery/QDBattery.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
-#include "platform/linux/LinuxClock.h"
-#include "platform/linux/LinuxUserDefaults.h"
 #include "platform/linux/power/BatteryTimes.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
 #include "platform/linux/power/SupplyDirectory.h"
+#include "platform/linux/settings/LinuxUserDefaults.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
+#include "platform/linux/system/LinuxClock.h"
 #include "platform/recorded/RecordedPlatform.h"
+#include "settings/ApplicationPreferences.h"
 
 using namespace quindle;
 

@@ -14,7 +14,7 @@
 #include "platform/PowerSources.h"
 #include "platform/UserDefaults.h"
 #include "plist/PropertyList.h"
-#include "preferences/StartupLaunch_pref.h"
+#include "settings/StartupLaunch_pref.h"
 
 namespace quindle {
 

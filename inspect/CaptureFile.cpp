@@ -7,8 +7,8 @@
 #include <unistd.h>
 
 #include "common/Paths.h"
-#include "platform/linux/FileDescriptor.h"
-#include "platform/linux/FileReplacement.h"
+#include "platform/linux/os/FileDescriptor.h"
+#include "platform/linux/os/FileReplacement.h"
 #include "plist/PropertyList.h"
 
 namespace quindle {

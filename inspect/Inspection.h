@@ -4,9 +4,9 @@
 
 #include <QVariantMap>
 
-#include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "menubar/MainInterface.h"
+#include "settings/ApplicationPreferences.h"
 
 namespace quindle {
 

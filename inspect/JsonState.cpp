@@ -2,7 +2,6 @@
 
 #include <QMetaProperty>
 
-#include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "battery/QDBattery.h"
 #include "history/DailyUpload.h"
@@ -12,7 +11,8 @@
 #include "platform/Image.h"
 #include "platform/Platform.h"
 #include "platform/StatusBar.h"
-#include "preferences/StartupLaunch_pref.h"
+#include "settings/ApplicationPreferences.h"
+#include "settings/StartupLaunch_pref.h"
 
 namespace quindle {
 

@@ -14,8 +14,8 @@
 #include "inspect/Inspection.h"
 #include "inspect/JsonText.h"
 #include "inspect/TextReport.h"
-#include "platform/linux/CoreDumps.h"
-#include "platform/linux/EndOfProcess.h"
+#include "platform/linux/os/CoreDumps.h"
+#include "platform/linux/os/EndOfProcess.h"
 
 namespace {
 

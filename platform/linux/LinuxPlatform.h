@@ -5,7 +5,7 @@
 #include <QString>
 
 #include "platform/Platform.h"
-#include "platform/linux/LinuxUserDefaults.h"
+#include "platform/linux/settings/LinuxUserDefaults.h"
 
 namespace quindle {
 

@@ -2,11 +2,11 @@
 
 #include <memory>
 
-#include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/Image.h"
+#include "settings/ApplicationPreferences.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quindle {

@@ -6,9 +6,9 @@
 #include <QString>
 
 #include "common/Paths.h"
-#include "platform/linux/LinuxBundle.h"
-#include "platform/linux/LinuxLoginItems.h"
-#include "preferences/StartupLaunch_pref.h"
+#include "platform/linux/login/LinuxLoginItems.h"
+#include "platform/linux/system/LinuxBundle.h"
+#include "settings/StartupLaunch_pref.h"
 
 using namespace quindle;
 

@@ -2,7 +2,6 @@
 
 #include <memory>
 
-#include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
 #include "battery/QDBattery.h"
 #include "mac/QDMac.h"
@@ -12,6 +11,7 @@
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
 #include "platform/linux/power/SupplyDirectory.h"
+#include "settings/ApplicationPreferences.h"
 #include "tests/app/LaunchedHelper.h"
 #include "tests/platform/linux/power/SupplyTree.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/DesktopEntry.h"
+#include "platform/linux/login/DesktopEntry.h"
 #include "tests/fuzz/FuzzInput.h"
 
 using namespace quindle;

@@ -6,6 +6,7 @@ import sys
 from pathlib import Path
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
+NOT_LAYERED = {"tests", "benchmarks", "packaging", "build"}
 CONDITION = re.compile(r"^\s*#\s*(if|ifdef|ifndef)\b")
 
 
@@ -53,6 +54,10 @@ def main():
             if nested not in folders and source.suffix in (".h", ".cpp"):
                 sources += 1
                 faults += faults_of(source, root, rules, folders)
+    for source in sorted((root).glob("*/**/*")):
+        name = source.relative_to(root).as_posix()
+        if source.suffix in (".h", ".cpp") and name.split("/")[0] not in NOT_LAYERED and not folder_of(name, folders):
+            faults.append(f"{name}: stands in no room of layers.txt")
     print("\n".join(faults) or f"{sources} files follow the layers")
     return 1 if faults or not sources else 0
 

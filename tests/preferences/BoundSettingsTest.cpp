@@ -1,4 +1,4 @@
-#include "preferences/BoundSettings.h"
+#include "preferences/panes/BoundSettings.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "preferences/FrameAutosave.h"
+#include "preferences/window/FrameAutosave.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -8,12 +8,12 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-#include "menubar/PlainLabel.h"
-#include "preferences/GeneralPreferencesController.h"
+#include "preferences/panes/GeneralPreferencesController.h"
 #include "tests/preferences/Input.h"
 #include "tests/preferences/LongTexts.h"
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/PlainLabel.h"
 
 using namespace quindle;
 

@@ -1,4 +1,4 @@
-#include "preferences/GeneralPreferencesController.h"
+#include "preferences/panes/GeneralPreferencesController.h"
 
 #include <gtest/gtest.h>
 
@@ -7,12 +7,12 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "preferences/BoundLineEdit.h"
-#include "preferences/ParameterPopover.h"
-#include "preferences/RadioMatrix.h"
+#include "preferences/panes/ParameterPopover.h"
 #include "tests/preferences/Input.h"
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/BoundLineEdit.h"
+#include "widgets/RadioMatrix.h"
 
 using namespace quindle;
 

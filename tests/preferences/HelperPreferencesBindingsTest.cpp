@@ -1,16 +1,16 @@
-#include "preferences/HelperPreferencesBindings.h"
+#include "preferences/panes/HelperPreferencesBindings.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
-#include "preferences/BoundLineEdit.h"
-#include "preferences/ParameterPopover.h"
-#include "preferences/RadioMatrix.h"
+#include "preferences/panes/ParameterPopover.h"
 #include "tests/preferences/Input.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/BoundLineEdit.h"
+#include "widgets/RadioMatrix.h"
 
 namespace quindle {
 

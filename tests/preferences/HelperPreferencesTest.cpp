@@ -1,14 +1,14 @@
-#include "preferences/HelperPreferences.h"
+#include "preferences/panes/HelperPreferences.h"
 
 #include <QCheckBox>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
-#include "preferences/BoundLineEdit.h"
-#include "preferences/ParameterPopover.h"
-#include "preferences/RadioMatrix.h"
+#include "preferences/panes/ParameterPopover.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/BoundLineEdit.h"
+#include "widgets/RadioMatrix.h"
 
 namespace quindle {
 

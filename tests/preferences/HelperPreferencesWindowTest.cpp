@@ -1,4 +1,4 @@
-#include "preferences/HelperPreferencesWindow.h"
+#include "preferences/panes/HelperPreferencesWindow.h"
 
 #include <QApplication>
 #include <QKeyEvent>

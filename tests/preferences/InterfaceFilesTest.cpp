@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QXmlStreamReader>
 
-#include "preferences/SettingsBinder.h"
+#include "preferences/panes/SettingsBinder.h"
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
 

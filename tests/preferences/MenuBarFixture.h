@@ -6,8 +6,8 @@
 #include <QStringList>
 #include <QWidget>
 
-#include "preferences/HelperPreferences.h"
-#include "preferences/HelperPreferencesWindow.h"
+#include "preferences/panes/HelperPreferences.h"
+#include "preferences/panes/HelperPreferencesWindow.h"
 #include "tests/preferences/SettingsFixture.h"
 
 namespace quindle::test {

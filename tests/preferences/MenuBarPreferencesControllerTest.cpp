@@ -1,14 +1,14 @@
-#include "preferences/MenuBarPreferencesController.h"
+#include "preferences/panes/MenuBarPreferencesController.h"
 
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
-#include "preferences/RadioMatrix.h"
-#include "preferences/SettingsBinder.h"
+#include "preferences/panes/SettingsBinder.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/RadioMatrix.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "preferences/PaneTransition.h"
+#include "preferences/window/PaneTransition.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QWidget>

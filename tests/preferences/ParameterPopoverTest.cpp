@@ -1,4 +1,4 @@
-#include "preferences/ParameterPopover.h"
+#include "preferences/panes/ParameterPopover.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "preferences/PlaceholderTable.h"
+#include "preferences/panes/PlaceholderTable.h"
 
 #include <gtest/gtest.h>
 

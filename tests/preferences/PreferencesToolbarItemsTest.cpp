@@ -1,4 +1,4 @@
-#include "preferences/PreferencesToolbarItems.h"
+#include "preferences/window/PreferencesToolbarItems.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "preferences/PreferencesToolbar.h"
+#include "preferences/window/PreferencesToolbar.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -7,9 +7,9 @@
 #include <QToolButton>
 #include <gtest/gtest.h>
 
-#include "preferences/SegmentedControl.h"
 #include "tests/preferences/TestPane.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/SegmentedControl.h"
 
 using namespace quindle;
 

@@ -1,4 +1,4 @@
-#include "preferences/QDPreferencesWindowController.h"
+#include "preferences/window/QDPreferencesWindowController.h"
 
 #include <QAction>
 #include <QApplication>
@@ -7,13 +7,13 @@
 #include <QScreen>
 #include <gtest/gtest.h>
 
-#include "preferences/PreferencesToolbar.h"
-#include "preferences/QDPreferencesWindow.h"
-#include "preferences/SegmentedControl.h"
-#include "preferences/WindowFrame.h"
+#include "preferences/window/PreferencesToolbar.h"
+#include "preferences/window/QDPreferencesWindow.h"
+#include "preferences/window/WindowFrame.h"
 #include "tests/preferences/TestPane.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/SegmentedControl.h"
 
 using namespace quindle;
 

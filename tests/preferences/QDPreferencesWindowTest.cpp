@@ -1,4 +1,4 @@
-#include "preferences/QDPreferencesWindow.h"
+#include "preferences/window/QDPreferencesWindow.h"
 
 #include <QApplication>
 #include <QKeyEvent>

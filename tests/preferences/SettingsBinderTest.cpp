@@ -1,12 +1,12 @@
-#include "preferences/SettingsBinder.h"
+#include "preferences/panes/SettingsBinder.h"
 
 #include <gtest/gtest.h>
 
 #include <QLabel>
 
-#include "preferences/BoundCheckBox.h"
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/BoundCheckBox.h"
 
 using namespace quindle;
 

@@ -5,10 +5,10 @@
 
 #include <QStringList>
 
-#include "app/ApplicationPreferences.h"
 #include "platform/LoginItems.h"
-#include "preferences/BoundSettings.h"
-#include "preferences/StatusBarTitle.h"
+#include "preferences/panes/BoundSettings.h"
+#include "preferences/panes/StatusBarTitle.h"
+#include "settings/ApplicationPreferences.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quindle::test {

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QWidget>
 
-#include "preferences/QDPreferencesWindowControllerProtocol.h"
+#include "preferences/window/QDPreferencesWindowControllerProtocol.h"
 
 namespace quindle::test {
 

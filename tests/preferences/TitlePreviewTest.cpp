@@ -1,4 +1,4 @@
-#include "preferences/TitlePreview.h"
+#include "preferences/panes/TitlePreview.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "preferences/UpdatePreferencesController.h"
+#include "preferences/panes/UpdatePreferencesController.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "preferences/UpdateTexts.h"
+#include "preferences/panes/UpdateTexts.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/support/TestData.h"

@@ -1,4 +1,4 @@
-#include "preferences/WindowFrame.h"
+#include "preferences/window/WindowFrame.h"
 
 #include <gtest/gtest.h>
 

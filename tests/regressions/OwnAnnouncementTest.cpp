@@ -7,7 +7,7 @@
 #include <QDBusMessage>
 #include <gtest/gtest.h>
 
-#include "platform/linux/LinuxNotifications.h"
+#include "platform/linux/session/LinuxNotifications.h"
 #include "tests/support/MessageBus.h"
 
 using namespace quindle;

@@ -8,8 +8,8 @@
 #include <QDBusVariant>
 #include <gtest/gtest.h>
 
-#include "platform/linux/BusLink.h"
-#include "platform/linux/LinuxRunLoop.h"
+#include "platform/linux/session/BusLink.h"
+#include "platform/linux/session/LinuxRunLoop.h"
 #include "platform/linux/statusitem/LinuxStatusBar.h"
 #include "tests/support/MessageBus.h"
 #include "tests/support/QtPrinters.h"

@@ -6,7 +6,7 @@
 
 #include "platform/Host.h"
 #include "platform/RunLoop.h"
-#include "platform/linux/TimerSchedule.h"
+#include "platform/linux/session/TimerSchedule.h"
 
 namespace quindle {
 

@@ -4,15 +4,15 @@
 
 #include <QTemporaryDir>
 
-#include "app/ApplicationPreferences.h"
 #include "app/HelperAppDelegate.h"
-#include "menubar/BatteryPopup.h"
 #include "menubar/MainInterface.h"
 #include "platform/UrlSession.h"
-#include "platform/linux/LinuxBundle.h"
-#include "platform/linux/LinuxUserDefaults.h"
+#include "platform/linux/settings/LinuxUserDefaults.h"
+#include "platform/linux/system/LinuxBundle.h"
 #include "platform/recorded/RecordedPlatform.h"
+#include "settings/ApplicationPreferences.h"
 #include "tests/soak/SoakTime.h"
+#include "view/BatteryPopup.h"
 
 namespace quindle {
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/FileDescriptor.h"
-#include "platform/linux/MonotonicClock.h"
+#include "platform/linux/os/FileDescriptor.h"
+#include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/power/SlowReads.h"
 
 namespace quindle {

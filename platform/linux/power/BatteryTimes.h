@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "platform/linux/MonotonicClock.h"
+#include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/power/CombinedBattery.h"
 #include "platform/linux/power/TimeEstimator.h"
 

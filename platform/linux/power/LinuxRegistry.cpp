@@ -1,6 +1,6 @@
 #include "platform/linux/power/LinuxRegistry.h"
 
-#include "platform/linux/SmallFile.h"
+#include "platform/linux/os/SmallFile.h"
 #include "platform/linux/power/PowerSnapshot.h"
 #include "platform/linux/power/RegistryValues.h"
 

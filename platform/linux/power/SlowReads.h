@@ -7,7 +7,7 @@
 
 #include <sys/types.h>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/os/FileDescriptor.h"
 
 namespace quindle {
 

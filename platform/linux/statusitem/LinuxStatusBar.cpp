@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/linux/BusLink.h"
+#include "platform/linux/session/BusLink.h"
 
 namespace quindle {
 

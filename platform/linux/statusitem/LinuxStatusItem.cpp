@@ -7,7 +7,7 @@
 
 #include "platform/Image.h"
 #include "platform/StatusMenu.h"
-#include "platform/linux/X11Desktop.h"
+#include "platform/linux/session/X11Desktop.h"
 #include "platform/linux/statusitem/MenuAdaptor.h"
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"
 #include "platform/linux/statusitem/TrayIcon.h"

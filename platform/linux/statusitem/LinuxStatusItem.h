@@ -10,7 +10,7 @@
 #include <QString>
 
 #include "platform/StatusBar.h"
-#include "platform/linux/BacklogGuard.h"
+#include "platform/linux/session/BacklogGuard.h"
 #include "platform/linux/statusitem/HostTraits.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"

@@ -17,8 +17,8 @@
 
 #include "common/FileContents.h"
 #include "common/Paths.h"
-#include "platform/linux/FileReplacement.h"
-#include "platform/linux/UserFolders.h"
+#include "platform/linux/os/FileReplacement.h"
+#include "platform/linux/os/UserFolders.h"
 #include "platform/linux/statusitem/StripPainting.h"
 #include "platform/linux/statusitem/TextDrawing.h"
 

@@ -10,7 +10,7 @@
 #include <QLoggingCategory>
 #include <QTimer>
 
-#include "platform/linux/NameOwner.h"
+#include "platform/linux/session/NameOwner.h"
 
 namespace quindle {
 

@@ -8,7 +8,7 @@
 #include <sys/socket.h>
 
 #include "mac/ModelNameLookup.h"
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/os/FileDescriptor.h"
 #include "tests/platform/linux/network/HttpServer.h"
 #include "tests/support/QtPrinters.h"
 

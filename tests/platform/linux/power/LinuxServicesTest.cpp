@@ -11,12 +11,12 @@
 #include <QTemporaryDir>
 
 #include "common/Paths.h"
-#include "platform/linux/CoreDumps.h"
-#include "platform/linux/LinuxBundle.h"
-#include "platform/linux/LinuxClock.h"
-#include "platform/linux/LinuxHost.h"
-#include "platform/linux/LinuxSystemFiles.h"
-#include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/os/CoreDumps.h"
+#include "platform/linux/system/LinuxBundle.h"
+#include "platform/linux/system/LinuxClock.h"
+#include "platform/linux/system/LinuxHost.h"
+#include "platform/linux/system/LinuxSystemFiles.h"
+#include "platform/linux/system/LinuxWorkspace.h"
 #include "plist/PropertyList.h"
 #include "tests/support/QtPrinters.h"
 

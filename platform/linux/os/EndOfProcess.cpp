@@ -1,0 +1,62 @@
+#include "platform/linux/os/EndOfProcess.h"
+
+#include <csignal>
+
+#include <QSocketNotifier>
+
+#include <sys/epoll.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+namespace quindle {
+
+namespace {
+
+FileDescriptor endSignals()
+{
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        sigaddset(&set, number);
+    sigprocmask(SIG_BLOCK, &set, nullptr);
+    return FileDescriptor(signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK));
+}
+
+/// Readable once the other end of standard output is closed, whether it is a pipe, a socket or a terminal.
+FileDescriptor closedReader()
+{
+    FileDescriptor watch(epoll_create1(EPOLL_CLOEXEC));
+    epoll_event errorsOnly{};
+    if (epoll_ctl(watch.get(), EPOLL_CTL_ADD, STDOUT_FILENO, &errorsOnly) != 0)
+        return {}; // a file has no reader
+    return watch;
+}
+
+std::unique_ptr<QSocketNotifier> notifierOf(const FileDescriptor& descriptor,
+                                            const std::function<void()>& ended)
+{
+    if (!descriptor.isOpen())
+        return nullptr;
+    auto notifier = std::make_unique<QSocketNotifier>(descriptor.get(), QSocketNotifier::Read);
+    QSocketNotifier* const source = notifier.get();
+    QObject::connect(source, &QSocketNotifier::activated, source, [source, ended] {
+        source->setEnabled(false);
+        ended();
+    });
+    return notifier;
+}
+
+} // namespace
+
+EndOfProcess::EndOfProcess(const std::function<void()>& ended)
+    : m_signals(endSignals())
+    , m_reader(closedReader())
+    , m_signalNotifier(notifierOf(m_signals, ended))
+    , m_readerNotifier(notifierOf(m_reader, ended))
+{
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
+EndOfProcess::~EndOfProcess() = default;
+
+} // namespace quindle

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+
+#include <QByteArray>
+
+#include "platform/linux/os/FileDescriptor.h"
+
+namespace quindle {
+
+/// An exclusive lock between processes, held as long as the object lives. It stands on a file of its own,
+/// which stays behind empty: a data file that is replaced by rename cannot carry a lock. The kernel lets go
+/// of it when the process ends, however it ends.
+class FileLock
+{
+public:
+    /// Takes the lock at `path`, creating the file (0600). When another holds it, waits as long as
+    /// `patience`; with 0 it is tried once. Nothing on failure: errno says why, EWOULDBLOCK when it is still
+    /// held.
+    static std::optional<FileLock> take(const QByteArray& path, std::chrono::milliseconds patience);
+
+private:
+    explicit FileLock(FileDescriptor file)
+        : m_file(std::move(file))
+    {
+    }
+
+    FileDescriptor m_file;
+};
+
+} // namespace quindle

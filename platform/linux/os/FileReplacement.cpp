@@ -1,0 +1,154 @@
+#include "platform/linux/os/FileReplacement.h"
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstdlib>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+
+#include "platform/linux/os/CloseFolder.h"
+#include "platform/linux/os/FileDescriptor.h"
+
+namespace quindle {
+
+namespace {
+
+QByteArray nameOf(const QByteArray& path)
+{
+    return path.mid(path.lastIndexOf('/') + 1);
+}
+
+QByteArray temporaryPrefix(const QByteArray& path)
+{
+    return '.' + nameOf(path) + ".new-";
+}
+
+int writeAll(int descriptor, const QByteArray& bytes)
+{
+    qsizetype written = 0;
+    while (written < bytes.size()) {
+        const auto rest = static_cast<std::size_t>(bytes.size() - written);
+        const ssize_t count = ::write(descriptor, bytes.constData() + written, rest);
+        if (count < 0 && errno != EINTR)
+            return errno;
+        written += count > 0 ? count : 0;
+    }
+    return ::fsync(descriptor) == 0 ? 0 : errno;
+}
+
+int fillAndRename(int descriptor, const QByteArray& temporary, const QByteArray& path,
+                  const QByteArray& bytes)
+{
+    if (const int error = writeAll(descriptor, bytes))
+        return error;
+    return ::rename(temporary.constData(), path.constData()) == 0 ? 0 : errno;
+}
+
+// The new name survives a power cut only once the folder has reached the disk. The file is replaced by then,
+// so a file system that cannot do this changes nothing.
+void syncFolder(const QByteArray& path)
+{
+    const FileDescriptor folder(::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.isOpen())
+        ::fsync(folder.get());
+}
+
+} // namespace
+
+QByteArray linkTarget(const QByteArray& path)
+{
+    constexpr int mostLinks = 40; // as many as the kernel follows
+    QByteArray current = path;
+    for (int followed = 0; followed <= mostLinks; ++followed) {
+        std::array<char, PATH_MAX> buffer{};
+        const ssize_t length = ::readlink(current.constData(), buffer.data(), buffer.size());
+        if (length < 0)
+            return current;
+        const QByteArray target(buffer.data(), length);
+        current = target.startsWith('/') ? target : folderOf(current) + '/' + target;
+    }
+    return {};
+}
+
+QByteArray folderOf(const QByteArray& path)
+{
+    const qsizetype slash = path.lastIndexOf('/');
+    return slash > 0 ? path.left(slash) : QByteArrayLiteral("/");
+}
+
+int makeFolder(const QByteArray& path)
+{
+    if (::mkdir(path.constData(), 0700) == 0)
+        return 0;
+    const int error = errno;
+    struct stat found = {};
+    if (error == EEXIST) {
+        if (::stat(path.constData(), &found) != 0)
+            return errno == ENOENT ? ENOTDIR : errno; // a link to nowhere; a network home that is away
+        return S_ISDIR(found.st_mode) ? 0 : ENOTDIR;
+    }
+    if (error != ENOENT || path.size() <= 1)
+        return error;
+    const int above = makeFolder(folderOf(path));
+    if (above != 0)
+        return above;
+    return ::mkdir(path.constData(), 0700) == 0 || errno == EEXIST ? 0 : errno;
+}
+
+int replaceFile(const QByteArray& path, const QByteArray& bytes)
+{
+    QByteArray temporary = folderOf(path) + '/' + temporaryPrefix(path) + "XXXXXX";
+    const FileDescriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+    if (!file.isOpen())
+        return errno;
+    const int error = fillAndRename(file.get(), temporary, path, bytes);
+    if (error != 0)
+        ::unlink(temporary.constData());
+    else
+        syncFolder(folderOf(path));
+    return error;
+}
+
+int replaceLink(const QByteArray& path, const QByteArray& target)
+{
+    // One name for all: who replaces the link holds the lock of its writers.
+    const QByteArray temporary = folderOf(path) + '/' + temporaryPrefix(path) + "link";
+    ::unlink(temporary.constData());
+    if (::symlink(target.constData(), temporary.constData()) != 0)
+        return errno;
+    if (::rename(temporary.constData(), path.constData()) == 0)
+        return 0;
+    const int error = errno;
+    ::unlink(temporary.constData());
+    return error;
+}
+
+void removeLeftovers(const QByteArray& path)
+{
+    const std::unique_ptr<DIR, CloseFolder> folder(::opendir(folderOf(path).constData()));
+    if (!folder)
+        return;
+    const QByteArray prefix = temporaryPrefix(path);
+    while (const dirent* entry = ::readdir(folder.get()))
+        if (QByteArrayView(entry->d_name).startsWith(prefix))
+            ::unlinkat(::dirfd(folder.get()), entry->d_name, 0);
+}
+
+int renameWithoutReplacing(const QByteArray& path, const QByteArray& newPath)
+{
+    if (::renameat2(AT_FDCWD, path.constData(), AT_FDCWD, newPath.constData(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    // Some file systems cannot promise it; a look before is the best there.
+    struct stat found = {};
+    if (::lstat(newPath.constData(), &found) == 0)
+        return EEXIST;
+    return ::rename(path.constData(), newPath.constData()) == 0 ? 0 : errno;
+}
+
+} // namespace quindle

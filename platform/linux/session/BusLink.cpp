@@ -1,0 +1,173 @@
+#include "platform/linux/session/BusLink.h"
+
+#include <algorithm>
+#include <sys/stat.h>
+
+#include <QDBusError>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+#include <QLoggingCategory>
+
+#include "common/Paths.h"
+#include "platform/linux/session/BusAddress.h"
+
+namespace quindle {
+
+namespace {
+
+Q_LOGGING_CATEGORY(busLog, "quindle.bus")
+
+constexpr int longestPause = 300'000;
+
+/// A socket's file is there a moment before anybody listens on it.
+constexpr int pauseForNewSocket = 50;
+
+const QString localPath = QStringLiteral("/org/freedesktop/DBus/Local");
+const QString localInterface = QStringLiteral("org.freedesktop.DBus.Local");
+const QString disconnected = QStringLiteral("Disconnected");
+
+QString usualName(QDBusConnection::BusType type)
+{
+    return type == QDBusConnection::SystemBus ? QStringLiteral("quindle-system")
+                                              : QStringLiteral("quindle-session");
+}
+
+quint64 inodeOf(const QString& path)
+{
+    struct stat found = {};
+    return ::stat(pathBytes(path).constData(), &found) == 0 ? found.st_ino : 0;
+}
+
+} // namespace
+
+BusLink::BusLink(QDBusConnection::BusType type, int firstPause, QObject* parent)
+    : BusLink(type, usualName(type), firstPause, parent)
+{
+    m_startsShared = true;
+}
+
+BusLink::BusLink(QDBusConnection::BusType type, QString ownName, int firstPause, QObject* parent)
+    : QObject(parent)
+    , m_type(type)
+    , m_connection(QString())
+    , m_ownName(std::move(ownName))
+    , m_startsShared(false)
+    , m_firstPause(firstPause)
+{
+    m_retry.setSingleShot(true);
+    m_retry.callOnTimeout(this, &BusLink::reconnect);
+}
+
+void BusLink::followShared()
+{
+    m_startsShared = true;
+    m_logs = false;
+}
+
+BusLink::~BusLink()
+{
+    closeOwn();
+}
+
+void BusLink::open(std::function<void(QDBusConnection&)> subscribe, std::function<void()> lost)
+{
+    m_subscribe = std::move(subscribe);
+    m_lost = std::move(lost);
+    m_socket = busSocketFile(busAddress(m_type));
+    m_socketTried = inodeOf(m_socket);
+    const QDBusConnection first = firstConnection();
+    if (take(first))
+        return;
+    waitForBus(m_firstPause);
+    if (!m_logs)
+        return;
+    const QString name =
+        m_type == QDBusConnection::SystemBus ? QStringLiteral("system") : QStringLiteral("session");
+    qCWarning(busLog).noquote() << QStringLiteral("no %1 bus: %2").arg(name, first.lastError().message());
+}
+
+QDBusConnection BusLink::firstConnection()
+{
+    if (m_startsShared)
+        return m_type == QDBusConnection::SystemBus ? QDBusConnection::systemBus()
+                                                    : QDBusConnection::sessionBus();
+    m_triedOwn = true;
+    return QDBusConnection::connectToBus(m_type, m_ownName);
+}
+
+bool BusLink::take(const QDBusConnection& connection)
+{
+    if (!connection.isConnected())
+        return false;
+    m_connection = connection;
+    m_connection.connect(QString(), localPath, localInterface, disconnected, this, SLOT(onDisconnected()));
+    m_subscribe(m_connection);
+    return true;
+}
+
+void BusLink::onDisconnected()
+{
+    if (m_logs)
+        qCWarning(busLog, "a message bus was lost");
+    if (m_lost)
+        m_lost();
+    waitForBus(m_firstPause);
+}
+
+void BusLink::drop()
+{
+    qCWarning(busLog, "somebody on a message bus does not wait for answers: it is left for %d s",
+              m_firstPause / 1000);
+    m_connection.disconnect(QString(), localPath, localInterface, disconnected, this, SLOT(onDisconnected()));
+    closeOwn();
+    if (m_lost)
+        m_lost();
+    waitForBus(m_firstPause);
+}
+
+void BusLink::waitForBus(int pause)
+{
+    m_retry.start(pause);
+    if (!m_folderWatcher)
+        watchSocketFolder();
+}
+
+void BusLink::watchSocketFolder()
+{
+    const QString folder = QFileInfo(m_socket).path();
+    if (m_socket.isEmpty() || !QFileInfo::exists(folder))
+        return;
+    m_folderWatcher = std::make_unique<QFileSystemWatcher>(QStringList{folder});
+    connect(m_folderWatcher.get(), &QFileSystemWatcher::directoryChanged, this, &BusLink::lookAtSocket);
+    lookAtSocket(); // it may have come between the try and the watch
+}
+
+void BusLink::lookAtSocket()
+{
+    // Everything else that happens in the folder is no reason to try.
+    const quint64 inode = inodeOf(m_socket);
+    if (inode != 0 && inode != m_socketTried)
+        m_retry.start(pauseForNewSocket);
+    m_socketTried = inode;
+}
+
+void BusLink::reconnect()
+{
+    const int next = std::min(m_retry.interval() * 2, longestPause);
+    closeOwn();
+    m_triedOwn = true;
+    // By address: asked by type, the library may start a bus of its own where there is none.
+    if (take(QDBusConnection::connectToBus(busAddress(m_type), m_ownName)))
+        m_folderWatcher.reset();
+    else
+        waitForBus(next);
+}
+
+void BusLink::closeOwn()
+{
+    m_connection = QDBusConnection(QString());
+    if (m_triedOwn)
+        QDBusConnection::disconnectFromBus(m_ownName);
+}
+
+} // namespace quindle

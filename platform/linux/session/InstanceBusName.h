@@ -1,0 +1,73 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+#include <QByteArray>
+#include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QObject>
+#include <QVariantMap>
+
+#include "platform/linux/session/BacklogGuard.h"
+#include "platform/linux/session/BusLink.h"
+#include "platform/linux/session/StartAnswer.h"
+
+namespace quindle {
+
+/// What others of the session may ask of the one that runs.
+class ApplicationAdaptor : public QDBusAbstractAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    /// `activated` gets the token of the start that asks, empty where it has none.
+    using Activated = std::function<void(const QByteArray& token)>;
+
+    ApplicationAdaptor(QObject* object, Activated activated);
+
+public Q_SLOTS:
+    void Activate(const QVariantMap& platformData);
+
+private:
+    Activated m_activated;
+};
+
+/// Sees to it that one process runs for a session bus: the bus gives a name to one of its connections. The
+/// name is taken again on each bus that comes later. Who asks without end and does not wait is not answered
+/// for a while. Main thread only.
+class InstanceBusName : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit InstanceBusName(QObject* parent = nullptr);
+
+    /// Takes the name, or asks who has it to open the battery view, for which it gets up to four seconds.
+    /// Nothing where there is no bus, or one that gives no names: then the name is taken once there is.
+    std::optional<StartAnswer> start();
+
+    /// Windows that `showRequested` activates may come to the front in the name of the start that asks.
+    void setShowRequested(std::function<void()> showRequested) { m_showRequested = std::move(showRequested); }
+
+    /// Says what happens when another one has the name on a bus that came later.
+    void setTakenByAnother(std::function<void()> taken) { m_takenByAnother = std::move(taken); }
+
+private:
+    void show(const QByteArray& activationToken) const;
+    void offer(QDBusConnection& connection);
+    void answerCalls(QDBusConnection& connection);
+    void pauseAnswers();
+    void takeLater(const QDBusConnection& connection);
+    std::optional<StartAnswer> startOn(const QDBusConnection& connection) const;
+
+    BusLink m_link;
+    BacklogGuard m_guard;
+    bool m_isStarted = false;
+    std::function<void()> m_showRequested;
+    std::function<void()> m_takenByAnother;
+};
+
+} // namespace quindle

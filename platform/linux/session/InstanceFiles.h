@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <QString>
+
+#include "platform/linux/os/FileLock.h"
+#include "platform/linux/session/StartAnswer.h"
+
+class QSocketNotifier;
+
+namespace quindle {
+
+/// Where the files of one name may be, the best first: in the session's runtime folder where that belongs to
+/// the user and no other may write there, then in the folder of the settings, under the computer's name too
+/// because homes are shared between computers. Never in /tmp, where another user could make the name first.
+/// Each is a path to which ".lock" and ".socket" are appended.
+std::vector<QString> instanceFileStems(const QString& name);
+
+/// Sees to it that one process runs for a name, by a lock file and a socket beside it: connecting to the
+/// socket is the request to open the battery view, and only processes of the same user are obeyed. A process
+/// that was killed leaves nothing that is in the way of the next one. Main thread only.
+class InstanceFiles
+{
+public:
+    /// The first of the stems at which a lock can be made, or is held by another, counts.
+    explicit InstanceFiles(std::vector<QString> stems);
+    ~InstanceFiles();
+    InstanceFiles(const InstanceFiles&) = delete;
+    InstanceFiles& operator=(const InstanceFiles&) = delete;
+
+    /// Waits up to three seconds for the one that holds the lock to listen. Needs a QCoreApplication.
+    StartAnswer start();
+
+    /// Takes the best place if it is free, without asking or waiting, for one that runs whatever comes of it.
+    void holdIfFree();
+
+    /// Says what a request does; requests come in once the main loop runs.
+    void setShowRequested(std::function<void()> showRequested) { m_showRequested = std::move(showRequested); }
+
+private:
+    std::optional<StartAnswer> startAt(const QString& stem);
+    bool takeLock(const QString& stem);
+    bool askFirst() const;
+    void listen();
+    int openSocket();
+    void acceptRequest();
+
+    std::vector<QString> m_stems;
+    QString m_faults; ///< of the stems at which no lock can be had
+    QByteArray m_socketPath;
+    std::optional<FileLock> m_lock;
+    FileDescriptor m_socket;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    std::function<void()> m_showRequested;
+};
+
+} // namespace quindle

@@ -1,0 +1,32 @@
+#include "platform/linux/session/LinuxApplication.h"
+
+#include <QGuiApplication>
+#include <QWindow>
+
+#include "platform/linux/session/X11Desktop.h"
+
+namespace quindle {
+
+void LinuxApplication::terminate()
+{
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+void LinuxApplication::activateIgnoringOtherApplications()
+{
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        return;
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        if (!window->isVisible() || window->type() != Qt::Window)
+            continue;
+        window->raise();
+        window->requestActivate();
+    }
+}
+
+bool LinuxApplication::showsTranslucentWindows() const
+{
+    return hasCompositor();
+}
+
+} // namespace quindle

@@ -1,0 +1,39 @@
+#include "platform/linux/session/SingleInstance.h"
+
+#include "platform/linux/session/DisplayKey.h"
+
+namespace quindle {
+
+namespace {
+
+QString displayOfProcess()
+{
+    return displayKey({.wayland = qgetenv("WAYLAND_DISPLAY"),
+                       .x11 = qgetenv("DISPLAY"),
+                       .runtimeFolder = qgetenv("XDG_RUNTIME_DIR")});
+}
+
+} // namespace
+
+SingleInstance::SingleInstance()
+    : m_files(instanceFileStems(displayOfProcess()))
+{
+}
+
+StartAnswer SingleInstance::start()
+{
+    const auto onBus = m_busName.start();
+    if (!onBus)
+        return m_files.start();
+    if (onBus->outcome == StartAnswer::Outcome::First)
+        m_files.holdIfFree();
+    return *onBus;
+}
+
+void SingleInstance::setShowRequested(const std::function<void()>& showRequested)
+{
+    m_busName.setShowRequested(showRequested);
+    m_files.setShowRequested(showRequested);
+}
+
+} // namespace quindle

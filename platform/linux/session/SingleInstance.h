@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/linux/session/InstanceBusName.h"
+#include "platform/linux/session/InstanceFiles.h"
+
+namespace quindle {
+
+/// Sees to it that one helper runs for a session bus, because that is what an item is offered on; where there
+/// is no bus, for a display. Main thread only.
+///
+/// A name on the bus is given to one process only, can be taken by nobody outside the session, and needs no
+/// folder. The files are taken as well, as far as they can be, so that a start which finds no bus finds the
+/// helper that waits for one.
+class SingleInstance
+{
+public:
+    SingleInstance();
+
+    /// Whether this process is to run. Needs a QCoreApplication.
+    StartAnswer start();
+
+    /// Says what the request of another start does; requests come in once the main loop runs.
+    void setShowRequested(const std::function<void()>& showRequested);
+
+    /// Says what happens when a bus comes that another helper is on already.
+    void setTakenByAnother(std::function<void()> taken) { m_busName.setTakenByAnother(std::move(taken)); }
+
+private:
+    InstanceBusName m_busName;
+    InstanceFiles m_files;
+};
+
+} // namespace quindle

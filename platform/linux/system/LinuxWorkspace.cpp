@@ -1,0 +1,58 @@
+#include "platform/linux/system/LinuxWorkspace.h"
+
+#include <filesystem>
+
+#include <QLoggingCategory>
+
+#include "common/Paths.h"
+#include "platform/linux/os/DetachedProcess.h"
+#include "platform/linux/os/ProgramFile.h"
+
+namespace quindle {
+
+namespace {
+
+Q_LOGGING_CATEGORY(workspaceLog, "quindle.workspace")
+
+/// The command that has the desktop open `path`; none where no handler is installed.
+QList<QByteArray> openCommand(const QByteArray& path, const QStringList& handlerFolders)
+{
+    if (const QByteArray xdgOpen = programPath("xdg-open", handlerFolders); !xdgOpen.isEmpty())
+        return {xdgOpen, path};
+    const QByteArray gio = programPath("gio", handlerFolders);
+    return gio.isEmpty() ? QList<QByteArray>() : QList<QByteArray>{gio, "open", path};
+}
+
+} // namespace
+
+LinuxWorkspace::LinuxWorkspace(QStringList handlerFolders)
+    : m_handlerFolders(std::move(handlerFolders))
+{
+}
+
+void LinuxWorkspace::launchApplication(const QString& path)
+{
+    if (launch(path)) {
+        m_failed.remove(path);
+        return;
+    }
+    if (m_failed.contains(path))
+        return;
+    m_failed.insert(path);
+    qCWarning(workspaceLog, "cannot launch %ls", qUtf16Printable(path));
+}
+
+bool LinuxWorkspace::launch(const QString& path) const
+{
+    std::error_code error;
+    const auto target = std::filesystem::absolute(pathBytes(path).toStdString(), error);
+    if (path.isEmpty() || error || !std::filesystem::exists(target, error))
+        return false;
+    const QByteArray absolutePath = QByteArray::fromStdString(target);
+    const bool isProgram = !programPath(absolutePath, {}).isEmpty();
+    const QList<QByteArray> command =
+        isProgram ? QList<QByteArray>{absolutePath} : openCommand(absolutePath, m_handlerFolders);
+    return !command.isEmpty() && startDetached(command);
+}
+
+} // namespace quindle

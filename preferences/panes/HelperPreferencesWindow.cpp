@@ -1,0 +1,54 @@
+#include "preferences/panes/HelperPreferencesWindow.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWindow>
+
+#include "widgets/CloseKey.h"
+
+namespace quindle {
+
+namespace {
+
+bool closesWindow(const QKeyEvent& event)
+{
+    return isCloseKey(event) || event.matches(QKeySequence::Cancel);
+}
+
+} // namespace
+
+HelperPreferencesWindow::HelperPreferencesWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window)
+{
+}
+
+void HelperPreferencesWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (closesWindow(*event))
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+// Controls keep their presses; what arrives here is empty background or a label.
+void HelperPreferencesWindow::mousePressEvent(QMouseEvent* event)
+{
+    if (m_movableByBackground && event->button() == Qt::LeftButton)
+        startMove();
+    else
+        QWidget::mousePressEvent(event);
+}
+
+void HelperPreferencesWindow::startMove()
+{
+    windowHandle()->startSystemMove();
+}
+
+void HelperPreferencesWindow::closeEvent(QCloseEvent* event)
+{
+    if (QWidget* focused = focusWidget())
+        focused->clearFocus();
+    QWidget::closeEvent(event);
+}
+
+} // namespace quindle

@@ -1,0 +1,74 @@
+#include "preferences/panes/PaneView.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QRadioButton>
+
+#include "widgets/LinkButton.h"
+#include "widgets/QuietLabel.h"
+#include "widgets/RadioMatrix.h"
+#include "widgets/WarningImage.h"
+
+namespace quindle {
+
+namespace {
+
+// Of a column of radio buttons the first one.
+int firstLineHeight(const QWidget& control)
+{
+    const auto* first = control.findChild<QRadioButton*>();
+    return (first ? first : &control)->sizeHint().height();
+}
+
+} // namespace
+
+PaneView::PaneView(QWidget* parent)
+    : QWidget(parent)
+{
+}
+
+void PaneView::fitToFont()
+{
+    auto* grid = qobject_cast<QGridLayout*>(layout());
+    if (!grid)
+        return;
+    const int line = fontMetrics().height();
+    const int margin = line * 3 / 2;
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setHorizontalSpacing(line);
+    grid->setVerticalSpacing(line);
+    grid->setColumnMinimumWidth(0, line * 8);
+    grid->setColumnMinimumWidth(1, line * 19);
+    grid->setColumnStretch(1, 1);
+    for (QBoxLayout* box : grid->findChildren<QBoxLayout*>())
+        box->setSpacing(box->direction() == QBoxLayout::TopToBottom ? line / 3 : line / 2);
+    for (auto* matrix : findChildren<RadioMatrix*>())
+        matrix->layout()->setSpacing(matrix->isRow() ? line : line / 3);
+    alignCaptions();
+}
+
+// A caption stands at the height of the control it names, whatever stands below that control.
+void PaneView::alignCaptions()
+{
+    const QFont quiet = quietFont(font());
+    for (auto* label : findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (qobject_cast<QuietLabel*>(label))
+            label->setFont(quiet);
+        else if (const QWidget* control = label->buddy())
+            label->setMinimumHeight(firstLineHeight(*control));
+    }
+    for (auto* link : findChildren<LinkButton*>())
+        link->setFont(quiet);
+    for (auto* image : findChildren<WarningImage*>())
+        image->setFont(quiet);
+}
+
+void PaneView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitToFont();
+    QWidget::changeEvent(event);
+}
+
+} // namespace quindle

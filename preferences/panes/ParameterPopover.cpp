@@ -1,0 +1,146 @@
+#include "preferences/panes/ParameterPopover.h"
+
+#include <algorithm>
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScreen>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "facts/ValueTexts.h"
+#include "preferences/panes/PlaceholderTable.h"
+#include "preferences/panes/StatusBarTitle.h"
+#include "widgets/PopoverGeometry.h"
+#include "widgets/QuietLabel.h"
+
+namespace quindle {
+
+namespace {
+
+enum Column { TextColumn, MeaningColumn, ValueColumn, ColumnCount };
+
+// Between the marks that keep "%p" and "-1043" in order within text that runs from right to left.
+QString leftToRight(const QString& text)
+{
+    return QChar(0x2066) + text + QChar(0x2069);
+}
+
+void setUpRows(QTreeWidget& rows)
+{
+    rows.setColumnCount(ColumnCount);
+    rows.setHeaderHidden(true);
+    rows.setRootIsDecorated(false);
+    rows.setUniformRowHeights(true);
+    rows.setAllColumnsShowFocus(true);
+    rows.setFrameShape(QFrame::NoFrame);
+    rows.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rows.header()->setStretchLastSection(true);
+    rows.header()->setMinimumSectionSize(0);
+}
+
+} // namespace
+
+ParameterPopover::ParameterPopover(const StatusBarTitle& title, QLineEdit& target, QWidget* parent)
+    : QFrame(parent, Qt::Popup)
+    , m_title(title)
+    , m_target(target)
+    , m_rows(*new QTreeWidget(this))
+{
+    setFrameShape(QFrame::StyledPanel);
+    setAttribute(Qt::WA_NoMouseReplay); // the click that closes it on its button does not open it again
+    setAccessibleName(tr("Parameters"));
+    auto* hint = new QuietLabel(this);
+    hint->setFont(quietFont(font()));
+    hint->setText(tr("Choose a parameter to insert it"));
+    m_rows.setAccessibleName(tr("Parameters of the menu bar text"));
+    setUpRows(m_rows);
+    for (const Placeholder& placeholder : placeholderTable())
+        m_rows.addTopLevelItem(new QTreeWidgetItem({leftToRight(placeholder.text), placeholder.meaning}));
+    m_rows.setCurrentItem(m_rows.topLevelItem(0));
+    m_rows.installEventFilter(this);
+    connect(&m_rows, &QTreeWidget::itemClicked, this, &ParameterPopover::insertCurrent);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(hint);
+    column->addWidget(&m_rows);
+    setFocusProxy(&m_rows);
+}
+
+void ParameterPopover::showRelativeTo(const QWidget& sender)
+{
+    fillRows();
+    fitToRows();
+    const QRect anchor(sender.mapToGlobal(QPoint()), sender.size());
+    move(popoverPosition(anchor, size(), sender.screen()->availableGeometry(), sender.layoutDirection(),
+                         fontMetrics().height() / 4));
+    show();
+    m_rows.setFocus(Qt::PopupFocusReason);
+}
+
+void ParameterPopover::refresh()
+{
+    if (!isVisible())
+        return;
+    fillRows();
+    fitToRows();
+}
+
+// Enter is not left to the view: what else activates a row (one click or two) differs between desktops, and a
+// click would insert twice.
+bool ParameterPopover::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QFrame::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
+        return QFrame::eventFilter(watched, event);
+    insertCurrent();
+    return true;
+}
+
+void ParameterPopover::fillRows()
+{
+    const auto values = m_title.titleValues();
+    int row = 0;
+    for (const Placeholder& placeholder : placeholderTable()) {
+        QTreeWidgetItem* item = m_rows.topLevelItem(row++);
+        const QString value = values ? presentValue(placeholder, *values) : missingValueText();
+        item->setText(ValueColumn, leftToRight(value));
+        item->setTextAlignment(ValueColumn, Qt::AlignRight | Qt::AlignVCenter);
+        item->setData(TextColumn, Qt::AccessibleTextRole,
+                      tr("%1, %2, now %3").arg(placeholder.text, placeholder.meaning, value));
+    }
+}
+
+// Every row and every column in full, without scroll bars.
+void ParameterPopover::fitToRows()
+{
+    const int line = fontMetrics().height();
+    const int rowHeight = line * 3 / 2;
+    layout()->setContentsMargins(line / 2, line / 2, line / 2, line / 2);
+    layout()->setSpacing(line / 3);
+    int width = 0;
+    for (int column = 0; column < ColumnCount; ++column) {
+        int widest = 0;
+        for (int row = 0; row < m_rows.topLevelItemCount(); ++row) {
+            QTreeWidgetItem* item = m_rows.topLevelItem(row);
+            widest = std::max(widest, fontMetrics().horizontalAdvance(item->text(column)));
+            item->setSizeHint(column, QSize(0, rowHeight));
+        }
+        m_rows.setColumnWidth(column, widest + line);
+        width += widest + line;
+    }
+    m_rows.setFixedSize(width, rowHeight * m_rows.topLevelItemCount());
+    adjustSize();
+}
+
+void ParameterPopover::insertCurrent()
+{
+    const int row = m_rows.indexOfTopLevelItem(m_rows.currentItem());
+    m_target.insert(placeholderTable().at(static_cast<std::size_t>(row)).text);
+    Q_EMIT inserted();
+}
+
+} // namespace quindle

@@ -1,0 +1,107 @@
+#include "preferences/panes/TitlePreview.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPainter>
+
+#include "preferences/panes/StatusBarTitle.h"
+#include "widgets/PaletteMix.h"
+#include "widgets/PlainLabel.h"
+#include "widgets/QuietLabel.h"
+
+namespace quindle {
+
+TitlePreview::TitlePreview(QWidget* parent)
+    : QWidget(parent)
+    , m_caption(*new QuietLabel(this))
+    , m_shown(*new PlainLabel(this))
+{
+    auto* row = new QHBoxLayout(this);
+    row->addWidget(&m_caption);
+    row->addWidget(&m_shown, 1);
+    m_caption.setText(tr("Now shows"));
+    m_caption.setBuddy(&m_shown);
+    m_shown.setObjectName(QStringLiteral("shownTitle"));
+    // Both ends of a title tell something, and the row stays as wide as its pane.
+    m_shown.setElideMode(Qt::ElideMiddle);
+    m_shown.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_shown.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    fitToFont();
+}
+
+void TitlePreview::follow(const QLineEdit& field, const StatusBarTitle& title)
+{
+    m_titleTemplate = field.text();
+    connect(&field, &QLineEdit::textChanged, this, &TitlePreview::setTitleTemplate);
+    follow(title);
+}
+
+void TitlePreview::follow(const StatusBarTitle& title)
+{
+    m_title = &title;
+    watch(isVisible());
+    refresh();
+}
+
+void TitlePreview::setTitleTemplate(const QString& titleTemplate)
+{
+    m_titleTemplate = titleTemplate;
+    refresh();
+}
+
+void TitlePreview::refresh()
+{
+    const auto values = m_title->titleValues();
+    const QString title = values ? titleFromTemplate(m_titleTemplate, *values) : QString();
+    const QString instead = values ? tr("no text") : tr("no text without a battery");
+    m_shown.setQuiet(title.isEmpty());
+    m_shown.setText(title.isEmpty() ? instead : title);
+    m_shown.setAccessibleName(tr("Now shows %1").arg(m_shown.text()));
+}
+
+void TitlePreview::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        fitToFont();
+    QWidget::changeEvent(event);
+}
+
+void TitlePreview::showEvent(QShowEvent* event)
+{
+    watch(true);
+    QWidget::showEvent(event);
+}
+
+void TitlePreview::hideEvent(QHideEvent* event)
+{
+    watch(false);
+    QWidget::hideEvent(event);
+}
+
+void TitlePreview::watch(bool isSeen)
+{
+    m_watched = isSeen && m_title ? m_title->watchValues() : nullptr;
+}
+
+void TitlePreview::fitToFont()
+{
+    const int line = fontMetrics().height();
+    layout()->setContentsMargins(line / 2, line * 3 / 10, line / 2, line * 3 / 10);
+    layout()->setSpacing(line);
+    m_caption.setFont(quietFont(font()));
+}
+
+void TitlePreview::paintEvent(QPaintEvent*)
+{
+    constexpr double share = 0.06;
+    const double radius = fontMetrics().height() * 0.3;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(mixed(textOf(*this), backgroundOf(*this), share));
+    painter.drawRoundedRect(rect(), radius, radius);
+}
+
+} // namespace quindle

@@ -1,0 +1,92 @@
+#include "preferences/window/FrameAutosave.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include "platform/UserDefaults.h"
+
+namespace quindle {
+
+namespace {
+
+/// The primary one first.
+std::vector<QRect> presentScreens()
+{
+    std::vector<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens())
+        screens.push_back(screen->availableGeometry());
+    return screens;
+}
+
+} // namespace
+
+FrameAutosave::FrameAutosave(QWidget& window, UserDefaults& defaults, QString name, bool placesWindows,
+                             std::chrono::milliseconds settleTime)
+    : m_window(window)
+    , m_defaults(defaults)
+    , m_name(std::move(name))
+    , m_placesWindows(placesWindows)
+{
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(settleTime);
+    connect(&m_settled, &QTimer::timeout, this, &FrameAutosave::save);
+    window.installEventFilter(this);
+}
+
+FrameAutosave::~FrameAutosave()
+{
+    if (m_settled.isActive())
+        save();
+}
+
+bool FrameAutosave::restore()
+{
+    m_restored = stored();
+    if (!m_restored)
+        return false;
+    m_window.resize(m_restored->frame.size());
+    placeAtRestored();
+    return true;
+}
+
+void FrameAutosave::placeAtRestored()
+{
+    if (!m_restored || !m_placesWindows)
+        return;
+    const QRect frame(m_restored->frame.topLeft(), m_window.frameGeometry().size());
+    m_window.move(placedFrame({frame, m_restored->screen}, presentScreens()).topLeft());
+}
+
+bool FrameAutosave::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Move && m_window.isVisible())
+        m_settled.start();
+    if (event->type() == QEvent::Hide && !event->spontaneous())
+        save();
+    return QObject::eventFilter(watched, event);
+}
+
+std::optional<WindowFrame> FrameAutosave::stored() const
+{
+    const QVariant value = m_defaults.object(m_name);
+    if (value.typeId() != QMetaType::QString)
+        return std::nullopt;
+    return frameFromText(value.toString());
+}
+
+void FrameAutosave::save()
+{
+    m_settled.stop();
+    WindowFrame frame{m_window.frameGeometry(), m_window.screen()->availableGeometry()};
+    if (!m_placesWindows) {
+        const QSize size = frame.frame.size();
+        const auto former = stored();
+        frame.frame = former ? QRect(former->frame.topLeft(), size) : centredFrame(size, frame.screen);
+        frame.screen = former ? former->screen : frame.screen;
+    }
+    m_defaults.setObject(m_name, frameText(frame));
+}
+
+} // namespace quindle

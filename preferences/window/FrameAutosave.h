@@ -1,0 +1,54 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+
+#include <QObject>
+#include <QTimer>
+
+#include "preferences/window/WindowFrame.h"
+
+class QWidget;
+
+namespace quindle {
+
+class UserDefaults;
+
+/// Keeps a window's frame under a name: stored when the window has been moved and rests, and when it is
+/// hidden; never while it is on its way.
+class FrameAutosave : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Where the desktop does not let a window have a position (`placesWindows` false), only the size counts;
+    /// a position stored under another desktop stays. `settleTime`: how long a window that was moved rests.
+    FrameAutosave(QWidget& window, UserDefaults& defaults, QString name, bool placesWindows,
+                  std::chrono::milliseconds settleTime = std::chrono::milliseconds(500));
+
+    /// Stores what has not been stored yet.
+    ~FrameAutosave() override;
+
+    /// Gives the window the frame stored under the name; false when there is none.
+    bool restore();
+
+    /// Moves the window, which may have another size since, to where the restored frame was; within the
+    /// screens there are.
+    void placeAtRestored();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    std::optional<WindowFrame> stored() const;
+    void save();
+
+    QWidget& m_window;
+    UserDefaults& m_defaults;
+    QString m_name;
+    bool m_placesWindows;
+    std::optional<WindowFrame> m_restored;
+    QTimer m_settled;
+};
+
+} // namespace quindle

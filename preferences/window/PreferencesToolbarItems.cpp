@@ -1,0 +1,122 @@
+#include "preferences/window/PreferencesToolbarItems.h"
+
+#include "preferences/window/QDPreferencesWindowControllerProtocol.h"
+
+namespace quindle {
+
+namespace {
+
+QStringList paneIdentifiers(const PreferencesPanes& panes)
+{
+    QStringList identifiers;
+    for (const QDPreferencesWindowControllerProtocol* pane : panes)
+        identifiers.append(pane->preferencesIdentifier());
+    return identifiers;
+}
+
+ToolbarItem paneItem(const QDPreferencesWindowControllerProtocol& pane)
+{
+    const QString title = pane.preferencesTitle();
+    return {ToolbarItem::Kind::Pane, pane.preferencesIdentifier(), title, title,
+            pane.preferencesIcon(),  pane.preferencesToolTip()};
+}
+
+} // namespace
+
+QString preferencesToolbarIdentifier()
+{
+    return QStringLiteral("PreferencesMainToolbar");
+}
+
+QString segmentedControlIdentifier()
+{
+    return QStringLiteral("PreferencesToolbarSegmentedControl");
+}
+
+QString flexibleSpaceIdentifier()
+{
+    return QStringLiteral("FlexibleSpace");
+}
+
+std::optional<ToolbarConfiguration> toolbarConfiguration(const PreferencesPanes& panes,
+                                                         const PreferencesToolbarFlags& flags)
+{
+    if (panes.empty() || (panes.size() == 1 && !flags.showToolbarWithSingleViewController))
+        return std::nullopt;
+    const bool segmented = flags.showToolbarItemsAsSegmentedControl;
+    return ToolbarConfiguration{preferencesToolbarIdentifier(), flags.showToolbarSeparator, !segmented,
+                                !segmented,
+                                segmented ? ToolbarDisplayMode::IconOnly : ToolbarDisplayMode::Default};
+}
+
+QStringList toolbarItemIdentifiers(const PreferencesPanes& panes, const PreferencesToolbarFlags& flags)
+{
+    QStringList identifiers = flags.showToolbarItemsAsSegmentedControl
+                                  ? QStringList{segmentedControlIdentifier()}
+                                  : paneIdentifiers(panes);
+    if (flags.centerToolbarItems) {
+        identifiers.prepend(flexibleSpaceIdentifier());
+        identifiers.append(flexibleSpaceIdentifier());
+    }
+    return identifiers;
+}
+
+QStringList toolbarSelectableItemIdentifiers(const PreferencesPanes& panes,
+                                             const PreferencesToolbarFlags& flags)
+{
+    return flags.showToolbarItemsAsSegmentedControl ? QStringList() : paneIdentifiers(panes);
+}
+
+std::optional<ToolbarItem> toolbarItem(const PreferencesPanes& panes, const QString& identifier)
+{
+    if (const auto* pane = paneWithIdentifier(panes, identifier))
+        return paneItem(*pane);
+    ToolbarItem item;
+    item.identifier = identifier;
+    if (identifier == segmentedControlIdentifier())
+        item.kind = ToolbarItem::Kind::SegmentedControl;
+    else if (identifier == flexibleSpaceIdentifier())
+        item.kind = ToolbarItem::Kind::FlexibleSpace;
+    else
+        return std::nullopt;
+    return item;
+}
+
+QDPreferencesWindowControllerProtocol* paneWithIdentifier(const PreferencesPanes& panes,
+                                                          const QString& identifier)
+{
+    for (QDPreferencesWindowControllerProtocol* pane : panes)
+        if (pane->preferencesIdentifier() == identifier)
+            return pane;
+    return nullptr;
+}
+
+qsizetype firstPaneItemIndex(const PreferencesToolbarFlags& flags)
+{
+    return flags.centerToolbarItems ? 1 : 0;
+}
+
+QStringList titlesWithMnemonics(const QStringList& titles)
+{
+    QString taken;
+    QStringList marked;
+    for (const QString& title : titles) {
+        QString text;
+        bool isMarked = false;
+        for (const QChar character : title) {
+            if (!isMarked && character.isLetterOrNumber() &&
+                !taken.contains(character, Qt::CaseInsensitive)) {
+                isMarked = true;
+                taken += character;
+                text += QLatin1Char('&');
+            } else if (character == QLatin1Char('&')) {
+                text += QLatin1Char('&');
+            }
+            text += character;
+        }
+        marked.append(text);
+    }
+    return marked;
+}
+
+} // namespace quindle

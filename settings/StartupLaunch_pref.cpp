@@ -1,0 +1,59 @@
+#include "settings/StartupLaunch_pref.h"
+
+#include <optional>
+
+#include <QString>
+
+#include "platform/FileUrl.h"
+#include "platform/HelperBundle.h"
+#include "platform/LoginItems.h"
+
+namespace quindle {
+
+namespace {
+
+QString insertLocation(const QString& bundlePath)
+{
+    return fileUrl(helperBundlePath(bundlePath));
+}
+
+/// What is inserted has no slash at its end, what is searched for has one: an item resolves to the bundle's
+/// folder. Items are brought to the same form, because a list may hold either.
+QString searchLocation(const QString& bundlePath)
+{
+    return normalFileUrl(insertLocation(bundlePath));
+}
+
+std::optional<LoginItems::Item> helperItem(LoginItems& items, const QString& bundlePath)
+{
+    const auto snapshot = items.snapshot();
+    if (!snapshot)
+        return std::nullopt;
+    const QString wanted = searchLocation(bundlePath);
+    for (const LoginItems::Item item : *snapshot) {
+        const auto url = items.resolve(item);
+        if (url && normalFileUrl(*url) == wanted)
+            return item;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+bool StartupLaunch_pref::isAppLoginItem(LoginItems& items, const QString& bundlePath)
+{
+    return helperItem(items, bundlePath).has_value();
+}
+
+void StartupLaunch_pref::setLaunchOnLogin(LoginItems& items, const QString& bundlePath, bool enable)
+{
+    const auto item = helperItem(items, bundlePath);
+    if (!items.snapshot()) // the list is created a second time to be changed, and may be gone by then
+        return;
+    if (enable && !item)
+        items.insertBeforeFirst(insertLocation(bundlePath));
+    else if (!enable && item)
+        items.remove(*item);
+}
+
+} // namespace quindle

@@ -1,0 +1,174 @@
+#include <string>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "platform/linux/session/LinuxRunLoop.h"
+
+using namespace quindle;
+
+namespace {
+
+// Runs the event loop until `done`, at most for a few seconds.
+template <typename Condition>
+bool runUntil(Condition done)
+{
+    QElapsedTimer watch;
+    watch.start();
+    while (!done() && watch.elapsed() < 5000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
+    return done();
+}
+
+void runFor(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+TEST(LinuxRunLoop, FiresAgainAndAgain)
+{
+    LinuxRunLoop runLoop;
+    int fired = 0;
+    QElapsedTimer watch;
+    watch.start();
+    runLoop.scheduleRepeatingTimer(0.02, 0, [&] { ++fired; });
+    EXPECT_TRUE(runUntil([&] { return fired >= 3; }));
+    EXPECT_GE(watch.nsecsElapsed(), 60'000'000);
+}
+
+TEST(LinuxRunLoop, TolerantTimerWaitsForTheOther)
+{
+    QElapsedTimer watch;
+    watch.start();
+    bool runs = false;
+    LinuxRunLoop runLoop([&] { return runs ? static_cast<double>(watch.nsecsElapsed()) / 1e9 : 0; });
+    std::string fired;
+    runLoop.scheduleRepeatingTimer(0.05, 0.05, [&] { fired += 'a'; });
+    runLoop.scheduleRepeatingTimer(0.1, 0, [&] { fired += 'b'; });
+    runs = true;
+    EXPECT_TRUE(runUntil([&] { return fired.size() >= 2; }));
+    EXPECT_EQ(fired, "ab");
+}
+
+TEST(LinuxRunLoop, InvalidatedTimerIsSilent)
+{
+    LinuxRunLoop runLoop;
+    int fired = 0;
+    int other = 0;
+    const auto timer = runLoop.scheduleRepeatingTimer(0.01, 0, [&] { ++fired; });
+    runLoop.scheduleRepeatingTimer(0.01, 0, [&] { ++other; });
+    timer->invalidate();
+    timer->invalidate();
+    EXPECT_TRUE(runUntil([&] { return other >= 3; }));
+    EXPECT_EQ(fired, 0);
+}
+
+TEST(LinuxRunLoop, TimersChangeInsideACallback)
+{
+    LinuxRunLoop runLoop;
+    std::string fired;
+    std::shared_ptr<Timer> first;
+    std::shared_ptr<Timer> second;
+    first = runLoop.scheduleRepeatingTimer(0.02, 0.02, [&] {
+        fired += '1';
+        first->invalidate();
+        second->invalidate();
+        runLoop.scheduleRepeatingTimer(0.01, 0, [&] { fired += '3'; });
+    });
+    second = runLoop.scheduleRepeatingTimer(0.02, 0.02, [&] { fired += '2'; });
+    EXPECT_TRUE(runUntil([&] { return fired.size() >= 3; }));
+    EXPECT_EQ(fired.substr(0, 3), "133"); // a slow machine makes up for more ticks at once
+}
+
+TEST(LinuxRunLoop, TicksGoOnInALoopInsideACallback)
+{
+    LinuxRunLoop runLoop;
+    int other = 0;
+    bool entered = false;
+    int duringCallback = 0;
+    runLoop.scheduleRepeatingTimer(0.01, 0, [&] {
+        if (std::exchange(entered, true))
+            return;
+        runFor(100);
+        duringCallback = other;
+    });
+    runLoop.scheduleRepeatingTimer(0.01, 0, [&] { ++other; });
+    EXPECT_TRUE(runUntil([&] { return duringCallback > 0; }));
+    EXPECT_GE(duringCallback, 2);
+}
+
+TEST(LinuxRunLoop, MissedTicksArePassedOver)
+{
+    double now = 0;
+    LinuxRunLoop runLoop([&] { return now; });
+    int fired = 0;
+    runLoop.scheduleRepeatingTimer(0.01, 0, [&] { ++fired; });
+    now = 10;
+    EXPECT_TRUE(runUntil([&] { return fired == 1; }));
+    runFor(50);
+    EXPECT_EQ(fired, 1);
+}
+
+TEST(LinuxRunLoop, TicksComeOnTimeWhileSomebodyWantsThem)
+{
+    double now = 0;
+    LinuxRunLoop runLoop([&] { return now; });
+    std::string fired;
+    runLoop.scheduleRepeatingTimer(1000, 1000, [&] { fired += 'a'; });
+    runLoop.scheduleRepeatingTimer(2000, 0, [&] { fired += 'b'; });
+    now = 1500;
+    Punctuality wanted = runLoop.keepPunctual();
+    const Punctuality copy = wanted;
+    wanted = runLoop.keepPunctual();
+    EXPECT_TRUE(runUntil([&] { return fired == "a"; })); // at once
+    now = 2000;
+    wanted.reset();
+    EXPECT_TRUE(runUntil([&] { return fired == "aab"; }));
+    now = 3500;
+    wanted = runLoop.keepPunctual();
+    EXPECT_TRUE(runUntil([&] { return fired == "aaba"; }));
+}
+
+TEST(LinuxRunLoop, TicksMayBeLateAgainWhenNobodyWantsThemOnTime)
+{
+    double now = 0;
+    LinuxRunLoop runLoop([&] { return now; });
+    int fired = 0;
+    runLoop.scheduleRepeatingTimer(1000, 1000, [&] { ++fired; });
+    runLoop.scheduleRepeatingTimer(2000, 0, [] {});
+    runLoop.keepPunctual();
+    now = 1500;
+    runLoop.keepPunctual().reset();
+    runFor(20);
+    EXPECT_EQ(fired, 0);
+}
+
+TEST(LinuxRunLoop, AWishMayOutliveTheLoop)
+{
+    Punctuality wanted;
+    {
+        LinuxRunLoop runLoop;
+        wanted = runLoop.keepPunctual();
+    }
+    wanted.reset();
+}
+
+TEST(LinuxRunLoop, LettingGoOfTimerOrLoopIsSafe)
+{
+    int fired = 0;
+    std::shared_ptr<Timer> timer;
+    {
+        LinuxRunLoop runLoop;
+        timer = runLoop.scheduleRepeatingTimer(0.005, 0, [&] { ++fired; });
+    }
+    timer->invalidate();
+    runFor(30);
+    EXPECT_EQ(fired, 0);
+}
+
+} // namespace

@@ -1,0 +1,390 @@
+#include <csignal>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
+
+#include <QRegularExpression>
+
+#include "platform/linux/os/UserFolders.h"
+#include "platform/linux/settings/LinuxUserDefaults.h"
+#include "tests/platform/UserDefaultsContract.h"
+#include "tests/platform/linux/settings/TemporarySettings.h"
+#include "tests/support/BinaryPropertyList.h"
+
+using namespace quindle;
+
+namespace quindle {
+
+struct LinuxDatabases
+{
+    UserDefaultsDatabases& databases() { return m_databases; }
+
+private:
+    QTemporaryDir m_root;
+    LinuxUserDefaultsDatabases m_databases{m_root.path() + QStringLiteral("/a/quindle")};
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, UserDefaultsContract, LinuxDatabases);
+
+} // namespace quindle
+
+namespace {
+
+const QString key = QStringLiteral("key");
+
+class LinuxUserDefaultsTest : public TemporarySettings
+{
+protected:
+    unsigned modeOf(const QString& name) const
+    {
+        struct stat found = {};
+        EXPECT_EQ(::stat(QFile::encodeName(name).constData(), &found), 0);
+        return found.st_mode & 07777;
+    }
+
+    ino_t inode() const
+    {
+        struct stat found = {};
+        EXPECT_EQ(::stat(QFile::encodeName(path()).constData(), &found), 0);
+        return found.st_ino;
+    }
+};
+
+TEST_F(LinuxUserDefaultsTest, FolderFollowsTheConfigurationHome)
+{
+    struct Row
+    {
+        const char* configuration;
+        const char* home;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {"/x/conf", "/home/u", "/x/conf/quindle"},
+        {"", "/home/u", "/home/u/.config/quindle"},
+        {"relative", "/home/u", "/home/u/.config/quindle"},
+        {"~/conf", "/home/u", "/home/u/.config/quindle"},
+        {"", "relative", ""},
+    };
+    const QByteArray oldConfiguration = qgetenv("XDG_CONFIG_HOME");
+    const QByteArray oldHome = qgetenv("HOME");
+    for (const Row& row : rows) {
+        qputenv("XDG_CONFIG_HOME", row.configuration);
+        qputenv("HOME", row.home);
+        EXPECT_EQ(settingsFolder(), QString::fromLatin1(row.expected));
+    }
+    qputenv("XDG_CONFIG_HOME", oldConfiguration);
+    qputenv("HOME", oldHome);
+}
+
+TEST_F(LinuxUserDefaultsTest, FilesAreNamedAfterTheDomains)
+{
+    LinuxUserDefaultsDatabases databases(folder());
+    databases.standard().setInteger(key, 1);
+    databases.suite(QStringLiteral("group.fernhollow.Quindle"))->setInteger(key, 2);
+    EXPECT_EQ(files(), (QStringList{QStringLiteral("com.fernhollow.Quindle-Helper.plist"),
+                                    QStringLiteral("group.fernhollow.Quindle.plist")}));
+    EXPECT_EQ(databases.suite(QStringLiteral("../x")), nullptr);
+    EXPECT_EQ(databases.suite(QString()), nullptr);
+    EXPECT_TRUE(messages().isEmpty());
+}
+
+TEST_F(LinuxUserDefaultsTest, WithoutAFolderNothingIsStored)
+{
+    LinuxUserDefaultsDatabases databases{QString()};
+    EXPECT_EQ(databases.suite(QStringLiteral("group.fernhollow.Quindle")), nullptr);
+    databases.standard().setInteger(key, 1);
+    databases.standard().setInteger(key, 2);
+    EXPECT_FALSE(databases.standard().object(key).isValid());
+    EXPECT_EQ(messages().size(), 1);
+}
+
+TEST_F(LinuxUserDefaultsTest, ReadingMakesNoFile)
+{
+    const LinuxUserDefaults defaults(path());
+    EXPECT_FALSE(defaults.object(key).isValid());
+    EXPECT_FALSE(QDir(folder()).exists());
+    EXPECT_TRUE(messages().isEmpty());
+}
+
+TEST_F(LinuxUserDefaultsTest, FileAndFolderAreTheUsersAlone)
+{
+    const mode_t former = ::umask(0);
+    LinuxUserDefaults defaults(path());
+    defaults.setInteger(key, 1);
+    ::umask(former);
+    EXPECT_EQ(modeOf(folder()), 0700u);
+    EXPECT_EQ(modeOf(path()), 0600u);
+    EXPECT_EQ(modeOf(path() + QStringLiteral(".lock")), 0600u);
+    EXPECT_TRUE(bytesOf(path()).startsWith("<?xml"));
+}
+
+TEST_F(LinuxUserDefaultsTest, ReadsBinaryAndKeepsTheRestOfTheFile)
+{
+    writeBytes(path(), binaryPropertyList({QByteArray("\xd1\1\2"), "\x55other", "\x10\x0c"}));
+    LinuxUserDefaults defaults(path());
+    EXPECT_EQ(defaults.integer(QStringLiteral("other")), 12);
+    defaults.setObject(key, QStringLiteral("x"));
+    EXPECT_EQ(defaults.dictionaryRepresentation(),
+              (QVariantMap{{key, QStringLiteral("x")}, {QStringLiteral("other"), qint64(12)}}));
+}
+
+TEST_F(LinuxUserDefaultsTest, SameTypeAndValueWritesNothing)
+{
+    LinuxUserDefaults defaults(path());
+    const QVariant values[] = {
+        true,          qint64(1),          1.0,
+        QString(u'1'), QVariantList{1, 2}, QDateTime::fromMSecsSinceEpoch(1'700'000'000'000),
+    };
+    for (const QVariant& value : values) {
+        const QByteArray before = QFile::exists(path()) ? bytesOf(path()) : QByteArray();
+        defaults.setObject(key, value);
+        EXPECT_NE(bytesOf(path()), before) << value.typeName();
+        const ino_t written = inode();
+        // Holds the inode, so that a replacement cannot be given the same one.
+        QFile held(path());
+        ASSERT_TRUE(held.open(QIODevice::ReadOnly));
+        defaults.setObject(key, value);
+        EXPECT_EQ(inode(), written) << value.typeName();
+    }
+}
+
+TEST_F(LinuxUserDefaultsTest, ValuesOfNoPropertyListTypeAreNotStored)
+{
+    LinuxUserDefaults defaults(path());
+    defaults.setInteger(key, 1);
+    defaults.setObject(key, QVariant());
+    defaults.setObject(key, QVariant());
+    EXPECT_EQ(defaults.integer(key), 1);
+    EXPECT_EQ(messages().size(), 1);
+}
+
+TEST_F(LinuxUserDefaultsTest, SeesAnotherWriterAtTheNextRead)
+{
+    const LinuxUserDefaults reader(path());
+    LinuxUserDefaults writer(path());
+    for (int value = 1; value < 20; ++value) {
+        writer.setInteger(key, value);
+        EXPECT_EQ(reader.integer(key), value);
+    }
+    QFile::remove(path());
+    EXPECT_FALSE(reader.object(key).isValid());
+}
+
+// Same file, same size, same times as far as a program can set them.
+TEST_F(LinuxUserDefaultsTest, SeesAnEditInPlaceAtTheNextRead)
+{
+    const LinuxUserDefaults reader(path());
+    const timespec times[] = {{1'700'000'000, 0}, {1'700'000'000, 0}};
+    for (int round = 0; round < 300; ++round) {
+        writeBytes(path(), listOf(key, QString(QChar(u'a' + round % 26))));
+        ::utimensat(AT_FDCWD, QFile::encodeName(path()).constData(), times, 0);
+        ASSERT_EQ(reader.object(key), QVariant(QString(QChar(u'a' + round % 26)))) << round;
+    }
+}
+
+TEST_F(LinuxUserDefaultsTest, ParsesAnUnchangedFileOnce)
+{
+    writeBytes(path(), listOf(key, QStringLiteral("text")));
+    std::this_thread::sleep_for(std::chrono::milliseconds(80));
+    PropertyListFile file(QFile::encodeName(path()));
+    EXPECT_EQ(file.refresh(), PropertyListFile::State::Good);
+    const QVariantMap kept = file.contents();
+    EXPECT_EQ(file.refresh(), PropertyListFile::State::Good);
+    EXPECT_EQ(file.contents().constBegin().key().constData(), kept.constBegin().key().constData());
+}
+
+TEST_F(LinuxUserDefaultsTest, DamagedFilesAreSetAside)
+{
+    const QByteArray good = listOf(key, 1);
+    const QByteArray damages[] = {
+        "",
+        "nonsense",
+        "bplist00",
+        "<plist><array/></plist>",
+        "<plist><string>x</string></plist>",
+        good.left(good.size() / 2),
+        QByteArray(100, '\0'),
+    };
+    for (const QByteArray& damage : damages) {
+        QDir(folder()).removeRecursively();
+        messages().clear();
+        writeBytes(path(), damage);
+        LinuxUserDefaults defaults(path());
+        EXPECT_TRUE(defaults.dictionaryRepresentation().isEmpty()) << damage.toStdString();
+        EXPECT_FALSE(defaults.object(key).isValid());
+        const QStringList left = files();
+        ASSERT_EQ(left.size(), 1) << damage.toStdString();
+        const QRegularExpression name(QStringLiteral("^group\\.plist\\.damaged-\\d{8}-\\d{6}(-\\d+)?$"));
+        EXPECT_TRUE(name.match(left.first()).hasMatch()) << left.first().toStdString();
+        EXPECT_EQ(bytesOf(folder() + u'/' + left.first()), damage);
+        ASSERT_EQ(messages().size(), 1);
+        EXPECT_TRUE(messages().first().contains(path()));
+        defaults.setInteger(key, 5);
+        EXPECT_EQ(defaults.integer(key), 5);
+    }
+}
+
+TEST_F(LinuxUserDefaultsTest, OneSetAsideIsNeverReplaced)
+{
+    LinuxUserDefaults defaults(path());
+    QSet<QByteArray> expected;
+    for (int round = 0; round < 5; ++round) {
+        const QByteArray damage = "damage " + QByteArray::number(round);
+        expected.insert(damage);
+        writeBytes(path(), damage);
+        defaults.setInteger(key, round);
+        EXPECT_EQ(defaults.integer(key), round);
+    }
+    QSet<QByteArray> found;
+    for (const QString& name : files().filter(QStringLiteral("damaged")))
+        found.insert(bytesOf(folder() + u'/' + name));
+    EXPECT_EQ(found, expected);
+}
+
+// An editor empties the file first; what it writes a moment later must not land in the file set aside.
+TEST_F(LinuxUserDefaultsTest, WaitsForAnEditorToFinish)
+{
+    writeBytes(path(), "");
+    const LinuxUserDefaults defaults(path());
+    std::thread editor([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        writeBytes(path(), listOf(key, 7));
+    });
+    const qint64 value = defaults.integer(key);
+    editor.join();
+    EXPECT_EQ(value, 7);
+    EXPECT_EQ(files(), QStringList{QStringLiteral("group.plist")});
+    EXPECT_TRUE(messages().isEmpty());
+}
+
+// The kernel's own file is empty by its size, and nobody may write beside it.
+TEST_F(LinuxUserDefaultsTest, DamagedWhereNothingCanBeWrittenIsLeftAlone)
+{
+    LinuxUserDefaults defaults(QStringLiteral("/proc/version"));
+    for (int round = 0; round < 3; ++round)
+        EXPECT_FALSE(defaults.object(key).isValid());
+    EXPECT_EQ(messages().size(), 1);
+    defaults.setInteger(key, 1);
+    defaults.setInteger(key, 1);
+    EXPECT_EQ(messages().size(), 2);
+    EXPECT_FALSE(bytesOf(QStringLiteral("/proc/version")).isEmpty());
+}
+
+TEST_F(LinuxUserDefaultsTest, AFileInPlaceOfTheFolder)
+{
+    writeBytes(folder(), "x");
+    LinuxUserDefaults defaults(path());
+    EXPECT_FALSE(defaults.object(key).isValid());
+    EXPECT_TRUE(messages().isEmpty());
+    defaults.setInteger(key, 1);
+    defaults.setInteger(key, 2);
+    EXPECT_EQ(messages().size(), 1);
+    EXPECT_EQ(bytesOf(folder()), "x");
+}
+
+TEST_F(LinuxUserDefaultsTest, WhatIsNoReadableFileIsReadAsNothingAndKept)
+{
+    const std::function<void()> obstacles[] = {
+        [this] { QDir().mkpath(path()); },
+        [this] { ::mkfifo(QFile::encodeName(path()).constData(), 0600); },
+        [this] { QFile::link(path(), path()); },
+        [this] {
+            writeBytes(path(), listOf(key, 1));
+            EXPECT_EQ(::truncate(QFile::encodeName(path()).constData(), 16 * 1024 * 1024 + 1), 0);
+        },
+    };
+    for (const auto& obstacle : obstacles) {
+        QDir(folder()).removeRecursively();
+        QDir().mkpath(folder());
+        messages().clear();
+        obstacle();
+        LinuxUserDefaults defaults(path());
+        EXPECT_FALSE(defaults.object(key).isValid());
+        EXPECT_FALSE(defaults.object(key).isValid());
+        EXPECT_EQ(messages().size(), 1);
+        defaults.setInteger(key, 1);
+        defaults.setInteger(key, 1);
+        EXPECT_EQ(messages().size(), 2);
+        EXPECT_EQ(files(), QStringList{QStringLiteral("group.plist")});
+    }
+}
+
+// The defaults in place of the user's settings would change title and icon while a network home is away.
+TEST_F(LinuxUserDefaultsTest, WhatCannotBeReadAnyMoreIsWhatItWas)
+{
+    writeBytes(path(), listOf(key, 1));
+    LinuxUserDefaults defaults(path());
+    EXPECT_EQ(defaults.integer(key), 1);
+    QFile::remove(path());
+    QDir().mkpath(path()); // as unreadable as a file of a server that is away, also for root
+    for (int time = 0; time < 3; ++time)
+        EXPECT_EQ(defaults.integer(key), 1);
+    EXPECT_EQ(messages().size(), 1);
+    defaults.setInteger(key, 2);
+    EXPECT_EQ(defaults.integer(key), 1);
+    QDir().rmdir(path());
+    EXPECT_FALSE(defaults.object(key).isValid());
+    writeBytes(path(), listOf(key, 3));
+    EXPECT_EQ(defaults.integer(key), 3);
+}
+
+TEST_F(LinuxUserDefaultsTest, FullDiskChangesNothing)
+{
+    LinuxUserDefaults defaults(path());
+    defaults.setInteger(key, 1);
+    const QByteArray before = bytesOf(path());
+
+    rlimit former = {};
+    ::getrlimit(RLIMIT_FSIZE, &former);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small = {64, former.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    defaults.setInteger(key, 2);
+    defaults.setInteger(key, 3);
+    ::setrlimit(RLIMIT_FSIZE, &former);
+    std::signal(SIGXFSZ, handler);
+
+    EXPECT_EQ(bytesOf(path()), before);
+    EXPECT_EQ(defaults.integer(key), 1);
+    EXPECT_EQ(files(), QStringList{QStringLiteral("group.plist")});
+    EXPECT_EQ(messages().size(), 1);
+    defaults.setInteger(key, 2);
+    EXPECT_EQ(defaults.integer(key), 2);
+}
+
+TEST_F(LinuxUserDefaultsTest, ALinkStaysALink)
+{
+    const QString target = m_root.path() + QStringLiteral("/dotfiles/q.plist");
+    QDir().mkpath(folder());
+    QDir().mkpath(m_root.path() + QStringLiteral("/dotfiles"));
+    // Relative, and not leading anywhere yet.
+    ASSERT_EQ(::symlink("../dotfiles/q.plist", QFile::encodeName(path()).constData()), 0);
+    LinuxUserDefaults defaults(path());
+    defaults.setInteger(key, 1);
+    EXPECT_EQ(bytesOf(target), bytesOf(path()));
+    writeBytes(target, "damaged");
+    EXPECT_FALSE(defaults.object(key).isValid());
+    defaults.setInteger(key, 2);
+    EXPECT_EQ(propertyListFromFile(target)->toMap().value(key), QVariant(qint64(2)));
+    EXPECT_TRUE(QFileInfo(path()).isSymLink());
+    EXPECT_EQ(files(), QStringList{QStringLiteral("group.plist")});
+    EXPECT_EQ(QDir(m_root.path() + QStringLiteral("/dotfiles")).entryList(QDir::Files | QDir::Hidden).size(),
+              2);
+}
+
+TEST_F(LinuxUserDefaultsTest, LeftoversOfTheKilledAreRemovedByTheNextWriter)
+{
+    LinuxUserDefaults defaults(path());
+    const QString leftover = folder() + QStringLiteral("/.group.plist.new-a1B2c3");
+    const QString foreign = folder() + QStringLiteral("/.other.plist.new-a1B2c3");
+    writeBytes(leftover, "half");
+    writeBytes(foreign, "half");
+    EXPECT_FALSE(defaults.object(key).isValid());
+    EXPECT_TRUE(QFile::exists(leftover));
+    defaults.setInteger(key, 1);
+    EXPECT_FALSE(QFile::exists(leftover));
+    EXPECT_TRUE(QFile::exists(foreign));
+}
+
+} // namespace

@@ -1,0 +1,95 @@
+#include "view/BatteryPopup.h"
+
+#include <QApplication>
+#include <QCursor>
+
+#include "menubar/MainInterface.h"
+#include "platform/Application.h"
+#include "platform/RunLoop.h"
+#include "view/BatteryWindow.h"
+
+namespace quindle {
+
+namespace {
+
+BatteryWindow::Kind windowKind(const Application& application)
+{
+    using Kind = BatteryWindow::Kind;
+    const bool placesWindows = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    if (placesWindows)
+        return Kind::Plain;
+    return application.showsTranslucentWindows() ? Kind::RoundPopup : Kind::Popup;
+}
+
+} // namespace
+
+BatteryPopup::BatteryPopup(MainInterface& interface, const Application& application, RunLoop& runLoop,
+                           QObject* parent)
+    : QObject(parent)
+    , m_interface(interface)
+    , m_application(application)
+    , m_runLoop(runLoop)
+{
+    interface.statusMenu().setViewOpener([this] { open(); });
+    interface.statusMenu().setViewToggler([this] { toggle(); });
+    interface.statusMenu().addObserver([popup = QPointer(this)](int id) {
+        if (popup && popup->m_window)
+            popup->m_window->updateEntry(id);
+    });
+    interface.setFactsObserver([this] {
+        if (m_window)
+            m_window->updateFacts();
+    });
+}
+
+BatteryPopup::~BatteryPopup()
+{
+    m_interface.statusMenu().setViewOpener({});
+    m_interface.statusMenu().setViewToggler({});
+    m_interface.setFactsObserver({});
+    delete m_window;
+}
+
+bool BatteryPopup::isOpen() const
+{
+    return m_window && m_window->isVisible();
+}
+
+void BatteryPopup::open()
+{
+    if (isOpen()) {
+        m_window->raise();
+        m_window->activateWindow();
+        return;
+    }
+    m_window = new BatteryWindow(m_interface, windowKind(m_application));
+    m_window->setPunctuality(m_runLoop.keepPunctual());
+    m_window->setClosedOutside([this] {
+        m_closedAt = QCursor::pos();
+        m_sinceClosedOutside.start();
+    });
+    m_window->open(QCursor::pos());
+}
+
+void BatteryPopup::close()
+{
+    if (m_window)
+        m_window->close();
+}
+
+void BatteryPopup::toggle()
+{
+    if (isOpen())
+        close();
+    else if (!isSameClick())
+        open();
+}
+
+bool BatteryPopup::isSameClick() const
+{
+    return m_sinceClosedOutside.isValid() &&
+           m_sinceClosedOutside.elapsed() < QApplication::doubleClickInterval() &&
+           (QCursor::pos() - m_closedAt).manhattanLength() < QApplication::startDragDistance();
+}
+
+} // namespace quindle

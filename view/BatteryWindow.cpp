@@ -1,0 +1,253 @@
+#include "view/BatteryWindow.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "battery/QDBattery.h"
+#include "facts/Facts.h"
+#include "mac/QDMac.h"
+#include "menubar/MainInterface.h"
+#include "view/BatteryView.h"
+#include "view/MenuEntry.h"
+#include "view/NoBatteryView.h"
+#include "view/ViewMetrics.h"
+#include "widgets/PaletteMix.h"
+#include "widgets/PopupGeometry.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr double lineShare = 0.15;
+constexpr double borderShare = 0.25; // seen on a desktop of the window's own colour
+
+QScreen* screenAt(const QPoint& point)
+{
+    QScreen* screen = QGuiApplication::screenAt(point);
+    return screen ? screen : QGuiApplication::primaryScreen();
+}
+
+Qt::WindowFlags flagsOf(BatteryWindow::Kind kind)
+{
+    if (kind == BatteryWindow::Kind::Plain)
+        return Qt::Window;
+    return Qt::Popup | Qt::FramelessWindowHint;
+}
+
+} // namespace
+
+BatteryWindow::BatteryWindow(MainInterface& interface, Kind kind)
+    : QWidget(nullptr, flagsOf(kind))
+    , m_interface(interface)
+    , m_kind(kind)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setObjectName(QStringLiteral("batteryWindow"));
+    setWindowTitle(QStringLiteral("Battery"));
+    setBackgroundRole(QPalette::Base);
+    setAttribute(Qt::WA_TranslucentBackground, kind == Kind::RoundPopup);
+
+    auto* layout = new QVBoxLayout(this);
+    const int border = isPopup() ? 1 : 0;
+    layout->setContentsMargins(border, border, border, border);
+    layout->setSpacing(0);
+    addScrollArea(*layout);
+    updateFacts(); // before the entries: the keyboard goes through them in the order in which they were made
+    addEntries(*layout);
+}
+
+void BatteryWindow::addScrollArea(QVBoxLayout& layout)
+{
+    m_scrollArea = new QScrollArea(this); // scrolls on screens that are lower than the view
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollArea->setFocusPolicy(Qt::NoFocus);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->viewport()->setAutoFillBackground(false); // the window draws it
+    m_scrollArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    layout.addWidget(m_scrollArea, 1);
+}
+
+void BatteryWindow::setView(FactsView* view)
+{
+    if (QWidget* former = m_scrollArea->takeWidget())
+        former->deleteLater(); // it may be the one that was clicked
+    m_view = view;
+    m_scrollArea->setWidget(view);
+    view->setAutoFillBackground(false);
+    view->installEventFilter(this);
+    connect(view, &FactsView::clicked, this, &BatteryWindow::performClick);
+}
+
+// A battery may come and go while the window is open.
+void BatteryWindow::updateFacts()
+{
+    const QDMac* mac = m_interface.macObjectController().content();
+    const bool hasBattery = mac && mac->Battery();
+    const std::vector<Fact> facts = factsFor(FactPlace::View, m_interface.factSources());
+    followModels();
+    if (!m_view || hasBattery != m_showsBattery) {
+        m_showsBattery = hasBattery;
+        if (hasBattery)
+            setView(new BatteryView(m_interface));
+        else
+            setView(new NoBatteryView);
+    }
+    m_view->setFacts(facts);
+    if (isVisible())
+        fit();
+}
+
+void BatteryWindow::followModels()
+{
+    const QDMac* mac = m_interface.macObjectController().content();
+    if (!mac)
+        return;
+    connect(mac, &QDMac::changed, this, &BatteryWindow::updateFacts, Qt::UniqueConnection);
+    if (const QDBattery* battery = mac->Battery())
+        connect(battery, &QDBattery::changed, this, &BatteryWindow::updateFacts, Qt::UniqueConnection);
+}
+
+void BatteryWindow::performClick(FactClick click)
+{
+    if (QDMac* mac = m_interface.macObjectController().content())
+        quindle::performClick(click, *mac);
+}
+
+void BatteryWindow::addEntries(QVBoxLayout& layout)
+{
+    const ViewMetrics metrics(*this);
+    m_menu = new QWidget(this);
+    auto* menuLayout = new QVBoxLayout(m_menu);
+    menuLayout->setContentsMargins(0, metrics.margin / 3 + 1, 0, metrics.margin / 3);
+    menuLayout->setSpacing(0);
+    const StatusMenu& menu = m_interface.statusMenu();
+    for (int id = 1; id <= static_cast<int>(menu.rows().size()); ++id) {
+        if (menu.rows()[static_cast<std::size_t>(id) - 1].kind != StatusMenu::Kind::Action)
+            continue;
+        auto* entry = new MenuEntry(m_menu);
+        connect(entry, &MenuEntry::clicked, this, [this, id] { choose(id); });
+        menuLayout->addWidget(entry);
+        m_entries[id] = entry;
+        updateEntry(id);
+    }
+    m_menu->installEventFilter(this);
+    layout.addWidget(m_menu);
+}
+
+void BatteryWindow::updateEntry(int id)
+{
+    const auto found = m_entries.find(id);
+    if (found == m_entries.end())
+        return;
+    const StatusMenu::Row& row = m_interface.statusMenu().rows()[static_cast<std::size_t>(id) - 1];
+    found->second->setLabel(row.text);
+    found->second->setEnabled(row.enabled);
+    found->second->setVisible(row.visible);
+}
+
+void BatteryWindow::choose(int id)
+{
+    MainInterface& interface = m_interface; // closing may delete this window
+    close();
+    interface.statusMenu().choose(id);
+}
+
+void BatteryWindow::open(const QPoint& anchor)
+{
+    m_anchor = anchor;
+    fit();
+    show();
+    raise();
+    activateWindow();
+    setFocus(Qt::PopupFocusReason);
+}
+
+// As large as its content, which changes while it is open, and no larger than the screen has room for.
+void BatteryWindow::fit()
+{
+    const ViewMetrics metrics(*this);
+    m_view->layout()->activate(); // layouts within it remember rows that are hidden since
+    const QSize view = m_view->sizeHint();
+    const QSize content(m_view->maximumWidth(), view.height() + m_menu->sizeHint().height());
+    const QSize wanted = content.grownBy(layout()->contentsMargins());
+    const QRect available = screenAt(m_anchor)->availableGeometry();
+    const int gap = metrics.rowGap * 2;
+    QRect place = popupGeometry(m_anchor, wanted, available, gap);
+    if (place.height() < wanted.height()) { // it will scroll
+        const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_scrollArea);
+        place = popupGeometry(m_anchor, wanted.grownBy({0, 0, scrollBar, 0}), available, gap);
+    }
+    setFixedSize(place.size());
+    if (isPopup())
+        move(place.topLeft());
+}
+
+// Fonts change inside the scroll area, which does not pass that on.
+bool BatteryWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest && isVisible())
+        fit();
+    return QWidget::eventFilter(watched, event);
+}
+
+void BatteryWindow::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        close();
+        break;
+    case Qt::Key_Down:
+        focusNextPrevChild(true);
+        break;
+    case Qt::Key_Up:
+        focusNextPrevChild(false);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void BatteryWindow::mousePressEvent(QMouseEvent* event)
+{
+    if (isPopup() && !rect().contains(event->position().toPoint())) {
+        if (m_closedOutside)
+            m_closedOutside();
+        close();
+        return;
+    }
+    QWidget::mousePressEvent(event);
+}
+
+void BatteryWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QColor background = backgroundOf(*this);
+    const QColor text = textOf(*this);
+    const QColor line = mixed(text, background, lineShare);
+    if (m_kind == Kind::RoundPopup) {
+        const double radius = ViewMetrics(*this).radius;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(mixed(text, background, borderShare), 1));
+        painter.setBrush(background);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    } else {
+        painter.fillRect(rect(), background);
+    }
+    const int border = layout()->contentsMargins().left();
+    painter.fillRect(QRect(border, m_menu->y(), width() - 2 * border, 1), line);
+    if (m_kind == Kind::Popup) {
+        painter.setPen(mixed(text, background, borderShare));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+} // namespace quindle

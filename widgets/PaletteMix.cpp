@@ -1,0 +1,70 @@
+#include "widgets/PaletteMix.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QPalette>
+#include <QWidget>
+
+namespace quindle {
+
+namespace {
+
+constexpr double quietestShare = 0.6;
+constexpr double readableContrast = 4.5;
+
+double linear(double channel)
+{
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color)
+{
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+} // namespace
+
+QColor mixed(const QColor& text, const QColor& background, double share)
+{
+    const auto channel = [share](float front, float back) {
+        return static_cast<float>(double(front) * share + double(back) * (1 - share));
+    };
+    return QColor::fromRgbF(channel(text.redF(), background.redF()),
+                            channel(text.greenF(), background.greenF()),
+                            channel(text.blueF(), background.blueF()));
+}
+
+double contrast(const QColor& first, const QColor& second)
+{
+    const double one = luminance(first);
+    const double other = luminance(second);
+    return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
+}
+
+QColor quietText(const QColor& text, const QColor& background)
+{
+    for (double share = quietestShare; share < 1; share += 0.05) {
+        const QColor color = mixed(text, background, share);
+        if (contrast(color, background) >= readableContrast)
+            return color;
+    }
+    return text;
+}
+
+bool isDark(const QColor& background)
+{
+    return background.lightness() < 128;
+}
+
+QColor backgroundOf(const QWidget& widget)
+{
+    return widget.palette().color(widget.backgroundRole());
+}
+
+QColor textOf(const QWidget& widget)
+{
+    return widget.palette().color(widget.foregroundRole());
+}
+
+} // namespace quindle

@@ -1,0 +1,61 @@
+#include "widgets/PlainLabel.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+#include "widgets/PaletteMix.h"
+#include "widgets/PlainText.h"
+
+namespace quindle {
+
+PlainLabel::PlainLabel(QWidget* parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void PlainLabel::setQuiet(bool quiet)
+{
+    m_quiet = quiet;
+    update();
+}
+
+void PlainLabel::setElideMode(Qt::TextElideMode elideMode)
+{
+    m_elideMode = elideMode;
+    update();
+}
+
+QSize PlainLabel::sizeHint() const
+{
+    const QSize line(plainLineWidth(fontMetrics(), text()), fontMetrics().height());
+    return line.grownBy(contentsMargins());
+}
+
+QSize PlainLabel::minimumSizeHint() const
+{
+    return {0, sizeHint().height()};
+}
+
+bool PlainLabel::event(QEvent* event)
+{
+    const bool tellsWhole = event->type() == QEvent::ToolTip && toolTip().isEmpty();
+    if (!tellsWhole || sizeHint().width() <= width())
+        return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), literalToolTip(text()), this);
+    return true;
+}
+
+void PlainLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QColor color = textOf(*this);
+    painter.setPen(m_quiet ? quietText(color, backgroundOf(*this)) : color);
+    drawPlainLine(painter, contentsRect(), QStyle::visualAlignment(layoutDirection(), alignment()), text(),
+                  m_elideMode);
+}
+
+} // namespace quindle

@@ -1,0 +1,54 @@
+#include "widgets/PlainText.h"
+
+#include <algorithm>
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace quindle {
+
+namespace {
+
+// No line on a screen is longer; what comes after is not worth measuring.
+constexpr qsizetype longestMeasured = 1000;
+
+QString measured(const QString& text)
+{
+    return text.left(longestMeasured).simplified();
+}
+
+} // namespace
+
+QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignment, const QString& text,
+                    Qt::TextElideMode elideMode)
+{
+    const QString line = painter.fontMetrics().elidedText(measured(text), elideMode, rect.width());
+    const int direction = line.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    const int flags = static_cast<int>(alignment | Qt::AlignAbsolute) | Qt::TextSingleLine | direction;
+    QRect covered;
+    painter.drawText(rect, flags, line, &covered);
+    return covered;
+}
+
+int plainLineWidth(const QFontMetrics& metrics, const QString& text)
+{
+    const QString line = measured(text);
+    return std::max(metrics.horizontalAdvance(line), metrics.boundingRect(line).width()) + 1;
+}
+
+QString literalToolTip(const QString& text)
+{
+    if (text.isEmpty())
+        return {};
+    QString escaped = text.left(longestMeasured).toHtmlEscaped();
+    escaped.replace(u'\n', QStringLiteral("<br/>"));
+    return QStringLiteral("<p>") + escaped + QStringLiteral("</p>");
+}
+
+QString literalLabel(const QString& text)
+{
+    QString label = text;
+    return label.replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace quindle

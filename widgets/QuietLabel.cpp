@@ -1,0 +1,34 @@
+#include "widgets/QuietLabel.h"
+
+#include <QFontInfo>
+#include <QPainter>
+#include <QStyle>
+
+#include "widgets/PaletteMix.h"
+
+namespace quindle {
+
+QuietLabel::QuietLabel(QWidget* parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+void QuietLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(quietText(textOf(*this), backgroundOf(*this)));
+    const Qt::Alignment aligned = QStyle::visualAlignment(layoutDirection(), alignment());
+    const int wrap = wordWrap() ? Qt::TextWordWrap : 0;
+    painter.drawText(contentsRect(), static_cast<int>(aligned) | wrap, text());
+}
+
+QFont quietFont(const QFont& font)
+{
+    constexpr double share = 0.93;
+    QFont smaller = font;
+    smaller.setPointSizeF(QFontInfo(font).pointSizeF() * share);
+    return smaller;
+}
+
+} // namespace quindle
