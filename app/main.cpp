@@ -1,5 +1,6 @@
 // The helper's entry point and composition root.
 
+#include <chrono>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -17,6 +18,7 @@
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/Bundle.h"
+#include "platform/UserDefaults.h"
 #include "platform/linux/os/CoreDumps.h"
 #include "platform/linux/os/StandardError.h"
 #include "platform/linux/session/SingleInstance.h"
@@ -31,6 +33,7 @@ namespace {
 
 constexpr int cannotRun = 1;
 constexpr int wrongUsage = 2;
+constexpr std::chrono::seconds patience(5);
 
 int fail(const QString& line, int status)
 {
@@ -52,9 +55,19 @@ void leaveLoginToLoginItems(const QApplication& application)
                      [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); });
 }
 
+/// A home on a server that is away would keep the first read waiting for ever.
+void readSettingsInTime(UserDefaultsDatabases& databases)
+{
+    const StartDeadline deadline(patience, "the folder of the settings does not answer");
+    databases.standard().dictionaryRepresentation();
+    if (UserDefaults* shared = databases.suite(QStringLiteral("group.fernhollow.Quindle")))
+        shared->dictionaryRepresentation();
+}
+
 int run(QApplication& application, HelperServices& services, SingleInstance& instance)
 {
     const Platform platform = services.platform();
+    readSettingsInTime(platform.userDefaults);
     copyTextParkedByOlderHelper(platform.userDefaults);
     MainInterface interface;
     ApplicationPreferences& settings = ApplicationPreferences::sharedInstance(&platform);
@@ -80,11 +93,12 @@ int print(const QByteArray& text)
     return std::fflush(stdout) == 0 ? 0 : fail(QStringLiteral("cannot write to standard output"), wrongUsage);
 }
 
-StartAnswer answerInTime(SingleInstance& instance)
+StartAnswer answerInTime(std::optional<SingleInstance>& instance)
 {
-    constexpr unsigned seconds = 5;
-    const StartDeadline deadline(seconds);
-    return instance.start();
+    const StartDeadline deadline(patience,
+                                 "the session bus or a folder does not answer, so whether another one "
+                                 "runs is not known");
+    return instance.emplace().start();
 }
 
 int start(int argc, char** argv)
@@ -106,13 +120,13 @@ int start(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     leaveLoginToLoginItems(application);
 
-    SingleInstance instance;
+    std::optional<SingleInstance> instance;
     const StartAnswer answer = answerInTime(instance);
     if (answer.outcome != StartAnswer::Outcome::First)
         return answer.fault.isEmpty() ? 0 : fail(answer.fault, cannotRun);
     const auto services = machine ? HelperServices::ofMachine(*machine)
                                   : HelperServices::ofThisComputer(pathText(qgetenv("QUINDLE_SYSFS")));
-    return run(application, *services, instance);
+    return run(application, *services, *instance);
 }
 
 } // namespace

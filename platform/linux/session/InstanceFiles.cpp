@@ -105,11 +105,12 @@ std::optional<StartAnswer> InstanceFiles::startAt(const QString& stem)
 {
     constexpr std::chrono::seconds patience(3);
     constexpr std::chrono::milliseconds pause(20);
-    makeFolder(folderOf(pathBytes(stem)));
+    const int folderError = makeFolder(folderOf(pathBytes(stem)));
     const auto deadline = std::chrono::steady_clock::now() + patience;
     while (std::chrono::steady_clock::now() < deadline) {
         if (!takeLock(stem) && errno != EWOULDBLOCK) {
-            m_faults += QStringLiteral(" (%1.lock: %2)").arg(stem, qt_error_string(errno));
+            const int error = folderError == 0 ? errno : folderError;
+            m_faults += QStringLiteral(" (%1.lock: %2)").arg(stem, qt_error_string(error));
             return std::nullopt;
         }
         // One that still answers, although its lock file was swept away as old, is the first all the same.

@@ -1,37 +1,36 @@
 #include "platform/linux/session/StartDeadline.h"
 
-#include <csignal>
-#include <string_view>
-
 #include <unistd.h>
 
 #include "platform/linux/os/StandardError.h"
 
 namespace quindle {
 
-namespace {
-
-void giveUp(int)
+// A thread and not an alarm: a call to a file server that is away is left for no signal but the fatal ones,
+// as the end of the process is one.
+StartDeadline::StartDeadline(std::chrono::seconds patience, const std::string& reason)
+    : m_line("quindle-helper: gave up: " + reason + '\n')
+    , m_waiting([this, patience] { wait(patience); })
 {
-    constexpr std::string_view line =
-        "quindle-helper: gave up: the session bus or a folder does not answer, so whether another one runs "
-        "is not known\n";
-    writeToStandardError(line.data(), line.size());
-    ::_exit(1);
-}
-
-} // namespace
-
-StartDeadline::StartDeadline(unsigned seconds)
-{
-    std::signal(SIGALRM, giveUp);
-    ::alarm(seconds);
 }
 
 StartDeadline::~StartDeadline()
 {
-    ::alarm(0);
-    std::signal(SIGALRM, SIG_DFL);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isOver = true;
+    }
+    m_ended.notify_one();
+    m_waiting.join();
+}
+
+void StartDeadline::wait(std::chrono::seconds patience)
+{
+    std::unique_lock lock(m_mutex);
+    if (m_ended.wait_for(lock, patience, [this] { return m_isOver; }))
+        return;
+    writeToStandardError(m_line.data(), m_line.size());
+    ::_exit(1);
 }
 
 } // namespace quindle

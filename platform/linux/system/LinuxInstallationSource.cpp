@@ -94,7 +94,8 @@ bool isInBuildFolder(const QString& bundlePath)
 
 InstallationSource installationSource(const QString& bundlePath, const QString& root)
 {
-    if (bundlePath.isEmpty())
+    // A machine file may name any path: one that begins with a dash would be an option of rpm's.
+    if (!bundlePath.startsWith(u'/'))
         return {};
     if (isInBuildFolder(bundlePath))
         return {InstallationSource::Kind::Build, {}, {}};

@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <thread>
 
 #include <QRegularExpression>
@@ -117,6 +118,43 @@ TEST_F(LinuxUserDefaultsTest, FileAndFolderAreTheUsersAlone)
     EXPECT_EQ(modeOf(path()), 0600u);
     EXPECT_EQ(modeOf(path() + QStringLiteral(".lock")), 0600u);
     EXPECT_TRUE(bytesOf(path()).startsWith("<?xml"));
+}
+
+// An access control list that everything in a folder inherits gives another account all rights. Those of a
+// file's group are the most that it can give, and they are none.
+TEST_F(LinuxUserDefaultsTest, AnInheritedAccessListOpensNothing)
+{
+    struct Entry
+    {
+        quint16 kind;
+        quint16 rights;
+        quint32 account;
+    };
+    struct
+    {
+        quint32 version = 2;
+        Entry entries[5] = {{1, 7, ~0u}, {2, 7, 65534}, {4, 0, ~0u}, {16, 7, ~0u}, {32, 0, ~0u}};
+    } const list;
+    const QByteArray root = QFile::encodeName(m_root.path());
+    ASSERT_EQ(::setxattr(root.constData(), "system.posix_acl_default", &list, sizeof list, 0), 0);
+    const mode_t former = ::umask(0);
+    LinuxUserDefaults defaults(path());
+    defaults.setInteger(key, 1);
+    defaults.setInteger(key, 2);
+    ::umask(former);
+    const QByteArray file = QFile::encodeName(path());
+    EXPECT_GT(::getxattr(file.constData(), "system.posix_acl_access", nullptr, 0), 0); // it was inherited
+    EXPECT_EQ(modeOf(folder()), 0700u);
+    EXPECT_EQ(modeOf(path()), 0600u);
+    EXPECT_EQ(modeOf(path() + QStringLiteral(".lock")), 0600u);
+}
+
+TEST_F(LinuxUserDefaultsTest, AFileThatOthersMayReadIsClosedByTheNextWrite)
+{
+    writeBytes(path(), listOf(key, 1));
+    ASSERT_EQ(::chmod(QFile::encodeName(path()).constData(), 0666), 0);
+    LinuxUserDefaults(path()).setInteger(key, 2);
+    EXPECT_EQ(modeOf(path()), 0600u);
 }
 
 TEST_F(LinuxUserDefaultsTest, ReadsBinaryAndKeepsTheRestOfTheFile)

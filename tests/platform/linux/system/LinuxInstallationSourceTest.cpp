@@ -86,6 +86,17 @@ TEST_F(LinuxInstallationSourceTest, IsWhatRpmAnswers)
     expectPackage("zypper", "quindle");
 }
 
+// rpm takes orders for the shell in options, and a path from a machine file could be one.
+TEST_F(LinuxInstallationSourceTest, RpmIsAskedForAbsolutePathsOnly)
+{
+    const QByteArray asked = root.filePath(QStringLiteral("asked")).toUtf8();
+    write(QStringLiteral("usr/bin/rpm"), "#!/bin/sh\necho \"$4\" >> '" + asked + "'\nprintf quindle\n", true);
+    for (const char* path : {"--eval=%(touch x)", "-x", "relative", "../../x"})
+        EXPECT_EQ(installationSource(QString::fromLatin1(path), root.path()).kind, Kind::Elsewhere) << path;
+    EXPECT_FALSE(QFile::exists(root.filePath(QStringLiteral("asked"))));
+    expectPackage("rpm", "quindle");
+}
+
 TEST_F(LinuxInstallationSourceTest, WhatRpmDoesNotOwnIsNoPackage)
 {
     write(QStringLiteral("usr/bin/rpm"), "#!/bin/sh\necho \"file $4 is not owned by any package\"\nexit 1\n",
