@@ -3,7 +3,7 @@
 
 #include "platform/linux/network/CurlUrlSession.h"
 
-extern "C" Q_DECL_EXPORT quindle::UrlSession* quindleMakeUrlSession()
+extern "C" Q_DECL_EXPORT quindle::UrlSession* quindleMakeUrlSession(const char* /*programVersion*/)
 {
     return new quindle::CurlUrlSession({.authorities = qgetenv("QUINDLE_TEST_AUTHORITY")});
 }

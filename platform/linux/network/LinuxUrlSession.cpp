@@ -8,6 +8,7 @@
 
 #include "common/Paths.h"
 #include "platform/Bundle.h"
+#include "platform/linux/network/NetworkModule.h"
 
 namespace quindle {
 
@@ -46,16 +47,16 @@ UrlSession* LinuxUrlSession::sessionFor(const QString& url)
     if (QUrl(url).host().isEmpty() || m_loaded)
         return m_session.get();
     m_loaded = true;
-    using MakeUrlSession = UrlSession* (*)();
     // Never closed: what it made outlives any moment at which it could be.
     void* const module = ::dlopen(pathBytes(m_modulePath).constData(), RTLD_LAZY);
     const auto make =
-        module ? reinterpret_cast<MakeUrlSession>(::dlsym(module, "quindleMakeUrlSession")) : nullptr;
+        module ? reinterpret_cast<MakeUrlSession>(::dlsym(module, makeUrlSessionName)) : nullptr;
+    const QString fault = make ? QStringLiteral("%1 is of another version").arg(m_modulePath)
+                               : QString::fromLocal8Bit(::dlerror());
     if (make)
-        m_session.reset(make());
-    else
-        qCWarning(networkLog).noquote()
-            << QStringLiteral("no network: ") + QString::fromLocal8Bit(::dlerror());
+        m_session.reset(make(QUINDLE_VERSION));
+    if (!m_session)
+        qCWarning(networkLog).noquote() << QStringLiteral("no network: ") + fault;
     return m_session.get();
 }
 

@@ -2,10 +2,12 @@
 // of the program's services together, so this is a module of its own, which only a process that asks or posts
 // loads.
 
-#include "platform/linux/network/CurlUrlSession.h"
+#include <string_view>
 
-/// The module's only door. The caller owns what it gets.
-extern "C" Q_DECL_EXPORT quindle::UrlSession* quindleMakeUrlSession()
+#include "platform/linux/network/CurlUrlSession.h"
+#include "platform/linux/network/NetworkModule.h"
+
+extern "C" Q_DECL_EXPORT quindle::UrlSession* quindleMakeUrlSession(const char* programVersion)
 {
-    return new quindle::CurlUrlSession;
+    return std::string_view(programVersion) == QUINDLE_VERSION ? new quindle::CurlUrlSession : nullptr;
 }

@@ -46,4 +46,17 @@ TEST(LinuxUrlSession, TheModuleIsLoadedForTheFirstHostAndMissedOnce)
     qInstallMessageHandler(before);
 }
 
+// The bundle may be replaced by another version's while the program runs.
+TEST(LinuxUrlSession, AnotherVersionsModuleIsNotUsed)
+{
+    const HttpServer server;
+    const QtMessageHandler before = qInstallMessageHandler(countWarnings);
+    LinuxUrlSession session(QStringLiteral(QUINDLE_OTHER_NETWORK_MODULE));
+    EXPECT_EQ(session.contents(server.address("/seen")), std::nullopt);
+    EXPECT_EQ(session.contents(server.address("/seen")), std::nullopt);
+    session.post(server.address("/"), "x", {});
+    EXPECT_EQ(warnings, 1);
+    qInstallMessageHandler(before);
+}
+
 } // namespace

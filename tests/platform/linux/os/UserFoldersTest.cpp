@@ -1,6 +1,7 @@
 #include "platform/linux/os/UserFolders.h"
 
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -75,6 +76,26 @@ TEST(UserFolders, TheRuntimeFolderIsTheUsersAlone)
         qputenv("XDG_RUNTIME_DIR", other);
         EXPECT_EQ(runtimeFolder(), QString()) << other;
     }
+}
+
+TEST(UserFolders, ARuntimeFolderThatAnAccessListOpensIsNotUsed)
+{
+    const QTemporaryDir folder;
+    const QByteArray path = QFile::encodeName(folder.path());
+    qputenv("XDG_RUNTIME_DIR", path);
+    struct Entry
+    {
+        quint16 kind;
+        quint16 rights;
+        quint32 account;
+    };
+    struct
+    {
+        quint32 version = 2;
+        Entry entries[5] = {{1, 7, ~0u}, {2, 7, 65534}, {4, 0, ~0u}, {16, 7, ~0u}, {32, 0, ~0u}};
+    } const list;
+    ASSERT_EQ(::setxattr(path.constData(), "system.posix_acl_access", &list, sizeof list, 0), 0);
+    EXPECT_EQ(runtimeFolder(), QString());
 }
 
 } // namespace
