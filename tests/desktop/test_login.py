@@ -115,7 +115,7 @@ class Login(LoginCase):
 class OddInstallation(LoginCase):
     """Installed where the path has characters that sessions read differently in an entry."""
 
-    folder = "100% of $ure `things\\"
+    folder = "100% of $ure `things\\ a=b"
 
     def setUp(self):
         super().setUp()
@@ -147,10 +147,10 @@ class OddInstallation(LoginCase):
 class OddHome(OddInstallation):
     """The home folder's path, in which the settings are, has them too."""
 
-    folder = "home/100% $ure/Applications"
+    folder = "home/100% $ure=/Applications"
 
     def surroundings(self):
-        home = self.desktop.root / "home/100% $ure"
+        home = self.desktop.root / "home/100% $ure="
         return home / ".config/autostart", {"HOME": str(home), "XDG_CONFIG_HOME": str(home / ".config")}
 
 

@@ -16,13 +16,14 @@ constexpr QStringView programInBundle(u"/Contents/Linux/quindle-helper");
 // Not "~", which LXQt replaces itself, before the shell would.
 constexpr QByteArrayView shellInHome("cd && exec ./");
 
-/// Whether every session starts what an entry names so. By the format all of these can be quoted; but GLib
-/// looks for a program with two percent signs where "%%" stands for one, and neither dex nor LXQt resolves
-/// the escapes of the others. A value that is not UTF-8 is none for GLib.
+/// Whether every session starts what an entry names so. The format has no way to write an equals sign in a
+/// program's path. All others of these can be quoted; but GLib looks for a program with two percent signs
+/// where "%%" stands for one, and neither dex nor LXQt resolves the escapes of the rest. A value that is not
+/// UTF-8 is none for GLib.
 bool isReadEverywhere(const QByteArray& path)
 {
     return path.isValidUtf8() && std::none_of(path.begin(), path.end(), [](char c) {
-               return QByteArrayView("\"`$\\%").contains(c) || (c >= 0 && c < ' ') || c == 0x7f;
+               return QByteArrayView("\"`$\\%=").contains(c) || (c >= 0 && c < ' ') || c == 0x7f;
            });
 }
 
@@ -73,8 +74,9 @@ QString bundleProgram(const QString& bundlePath)
 
 StartCommand startCommand(const QString& program, const QString& link, const QString& home)
 {
-    const StartCommand direct{execValue(pathBytes(program)), false};
-    if (link.isEmpty() || isReadEverywhere(pathBytes(program)))
+    const bool isPlain = isReadEverywhere(pathBytes(program));
+    const StartCommand direct{execValue(pathBytes(program)), false, isPlain};
+    if (link.isEmpty() || isPlain)
         return direct;
     if (isReadEverywhere(pathBytes(link)))
         return {execValue(pathBytes(link)), true};

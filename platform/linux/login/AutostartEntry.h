@@ -24,7 +24,8 @@ std::optional<QString> urlStartedBy(const QByteArray& entryBytes, const QStringL
 struct StartCommand
 {
     QByteArray exec;
-    bool isThroughLink = false; ///< `link` has to lead to the program
+    bool isThroughLink = false;    ///< `link` has to lead to the program
+    bool isForEverySession = true; ///< else some sessions read it differently and start nothing
 };
 
 /// The command that starts a program in every session. Sessions differ in how they read a path with unusual

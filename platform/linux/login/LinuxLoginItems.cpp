@@ -176,6 +176,11 @@ QString LinuxLoginItems::enter(const QByteArray& entryName, const QString& bundl
     if (const int error =
             command.isThroughLink ? replaceLink(pathBytes(m_places.link), pathBytes(program)) : 0)
         return reason(error);
+    if (!command.isForEverySession)
+        qCWarning(loginLog).noquote()
+            << QStringLiteral("not every session starts %1 at login: its path has one of "
+                              "\" ` $ \\ % =, and so has that of the settings")
+                   .arg(program);
     const QByteArray path = folder + '/' + entryName;
     removeLeftovers(path);
     // A link in the entry's place is replaced itself: what it leads to is not ours.

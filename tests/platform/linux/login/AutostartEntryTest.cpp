@@ -112,10 +112,10 @@ TEST_F(AutostartEntryTest, ACommandIsOneThatEverySessionReads)
         return startCommand(pathText(program), linkPath, homePath).exec;
     };
     for (const char* plain :
-         {"/opt/q", "/opt/Quindle Helper (new)/q", "/opt/zoë's & co/~q#1;<>*?|=!{}[]^+,@:'"})
+         {"/opt/q", "/opt/Quindle Helper (new)/q", "/opt/zoë's & co/~q#1;<>*?|!{}[]^+,@:'"})
         EXPECT_EQ(command(plain, link, home), '"' + QByteArray(plain) + '"');
-    for (const char* odd :
-         {"/opt/100%/q", "/opt/$q", "/opt/`q`", "/opt/a\\b", "/opt/\"q\"", "/opt/\xff", "/opt/a\nb"})
+    for (const char* odd : {"/opt/100%/q", "/opt/a=b/q", "/opt/$q", "/opt/`q`", "/opt/a\\b", "/opt/\"q\"",
+                            "/opt/\xff", "/opt/a\nb"})
         EXPECT_EQ(command(odd, link, home), '"' + link.toUtf8() + '"') << odd;
     const QString oddHome = QStringLiteral("/home/100%");
     const QString linkInOddHome = oddHome + QStringLiteral("/.config/quindle/quindle-helper");

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "common/Paths.h"
+#include "platform/linux/login/AutostartEntry.h"
 #include "platform/linux/os/FileLock.h"
 #include "platform/linux/os/FileReplacement.h"
 #include "settings/StartupLaunch_pref.h"
@@ -389,6 +390,25 @@ TEST_F(LinuxLoginItemsTest, AProgramAtAPathThatNotAllSessionsReadIsStartedThroug
         ::unlink(bundle.constData());
         ::rmdir(folderOf(bundle).constData());
     }
+}
+
+TEST_F(LinuxLoginItemsTest, AProgramThatNotAllSessionsStartIsToldInOneLine)
+{
+    const QString bundle = folder.path(QStringLiteral("a=b/Quindle-Helper.app"));
+    QDir().mkpath(bundle + QStringLiteral("/Contents/Linux"));
+    QFile::link(folder.program(), bundleProgram(bundle));
+    LoginItemPlaces places = folder.places();
+    places.bundle = bundle;
+    LinuxLoginItems throughLink(places);
+    throughLink.setEnabled(identifier, true);
+    EXPECT_EQ(messages(), QStringList());
+    places.link = folder.path(QStringLiteral("c=d/quindle-helper"));
+    LinuxLoginItems direct(places);
+    direct.setEnabled(identifier, false);
+    direct.setEnabled(identifier, true);
+    EXPECT_EQ(folder.entryNames(), QStringList{QLatin1String(own)});
+    EXPECT_EQ(messages().size(), 1);
+    EXPECT_TRUE(messages().value(0).contains(bundleProgram(bundle)));
 }
 
 TEST(LoginItemPlaces, AreBesideTheSettings)
