@@ -143,9 +143,14 @@ void HelperAppDelegate::registerDistributedNotificationCenter()
     loadSettings();
 }
 
-void HelperAppDelegate::addBatteryView()
+void HelperAppDelegate::chooseView()
 {
     m_shownView = m_myMac->Battery() ? &required(m_outlets.menuView) : &required(m_outlets.noBatteryView);
+}
+
+void HelperAppDelegate::addBatteryView()
+{
+    chooseView();
     m_statusItem->setMenu(&required(m_outlets.statusMenu));
 }
 

@@ -139,6 +139,7 @@ Q_SIGNALS:
 private:
     void send(const std::optional<DailyUpload>& upload);
     void setVersionItem();
+    void chooseView();
     void addBatteryView();
     void startTimer();
     void observePowerEvents();

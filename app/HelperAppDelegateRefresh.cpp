@@ -28,6 +28,8 @@ constexpr qint64 fahrenheitIndex = 1;    // the one value of temperatureSettingI
 void HelperAppDelegate::updateStatusBarTitle()
 {
     checkForAutoSaveData();
+    if (m_myMac->followBattery())
+        chooseView();
     m_statusItem->setMenuBarFontSize(menuBarFontSize);
     if (const QDBattery* battery = m_myMac->Battery()) {
         updateIcon(*battery);

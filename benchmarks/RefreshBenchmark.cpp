@@ -15,10 +15,9 @@
 #include "battery/QDBattery.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
-#include "platform/linux/power/BatteryTimes.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
-#include "platform/linux/power/SupplyDirectory.h"
+#include "platform/linux/power/PowerSampler.h"
 #include "platform/linux/settings/LinuxUserDefaults.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
 #include "platform/linux/system/LinuxClock.h"
@@ -53,16 +52,14 @@ std::string suppliesOf(const std::string& machine)
     return QUINDLE_TEST_DATA "/sysfs/" + machine + "/class/power_supply";
 }
 
-/// A launched helper on the files of one computer. Its refreshes are 5 s apart, so each finds the folder due
-/// to be read again and a new sample due.
+/// A launched helper on the files of one computer. Its refreshes are 5 s apart, so each takes a new sample.
 class Helper
 {
 public:
     Helper(const std::string& supplies, bool hasRealItem)
-        : m_supplies(supplies, readDescriptor, [this] { return m_now; })
-        , m_times([this] { return m_now; })
-        , m_registry(m_supplies, m_times, {})
-        , m_powerSources(m_supplies, m_times)
+        : m_sampler(supplies, readDescriptor, [this] { return m_now; })
+        , m_registry(m_sampler, {})
+        , m_powerSources(m_sampler)
         , m_userDefaults(m_settings.path())
         , m_others({}, m_bundle)
         , m_platform(platform(hasRealItem))
@@ -112,8 +109,7 @@ private:
 
     std::chrono::milliseconds m_now{0};
     QTemporaryDir m_settings;
-    SupplyDirectory m_supplies;
-    BatteryTimes m_times;
+    PowerSampler m_sampler;
     LinuxRegistry m_registry;
     LinuxPowerSources m_powerSources;
     LinuxUserDefaultsDatabases m_userDefaults;

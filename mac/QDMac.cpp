@@ -17,6 +17,7 @@
 #include "mac/SnapshotRecord.h"
 #include "platform/Host.h"
 #include "platform/Platform.h"
+#include "platform/RunLoop.h"
 #include "platform/UserDefaults.h"
 
 namespace quindle {
@@ -65,6 +66,7 @@ std::unique_ptr<QDMac> QDMac::init(const Platform& platform)
     std::unique_ptr<QDMac> mac(new QDMac(platform));
     mac->loadSettings();
     mac->createBattery();
+    mac->m_followsBattery = true;
     return mac;
 }
 
@@ -115,6 +117,27 @@ void QDMac::createBattery()
     }
     m_battery->invokeTimer();
     m_battery->updateData();
+}
+
+void QDMac::dropBattery()
+{
+    m_battery->updateTimer()->invalidate(); // or it would go on for ever
+    m_battery.reset();
+}
+
+bool QDMac::followBattery()
+{
+    if (!m_followsBattery)
+        return false;
+    const std::optional<bool> isThere = m_platform.registry.isMatched(QStringLiteral("AppleSmartBattery"));
+    if (!isThere || *isThere == (m_battery != nullptr))
+        return false;
+    if (*isThere)
+        createBattery();
+    else
+        dropBattery();
+    Q_EMIT changed();
+    return true;
 }
 
 void QDMac::toggleAge()

@@ -49,6 +49,10 @@ public:
     /// Reads every value but the battery, in a fixed order.
     void loadSettings();
 
+    /// Finds a battery that has come since, and drops one that has gone: `Battery` is another object then, or
+    /// null. True when it is. Only on a computer whose batteries come and go (see IORegistry::isMatched).
+    bool followBattery();
+
     /// Days → months → years → days for `CustomAge`, and stores the mode ("QDMacAgeMode").
     Q_INVOKABLE void toggleAge();
 
@@ -113,6 +117,7 @@ private:
 
     QObject* batteryObject() const;
     void createBattery();
+    void dropBattery();
 
     const Platform& m_platform;
     std::unique_ptr<QDBattery> m_battery;
@@ -126,6 +131,7 @@ private:
     QVariant m_serial;
     QVariant m_customAge;
     qint64 m_ageMode = 0;
+    bool m_followsBattery = false; // the demonstration battery is in no registry
     bool m_knowsManufactureDate = true;
     bool m_isDemonstration = false;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QVariant>
 
 namespace quindle {
@@ -15,7 +17,7 @@ inline constexpr IOStatus kIOReturnStillOpen = static_cast<IOStatus>(0xe00002d2)
 inline constexpr IOStatus kIOReturnNotFound = static_cast<IOStatus>(0xe00002f0);
 
 /// The I/O registry: entries found by name or class, each a dictionary of properties. Every read asks the
-/// computer anew; nothing is remembered between two reads. Main thread only.
+/// computer anew. Main thread only.
 class IORegistry
 {
 public:
@@ -27,12 +29,16 @@ public:
     /// Opens the first entry of that class ("IOPlatformExpertDevice"). 0 when there is none.
     virtual RegistryObject serviceMatchingClass(const QString& className) = 0;
 
-    /// One property as it stands now. The invalid value when the handle is not open, the entry has gone, or
-    /// it has no such property. Integers are qint64.
+    /// One property as it stands now. The invalid value when the handle is not open or there is no such
+    /// property. An entry that has gone has none, or goes on saying what it said last. Integers are qint64.
     virtual QVariant property(RegistryObject object, const QString& key) = 0;
 
     /// All properties as they stand now; empty in the cases above.
     virtual QVariantMap properties(RegistryObject object) = 0;
+
+    /// Whether there is an entry of that name now, for entries that come and go while the program runs;
+    /// nothing on a computer where what was found at the start stays what it is.
+    virtual std::optional<bool> isMatched(const QString& name) = 0;
 
     /// Gives the handle back. A status other than 0 for a handle that is not open, 0 included.
     virtual IOStatus release(RegistryObject object) = 0;

@@ -1,15 +1,16 @@
 #include "platform/linux/LinuxPlatform.h"
 
+#include <QAbstractEventDispatcher>
+
 #include "common/Paths.h"
 #include "platform/NotificationCenter.h"
 #include "platform/linux/login/LinuxLoginItems.h"
 #include "platform/linux/network/LinuxUrlSession.h"
 #include "platform/linux/os/UserFolders.h"
-#include "platform/linux/power/BatteryTimes.h"
 #include "platform/linux/power/LinuxPowerEvents.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
-#include "platform/linux/power/SupplyDirectory.h"
+#include "platform/linux/power/PowerSampler.h"
 #include "platform/linux/session/LinuxApplication.h"
 #include "platform/linux/session/LinuxNotifications.h"
 #include "platform/linux/session/LinuxRunLoop.h"
@@ -42,19 +43,23 @@ LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 struct LinuxPlatform::Services
 {
     Services(const QString& systemRoot, SettingsAccess settingsAccess)
-        : supplies(pathBytes(rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
-        , registry(supplies, times, firmwareFolders(systemRoot))
-        , powerSources(supplies, times)
+        : sampler(pathBytes(rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
+        , registry(sampler, firmwareFolders(systemRoot))
+        , powerSources(sampler)
         , userDefaults(settingsFolder(), settingsAccess)
         , workspaceNotifications(runLoop)
         , urlSession(networkModule(bundle))
         , loginItems(loginItemPlaces(bundle.path()), settingsAccess)
-        , powerEvents([this] { supplies.rescanNow(); })
+        , powerEvents([this] { sampler.lookAgain(); })
     {
+        // A sample is of one turn of the main loop.
+        using Loop = QAbstractEventDispatcher;
+        const auto expire = [this] { sampler.expire(); };
+        QObject::connect(Loop::instance(), &Loop::aboutToBlock, &turns, expire);
+        QObject::connect(Loop::instance(), &Loop::awake, &turns, expire);
     }
 
-    SupplyDirectory supplies;
-    BatteryTimes times;
+    PowerSampler sampler;
     LinuxRegistry registry;
     LinuxPowerSources powerSources;
     LinuxUserDefaultsDatabases userDefaults;
@@ -72,6 +77,7 @@ struct LinuxPlatform::Services
     LinuxUserDirectories userDirectories;
     LinuxLoginItems loginItems;
     LinuxPowerEvents powerEvents;
+    QObject turns;
 };
 
 LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsAccess)

@@ -22,6 +22,7 @@ public:
     RegistryObject serviceMatchingClass(const QString& className) override;
     QVariant property(RegistryObject object, const QString& key) override;
     QVariantMap properties(RegistryObject object) override;
+    std::optional<bool> isMatched(const QString& /*name*/) override { return std::nullopt; }
     IOStatus release(RegistryObject object) override;
 
 private:

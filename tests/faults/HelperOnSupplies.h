@@ -7,12 +7,12 @@
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/Image.h"
-#include "platform/linux/power/BatteryTimes.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
-#include "platform/linux/power/SupplyDirectory.h"
+#include "platform/linux/power/PowerSampler.h"
 #include "settings/ApplicationPreferences.h"
 #include "tests/app/LaunchedHelper.h"
+#include "tests/platform/linux/power/Patience.h"
 #include "tests/platform/linux/power/SupplyTree.h"
 
 namespace quindle {
@@ -24,11 +24,10 @@ struct HelperOnSupplies
     SupplyTree tree;
     std::chrono::milliseconds now{0};
     ReadFunction read = readDescriptor;
-    SupplyDirectory supplies{tree.path(), [this](auto... arguments) { return read(arguments...); },
-                             [this] { return now; }};
-    BatteryTimes times{[this] { return now; }};
-    LinuxRegistry registry{supplies, times, {}};
-    LinuxPowerSources powerSources{supplies, times};
+    PowerSampler sampler{tree.path(), [this](auto... arguments) { return read(arguments...); },
+                         [this] { return now; }, endlessPatience};
+    LinuxRegistry registry{sampler, {}};
+    LinuxPowerSources powerSources{sampler};
     FakePlatform others;
     Platform platform{.registry = registry,
                       .powerSources = powerSources,

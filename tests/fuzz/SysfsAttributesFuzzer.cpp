@@ -1,34 +1,37 @@
 #include <cmath>
-#include <vector>
+#include <string>
 
+#include "platform/linux/power/BatteryRules.h"
 #include "platform/linux/power/PowerSourceDescription.h"
 #include "platform/linux/power/RegistryValues.h"
-#include "platform/linux/power/SupplyDirectory.h"
 #include "tests/fuzz/FuzzInput.h"
-#include "tests/platform/linux/power/MapAttributes.h"
 
 using namespace quindle;
 
 namespace {
 
-/// Lines "attribute=value"; an empty line ends a supply. Other bytes stand as a driver might write them.
-std::vector<MapAttributes> suppliesFromBytes(const QByteArray& bytes)
+/// Lines "attribute=value", as in a uevent but for capitals and prefix; an empty line ends a supply. Other
+/// bytes stand as a driver might write them.
+SupplyReadings suppliesFromBytes(const QByteArray& bytes)
 {
-    std::vector<MapAttributes> supplies;
-    MapAttributes::Texts texts;
+    SupplyReadings readings;
+    std::string uevent;
     for (const QByteArray& line : (bytes + "\n\n").split('\n')) {
-        if (line.isEmpty() && !texts.empty())
-            supplies.emplace_back(std::exchange(texts, {}));
-        const qsizetype sign = line.indexOf('=');
-        if (sign > 0)
-            texts[line.first(sign).toStdString()] = line.sliced(sign + 1).toStdString() + '\n';
+        if (!line.isEmpty()) {
+            const qsizetype sign = std::max<qsizetype>(line.indexOf('='), 0);
+            uevent += "POWER_SUPPLY_" + line.first(sign).toUpper().toStdString() +
+                      line.sliced(sign).toStdString() + '\n';
+        } else if (!uevent.empty()) {
+            const SupplyAttributes attributes =
+                attributesFromUevent("POWER_SUPPLY_NAME=\n" + std::exchange(uevent, {})).value();
+            readings.push_back({"supply",
+                                supplyKind(attributes.text(Attribute::Type).value_or(""),
+                                           attributes.text(Attribute::Scope).value_or("")),
+                                attributes,
+                                {}});
+        }
     }
-    return supplies;
-}
-
-SupplyKind kindOf(const SupplyAttributes& supply)
-{
-    return supplyKind(supply.text(Attribute::Type).value_or(""), supply.text(Attribute::Scope).value_or(""));
+    return readings;
 }
 
 bool isMissingOrWithin(std::optional<double> number, double lowest, double highest)
@@ -36,35 +39,38 @@ bool isMissingOrWithin(std::optional<double> number, double lowest, double highe
     return !number || (*number >= lowest && *number <= highest);
 }
 
-void checkBattery(const SupplyAttributes& battery)
+void checkBattery(const Battery& battery)
 {
     constexpr double most = 1e30; // no figure is infinite or not a number
-    const std::optional<double> full = fullCharge(battery);
+    const std::optional<double> full = battery.fullCharge;
     expect(isMissingOrWithin(full, 0, most));
-    expect(isMissingOrWithin(charge(battery), 0, full && *full > 0 ? *full * (1 + 1e-9) : most));
-    expect(isMissingOrWithin(designCharge(battery), 0, most));
-    expect(ratedVoltage(battery) > 0 && std::isfinite(ratedVoltage(battery)));
-    expect(isMissingOrWithin(averageCurrent(battery), -most, most));
-    expect(isMissingOrWithin(chargeRate(battery), -most, most));
-    expect(isMissingOrWithin(temperature(battery), 2131.5, 4231.5));
+    expect(isMissingOrWithin(battery.charge, 0, full ? *full * (1 + 1e-9) : most));
+    expect(isMissingOrWithin(battery.designCharge, 0, most));
+    expect(battery.ratedVoltage > 0 && std::isfinite(battery.ratedVoltage));
+    expect(isMissingOrWithin(battery.averageCurrent, -most, most));
+    expect(isMissingOrWithin(battery.chargeRate, -most, most));
+    expect(isMissingOrWithin(battery.temperature, 2131.5, 4231.5));
+    expect(!battery.chargeLimit || (*battery.chargeLimit >= 1 && *battery.chargeLimit <= 99));
+}
 
-    const QVariantMap description = batteryDescription(battery, false, {});
+void checkDescription(const QVariantMap& description)
+{
     const QVariant percent = description.value(QStringLiteral("Current Capacity"));
     expect(!percent.isValid() || (percent.toLongLong() >= 0 && percent.toLongLong() <= 100));
     expect(!description.value(QStringLiteral("Name")).toString().isEmpty());
 }
 
-void checkRegistry(const SystemPower& power)
+/// What the models divide by is never 0: percentages are numbers.
+void checkEntry(const QVariantMap& entry)
 {
-    std::chrono::milliseconds now{};
-    BatteryTimes times([&now] { return now; });
-    for (int sample = 0; sample < 4; ++sample, now += std::chrono::seconds(40)) {
-        const QVariantMap values = registryValues(power, times);
-        expect(values.isEmpty() == power.batteries.empty());
-        for (const char* key : {"AvgTimeToEmpty", "AvgTimeToFull", "InstantTimeToEmpty", "TimeRemaining"}) {
-            const qint64 minutes = values.value(QString::fromLatin1(key)).toLongLong();
-            expect(minutes >= 0 && (minutes < 10 * 24 * 60 || minutes == 65535));
-        }
+    expect(entry.isEmpty() || entry.value(QStringLiteral("MaxCapacity")).toLongLong() > 0);
+    const QVariant design = entry.value(QStringLiteral("DesignCapacity"));
+    expect(!design.isValid() || design.toLongLong() > 0);
+    if (entry.isEmpty())
+        return;
+    for (const char* key : {"AvgTimeToEmpty", "AvgTimeToFull", "InstantTimeToEmpty", "TimeRemaining"}) {
+        const qint64 minutes = entry.value(QString::fromLatin1(key)).toLongLong();
+        expect(minutes >= 0 && (minutes < 10 * 24 * 60 || minutes == 65535));
     }
 }
 
@@ -72,22 +78,19 @@ void checkRegistry(const SystemPower& power)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const std::vector<MapAttributes> supplies = suppliesFromBytes(fuzzBytes(data, size));
-    std::vector<const SupplyAttributes*> batteries;
-    std::vector<const SupplyAttributes*> externals;
-    for (const MapAttributes& supply : supplies) {
-        const SupplyKind kind = kindOf(supply);
-        if (kind == SupplyKind::Battery) {
-            batteries.push_back(&supply);
-            checkBattery(supply);
-        } else if (kind == SupplyKind::External) {
-            externals.push_back(&supply);
-            const std::optional<qint64> watts = adapterWatts(supply);
-            expect(!watts || (*watts >= 1 && *watts <= 10000));
-        } else if (kind == SupplyKind::UninterruptibleSupply) {
-            expect(!uninterruptibleDescription(supply).isEmpty());
-        }
+    const SystemPower power = systemPowerFrom(suppliesFromBytes(fuzzBytes(data, size)));
+    for (const Battery& battery : power.batteries)
+        checkBattery(battery);
+    for (const Battery& supply : power.uninterruptibles)
+        checkBattery(supply);
+    for (const ExternalSupply& supply : power.externals)
+        expect(!supply.watts || (*supply.watts >= 1 && *supply.watts <= 10000));
+    BatteryTimes times;
+    for (std::chrono::milliseconds now{}; now < std::chrono::seconds(160); now += std::chrono::seconds(40)) {
+        const SystemTimes known = times.follow(power, now);
+        checkEntry(registryEntry(power, known));
+        for (const QVariantMap& description : sourceDescriptions(power, known))
+            checkDescription(description);
     }
-    checkRegistry({batteries, externals});
     return 0;
 }

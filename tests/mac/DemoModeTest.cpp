@@ -27,6 +27,7 @@ TEST(DemoMode, ShowsItsValuesAndTouchesNothing)
     EXPECT_EQ(mac->Serial(), text("C02MN1TXF5YW"));
     EXPECT_EQ(mac->ManufactureDate().date(), QDate(2014, 5, 12));
     EXPECT_EQ(buildDate(*mac->Serial())->date(), mac->ManufactureDate().date());
+    EXPECT_FALSE(mac->followBattery());
 }
 
 TEST(DemoMode, TheBatteryIsThere)

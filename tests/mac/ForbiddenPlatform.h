@@ -25,6 +25,7 @@ class ForbiddenPlatform
         }
         QVariant property(RegistryObject, const QString&) override { return refuse<QVariant>("property"); }
         QVariantMap properties(RegistryObject) override { return refuse<QVariantMap>("properties"); }
+        std::optional<bool> isMatched(const QString&) override { return refuse<bool>("matched"); }
         IOStatus release(RegistryObject) override { return refuse<IOStatus>("release"); }
     };
 

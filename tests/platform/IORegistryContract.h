@@ -95,12 +95,27 @@ TYPED_TEST_P(IORegistryContract, AHandleOutlivesItsBattery)
     this->maker.plugIn(3000);
     const RegistryObject battery = this->openBattery();
     this->maker.pullOut();
-    EXPECT_FALSE(this->registry().property(battery, this->charge()).isValid());
-    EXPECT_TRUE(this->registry().properties(battery).isEmpty());
+    const QVariant gone = this->registry().property(battery, this->charge());
+    EXPECT_TRUE(!gone.isValid() || gone == QVariant(qint64{3000}));
+    EXPECT_EQ(this->registry().properties(battery).value(this->charge()), gone);
     EXPECT_EQ(this->openBattery(), 0U);
     this->maker.plugIn(1000);
     EXPECT_EQ(this->registry().property(battery, this->charge()), QVariant(qint64{1000}));
     EXPECT_EQ(this->registry().release(battery), kIOReturnSuccess);
+}
+
+TYPED_TEST_P(IORegistryContract, WhereEntriesComeAndGoItTellsWhichAreThere)
+{
+    const QString name = QStringLiteral("AppleSmartBattery");
+    const std::optional<bool> without = this->registry().isMatched(name);
+    this->maker.plugIn(3000);
+    const std::optional<bool> with = this->registry().isMatched(name);
+    EXPECT_EQ(with.has_value(), without.has_value());
+    EXPECT_FALSE(without.value_or(false));
+    EXPECT_TRUE(with.value_or(true));
+    EXPECT_FALSE(this->registry().isMatched(QStringLiteral("Unknown")).value_or(false));
+    this->maker.pullOut();
+    EXPECT_EQ(this->registry().isMatched(name), without);
 }
 
 TYPED_TEST_P(IORegistryContract, SourcesAreDescribedByTheirIndex)
@@ -118,6 +133,6 @@ TYPED_TEST_P(IORegistryContract, SourcesAreDescribedByTheirIndex)
 REGISTER_TYPED_TEST_SUITE_P(IORegistryContract, WithoutABatteryThereIsNoHandle,
                             UnknownNamesAndClassesAreNotFound, ReadsIntegersOf64Bits, EveryReadIsFresh,
                             HandlesAreApart, ReleasingNothingFails, AHandleOutlivesItsBattery,
-                            SourcesAreDescribedByTheirIndex);
+                            WhereEntriesComeAndGoItTellsWhichAreThere, SourcesAreDescribedByTheirIndex);
 
 } // namespace quindle

@@ -1,5 +1,10 @@
 // The attribute files of many batteries stayed open until the process had no descriptor left for anything
-// else; and one that was taken out while they were described ended the program.
+// else; each of them had its folder open besides, so that three hundred ended a program that may have 256;
+// and one that was taken out while they were described ended it too.
+
+#include <ctime>
+
+#include <sys/resource.h>
 
 #include "tests/faults/HelperOnSupplies.h"
 #include "tests/support/QtPrinters.h"
@@ -8,14 +13,28 @@ using namespace quindle;
 
 namespace {
 
-struct ManySuppliesTest : testing::Test, HelperOnSupplies
+struct ManySuppliesFixture : HelperOnSupplies
 {
-    ManySuppliesTest() { QDir().mkpath(QString::fromStdString(tree.path())); }
+    ManySuppliesFixture() { QDir().mkpath(QString::fromStdString(tree.path())); }
 
     void addBatteries(int count)
     {
         for (int number = 0; number < count; ++number)
             tree.add("BAT" + std::to_string(number), dischargingBattery());
+    }
+
+    /// With all that is needed in their uevents, as the kernel has them.
+    void addWholeBatteries(int count)
+    {
+        std::string properties;
+        for (const auto& [attribute, text] : dischargingBattery())
+            properties += "POWER_SUPPLY_" + QString::fromStdString(attribute).toUpper().toStdString() + '=' +
+                          text + '\n';
+        for (int number = 0; number < count; ++number) {
+            const std::string name = "BAT" + std::to_string(number);
+            tree.add(name,
+                     {{"type", "Battery"}, {"uevent", "POWER_SUPPLY_NAME=" + name + '\n' + properties}});
+        }
     }
 
     static qsizetype openFiles()
@@ -24,6 +43,10 @@ struct ManySuppliesTest : testing::Test, HelperOnSupplies
             .entryList(QDir::NoDotAndDotDot | QDir::AllEntries)
             .size();
     }
+};
+
+struct ManySuppliesTest : testing::Test, ManySuppliesFixture
+{
 };
 
 TEST_F(ManySuppliesTest, NoneIsAComputerWithoutABattery)
@@ -44,7 +67,58 @@ TEST_F(ManySuppliesTest, FortyAreOneBatteryAndTakeFewDescriptors)
         passTenSeconds();
     EXPECT_EQ(title(), QStringLiteral("50.0% -40000"));
     EXPECT_EQ(powerSources.sourceCount(), 40);
-    EXPECT_LE(openFiles() - before, 40 + 16 * 12 + 5); // folders, files of the first
+    EXPECT_LE(openFiles() - before, 256 + 2); // the folder, and what hears of changes in it
+}
+
+/// As `ulimit -n` does for the processes that it starts.
+class DescriptorLimit
+{
+public:
+    explicit DescriptorLimit(rlim_t limit)
+    {
+        getrlimit(RLIMIT_NOFILE, &m_former);
+        const rlimit lower{limit, m_former.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &lower);
+    }
+    ~DescriptorLimit() { setrlimit(RLIMIT_NOFILE, &m_former); }
+    DescriptorLimit(const DescriptorLimit&) = delete;
+    DescriptorLimit& operator=(const DescriptorLimit&) = delete;
+
+private:
+    rlimit m_former{};
+};
+
+/// The folder's sampler counts when it is made.
+TEST(ManySupplies, ThreeHundredLeaveMostOf256DescriptorsFree)
+{
+    const DescriptorLimit limit(256);
+    ManySuppliesFixture helper;
+    helper.addBatteries(300);
+    helper.launch(QStringLiteral("%p% %mA"));
+    for (int refresh = 0; refresh < 3; ++refresh)
+        helper.passTenSeconds();
+    EXPECT_EQ(helper.title(), QStringLiteral("50.0% -300000"));
+    EXPECT_LE(ManySuppliesFixture::openFiles(), 128);
+}
+
+/// Of all threads, which is what an idle machine takes: on a busy one the clock on the wall says how busy.
+std::chrono::duration<double> processorTime()
+{
+    return std::chrono::duration<double>(static_cast<double>(std::clock()) / CLOCKS_PER_SEC);
+}
+
+TEST_F(ManySuppliesTest, FiveThousandAnswerWithinASecond)
+{
+    addWholeBatteries(5000);
+    const auto begun = processorTime();
+    launch(QStringLiteral("%p% %mA"));
+    const auto launched = processorTime();
+    EXPECT_EQ(title(), QStringLiteral("50.0% -5000000"));
+    passTenSeconds();
+    const auto refreshed = processorTime();
+    EXPECT_EQ(title(), QStringLiteral("50.0% -5000000"));
+    EXPECT_LT((launched - begun).count(), 1);
+    EXPECT_LT((refreshed - launched).count(), 1);
 }
 
 TEST_F(ManySuppliesTest, OneTakenOutAfterTheListIsStillDescribed)

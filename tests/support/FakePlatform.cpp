@@ -38,6 +38,11 @@ QVariantMap FakeRegistry::properties(RegistryObject object)
     return entry == entries.end() ? QVariantMap() : entry->second;
 }
 
+std::optional<bool> FakeRegistry::isMatched(const QString& name)
+{
+    return tellsWhetherMatched ? std::optional(entries.contains(name)) : std::nullopt;
+}
+
 IOStatus FakeRegistry::release(RegistryObject object)
 {
     ++calls;

@@ -44,11 +44,13 @@ public:
     int calls = 0;                              ///< every call of the service
     std::function<void(const QString&)> onRead; ///< called before each read with its key
     QHash<RegistryObject, QString> openHandles;
+    bool tellsWhetherMatched = false; ///< whether entries come and go
 
     RegistryObject serviceMatchingName(const QString& name) override;
     RegistryObject serviceMatchingClass(const QString& className) override;
     QVariant property(RegistryObject object, const QString& key) override;
     QVariantMap properties(RegistryObject object) override;
+    std::optional<bool> isMatched(const QString& name) override;
     IOStatus release(RegistryObject object) override;
 
 private:

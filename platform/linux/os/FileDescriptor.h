@@ -27,6 +27,9 @@ public:
     ~FileDescriptor() { close(); }
 
     int get() const { return m_descriptor; }
+    /// Leaves it to somebody else to close.
+    int release() { return std::exchange(m_descriptor, -1); }
+
     bool isOpen() const { return m_descriptor >= 0; }
 
     void close()

@@ -5,6 +5,7 @@ namespace quindle {
 namespace {
 
 using Direction = TimeEstimator::Direction;
+using Minutes = std::optional<int>;
 
 Direction directionOf(const SystemPower& power)
 {
@@ -13,76 +14,47 @@ Direction directionOf(const SystemPower& power)
     return anyDischarges(power.batteries) ? Direction::Discharging : Direction::Idle;
 }
 
-/// Which of the three times is the remaining one now.
-std::optional<BatteryTime> remainingTime(const SystemPower& power)
+Minutes firstOf(Minutes first, Minutes second)
 {
-    if (directionOf(power) == Direction::Charging)
-        return BatteryTime::AverageToFull;
-    return isExternallyPowered(power) ? std::nullopt : std::optional(BatteryTime::AverageToEmpty);
-}
-
-std::optional<int> firstPlausible(const SupplyAttributes& battery, Attribute first, Attribute second)
-{
-    const std::optional<int> minutes = plausibleMinutes(battery, first);
-    return minutes ? minutes : plausibleMinutes(battery, second);
+    return first ? first : second;
 }
 
 /// What the driver says. It goes on giving its last time to empty while it charges, and the reverse; and the
 /// times of several batteries, which are used one after the other, do not add up to one.
-std::optional<int> driversMinutes(BatteryTime time, const SystemPower& power)
+SystemTimes driversTimes(const SystemPower& power, Direction direction)
 {
+    SystemTimes times;
     if (power.batteries.size() != 1)
-        return std::nullopt;
-    const SupplyAttributes& battery = *power.batteries.front();
-    const Direction direction = directionOf(power);
-    if (time == BatteryTime::AverageToFull) {
-        return direction == Direction::Discharging
-                   ? std::nullopt
-                   : firstPlausible(battery, Attribute::TimeToFullAvg, Attribute::TimeToFullNow);
+        return times;
+    const Battery& battery = power.batteries.front();
+    if (direction != Direction::Discharging)
+        times.averageToFull = firstOf(battery.averageMinutesToFull, battery.presentMinutesToFull);
+    if (direction != Direction::Charging) {
+        times.averageToEmpty = firstOf(battery.averageMinutesToEmpty, battery.presentMinutesToEmpty);
+        times.presentToEmpty = firstOf(battery.presentMinutesToEmpty, battery.averageMinutesToEmpty);
     }
-    if (direction == Direction::Charging)
-        return std::nullopt;
-    return time == BatteryTime::InstantToEmpty
-               ? firstPlausible(battery, Attribute::TimeToEmptyNow, Attribute::TimeToEmptyAvg)
-               : firstPlausible(battery, Attribute::TimeToEmptyAvg, Attribute::TimeToEmptyNow);
+    return times;
 }
 
 } // namespace
 
-BatteryTimes::BatteryTimes(MonotonicClock now)
-    : m_now(std::move(now))
+SystemTimes BatteryTimes::follow(const SystemPower& power, std::chrono::milliseconds now)
 {
-}
-
-std::optional<int> BatteryTimes::minutes(BatteryTime time, const SystemPower& power)
-{
-    if (time == BatteryTime::Remaining) {
-        const std::optional<BatteryTime> remaining = remainingTime(power);
-        return remaining ? minutes(*remaining, power) : std::nullopt;
-    }
-    const std::optional<int> told = driversMinutes(time, power);
-    return told ? told : estimate(time, power);
-}
-
-void BatteryTimes::notePower(const SystemPower& power)
-{
-    m_estimator.setState(isExternallyPowered(power), directionOf(power));
-}
-
-std::optional<int> BatteryTimes::estimate(BatteryTime time, const SystemPower& power)
-{
-    notePower(power);
-    if (m_estimator.wantsSample(m_now()))
-        sample(power);
-    return time == BatteryTime::AverageToFull ? m_estimator.minutesUntilFull()
-                                              : m_estimator.minutesUntilEmpty();
-}
-
-void BatteryTimes::sample(const SystemPower& power)
-{
-    const Batteries batteries = power.batteries;
-    m_estimator.addSample(
-        {m_now(), combinedCharge(batteries), combinedFullCharge(batteries), combinedChargeRate(batteries)});
+    const Direction direction = directionOf(power);
+    const bool isPlugged = isExternallyPowered(power);
+    m_estimator.setState(isPlugged, direction);
+    if (m_estimator.wantsSample(now))
+        m_estimator.addSample({now, combinedCharge(power.batteries), combinedFullCharge(power.batteries),
+                               combinedChargeRate(power.batteries)});
+    SystemTimes times = driversTimes(power, direction);
+    times.averageToFull = firstOf(times.averageToFull, m_estimator.minutesUntilFull());
+    times.averageToEmpty = firstOf(times.averageToEmpty, m_estimator.minutesUntilEmpty());
+    times.presentToEmpty = firstOf(times.presentToEmpty, m_estimator.minutesUntilEmpty());
+    if (direction == Direction::Charging)
+        times.remaining = times.averageToFull;
+    else if (!isPlugged)
+        times.remaining = times.averageToEmpty;
+    return times;
 }
 
 } // namespace quindle

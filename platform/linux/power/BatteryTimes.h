@@ -2,38 +2,30 @@
 
 #include <optional>
 
-#include "platform/linux/os/MonotonicClock.h"
-#include "platform/linux/power/CombinedBattery.h"
+#include "platform/linux/power/SystemPower.h"
 #include "platform/linux/power/TimeEstimator.h"
 
 namespace quindle {
 
-enum class BatteryTime {
-    AverageToEmpty,
-    AverageToFull,
-    InstantToEmpty,
-    Remaining, ///< to full while charging, else to empty; none on external power that does not charge
+/// The times of the system's batteries, in whole minutes; nothing while one is not known.
+struct SystemTimes
+{
+    std::optional<int> averageToEmpty;
+    std::optional<int> averageToFull;
+    std::optional<int> presentToEmpty;
+    std::optional<int>
+        remaining; ///< to full while charging, else to empty; none on power that does not charge
 };
 
-/// The times of the system's batteries: the driver's own where it has plausible ones, else estimates. Only
-/// estimates remember anything between two calls: the samples of the last minutes. Main thread only.
+/// Follows the batteries from one moment to the next: the driver's own times where it has plausible ones,
+/// else estimates from the samples of the last minutes. Times are of one clock that only runs forward.
 class BatteryTimes
 {
 public:
-    explicit BatteryTimes(MonotonicClock now = timeSinceBoot);
-
-    /// Whole minutes; nothing while it is not known.
-    std::optional<int> minutes(BatteryTime time, const SystemPower& power);
-
-    /// Tells the estimates whether the computer is plugged in; to be called whenever that was read, so that
-    /// no plug or unplug is missed.
-    void notePower(const SystemPower& power);
+    /// The times at that moment. To be told of every moment, so that no plug or unplug is missed.
+    SystemTimes follow(const SystemPower& power, std::chrono::milliseconds now);
 
 private:
-    std::optional<int> estimate(BatteryTime time, const SystemPower& power);
-    void sample(const SystemPower& power);
-
-    MonotonicClock m_now;
     TimeEstimator m_estimator;
 };
 

@@ -7,64 +7,72 @@ namespace quindle {
 namespace {
 
 using OptionalNumber = std::optional<double>;
-using Rule = OptionalNumber (*)(const SupplyAttributes&);
 
-OptionalNumber firstTold(Batteries batteries, Rule rule)
+template <typename Figure>
+using Member = std::optional<Figure> Battery::*;
+
+template <typename Figure>
+std::optional<Figure> firstTold(Batteries batteries, Member<Figure> figure)
 {
-    for (const SupplyAttributes* battery : batteries) {
-        if (const OptionalNumber number = rule(*battery))
-            return number;
-    }
+    for (const Battery& battery : batteries)
+        if (battery.*figure)
+            return battery.*figure;
     return std::nullopt;
 }
 
 /// A quantity of one battery expressed at another's rated voltage.
-double atVoltageOf(const SupplyAttributes& first, const SupplyAttributes& battery, double quantity)
+double atVoltageOf(const Battery& first, const Battery& battery, double quantity)
 {
-    return quantity * ratedVoltage(battery) / ratedVoltage(first);
+    return quantity * battery.ratedVoltage / first.ratedVoltage;
 }
 
 /// Whether a battery's figures may be added to others': percentages are no charges, and one that does not
 /// tell both charge and full charge would make the percentage of all wrong.
-bool addsUp(const SupplyAttributes& battery)
+bool addsUp(const Battery& battery)
 {
-    return !tellsPercentageOnly(battery) && charge(battery) && fullCharge(battery);
+    return !battery.tellsPercentageOnly && battery.charge && battery.fullCharge;
+}
+
+OptionalNumber fullCharge(const Battery& battery)
+{
+    return battery.fullCharge;
+}
+
+OptionalNumber presentCharge(const Battery& battery)
+{
+    return battery.charge;
 }
 
 /// A battery that does not tell its design charge counts as new beside others that do.
-OptionalNumber designOrFullCharge(const SupplyAttributes& battery)
+OptionalNumber designOrFullCharge(const Battery& battery)
 {
-    const OptionalNumber design = designCharge(battery);
-    return design ? design : fullCharge(battery);
+    return battery.designCharge ? battery.designCharge : battery.fullCharge;
 }
 
-OptionalNumber sumOfCharges(Batteries batteries, Rule rule)
+OptionalNumber sumOfCharges(Batteries batteries, OptionalNumber (*chargeOf)(const Battery&))
 {
     if (batteries.size() == 1)
-        return rule(*batteries.front());
-    const bool someAddUp = std::any_of(batteries.begin(), batteries.end(),
-                                       [](const SupplyAttributes* battery) { return addsUp(*battery); });
+        return chargeOf(batteries.front());
+    const bool someAddUp = std::any_of(batteries.begin(), batteries.end(), addsUp);
     OptionalNumber sum;
-    for (const SupplyAttributes* battery : batteries) {
-        if (someAddUp && !addsUp(*battery))
+    for (const Battery& battery : batteries) {
+        if (someAddUp && !addsUp(battery))
             continue;
         // Percentages, where there is nothing else, are added as they are: that gives their mean.
-        if (const OptionalNumber number = rule(*battery))
-            sum =
-                sum.value_or(0) + (someAddUp ? atVoltageOf(*batteries.front(), *battery, *number) : *number);
+        if (const OptionalNumber charge = chargeOf(battery))
+            sum = sum.value_or(0) + (someAddUp ? atVoltageOf(batteries.front(), battery, *charge) : *charge);
     }
     return sum;
 }
 
-OptionalNumber sumOfCurrents(Batteries batteries, Rule rule)
+OptionalNumber sumOfCurrents(Batteries batteries, Member<double> current)
 {
     if (batteries.size() == 1)
-        return rule(*batteries.front());
+        return batteries.front().*current;
     OptionalNumber sum;
-    for (const SupplyAttributes* battery : batteries) {
-        if (const OptionalNumber current = rule(*battery))
-            sum = sum.value_or(0) + atVoltageOf(*batteries.front(), *battery, *current);
-    }
+    for (const Battery& battery : batteries)
+        if (battery.*current)
+            sum = sum.value_or(0) + atVoltageOf(batteries.front(), battery, *(battery.*current));
     return sum;
 }
 
@@ -72,7 +80,7 @@ OptionalNumber sumOfCurrents(Batteries batteries, Rule rule)
 
 std::optional<double> combinedCharge(Batteries batteries)
 {
-    return sumOfCharges(batteries, charge);
+    return sumOfCharges(batteries, presentCharge);
 }
 
 std::optional<double> combinedFullCharge(Batteries batteries)
@@ -82,84 +90,71 @@ std::optional<double> combinedFullCharge(Batteries batteries)
 
 std::optional<double> combinedDesignCharge(Batteries batteries)
 {
-    if (!firstTold(batteries, designCharge))
+    if (!firstTold(batteries, &Battery::designCharge))
         return std::nullopt;
     return sumOfCharges(batteries, designOrFullCharge);
 }
 
 std::optional<double> combinedAverageCurrent(Batteries batteries)
 {
-    return sumOfCurrents(batteries, averageCurrent);
+    return sumOfCurrents(batteries, &Battery::averageCurrent);
 }
 
-std::optional<double> combinedInstantCurrent(Batteries batteries)
+std::optional<double> combinedPresentCurrent(Batteries batteries)
 {
-    return sumOfCurrents(batteries, instantCurrent);
+    return sumOfCurrents(batteries, &Battery::presentCurrent);
 }
 
 std::optional<double> combinedChargeRate(Batteries batteries)
 {
-    return sumOfCurrents(batteries, chargeRate);
+    return sumOfCurrents(batteries, &Battery::chargeRate);
 }
 
 std::optional<double> combinedVoltage(Batteries batteries)
 {
-    return firstTold(batteries, presentVoltage);
+    return firstTold(batteries, &Battery::voltage);
 }
 
 std::optional<double> combinedTemperature(Batteries batteries)
 {
-    return firstTold(batteries, temperature);
+    return firstTold(batteries, &Battery::temperature);
+}
+
+std::optional<int> combinedChargeLimit(Batteries batteries)
+{
+    return firstTold(batteries, &Battery::chargeLimit);
 }
 
 std::optional<double> combinedCycleCount(Batteries batteries)
 {
     OptionalNumber highest;
-    for (const SupplyAttributes* battery : batteries)
-        highest = std::max(highest, cycleCount(*battery));
+    for (const Battery& battery : batteries)
+        highest = std::max(highest, battery.cycleCount);
     return highest;
 }
 
 std::optional<bool> anyCharges(Batteries batteries)
 {
     std::optional<bool> charges;
-    for (const SupplyAttributes* battery : batteries) {
-        if (const std::optional<ChargingState> state = chargingState(*battery))
-            charges = charges.value_or(false) || *state == ChargingState::Charging;
-    }
+    for (const Battery& battery : batteries)
+        if (battery.state)
+            charges = charges.value_or(false) || *battery.state == ChargingState::Charging;
     return charges;
 }
 
 std::optional<bool> allAreFull(Batteries batteries)
 {
     std::optional<bool> full;
-    for (const SupplyAttributes* battery : batteries) {
-        if (const std::optional<bool> isThisFull = isFull(*battery))
-            full = full.value_or(true) && *isThisFull;
-    }
+    for (const Battery& battery : batteries)
+        if (battery.isFull)
+            full = full.value_or(true) && *battery.isFull;
     return full;
 }
 
 bool anyDischarges(Batteries batteries)
 {
-    return std::any_of(batteries.begin(), batteries.end(), [](const SupplyAttributes* battery) {
-        return chargingState(*battery) == ChargingState::Discharging;
-    });
-}
-
-bool isExternallyPowered(const SystemPower& power)
-{
-    // Some chargers say that they are online for ever; a battery that discharges knows better.
-    if (anyDischarges(power.batteries))
-        return false;
-    bool chargerSaysSomething = false;
-    for (const SupplyAttributes* supply : power.externals) {
-        const OptionalNumber online = supply->number(Attribute::Online);
-        if (online && *online > 0)
-            return true;
-        chargerSaysSomething = chargerSaysSomething || online.has_value();
-    }
-    return !chargerSaysSomething;
+    return std::any_of(batteries.begin(), batteries.end(),
+                       [](const Battery& battery) { return battery.state == ChargingState::Discharging; });
 }
 
 } // namespace quindle

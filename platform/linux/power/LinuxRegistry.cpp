@@ -1,8 +1,7 @@
 #include "platform/linux/power/LinuxRegistry.h"
 
 #include "platform/linux/os/SmallFile.h"
-#include "platform/linux/power/PowerSnapshot.h"
-#include "platform/linux/power/RegistryValues.h"
+#include "platform/linux/power/PowerSampler.h"
 
 namespace quindle {
 
@@ -10,6 +9,7 @@ namespace {
 
 constexpr IOStatus badArgument = static_cast<IOStatus>(0xe00002c2);
 
+const QLatin1String batteryName("AppleSmartBattery");
 const QString modelKey = QStringLiteral("model");
 const QString serialKey = QStringLiteral("IOPlatformSerialNumber");
 
@@ -32,20 +32,23 @@ std::optional<QString> firmwareText(const QString& dmiFolder, const char* dmiNam
 
 } // namespace
 
-LinuxRegistry::LinuxRegistry(SupplyDirectory& supplies, BatteryTimes& times, Folders folders)
-    : m_supplies(supplies)
-    , m_times(times)
+LinuxRegistry::LinuxRegistry(PowerSampler& sampler, Folders folders)
+    : m_sampler(sampler)
     , m_folders(std::move(folders))
 {
 }
 
 RegistryObject LinuxRegistry::serviceMatchingName(const QString& name)
 {
-    if (name != QLatin1String("AppleSmartBattery"))
+    if (name != batteryName)
         return 0;
-    m_supplies.rescanNow();
-    const PowerSnapshot snapshot(m_supplies);
-    return snapshot.power().batteries.empty() ? 0 : open(Entry::Battery);
+    m_sampler.lookAgain();
+    return m_sampler.sample()->batteryEntry.isEmpty() ? 0 : open(Entry::Battery);
+}
+
+std::optional<bool> LinuxRegistry::isMatched(const QString& name)
+{
+    return name == batteryName && !m_sampler.sample()->batteryEntry.isEmpty();
 }
 
 RegistryObject LinuxRegistry::serviceMatchingClass(const QString& className)
@@ -60,8 +63,7 @@ QVariant LinuxRegistry::property(RegistryObject object, const QString& key)
         return {};
     if (entry->second == Entry::Computer)
         return computerProperty(key);
-    const PowerSnapshot snapshot(m_supplies);
-    return registryValue(key, snapshot.power(), m_times);
+    return batteryEntry().value(key);
 }
 
 QVariantMap LinuxRegistry::properties(RegistryObject object)
@@ -71,8 +73,7 @@ QVariantMap LinuxRegistry::properties(RegistryObject object)
         return {};
     if (entry->second == Entry::Computer)
         return computerProperties();
-    const PowerSnapshot snapshot(m_supplies);
-    return registryValues(snapshot.power(), m_times);
+    return batteryEntry();
 }
 
 IOStatus LinuxRegistry::release(RegistryObject object)
@@ -87,6 +88,14 @@ RegistryObject LinuxRegistry::open(Entry entry)
     while (m_lastHandle == 0 || m_open.contains(m_lastHandle));
     m_open.emplace(m_lastHandle, entry);
     return m_lastHandle;
+}
+
+const QVariantMap& LinuxRegistry::batteryEntry()
+{
+    const std::shared_ptr<const PowerSample> sample = m_sampler.sample();
+    if (!sample->batteryEntry.isEmpty())
+        m_lastBatteryEntry = sample->batteryEntry;
+    return m_lastBatteryEntry;
 }
 
 QVariant LinuxRegistry::computerProperty(const QString& key) const

@@ -8,8 +8,7 @@
 
 namespace quindle {
 
-class BatteryTimes;
-class SupplyDirectory;
+class PowerSampler;
 
 /// The registry of a Linux computer: "AppleSmartBattery" is composed of the system's batteries,
 /// "IOPlatformExpertDevice" of what the firmware says about the computer.
@@ -23,14 +22,15 @@ public:
         QString deviceTree; ///< "/proc/device-tree"
     };
 
-    /// `supplies` and `times` are shared with the power sources and live longer than this object.
-    LinuxRegistry(SupplyDirectory& supplies, BatteryTimes& times, Folders folders);
+    /// `sampler` is shared with the power sources and lives longer than this object.
+    LinuxRegistry(PowerSampler& sampler, Folders folders);
 
     RegistryObject serviceMatchingName(const QString& name) override;
     RegistryObject serviceMatchingClass(const QString& className) override;
     QVariant property(RegistryObject object, const QString& key) override;
     QVariantMap properties(RegistryObject object) override;
     IOStatus release(RegistryObject object) override;
+    std::optional<bool> isMatched(const QString& name) override;
 
 private:
     enum class Entry {
@@ -39,12 +39,13 @@ private:
     };
 
     RegistryObject open(Entry entry);
+    const QVariantMap& batteryEntry();
     QVariant computerProperty(const QString& key) const;
     QVariantMap computerProperties() const;
 
-    SupplyDirectory& m_supplies;
-    BatteryTimes& m_times;
+    PowerSampler& m_sampler;
     Folders m_folders;
+    QVariantMap m_lastBatteryEntry; ///< what an open entry goes on saying when its battery has gone
     std::unordered_map<RegistryObject, Entry> m_open;
     RegistryObject m_lastHandle = 0;
 };

@@ -6,12 +6,9 @@
 
 namespace quindle {
 
-/// The battery's registry properties. A property that no battery tells is the invalid value. Integers are
-/// qint64; "Temperature" is a real, since tenths of a degree Celsius are no whole tenths of a kelvin. The
-/// times say 65535 while they are not known.
-QVariant registryValue(const QString& key, const SystemPower& power, BatteryTimes& times);
-
-/// All properties that have a value.
-QVariantMap registryValues(const SystemPower& power, BatteryTimes& times);
+/// The battery's registry entry; empty without a battery. A property that no battery tells is left out.
+/// Integers are qint64; "Temperature" is a real, since tenths of a degree Celsius are no whole tenths of a
+/// kelvin. The times say 65535 while they are not known.
+QVariantMap registryEntry(const SystemPower& power, const SystemTimes& times);
 
 } // namespace quindle

@@ -9,13 +9,15 @@ namespace quindle {
 
 namespace {
 
-constexpr std::array<const char*, attributeCount> attributeNames = {
+/// Literals, so each ends in NUL.
+constexpr std::array<std::string_view, attributeCount> attributeNames = {
     "type",
     "scope",
     "present",
     "online",
     "status",
     "capacity",
+    "capacity_level",
     "charge_now",
     "charge_full",
     "charge_full_design",
@@ -43,6 +45,8 @@ constexpr std::array<const char*, attributeCount> attributeNames = {
     "serial_number",
     "health",
     "usb_type",
+    "charge_control_end_threshold",
+    "charge_types",
 };
 
 bool isBlankOrControl(char character)
@@ -67,11 +71,73 @@ QString withoutUnprintable(std::string_view text)
     return printable;
 }
 
+char upperCase(char character)
+{
+    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
+}
+
+bool isInUpperCase(std::string_view upper, std::string_view name)
+{
+    return std::equal(upper.begin(), upper.end(), name.begin(), name.end(),
+                      [](char left, char right) { return left == upperCase(right); });
+}
+
+/// The attribute whose name stands in capitals in a uevent.
+std::optional<Attribute> attributeInCapitals(std::string_view name)
+{
+    const auto found = std::find_if(attributeNames.begin(), attributeNames.end(),
+                                    [&](std::string_view each) { return isInUpperCase(name, each); });
+    if (found == attributeNames.end())
+        return std::nullopt;
+    return static_cast<Attribute>(found - attributeNames.begin());
+}
+
 } // namespace
 
 const char* attributeName(Attribute attribute)
 {
-    return attributeNames[static_cast<std::size_t>(attribute)];
+    return attributeNames[indexOf(attribute)].data();
+}
+
+std::optional<std::string_view> SupplyAttributes::text(Attribute attribute) const
+{
+    const Place& place = m_places[indexOf(attribute)];
+    if (!place.isKnown)
+        return std::nullopt;
+    return std::string_view(m_texts).substr(place.begin, place.size);
+}
+
+std::optional<double> SupplyAttributes::number(Attribute attribute) const
+{
+    const std::optional<std::string_view> written = text(attribute);
+    return written ? numberFromText(*written) : std::nullopt;
+}
+
+void SupplyAttributes::set(Attribute attribute, std::string_view text)
+{
+    m_places[indexOf(attribute)] = {true, static_cast<std::uint32_t>(m_texts.size()),
+                                    static_cast<std::uint32_t>(text.size())};
+    m_texts.append(text);
+}
+
+std::optional<SupplyAttributes> attributesFromUevent(std::string_view text)
+{
+    constexpr std::string_view prefix = "POWER_SUPPLY_";
+    SupplyAttributes attributes;
+    bool hasName = false; // the kernel begins with it
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        const std::size_t sign = line.find('=');
+        if (!line.starts_with(prefix) || sign == std::string_view::npos)
+            continue;
+        const std::string_view name = line.substr(prefix.size(), sign - prefix.size());
+        hasName = hasName || name == "NAME";
+        if (const std::optional<Attribute> attribute = attributeInCapitals(name))
+            attributes.set(*attribute, line.substr(sign + 1));
+    }
+    return hasName ? std::optional(std::move(attributes)) : std::nullopt;
 }
 
 std::string_view trimmed(std::string_view text)

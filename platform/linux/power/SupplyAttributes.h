@@ -1,15 +1,18 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include <QString>
 
 namespace quindle {
 
-/// The attribute files of a power supply that this program reads.
+/// The attributes of a power supply that this program reads.
 enum class Attribute : unsigned char {
     Type,
     Scope,
@@ -17,6 +20,7 @@ enum class Attribute : unsigned char {
     Online,
     Status,
     Capacity,
+    CapacityLevel,
     ChargeNow,
     ChargeFull,
     ChargeFullDesign,
@@ -44,24 +48,52 @@ enum class Attribute : unsigned char {
     SerialNumber,
     Health,
     UsbType,
+    ChargeControlEndThreshold,
+    ChargeTypes,
 };
 
-inline constexpr std::size_t attributeCount = static_cast<std::size_t>(Attribute::UsbType) + 1;
+inline constexpr std::size_t attributeCount = static_cast<std::size_t>(Attribute::ChargeTypes) + 1;
+
+/// Some of the attributes, by their number.
+using AttributeSet = std::bitset<attributeCount>;
+
+constexpr std::size_t indexOf(Attribute attribute)
+{
+    return static_cast<std::size_t>(attribute);
+}
 
 /// The attribute's file name. NUL-terminated.
 const char* attributeName(Attribute attribute);
 
-/// The attributes of one power supply as they stand now. A number that cannot be read, or is none, is
-/// missing; a text is what the file holds, blanks and control characters included. A text is valid until the
-/// next one of the same supply is asked for.
+/// The attributes of one supply as they were when it was read. Texts are what the driver wrote, blanks and
+/// control characters included.
 class SupplyAttributes
 {
 public:
-    virtual ~SupplyAttributes() = default;
+    /// What the driver wrote; nothing for an attribute that the supply does not have. Valid until an
+    /// attribute is set.
+    std::optional<std::string_view> text(Attribute attribute) const;
 
-    virtual std::optional<double> number(Attribute attribute) const = 0;
-    virtual std::optional<std::string_view> text(Attribute attribute) const = 0;
+    /// The whole number it wrote; nothing when it is missing or is none.
+    std::optional<double> number(Attribute attribute) const;
+
+    void set(Attribute attribute, std::string_view text);
+
+private:
+    struct Place
+    {
+        bool isKnown = false;
+        std::uint32_t begin = 0;
+        std::uint32_t size = 0;
+    };
+
+    std::string m_texts; ///< all of them, one behind the other
+    std::array<Place, attributeCount> m_places;
 };
+
+/// The attributes in the text of a supply's file "uevent", a line "POWER_SUPPLY_NAME=BAT0" for each. Nothing
+/// for a text that the kernel did not finish: one property that cannot be read leaves the whole file empty.
+std::optional<SupplyAttributes> attributesFromUevent(std::string_view text);
 
 /// The whole decimal number in `text`, which blanks and a line feed may surround; nothing when it holds
 /// anything else or does not fit 64 bits.

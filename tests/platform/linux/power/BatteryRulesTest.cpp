@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/power/BatteryRules.h"
-#include "tests/platform/linux/power/MapAttributes.h"
+#include "tests/platform/linux/power/SupplyTexts.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -10,10 +10,15 @@ namespace {
 
 using Figure = std::optional<double>;
 
+Battery battery(const SupplyTexts& texts)
+{
+    return batteryFrom(attributesFrom(texts));
+}
+
 struct ChargeCase
 {
     const char* what;
-    MapAttributes battery;
+    SupplyTexts texts;
     Figure charge;
     Figure full;
     Figure design;
@@ -34,9 +39,11 @@ void expectFigure(Figure actual, Figure expected)
 TEST_P(ChargeTest, Gives)
 {
     SCOPED_TRACE(GetParam().what);
-    expectFigure(charge(GetParam().battery), GetParam().charge);
-    expectFigure(fullCharge(GetParam().battery), GetParam().full);
-    expectFigure(designCharge(GetParam().battery), GetParam().design);
+    const Battery told = battery(GetParam().texts);
+    expectFigure(told.charge, GetParam().charge);
+    expectFigure(told.fullCharge, GetParam().full);
+    expectFigure(told.designCharge, GetParam().design);
+    EXPECT_EQ(isReady(told), GetParam().full.has_value());
 }
 
 const ChargeCase chargeCases[] = {
@@ -86,8 +93,18 @@ const ChargeCase chargeCases[] = {
      4000,
      5000},
     {"above full counts as full", {{"charge_now", "4539000"}, {"charge_full", "4538000"}}, 4538, 4538, {}},
-    {"far above full, with a lower percentage within 20 points",
-     {{"charge_now", "9000000"}, {"charge_full", "4000000"}, {"capacity", "85"}},
+    {"twice the full charge counts as full",
+     {{"charge_now", "8000000"}, {"charge_full", "4000000"}, {"capacity", "85"}},
+     4000,
+     4000,
+     {}},
+    {"more than twice is a broken counter: bytes swapped",
+     {{"charge_now", "56848000"}, {"charge_full", "4998000"}, {"capacity", "87"}},
+     4348.26,
+     4998,
+     {}},
+    {"more than twice and no percentage",
+     {{"charge_now", "9000000"}, {"charge_full", "4000000"}},
      4000,
      4000,
      {}},
@@ -111,8 +128,14 @@ const ChargeCase chargeCases[] = {
      43,
      100,
      {}},
-    {"a full charge of 0 and no percentage", {{"charge_full", "0"}, {"charge_now", "900000"}}, 900, 0, {}},
-    {"a charge only", {{"charge_now", "900000"}}, 900, {}, {}},
+    {"a full charge of 0 and no percentage", {{"charge_full", "0"}, {"charge_now", "900000"}}, {}, {}, {}},
+    {"a charge only", {{"charge_now", "900000"}}, {}, {}, {}},
+    {"a driver that is not ready", {{"status", "Unknown"}, {"energy_now", "0"}}, {}, {}, {}},
+    {"a design charge of 0 is none",
+     {{"charge_now", "2000000"}, {"charge_full", "4000000"}, {"charge_full_design", "0"}},
+     2000,
+     4000,
+     {}},
     {"percentage above 100", {{"capacity", "104"}}, 100, 100, {}},
     {"negative percentage is none", {{"capacity", "-1"}}, {}, {}, {}},
     {"negative charge is none",
@@ -147,6 +170,11 @@ const ChargeCase chargeCases[] = {
      2000,
      4000,
      {}},
+    {"counts in mWh, voltages in mV",
+     {{"energy_now", "24000"}, {"energy_full", "48000"}, {"voltage_min_design", "12000"}},
+     2000,
+     4000,
+     {}},
     {"counts in mWh without a voltage", {{"energy_now", "11400"}, {"energy_full", "22800"}}, 1000, 2000, {}},
 };
 
@@ -155,9 +183,10 @@ INSTANTIATE_TEST_SUITE_P(BatteryRules, ChargeTest, testing::ValuesIn(chargeCases
 struct CurrentCase
 {
     const char* what;
-    MapAttributes battery;
+    SupplyTexts texts;
     Figure average;
-    Figure instant;
+    Figure present;
+    Figure voltage;
 };
 
 class CurrentTest : public testing::TestWithParam<CurrentCase>
@@ -167,58 +196,80 @@ class CurrentTest : public testing::TestWithParam<CurrentCase>
 TEST_P(CurrentTest, Gives)
 {
     SCOPED_TRACE(GetParam().what);
-    expectFigure(averageCurrent(GetParam().battery), GetParam().average);
-    expectFigure(instantCurrent(GetParam().battery), GetParam().instant);
+    const Battery told = battery(GetParam().texts);
+    expectFigure(told.averageCurrent, GetParam().average);
+    expectFigure(told.presentCurrent, GetParam().present);
+    expectFigure(told.voltage, GetParam().voltage);
 }
 
 const CurrentCase currentCases[] = {
-    {"nothing", {{"status", "Discharging"}}, {}, {}},
-    {"positive while discharging", {{"status", "Discharging"}, {"current_now", "402000"}}, -402, -402},
-    {"negative while discharging", {{"status", "Discharging"}, {"current_now", "-402000"}}, -402, -402},
-    {"negative while charging", {{"status", "Charging"}, {"current_now", "-402000"}}, 402, 402},
-    {"without status", {{"current_now", "-402000"}}, 402, 402},
+    {"nothing", {{"status", "Discharging"}}, {}, {}, {}},
+    {"positive while discharging", {{"status", "Discharging"}, {"current_now", "402000"}}, -402, -402, {}},
+    {"negative while discharging", {{"status", "Discharging"}, {"current_now", "-402000"}}, -402, -402, {}},
+    {"negative while charging", {{"status", "Charging"}, {"current_now", "-402000"}}, 402, 402, {}},
+    {"without status", {{"current_now", "-402000"}}, 402, 402, {}},
     {"average and present one",
      {{"status", "Discharging\n"}, {"current_avg", "-24000"}, {"current_now", "-26000"}},
      -24,
-     -26},
-    {"average only", {{"status", "Full"}, {"current_avg", "24000"}}, 24, 24},
+     -26,
+     {}},
+    {"average only", {{"status", "Full"}, {"current_avg", "24000"}}, 24, 24, {}},
     {"power by voltage",
      {{"status", "Discharging"}, {"power_now", "24000000"}, {"voltage_now", "12000000"}},
      -2000,
-     -2000},
-    {"power without voltage", {{"status", "Discharging"}, {"power_now", "24000000"}}, {}, {}},
-    {"power by a voltage of 0", {{"power_now", "24000000"}, {"voltage_now", "0"}}, {}, {}},
-    {"counts in mA", {{"status", "Charging"}, {"current_now", "1500"}, {"charge_full", "4000"}}, 1500, 1500},
+     -2000,
+     12000},
+    {"power without voltage: the rated one stands in for both",
+     {{"status", "Discharging"}, {"power_now", "24000000"}, {"voltage_min_design", "12000000"}},
+     -2000,
+     -2000,
+     12000},
+    {"power without any voltage: the usual one",
+     {{"status", "Discharging"}, {"power_now", "7100000"}},
+     -622.807,
+     -622.807,
+     11400},
+    {"power by a voltage of 0",
+     {{"power_now", "24000000"}, {"voltage_now", "0"}, {"voltage_min_design", "12000000"}},
+     2000,
+     2000,
+     12000},
+    {"a current needs no voltage", {{"power_now", "24000000"}, {"current_now", "1000000"}}, 1000, 1000, {}},
+    {"counts in mA",
+     {{"status", "Charging"}, {"current_now", "1500"}, {"charge_full", "4000"}},
+     1500,
+     1500,
+     {}},
 };
 
 INSTANTIATE_TEST_SUITE_P(BatteryRules, CurrentTest, testing::ValuesIn(currentCases));
 
 TEST(BatteryRules, ChargeRateOfEnergiesIsAtTheRatedVoltage)
 {
-    const MapAttributes energies = {{"status", "Discharging"},
-                                    {"energy_full", "48000000"},
-                                    {"power_now", "24000000"},
-                                    {"voltage_min_design", "12000000"},
-                                    {"voltage_now", "15000000"}};
-    expectFigure(chargeRate(energies), -2000);
-    expectFigure(averageCurrent(energies), -1600);
-    const MapAttributes withCurrent = {{"status", "Charging"},
-                                       {"energy_full", "48000000"},
-                                       {"current_now", "1600000"},
-                                       {"voltage_min_design", "12000000"},
-                                       {"voltage_now", "15000000"}};
-    expectFigure(chargeRate(withCurrent), 2000);
-    expectFigure(chargeRate(MapAttributes{{"charge_full", "4000000"}, {"current_now", "1600000"}}), 1600);
+    const SupplyTexts energies = {{"status", "Discharging"},
+                                  {"energy_full", "48000000"},
+                                  {"power_now", "24000000"},
+                                  {"voltage_min_design", "12000000"},
+                                  {"voltage_now", "15000000"}};
+    expectFigure(battery(energies).chargeRate, -2000);
+    expectFigure(battery(energies).averageCurrent, -1600);
+    const SupplyTexts withCurrent = {{"status", "Charging"},
+                                     {"energy_full", "48000000"},
+                                     {"current_now", "1600000"},
+                                     {"voltage_min_design", "12000000"},
+                                     {"voltage_now", "15000000"}};
+    expectFigure(battery(withCurrent).chargeRate, 2000);
+    expectFigure(battery({{"charge_full", "4000000"}, {"current_now", "1600000"}}).chargeRate, 1600);
 }
 
 TEST(BatteryRules, Voltage)
 {
-    expectFigure(presentVoltage(MapAttributes{}), {});
-    expectFigure(presentVoltage(MapAttributes{{"voltage_now", "17296000"}}), 17296);
-    expectFigure(presentVoltage(MapAttributes{{"voltage_now", "12000"}, {"charge_full", "4000"}}), 12000);
+    expectFigure(battery({}).voltage, {});
+    expectFigure(battery({{"voltage_now", "17296000"}}).voltage, 17296);
+    expectFigure(battery({{"voltage_now", "12000"}, {"charge_full", "4000"}}).voltage, 12000);
     // The voltage is in the usual unit although the charges are not.
-    expectFigure(presentVoltage(MapAttributes{{"voltage_now", "12000000"}, {"charge_full", "4000"}}), 12000);
-    expectFigure(presentVoltage(MapAttributes{{"voltage_now", "-1"}}), {});
+    expectFigure(battery({{"voltage_now", "12000000"}, {"charge_full", "4000"}}).voltage, 12000);
+    expectFigure(battery({{"voltage_now", "-1"}}).voltage, {});
 }
 
 TEST(BatteryRules, Temperature)
@@ -228,15 +279,15 @@ TEST(BatteryRules, Temperature)
                                                     {"x", {}}};
     for (const auto& [text, expected] : cases) {
         SCOPED_TRACE(text);
-        expectFigure(temperature(MapAttributes{{"temp", text}}), expected);
+        expectFigure(battery({{"temp", text}}).temperature, expected);
     }
 }
 
 TEST(BatteryRules, ManufactureDate)
 {
     const auto packed = [](const char* year, const char* month, const char* day) {
-        return packedManufactureDate(MapAttributes{
-            {"manufacture_year", year}, {"manufacture_month", month}, {"manufacture_day", day}});
+        return battery({{"manufacture_year", year}, {"manufacture_month", month}, {"manufacture_day", day}})
+            .manufactureDate;
     };
     EXPECT_EQ(packed("2014", "3", "2"), 17506);
     EXPECT_EQ(packed("2024", "08", "24"), 44 * 512 + 8 * 32 + 24);
@@ -248,12 +299,12 @@ TEST(BatteryRules, ManufactureDate)
 
 TEST(BatteryRules, Full)
 {
-    const MapAttributes::Texts full = {{"charge_now", "4000000"}, {"charge_full", "4000000"}};
-    const auto isFullWith = [&](const char* status, MapAttributes::Texts texts) {
+    const SupplyTexts full = {{"charge_now", "4000000"}, {"charge_full", "4000000"}};
+    const auto isFullWith = [&](const char* status, SupplyTexts texts) {
         texts["status"] = status;
-        return isFull(MapAttributes(std::move(texts)));
+        return battery(texts).isFull;
     };
-    EXPECT_EQ(isFull(MapAttributes(full)), std::nullopt);
+    EXPECT_EQ(battery(full).isFull, std::nullopt);
     EXPECT_EQ(isFullWith("Full", {}), true);
     EXPECT_EQ(isFullWith("Unknown", full), false);
     EXPECT_EQ(isFullWith("Charging", full), false);
@@ -270,9 +321,27 @@ TEST(BatteryRules, PlausibleMinutes)
         {"3600", 60},      {"3659", 60},   {"0", {}},      {"-60", {}},
         {"863999", 14399}, {"864000", {}}, {"3932100", {}}};
     for (const auto& [text, expected] : cases)
-        EXPECT_EQ(plausibleMinutes(MapAttributes{{"time_to_full_avg", text}}, Attribute::TimeToFullAvg),
-                  expected)
-            << text;
+        EXPECT_EQ(battery({{"time_to_full_avg", text}}).averageMinutesToFull, expected) << text;
+}
+
+TEST(BatteryRules, ChargeLimit)
+{
+    const auto limit = [](const char* threshold, const char* types) {
+        SupplyTexts texts = {{"charge_control_end_threshold", threshold}};
+        if (types)
+            texts["charge_types"] = types;
+        return battery(texts).chargeLimit;
+    };
+    EXPECT_EQ(limit("80\n", nullptr), 80);
+    EXPECT_EQ(limit("1", nullptr), 1);
+    EXPECT_EQ(limit("99", nullptr), 99);
+    for (const char* none : {"100", "0", "-1", "", "off"})
+        EXPECT_EQ(limit(none, nullptr), std::nullopt) << none;
+    EXPECT_EQ(limit("80", "Standard Fast [Custom]\n"), 80);
+    EXPECT_EQ(limit("80", "Custom"), 80);
+    EXPECT_EQ(limit("80", "[Standard] Fast Custom\n"), std::nullopt);
+    EXPECT_EQ(limit("80", "Long_Life"), std::nullopt);
+    EXPECT_EQ(battery({{"charge_types", "[Long_Life]"}}).chargeLimit, std::nullopt);
 }
 
 } // namespace

@@ -1,38 +1,33 @@
 #include <gtest/gtest.h>
 
+#include "platform/linux/power/BatteryRules.h"
 #include "platform/linux/power/BatteryTimes.h"
-#include "tests/platform/linux/power/MapAttributes.h"
+#include "tests/platform/linux/power/SupplyTexts.h"
 
 using namespace quindle;
+using namespace std::chrono_literals;
 
 namespace {
 
-using Texts = MapAttributes::Texts;
+using Texts = SupplyTexts;
 
-/// Owns supplies and shows them as the system's.
+/// The system's power as it would be with these supplies, whether or not their drivers are ready.
 class System
 {
 public:
     explicit System(const std::vector<Texts>& batteries, const std::vector<Texts>& externals = {})
     {
         for (const Texts& texts : batteries)
-            m_batteries.push_back(keep(texts));
+            m_power.batteries.push_back(batteryFrom(attributesFrom(texts)));
         for (const Texts& texts : externals)
-            m_externals.push_back(keep(texts));
+            m_power.externals.push_back(externalSupplyFrom(attributesFrom(texts)));
     }
 
-    SystemPower power() const { return {m_batteries, m_externals}; }
-    Batteries batteries() const { return m_batteries; }
+    const SystemPower& power() const { return m_power; }
+    Batteries batteries() const { return m_power.batteries; }
 
 private:
-    const SupplyAttributes* keep(const Texts& texts)
-    {
-        return m_owned.emplace_back(std::make_unique<MapAttributes>(texts)).get();
-    }
-
-    std::vector<std::unique_ptr<MapAttributes>> m_owned;
-    std::vector<const SupplyAttributes*> m_batteries;
-    std::vector<const SupplyAttributes*> m_externals;
+    SystemPower m_power;
 };
 
 const Texts twelveVolts = {{"energy_now", "12000000"},         {"energy_full", "24000000"},
@@ -124,60 +119,69 @@ TEST(CombinedBattery, Flags)
     }
 }
 
-struct TimesTest : testing::Test
-{
-    std::optional<int> minutes(BatteryTime time, const System& system)
-    {
-        return times.minutes(time, system.power());
-    }
-
-    std::chrono::milliseconds now{0};
-    BatteryTimes times = BatteryTimes([this] { return now; });
-};
-
 Texts with(Texts texts, const Texts& more)
 {
     texts.insert(more.begin(), more.end());
     return texts;
 }
 
-TEST_F(TimesTest, DriversTimesAreTakenAtOnceInTheirOwnDirection)
+TEST(BatteryTimes, DriversTimesAreTakenAtOnceInTheirOwnDirection)
 {
     const Texts told = {
         {"time_to_empty_avg", "7200"}, {"time_to_empty_now", "3600"}, {"time_to_full_avg", "1800"}};
-    const System discharging({with(status("Discharging"), told)});
-    EXPECT_EQ(minutes(BatteryTime::AverageToEmpty, discharging), 120);
-    EXPECT_EQ(minutes(BatteryTime::InstantToEmpty, discharging), 60);
-    EXPECT_EQ(minutes(BatteryTime::AverageToFull, discharging), std::nullopt);
-    EXPECT_EQ(minutes(BatteryTime::Remaining, discharging), 120);
-    const System charging({with(status("Charging"), told)});
-    EXPECT_EQ(minutes(BatteryTime::AverageToEmpty, charging), std::nullopt);
-    EXPECT_EQ(minutes(BatteryTime::AverageToFull, charging), 30);
-    EXPECT_EQ(minutes(BatteryTime::Remaining, charging), 30);
-    const System full({with(status("Full"), told)});
-    EXPECT_EQ(minutes(BatteryTime::Remaining, full), std::nullopt);
+    BatteryTimes times;
+    const SystemTimes discharging = times.follow(System({with(status("Discharging"), told)}).power(), 0s);
+    EXPECT_EQ(discharging.averageToEmpty, 120);
+    EXPECT_EQ(discharging.presentToEmpty, 60);
+    EXPECT_EQ(discharging.averageToFull, std::nullopt);
+    EXPECT_EQ(discharging.remaining, 120);
+    const SystemTimes charging = times.follow(System({with(status("Charging"), told)}).power(), 1s);
+    EXPECT_EQ(charging.averageToEmpty, std::nullopt);
+    EXPECT_EQ(charging.averageToFull, 30);
+    EXPECT_EQ(charging.remaining, 30);
+    const SystemTimes full = times.follow(System({with(status("Full"), told)}).power(), 2s);
+    EXPECT_EQ(full.remaining, std::nullopt);
 }
 
-TEST_F(TimesTest, EstimateNeedsAWhileAndStartsAnewOnPlugAndUnplug)
+TEST(BatteryTimes, EstimateNeedsAWhileAndStartsAnewOnPlugAndUnplug)
 {
     const System discharging({sixVolts}, {online("0")});
-    for (const int second : {0, 10}) {
-        now = std::chrono::seconds(second);
-        EXPECT_EQ(minutes(BatteryTime::AverageToEmpty, discharging), std::nullopt);
-    }
-    now = std::chrono::seconds(20);
-    EXPECT_EQ(minutes(BatteryTime::AverageToEmpty, discharging), 360);
-    EXPECT_EQ(minutes(BatteryTime::Remaining, discharging), 360);
-    times.notePower(System({status("Not charging")}, {online("1")}).power());
-    EXPECT_EQ(minutes(BatteryTime::AverageToEmpty, discharging), std::nullopt);
+    BatteryTimes times;
+    EXPECT_EQ(times.follow(discharging.power(), 0s).averageToEmpty, std::nullopt);
+    EXPECT_EQ(times.follow(discharging.power(), 10s).averageToEmpty, std::nullopt);
+    const SystemTimes known = times.follow(discharging.power(), 20s);
+    EXPECT_EQ(known.averageToEmpty, 360);
+    EXPECT_EQ(known.remaining, 360);
+    times.follow(System({status("Not charging")}, {online("1")}).power(), 20s);
+    EXPECT_EQ(times.follow(discharging.power(), 20s).averageToEmpty, std::nullopt);
 }
 
-TEST_F(TimesTest, SeveralBatteriesAreEstimatedTogether)
+TEST(BatteryTimes, SeveralBatteriesAreEstimatedTogether)
 {
     const System both({with(twelveVolts, {{"time_to_empty_avg", "600"}}), sixVolts});
-    EXPECT_EQ(minutes(BatteryTime::AverageToEmpty, both), std::nullopt);
-    now = std::chrono::seconds(30);
-    EXPECT_EQ(minutes(BatteryTime::AverageToEmpty, both), 120); // 2500 mAh at 1250 mA
+    BatteryTimes times;
+    EXPECT_EQ(times.follow(both.power(), 0s).averageToEmpty, std::nullopt);
+    EXPECT_EQ(times.follow(both.power(), 30s).averageToEmpty, 120); // 2500 mAh at 1250 mA
+}
+
+TEST(SystemPower, ABatteryWhoseDriverIsNotReadyIsNone)
+{
+    const auto countOf = [](const Texts& texts) {
+        return systemPowerFrom({readingFrom(SupplyKind::Battery, texts)}).batteries.size();
+    };
+    const Texts starting = {{"status", "Unknown"}, {"energy_now", "0"}, {"voltage_now", "0"}};
+    EXPECT_EQ(countOf(starting), 0U);
+    EXPECT_EQ(countOf(with(starting, {{"energy_full", "0"}})), 0U);
+    EXPECT_EQ(countOf(with(starting, {{"capacity", "0"}})), 1U);
+    EXPECT_EQ(countOf(with(starting, {{"energy_full", "50000000"}})), 1U);
+    EXPECT_EQ(countOf(Texts{{"charge_now", "900000"}}), 0U);
+    EXPECT_EQ(countOf({}), 0U);
+}
+
+TEST(SystemPower, AFullChargeThatRoundsToNothingIsNoBattery)
+{
+    const Texts texts = {{"energy_full", "1"}, {"energy_now", "1"}, {"voltage_min_design", "100000000"}};
+    EXPECT_TRUE(systemPowerFrom({readingFrom(SupplyKind::Battery, texts)}).batteries.empty());
 }
 
 } // namespace

@@ -1,8 +1,8 @@
-#include "platform/linux/power/BatteryTimes.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
-#include "platform/linux/power/SupplyDirectory.h"
+#include "platform/linux/power/PowerSampler.h"
 #include "tests/platform/IORegistryContract.h"
+#include "tests/platform/linux/power/Patience.h"
 #include "tests/platform/linux/power/SupplyTree.h"
 
 namespace quindle {
@@ -29,15 +29,14 @@ public:
     }
 
 private:
-    /// Supplies that come and go are looked for about once a second.
+    /// A sample serves for a second.
     void letTimePass() { m_now += std::chrono::seconds(2); }
 
     SupplyTree m_tree;
     std::chrono::milliseconds m_now{0};
-    SupplyDirectory m_supplies{m_tree.path(), readDescriptor, [this] { return m_now; }};
-    BatteryTimes m_times{[this] { return m_now; }};
-    LinuxRegistry m_registry{m_supplies, m_times, {m_tree.pathOf("dmi"), m_tree.pathOf("tree")}};
-    LinuxPowerSources m_powerSources{m_supplies, m_times};
+    PowerSampler m_sampler{m_tree.path(), readDescriptor, [this] { return m_now; }, endlessPatience};
+    LinuxRegistry m_registry{m_sampler, {m_tree.pathOf("dmi"), m_tree.pathOf("tree")}};
+    LinuxPowerSources m_powerSources{m_sampler};
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Linux, IORegistryContract, LinuxBatteries);

@@ -5,10 +5,10 @@
 
 #include <QFileInfo>
 
-#include "platform/linux/power/BatteryTimes.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
-#include "platform/linux/power/SupplyDirectory.h"
+#include "platform/linux/power/PowerSampler.h"
+#include "tests/platform/linux/power/Patience.h"
 #include "tests/platform/linux/power/SupplyTree.h"
 #include "tests/support/QtPrinters.h"
 
@@ -30,9 +30,8 @@ struct LinuxRegistryTest : testing::Test
 {
     SupplyTree tree;
     std::chrono::milliseconds now{0};
-    SupplyDirectory supplies{tree.path(), readDescriptor, [this] { return now; }};
-    BatteryTimes times{[this] { return now; }};
-    LinuxRegistry registry{supplies, times, {tree.pathOf("dmi"), tree.pathOf("tree")}};
+    PowerSampler sampler{tree.path(), readDescriptor, [this] { return now; }, endlessPatience};
+    LinuxRegistry registry{sampler, {tree.pathOf("dmi"), tree.pathOf("tree")}};
 
     RegistryObject openBattery() { return registry.serviceMatchingName(batteryName); }
 };
@@ -74,12 +73,28 @@ TEST_F(LinuxRegistryTest, HandlesAreNeverZeroAndReleasedOnce)
     EXPECT_EQ(registry.property(second, chargeKey), qint64{4000});
 }
 
-TEST_F(LinuxRegistryTest, EveryReadIsFresh)
+TEST_F(LinuxRegistryTest, ASampleServesUntilItExpiresOrForASecond)
+{
+    tree.add("BAT0", fullBattery);
+    const RegistryObject battery = openBattery();
+    tree.write("BAT0", "charge_now", "3000000");
+    now += 999ms;
+    EXPECT_EQ(registry.property(battery, chargeKey), qint64{4000});
+    now += 1ms;
+    EXPECT_EQ(registry.property(battery, chargeKey), qint64{3000});
+    tree.write("BAT0", "charge_now", "2000000");
+    EXPECT_EQ(registry.property(battery, chargeKey), qint64{3000});
+    sampler.expire();
+    EXPECT_EQ(registry.property(battery, chargeKey), qint64{2000});
+}
+
+TEST_F(LinuxRegistryTest, EverySampleIsFresh)
 {
     tree.add("BAT0", fullBattery);
     const RegistryObject battery = openBattery();
     for (const char* charge : {"3000000", "2000000", "", "10000"}) {
         tree.write("BAT0", "charge_now", charge);
+        sampler.expire();
         const QByteArray text(charge);
         const QVariant expected =
             text.isEmpty() ? QVariant() : QVariant::fromValue<qint64>(text.toLongLong() / 1000);
@@ -102,8 +117,8 @@ TEST_F(LinuxRegistryTest, ABatteryPulledOutAndPutBackIsSeen)
     ASSERT_TRUE(registry.property(battery, chargeKey).isValid());
     tree.remove("BAT0");
     now += 1s;
-    EXPECT_FALSE(registry.property(battery, chargeKey).isValid());
-    EXPECT_TRUE(registry.properties(battery).isEmpty());
+    EXPECT_EQ(registry.isMatched(batteryName), false);
+    EXPECT_EQ(registry.property(battery, chargeKey), qint64{4000}); // 0 of 0 would be shown as "nan%"
     SupplyTree::Texts other = fullBattery;
     other["charge_now"] = "1234000";
     tree.add("BAT0", other);
@@ -144,7 +159,7 @@ TEST_F(LinuxRegistryTest, AnEmptyBayIsSeen)
     const RegistryObject battery = openBattery();
     tree.write("BAT0", "present", "0\n");
     now += 1s;
-    EXPECT_FALSE(registry.property(battery, chargeKey).isValid());
+    EXPECT_EQ(registry.isMatched(batteryName), false);
     EXPECT_EQ(openBattery(), 0U);
     tree.write("BAT0", "present", "1\n");
     now += 1s;
@@ -196,9 +211,9 @@ TEST_F(LinuxRegistryTest, ComputerFromFirmware)
 
 TEST_F(LinuxRegistryTest, ATreeThatIsNotThere)
 {
-    SupplyDirectory nowhere(tree.path() + "/nowhere");
-    LinuxRegistry other(nowhere, times, {});
-    LinuxPowerSources sources(nowhere, times);
+    PowerSampler nowhere(tree.path() + "/nowhere", readDescriptor, timeSinceBoot, endlessPatience);
+    LinuxRegistry other(nowhere, {});
+    LinuxPowerSources sources(nowhere);
     EXPECT_EQ(other.serviceMatchingName(batteryName), 0U);
     EXPECT_EQ(sources.sourceCount(), 0);
     EXPECT_EQ(sources.externalAdapterDetails(), std::nullopt);
@@ -206,7 +221,7 @@ TEST_F(LinuxRegistryTest, ATreeThatIsNotThere)
 
 TEST_F(LinuxRegistryTest, AdapterAndUninterruptibleSupply)
 {
-    LinuxPowerSources sources(supplies, times);
+    LinuxPowerSources sources(sampler);
     tree.add("AUPS", {{"type", "UPS"}, {"capacity", "60"}, {"status", "Full"}});
     tree.add("BAT0", fullBattery);
     tree.add("usb:1", {{"type", "USB"},
@@ -258,7 +273,7 @@ TEST_F(LinuxRegistryTest, RandomAttributesNeverCrash)
             byte = static_cast<char>(upTo(255));
         return text;
     };
-    SupplyDirectory fuzzed(
+    PowerSampler fuzzed(
         tree.path(),
         [&](int, const char* attribute, char* buffer, std::size_t size) {
             if (std::string_view(attribute) == "type")
@@ -266,19 +281,19 @@ TEST_F(LinuxRegistryTest, RandomAttributesNeverCrash)
             const std::string text = randomText();
             return text.empty() ? ssize_t{-EIO} : static_cast<ssize_t>(text.copy(buffer, size));
         },
-        [this] { return now; });
+        [this] { return now; }, endlessPatience);
     SupplyTree::Texts everyAttribute;
     for (std::size_t i = 0; i < attributeCount; ++i)
         everyAttribute[attributeName(static_cast<Attribute>(i))] = "";
     tree.add("BAT0", everyAttribute);
     tree.add("BAT1", everyAttribute);
-    LinuxRegistry fuzzedRegistry(fuzzed, times, {});
-    LinuxPowerSources sources(fuzzed, times);
+    LinuxRegistry fuzzedRegistry(fuzzed, {});
+    LinuxPowerSources sources(fuzzed);
     RegistryObject battery = 0;
     while (battery == 0)
         battery = fuzzedRegistry.serviceMatchingName(batteryName);
     for (int round = 0; round < 3000; ++round) {
-        now += 400ms;
+        now += 1s;
         const QVariantMap properties = fuzzedRegistry.properties(battery);
         for (auto property = properties.begin(); property != properties.end(); ++property) {
             const int type = property.value().typeId();

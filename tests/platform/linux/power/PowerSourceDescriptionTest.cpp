@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "platform/linux/power/BatteryRules.h"
 #include "platform/linux/power/PowerSourceDescription.h"
-#include "tests/platform/linux/power/MapAttributes.h"
+#include "tests/platform/linux/power/SupplyTexts.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -11,8 +12,8 @@ namespace {
 TEST(PowerSourceDescription, HealthWord)
 {
     const auto word = [](const char* full, const char* design, const char* health) {
-        return healthWord(
-            MapAttributes{{"charge_full", full}, {"charge_full_design", design}, {"health", health}});
+        const SupplyTexts texts = {{"charge_full", full}, {"charge_full_design", design}, {"health", health}};
+        return batteryFrom(attributesFrom(texts)).health;
     };
     EXPECT_EQ(word("3200000", "4000000", ""), QStringLiteral("Good"));
     EXPECT_EQ(word("3199999", "4000000", "Unknown\n"), QStringLiteral("Fair"));
@@ -25,10 +26,13 @@ TEST(PowerSourceDescription, HealthWord)
 
 TEST(PowerSourceDescription, Battery)
 {
-    const MapAttributes battery = {{"charge_now", "1000000"}, {"charge_full", "3000000"},
-                                   {"status", "Discharging"}, {"model_name", "FRANGWA"},
-                                   {"current_now", "402000"}, {"voltage_now", "17296000"}};
-    const QVariantMap description = batteryDescription(battery, false, {150, {}});
+    const SupplyTexts battery = {{"charge_now", "1000000"}, {"charge_full", "3000000"},
+                                 {"status", "Discharging"}, {"model_name", "FRANGWA"},
+                                 {"current_now", "402000"}, {"voltage_now", "17296000"}};
+    const SystemPower power = systemPowerFrom({readingFrom(SupplyKind::Battery, battery)});
+    SystemTimes times;
+    times.averageToEmpty = 150;
+    const QVariantMap description = sourceDescriptions(power, times).at(0);
     const QVariantMap expected = {
         {QStringLiteral("Name"), QStringLiteral("FRANGWA")},
         {QStringLiteral("Type"), QStringLiteral("InternalBattery")},
@@ -48,11 +52,12 @@ TEST(PowerSourceDescription, Battery)
 
 TEST(PowerSourceDescription, UninterruptibleSupply)
 {
-    const MapAttributes supply = {{"capacity", "80"},
-                                  {"status", "Discharging"},
-                                  {"time_to_empty_avg", "1200"},
-                                  {"serial_number", "  A1 "}};
-    const QVariantMap description = uninterruptibleDescription(supply);
+    const SupplyTexts supply = {{"capacity", "80"},
+                                {"status", "Discharging"},
+                                {"time_to_empty_avg", "1200"},
+                                {"serial_number", "  A1 "}};
+    const SystemPower power = systemPowerFrom({readingFrom(SupplyKind::UninterruptibleSupply, supply)});
+    const QVariantMap description = sourceDescriptions(power, {}).at(0);
     EXPECT_EQ(description.value(QStringLiteral("Type")), QStringLiteral("UPS"));
     EXPECT_EQ(description.value(QStringLiteral("Current Capacity")), qint64{80});
     EXPECT_EQ(description.value(QStringLiteral("Power Source State")), QStringLiteral("Battery Power"));
@@ -90,12 +95,12 @@ TEST(PowerSourceDescription, AdapterWatts)
     };
     for (const WattsCase& each : cases) {
         SCOPED_TRACE(&each - cases);
-        const MapAttributes supply = {{"type", each.type},
-                                      {"usb_type", each.modes},
-                                      {"online", each.online},
-                                      {"voltage_max", each.microvolts},
-                                      {"current_max", each.microamps}};
-        EXPECT_EQ(adapterWatts(supply), each.watts);
+        const SupplyTexts supply = {{"type", each.type},
+                                    {"usb_type", each.modes},
+                                    {"online", each.online},
+                                    {"voltage_max", each.microvolts},
+                                    {"current_max", each.microamps}};
+        EXPECT_EQ(externalSupplyFrom(attributesFrom(supply)).watts, each.watts);
     }
 }
 

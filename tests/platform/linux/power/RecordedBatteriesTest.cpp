@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QTemporaryDir>
 
-#include "platform/linux/power/BatteryTimes.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
-#include "platform/linux/power/SupplyDirectory.h"
+#include "platform/linux/power/PowerSampler.h"
+#include "tests/platform/linux/power/Patience.h"
 #include "tests/support/TestData.h"
 
 using namespace quindle;
@@ -167,8 +168,9 @@ const Machine machines[] = {
      "DeviceName=45N1037; ExternalConnected=true; FullyCharged=false; InstantAmperage=0; "
      "IsCharging=false; Manufacturer=SANYO; MaxCapacity=3873; Voltage=12515"},
     {"thinkpad-t480-two-batteries-rear-empty",
-     "CurrentCapacity=2061; DeviceName=01AV421; ExternalConnected=false; FullyCharged=false; "
-     "IsCharging=false; Manufacturer=LGC; MaxCapacity=8421"},
+     "Amperage=-623; CurrentCapacity=2061; DeviceName=01AV421; ExternalConnected=false; "
+     "FullyCharged=false; InstantAmperage=-623; IsCharging=false; Manufacturer=LGC; MaxCapacity=8421; "
+     "Voltage=11400"},
     {"thinkpad-two-batteries-bat0-charging",
      "Amperage=2399; BatterySerialNumber=8450; CurrentCapacity=1484; CycleCount=5; "
      "DesignCapacity=2090; DeviceName=00HW022; ExternalConnected=true; FullyCharged=false; "
@@ -182,9 +184,9 @@ const Machine machines[] = {
      "DesignCapacity=5600; DeviceName=42T4865; ExternalConnected=true; FullyCharged=false; "
      "InstantAmperage=2977; IsCharging=true; Manufacturer=LGC; MaxCapacity=1802; Voltage=12796"},
     {"thinkpad-x1-extreme-thresholds",
-     "CurrentCapacity=5740; CycleCount=326; DesignCapacity=7053; DeviceName=5B10V98091; "
-     "ExternalConnected=true; FullyCharged=false; IsCharging=false; Manufacturer=Celxpert; "
-     "MaxCapacity=6074"},
+     "Amperage=0; CurrentCapacity=5740; CycleCount=326; DesignCapacity=7053; DeviceName=5B10V98091; "
+     "ExternalConnected=true; FullyCharged=false; InstantAmperage=0; IsCharging=false; "
+     "Manufacturer=Celxpert; MaxCapacity=6074; Voltage=11400"},
     {"thinkpad-x1-unknown-32-percent",
      "Amperage=0; BatterySerialNumber=461; CurrentCapacity=561; CycleCount=0; DesignCapacity=2630; "
      "DeviceName=42T4977; ExternalConnected=true; FullyCharged=false; InstantAmperage=0; "
@@ -209,16 +211,20 @@ QString asText(const QVariantMap& properties)
 struct OnMachine
 {
     explicit OnMachine(const char* folder)
-        : supplies((dataFolder + QLatin1String(folder) + QStringLiteral("/class/power_supply")).toStdString())
-        , registry(supplies, times,
-                   {dataFolder + QLatin1String(folder) + QStringLiteral("/class/dmi/id"), {}})
+        : OnMachine(dataFolder + QLatin1String(folder))
     {
     }
 
-    SupplyDirectory supplies;
-    BatteryTimes times;
+    explicit OnMachine(const QString& folder)
+        : sampler((folder + QStringLiteral("/class/power_supply")).toStdString(), readDescriptor,
+                  timeSinceBoot, endlessPatience)
+        , registry(sampler, {folder + QStringLiteral("/class/dmi/id"), {}})
+    {
+    }
+
+    PowerSampler sampler;
     LinuxRegistry registry;
-    LinuxPowerSources powerSources{supplies, times};
+    LinuxPowerSources powerSources{sampler};
 };
 
 class RecordedBatteries : public testing::TestWithParam<Machine>
@@ -234,6 +240,45 @@ TEST_P(RecordedBatteries, RegistryEntry)
     for (auto property = properties.begin(); property != properties.end(); ++property)
         EXPECT_EQ(machine.registry.property(entry, property.key()), property.value())
             << property.key().toStdString();
+}
+
+/// The machine's folder with those files of each supply only that `isKept` wants.
+template <typename Predicate>
+void copySupplies(const QString& from, const QString& to, Predicate isKept)
+{
+    const QString supplies = QStringLiteral("/class/power_supply/");
+    for (const QString& supply : QDir(from + supplies).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        ASSERT_TRUE(QDir().mkpath(to + supplies + supply));
+        const QDir folder(from + supplies + supply);
+        for (const QString& file : folder.entryList(QDir::Files))
+            if (isKept(file)) {
+                ASSERT_TRUE(QFile::copy(folder.filePath(file), to + supplies + supply + u'/' + file));
+            }
+    }
+}
+
+std::string entryOf(const QString& folder)
+{
+    OnMachine machine(folder);
+    return asText(machine.sampler.sample()->batteryEntry).toStdString();
+}
+
+/// What a supply says is the same whether its uevent is read or its single files; but on a computer whose
+/// files are of another moment than its uevents.
+TEST_P(RecordedBatteries, UeventsAndSingleFilesSayTheSame)
+{
+    const QTemporaryDir copies;
+    const QString recorded = dataFolder + QLatin1String(GetParam().folder);
+    const QString files = copies.filePath(QStringLiteral("files"));
+    const QString uevents = copies.filePath(QStringLiteral("uevents"));
+    copySupplies(recorded, files, [](const QString& name) { return name != QStringLiteral("uevent"); });
+    copySupplies(recorded, uevents, [](const QString& name) {
+        return name == QStringLiteral("uevent") || name == QStringLiteral("type") ||
+               name == QStringLiteral("scope");
+    });
+    EXPECT_EQ(entryOf(files), entryOf(recorded));
+    const bool isOfTwoMoments = GetParam().folder == std::string("thinkpad-procfs-lnv45n1");
+    EXPECT_EQ(entryOf(uevents) != entryOf(recorded), isOfTwoMoments);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sysfs, RecordedBatteries, testing::ValuesIn(machines), [](const auto& machine) {
@@ -276,6 +321,13 @@ TEST(RecordedPowerSources, CountAndHealth)
         EXPECT_EQ(machine.powerSources.description(row.sources), std::nullopt);
         EXPECT_EQ(machine.powerSources.description(-1), std::nullopt);
     }
+}
+
+TEST(RecordedPowerSources, ChargeLimit)
+{
+    EXPECT_EQ(OnMachine("thinkpad-x1-extreme-thresholds").powerSources.chargeLimit(), 95);
+    EXPECT_EQ(OnMachine("framework-13-charging-99").powerSources.chargeLimit(), std::nullopt);
+    EXPECT_EQ(OnMachine("vmware-vm").powerSources.chargeLimit(), std::nullopt);
 }
 
 TEST(RecordedComputer, Model)

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -42,7 +43,15 @@ public:
     void remove(const std::string& supply) const { ASSERT_TRUE(QDir(pathOf(supply)).removeRecursively()); }
 
 private:
-    QTemporaryDir m_folder;
+    /// In memory where that can be had: thousands of small files take a disk many seconds.
+    static QString pathTemplate()
+    {
+        const QFileInfo memory(QStringLiteral("/dev/shm"));
+        return (memory.isWritable() ? memory.filePath() : QDir::tempPath()) +
+               QStringLiteral("/supplies-XXXXXX");
+    }
+
+    QTemporaryDir m_folder{pathTemplate()};
 };
 
 } // namespace quindle

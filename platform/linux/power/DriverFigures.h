@@ -1,0 +1,50 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/linux/power/SupplyAttributes.h"
+
+namespace quindle {
+
+/// One counter of a battery's charge. Drivers have charges (mAh), energies (mWh), or some of each from
+/// different counters: a full charge of one must not be compared with a charge of the other.
+struct ChargeCounter
+{
+    std::optional<double> now;
+    std::optional<double> full;
+    std::optional<double> design;
+};
+
+/// The figures that a driver wrote of one battery, in units that are the same for all drivers, and otherwise
+/// as it wrote them. A figure is missing that the driver does not tell, or gives as a negative number where
+/// only positive ones make sense.
+struct DriverFigures
+{
+    ChargeCounter charges;  ///< mAh
+    ChargeCounter energies; ///< mWh
+    std::optional<double> percent;
+    std::optional<double> presentVoltage; ///< V
+    std::optional<double> ratedVoltage;   ///< V
+    std::optional<double> averageCurrent; ///< mA, of either sign
+    std::optional<double> presentCurrent; ///< mA, of either sign
+    std::optional<double> power;          ///< mW, of either sign
+    std::optional<double> tenthsOfCelsius;
+    std::optional<double> cycleCount;
+};
+
+/// A figure of nothing, where only more makes sense, is how drivers say that they know none.
+inline std::optional<double> positive(std::optional<double> number)
+{
+    return number && *number > 0 ? number : std::nullopt;
+}
+
+/// Reads the figures and puts the units of drivers right that count in thousandths.
+DriverFigures driverFigures(const SupplyAttributes& battery);
+
+/// V: the rated voltage, else the present one, else a usual one. Never 0.
+double voltageOfEnergies(const DriverFigures& figures);
+
+/// Whether the full charge is one of the energies. The charges are asked first.
+bool countsEnergies(const DriverFigures& figures);
+
+} // namespace quindle

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QVariantMap>
+
+#include "platform/linux/os/MonotonicClock.h"
+#include "platform/linux/power/BatteryTimes.h"
+#include "platform/linux/power/SupplyMemory.h"
+#include "platform/linux/power/SupplyReader.h"
+
+namespace quindle {
+
+/// The computer's power at one moment, and what registry and power sources say of it.
+struct PowerSample
+{
+    SystemPower power;
+    QVariantMap batteryEntry;         ///< empty without a battery
+    std::vector<QVariantMap> sources; ///< batteries, then uninterruptible supplies
+};
+
+/// Takes samples of a class directory ("/sys/class/power_supply"). One sample answers all questions of one
+/// refresh, as a Mac's registry holds what its driver last published, so that figures of two moments never
+/// meet in one title: it serves until the main loop waits again, of which the owner tells by expire(), and
+/// for a second where that is never. Main thread only.
+class PowerSampler
+{
+public:
+    explicit PowerSampler(std::string folder, ReadFunction read = readDescriptor,
+                          MonotonicClock now = timeSinceBoot, ReadingPatience patience = {});
+
+    /// Null at no time.
+    std::shared_ptr<const PowerSample> sample();
+
+    /// Has the next question take a new sample.
+    void expire() { m_isExpired = true; }
+
+    /// The same, and has it look for files that have come or gone: a supply's driver has said something. It
+    /// does so every half minute besides.
+    void lookAgain();
+
+private:
+    void take(std::chrono::milliseconds now);
+    bool looksAgain(std::chrono::milliseconds now);
+
+    MonotonicClock m_now;
+    SupplyReader m_reader;
+    SupplyMemory m_memory;
+    BatteryTimes m_times;
+    std::shared_ptr<const PowerSample> m_sample;
+    std::chrono::milliseconds m_takenAt{};
+    std::optional<std::chrono::milliseconds> m_lookedAt;
+    bool m_isExpired = true;
+};
+
+} // namespace quindle

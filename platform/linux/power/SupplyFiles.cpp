@@ -1,0 +1,52 @@
+#include "platform/linux/power/SupplyFiles.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quindle {
+
+ssize_t readDescriptor(int descriptor, const char* /*attribute*/, char* buffer, std::size_t size)
+{
+    const ssize_t result = pread(descriptor, buffer, size, 0);
+    return result < 0 ? -errno : result;
+}
+
+FileDescriptor openRegularFile(int folder, const char* path)
+{
+    FileDescriptor descriptor(openat(folder, path, O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+    struct stat status
+    {
+    };
+    if (!descriptor.isOpen() || (fstat(descriptor.get(), &status) == 0 && S_ISREG(status.st_mode)))
+        return descriptor;
+    errno = ENOENT;
+    return {};
+}
+
+bool startThread(std::function<void()> work)
+{
+    try {
+        std::thread(std::move(work)).detach();
+        return true;
+    } catch (const std::system_error&) {
+        return false;
+    }
+}
+
+bool isAccident(ssize_t result)
+{
+    // EMFILE and ENFILE are the program's own trouble, and ECANCELED says that nobody waited any more.
+    constexpr std::array accidents = {EIO,       EAGAIN, EBUSY,  ETIMEDOUT, EINTR,
+                                      EREMOTEIO, EMFILE, ENFILE, ECANCELED};
+    return std::find(accidents.begin(), accidents.end(), -result) != accidents.end();
+}
+
+} // namespace quindle

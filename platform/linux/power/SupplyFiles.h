@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include <sys/types.h>
+
+#include "platform/linux/os/FileDescriptor.h"
+
+namespace quindle {
+
+/// Reads the file from its beginning, as pread(2) does: the number of bytes, or the negated error number.
+/// `attribute` is the file's name. Called on the threads that read.
+using ReadFunction =
+    std::function<ssize_t(int descriptor, const char* attribute, char* buffer, std::size_t size)>;
+
+/// pread(2) from the beginning of the file.
+ssize_t readDescriptor(int descriptor, const char* attribute, char* buffer, std::size_t size);
+
+/// Opens a regular file of `folder`, without ever waiting for a pipe or device in its place: a descriptor, or
+/// none and errno; ENOENT for what is no regular file.
+FileDescriptor openRegularFile(int folder, const char* path);
+
+/// Runs `work` on a thread that nobody waits for, since it may hang for ever. False when the system has no
+/// room for a thread.
+bool startThread(std::function<void()> work);
+
+/// Hears of every file before and after it is touched, on the thread that does.
+class ReadSteps
+{
+public:
+    virtual ~ReadSteps() = default;
+
+    /// What stands in for touching the file: as a read that gave so many bytes or that negated error number.
+    /// Nothing for a file that may be touched.
+    virtual std::optional<ssize_t> insteadOf(const std::string& path, char* buffer, std::size_t size) = 0;
+
+    virtual void begin(const std::string& path) = 0;
+    virtual void end(const char* buffer, ssize_t result) = 0;
+};
+
+/// Whether something went wrong on the way to the device, so that the value itself may well be there. A
+/// driver that says that there is no value or no device (ENODATA, ENODEV) is believed.
+bool isAccident(ssize_t result);
+
+} // namespace quindle

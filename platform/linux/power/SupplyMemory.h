@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <map>
+#include <optional>
+#include <string>
+
+#include "platform/linux/power/SupplyReading.h"
+
+namespace quindle {
+
+/// What stands in for attributes whose reading failed: what they were last, for up to 30 s. A charge of
+/// nothing for a moment tells nobody anything.
+class SupplyMemory
+{
+public:
+    /// The readings with everything in its place that can be had. Without readings it is what was read last.
+    /// `now` is of one clock that only runs forward.
+    SupplyReadings complete(std::optional<SupplyReadings> readings, std::chrono::milliseconds now);
+
+private:
+    struct Known
+    {
+        SupplyReading reading;
+        std::array<std::chrono::milliseconds, attributeCount> readAt{};
+    };
+
+    static void standIn(SupplyReading& reading, const Known& known, std::chrono::milliseconds now);
+    static Known remembered(const SupplyReading& reading, const Known* before, std::chrono::milliseconds now);
+    SupplyReadings lastReadings() const;
+
+    std::map<std::string, Known> m_known;
+};
+
+} // namespace quindle

@@ -1,0 +1,99 @@
+#include "platform/linux/power/SupplyReader.h"
+
+#include <algorithm>
+
+#include "platform/linux/power/ReadingThread.h"
+
+namespace quindle {
+
+SupplyReader::SupplyReader(std::string folder, SupplyFolder::Scope scope, ReadFunction read,
+                           ReadingPatience patience)
+    : m_folder(std::move(folder))
+    , m_scope(scope)
+    , m_read(std::move(read))
+    , m_patience(patience)
+    , m_slowFiles(std::make_shared<SlowFiles>(m_folder, m_read))
+{
+}
+
+SupplyReader::~SupplyReader()
+{
+    if (m_thread)
+        m_thread->end();
+}
+
+std::optional<SupplyReadings> SupplyReader::read(bool looksAgain)
+{
+    m_looksAgain = m_looksAgain || looksAgain;
+    if (std::optional<SupplyReadings> late = takeLate())
+        return late;
+    const auto deadline = Clock::now() + patience();
+    while (request()) {
+        if (auto answer = m_thread->take(std::min(deadline, Clock::now() + m_patience.withFile))) {
+            m_wasLate = false;
+            return accept(std::move(answer->readings));
+        }
+        if (m_thread->abandonIfStuck(m_patience.withFile))
+            m_thread.reset();
+        else if (Clock::now() >= deadline)
+            break;
+    }
+    m_wasLate = true;
+    return std::nullopt;
+}
+
+/// What was not there in time the last time, unless the next reading can be waited for again.
+std::optional<SupplyReadings> SupplyReader::takeLate()
+{
+    auto answer = m_wasLate && m_thread ? m_thread->take(Clock::now()) : std::nullopt;
+    if (!answer)
+        return std::nullopt;
+    m_wasLate = answer->duration >= m_patience.later;
+    if (!m_wasLate)
+        return std::nullopt;
+    request();
+    return accept(std::move(answer->readings));
+}
+
+std::optional<SupplyReadings> SupplyReader::accept(std::optional<SupplyReadings> readings)
+{
+    m_hasAnswered = true;
+    if (!readings)
+        return std::nullopt;
+    SupplyFolder::KnownKinds kinds;
+    for (const SupplyReading& reading : *readings) {
+        const auto known = m_kinds.find(reading.name);
+        if (reading.kind != SupplyKind::Other)
+            kinds[reading.name] = reading.kind;
+        else if (known != m_kinds.end())
+            kinds.insert(*known);
+    }
+    m_kinds = std::move(kinds);
+    return readings;
+}
+
+std::chrono::milliseconds SupplyReader::patience() const
+{
+    if (m_wasLate)
+        return std::chrono::milliseconds(0);
+    return m_hasAnswered ? m_patience.later : m_patience.first;
+}
+
+/// Sees to it that a reading is under way. A new thread looks at everything anew.
+bool SupplyReader::request()
+{
+    if (!hasThread())
+        return false;
+    if (!m_thread->isBusy())
+        m_thread->request(std::exchange(m_looksAgain, false));
+    return true;
+}
+
+bool SupplyReader::hasThread()
+{
+    if (!m_thread && !m_slowFiles->areTooMany())
+        m_thread = ReadingThread::start(m_folder, m_scope, m_kinds, m_read, m_slowFiles);
+    return m_thread != nullptr;
+}
+
+} // namespace quindle

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/linux/power/SlowFiles.h"
+#include "platform/linux/power/SupplyFolder.h"
+
+namespace quindle {
+
+class ReadingThread;
+
+/// How long the main thread waits for a reading.
+struct ReadingPatience
+{
+    std::chrono::milliseconds withFile{100}; ///< before a file counts as one that does not answer
+    std::chrono::milliseconds first{1000};   ///< at the start, when there is nothing to show yet
+    std::chrono::milliseconds later{200};
+};
+
+/// Reads the supplies on a thread of its own, since a driver may hang while a file is read, and waits for it:
+/// long enough for any driver that answers, and never for ever. A file that does not answer is read apart
+/// from the others from then on, so that it holds up neither them nor the program. Main thread only.
+class SupplyReader
+{
+public:
+    SupplyReader(std::string folder, SupplyFolder::Scope scope, ReadFunction read, ReadingPatience patience);
+    ~SupplyReader();
+
+    SupplyReader(const SupplyReader&) = delete;
+    SupplyReader& operator=(const SupplyReader&) = delete;
+
+    /// The supplies as they are now (see SupplyFolder::read); nothing when they could not be read in time.
+    /// When that happens again and again the reading that was asked for before is given without waiting.
+    std::optional<SupplyReadings> read(bool looksAgain);
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    std::chrono::milliseconds patience() const;
+    std::optional<SupplyReadings> takeLate();
+    std::optional<SupplyReadings> accept(std::optional<SupplyReadings> readings);
+    bool request();
+    bool hasThread();
+
+    std::string m_folder;
+    SupplyFolder::Scope m_scope;
+    ReadFunction m_read;
+    ReadingPatience m_patience;
+    SupplyFolder::KnownKinds m_kinds;
+    std::shared_ptr<SlowFiles> m_slowFiles;
+    std::shared_ptr<ReadingThread> m_thread; ///< the one that is not stuck
+    bool m_looksAgain = false;
+    bool m_hasAnswered = false;
+    bool m_wasLate = false;
+};
+
+} // namespace quindle

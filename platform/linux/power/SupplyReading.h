@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/linux/power/SupplyAttributes.h"
+
+namespace quindle {
+
+/// What a power supply is to this computer.
+enum class SupplyKind {
+    Other,
+    Battery,
+    UninterruptibleSupply,
+    External,   ///< may feed the computer: mains or USB
+    Peripheral, ///< a battery of something beside the computer: a mouse, a headset, a phone
+};
+
+/// The kind that the texts of "type" and "scope" mean.
+SupplyKind supplyKind(std::string_view type, std::string_view scope);
+
+/// The attributes that this program wants of supplies of that kind.
+const AttributeSet& attributesOf(SupplyKind kind);
+
+/// One supply as it was when it was read. An attribute that is missing and has not failed is one that the
+/// supply does not have.
+struct SupplyReading
+{
+    std::string name;
+    SupplyKind kind = SupplyKind::Other;
+    SupplyAttributes attributes;
+    AttributeSet failed; ///< went wrong on the way to the device; what they were before may stand in
+};
+
+/// All supplies of one moment, by name.
+using SupplyReadings = std::vector<SupplyReading>;
+
+} // namespace quindle

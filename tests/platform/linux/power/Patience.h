@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/linux/power/SupplyReader.h"
+
+namespace quindle {
+
+/// For tests in which nothing hangs: a busy machine makes no difference.
+inline constexpr ReadingPatience endlessPatience{std::chrono::minutes(1), std::chrono::minutes(1),
+                                                 std::chrono::minutes(1)};
+
+} // namespace quindle
