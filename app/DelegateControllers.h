@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include "common/FatalError.h"
 #include "preferences/window/QDPreferencesWindowControllerProtocol.h"
 #include "preferences/window/WindowControllers.h"
 
@@ -30,6 +31,15 @@ using ControllerFactory = std::function<DelegateControllers(HelperAppDelegate& d
 inline DelegateControllers noControllers(HelperAppDelegate& /*delegate*/)
 {
     return {};
+}
+
+/// The outlet itself; one that is missing when it is needed is a programming error and fatal.
+template <typename Outlet>
+Outlet& required(Outlet* outlet)
+{
+    if (!outlet)
+        fatalError(u"an outlet of the main interface is not connected");
+    return *outlet;
 }
 
 } // namespace quindle

@@ -10,9 +10,9 @@
 
 #include "app/DelegateControllers.h"
 #include "menubar/BarColours.h"
-#include "menubar/HueFilter.h"
 #include "menubar/MainInterface.h"
-#include "menubar/NamedImages.h"
+#include "menubar/ProgressIndicator.h"
+#include "menubar/StatusIcon.h"
 #include "platform/RateLimit.h"
 #include "preferences/panes/StatusBarTitle.h"
 

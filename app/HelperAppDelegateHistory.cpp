@@ -7,13 +7,12 @@
 #include "history/DailyGate.h"
 #include "history/DailyUpload.h"
 #include "history/SavedHistory.h"
+#include "mac/OSXVersionName.h"
 #include "mac/QDMac.h"
-#include "mac/ShortVersion.h"
 #include "platform/Bundle.h"
 #include "platform/Host.h"
 #include "platform/Platform.h"
 #include "platform/UrlSession.h"
-#include "platform/UserDirectories.h"
 #include "settings/ApplicationPreferences.h"
 
 namespace quindle {

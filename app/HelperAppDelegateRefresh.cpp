@@ -1,7 +1,7 @@
 // The refresh of the status item: font, icon, title, texts around it, bar colours.
 
+#include "app/DelegateControllers.h"
 #include "app/HelperAppDelegate.h"
-#include "app/RequiredOutlet.h"
 #include "battery/QDBattery.h"
 #include "common/NumberTexts.h"
 #include "facts/Facts.h"

@@ -6,7 +6,7 @@
 #include "platform/linux/network/LinuxUrlSession.h"
 #include "platform/linux/session/LinuxApplication.h"
 #include "platform/linux/session/LinuxRunLoop.h"
-#include "platform/linux/statusitem/LinuxStatusBar.h"
+#include "platform/linux/statusitem/LinuxStatusItem.h"
 #include "platform/linux/system/LinuxBundle.h"
 #include "platform/recorded/RecordedPlatform.h"
 

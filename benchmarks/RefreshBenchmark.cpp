@@ -20,7 +20,7 @@
 #include "platform/linux/power/PowerSampler.h"
 #include "platform/linux/settings/LinuxUserDefaults.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
-#include "platform/linux/system/LinuxClock.h"
+#include "platform/linux/system/LinuxHost.h"
 #include "platform/recorded/RecordedPlatform.h"
 #include "settings/ApplicationPreferences.h"
 

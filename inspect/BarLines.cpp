@@ -70,6 +70,19 @@ QVariantMap waybarObject(const BarState& state)
     return object;
 }
 
+struct Name
+{
+    const char* text;
+    BarFormat format;
+};
+
+constexpr Name names[] = {
+    {"text", BarFormat::Text},
+    {"json", BarFormat::Json},
+    {"i3bar", BarFormat::I3bar},
+    {"waybar", BarFormat::Waybar},
+};
+
 } // namespace
 
 QByteArray barHeader(BarFormat format)
@@ -95,6 +108,14 @@ QByteArray barLine(BarFormat format, const BarState& state)
 QByteArray barSeparator(BarFormat format)
 {
     return format == BarFormat::I3bar ? QByteArrayLiteral(",") : QByteArray();
+}
+
+std::optional<BarFormat> barFormatNamed(const QString& name)
+{
+    for (const Name& known : names)
+        if (name == QLatin1String(known.text))
+            return known.format;
+    return std::nullopt;
 }
 
 } // namespace quindle

@@ -1,11 +1,19 @@
 #pragma once
 
-#include <QByteArray>
+#include <optional>
 
-#include "inspect/BarFormat.h"
+#include <QByteArray>
+#include <QString>
+
 #include "inspect/BarState.h"
 
 namespace quindle {
+
+/// The forms in which bars read their lines.
+enum class BarFormat { Text, Json, I3bar, Waybar };
+
+/// The format of that name ("text", "json", "i3bar", "waybar"); nothing for another name.
+std::optional<BarFormat> barFormatNamed(const QString& name);
 
 /// What is printed before the first state, with its line ends; empty for most formats.
 QByteArray barHeader(BarFormat format);

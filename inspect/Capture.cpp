@@ -7,7 +7,6 @@
 #include "mac/QDMac.h"
 #include "platform/Bundle.h"
 #include "platform/FileUrl.h"
-#include "platform/HelperBundle.h"
 #include "platform/Host.h"
 #include "platform/IORegistry.h"
 #include "platform/Platform.h"

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "inspect/BarFormat.h"
+#include "inspect/BarLines.h"
 
 namespace quindle {
 

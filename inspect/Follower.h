@@ -3,7 +3,7 @@
 #include <functional>
 #include <optional>
 
-#include "inspect/BarFormat.h"
+#include "inspect/BarLines.h"
 #include "inspect/FigureWatch.h"
 #include "inspect/Inspection.h"
 

@@ -1,8 +1,7 @@
 #include "mac/MachineType.h"
 
+#include <algorithm>
 #include <array>
-
-#include "mac/FragmentName.h"
 
 namespace quindle {
 
@@ -27,6 +26,13 @@ constexpr std::array machineTypes{
 QString machineType(const QString& model)
 {
     return nameByFragment(machineTypes, model, QStringLiteral(""));
+}
+
+QString nameByFragment(std::span<const FragmentName> rows, const QString& text, const QString& fallback)
+{
+    const auto row = std::find_if(rows.begin(), rows.end(),
+                                  [&](const FragmentName& each) { return text.contains(each.fragment); });
+    return row == rows.end() ? fallback : row->name.toString();
 }
 
 } // namespace quindle

@@ -2,7 +2,9 @@
 
 #include <array>
 
-#include "mac/FragmentName.h"
+#include "common/ValueDescription.h"
+#include "mac/MachineType.h"
+#include "platform/Bundle.h"
 
 namespace quindle {
 
@@ -29,6 +31,17 @@ constexpr std::array versionNames{
 QString osxVersionName(const QString& productVersion)
 {
     return nameByFragment(versionNames, productVersion, QStringLiteral("OS X"));
+}
+
+std::optional<QString> shortVersion(const Bundle& bundle)
+{
+    const auto info = bundle.infoDictionary();
+    if (!info)
+        return std::nullopt;
+    const QVariant version = info->value(QStringLiteral("CFBundleShortVersionString"));
+    if (!version.isValid())
+        return std::nullopt;
+    return valueDescription(version);
 }
 
 } // namespace quindle

@@ -13,7 +13,6 @@
 #include "mac/OSXVersionName.h"
 #include "mac/PlatformExpert.h"
 #include "mac/SerialNumberDecoding.h"
-#include "mac/ShortVersion.h"
 #include "mac/SnapshotRecord.h"
 #include "platform/Host.h"
 #include "platform/Platform.h"

@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QTextBoundaryFinder>
 
-#include "mac/WeekDate.h"
+#include "common/DateFromText.h"
 
 namespace quindle {
 
@@ -117,6 +117,9 @@ QString joined(const QStringList& characters, qsizetype first, qsizetype count)
     return characters.mid(first, count).join(QString());
 }
 
+constexpr qint64 secondsPerDay = 86400;
+constexpr qint64 secondsPerWeek = 7 * secondsPerDay;
+
 } // namespace
 
 std::optional<QDateTime> buildDate(const QString& serial)
@@ -147,6 +150,15 @@ QString configurationCode(const QString& serial)
     if (characters.size() == longLength)
         return joined(characters, longLength - 4, 4);
     return {};
+}
+
+std::optional<QDateTime> weekDate(int year, int week)
+{
+    const auto newYear = dateFromText(QString::number(year) + QStringLiteral("-01-01"));
+    if (!newYear)
+        return std::nullopt;
+    const int daysSinceMonday = newYear->date().dayOfWeek() - Qt::Monday;
+    return newYear->addSecs(week * secondsPerWeek - daysSinceMonday * secondsPerDay);
 }
 
 } // namespace quindle

@@ -7,6 +7,7 @@
 
 /// What a serial number tells. Two layouts are known, of 11 and of 12 characters; characters are those a
 /// person perceives, so that a letter with a combining mark is one.
+
 namespace quindle {
 
 /// The build date. Nothing for a serial that is neither 11 nor 12 characters long, and for one of 11
@@ -19,5 +20,10 @@ QString dateCharacters(const QString& serial);
 
 /// The configuration code: the last three of 11, the last four of 12; empty for another length.
 QString configurationCode(const QString& serial);
+
+/// The moment `week` weeks after the Monday on or before 1 January of `year` (1000 to 9999), counted from
+/// local midnight of 1 January in weeks and days of fixed length: beyond a change to or from summer time it
+/// is an hour off midnight.
+std::optional<QDateTime> weekDate(int year, int week);
 
 } // namespace quindle

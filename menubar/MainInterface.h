@@ -3,14 +3,29 @@
 #include <functional>
 #include <vector>
 
+#include <QPointer>
 #include <QString>
 
 #include "facts/Facts.h"
-#include "menubar/ObjectController.h"
+#include "mac/QDMac.h"
 #include "menubar/ProgressIndicator.h"
 #include "platform/StatusMenu.h"
 
 namespace quindle {
+
+/// Holds the computer that an interface shows.
+class ObjectController
+{
+public:
+    /// Sets the content object, which the controller does not own.
+    void addObject(QDMac* mac) { m_content = mac; }
+
+    /// Null before one was added, and after it was destroyed.
+    QDMac* content() const { return m_content; }
+
+private:
+    QPointer<QDMac> m_content;
+};
 
 /// A view that can hang in the status menu, known by its outlet's name.
 struct MenuView

@@ -1,10 +1,31 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <vector>
 
-#include "menubar/HueFilter.h"
+#include <QColor>
 
 namespace quindle {
+
+/// An image filter ("CIHueAdjust") that turns every hue by an angle and leaves grey, black and white alone.
+class HueFilter
+{
+public:
+    /// The angle in radians; any number, whole turns make no difference. 0 at first.
+    double inputAngle() const { return m_inputAngle; }
+    void setInputAngle(double radians) { m_inputAngle = radians; }
+
+    /// `color` with its hue turned by `inputAngle`; saturation, value and alpha stay.
+    QColor filtered(const QColor& color) const;
+
+private:
+    double m_inputAngle = 0;
+};
+
+/// The filters that a view is drawn through, first to last. A bar is recognised as coloured by which filter
+/// object stands in its list, so the objects are shared.
+using ContentFilters = std::vector<std::shared_ptr<HueFilter>>;
 
 /// One of the two bars of the battery view as the rest of the program sees it: it has content filters,
 /// whether or not the view has been opened yet. The widget that draws it (`menuIndicator`) follows it.

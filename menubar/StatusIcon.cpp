@@ -1,5 +1,7 @@
 #include "menubar/StatusIcon.h"
 
+#include "platform/Image.h"
+
 namespace quindle {
 
 QString noBatteryIconName()
@@ -23,6 +25,14 @@ QString batteryIconName(double stateOfCharge)
     if (stateOfCharge >= 20)
         return QStringLiteral("#bat14");
     return QStringLiteral("#bat04");
+}
+
+std::shared_ptr<Image> NamedImages::imageNamed(const QString& name)
+{
+    std::shared_ptr<Image>& image = m_images[name];
+    if (!image)
+        image = std::make_shared<Image>(name);
+    return image;
 }
 
 } // namespace quindle

@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 #include <QVariantMap>
 
 namespace quindle {
@@ -37,6 +38,17 @@ public:
 
     /// The dictionary in the file at `path`; nothing when there is no such file or it holds something else.
     virtual std::optional<QVariantMap> propertyList(const QString& path) const = 0;
+};
+
+/// The current user's own folders.
+class UserDirectories
+{
+public:
+    virtual ~UserDirectories() = default;
+
+    /// The folders in which applications keep their data, absolute, in search order; they need not exist.
+    /// Empty when the user has none.
+    virtual QStringList applicationSupportDirectories() const = 0;
 };
 
 } // namespace quindle

@@ -1,8 +1,37 @@
 #include "plist/KeyedArchive.h"
 
+#include <algorithm>
+#include <array>
+
 #include "plist/Unarchiver.h"
 
 namespace quindle {
+
+namespace {
+
+struct NamedClass
+{
+    const char* name;
+    ArchivedClass archived;
+};
+
+constexpr std::array namedClasses{
+    NamedClass{"NSArray", ArchivedClass::Array},
+    NamedClass{"NSMutableArray", ArchivedClass::Array},
+    NamedClass{"NSSet", ArchivedClass::Set},
+    NamedClass{"NSMutableSet", ArchivedClass::Set},
+    NamedClass{"NSDictionary", ArchivedClass::Dictionary},
+    NamedClass{"NSMutableDictionary", ArchivedClass::Dictionary},
+    NamedClass{"NSString", ArchivedClass::Text},
+    NamedClass{"NSMutableString", ArchivedClass::Text},
+    NamedClass{"NSData", ArchivedClass::Data},
+    NamedClass{"NSMutableData", ArchivedClass::Data},
+    NamedClass{"NSDate", ArchivedClass::Date},
+    NamedClass{"NSNumber", ArchivedClass::Number},
+    NamedClass{"NSNull", ArchivedClass::Null},
+};
+
+} // namespace
 
 ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes)
 {
@@ -12,6 +41,15 @@ ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes)
     if (!unarchiver.readRecords(result.records))
         result = {{}, unarchiver.fault()};
     return result;
+}
+
+ArchivedClass archivedClass(const PropertyListGraph& graph, const PropertyListGraph::Element& name)
+{
+    const auto* found =
+        std::find_if(namedClasses.begin(), namedClasses.end(), [&](const NamedClass& candidate) {
+            return graph.isText(name, QLatin1StringView(candidate.name));
+        });
+    return found == namedClasses.end() ? ArchivedClass::Unknown : found->archived;
 }
 
 } // namespace quindle

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QVariant>
 
+#include "plist/PropertyListGraph.h"
+
 namespace quindle {
 
 struct ArchivedRecords
@@ -17,5 +19,11 @@ struct ArchivedRecords
 /// is a key of an inner dictionary becomes a text. Any damage, a class that is not known and an element that
 /// is no such dictionary leave nothing. Time and memory grow with the size of the bytes, whatever they say.
 ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes);
+
+/// The kinds of objects that archives of snapshot records hold.
+enum class ArchivedClass { Unknown, Array, Set, Dictionary, Text, Data, Date, Number, Null };
+
+/// The kind that a class of the platform is, by its name.
+ArchivedClass archivedClass(const PropertyListGraph& graph, const PropertyListGraph::Element& name);
 
 } // namespace quindle

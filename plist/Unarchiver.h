@@ -9,7 +9,7 @@
 #include <QString>
 #include <QVariant>
 
-#include "plist/ArchivedClass.h"
+#include "plist/KeyedArchive.h"
 #include "plist/PropertyListGraph.h"
 #include "plist/PropertyListLimits.h"
 

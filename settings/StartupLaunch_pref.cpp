@@ -4,8 +4,8 @@
 
 #include <QString>
 
+#include "platform/Bundle.h"
 #include "platform/FileUrl.h"
-#include "platform/HelperBundle.h"
 #include "platform/LoginItems.h"
 
 namespace quindle {

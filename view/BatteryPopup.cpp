@@ -4,8 +4,8 @@
 #include <QCursor>
 
 #include "menubar/MainInterface.h"
-#include "platform/Application.h"
 #include "platform/RunLoop.h"
+#include "platform/Workspace.h"
 #include "view/BatteryWindow.h"
 
 namespace quindle {

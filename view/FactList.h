@@ -13,6 +13,21 @@ namespace quindle {
 class FactRow;
 class PlainLabel;
 
+/// A view of facts: of battery and computer, or of a computer without a battery.
+class FactsView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    /// Shows the facts of the place View.
+    virtual void setFacts(const std::vector<Fact>& facts) = 0;
+
+Q_SIGNALS:
+    void clicked(quindle::FactClick click);
+};
+
 /// Facts of one group, each in a row, under a heading. Nothing is seen of it while none of them is shown.
 class FactList : public QWidget
 {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "view/FactsView.h"
+#include "view/FactList.h"
 
 namespace quindle {
 

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 class QWidget;
-
 /// The few colours of the battery view, all mixed from the palette's own text and background, so that they
 /// follow every light, dark and high-contrast palette.
+/// The colours of the preferences window's two parts, from the desktop's palette.
+
 namespace quindle {
 
 /// `share` of `text` on `background`, 0 to 1.
@@ -23,5 +25,12 @@ bool isDark(const QColor& background);
 /// The colours that a widget stands on and writes with, by its roles.
 QColor backgroundOf(const QWidget& widget);
 QColor textOf(const QWidget& widget);
+
+/// What panes stand on: a view's background where it is the lighter one, as paper is; otherwise the window's,
+/// since on anything darker the outlines of check boxes cannot be seen.
+QPalette::ColorRole contentRole(const QPalette& palette);
+
+/// A toolbar stands out from the content a little, unless it is transparent.
+QColor toolbarColour(const QPalette& palette, bool isTransparent);
 
 } // namespace quindle

@@ -16,10 +16,7 @@
 #include "platform/linux/session/LinuxRunLoop.h"
 #include "platform/linux/settings/LinuxUserDefaults.h"
 #include "platform/linux/system/LinuxBundle.h"
-#include "platform/linux/system/LinuxClock.h"
 #include "platform/linux/system/LinuxHost.h"
-#include "platform/linux/system/LinuxSystemFiles.h"
-#include "platform/linux/system/LinuxUserDirectories.h"
 #include "platform/linux/system/LinuxWorkspace.h"
 
 namespace quindle {

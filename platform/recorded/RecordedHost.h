@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Host.h"
+#include "platform/recorded/RecordedComputer.h"
 
 namespace quindle {
 
@@ -44,6 +45,23 @@ public:
     }
 
     std::optional<QVariantMap> propertyList(const QString& path) const override;
+
+private:
+    const RecordedComputer& m_computer;
+};
+
+class RecordedUserDirectories : public UserDirectories
+{
+public:
+    explicit RecordedUserDirectories(const RecordedComputer& computer)
+        : m_computer(computer)
+    {
+    }
+
+    QStringList applicationSupportDirectories() const override
+    {
+        return m_computer.applicationSupportDirectories();
+    }
 
 private:
     const RecordedComputer& m_computer;

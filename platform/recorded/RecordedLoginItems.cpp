@@ -4,7 +4,6 @@
 
 #include "platform/Bundle.h"
 #include "platform/FileUrl.h"
-#include "platform/HelperBundle.h"
 #include "platform/recorded/RecordedComputer.h"
 
 namespace quindle {

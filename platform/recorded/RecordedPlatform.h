@@ -2,20 +2,17 @@
 
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
-#include "platform/recorded/RecordedApplication.h"
 #include "platform/recorded/RecordedBundle.h"
 #include "platform/recorded/RecordedComputer.h"
 #include "platform/recorded/RecordedHost.h"
 #include "platform/recorded/RecordedIORegistry.h"
 #include "platform/recorded/RecordedLoginItems.h"
 #include "platform/recorded/RecordedNotifications.h"
-#include "platform/recorded/RecordedPowerEvents.h"
 #include "platform/recorded/RecordedPowerSources.h"
 #include "platform/recorded/RecordedRunLoop.h"
 #include "platform/recorded/RecordedStatusBar.h"
 #include "platform/recorded/RecordedUrlSession.h"
 #include "platform/recorded/RecordedUserDefaults.h"
-#include "platform/recorded/RecordedUserDirectories.h"
 #include "platform/recorded/RecordedWorkspace.h"
 
 namespace quindle {

@@ -26,4 +26,11 @@ private:
     const RecordedComputer& m_computer;
 };
 
+/// A recorded computer changes by its steps only, and those refresh by themselves.
+class RecordedPowerEvents : public PowerEvents
+{
+public:
+    void setObserver(std::function<void()> /*observer*/) override {}
+};
+
 } // namespace quindle

@@ -12,7 +12,7 @@
 #include "facts/ValueTexts.h"
 #include "preferences/panes/PlaceholderTable.h"
 #include "preferences/panes/StatusBarTitle.h"
-#include "widgets/PopoverGeometry.h"
+#include "widgets/PopupGeometry.h"
 #include "widgets/QuietLabel.h"
 
 namespace quindle {

@@ -7,7 +7,6 @@
 #include "common/FatalError.h"
 #include "common/FileContents.h"
 #include "platform/Bundle.h"
-#include "preferences/panes/UpdateTexts.h"
 #include "preferences/panes/UpdateView.h"
 
 namespace quindle {

@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-#include "platform/InstallationSource.h"
+#include "platform/Bundle.h"
 #include "preferences/window/QDPreferencesWindowControllerProtocol.h"
 
 namespace quindle {

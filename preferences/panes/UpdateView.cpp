@@ -45,4 +45,32 @@ void UpdateView::fitToFont()
     m_ui->rows->setColumnMinimumWidth(0, line * captionLines - edge);
 }
 
+QString versionText(const std::optional<QVariantMap>& info)
+{
+    const QVariantMap values = info.value_or(QVariantMap());
+    const QString version = values.value(QStringLiteral("CFBundleShortVersionString")).toString();
+    const QString build = values.value(QStringLiteral("CFBundleVersion")).toString();
+    if (version.isEmpty() && build.isEmpty())
+        return QStringLiteral("Unknown");
+    if (version.isEmpty() || build.isEmpty() || version == build)
+        return version.isEmpty() ? build : version;
+    return version + QStringLiteral(" (") + build + QLatin1Char(')');
+}
+
+QString updateSourceText(const InstallationSource& source)
+{
+    switch (source.kind) {
+    case InstallationSource::Kind::Package:
+        return QStringLiteral(
+                   "This is the package \"%1\". Newer versions of it are installed with %2, as those "
+                   "of the other packages of this system.")
+            .arg(source.package, source.manager);
+    case InstallationSource::Kind::Build:
+        return QStringLiteral("This copy was built on this computer. Newer source, built again, updates it.");
+    case InstallationSource::Kind::Elsewhere:
+        break;
+    }
+    return QStringLiteral("Newer versions come from where this copy was installed from.");
+}
+
 } // namespace quindle

@@ -1,8 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
+#include <QString>
+#include <QVariantMap>
 #include <QWidget>
+
+#include "platform/Bundle.h"
 
 namespace quindle {
 
@@ -27,5 +32,12 @@ private:
 
     std::unique_ptr<Ui::UpdatePreferencesController> m_ui;
 };
+
+/// The version of a bundle's information, with the build in brackets where it says something else: "0.1 (7)".
+/// "Unknown" without either.
+QString versionText(const std::optional<QVariantMap>& info);
+
+/// Where newer versions come from.
+QString updateSourceText(const InstallationSource& source);
 
 } // namespace quindle

@@ -6,8 +6,8 @@
 #include <QLayout>
 #include <QPainter>
 
+#include "widgets/PaletteMix.h"
 #include "widgets/SegmentedControl.h"
-#include "widgets/WindowColours.h"
 
 namespace quindle {
 

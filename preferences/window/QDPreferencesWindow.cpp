@@ -12,7 +12,7 @@
 
 #include "preferences/window/PreferencesToolbar.h"
 #include "widgets/CloseKey.h"
-#include "widgets/WindowColours.h"
+#include "widgets/PaletteMix.h"
 
 namespace quindle {
 

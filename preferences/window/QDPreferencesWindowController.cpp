@@ -7,7 +7,7 @@
 #include <QScreen>
 #include <QStyle>
 
-#include "platform/Application.h"
+#include "platform/Workspace.h"
 #include "preferences/window/FrameAutosave.h"
 #include "preferences/window/PaneTransition.h"
 #include "preferences/window/PreferencesToolbar.h"

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "mac/WeekDate.h"
 #include "tests/support/DataTable.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/support/ScopedTimeZone.h"

@@ -11,7 +11,7 @@
 #include "tests/preferences/Input.h"
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
-#include "widgets/BoundLineEdit.h"
+#include "widgets/BoundControls.h"
 #include "widgets/RadioMatrix.h"
 
 using namespace quindle;

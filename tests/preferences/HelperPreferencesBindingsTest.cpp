@@ -9,7 +9,7 @@
 #include "tests/preferences/Input.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
-#include "widgets/BoundLineEdit.h"
+#include "widgets/BoundControls.h"
 #include "widgets/RadioMatrix.h"
 
 namespace quindle {

@@ -7,7 +7,7 @@
 #include "preferences/panes/ParameterPopover.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
-#include "widgets/BoundLineEdit.h"
+#include "widgets/BoundControls.h"
 #include "widgets/RadioMatrix.h"
 
 namespace quindle {

@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "preferences/panes/UpdateTexts.h"
+#include "preferences/panes/UpdateView.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/support/TestData.h"

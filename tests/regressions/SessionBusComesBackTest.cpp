@@ -10,7 +10,7 @@
 
 #include "platform/linux/session/BusLink.h"
 #include "platform/linux/session/LinuxRunLoop.h"
-#include "platform/linux/statusitem/LinuxStatusBar.h"
+#include "platform/linux/statusitem/LinuxStatusItem.h"
 #include "tests/support/MessageBus.h"
 #include "tests/support/QtPrinters.h"
 

@@ -12,20 +12,17 @@
 #include <QTimeZone>
 #include <QVariantMap>
 
-#include "platform/Application.h"
 #include "platform/Bundle.h"
 #include "platform/Host.h"
 #include "platform/IORegistry.h"
 #include "platform/LoginItems.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
-#include "platform/PowerEvents.h"
 #include "platform/PowerSources.h"
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
 #include "platform/UrlSession.h"
 #include "platform/UserDefaults.h"
-#include "platform/UserDirectories.h"
 #include "platform/Workspace.h"
 
 // The computer as tests invent it: every platform service in memory, changed by hand, recording what is

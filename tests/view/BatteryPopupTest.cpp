@@ -14,7 +14,7 @@
 #include <QPointer>
 
 #include "menubar/MainInterface.h"
-#include "platform/Application.h"
+#include "platform/Workspace.h"
 #include "tests/facts/FactComputer.h"
 #include "tests/support/QtPrinters.h"
 #include "view/BatteryView.h"

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "menubar/NamedImages.h"
-#include "menubar/ObjectController.h"
+#include "menubar/MainInterface.h"
 #include "menubar/ProgressIndicator.h"
+#include "menubar/StatusIcon.h"
 #include "platform/Image.h"
 #include "tests/support/FakePlatform.h"
 

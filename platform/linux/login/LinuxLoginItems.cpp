@@ -9,10 +9,10 @@
 #include <QLoggingCategory>
 
 #include "common/Paths.h"
+#include "platform/Bundle.h"
 #include "platform/FileUrl.h"
-#include "platform/HelperBundle.h"
 #include "platform/linux/login/AutostartEntry.h"
-#include "platform/linux/os/CloseFolder.h"
+#include "platform/linux/os/FileDescriptor.h"
 #include "platform/linux/os/FileLock.h"
 #include "platform/linux/os/FileReplacement.h"
 #include "platform/linux/os/ProgramFile.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <utility>
-
+#include <dirent.h>
 #include <unistd.h>
+#include <utility>
 
 namespace quindle {
 
@@ -40,6 +40,12 @@ public:
 
 private:
     int m_descriptor = -1;
+};
+
+/// Closes what opendir() has opened, for a std::unique_ptr.
+struct CloseFolder
+{
+    void operator()(DIR* folder) const { ::closedir(folder); }
 };
 
 } // namespace quindle

@@ -10,7 +10,6 @@
 #include <memory>
 #include <sys/stat.h>
 
-#include "platform/linux/os/CloseFolder.h"
 #include "platform/linux/os/FileDescriptor.h"
 
 namespace quindle {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "platform/PowerEvents.h"
+#include "platform/PowerSources.h"
 
 class QSocketNotifier;
 struct udev;

@@ -9,7 +9,6 @@
 #include <QLoggingCategory>
 
 #include "common/Paths.h"
-#include "platform/linux/session/BusAddress.h"
 
 namespace quindle {
 
@@ -36,6 +35,18 @@ quint64 inodeOf(const QString& path)
 {
     struct stat found = {};
     return ::stat(pathBytes(path).constData(), &found) == 0 ? found.st_ino : 0;
+}
+
+const QString unixPath = QStringLiteral("unix:path=");
+
+QString usualAddress(QDBusConnection::BusType type)
+{
+    if (type == QDBusConnection::SystemBus)
+        return unixPath + QStringLiteral("/run/dbus/system_bus_socket");
+    const QByteArray runtimeFolder = qgetenv("XDG_RUNTIME_DIR");
+    if (!runtimeFolder.startsWith('/'))
+        return {};
+    return unixPath + QString::fromLatin1((runtimeFolder + "/bus").toPercentEncoding("-_/.\\*", "~"));
 }
 
 } // namespace
@@ -168,6 +179,25 @@ void BusLink::closeOwn()
     m_connection = QDBusConnection(QString());
     if (m_triedOwn)
         QDBusConnection::disconnectFromBus(m_ownName);
+}
+
+QString busAddress(QDBusConnection::BusType type)
+{
+    const bool isSystem = type == QDBusConnection::SystemBus;
+    const QString told =
+        qEnvironmentVariable(isSystem ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS");
+    return told.isEmpty() ? usualAddress(type) : told;
+}
+
+QString busSocketFile(const QString& address)
+{
+    for (const QString& one : address.split(u';')) {
+        if (!one.startsWith(unixPath))
+            continue;
+        const QString escaped = one.mid(unixPath.size()).section(u',', 0, 0);
+        return pathText(QByteArray::fromPercentEncoding(pathBytes(escaped)));
+    }
+    return {};
 }
 
 } // namespace quindle

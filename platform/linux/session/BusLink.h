@@ -5,6 +5,7 @@
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QString>
 #include <QTimer>
 
 class QFileSystemWatcher;
@@ -71,5 +72,12 @@ private:
     std::function<void(QDBusConnection&)> m_subscribe;
     std::function<void()> m_lost;
 };
+
+/// Where a bus of the type is found, as the environment says it, else at its usual place. Empty for a session
+/// bus of which nothing is said.
+QString busAddress(QDBusConnection::BusType type);
+
+/// The socket file of an address; empty when it names none (an abstract socket, another transport).
+QString busSocketFile(const QString& address);
 
 } // namespace quindle

@@ -1,5 +1,7 @@
 #include "platform/linux/statusitem/LinuxStatusItem.h"
 
+#include <utility>
+
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPointer>
@@ -7,6 +9,7 @@
 
 #include "platform/Image.h"
 #include "platform/StatusMenu.h"
+#include "platform/linux/session/BusLink.h"
 #include "platform/linux/session/X11Desktop.h"
 #include "platform/linux/statusitem/MenuAdaptor.h"
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"
@@ -262,6 +265,24 @@ void LinuxStatusItem::useActivationToken()
     // in the environment.
     if (!m_activationToken.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", std::exchange(m_activationToken, {}).toUtf8());
+}
+
+LinuxStatusBar::LinuxStatusBar(RunLoop& runLoop, StatusItemSurroundings surroundings)
+    : m_runLoop(runLoop)
+    , m_surroundings(std::move(surroundings))
+{
+}
+
+std::unique_ptr<StatusItem> LinuxStatusBar::statusItemWithLength(double /*length*/)
+{
+    const QString name = QStringLiteral("quindle-status-item-%1").arg(++m_items);
+    const QDBusConnection none{QString()};
+    auto item = std::make_unique<LinuxStatusItem>(none, m_runLoop, m_surroundings);
+    auto* link = new BusLink(QDBusConnection::SessionBus, name, BusLink::usualPause, item.get());
+    QObject::connect(item.get(), &LinuxStatusItem::busAbused, link, &BusLink::drop);
+    link->open([item = item.get()](const QDBusConnection& bus) { item->setBus(bus); },
+               [item = item.get(), none] { item->setBus(none); });
+    return item;
 }
 
 } // namespace quindle

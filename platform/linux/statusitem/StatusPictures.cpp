@@ -19,7 +19,6 @@
 #include "common/Paths.h"
 #include "platform/linux/os/FileReplacement.h"
 #include "platform/linux/os/UserFolders.h"
-#include "platform/linux/statusitem/StripPainting.h"
 #include "platform/linux/statusitem/TextDrawing.h"
 
 namespace quindle {

@@ -4,6 +4,8 @@
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
 #include <QPainterPath>
 #include <QTransform>
 
@@ -46,6 +48,9 @@ QByteArray commandOf(QPainterPath::ElementType type)
     return " ";
 }
 
+/// A row of an icon crosses a handful of outlines, each of which is a span or two.
+constexpr int rowsOfStrip = 8;
+
 } // namespace
 
 QByteArray textDrawing(const QString& text)
@@ -61,6 +66,15 @@ QByteArray textDrawing(const QString& text)
   <style id="current-color-scheme" type="text/css">.ColorScheme-Text {color: #232629}</style>
   <path class="ColorScheme-Text" fill="currentColor" d=")" +
            data + "\"/>\n</svg>\n";
+}
+
+void paintInStrips(QImage& image, const std::function<void(QPainter&)>& paint)
+{
+    QPainter painter(&image);
+    for (int top = 0; top < image.height(); top += rowsOfStrip) {
+        painter.setClipRect(0, top, image.width(), rowsOfStrip);
+        paint(painter);
+    }
 }
 
 } // namespace quindle

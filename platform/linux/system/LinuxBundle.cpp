@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "common/Paths.h"
-#include "platform/linux/system/LinuxSystemFiles.h"
+#include "platform/linux/system/LinuxHost.h"
 
 namespace quindle {
 

@@ -3,6 +3,8 @@
 #include <QSysInfo>
 
 #include "platform/linux/os/SmallFile.h"
+#include "platform/linux/os/UserFolders.h"
+#include "plist/PropertyList.h"
 
 namespace quindle {
 
@@ -56,6 +58,35 @@ QString LinuxHost::localizedName() const
     const QByteArray machineInfo = readSmallFile(m_machineInfoPath).value_or(QByteArray());
     const QString prettyName = assignedValue(machineInfo, "PRETTY_HOSTNAME");
     return prettyName.isEmpty() ? m_hostName : prettyName;
+}
+
+QDateTime LinuxClock::now() const
+{
+    return QDateTime::currentDateTimeUtc();
+}
+
+std::optional<QVariantMap> dictionaryFromFile(const QString& path)
+{
+    const std::optional<QVariant> value = propertyListFromFile(path);
+    if (!value || value->typeId() != QMetaType::QVariantMap)
+        return std::nullopt;
+    return value->toMap();
+}
+
+LinuxSystemFiles::LinuxSystemFiles(QString root)
+    : m_root(std::move(root))
+{
+}
+
+std::optional<QVariantMap> LinuxSystemFiles::propertyList(const QString& path) const
+{
+    return dictionaryFromFile(m_root + path);
+}
+
+QStringList LinuxUserDirectories::applicationSupportDirectories() const
+{
+    const QString data = dataFolder();
+    return data.isEmpty() ? QStringList() : QStringList{data + QStringLiteral("/quindle")};
 }
 
 } // namespace quindle

@@ -22,4 +22,34 @@ private:
 /// counts. Empty when there is none.
 QString assignedValue(const QByteArray& assignments, const QByteArray& name);
 
+/// The system's clock.
+class LinuxClock final : public Clock
+{
+public:
+    QDateTime now() const override;
+};
+
+/// Property-list files as they are on this computer.
+class LinuxSystemFiles final : public SystemFiles
+{
+public:
+    /// `root` is put before every path; empty for the computer's own files.
+    explicit LinuxSystemFiles(QString root = {});
+
+    std::optional<QVariantMap> propertyList(const QString& path) const override;
+
+private:
+    QString m_root;
+};
+
+/// The dictionary in a property-list file; nothing when there is no such file or it holds something else.
+std::optional<QVariantMap> dictionaryFromFile(const QString& path);
+
+/// One Application Support directory: "quindle" in the user's data folder. None without one.
+class LinuxUserDirectories : public UserDirectories
+{
+public:
+    QStringList applicationSupportDirectories() const override;
+};
+
 } // namespace quindle

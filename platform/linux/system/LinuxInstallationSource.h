@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/InstallationSource.h"
+#include "platform/Bundle.h"
 
 namespace quindle {
 

@@ -9,7 +9,7 @@
 
 #include "common/Paths.h"
 #include "platform/linux/settings/LinuxUserDefaults.h"
-#include "platform/linux/system/LinuxUserDirectories.h"
+#include "platform/linux/system/LinuxHost.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

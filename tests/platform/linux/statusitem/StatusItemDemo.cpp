@@ -10,7 +10,7 @@
 #include "platform/Image.h"
 #include "platform/StatusMenu.h"
 #include "platform/linux/session/LinuxRunLoop.h"
-#include "platform/linux/statusitem/LinuxStatusBar.h"
+#include "platform/linux/statusitem/LinuxStatusItem.h"
 
 namespace {
 

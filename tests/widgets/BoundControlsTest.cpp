@@ -1,4 +1,4 @@
-#include "widgets/BoundLineEdit.h"
+#include "widgets/BoundControls.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +12,9 @@ using namespace quindle;
 
 namespace {
 
-struct BoundLineEditTest : testing::Test
+struct BoundControlsTest : testing::Test
 {
-    BoundLineEditTest()
+    BoundControlsTest()
     {
         auto* column = new QVBoxLayout(&window);
         column->addWidget(&field);
@@ -32,7 +32,7 @@ struct BoundLineEditTest : testing::Test
     int commits = 0;
 };
 
-TEST_F(BoundLineEditTest, FillingCommitsNothing)
+TEST_F(BoundControlsTest, FillingCommitsNothing)
 {
     ASSERT_TRUE(field.hasFocus());
     field.setBoundText(QStringLiteral("other"));
@@ -41,7 +41,7 @@ TEST_F(BoundLineEditTest, FillingCommitsNothing)
     EXPECT_EQ(commits, 0);
 }
 
-TEST_F(BoundLineEditTest, ReturnCommitsOnce)
+TEST_F(BoundControlsTest, ReturnCommitsOnce)
 {
     test::type(field, QStringLiteral("x"));
     EXPECT_EQ(commits, 0);
@@ -52,7 +52,7 @@ TEST_F(BoundLineEditTest, ReturnCommitsOnce)
     EXPECT_EQ(field.text(), QStringLiteral("storedx"));
 }
 
-TEST_F(BoundLineEditTest, LeavingCommitsAChangeOnce)
+TEST_F(BoundControlsTest, LeavingCommitsAChangeOnce)
 {
     test::type(field, QStringLiteral("x"));
     other.setFocus();
@@ -62,7 +62,7 @@ TEST_F(BoundLineEditTest, LeavingCommitsAChangeOnce)
     EXPECT_EQ(commits, 1);
 }
 
-TEST_F(BoundLineEditTest, LeavingWithTheOldTextCommitsNothing)
+TEST_F(BoundControlsTest, LeavingWithTheOldTextCommitsNothing)
 {
     test::type(field, QStringLiteral("x"));
     test::pressKey(field, Qt::Key_Backspace);
@@ -71,7 +71,7 @@ TEST_F(BoundLineEditTest, LeavingWithTheOldTextCommitsNothing)
     EXPECT_EQ(commits, 0);
 }
 
-TEST_F(BoundLineEditTest, DoesNotWriteOverTyping)
+TEST_F(BoundControlsTest, DoesNotWriteOverTyping)
 {
     test::type(field, QStringLiteral("x"));
     field.setBoundText(QStringLiteral("elsewhere"));

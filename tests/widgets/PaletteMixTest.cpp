@@ -1,4 +1,4 @@
-#include "widgets/WindowColours.h"
+#include "widgets/PaletteMix.h"
 
 #include <gtest/gtest.h>
 

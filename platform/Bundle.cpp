@@ -1,4 +1,4 @@
-#include "platform/HelperBundle.h"
+#include "platform/Bundle.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "menubar/HueFilter.h"
+#include "menubar/ProgressIndicator.h"
 
 #include <limits>
 #include <numbers>

@@ -1,4 +1,6 @@
-#include "widgets/BoundLineEdit.h"
+#include "widgets/BoundControls.h"
+
+#include <QScopedValueRollback>
 
 namespace quindle {
 
@@ -31,6 +33,21 @@ void BoundLineEdit::commitChange()
     if (isModified() && text() != m_boundText)
         commit();
     setModified(false);
+}
+
+BoundCheckBox::BoundCheckBox(QWidget* parent)
+    : QCheckBox(parent)
+{
+    connect(this, &QCheckBox::toggled, this, [this](bool on) {
+        if (!m_isFilling)
+            Q_EMIT switched(on);
+    });
+}
+
+void BoundCheckBox::setShown(bool checked)
+{
+    const QScopedValueRollback filling(m_isFilling, true);
+    setChecked(checked);
 }
 
 } // namespace quindle

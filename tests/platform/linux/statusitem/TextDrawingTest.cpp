@@ -1,4 +1,4 @@
-#include "platform/linux/statusitem/StripPainting.h"
+#include "platform/linux/statusitem/TextDrawing.h"
 
 #include <QDir>
 #include <QFile>
