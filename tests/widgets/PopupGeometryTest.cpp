@@ -6,7 +6,7 @@ using namespace quindle;
 
 namespace {
 
-constexpr QSize size(300, 600);
+constexpr QSize popupSize(300, 600);
 
 struct Case
 {
@@ -29,7 +29,7 @@ TEST(PopupGeometry, BesideThePanel)
         {"tiny screen", {10, 10}, {0, 0, 200, 100}, {4, 4, 192, 92}},
     };
     for (const Case& row : cases) {
-        const QRect popup = popupGeometry(row.anchor, size, row.available, 4);
+        const QRect popup = popupGeometry(row.anchor, popupSize, row.available, 4);
         EXPECT_EQ(popup.topLeft(), row.popup.topLeft()) << row.name << ' ' << popup.x() << ',' << popup.y();
         EXPECT_EQ(popup.size(), row.popup.size()) << row.name;
         EXPECT_TRUE(row.available.contains(popup)) << row.name;
