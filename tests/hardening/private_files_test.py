@@ -5,6 +5,7 @@ import os
 import plistlib
 import shutil
 import stat
+import struct
 import subprocess
 import sys
 import tempfile
@@ -94,6 +95,26 @@ class PrivateFiles(unittest.TestCase):
             self.assertIn(COMPUTER_SERIAL.encode(), content)
             self.assertEqual(mode(target), 0o600)
         self.assertPrivate()
+
+
+class InheritedAccessList(PrivateFiles):
+    """The same below a folder whose access control list gives everything in it to another account as well. The rights of
+    a file's group are then the most that the list gives, and nothing of them is left."""
+
+    OTHER, NOBODY_IN_PARTICULAR = 65534, 0xffffffff
+    OWNER, ACCOUNT, GROUP, MASK, OTHERS = 1, 2, 4, 16, 32  # kinds of entries
+    ALL, NONE = 7, 0  # rights
+
+    def setUp(self):
+        super().setUp()
+        entries = ((self.OWNER, self.ALL, self.NOBODY_IN_PARTICULAR), (self.ACCOUNT, self.ALL, self.OTHER),
+                   (self.GROUP, self.NONE, self.NOBODY_IN_PARTICULAR), (self.MASK, self.ALL, self.NOBODY_IN_PARTICULAR),
+                   (self.OTHERS, self.NONE, self.NOBODY_IN_PARTICULAR))
+        inherited = struct.pack("<I", 2) + b"".join(struct.pack("<HHI", *entry) for entry in entries)
+        os.setxattr(self.home, "system.posix_acl_default", inherited)
+        (self.home / "proof").touch()
+        self.assertTrue(os.getxattr(self.home / "proof", "system.posix_acl_access"))
+        self.assertEqual(mode(self.home / "proof") & 0o070, 0o060, "nothing is inherited here")
 
 
 if __name__ == "__main__":

@@ -9,7 +9,7 @@ from pathlib import Path
 
 from start_case import StartCase, wait_for
 
-HANGING_FOLDER = os.environ["QUINDLE_HANGING_FOLDER"]
+ABSENT_FOLDER = os.environ["QUINDLE_ABSENT_FOLDER"]
 
 
 class BadFolders(StartCase):
@@ -23,7 +23,7 @@ class BadFolders(StartCase):
         self.assertIn(word, lines[0])
 
     def hanging(self, folder):
-        return {"LD_PRELOAD": HANGING_FOLDER, "QUINDLE_TEST_HANGS": str(folder)}
+        return {"LD_PRELOAD": ABSENT_FOLDER, "QUINDLE_TEST_HANGS": str(folder)}
 
     def test_settings_on_a_server_that_is_away(self):
         self.write_settings(self.root / "config", customStatusBar="%p")
@@ -38,6 +38,27 @@ class BadFolders(StartCase):
         session = self.bus()
         self.start(session, **self.hanging(self.root / "elsewhere"))
         self.assert_titles(session, ["mine 50.0"])
+
+    def test_settings_that_go_stale_and_come_back(self):
+        self.write_settings(self.root / "config", customStatusBar="mine %p")
+        folder = self.root / "config/quindle"
+        flag = self.root / "config/quindle.stale"
+        session = self.bus()
+        process = self.start(session, LD_PRELOAD=ABSENT_FOLDER, QUINDLE_TEST_STALE=str(folder))
+        self.assert_titles(session, ["mine 50.0"])
+        flag.touch()
+        for _ in range(3):
+            self.assert_titles_after_change(session, ["mine 50.0"])
+            time.sleep(0.3)
+        self.assert_titles(session, ["mine 50.0"])
+        self.write_settings(self.root / "config", customStatusBar="back %p")
+        flag.unlink()
+        self.assert_titles_after_change(session, ["back 50.0"])
+        process.terminate()
+        errors = process.communicate(timeout=20)[1].decode()
+        told = [line for line in errors.splitlines() if "Stale file handle" in line]
+        self.assertEqual(len(told), 2, errors)  # one for each file
+        self.assertNotEqual(told[0], told[1])
 
     if os.geteuid() == 0:  # to mount something takes the right to
 

@@ -149,14 +149,6 @@ TEST_F(LinuxUserDefaultsTest, AnInheritedAccessListOpensNothing)
     EXPECT_EQ(modeOf(path() + QStringLiteral(".lock")), 0600u);
 }
 
-TEST_F(LinuxUserDefaultsTest, AFileThatOthersMayReadIsClosedByTheNextWrite)
-{
-    writeBytes(path(), listOf(key, 1));
-    ASSERT_EQ(::chmod(QFile::encodeName(path()).constData(), 0666), 0);
-    LinuxUserDefaults(path()).setInteger(key, 2);
-    EXPECT_EQ(modeOf(path()), 0600u);
-}
-
 TEST_F(LinuxUserDefaultsTest, ReadsBinaryAndKeepsTheRestOfTheFile)
 {
     writeBytes(path(), binaryPropertyList({QByteArray("\xd1\1\2"), "\x55other", "\x10\x0c"}));
