@@ -8,7 +8,7 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 
-#include "platform/linux/os/CloseFolder.h"
+#include "platform/linux/os/FileDescriptor.h"
 
 namespace quindle {
 

@@ -9,7 +9,7 @@
 
 #include <dirent.h>
 
-#include "platform/linux/os/CloseFolder.h"
+#include "platform/linux/os/FileDescriptor.h"
 #include "platform/linux/power/FileReader.h"
 #include "platform/linux/power/FolderWatch.h"
 #include "platform/linux/power/Supply.h"
