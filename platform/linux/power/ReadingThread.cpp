@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <thread>
 
+#include "platform/linux/os/VectorRegisters.h"
+
 namespace quindle {
 
 std::shared_ptr<ReadingThread> ReadingThread::start(const std::string& folder, SupplyFolder::Scope scope,
@@ -116,6 +118,7 @@ void ReadingThread::work()
 
 std::optional<bool> ReadingThread::nextRequest()
 {
+    clearVectorRegisters(); // of what was read, which a core dump would hold for as long as nobody asks
     std::unique_lock lock(m_mutex);
     m_requested.wait(lock, [this] { return m_isEnded || m_request; });
     return m_isEnded ? std::nullopt : std::exchange(m_request, std::nullopt);
