@@ -10,7 +10,9 @@
 #include "platform/linux/power/LinuxPowerEvents.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
+#include "platform/linux/power/PeripheralBatteries.h"
 #include "platform/linux/power/PowerSampler.h"
+#include "platform/linux/session/BluetoothBatteries.h"
 #include "platform/linux/session/LinuxApplication.h"
 #include "platform/linux/session/LinuxNotifications.h"
 #include "platform/linux/session/LinuxRunLoop.h"
@@ -28,6 +30,11 @@ QString rootOr(const QString& systemRoot)
     return systemRoot.isEmpty() ? QStringLiteral("/sys") : systemRoot;
 }
 
+std::string supplyFolder(const QString& systemRoot)
+{
+    return pathBytes(rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString();
+}
+
 /// Another root is another computer, of which this one's device tree tells nothing.
 LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 {
@@ -40,9 +47,10 @@ LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 struct LinuxPlatform::Services
 {
     Services(const QString& systemRoot, SettingsAccess settingsAccess)
-        : sampler(pathBytes(rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString())
+        : sampler(supplyFolder(systemRoot))
+        , peripherals(supplyFolder(systemRoot), bluetoothOf(systemRoot))
         , registry(sampler, firmwareFolders(systemRoot))
-        , powerSources(sampler)
+        , powerSources(sampler, &peripherals)
         , userDefaults(settingsFolder(), settingsAccess)
         , workspaceNotifications(runLoop)
         , urlSession(networkModule(bundle))
@@ -56,7 +64,17 @@ struct LinuxPlatform::Services
         QObject::connect(Loop::instance(), &Loop::awake, &turns, expire);
     }
 
+    /// Another root is another computer.
+    PeripheralBatteries::Bluetooth bluetoothOf(const QString& systemRoot)
+    {
+        if (!systemRoot.isEmpty())
+            return {};
+        return [this] { return bluetooth.latest(); };
+    }
+
     PowerSampler sampler;
+    BluetoothBatteries bluetooth;
+    PeripheralBatteries peripherals;
     LinuxRegistry registry;
     LinuxPowerSources powerSources;
     LinuxUserDefaultsDatabases userDefaults;

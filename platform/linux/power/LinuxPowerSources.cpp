@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/linux/power/PeripheralBatteries.h"
 #include "platform/linux/power/PowerSampler.h"
 
 namespace quindle {
@@ -32,6 +33,11 @@ std::optional<QVariantMap> LinuxPowerSources::description(int source)
 std::optional<int> LinuxPowerSources::chargeLimit()
 {
     return combinedChargeLimit(m_sampler.sample()->power.batteries);
+}
+
+QList<PeripheralBattery> LinuxPowerSources::peripherals()
+{
+    return m_peripherals ? m_peripherals->now() : QList<PeripheralBattery>();
 }
 
 } // namespace quindle

@@ -6,6 +6,7 @@
 
 namespace quindle {
 
+class PeripheralBatteries;
 class PowerSampler;
 struct PowerSample;
 
@@ -14,9 +15,11 @@ struct PowerSample;
 class LinuxPowerSources final : public PowerSources
 {
 public:
-    /// `sampler` is shared with the registry and lives longer than this object.
-    explicit LinuxPowerSources(PowerSampler& sampler)
+    /// `sampler` is shared with the registry. Both live longer than this object; without `peripherals` there
+    /// are none.
+    explicit LinuxPowerSources(PowerSampler& sampler, PeripheralBatteries* peripherals = nullptr)
         : m_sampler(sampler)
+        , m_peripherals(peripherals)
     {
     }
 
@@ -24,10 +27,11 @@ public:
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
     std::optional<int> chargeLimit() override;
-    QList<PeripheralBattery> peripherals() override { return {}; }
+    QList<PeripheralBattery> peripherals() override;
 
 private:
     PowerSampler& m_sampler;
+    PeripheralBatteries* m_peripherals;
     std::shared_ptr<const PowerSample> m_listed; ///< what the last list was made from
 };
 

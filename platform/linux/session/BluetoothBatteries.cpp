@@ -1,0 +1,106 @@
+#include "platform/linux/session/BluetoothBatteries.h"
+
+#include <QDBusArgument>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QMap>
+
+#include "platform/linux/session/BusLink.h"
+
+namespace quindle {
+
+namespace {
+
+using Interfaces = QMap<QString, QVariantMap>;
+using Objects = QMap<QDBusObjectPath, Interfaces>;
+
+const QString ownBusName = QStringLiteral("quindle-bluetooth");
+const QString objectsSignature = QStringLiteral("a{oa{sa{sv}}}");
+
+constexpr int longestUse = 20'000; // of an answer; somebody who looks asks more often
+constexpr qsizetype mostBatteries = 32;
+
+QDBusMessage questionForObjects()
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.bluez"), QStringLiteral("/"),
+        QStringLiteral("org.freedesktop.DBus.ObjectManager"), QStringLiteral("GetManagedObjects"));
+    question.setAutoStartService(false);
+    return question;
+}
+
+std::optional<BluetoothBattery> batteryOf(const Interfaces& object)
+{
+    const QVariantMap device = object.value(QStringLiteral("org.bluez.Device1"));
+    const QVariant percentage =
+        object.value(QStringLiteral("org.bluez.Battery1")).value(QStringLiteral("Percentage"));
+    bool isNumber = false;
+    const uint percent = percentage.toUInt(&isNumber);
+    // A device that has gone keeps its object, with what its battery was then.
+    if (!isNumber || percent > 100 || !device.value(QStringLiteral("Connected"), true).toBool())
+        return std::nullopt;
+    return BluetoothBattery{device.value(QStringLiteral("Address")).toString(),
+                            device.value(QStringLiteral("Alias")).toString(), static_cast<int>(percent)};
+}
+
+} // namespace
+
+QList<BluetoothBattery> bluetoothBatteriesFrom(const QDBusMessage& answer)
+{
+    if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != objectsSignature)
+        return {};
+    const auto objects = qdbus_cast<Objects>(answer.arguments().constFirst());
+    QList<BluetoothBattery> batteries;
+    for (const Interfaces& object : objects)
+        if (const auto battery = batteryOf(object); battery && batteries.size() < mostBatteries)
+            batteries.append(*battery);
+    return batteries;
+}
+
+BluetoothBatteries::BluetoothBatteries(int patience)
+    : m_patience(patience)
+    , m_ownBus(QString())
+{
+}
+
+BluetoothBatteries::~BluetoothBatteries()
+{
+    m_ownBus = QDBusConnection(QString());
+    QDBusConnection::disconnectFromBus(ownBusName);
+}
+
+QList<BluetoothBattery> BluetoothBatteries::latest()
+{
+    const bool isOld = !m_asked.isValid() || m_asked.hasExpired(longestUse);
+    if (isOld) {
+        m_question = ask();
+        m_question->waitForFinished();
+    }
+    if (m_question->isFinished()) {
+        m_batteries = bluetoothBatteriesFrom(m_question->reply());
+        if (!isOld)
+            m_question = ask();
+    }
+    return m_batteries;
+}
+
+QDBusPendingCall BluetoothBatteries::ask()
+{
+    m_asked.start();
+    return bus().asyncCall(questionForObjects(), m_patience);
+}
+
+/// The process's connection, else one of its own: the shared one does not come back when its bus has gone.
+QDBusConnection BluetoothBatteries::bus()
+{
+    if (m_ownBus.isConnected())
+        return m_ownBus;
+    const QDBusConnection shared = QDBusConnection::systemBus();
+    if (shared.isConnected())
+        return shared;
+    QDBusConnection::disconnectFromBus(ownBusName);
+    m_ownBus = QDBusConnection::connectToBus(busAddress(QDBusConnection::SystemBus), ownBusName);
+    return m_ownBus;
+}
+
+} // namespace quindle

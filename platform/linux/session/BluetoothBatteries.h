@@ -1,0 +1,46 @@
+#pragma once
+
+#include <optional>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QElapsedTimer>
+#include <QList>
+
+#include "platform/linux/os/BluetoothBattery.h"
+
+namespace quindle {
+
+/// The batteries that BlueZ (org.bluez on the system bus) tells of. It is asked when somebody wants to know
+/// and never else, so that a device's news wake nobody; a service that does not run is not started. Main
+/// thread only.
+class BluetoothBatteries
+{
+public:
+    /// `patience`, in milliseconds, is how long an answer is waited for.
+    explicit BluetoothBatteries(int patience = 300);
+    ~BluetoothBatteries();
+
+    BluetoothBatteries(const BluetoothBatteries&) = delete;
+    BluetoothBatteries& operator=(const BluetoothBatteries&) = delete;
+
+    /// By the order of BlueZ' objects. Asked again and again it gives the answer to the question before, and
+    /// nobody waits; after a while without questions it waits for the answer. None without a bus or BlueZ.
+    QList<BluetoothBattery> latest();
+
+private:
+    QDBusPendingCall ask();
+    QDBusConnection bus();
+
+    int m_patience;
+    QDBusConnection m_ownBus;
+    std::optional<QDBusPendingCall> m_question;
+    QElapsedTimer m_asked;
+    QList<BluetoothBattery> m_batteries;
+};
+
+/// The batteries in an answer of ObjectManager.GetManagedObjects; none in any other message.
+QList<BluetoothBattery> bluetoothBatteriesFrom(const QDBusMessage& answer);
+
+} // namespace quindle
