@@ -31,11 +31,19 @@ namespace {
 class UnconnectedStatusBar : public StatusBar
 {
 public:
+    explicit UnconnectedStatusBar(RunLoop& runLoop)
+        : m_runLoop(runLoop)
+    {
+    }
+
     std::unique_ptr<StatusItem> statusItemWithLength(double /*length*/) override
     {
-        return std::make_unique<LinuxStatusItem>(QDBusConnection(QStringLiteral("none")),
+        return std::make_unique<LinuxStatusItem>(QDBusConnection(QStringLiteral("none")), m_runLoop,
                                                  StatusItemSurroundings{});
     }
+
+private:
+    RunLoop& m_runLoop;
 };
 
 class VersionedBundle : public Bundle
@@ -62,6 +70,7 @@ public:
         , m_powerSources(m_sampler)
         , m_userDefaults(m_settings.path())
         , m_others({}, m_bundle)
+        , m_statusBar(m_others.runLoop)
         , m_platform(platform(hasRealItem))
     {
         m_userDefaults.suite(QStringLiteral("group.fernhollow.Quindle"))

@@ -8,17 +8,6 @@
 
 namespace quindle {
 
-std::shared_ptr<ReadingThread> ReadingThread::start(const std::string& folder, SupplyFolder::Scope scope,
-                                                    SupplyFolder::KnownKinds kinds, const ReadFunction& read,
-                                                    std::shared_ptr<SlowFiles> slowFiles)
-{
-    auto thread =
-        std::make_shared<ReadingThread>(folder, scope, std::move(kinds), read, std::move(slowFiles));
-    if (!startThread([thread] { thread->work(); }))
-        return nullptr;
-    return thread;
-}
-
 ReadingThread::ReadingThread(const std::string& folder, SupplyFolder::Scope scope,
                              SupplyFolder::KnownKinds kinds, const ReadFunction& read,
                              std::shared_ptr<SlowFiles> slowFiles)
@@ -27,17 +16,23 @@ ReadingThread::ReadingThread(const std::string& folder, SupplyFolder::Scope scop
 {
 }
 
-void ReadingThread::request(bool looksAgain)
+bool ReadingThread::request(bool looksAgain)
 {
     {
         const std::scoped_lock lock(m_mutex);
-        m_request = looksAgain;
         m_requestedAt = Clock::now();
         m_isBusy = true;
         m_answer.reset();
         m_hasAnswer = false;
     }
-    m_requested.notify_one();
+    const auto read = [self = shared_from_this(), looksAgain] {
+        self->answer(self->m_folder.read(looksAgain));
+    };
+    if (startThread(read))
+        return true;
+    const std::scoped_lock lock(m_mutex);
+    m_isBusy = false;
+    return false;
 }
 
 bool ReadingThread::isBusy() const
@@ -46,20 +41,20 @@ bool ReadingThread::isBusy() const
     return m_isBusy;
 }
 
-/// A reading takes a few hundredths of a millisecond, about as long as putting a thread to sleep and waking
-/// it.
-void ReadingThread::spinUntilAnswered() const
+/// A reading takes about as long as going to sleep and being woken, and an answer that is waited for awake
+/// wakes nobody.
+void ReadingThread::spinUntilAnswered(Clock::time_point deadline) const
 {
-    constexpr std::chrono::microseconds longest(60);
+    constexpr std::chrono::microseconds longest(250);
     static const bool hasProcessorToSpare = std::thread::hardware_concurrency() > 1;
-    const auto end = Clock::now() + longest;
+    const auto end = std::min(deadline, Clock::now() + longest);
     while (hasProcessorToSpare && !m_hasAnswer && Clock::now() < end) {
     }
 }
 
 std::optional<ReadingThread::Answer> ReadingThread::take(Clock::time_point deadline)
 {
-    spinUntilAnswered();
+    spinUntilAnswered(deadline);
     std::unique_lock lock(m_mutex);
     m_answered.wait_until(lock, deadline, [this] { return m_answer.has_value(); });
     m_hasAnswer = false;
@@ -78,11 +73,8 @@ bool ReadingThread::abandonIfStuck(std::chrono::milliseconds longest)
 
 void ReadingThread::end()
 {
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_isEnded = true;
-    }
-    m_requested.notify_one();
+    const std::scoped_lock lock(m_mutex);
+    m_isEnded = true;
 }
 
 std::optional<ssize_t> ReadingThread::insteadOf(const std::string& path, char* buffer, std::size_t size)
@@ -108,20 +100,6 @@ void ReadingThread::end(const char* buffer, ssize_t result)
     m_path.clear();
     if (m_stuckFile)
         std::exchange(m_stuckFile, nullptr)->deliver(buffer, result);
-}
-
-void ReadingThread::work()
-{
-    while (const std::optional<bool> looksAgain = nextRequest())
-        answer(m_folder.read(*looksAgain));
-}
-
-std::optional<bool> ReadingThread::nextRequest()
-{
-    clearVectorRegisters(); // of what was read, which a core dump would hold for as long as nobody asks
-    std::unique_lock lock(m_mutex);
-    m_requested.wait(lock, [this] { return m_isEnded || m_request; });
-    return m_isEnded ? std::nullopt : std::exchange(m_request, std::nullopt);
 }
 
 void ReadingThread::answer(std::optional<SupplyReadings> readings)

@@ -13,9 +13,10 @@
 
 namespace quindle {
 
-/// A thread that reads a folder of supplies on request. One that is stuck in a file can be left to itself:
-/// when that file answers after all, its answer is delivered as a slow file's and the thread ends.
-class ReadingThread : private ReadSteps
+/// Reads a folder of supplies on request, each time on a thread that ends with the reading: between two there
+/// is none that would have to be woken, or whose registers hold what it read last. One that is stuck in a
+/// file can be left to itself: when that file answers after all, its answer is delivered as a slow file's.
+class ReadingThread : private ReadSteps, public std::enable_shared_from_this<ReadingThread>
 {
 public:
     using Clock = std::chrono::steady_clock;
@@ -26,16 +27,11 @@ public:
         Clock::duration duration{};             ///< from the request to the answer
     };
 
-    /// Null when the system has no room for a thread. The object lives as long as the thread does.
-    static std::shared_ptr<ReadingThread> start(const std::string& folder, SupplyFolder::Scope scope,
-                                                SupplyFolder::KnownKinds kinds, const ReadFunction& read,
-                                                std::shared_ptr<SlowFiles> slowFiles);
-
     ReadingThread(const std::string& folder, SupplyFolder::Scope scope, SupplyFolder::KnownKinds kinds,
                   const ReadFunction& read, std::shared_ptr<SlowFiles> slowFiles);
 
-    /// Asks for a reading. Only while it is not busy.
-    void request(bool looksAgain);
+    /// Begins a reading. Only while it is not busy. False when the system has no room for a thread.
+    bool request(bool looksAgain);
 
     /// Whether a reading is under way.
     bool isBusy() const;
@@ -46,7 +42,7 @@ public:
     /// Leaves the thread to itself if it has been with one file for so long, and adds that to the slow files.
     bool abandonIfStuck(std::chrono::milliseconds longest);
 
-    /// Has the thread end when it has nothing to do.
+    /// Has a reading that is under way touch no further file.
     void end();
 
 private:
@@ -54,18 +50,14 @@ private:
     void begin(const std::string& path) override;
     void end(const char* buffer, ssize_t result) override;
 
-    void work();
-    std::optional<bool> nextRequest();
     void answer(std::optional<SupplyReadings> readings);
-    void spinUntilAnswered() const;
+    void spinUntilAnswered(Clock::time_point deadline) const;
 
     const std::shared_ptr<SlowFiles> m_slowFiles;
-    SupplyFolder m_folder; ///< of this thread alone
+    SupplyFolder m_folder; ///< of the thread alone, while it is busy
 
     mutable std::mutex m_mutex; ///< of what follows
-    std::condition_variable m_requested;
     std::condition_variable m_answered;
-    std::optional<bool> m_request;
     std::optional<Answer> m_answer;
     Clock::time_point m_requestedAt;
     std::string m_path; ///< the file that is being read; empty between two

@@ -82,18 +82,12 @@ std::chrono::milliseconds SupplyReader::patience() const
 /// Sees to it that a reading is under way. A new thread looks at everything anew.
 bool SupplyReader::request()
 {
-    if (!hasThread())
-        return false;
-    if (!m_thread->isBusy())
-        m_thread->request(std::exchange(m_looksAgain, false));
-    return true;
-}
-
-bool SupplyReader::hasThread()
-{
-    if (!m_thread && !m_slowFiles->areTooMany())
-        m_thread = ReadingThread::start(m_folder, m_scope, m_kinds, m_read, m_slowFiles);
-    return m_thread != nullptr;
+    if (!m_thread) {
+        if (m_slowFiles->areTooMany())
+            return false;
+        m_thread = std::make_shared<ReadingThread>(m_folder, m_scope, m_kinds, m_read, m_slowFiles);
+    }
+    return m_thread->isBusy() || m_thread->request(std::exchange(m_looksAgain, false));
 }
 
 } // namespace quindle

@@ -20,8 +20,8 @@ struct ReadingPatience
     std::chrono::milliseconds later{200};
 };
 
-/// Reads the supplies on a thread of its own, since a driver may hang while a file is read, and waits for it:
-/// long enough for any driver that answers, and never for ever. A file that does not answer is read apart
+/// Reads the supplies on threads of their own, since a driver may hang while a file is read, and waits for
+/// it: long enough for any driver that answers, and never for ever. A file that does not answer is read apart
 /// from the others from then on, so that it holds up neither them nor the program. Main thread only.
 class SupplyReader
 {
@@ -43,7 +43,6 @@ private:
     std::optional<SupplyReadings> takeLate();
     std::optional<SupplyReadings> accept(std::optional<SupplyReadings> readings);
     bool request();
-    bool hasThread();
 
     std::string m_folder;
     SupplyFolder::Scope m_scope;
