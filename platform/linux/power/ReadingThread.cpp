@@ -4,8 +4,6 @@
 #include <cerrno>
 #include <thread>
 
-#include "platform/linux/os/VectorRegisters.h"
-
 namespace quindle {
 
 ReadingThread::ReadingThread(const std::string& folder, SupplyFolder::Scope scope,
