@@ -1,6 +1,5 @@
 #include "platform/linux/power/LinuxRegistry.h"
 
-#include "platform/linux/os/SmallFile.h"
 #include "platform/linux/power/PowerSampler.h"
 
 namespace quindle {
@@ -14,13 +13,13 @@ const QString modelKey = QStringLiteral("model");
 const QString serialKey = QStringLiteral("IOPlatformSerialNumber");
 
 /// The text in the first of two firmware files that holds any. Device trees end theirs with NUL.
-std::optional<QString> firmwareText(const QString& dmiFolder, const char* dmiName, const QString& treeFolder,
-                                    const char* treeName)
+std::optional<QString> firmwareText(TimelyFiles& files, const QString& dmiFolder, const char* dmiName,
+                                    const QString& treeFolder, const char* treeName)
 {
     for (const auto& [folder, name] : {std::pair(dmiFolder, dmiName), std::pair(treeFolder, treeName)}) {
         if (folder.isEmpty())
             continue;
-        const std::optional<QByteArray> content = readSmallFile(folder + u'/' + QLatin1String(name));
+        const std::optional<QByteArray> content = files.read(folder + u'/' + QLatin1String(name));
         if (!content)
             continue;
         const std::string_view text(content->constData(), static_cast<std::size_t>(content->size()));
@@ -98,21 +97,22 @@ const QVariantMap& LinuxRegistry::batteryEntry()
     return m_lastBatteryEntry;
 }
 
-QVariant LinuxRegistry::computerProperty(const QString& key) const
+QVariant LinuxRegistry::computerProperty(const QString& key)
 {
     if (key == modelKey) {
-        const auto model = firmwareText(m_folders.dmi, "product_name", m_folders.deviceTree, "model");
+        const auto model =
+            firmwareText(m_files, m_folders.dmi, "product_name", m_folders.deviceTree, "model");
         return model ? QVariant(model->toUtf8().append('\0')) : QVariant();
     }
     if (key == serialKey) {
         const auto serial =
-            firmwareText(m_folders.dmi, "product_serial", m_folders.deviceTree, "serial-number");
+            firmwareText(m_files, m_folders.dmi, "product_serial", m_folders.deviceTree, "serial-number");
         return serial ? QVariant(*serial) : QVariant();
     }
     return {};
 }
 
-QVariantMap LinuxRegistry::computerProperties() const
+QVariantMap LinuxRegistry::computerProperties()
 {
     QVariantMap values;
     for (const QString& key : {modelKey, serialKey}) {

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "platform/IORegistry.h"
+#include "platform/linux/os/TimelyFiles.h"
 
 namespace quindle {
 
@@ -40,11 +41,12 @@ private:
 
     RegistryObject open(Entry entry);
     const QVariantMap& batteryEntry();
-    QVariant computerProperty(const QString& key) const;
-    QVariantMap computerProperties() const;
+    QVariant computerProperty(const QString& key);
+    QVariantMap computerProperties();
 
     PowerSampler& m_sampler;
     Folders m_folders;
+    TimelyFiles m_files;
     QVariantMap m_lastBatteryEntry; ///< what an open entry goes on saying when its battery has gone
     std::unordered_map<RegistryObject, Entry> m_open;
     RegistryObject m_lastHandle = 0;

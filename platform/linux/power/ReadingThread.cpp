@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <thread>
 
+#include "platform/linux/os/DetachedThread.h"
+
 namespace quindle {
 
 ReadingThread::ReadingThread(const std::string& folder, SupplyFolder::Scope scope,

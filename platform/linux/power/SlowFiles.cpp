@@ -9,6 +9,8 @@
 
 #include <fcntl.h>
 
+#include "platform/linux/os/DetachedThread.h"
+
 namespace quindle {
 
 namespace {

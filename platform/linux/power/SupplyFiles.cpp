@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <system_error>
-#include <thread>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -29,16 +26,6 @@ FileDescriptor openRegularFile(int folder, const char* path)
         return descriptor;
     errno = ENOENT;
     return {};
-}
-
-bool startThread(std::function<void()> work)
-{
-    try {
-        std::thread(std::move(work)).detach();
-        return true;
-    } catch (const std::system_error&) {
-        return false;
-    }
 }
 
 bool isAccident(ssize_t result)

@@ -22,10 +22,6 @@ ssize_t readDescriptor(int descriptor, const char* attribute, char* buffer, std:
 /// none and errno; ENOENT for what is no regular file.
 FileDescriptor openRegularFile(int folder, const char* path);
 
-/// Runs `work` on a thread that nobody waits for, since it may hang for ever. False when the system has no
-/// room for a thread.
-bool startThread(std::function<void()> work);
-
 /// Hears of every file before and after it is touched, on the thread that does.
 class ReadSteps
 {

@@ -2,7 +2,6 @@
 
 #include <QSysInfo>
 
-#include "platform/linux/os/SmallFile.h"
 #include "platform/linux/os/UserFolders.h"
 #include "plist/PropertyList.h"
 
@@ -55,7 +54,7 @@ LinuxHost::LinuxHost(QString machineInfoPath, QString hostName)
 
 QString LinuxHost::localizedName() const
 {
-    const QByteArray machineInfo = readSmallFile(m_machineInfoPath).value_or(QByteArray());
+    const QByteArray machineInfo = m_files.read(m_machineInfoPath).value_or(QByteArray());
     const QString prettyName = assignedValue(machineInfo, "PRETTY_HOSTNAME");
     return prettyName.isEmpty() ? m_hostName : prettyName;
 }

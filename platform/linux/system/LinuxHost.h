@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Host.h"
+#include "platform/linux/os/TimelyFiles.h"
 
 namespace quindle {
 
@@ -16,6 +17,7 @@ public:
 private:
     QString m_machineInfoPath;
     QString m_hostName;
+    mutable TimelyFiles m_files;
 };
 
 /// The value of `name` in a file of shell-like assignments, one a line, quotes taken off; the last one
