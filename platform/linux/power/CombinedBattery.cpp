@@ -20,10 +20,23 @@ std::optional<Figure> firstTold(Batteries batteries, Member<Figure> figure)
     return std::nullopt;
 }
 
-/// A quantity of one battery expressed at another's rated voltage.
-double atVoltageOf(const Battery& first, const Battery& battery, double quantity)
+/// A quantity of one battery expressed at the first one's rated voltage.
+OptionalNumber atVoltageOf(const Battery& first, const Battery& battery, OptionalNumber quantity)
 {
-    return quantity * battery.ratedVoltage / first.ratedVoltage;
+    if (!quantity || &first == &battery)
+        return quantity;
+    return *quantity * battery.ratedVoltage / first.ratedVoltage;
+}
+
+/// Of those that tell it.
+template <typename QuantityOf>
+OptionalNumber sumOf(Batteries batteries, QuantityOf quantityOf)
+{
+    OptionalNumber sum;
+    for (const Battery& battery : batteries)
+        if (const OptionalNumber quantity = quantityOf(battery))
+            sum = sum.value_or(0) + *quantity;
+    return sum;
 }
 
 /// Whether a battery's figures may be added to others': percentages are no charges, and one that does not
@@ -51,29 +64,19 @@ OptionalNumber designOrFullCharge(const Battery& battery)
 
 OptionalNumber sumOfCharges(Batteries batteries, OptionalNumber (*chargeOf)(const Battery&))
 {
-    if (batteries.size() == 1)
-        return chargeOf(batteries.front());
-    const bool someAddUp = std::any_of(batteries.begin(), batteries.end(), addsUp);
-    OptionalNumber sum;
-    for (const Battery& battery : batteries) {
-        if (someAddUp && !addsUp(battery))
-            continue;
-        // Percentages, where there is nothing else, are added as they are: that gives their mean.
-        if (const OptionalNumber charge = chargeOf(battery))
-            sum = sum.value_or(0) + (someAddUp ? atVoltageOf(batteries.front(), battery, *charge) : *charge);
-    }
-    return sum;
+    // Percentages, where there is nothing else, are added as they are: that gives their mean.
+    if (std::none_of(batteries.begin(), batteries.end(), addsUp))
+        return sumOf(batteries, chargeOf);
+    return sumOf(batteries, [&](const Battery& battery) {
+        return addsUp(battery) ? atVoltageOf(batteries.front(), battery, chargeOf(battery)) : std::nullopt;
+    });
 }
 
 OptionalNumber sumOfCurrents(Batteries batteries, Member<double> current)
 {
-    if (batteries.size() == 1)
-        return batteries.front().*current;
-    OptionalNumber sum;
-    for (const Battery& battery : batteries)
-        if (battery.*current)
-            sum = sum.value_or(0) + atVoltageOf(batteries.front(), battery, *(battery.*current));
-    return sum;
+    return sumOf(batteries, [&](const Battery& battery) {
+        return atVoltageOf(batteries.front(), battery, battery.*current);
+    });
 }
 
 } // namespace

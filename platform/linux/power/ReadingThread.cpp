@@ -28,7 +28,7 @@ bool ReadingThread::request(bool looksAgain)
     const auto read = [self = shared_from_this(), looksAgain] {
         self->answer(self->m_folder.read(looksAgain));
     };
-    if (startThread(read))
+    if (startThreadHere(read))
         return true;
     const std::scoped_lock lock(m_mutex);
     m_isBusy = false;
@@ -41,20 +41,19 @@ bool ReadingThread::isBusy() const
     return m_isBusy;
 }
 
-/// A reading takes about as long as going to sleep and being woken, and an answer that is waited for awake
-/// wakes nobody.
-void ReadingThread::spinUntilAnswered(Clock::time_point deadline) const
+/// The reading has the processor meanwhile. It takes about as long as going to sleep and being woken, and who
+/// does not sleep need not be woken.
+void ReadingThread::yieldUntilAnswered(Clock::time_point deadline) const
 {
-    constexpr std::chrono::microseconds longest(250);
-    static const bool hasProcessorToSpare = std::thread::hardware_concurrency() > 1;
+    constexpr std::chrono::milliseconds longest(1);
     const auto end = std::min(deadline, Clock::now() + longest);
-    while (hasProcessorToSpare && !m_hasAnswer && Clock::now() < end) {
-    }
+    while (!m_hasAnswer && Clock::now() < end)
+        std::this_thread::yield();
 }
 
 std::optional<ReadingThread::Answer> ReadingThread::take(Clock::time_point deadline)
 {
-    spinUntilAnswered(deadline);
+    yieldUntilAnswered(deadline);
     std::unique_lock lock(m_mutex);
     m_answered.wait_until(lock, deadline, [this] { return m_answer.has_value(); });
     m_hasAnswer = false;

@@ -51,7 +51,7 @@ private:
     void end(const char* buffer, ssize_t result) override;
 
     void answer(std::optional<SupplyReadings> readings);
-    void spinUntilAnswered(Clock::time_point deadline) const;
+    void yieldUntilAnswered(Clock::time_point deadline) const;
 
     const std::shared_ptr<SlowFiles> m_slowFiles;
     SupplyFolder m_folder; ///< of the thread alone, while it is busy
