@@ -1,7 +1,8 @@
+#include "mac/OSXVersionName.h"
+
 #include <gtest/gtest.h>
 
-#include "mac/MachineType.h"
-#include "mac/OSXVersionName.h"
+#include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -38,24 +39,28 @@ TEST(OSXVersionName, Table)
         EXPECT_EQ(osxVersionName(QString::fromLatin1(row.text)), QString::fromLatin1(row.name)) << row.text;
 }
 
-TEST(MachineType, Table)
+TEST(ShortVersion, IsTheTextualFormOfWhatTheBundleStates)
 {
-    constexpr Row rows[] = {
-        {"MacBookPro14,1", "MacBook Pro"},
-        {"MacBookAir7,2", "MacBook Air"},
-        {"XMacBookAirY", "MacBook Air"},
-        {"iMac15,1", "iMac"},
-        {"iMacPro1,1", "iMac"},
-        {"Macmini6,2", "Mac mini"},
-        {"MacPro6,1", "Mac Pro"},
-        {"PowerMac3,1", "Power Mac"},
-        {"MacBook10,1", "MacBook"},
-        {"macbookpro", ""},
-        {"MacMini", ""},
-        {"", ""},
+    const std::pair<QVariant, const char*> rows[] = {
+        {QStringLiteral("1.11.2"), "1.11.2"},
+        {QStringLiteral(""), ""},
+        {2, "2"},
+        {1.5, "1.5"},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(machineType(QString::fromLatin1(row.text)), QString::fromLatin1(row.name)) << row.text;
+    FakeBundle bundle;
+    for (const auto& [stated, version] : rows) {
+        bundle.info = QVariantMap{{QStringLiteral("CFBundleShortVersionString"), stated}};
+        EXPECT_EQ(shortVersion(bundle), QString::fromLatin1(version)) << version;
+    }
+}
+
+TEST(ShortVersion, IsNothingWhereItIsNotStated)
+{
+    FakeBundle bundle;
+    bundle.info = QVariantMap{{QStringLiteral("CFBundleVersion"), QStringLiteral("123")}};
+    EXPECT_EQ(shortVersion(bundle), std::nullopt);
+    bundle.info.reset();
+    EXPECT_EQ(shortVersion(bundle), std::nullopt);
 }
 
 } // namespace

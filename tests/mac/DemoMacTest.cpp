@@ -1,3 +1,5 @@
+#include "mac/DemoMac.h"
+
 #include <gtest/gtest.h>
 
 #include "battery/QDBattery.h"
@@ -51,18 +53,6 @@ TEST(DemoMode, TheBatteryIsThere)
     for (const auto& [name, value] : values)
         EXPECT_EQ(battery->property(name), value) << name;
     EXPECT_EQ(battery->property("ManufactureDate").toDateTime().date(), QDate(2014, 4, 4));
-}
-
-TEST(EmptyComputer, HasOnlyItsInitialValues)
-{
-    ForbiddenPlatform computer;
-    const auto mac = QDMac::initWithHost(computer.platform, text("host"), text("user"), text("word"));
-    EXPECT_EQ(mac->ManufactureDate(), computer.clock.now());
-    EXPECT_EQ(mac->Battery(), nullptr);
-    EXPECT_EQ(mac->ageMode(), 0);
-    for (const char* name :
-         {"OSXVersion", "Model", "Type", "Name", "LongModel", "ManufactureDateString", "Serial", "CustomAge"})
-        EXPECT_FALSE(mac->property(name).isValid()) << name;
 }
 
 } // namespace
