@@ -7,38 +7,45 @@
 
 namespace quindle {
 
-/// The running program's bundle: the folder tree that holds program, information and resources.
+/// The running program's bundle: the folder tree that holds the program, its information and its resources.
+/// Nothing is written there. Main thread only.
 class Bundle
 {
 public:
     virtual ~Bundle() = default;
 
-    /// The bundle's path, ".../Quindle-Helper.app"; empty when it is not known.
+    /// The bundle's absolute path, ".../Quindle-Helper.app", without a slash at its end.
+    /// Empty when the program's own place cannot be found out; every other path derived from it then leads
+    /// nowhere.
     virtual QString path() const = 0;
 
-    /// The dictionary of Contents/Info.plist; nothing when there is none.
+    /// The dictionary of Contents/Info.plist, read at each call.
+    /// Nothing when the path is unknown, or the file is missing, cannot be read or holds no dictionary; each
+    /// caller decides whether that is fatal to it.
     virtual std::optional<QVariantMap> infoDictionary() const = 0;
 
     /// The folder of the program's pictures.
+    /// It need not exist: a picture that is not there is not drawn.
     virtual QString resourcesPath() const { return path() + QStringLiteral("/Contents/Resources"); }
 };
 
-/// Where the running program was installed from.
+/// Where the running program was installed from, for the pane that explains how to update it.
 struct InstallationSource
 {
     enum class Kind {
-        Package,  ///< the system's package manager keeps its files
+        Package,  ///< the system's package manager owns its files
         Build,    ///< it runs from the folder it was built in
-        Elsewhere ///< nobody here knows
+        Elsewhere ///< unknown, and the answer whenever looking fails
     };
 
     Kind kind = Kind::Elsewhere;
-    QString manager; ///< of a package: the command its user knows it by, "apt"
-    QString package; ///< of a package: its name
+    QString manager; ///< of a package: the command its user knows it by, "apt"; otherwise empty
+    QString package; ///< of a package: its name; otherwise empty
 };
 
 /// The path of the helper's bundle, seen from the running one: itself where its path contains
-/// "Quindle-Helper", otherwise the one among the resources of the main application that it then is.
+/// "Quindle-Helper", otherwise the one among the resources of the main application that it then is. Whether
+/// a bundle is there is not checked.
 QString helperBundlePath(const QString& runningBundlePath);
 
 } // namespace quindle

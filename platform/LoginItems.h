@@ -7,31 +7,35 @@
 
 namespace quindle {
 
-/// What the session starts at login. Main thread only.
+/// What the session starts at login. Other programs may change the list at any moment, so nothing is
+/// remembered but what an item number stands for. Changes have reached the list when a call returns; one
+/// that fails leaves it as it was, is logged (the same failure once) and is not reported to the caller, who
+/// looks at the list again. Main thread only.
 class LoginItems
 {
 public:
-    /// One item as the list showed it when it was first seen. It keeps its meaning in later snapshots.
+    /// One item as the list showed it when it was first seen.
+    /// It keeps its meaning in later snapshots.
     using Item = int;
 
     virtual ~LoginItems() = default;
 
-    /// The items in their order; nothing when the list cannot be had.
+    /// The items in their order, none for an empty list; nothing when the list cannot be read.
     virtual std::optional<std::vector<Item>> snapshot() = 0;
 
-    /// The file URL an item starts, that of the bundle where it starts a bundle's program; nothing when it
-    /// cannot be resolved.
+    /// The file URL of what an item starts, in normal form (see normalFileUrl); that of the bundle where it
+    /// starts a bundle's program.
+    /// Nothing for an item that starts nothing, has gone or was never in a snapshot.
     virtual std::optional<QString> resolve(Item item) = 0;
 
-    /// Puts a new item for `fileUrl` before the first one. Failures are silent.
+    /// Puts a new item for `fileUrl` before the first one.
     virtual void insertBeforeFirst(const QString& fileUrl) = 0;
 
-    /// Takes an item out. Failures are silent.
+    /// Takes an item out; does nothing when it has gone already.
     virtual void remove(Item item) = 0;
 
     /// Switches the login item known by an application's identifier on or off: while it is on, one item of
-    /// the list starts the helper's bundle, whichever way it came there; once it is off, none does. Failures
-    /// are silent.
+    /// the list starts the helper's bundle, whichever way it came there; once it is off, none does.
     virtual void setEnabled(const QString& identifier, bool enabled) = 0;
 };
 

@@ -19,42 +19,52 @@ struct PeripheralBattery
     bool operator==(const PeripheralBattery&) const = default;
 };
 
-/// The power-source service: what the operating system says about batteries, uninterruptible supplies and the
-/// adapter. Main thread only.
+/// The power-source service: what the operating system says about batteries, uninterruptible supplies and
+/// the adapter. No call waits longer than a fraction of a second for a slow driver, and none is fatal. Main
+/// thread only.
 class PowerSources
 {
 public:
     virtual ~PowerSources() = default;
 
-    /// The external adapter's details ("Watts", a number); nothing when no adapter tells any.
+    /// The external adapter's details: "Watts", a whole number, the most it can deliver.
+    /// Nothing when there is no adapter or none that gives any details.
     virtual std::optional<QVariantMap> externalAdapterDetails() = 0;
 
-    /// Lists the sources and tells how many there are, described under 0 to n - 1 in the service's order.
+    /// Lists the sources and returns how many there are; `description` then knows them as 0 to n - 1, in the
+    /// service's order.
     /// Nothing when the service cannot be asked, which is not the same as 0 sources.
     virtual std::optional<int> sourceCount() = 0;
 
-    /// The description of one source of the last list; nothing when it cannot be had.
+    /// The description of one source of the last list, of the moment when it was listed, in the keys and
+    /// units of I/O Kit's power sources.
+    /// Nothing for a number outside the list, or before there is one.
     virtual std::optional<QVariantMap> description(int source) = 0;
 
     /// The charge in percent (1 to 99) at which the computer stops charging its battery; nothing where
-    /// charging is not limited or the driver knows no limit.
+    /// charging is not limited or the driver reports no limit.
     virtual std::optional<int> chargeLimit() = 0;
 
-    /// The batteries of devices beside the computer, in a stable order; none on most computers. They are no
-    /// sources: nothing that the battery or computer model knows comes from them.
+    /// The batteries of devices beside the computer, in a stable order; none on most computers, and none
+    /// while those who know them cannot be asked.
+    /// They are no sources: the models of battery and computer take nothing from them.
+    /// Only for somebody who looks, because some drivers ask the device over its radio.
     virtual QList<PeripheralBattery> peripherals() = 0;
 };
 
-/// What the computer says of its power supplies without being asked: plugged, unplugged, a battery taken out
-/// or put in, another charge. Main thread only.
+/// Changes that the computer announces by itself: plugged, unplugged, a battery taken out or put in, another
+/// charge. Main thread only.
 class PowerEvents
 {
 public:
     virtual ~PowerEvents() = default;
 
-    /// Calls `observer` from the main loop soon after something changed, once for all that was told by then;
-    /// in place of the observer before. What changed has to be read. How often it calls is up to the drivers,
-    /// which may say it a thousand times a second. A computer that tells nothing never calls.
+    /// Replaces the observer, which must not be empty.
+    /// It is called from the main loop soon after something changed, once for all changes announced by then,
+    /// and is not given them: they have to be read.
+    /// How often depends on the drivers, some of which announce a thousand times a second.
+    /// On a computer that announces nothing it is never called; where listening fails, one line is logged
+    /// besides.
     virtual void setObserver(std::function<void()> observer) = 0;
 };
 

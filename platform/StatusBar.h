@@ -10,17 +10,21 @@ class Image;
 class StatusMenu;
 
 /// The item in the system's status bar (on Linux: the desktop's tray). Setting a value twice, or setting one
-/// that is replaced before the main loop runs again, shows as one change at most. Main thread only.
+/// that is replaced before the main loop runs again, shows as one change at most. No setter waits for the
+/// desktop or fails: while there is no tray the item keeps its values, and shows them once one comes. Main
+/// thread only.
 class StatusItem
 {
 public:
     virtual ~StatusItem() = default;
 
-    /// The title, of any length and content; shown literally, and cut with an ellipsis where it does not fit.
+    /// The title, of any length and content; shown literally, and cut with an ellipsis where it does not
+    /// fit.
+    /// What was set last is returned whole; empty before that.
     virtual void setTitle(const QString& title) = 0;
     virtual QString title() const = 0;
 
-    /// The image; null for none.
+    /// The image; null for none, as before one is set.
     virtual void setImage(std::shared_ptr<Image> image) = 0;
     virtual std::shared_ptr<Image> image() const = 0;
 
@@ -32,22 +36,26 @@ public:
     virtual void setFallbackText(const QString& text) = 0;
 
     /// What the tool tip says under the title, as plain text; lines are separated by line feeds.
+    /// Empty for the title alone.
     virtual void setToolTipText(const QString& text) = 0;
 
-    /// The menu that hangs from the item. The caller keeps it alive as long as the item.
+    /// The menu that hangs from the item; null for none.
+    /// The caller keeps it alive as long as the item.
     virtual void setMenu(StatusMenu* menu) = 0;
 };
 
 /// The length that lets an item be as wide as its contents.
 inline constexpr double variableStatusItemLength = -1.0;
 
-/// Where status items live.
+/// Where status items live. Main thread only.
 class StatusBar
 {
 public:
     virtual ~StatusBar() = default;
 
-    /// A new item of that length in points, or of variable length.
+    /// A new item of that length in points, or of variable length; never null.
+    /// A host that decides on widths itself ignores the length.
+    /// The item leaves the bar when it is destroyed, before the bar is.
     virtual std::unique_ptr<StatusItem> statusItemWithLength(double length) = 0;
 };
 

@@ -10,8 +10,9 @@ class Workspace
 public:
     virtual ~Workspace() = default;
 
-    /// Launches the application at exactly `path`: a program is run, a folder is opened. Does not wait; a
-    /// failure is logged and otherwise silent.
+    /// Launches the application at exactly `path`: a program is run, a folder is opened.
+    /// Does not wait for it, and does not learn how it ends.
+    /// A path that is not there and a failure are logged, once for each path, and otherwise silent.
     virtual void launchApplication(const QString& path) = 0;
 };
 
@@ -21,14 +22,16 @@ class Application
 public:
     virtual ~Application() = default;
 
-    /// Ends the main loop; the process then exits with 0.
+    /// Ends the main loop once the caller has returned to it; the process then exits with 0.
     virtual void terminate() = 0;
 
-    /// Brings this application's windows before those of others, as far as the desktop allows it.
+    /// Brings this application's windows before those of others, as far as the desktop allows it; does
+    /// nothing without windows.
     virtual void activateIgnoringOtherApplications() = 0;
 
     /// Whether the desktop shows translucent windows at the moment, so that a popup may have smooth round
     /// corners.
+    /// False where that cannot be found out.
     virtual bool showsTranslucentWindows() const = 0;
 };
 
