@@ -21,9 +21,12 @@ namespace quindle {
 namespace {
 
 constexpr double refreshInterval = 10.0; // seconds
-constexpr int componentsToMainBundle =
-    4; // Quindle.app's folder holds Quindle.app/Contents/Resources/Quindle-Helper.app
 
+// inherited: where the main application carries the helper, this leads to the folder that Quindle.app is in
+// (Quindle.app/Contents/Resources/Quindle-Helper.app).
+constexpr int componentsToMainBundle = 4;
+
+// inherited: these four names; the main application posts the first two.
 QString settingsChanged()
 {
     return QStringLiteral("SettingsChangedNotification");
@@ -44,7 +47,7 @@ QString localQuitNow()
     return QStringLiteral("quitNow");
 }
 
-/// The filter's angles are whole numbers chosen by eye, not parts of a turn.
+/// inherited: angles in radians, chosen by eye as whole numbers.
 void setAngles(HueFilter& green, HueFilter& yellow, HueFilter& red)
 {
     green.setInputAngle(4);
@@ -92,7 +95,7 @@ void HelperAppDelegate::applicationDidFinishLaunching()
     required(m_outlets.macObjectController).addObject(m_myMac.get());
     addBatteryView();
     updateStatusBarTitle();
-    updateStatusBarTitle(); // twice: the second marks the first one's image as a template
+    updateStatusBarTitle(); // inherited: twice, so that the second marks the first one's image as a template
     startTimer();
     observePowerEvents();
     setAngles(*m_hueColorGreen, *m_hueColorYellow, *m_hueColorRed);
@@ -100,6 +103,7 @@ void HelperAppDelegate::applicationDidFinishLaunching()
     setProgressIndicatorColor();
 }
 
+// inherited: an empty step of every application's life; nothing is saved at the end.
 void HelperAppDelegate::applicationWillTerminate() {}
 
 void HelperAppDelegate::transferSharedDefaults()
@@ -110,7 +114,7 @@ void HelperAppDelegate::transferSharedDefaults()
 void HelperAppDelegate::setVersionItem()
 {
     const auto info = m_platform.bundle.infoDictionary();
-    if (!info)
+    if (!info) // inherited: fatal, as is a missing version: such a bundle was put together wrongly
         fatalError(u"the bundle has no information dictionary");
     const QVariant version = info->value(QStringLiteral("CFBundleVersion"));
     if (!version.isValid())
@@ -137,6 +141,7 @@ void HelperAppDelegate::loadSettings()
     distributed.addObserver(willUpdateImmediately(), [&local] { local.post(localQuitNow()); });
 }
 
+// inherited: a second name for the same registrations.
 void HelperAppDelegate::registerDistributedNotificationCenter()
 {
     loadSettings();
@@ -178,6 +183,7 @@ void HelperAppDelegate::setBarFilters()
     required(m_outlets.stateOfHealthProgress).setContentFilters({m_hueColorGreen});
 }
 
+// inherited: registered, and does nothing; only waking changes what is shown.
 void HelperAppDelegate::receiveSleepNote() {}
 
 void HelperAppDelegate::receiveWakeNote()
@@ -190,6 +196,7 @@ void HelperAppDelegate::textFieldTextChanged()
     updateStatusBarTitle();
 }
 
+// inherited: the name, and that the helper runs on when an update is announced.
 void HelperAppDelegate::quiteDueToUpdate() {}
 
 void HelperAppDelegate::quitApp()

@@ -51,7 +51,7 @@ public:
     /// Copies the shared `runInBackground` to the helper's own database.
     void transferSharedDefaults();
 
-    /// Adds the four notification observers, once more at each call; both names run the same body.
+    /// Adds the four notification observers, once more at each call. inherited: two names for one body.
     void loadSettings();
     void registerDistributedNotificationCenter();
 
@@ -59,7 +59,7 @@ public:
     static void receiveSleepNote(); ///< does nothing
     void receiveWakeNote();
     void textFieldTextChanged();
-    static void quiteDueToUpdate(); ///< does nothing; the name is spelled so
+    static void quiteDueToUpdate(); ///< does nothing; inherited: the spelling
 
     /// The refresh: daily gate, font, icon, title, tool tip and menu rows, bar colours.
     void updateStatusBarTitle() override;
@@ -85,7 +85,7 @@ public:
     /// it. Without a host of the statistics service nothing is sent.
     void uploadDailyMacDataToQNDOnline();
 
-    /// The same with the serial number in clear. A named entry point that nothing calls.
+    /// The same with the serial number in clear. inherited: a named entry point that nothing calls.
     void uploadDailyMacDataToQNDOnline_old();
 
     /// What `uploadDailyMacDataToQNDOnline` would send at this moment if there is a host; nothing when it

@@ -50,7 +50,7 @@ void HelperAppDelegate::checkForAutoSaveData()
     const QDateTime now = m_platform.clock.now();
     if (!isDailyUploadDue(m_lastDailyUploadToOnlineService, now))
         return;
-    loadSettings(); // registers the observers once more, whatever the upload setting is
+    loadSettings(); // inherited: registers the observers once more, whatever the upload setting is
     if (!m_preferences.autoUpload())
         return;
     m_lastDailyUploadToOnlineService = now; // before the upload: one that fails is not tried again today
@@ -63,6 +63,7 @@ void HelperAppDelegate::uploadDailyMacDataToQNDOnline()
     send(currentDailyUpload());
 }
 
+// inherited: without a caller in this program, see the header.
 void HelperAppDelegate::uploadDailyMacDataToQNDOnline_old()
 {
     const auto snapshot = m_myMac->getDataForSaving(false);

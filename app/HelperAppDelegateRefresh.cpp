@@ -20,7 +20,7 @@ namespace {
 
 constexpr double menuBarFontSize = 12.0; // points
 constexpr double imageSide = 21.0;       // points
-constexpr qint64 iconsShown = 1;         // the one value of showIconsInMenuBar that shows icons
+constexpr qint64 iconsShown = 1;         // inherited: the one value of showIconsInMenuBar that shows icons
 constexpr qint64 fahrenheitIndex = 1;    // the one value of temperatureSettingIndex that is not Celsius
 
 } // namespace
@@ -58,7 +58,7 @@ void HelperAppDelegate::showNoBattery()
 
 void HelperAppDelegate::updateIcon(const QDBattery& battery)
 {
-    m_statusItem->setTitle(QStringLiteral("100 %")); // stands until the title below replaces it
+    m_statusItem->setTitle(QStringLiteral("100 %")); // inherited: stands until the title below replaces it
     const bool showsIcons = m_preferences.showIconsInMenuBar() == iconsShown;
     if (battery.isCharging() || battery.isACPowered()) {
         if (showsIcons)
@@ -67,7 +67,7 @@ void HelperAppDelegate::updateIcon(const QDBattery& battery)
             m_statusItem->setImage(nullptr);
         return;
     }
-    if (battery.isACPowered()) // asked again: an adapter plugged in since then leaves the icon for now
+    if (battery.isACPowered()) // inherited: asked again; an adapter plugged in since then leaves the icon
         return;
     if (showsIcons)
         replaceTemplateImage(batteryIconName(battery.StateOfCharge()));
@@ -77,9 +77,9 @@ void HelperAppDelegate::updateIcon(const QDBattery& battery)
 
 void HelperAppDelegate::replaceTemplateImage(const QString& name)
 {
+    // inherited: marks the image that goes, not the one that comes; the mark stays with its name.
     if (const auto current = m_statusItem->image())
-        current->setTemplate(
-            true); // the image that goes, not the one that comes: the mark stays with its name
+        current->setTemplate(true);
     showImage(name);
 }
 
@@ -87,6 +87,7 @@ void HelperAppDelegate::showImage(const QString& name)
 {
     const auto image = m_images.imageNamed(name);
     m_statusItem->setImage(image);
+    // inherited: width and height one after the other.
     image->setSize(QSizeF(imageSide, image->size().height()));
     image->setSize(QSizeF(image->size().width(), imageSide));
 }
@@ -125,7 +126,7 @@ void HelperAppDelegate::updateTitle(const QDBattery& battery)
 {
     const QString title = titleFromTemplate(m_preferences.customStatusBar(), titleValuesOf(battery));
     m_statusItem->setTitle(title);
-    m_statusItem->setTitle(title); // set twice in a row, as the item's contract has always been
+    m_statusItem->setTitle(title); // inherited: set twice in a row
 }
 
 void HelperAppDelegate::updateFacts()

@@ -10,7 +10,7 @@ namespace quindle {
 std::vector<QVariantMap> describePowerSources(PowerSources& powerSources)
 {
     const auto count = powerSources.sourceCount();
-    if (!count)
+    if (!count) // inherited: fatal; an empty list would look like a computer without power sources
         fatalError(u"the power sources cannot be listed");
     std::vector<QVariantMap> descriptions;
     descriptions.reserve(static_cast<std::size_t>(*count));
@@ -25,7 +25,7 @@ std::vector<QVariantMap> describePowerSources(PowerSources& powerSources)
 
 QString detailText(const QVariant& value)
 {
-    if (const auto boolean = convertToBoolean(value))
+    if (const auto boolean = convertToBoolean(value)) // inherited: numbers 0 and 1 too
         return *boolean ? QStringLiteral("YES") : QStringLiteral("NO");
     return valueDescription(value);
 }

@@ -23,6 +23,7 @@ qint64 fromBinary(const QString& digits)
 
 } // namespace
 
+// inherited: fields out of range run over into the next, and 0 is 30 November 1979.
 QDateTime decodeManufactureDate(qint64 packed)
 {
     const qint64 year = (packed >> (dayBits + monthBits)) + firstYear;

@@ -52,7 +52,7 @@ template <typename Mode>
 Mode storedMode(const UserDefaults& defaults, const QString& key)
 {
     const qint64 number = defaults.integer(key);
-    if (number < 0 || number > 2)
+    if (number < 0 || number > 2) // inherited: fatal; no toggle or preference stores another
         endForStoredMode(defaults, key, number);
     return static_cast<Mode>(number);
 }
@@ -106,7 +106,7 @@ void QDBattery::invokeTimer()
         if (battery)
             battery->updateData();
     };
-    // A former timer is let go of but runs on, so that two calls mean two refreshes per interval.
+    // inherited: an earlier timer is let go of but runs on, so two calls mean two refreshes per interval.
     m_updateTimer = m_platform.runLoop.scheduleRepeatingTimer(refreshInterval, refreshTolerance, refresh);
 }
 
@@ -124,7 +124,7 @@ void QDBattery::updateData()
     updateAge();
     updateState();
     updateAdapterConnected();
-    permanentFailure(); // read but not shown: the text stays "No Errors"
+    permanentFailure(); // inherited: read but not shown, the text stays "No Errors"
     getFailureKeys();
     updateDetailRows();
     Q_EMIT changed();
@@ -149,6 +149,7 @@ void QDBattery::updateCapacities()
 
 void QDBattery::updatePercentages()
 {
+    // inherited: not guarded; a capacity of 0 gives an infinite percentage or none, and readers expect it.
     m_stateOfCharge = percentage(m_currentCapacity, m_fullChargeCapacity);
     m_stateOfHealth = percentage(m_fullChargeCapacity, m_designCapacity);
 }
@@ -173,8 +174,8 @@ void QDBattery::updateAge()
 
 void QDBattery::updateState()
 {
-    // Three tests and no fourth state: with an adapter that neither charges nor fills, the texts stay as they
-    // were.
+    // inherited: three tests and no fourth state. With an adapter that neither charges nor fills, the texts
+    // stay as they were.
     if (isCharged() && isACPowered())
         setStateTexts(chargedTexts());
     if (isCharging()) {
@@ -279,6 +280,7 @@ QString QDBattery::getCustomTemperature() const
 
 void QDBattery::toggleTemperatureMode()
 {
+    // inherited: Kelvin stays; who chose it in the preferences does not lose it to a click.
     if (m_temperatureMode == TemperatureUnit::Celsius)
         m_temperatureMode = TemperatureUnit::Fahrenheit;
     else if (m_temperatureMode == TemperatureUnit::Fahrenheit)
@@ -307,6 +309,7 @@ std::optional<QDateTime> QDBattery::calculateManufactureDate(qint64 packed)
     return decodeManufactureDate(packed);
 }
 
+// inherited: without a caller in this program; gives the same days as the one above, at noon.
 std::optional<QDateTime> QDBattery::calculateManufactureDate_deprecated(qint64 packed)
 {
     return decodeManufactureDateByDigits(packed);
@@ -319,6 +322,7 @@ bool QDBattery::knowsManufactureDate() const
     return made && made->date().year() >= firstYear;
 }
 
+// inherited: asks the service and returns nothing; a service that cannot be asked is fatal here first.
 QStringList QDBattery::getFailureKeys() const
 {
     describePowerSources(m_platform.powerSources);

@@ -95,21 +95,21 @@ public:
     std::optional<QString> manufacturer_unsafe() const; ///< "Manufacturer"
     qint64 manufactureDate() const;                     ///< "ManufactureDate", packed
     qint64 currentCapacity() const;                     ///< "CurrentCapacity"
-    qint64 maxCapactiy() const;        ///< "MaxCapacity"; the spelling is part of the interface
-    qint64 designCapacity() const;     ///< "DesignCapacity"
-    qint64 cycleCount() const;         ///< "CycleCount"
-    qint64 voltage() const;            ///< "Voltage"
-    qint64 amperage() const;           ///< "Amperage"
-    qint64 instantAmperage() const;    ///< "InstantAmperage"
-    qint64 designCycleCount() const;   ///< "DesignCycleCount9C"
-    bool isACPowered() const;          ///< "ExternalConnected"
-    bool isCharging() const;           ///< "IsCharging"
-    bool isCharged() const;            ///< "FullyCharged"
-    qint64 timeRemaining() const;      ///< "TimeRemaining"
-    qint64 avgTimeToEmpty() const;     ///< "AvgTimeToEmpty"
-    qint64 avgTimeToFull() const;      ///< "AvgTimeToFull"
-    qint64 instantTimeToEmpty() const; ///< "InstantTimeToEmpty"
-    qint64 permanentFailure() const;   ///< "PermanentFailureStatus", failure bits
+    qint64 maxCapactiy() const;                         ///< "MaxCapacity"; inherited: the spelling
+    qint64 designCapacity() const;                      ///< "DesignCapacity"
+    qint64 cycleCount() const;                          ///< "CycleCount"
+    qint64 voltage() const;                             ///< "Voltage"
+    qint64 amperage() const;                            ///< "Amperage"
+    qint64 instantAmperage() const;                     ///< "InstantAmperage"
+    qint64 designCycleCount() const;                    ///< "DesignCycleCount9C"
+    bool isACPowered() const;                           ///< "ExternalConnected"
+    bool isCharging() const;                            ///< "IsCharging"
+    bool isCharged() const;                             ///< "FullyCharged"
+    qint64 timeRemaining() const;                       ///< "TimeRemaining"
+    qint64 avgTimeToEmpty() const;                      ///< "AvgTimeToEmpty"
+    qint64 avgTimeToFull() const;                       ///< "AvgTimeToFull"
+    qint64 instantTimeToEmpty() const;                  ///< "InstantTimeToEmpty"
+    qint64 permanentFailure() const;                    ///< "PermanentFailureStatus", failure bits
 
     /// The charge in whole percent, straight from the registry: the floor of current ÷ full × 100. Infinite
     /// or not a number when the full-charge capacity is 0.
@@ -246,8 +246,7 @@ private:
     qint64 m_fullChargeCapacity = 0;
     QString m_batteryHealth = QStringLiteral("");
     QString m_batteryState = QStringLiteral("");
-    QString m_stateText =
-        QStringLiteral("Chargin with"); // spelled so: the initial text is part of the interface
+    QString m_stateText = QStringLiteral("Chargin with"); // inherited: the spelling
     QString m_timeRemaining = QStringLiteral("");
     QString m_remainingString = QStringLiteral("Time until empty");
     QVariant m_adapterWatt;

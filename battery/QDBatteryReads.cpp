@@ -9,6 +9,7 @@ namespace quindle {
 
 namespace {
 
+// inherited: fatal; a value of another type is a registry that this program does not know.
 [[noreturn]] void failConversion(BatteryRegistryKey key)
 {
     fatalError(QString(registryKeyText(key) + QStringLiteral(" has an unexpected type in the registry")));

@@ -110,6 +110,7 @@ QString maskedSerial(const QString& serial)
     if (serial.size() < maskLength)
         return serial;
     QString masked = serial;
+    // inherited: wherever they stand, not at the end alone.
     return masked.replace(serial.right(maskLength), QStringLiteral("xxxx"));
 }
 

@@ -16,7 +16,7 @@ struct DailyUpload
 
 enum class SerialText {
     Masked,
-    Clear, ///< only for the former entry point, which nothing in the program calls
+    Clear, ///< inherited: only for the former entry point, which nothing in the program calls
 };
 
 /// The upload of a snapshot record. Nothing when one of the identity values is missing, or when JSON cannot

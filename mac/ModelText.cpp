@@ -32,8 +32,8 @@ std::optional<QString> modelText(const QString& code, UserDefaults& defaults, co
 {
     if (code.isEmpty())
         return std::nullopt;
-    if (code ==
-        QStringLiteral("F5YW")) // the code of the demonstration serial needs neither cache nor service
+    // inherited: the code of the demonstration serial needs neither cache nor service.
+    if (code == QStringLiteral("F5YW"))
         return QStringLiteral("(11-inch, Late 2013)");
     auto text = fullModelText(code, defaults, online);
     if (!text)

@@ -10,8 +10,8 @@ namespace quindle {
 
 namespace {
 
-// The first fragment found anywhere in the version decides, so the order matters. The two newest have no name
-// of their own on purpose.
+// inherited: the first fragment found anywhere in the version decides, so the order matters; the two newest
+// have no name of their own.
 constexpr std::array versionNames{
     // clang-format off
     FragmentName{u"10.14", u"OS X"},

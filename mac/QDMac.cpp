@@ -37,11 +37,11 @@ qint64 nextAgeMode(qint64 mode)
 
 QString ageTextOfMode(qint64 mode, const QDateTime& from, const QDateTime& to)
 {
-    const bool isKnown = mode == 1 || mode == 2;
+    const bool isKnown = mode == 1 || mode == 2; // inherited: any other number shows days, none is fatal
     return ageText(isKnown ? static_cast<int>(mode) : 0, from, to);
 }
 
-/// The model as the text of an optional value. Identifiers of stored snapshots are made from it.
+/// inherited: the model as the text of an optional value. Identifiers of stored snapshots are made from it.
 QString wrappedOptional(const std::optional<QString>& text)
 {
     if (!text)
@@ -69,6 +69,7 @@ std::unique_ptr<QDMac> QDMac::init(const Platform& platform)
     return mac;
 }
 
+// inherited: the argument counts for nothing.
 std::unique_ptr<QDMac> QDMac::initWithDemoMode(const Platform& platform, bool /*demoMode*/)
 {
     std::unique_ptr<QDMac> mac(new QDMac(platform));
@@ -80,6 +81,7 @@ std::unique_ptr<QDMac> QDMac::initWithDemoMode(const Platform& platform, bool /*
     return mac;
 }
 
+// inherited: without a caller in this program; the arguments count for nothing.
 std::unique_ptr<QDMac> QDMac::initWithHost(const Platform& platform, const QString& /*host*/,
                                            const QString& /*user*/, const QString& /*pass*/)
 {
@@ -225,6 +227,7 @@ std::optional<QString> QDMac::LongModel() const
     return convertToText(m_longModel);
 }
 
+// inherited: the flag counts for nothing.
 std::optional<QVariantMap> QDMac::getDataForSaving(bool /*flag*/) const
 {
     if (!m_battery)

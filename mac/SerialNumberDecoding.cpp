@@ -51,7 +51,7 @@ constexpr std::array yearCodes{
 /// The codes of weeks 1 to 27 in order; unlike the years' letters they skip S and Z.
 constexpr QStringView weekCodes = u"123456789CDFGHJKLMNPQRTVWXY";
 
-/// The years of the digits 0 to 9.
+/// The years of the digits 0 to 9. inherited: 0 and 1 are of the decade after the others'.
 constexpr std::array digitYears{2010, 2011, 2002, 2003, 2004, 2005, 2006, 2007, 2008, 2009};
 
 /// The text cut into the characters that a person perceives.

@@ -16,6 +16,7 @@ void XMLData::didStartElement(const QString& elementName)
     m_element = elementName;
 }
 
+// inherited: the last piece replaces those before; names in the cache were made so.
 void XMLData::foundCharacters(const QString& characters)
 {
     if (m_element == u"name")

@@ -17,7 +17,7 @@ std::optional<BarColour> healthBarColour(double stateOfHealth, double stateOfCha
 {
     if (stateOfHealth >= 80)
         return BarColour::Green;
-    // Below 80 % health it is the charge that is tested: the two bars are required to differ so.
+    // inherited: below 80 % health the charge is tested, and 80 % of it or more is red.
     if (stateOfCharge > 60 && stateOfCharge < 80)
         return BarColour::Yellow;
     if (stateOfCharge >= 0)

@@ -4,6 +4,7 @@
 
 namespace quindle {
 
+// inherited: the names of the pictures; interface files know them too.
 QString noBatteryIconName()
 {
     return QStringLiteral("AppIconBW");

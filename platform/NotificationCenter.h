@@ -17,7 +17,7 @@ public:
     /// How often one observer is called for one post at most, however often it was added.
     static constexpr int mostRegistrations = 16;
 
-    /// Adds an observer for `name`.
+    /// Adds an observer for `name`. inherited: duplicates are kept.
     /// It cannot be removed, so what it refers to must outlive this object; adding it again makes it be
     /// called once more for each post.
     /// From the 17th time on it is not added, and one line is logged: the helper registers again at every

@@ -148,7 +148,7 @@ void ApplicationPreferences::setRunInBackground(bool value)
 
 bool ApplicationPreferences::firstStart() const
 {
-    if (!m_suiteDefaults) // alone among the suite's settings: the main application relies on it
+    if (!m_suiteDefaults) // inherited: fatal, alone among the suite's settings
         fatalError(u"firstStart was asked for without the shared settings");
     return suiteValue(m_suiteDefaults, Keys::firstStart, convertToBoolean, DefaultValues::flag);
 }
@@ -158,6 +158,7 @@ void ApplicationPreferences::setFirstStart(bool value)
     setSuiteValue(m_suiteDefaults, Keys::firstStart, value);
 }
 
+// inherited: one key, read as a number and as text.
 std::optional<qint64> ApplicationPreferences::bundleVersionAtQuit() const
 {
     return convertToInteger(m_defaults.object(Keys::bundleVersionAtQuit));

@@ -17,8 +17,8 @@ QString insertLocation(const QString& bundlePath)
     return fileUrl(helperBundlePath(bundlePath));
 }
 
-/// What is inserted has no slash at its end, what is searched for has one: an item resolves to the bundle's
-/// folder. Items are brought to the same form, because a list may hold either.
+/// inherited: what is inserted has no slash at its end, what is searched for has one, because an item
+/// resolves to the bundle's folder. Items are brought to the same form, because a list may hold either.
 QString searchLocation(const QString& bundlePath)
 {
     return normalFileUrl(insertLocation(bundlePath));
@@ -48,7 +48,8 @@ bool StartupLaunch_pref::isAppLoginItem(LoginItems& items, const QString& bundle
 void StartupLaunch_pref::setLaunchOnLogin(LoginItems& items, const QString& bundlePath, bool enable)
 {
     const auto item = helperItem(items, bundlePath);
-    if (!items.snapshot()) // the list is created a second time to be changed, and may be gone by then
+    if (!items.snapshot()) // inherited: the list is fetched a second time to be changed, and may be gone by
+                           // then
         return;
     if (enable && !item)
         items.insertBeforeFirst(insertLocation(bundlePath));

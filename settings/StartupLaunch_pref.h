@@ -7,7 +7,7 @@ namespace quindle {
 class LoginItems;
 
 /// Whether the helper starts when the user logs in, by the session's list of login items. All failures are
-/// silent: a list that cannot be had holds no item and is not changed.
+/// silent: a list that cannot be read holds no item and is not changed. inherited: the name.
 ///
 /// `bundlePath` is the running bundle's: the helper's own where it contains "Quindle-Helper", otherwise the
 /// main application's, which carries the helper in its resources.

@@ -8,6 +8,7 @@ class ProgressIndicator;
 
 /// A bar of the battery view: a rounded track with a fill in one base colour, which is drawn through the
 /// content filters of the indicator that the bar follows; they alone decide what colour a person sees.
+/// inherited: the name begins with a small letter, as interface files write it.
 class menuIndicator : public QProgressBar
 {
     Q_OBJECT

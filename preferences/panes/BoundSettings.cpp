@@ -21,6 +21,8 @@ namespace {
 
 constexpr qint64 iconsShown = 1;
 
+// inherited: the window's switch has a key of its own, beside "autoUpload", and the upload does not look at
+// it.
 QString autoUploadBatteryDataKey()
 {
     return QStringLiteral("autoUploadBatteryData");

@@ -16,7 +16,7 @@ namespace quindle {
 
 namespace {
 
-// The folder the helper is installed in; its own bundle is spelled with a hyphen.
+// inherited: with a blank, as the folder is named that the helper is installed in; the bundle has a hyphen.
 bool runsInsideHelper(const QString& bundlePath)
 {
     return bundlePath.contains(QStringLiteral("Quindle Helper"));

@@ -38,7 +38,7 @@ public:
                                  SentText sentText);
     ~GeneralPreferencesController() override;
 
-    /// Fatal: the pane is never made from an archive.
+    /// inherited: without a caller in this program. Fatal: the pane is never made from an archive.
     [[noreturn]] static void initWithCoder();
 
     QString preferencesIdentifier() const override;

@@ -19,7 +19,7 @@ namespace {
 template <typename Control>
 Control& connected(const QPointer<Control>& outlet, QStringView name)
 {
-    if (!outlet)
+    if (!outlet) // inherited: fatal; an interface file that lacks it is a programming error
         fatalError(QStringLiteral("HelperPreferences has no outlet %1").arg(name));
     return *outlet;
 }

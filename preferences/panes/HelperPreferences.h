@@ -32,7 +32,8 @@ struct HelperPreferencesOutlets
     QPointer<QLineEdit> customMenuBarTextField;
 };
 
-/// The controller of the helper's own window: what the menu bar shows. Its actions are the side effects of
+/// The controller of the helper's own window: what the menu bar shows. inherited: the name, which interface
+/// files write; it holds no settings, those are ApplicationPreferences. Its actions are the side effects of
 /// the controls only; the values are stored before, by the bindings of its interface. Nothing is announced to
 /// other processes. The window and everything in it is made when it is first needed. Main thread only.
 class HelperPreferences : public QObject, public WindowController
@@ -46,7 +47,7 @@ public:
                                                              BoundSettings& settings,
                                                              StatusBarTitle& delegate);
 
-    /// As an interface makes it in which it is stored: the window comes later.
+    /// inherited: as an interface makes it that has it stored; the window comes later.
     static std::unique_ptr<HelperPreferences> initWithCoder(BoundSettings& settings,
                                                             StatusBarTitle& delegate);
 

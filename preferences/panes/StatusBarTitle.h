@@ -7,7 +7,8 @@
 
 namespace quindle {
 
-/// What the preferences need of the application delegate. Main thread only.
+/// What the preferences need of the application delegate: the title is refreshed, and its values are shown in
+/// the preview. It is an interface and no text. inherited: the name. Main thread only.
 class StatusBarTitle
 {
 public:

@@ -20,7 +20,8 @@ public:
     UpdatePreferencesController(const Bundle& bundle, std::function<InstallationSource()> installationSource);
     ~UpdatePreferencesController() override;
 
-    /// Panes come from their interface file only: fatal, "Method not implemented".
+    /// inherited: without a caller in this program. Fatal, "Method not implemented": panes come from their
+    /// interface file only.
     [[noreturn]] static void initWithCoder();
 
     QString preferencesIdentifier() const override;
