@@ -227,3 +227,5 @@ void HelperAppDelegate::openMenuBarText()
 }
 
 } // namespace quindle
+
+#include "moc_HelperAppDelegate.cpp"

@@ -387,3 +387,5 @@ QString QDBattery::ActualDesignCapacity_Desc()
 }
 
 } // namespace quindle
+
+#include "moc_QDBattery.cpp"

@@ -7,6 +7,7 @@ set(QUINDLE_INSTALL_CONTENTS "lib/${QUINDLE_BUNDLE}/Contents")
 
 # quindle_program(NAME): puts the program into the bundle, and a link to it into bin when installed.
 function(quindle_program name)
+    quindle_compiles_together(${name})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${QUINDLE_BUNDLE_CONTENTS}/Linux")
     install(TARGETS ${name} RUNTIME DESTINATION "${QUINDLE_INSTALL_CONTENTS}/Linux")
     install(CODE "

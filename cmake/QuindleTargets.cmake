@@ -36,7 +36,8 @@ function(quindle_precompiles_for_tests name)
     endif()
 endfunction()
 
-# The folders with QObjects or .ui files ask for moc and uic; the others are spared their cost.
+# The folders with QObjects or .ui files ask for moc and uic; the others are spared their cost. A source file includes what
+# moc made of its header, at its end: compiled by itself that would read every header once more.
 function(quindle_uses_moc name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
 endfunction()

@@ -280,3 +280,5 @@ QObject* QDMac::batteryObject() const
 }
 
 } // namespace quindle
+
+#include "moc_QDMac.cpp"

@@ -93,3 +93,5 @@ bool BatteryPopup::isSameClick() const
 }
 
 } // namespace quindle
+
+#include "moc_BatteryPopup.cpp"

@@ -105,3 +105,5 @@ void BatteryView::alignBaselines()
 }
 
 } // namespace quindle
+
+#include "moc_BatteryView.cpp"

@@ -251,3 +251,5 @@ void BatteryWindow::paintEvent(QPaintEvent*)
 }
 
 } // namespace quindle
+
+#include "moc_BatteryWindow.cpp"

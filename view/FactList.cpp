@@ -74,3 +74,5 @@ void FactList::fitToFont()
 }
 
 } // namespace quindle
+
+#include "moc_FactList.cpp"

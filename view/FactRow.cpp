@@ -167,3 +167,5 @@ void FactRow::tellAssistants()
 }
 
 } // namespace quindle
+
+#include "moc_FactRow.cpp"

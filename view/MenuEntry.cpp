@@ -65,3 +65,5 @@ void MenuEntry::paintEvent(QPaintEvent*)
 }
 
 } // namespace quindle
+
+#include "moc_MenuEntry.cpp"

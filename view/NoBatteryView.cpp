@@ -42,3 +42,5 @@ void NoBatteryView::fitToFont()
 }
 
 } // namespace quindle
+
+#include "moc_NoBatteryView.cpp"

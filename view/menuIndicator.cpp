@@ -117,3 +117,5 @@ void menuIndicator::paintEvent(QPaintEvent*)
 }
 
 } // namespace quindle
+
+#include "moc_menuIndicator.cpp"

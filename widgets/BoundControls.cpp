@@ -51,3 +51,5 @@ void BoundCheckBox::setShown(bool checked)
 }
 
 } // namespace quindle
+
+#include "moc_BoundControls.cpp"

@@ -49,3 +49,5 @@ void LinkButton::paintEvent(QPaintEvent*)
 }
 
 } // namespace quindle
+
+#include "moc_LinkButton.cpp"

@@ -33,3 +33,5 @@ void PlainButton::keyPressEvent(QKeyEvent* event)
 }
 
 } // namespace quindle
+
+#include "moc_PlainButton.cpp"

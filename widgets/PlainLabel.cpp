@@ -59,3 +59,5 @@ void PlainLabel::paintEvent(QPaintEvent*)
 }
 
 } // namespace quindle
+
+#include "moc_PlainLabel.cpp"

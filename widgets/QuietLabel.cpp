@@ -32,3 +32,5 @@ QFont quietFont(const QFont& font)
 }
 
 } // namespace quindle
+
+#include "moc_QuietLabel.cpp"

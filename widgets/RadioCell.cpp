@@ -80,3 +80,5 @@ RadioCell::RadioCell(const QString& label, QWidget* parent)
 }
 
 } // namespace quindle
+
+#include "moc_RadioCell.cpp"

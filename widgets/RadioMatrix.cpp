@@ -59,3 +59,5 @@ void RadioMatrix::setSelectedTag(qint64 tag)
 }
 
 } // namespace quindle
+
+#include "moc_RadioMatrix.cpp"

@@ -174,3 +174,5 @@ QWidget* SegmentedControl::segment(int tag) const
 }
 
 } // namespace quindle
+
+#include "moc_SegmentedControl.cpp"

@@ -65,3 +65,5 @@ void SwitchField::paintEvent(QPaintEvent*)
 }
 
 } // namespace quindle
+
+#include "moc_SwitchField.cpp"

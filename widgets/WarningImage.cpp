@@ -30,3 +30,5 @@ void WarningImage::paintEvent(QPaintEvent*)
 }
 
 } // namespace quindle
+
+#include "moc_WarningImage.cpp"

@@ -180,3 +180,5 @@ void BoundSettings::observeAnnouncements()
 }
 
 } // namespace quindle
+
+#include "moc_BoundSettings.cpp"

@@ -198,3 +198,5 @@ void GeneralPreferencesController::announceChange()
 }
 
 } // namespace quindle
+
+#include "moc_GeneralPreferencesController.cpp"

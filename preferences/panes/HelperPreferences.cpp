@@ -171,3 +171,5 @@ void HelperPreferences::setRunInBackground(QAbstractButton* sender)
 }
 
 } // namespace quindle
+
+#include "moc_HelperPreferences.cpp"

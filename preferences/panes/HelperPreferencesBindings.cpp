@@ -45,3 +45,5 @@ void HelperPreferencesBindings::followMenuBarSetting(QWidget* widget)
 }
 
 } // namespace quindle
+
+#include "moc_HelperPreferencesBindings.cpp"

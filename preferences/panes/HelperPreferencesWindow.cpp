@@ -52,3 +52,5 @@ void HelperPreferencesWindow::closeEvent(QCloseEvent* event)
 }
 
 } // namespace quindle
+
+#include "moc_HelperPreferencesWindow.cpp"

@@ -84,3 +84,5 @@ void MenuBarPreferencesController::changePresentation()
 }
 
 } // namespace quindle
+
+#include "moc_MenuBarPreferencesController.cpp"

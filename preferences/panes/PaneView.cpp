@@ -72,3 +72,5 @@ void PaneView::changeEvent(QEvent* event)
 }
 
 } // namespace quindle
+
+#include "moc_PaneView.cpp"

@@ -144,3 +144,5 @@ void ParameterPopover::insertCurrent()
 }
 
 } // namespace quindle
+
+#include "moc_ParameterPopover.cpp"

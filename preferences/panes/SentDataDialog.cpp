@@ -47,3 +47,5 @@ SentDataDialog::SentDataDialog(const QString& sentText, QWidget* parent)
 }
 
 } // namespace quindle
+
+#include "moc_SentDataDialog.cpp"

@@ -71,3 +71,5 @@ QStringList SettingsBinder::paths() const
 }
 
 } // namespace quindle
+
+#include "moc_SettingsBinder.cpp"

@@ -105,3 +105,5 @@ void TitlePreview::paintEvent(QPaintEvent*)
 }
 
 } // namespace quindle
+
+#include "moc_TitlePreview.cpp"

@@ -74,3 +74,5 @@ QString updateSourceText(const InstallationSource& source)
 }
 
 } // namespace quindle
+
+#include "moc_UpdateView.cpp"

@@ -90,3 +90,5 @@ void FrameAutosave::save()
 }
 
 } // namespace quindle
+
+#include "moc_FrameAutosave.cpp"

@@ -82,3 +82,5 @@ void PaneTransition::end()
 }
 
 } // namespace quindle
+
+#include "moc_PaneTransition.cpp"

@@ -172,3 +172,5 @@ void PreferencesToolbar::paintEvent(QPaintEvent*)
 }
 
 } // namespace quindle
+
+#include "moc_PreferencesToolbar.cpp"

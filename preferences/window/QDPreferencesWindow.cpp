@@ -160,3 +160,5 @@ void QDPreferencesWindow::startMove()
 }
 
 } // namespace quindle
+
+#include "moc_QDPreferencesWindow.cpp"

@@ -322,3 +322,5 @@ void QDPreferencesWindowController::setWindowAlpha(double alpha)
 }
 
 } // namespace quindle
+
+#include "moc_QDPreferencesWindowController.cpp"

@@ -69,7 +69,8 @@ QVariantMap uninterruptibleDescription(const Battery& supply)
 std::vector<QVariantMap> sourceDescriptions(const SystemPower& power, const SystemTimes& times)
 {
     const bool externallyPowered = isExternallyPowered(power);
-    const SystemTimes own = power.batteries.size() == 1 ? times : SystemTimes();
+    const SystemTimes unknown;
+    const SystemTimes& own = power.batteries.size() == 1 ? times : unknown;
     std::vector<QVariantMap> descriptions;
     for (const Battery& battery : power.batteries)
         descriptions.push_back(batteryDescription(battery, externallyPowered, own));

@@ -69,3 +69,5 @@ void BacklogGuard::askForSign()
 }
 
 } // namespace quindle
+
+#include "moc_BacklogGuard.cpp"

@@ -201,3 +201,5 @@ QString busSocketFile(const QString& address)
 }
 
 } // namespace quindle
+
+#include "moc_BusLink.cpp"

@@ -159,3 +159,5 @@ void InstanceBusName::takeLater(const QDBusConnection& connection)
 }
 
 } // namespace quindle
+
+#include "moc_InstanceBusName.cpp"

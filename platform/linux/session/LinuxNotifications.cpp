@@ -150,3 +150,5 @@ void LinuxWorkspaceNotifications::onPrepareForSleep(bool goingToSleep)
 }
 
 } // namespace quindle
+
+#include "moc_LinuxNotifications.cpp"

@@ -41,3 +41,5 @@ void NameOwner::setOwner(const QString& owner)
 }
 
 } // namespace quindle
+
+#include "moc_NameOwner.cpp"

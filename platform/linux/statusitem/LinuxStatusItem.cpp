@@ -286,3 +286,5 @@ std::unique_ptr<StatusItem> LinuxStatusBar::statusItemWithLength(double /*length
 }
 
 } // namespace quindle
+
+#include "moc_LinuxStatusItem.cpp"

@@ -148,3 +148,5 @@ void MenuAdaptor::choose(int id)
 }
 
 } // namespace quindle
+
+#include "moc_MenuAdaptor.cpp"

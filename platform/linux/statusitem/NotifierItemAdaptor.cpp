@@ -141,3 +141,5 @@ void NotifierItemAdaptor::ProvideXdgActivationToken(const QString& token)
 }
 
 } // namespace quindle
+
+#include "moc_NotifierItemAdaptor.cpp"

@@ -124,3 +124,5 @@ QAction* TrayIcon::addRow(const StatusMenu::Row& row)
 }
 
 } // namespace quindle
+
+#include "moc_TrayIcon.cpp"

@@ -164,3 +164,5 @@ void WatcherLink::call(const QDBusMessage& message, const Answered& answered)
 }
 
 } // namespace quindle
+
+#include "moc_WatcherLink.cpp"
