@@ -35,7 +35,7 @@ std::string supplyFolder(const QString& systemRoot)
     return pathBytes(rootOr(systemRoot) + QStringLiteral("/class/power_supply")).toStdString();
 }
 
-/// Another root is another computer, of which this one's device tree tells nothing.
+/// Another root is another computer, which this one's device tree does not describe.
 LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 {
     return {.dmi = rootOr(systemRoot) + QStringLiteral("/class/dmi/id"),

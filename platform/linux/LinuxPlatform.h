@@ -13,7 +13,7 @@ namespace quindle {
 class LinuxPlatform
 {
 public:
-    /// `systemRoot` stands in place of /sys when it is not empty. Needs a QCoreApplication.
+    /// `systemRoot` replaces /sys when it is not empty. Needs a QCoreApplication.
     explicit LinuxPlatform(const QString& systemRoot,
                            SettingsAccess settingsAccess = SettingsAccess::ReadAndWrite);
     ~LinuxPlatform();

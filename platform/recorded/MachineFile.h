@@ -25,7 +25,7 @@ enum class MachineAction {
     OpenApplication,
 };
 
-/// A later state of a computer, told by what is different.
+/// A later state of a computer, described by what has changed.
 struct MachineStep
 {
     QStringList remove; ///< paths to take out first

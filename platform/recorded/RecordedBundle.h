@@ -6,7 +6,8 @@ namespace quindle {
 
 class RecordedComputer;
 
-/// The recorded bundle, whole: what it does not tell is missing. Without one, the running program's own.
+/// The recorded bundle as a whole: what it does not record is missing. Without one, the running program's
+/// own.
 class RecordedBundle : public Bundle
 {
 public:

@@ -20,7 +20,7 @@ public:
     /// As it was named when it was read; empty for an invented computer.
     const QString& machineFile() const { return m_machineFile; }
 
-    /// Brings in a later state: takes out what the step removes, then lays its registry and settings over the
+    /// Enters a later state: removes what the step removes, then overlays its registry and settings on the
     /// present ones property by property and replaces every other key whole. Its actions are not played.
     void enter(const MachineStep& step);
 
@@ -35,12 +35,12 @@ public:
     /// The property-list file at an absolute path.
     std::optional<QVariantMap> file(const QString& path) const;
 
-    QString hostName() const; ///< empty when not told
+    QString hostName() const; ///< empty when not recorded
 
     /// `Path` and `Info`; nothing when the file has no bundle.
     std::optional<QVariantMap> bundle() const;
 
-    /// The content of a settings database; empty when not told.
+    /// The contents of a settings database; empty when not recorded.
     QVariantMap database(const QString& name) const;
     void setInDatabase(const QString& name, const QString& key, const QVariant& value);
     bool isSuiteUnavailable() const;
@@ -51,7 +51,8 @@ public:
     QStringList loginItems() const;
     void setLoginItems(const QStringList& items);
 
-    /// The answer of the product-information service for a configuration code; nothing for one not told.
+    /// The answer of the product-information service for a configuration code; nothing for one that is not
+    /// recorded.
     std::optional<QString> reply(const QString& configurationCode) const;
 
     /// The moment that stands still; nothing where the real clock is meant.

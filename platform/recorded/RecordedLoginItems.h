@@ -34,7 +34,7 @@ public:
 private:
     RecordedComputer& m_computer;
     const Bundle& m_bundle;
-    QStringList m_known; ///< the items' texts as far as they were seen; an item is a place in it
+    QStringList m_known; ///< the items' texts seen so far; an item is an index into it
     std::map<QString, bool> m_enabled;
 };
 

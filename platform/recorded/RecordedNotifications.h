@@ -15,7 +15,7 @@ private:
     NotificationCenter m_local;
 };
 
-/// Sleep and wake as a step's actions tell them.
+/// Sleep and wake as a step's actions post them.
 class RecordedWorkspaceNotifications : public WorkspaceNotifications
 {
 public:

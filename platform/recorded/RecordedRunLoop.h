@@ -6,7 +6,7 @@
 
 namespace quindle {
 
-/// A timer as it was scheduled; fires only when told to.
+/// A timer as it was scheduled; fires on request only.
 class RecordedTimer : public Timer
 {
 public:
@@ -33,7 +33,7 @@ public:
     std::shared_ptr<Timer> scheduleRepeatingTimer(double interval, double tolerance,
                                                   std::function<void()> fire) override;
 
-    /// Nobody waits in it.
+    /// No tick is ever late.
     Punctuality keepPunctual() override { return nullptr; }
 
     /// Every timer ever scheduled, in order.

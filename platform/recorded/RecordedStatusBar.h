@@ -6,7 +6,7 @@
 
 namespace quindle {
 
-/// What a status item was told, and nothing more.
+/// What was set on a status item, and nothing more.
 struct StatusItemRecord
 {
     double length = 0;

@@ -27,7 +27,7 @@ bool isReadEverywhere(const QByteArray& path)
            });
 }
 
-/// Whether a shell takes it as it stands.
+/// Whether a shell reads it as one word without quotes.
 bool isPlainWord(const QByteArray& text)
 {
     return std::all_of(text.begin(), text.end(), [](char c) {
@@ -78,6 +78,7 @@ StartCommand startCommand(const QString& program, const QString& link, const QSt
     const StartCommand direct{execValue(pathBytes(program)), false, isPlain};
     if (link.isEmpty() || isPlain)
         return direct;
+    // The link has a plain name in the folder of the settings, which is unusual far more seldom.
     if (isReadEverywhere(pathBytes(link)))
         return {execValue(pathBytes(link)), true};
     if (home.isEmpty() || !link.startsWith(home + u'/'))
@@ -97,6 +98,7 @@ std::optional<QString> urlStartedBy(const QByteArray& entryBytes, const QStringL
     QString program = arguments ? programFile(programOf(*arguments, home), programFolders) : QString();
     if (program.isEmpty())
         return std::nullopt;
+    // The helper's program stands for its bundle, which is what login items name.
     if (program.endsWith(programInBundle))
         program.chop(programInBundle.size());
     return normalFileUrl(fileUrl(program));

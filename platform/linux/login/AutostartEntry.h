@@ -13,7 +13,7 @@ QString bundleProgram(const QString& bundlePath);
 
 /// The file URL of what an autostart entry starts at login, symbolic links followed: the bundle's where it is
 /// the program of one, else the program's own. Nothing for an entry that starts nothing: switched off, no
-/// application, broken, or of a program that is not there. For which desktops the entry is does not matter.
+/// application, broken, or of a program that is not there. Which desktops the entry is for does not matter.
 ///
 /// `programFolders` are looked through for a program without a path; $PATH when empty. `home` is the user's
 /// home folder, empty where there is none.
@@ -30,7 +30,7 @@ struct StartCommand
 
 /// The command that starts a program in every session. Sessions differ in how they read a path with unusual
 /// characters, so such a program is started through `link`, a path of our own; where that has them too,
-/// through a shell that finds it in the home folder. Where neither helps, as the format says.
+/// through a shell that finds it in the home folder; where neither helps, as the format says.
 StartCommand startCommand(const QString& program, const QString& link, const QString& home);
 
 /// The contents of an autostart entry that starts the helper by this command.

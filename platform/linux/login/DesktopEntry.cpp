@@ -79,6 +79,7 @@ private:
         if (m_at + 1 == m_line.size())
             return false;
         const char escaped = m_line[m_at + 1];
+        // No argument can hold it.
         if (escaped == '\0')
             return false;
         if (m_isQuoted && !QByteArrayView("\"`$\\").contains(escaped)) {
@@ -139,6 +140,7 @@ std::optional<DesktopEntry> desktopEntryFromBytes(const QByteArray& bytes)
     Lines lines(bytes);
     while (const auto line = lines.next()) {
         if (line->startsWith('[')) {
+            // Other groups are actions and vendors' own; their keys may have the same names.
             isInGroup = *line == "[Desktop Entry]";
             if (isInGroup && !entry)
                 entry.emplace();

@@ -125,6 +125,7 @@ void LinuxLoginItems::remove(Item item)
 void LinuxLoginItems::setEnabled(const QString& identifier, bool enabled)
 {
     const QByteArray entryName = pathBytes(identifier) + suffix.toByteArray();
+    // It becomes a file name.
     if (identifier.isEmpty() || entryName.contains('/') || entryName.contains('\0'))
         return report(QStringLiteral("\"%1\" names no entry").arg(identifier));
     const QString helper = helperBundlePath(m_places.bundle);
@@ -134,6 +135,7 @@ void LinuxLoginItems::setEnabled(const QString& identifier, bool enabled)
     const auto items = snapshot();
     const bool isThere = items && std::any_of(items->cbegin(), items->cend(),
                                               [&](Item item) { return resolve(item) == helperUrl; });
+    // Another entry that starts the helper is enough: two of them would start it twice.
     if (!isThere)
         report(enter(entryName, helper));
 }
@@ -143,7 +145,7 @@ QString LinuxLoginItems::pathOf(const QByteArray& entryName) const
     return m_places.entries + u'/' + pathText(entryName);
 }
 
-/// A file as long as none of these is, is not read to its end, and so not understood.
+/// A longer file is no autostart entry; it would not be read to its end, and so not be understood.
 std::optional<QString> LinuxLoginItems::urlOf(const QByteArray& entryName) const
 {
     constexpr qsizetype limit = qsizetype(60) * 1024;
@@ -210,6 +212,7 @@ QString LinuxLoginItems::erase(const QByteArray& entryName) const
         return {};
     if (::unlink(pathBytes(pathOf(entryName)).constData()) != 0 && errno != ENOENT)
         return reason(errno);
+    // Nothing else needs the link.
     if (entryName == ownEntryName())
         ::unlink(pathBytes(m_places.link).constData());
     return {};
@@ -220,6 +223,7 @@ void LinuxLoginItems::report(const QString& failure)
     if (!failure.isEmpty() && failure != m_failure)
         qCWarning(loginLog).noquote()
             << QStringLiteral("cannot change the login items in %1: %2").arg(m_places.entries, failure);
+    // Also an empty one: the same failure after a success is news.
     m_failure = failure;
 }
 

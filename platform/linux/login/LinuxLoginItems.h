@@ -49,7 +49,7 @@ private:
 
     LoginItemPlaces m_places;
     SettingsAccess m_access;
-    QList<QByteArray> m_known; ///< file names as far as they were seen; an item is a place in it
+    QList<QByteArray> m_known; ///< the file names seen so far; an item is an index into it
     QString m_failure;         ///< the last one logged
 };
 

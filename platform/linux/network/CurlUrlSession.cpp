@@ -13,6 +13,7 @@ constexpr int httpPort = 80;
 
 bool canBeAsked(const QUrl& url, QStringView scheme)
 {
+    // A password in an address would be sent to whatever host it names.
     return url.isValid() && url.scheme() == scheme && !url.host().isEmpty() && url.userInfo().isEmpty();
 }
 
@@ -56,6 +57,7 @@ void CurlUrlSession::post(const QString& url, const QByteArray& body,
 void CurlUrlSession::finish(std::list<Post>::iterator post, const std::optional<HttpAnswer>& answer)
 {
     const auto answered = std::move(post->answered);
+    // Before the callback, which may end this object.
     m_posts.erase(post);
     if (answer)
         answered(static_cast<int>(answer->status), answer->body);
@@ -64,6 +66,7 @@ void CurlUrlSession::finish(std::list<Post>::iterator post, const std::optional<
 std::optional<QByteArray> CurlUrlSession::contents(const QString& url)
 {
     constexpr int mostRedirections = 5;
+    // One deadline for all redirections together: the start waits for this call.
     const QDeadlineTimer deadline(m_settings.contents.time);
     HttpRequest request{
         .url = QUrl(url),

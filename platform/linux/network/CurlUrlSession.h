@@ -19,8 +19,8 @@ struct CurlSettings
     QByteArray authorities{}; ///< the file of those that posts trust; the system's when empty
 };
 
-/// The exchanges themselves. Each request is sent once, over a connection of its own, and tells nothing about
-/// the user. Destroying it ends the posts that are still under way, at once.
+/// The exchanges themselves. Each request is sent once, over a connection of its own, and carries nothing
+/// about the user. Destroying it ends the posts that are still under way, at once.
 class CurlUrlSession : public UrlSession
 {
 public:

@@ -46,6 +46,7 @@ std::size_t takeBody(const char* bytes, std::size_t /*one*/, std::size_t count, 
 {
     auto& [limit, body, connections] = *static_cast<Incoming*>(incoming);
     const auto size = static_cast<qsizetype>(count);
+    // After decompression, so that a small answer cannot unfold into a large one.
     if (size > limit - body.size())
         return CURL_WRITEFUNC_ERROR;
     body.append(bytes, size);
@@ -68,6 +69,7 @@ int endsAtLimit(void* incoming, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
     std::uint64_t received = 0;
     for (const curl_socket_t connection : connections)
         received += bytesReceived(connection);
+    // Four times the body's limit: headers and framing may take as much again, thrice.
     return received > 4 * static_cast<std::uint64_t>(limit) ? 1 : 0;
 }
 
@@ -105,6 +107,7 @@ private:
 void setRequest(Options& options, const HttpRequest& request, curl_slist* headers)
 {
     options.set(CURLOPT_URL, request.url.toEncoded(QUrl::RemoveFragment).constData());
+    // The library speaks many protocols; only that of the address is meant.
     options.set(CURLOPT_PROTOCOLS_STR, request.url.scheme().toLatin1().constData());
     options.set(CURLOPT_PROXY, ""); // whatever the environment names
     options.set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
@@ -125,6 +128,7 @@ void setLimits(Options& options, const HttpLimits& limits, Incoming& incoming)
 {
     options.set(CURLOPT_TIMEOUT_MS, std::max<long>(1, limits.time.count())); // 0 would be for ever
     options.set(CURLOPT_QUICK_EXIT, 1L); // does not wait for a name server
+    // Without it the library may time out lookups by a signal, which reaches any thread.
     options.set(CURLOPT_NOSIGNAL, 1L);
     options.set(CURLOPT_SOCKOPTFUNCTION, takeConnection);
     options.set(CURLOPT_SOCKOPTDATA, &incoming);
@@ -140,6 +144,7 @@ bool perform(CURL* handle, const std::stop_token& stop)
 {
     const MultiHandle multi(curl_multi_init());
     curl_multi_add_handle(multi.get(), handle);
+    // The end of the program must not wait for a silent server.
     const std::stop_callback wakeUp(stop, [&multi] { curl_multi_wakeup(multi.get()); });
     int running = 1;
     while (running > 0 && !stop.stop_requested()) {

@@ -6,7 +6,7 @@
 namespace quindle {
 
 /// Starts a program (an absolute path and arguments, as the bytes they are) in a session of its own; it is
-/// nobody's child, so none has to be waited for. False when it cannot be run.
+/// nobody's child, so nobody has to wait for it. False when it cannot be run.
 bool startDetached(const QList<QByteArray>& command);
 
 } // namespace quindle

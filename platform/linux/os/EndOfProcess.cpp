@@ -18,6 +18,7 @@ FileDescriptor endSignals()
     sigemptyset(&set);
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         sigaddset(&set, number);
+    // Blocked, so that they arrive through the descriptor only; threads made later inherit that.
     sigprocmask(SIG_BLOCK, &set, nullptr);
     return FileDescriptor(signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK));
 }
@@ -26,6 +27,7 @@ FileDescriptor endSignals()
 FileDescriptor closedReader()
 {
     FileDescriptor watch(epoll_create1(EPOLL_CLOEXEC));
+    // No events are asked for; the end of the reader is always reported.
     epoll_event errorsOnly{};
     if (epoll_ctl(watch.get(), EPOLL_CTL_ADD, STDOUT_FILENO, &errorsOnly) != 0)
         return {}; // a file has no reader
@@ -40,6 +42,7 @@ std::unique_ptr<QSocketNotifier> notifierOf(const FileDescriptor& descriptor,
     auto notifier = std::make_unique<QSocketNotifier>(descriptor.get(), QSocketNotifier::Read);
     QSocketNotifier* const source = notifier.get();
     QObject::connect(source, &QSocketNotifier::activated, source, [source, ended] {
+        // The descriptor stays readable, and would wake the loop without end.
         source->setEnabled(false);
         ended();
     });

@@ -9,10 +9,10 @@ class QSocketNotifier;
 
 namespace quindle {
 
-/// Tells when a program that writes line by line shall end: by SIGTERM, SIGINT or SIGHUP, or because nobody
-/// is left who reads its standard output. Waiting costs nothing. To be made before any other thread is
-/// started and after the QCoreApplication; SIGPIPE is ignored from then on, so that writing to nobody is an
-/// error like any other.
+/// Notices when a program that writes line by line has to end: at SIGTERM, SIGINT or SIGHUP, or when nobody
+/// reads its standard output any more. Waiting costs nothing. Make it after the QCoreApplication and before
+/// any other thread is started; from then on SIGPIPE is ignored, so that writing to nobody is an error like
+/// any other.
 class EndOfProcess
 {
 public:

@@ -19,6 +19,7 @@ bool isStillAt(int descriptor, const QByteArray& path)
            opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
+// O_NOFOLLOW, because a lock behind a link would be another file than the next process locks.
 FileDescriptor tryLock(const QByteArray& path)
 {
     for (;;) {
@@ -40,6 +41,7 @@ std::optional<FileLock> FileLock::take(const QByteArray& path, std::chrono::mill
         FileDescriptor file = tryLock(path);
         if (file.isOpen())
             return FileLock(std::move(file));
+        // Anything but a lock that is held does not get better by waiting.
         if (errno != EWOULDBLOCK)
             return std::nullopt;
         if (std::chrono::steady_clock::now() >= deadline) {

@@ -9,9 +9,9 @@
 
 namespace quindle {
 
-/// An exclusive lock between processes, held as long as the object lives. It stands on a file of its own,
-/// which stays behind empty: a data file that is replaced by rename cannot carry a lock. The kernel lets go
-/// of it when the process ends, however it ends.
+/// An exclusive lock between processes, held as long as the object lives. It has a file of its own, which
+/// stays behind empty: a data file that is replaced by renaming cannot carry a lock. The kernel releases it
+/// when the process ends, however it ends.
 class FileLock
 {
 public:

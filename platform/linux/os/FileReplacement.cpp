@@ -36,6 +36,7 @@ int writeAll(int descriptor, const QByteArray& bytes)
             return errno;
         written += count > 0 ? count : 0;
     }
+    // Before the name is given: after a power cut it must not stand for an empty file.
     return ::fsync(descriptor) == 0 ? 0 : errno;
 }
 
@@ -92,14 +93,17 @@ int makeFolder(const QByteArray& path)
     }
     if (error != ENOENT || path.size() <= 1)
         return error;
+    // Recursion ends at the root, which exists.
     const int above = makeFolder(folderOf(path));
     if (above != 0)
         return above;
+    // Another process may have made it in the meantime.
     return ::mkdir(path.constData(), 0700) == 0 || errno == EEXIST ? 0 : errno;
 }
 
 int replaceFile(const QByteArray& path, const QByteArray& bytes)
 {
+    // In the same folder, since a rename does not cross file systems.
     QByteArray temporary = folderOf(path) + '/' + temporaryPrefix(path) + "XXXXXX";
     const FileDescriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.isOpen())

@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 
-/// Changing a file so that at every moment either the old or the new contents stand under its name. All paths
+/// Changing a file so that at every moment its name has either the old or the new contents. All paths
 /// are absolute and in the file system's encoding; results are errno values, 0 for success.
 namespace quindle {
 
@@ -16,15 +16,15 @@ QByteArray folderOf(const QByteArray& path);
 /// Makes a folder and those above it, open to the user alone. One that is there already is fine.
 int makeFolder(const QByteArray& path);
 
-/// Writes a temporary file beside `path` (0600), brings it to the disk, and gives it the name. When it fails,
-/// what stood under the name still does and nothing is left over.
+/// Writes a temporary file beside `path` (0600), brings it to the disk, and gives it the name. When that
+/// fails, the name still has its old contents and nothing is left over.
 int replaceFile(const QByteArray& path, const QByteArray& bytes);
 
-/// Has `path` be a symbolic link to `target`, in place of what stood there.
+/// Makes `path` a symbolic link to `target`, replacing what was there.
 int replaceLink(const QByteArray& path, const QByteArray& target);
 
-/// Removes temporary files of `replaceFile` for `path` that a killed process left. Only for who holds the
-/// lock that keeps other writers of `path` away.
+/// Removes temporary files of `replaceFile` for `path` that a killed process left behind. Only to be called
+/// with the lock that keeps other writers of `path` away.
 void removeLeftovers(const QByteArray& path);
 
 /// Renames `path` to `newPath`, never over a file that is there (EEXIST).

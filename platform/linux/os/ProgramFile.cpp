@@ -32,6 +32,7 @@ QByteArray programPath(const QByteArray& program, const QStringList& folders)
 {
     if (program.isEmpty() || program.contains('\0'))
         return {};
+    // The folder of the process says nothing about the one that a session starts programs in.
     if (program.contains('/'))
         return program.startsWith('/') && isRunnable(program) ? program : QByteArray();
     for (const QByteArray& folder : searchPath(folders))

@@ -6,7 +6,7 @@
 namespace quindle {
 
 /// The path of a program that can be run, as it was found; empty when there is none. A name without a slash
-/// is looked for in `folders`, in $PATH when there are none; a relative path names nothing.
+/// is searched for in `folders`, or in $PATH when there are none; a relative path names nothing.
 QByteArray programPath(const QByteArray& program, const QStringList& folders);
 
 /// The file of that program, links followed.

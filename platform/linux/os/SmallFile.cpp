@@ -12,6 +12,7 @@ namespace quindle {
 
 std::optional<QByteArray> readSmallFile(const QString& path)
 {
+    // More than the kernel's attributes, firmware's texts and desktop entries ever hold.
     constexpr qsizetype limit = qsizetype{64} * 1024;
     const FileDescriptor file(
         open(pathBytes(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
@@ -21,10 +22,12 @@ std::optional<QByteArray> readSmallFile(const QString& path)
     if (!file.isOpen() || fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
     QByteArray content(limit, Qt::Uninitialized);
+    // One read: files of the kernel's own have no true size, and give all they have at once.
     const ssize_t size = pread(file.get(), content.data(), static_cast<std::size_t>(limit), 0);
     if (size < 0)
         return std::nullopt;
     content.truncate(size);
+    // The caller may keep a few bytes for the life of the process.
     content.squeeze();
     return content;
 }

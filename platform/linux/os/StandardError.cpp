@@ -20,8 +20,8 @@ namespace quindle {
 
 namespace {
 
-/// A pipe or terminal opened once more, because to make the one that others share non-blocking would change
-/// it for them too. Not open for anything else, and where the system refuses.
+/// A pipe or terminal opened once more, because making the shared one non-blocking would change it for others
+/// too. Not open for any other kind of file, and where the system refuses.
 FileDescriptor openedAgain()
 {
     struct stat found = {};
@@ -33,6 +33,7 @@ FileDescriptor openedAgain()
 /// What was written, or -1 when it cannot be, or not without waiting.
 ssize_t writeIfReady(const char* text, std::size_t size)
 {
+    // A socket cannot be opened again, but takes a flag for each write.
     const ssize_t sent = ::send(STDERR_FILENO, text, size, MSG_DONTWAIT | MSG_NOSIGNAL);
     if (sent >= 0 || errno != ENOTSOCK)
         return sent;

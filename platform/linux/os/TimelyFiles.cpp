@@ -51,12 +51,14 @@ TimelyFiles::~TimelyFiles() = default;
 std::optional<QByteArray> TimelyFiles::read(const QString& path)
 {
     const bool isNew = !m_underWay.contains(path);
+    // Without room for a thread nothing is read here: this one must never hang.
     if (isNew && !begin(path))
         return m_last[path];
     const std::shared_ptr<Reading> reading = m_underWay[path];
     if (reading->isOver(isNew ? m_patience : std::chrono::milliseconds(0))) {
         m_last[path] = reading->content;
         m_underWay.erase(path);
+        // Logged once for each wait, not for each question in it.
     } else if (isNew) {
         qCWarning(fileLog).noquote() << path << "does not answer";
     }

@@ -12,7 +12,7 @@
 namespace quindle {
 
 /// Reads small files that say the same all the time (firmware's texts, a computer's name) and may still hang:
-/// each on a thread of its own, which is waited for, never for ever. Main thread only.
+/// each on a thread of its own, which is waited for, but not without end. Main thread only.
 class TimelyFiles
 {
 public:
@@ -26,7 +26,7 @@ public:
     TimelyFiles& operator=(const TimelyFiles&) = delete;
 
     /// What the file holds, nothing where it cannot be read (see readSmallFile). A file that does not answer
-    /// in time is named in the log, and what it held last stands in without waiting until it answers.
+    /// in time is named in the log, and its last contents stand in, without waiting, until it answers.
     std::optional<QByteArray> read(const QString& path);
 
 private:

@@ -4,7 +4,7 @@
 
 namespace quindle {
 
-/// Where the user's folders are, as the XDG base directories are defined: each a variable that is an
+/// Where the user's folders are, as the XDG base directories are defined: each is a variable that holds an
 /// absolute path, else a place in the home folder. They need not exist. Empty for a user without a home
 /// folder.
 QString configurationFolder(); ///< $XDG_CONFIG_HOME, ~/.config

@@ -24,6 +24,7 @@ ActivationToken::ActivationToken(const QByteArray& token)
     if (token.isEmpty() || static_cast<std::size_t>(entry.size()) >= m_entry.size())
         return;
     std::copy(entry.begin(), entry.end(), m_entry.begin());
+    // putenv and not setenv, which leaks the old value at each call.
     ::putenv(m_entry.data());
 }
 

@@ -7,25 +7,26 @@
 
 namespace quindle {
 
-/// Tells when somebody on a bus says more than is taken, or asks and does not take the answers: what waits in
-/// the process, on the bus and in between has no bound of its own. Now and then the bus is asked for a sign,
-/// which comes behind all that waits, and what is heard meanwhile is counted.
+/// Notices when a peer on a bus sends more than this process can handle, or asks and does not read the
+/// answers: the queues in the process, on the bus and in between have no bound of their own. Now and then it
+/// sends the bus a question, whose answer comes behind everything that is queued, and counts what arrives
+/// before it.
 class BacklogGuard final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Hosts that read their answers have a few dozen calls on the way, even when they start.
+    /// A host that reads its answers has a few dozen calls under way, even when it starts.
     static constexpr int mostOnTheWay = 250;
 
     /// `overrun` is called once for each connection, from the main loop.
     explicit BacklogGuard(std::function<void()> overrun, QObject* parent = nullptr);
 
-    /// Counts what this object is told: one that is offered on the bus, or hears signals of it. Nothing else
-    /// may be queued for it. After an overrun it is told nothing more of that connection.
+    /// Counts the messages for this object, which is offered on the bus or receives its signals. Nothing else
+    /// may be queued for it. After an overrun it gets nothing more from that connection.
     void watch(QObject& object);
 
-    /// The connection from now on; counting begins anew. Of one that is not connected nothing is told on.
+    /// The connection from now on; counting begins anew. Nothing is passed on from one that is not connected.
     void setBus(const QDBusConnection& bus);
 
 protected:
@@ -35,14 +36,14 @@ private:
     void count();
     void askForSign();
 
-    static constexpr int unasked = 25; ///< what is heard before the bus is asked
+    static constexpr int unasked = 25; ///< messages before the bus is asked
 
     std::function<void()> m_overrun;
     QDBusConnection m_bus;
     int m_round = 0; ///< counts the connections
-    int m_heard = 0; ///< since the last sign, or since the bus was asked for the next
+    int m_heard = 0; ///< since the last answer, or since the bus was asked again
     bool m_isAsked = false;
-    bool m_isDeaf = true; ///< what comes is dropped
+    bool m_isDeaf = true; ///< what arrives is dropped
 };
 
 } // namespace quindle

@@ -17,7 +17,8 @@ using Objects = QMap<QDBusObjectPath, Interfaces>;
 const QString ownBusName = QStringLiteral("quindle-bluetooth");
 const QString objectsSignature = QStringLiteral("a{oa{sa{sv}}}");
 
-constexpr int longestUse = 20'000; // of an answer; somebody who looks asks more often
+constexpr int longestUse = 20'000; // of an answer; while somebody looks, it is asked more often
+// Nobody has more; a broken service cannot fill the view.
 constexpr qsizetype mostBatteries = 32;
 
 QDBusMessage questionForObjects()
@@ -36,7 +37,7 @@ std::optional<BluetoothBattery> batteryOf(const Interfaces& object)
         object.value(QStringLiteral("org.bluez.Battery1")).value(QStringLiteral("Percentage"));
     bool isNumber = false;
     const uint percent = percentage.toUInt(&isNumber);
-    // A device that has gone keeps its object, with what its battery was then.
+    // A device that has gone keeps its object, with its last battery level.
     if (!isNumber || percent > 100 || !device.value(QStringLiteral("Connected"), true).toBool())
         return std::nullopt;
     return BluetoothBattery{device.value(QStringLiteral("Address")).toString(),
@@ -47,6 +48,7 @@ std::optional<BluetoothBattery> batteryOf(const Interfaces& object)
 
 QList<BluetoothBattery> bluetoothBatteriesFrom(const QDBusMessage& answer)
 {
+    // The library converts without looking; a message of another form would give nonsense.
     if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != objectsSignature)
         return {};
     const auto objects = qdbus_cast<Objects>(answer.arguments().constFirst());
@@ -78,6 +80,7 @@ QList<BluetoothBattery> BluetoothBatteries::latest()
     }
     if (m_question->isFinished()) {
         m_batteries = bluetoothBatteriesFrom(m_question->reply());
+        // The answer for the next question is asked for now, so that nobody waits then.
         if (!isOld)
             m_question = ask();
     }

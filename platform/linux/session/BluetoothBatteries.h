@@ -12,9 +12,8 @@
 
 namespace quindle {
 
-/// The batteries that BlueZ (org.bluez on the system bus) tells of. It is asked when somebody wants to know
-/// and never else, so that a device's news wake nobody; a service that does not run is not started. Main
-/// thread only.
+/// The batteries that BlueZ (org.bluez on the system bus) reports. It is asked only when somebody looks, so
+/// that a device's changes wake nobody; a service that does not run is not started. Main thread only.
 class BluetoothBatteries
 {
 public:
@@ -25,8 +24,8 @@ public:
     BluetoothBatteries(const BluetoothBatteries&) = delete;
     BluetoothBatteries& operator=(const BluetoothBatteries&) = delete;
 
-    /// By the order of BlueZ' objects. Asked again and again it gives the answer to the question before, and
-    /// nobody waits; after a while without questions it waits for the answer. None without a bus or BlueZ.
+    /// By the order of BlueZ' objects. When asked repeatedly it gives the answer to its last question without
+    /// waiting; after a pause it waits for the answer. None without a bus or BlueZ.
     QList<BluetoothBattery> latest();
 
 private:

@@ -22,7 +22,7 @@ class BusLink : public QObject
 public:
     static constexpr int usualPause = 10'000;
 
-    /// Begins with the connection that the whole process shares; when that is not to be had or lost,
+    /// Begins with the connection that the whole process shares; when that is not available or lost,
     /// connections of its own follow. The first try comes after `firstPause` milliseconds.
     explicit BusLink(QDBusConnection::BusType type, int firstPause = usualPause, QObject* parent = nullptr);
 
@@ -31,16 +31,16 @@ public:
             QObject* parent = nullptr);
     ~BusLink() override;
 
-    /// Has `open` begin with the connection that the whole process shares, and log nothing: its other link
-    /// does.
+    /// Lets `open` begin with the connection that the whole process shares, and log nothing, because that
+    /// connection's other link does.
     void followShared();
 
     /// Connects, and calls `subscribe` with each connection that is made, now and later, and `lost` when one
     /// is lost. Without a bus one line is logged.
     void open(std::function<void(QDBusConnection&)> subscribe, std::function<void()> lost = {});
 
-    /// Closes the connection, which must not be the shared one, because a peer abuses it: it is lost, and
-    /// tried again after the first pause.
+    /// Closes the connection because a peer abuses it; it must not be the shared one. It counts as lost, and
+    /// is tried again after the first pause.
     void drop();
 
     /// The present connection; one that is not connected when there is none.
@@ -67,14 +67,14 @@ private:
     int m_firstPause;
     QTimer m_retry;
     QString m_socket;
-    quint64 m_socketTried = 0; ///< the inode that the last try met; 0 for none
+    quint64 m_socketTried = 0; ///< the inode at the last try; 0 for none
     std::unique_ptr<QFileSystemWatcher> m_folderWatcher;
     std::function<void(QDBusConnection&)> m_subscribe;
     std::function<void()> m_lost;
 };
 
-/// Where a bus of the type is found, as the environment says it, else at its usual place. Empty for a session
-/// bus of which nothing is said.
+/// The address of a bus: what the environment says, else its usual place. Empty for a session bus that
+/// nothing names.
 QString busAddress(QDBusConnection::BusType type);
 
 /// The socket file of an address; empty when it names none (an abstract socket, another transport).

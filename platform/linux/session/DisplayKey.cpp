@@ -39,6 +39,7 @@ QByteArray x11Display(QByteArray name)
 
 QString fitForFileName(const QByteArray& text)
 {
+    // A socket's path has 108 bytes, and the folder comes first.
     constexpr qsizetype longest = 40;
     QString name;
     for (const char c : text) {
@@ -55,6 +56,7 @@ QString fitForFileName(const QByteArray& text)
 
 QString displayKey(const DisplayNames& names)
 {
+    // A Wayland session mostly has an X11 display too, for older programs.
     if (!names.wayland.isEmpty())
         return fitForFileName(waylandDisplay(names));
     return names.x11.isEmpty() ? QStringLiteral("none") : fitForFileName(x11Display(names.x11));

@@ -17,6 +17,7 @@ const QString instancePath = QStringLiteral("/com/fernhollow/Quindle_Helper");
 
 const QString tokenKey = QStringLiteral("activation-token");
 
+// Without queueing: a start that waits in line for the name would run later, unasked.
 constexpr uint doNotQueue = 4;
 constexpr uint nameIsOthers = 3;
 constexpr int answerPatience = 4000; // milliseconds
@@ -35,12 +36,13 @@ QDBusMessage requestName()
     return busCall(QStringLiteral("RequestName"), {instanceName, doNotQueue});
 }
 
-/// Says nothing of why where the owner has gone meanwhile.
+/// Gives no reason where the owner has gone in the meantime.
 QDBusMessage activateOwner(const QDBusConnection& connection)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(instanceName, instancePath,
                                                        QStringLiteral("org.freedesktop.Application"),
                                                        QStringLiteral("Activate"));
+    // The bus must not start a third helper for the call.
     call.setAutoStartService(false);
     QVariantMap platformData;
     if (const QByteArray token = activationTokenOfProcess(); !token.isEmpty())
@@ -108,7 +110,7 @@ std::optional<StartAnswer> InstanceBusName::start()
     return startOn(m_link.connection());
 }
 
-/// Before the name is taken, so that who finds it taken also finds somebody to ask.
+/// Before the name is taken, so that a process that finds it taken also finds somebody to ask.
 void InstanceBusName::offer(QDBusConnection& connection)
 {
     answerCalls(connection);
@@ -142,6 +144,7 @@ std::optional<StartAnswer> InstanceBusName::startOn(const QDBusConnection& conne
         const QDBusMessage activated = activateOwner(connection);
         if (activated.type() == QDBusMessage::ReplyMessage)
             return StartAnswer{StartAnswer::Outcome::AnotherWoken, {}};
+        // The owner ended between the two calls; the name is free, or the next one's.
         if (!hasGone(activated))
             return StartAnswer{StartAnswer::Outcome::GivenUp, silentOwner(connection)};
     }

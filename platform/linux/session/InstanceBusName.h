@@ -16,7 +16,7 @@
 
 namespace quindle {
 
-/// What others of the session may ask of the one that runs.
+/// What other processes of the session may ask of the running one.
 class ApplicationAdaptor : public QDBusAbstractAdaptor
 {
     Q_OBJECT
@@ -35,9 +35,9 @@ private:
     Activated m_activated;
 };
 
-/// Sees to it that one process runs for a session bus: the bus gives a name to one of its connections. The
-/// name is taken again on each bus that comes later. Who asks without end and does not wait is not answered
-/// for a while. Main thread only.
+/// Makes sure that one process runs for each session bus: the bus gives a name to one of its connections
+/// only. The name is taken again on each bus that comes later. A peer that asks without end and does not wait
+/// is not answered for a while. Main thread only.
 class InstanceBusName : public QObject
 {
     Q_OBJECT
@@ -45,14 +45,14 @@ class InstanceBusName : public QObject
 public:
     explicit InstanceBusName(QObject* parent = nullptr);
 
-    /// Takes the name, or asks who has it to open the battery view, for which it gets up to four seconds.
+    /// Takes the name, or asks its owner to open the battery view and waits up to four seconds for that.
     /// Nothing where there is no bus, or one that gives no names: then the name is taken once there is.
     std::optional<StartAnswer> start();
 
     /// Windows that `showRequested` activates may come to the front in the name of the start that asks.
     void setShowRequested(std::function<void()> showRequested) { m_showRequested = std::move(showRequested); }
 
-    /// Says what happens when another one has the name on a bus that came later.
+    /// Sets what happens when another process has the name on a bus that came later.
     void setTakenByAnother(std::function<void()> taken) { m_takenByAnother = std::move(taken); }
 
 private:

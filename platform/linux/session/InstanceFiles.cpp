@@ -24,6 +24,7 @@ Q_LOGGING_CATEGORY(instanceLog, "quindle.instance")
 QString computerName()
 {
     QString name = QSysInfo::machineHostName();
+    // A host name may be anything, a file name may not.
     return name.replace(u'/', u'_');
 }
 
@@ -33,7 +34,7 @@ FileDescriptor newSocket()
 }
 
 /// Calls `bind` or `connect` with a socket's path; errno's value. An address has room for a short path only,
-/// so a long one is told by the descriptor of its folder.
+/// so a long one is given by the descriptor of its folder.
 template <typename Call>
 int withAddress(Call call, const FileDescriptor& socket, QByteArray path)
 {
@@ -56,6 +57,7 @@ bool isFromSameUser(const FileDescriptor& connection)
 {
     ucred peer = {};
     socklen_t size = sizeof peer;
+    // The kernel says who connected; nothing that the peer sends could be trusted.
     return ::getsockopt(connection.get(), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
            peer.uid == ::geteuid();
 }
@@ -100,11 +102,12 @@ StartAnswer InstanceFiles::start()
             .arg(m_faults));
 }
 
-/// Nothing where no lock can be had.
+/// Nothing where no lock can be taken.
 std::optional<StartAnswer> InstanceFiles::startAt(const QString& stem)
 {
     constexpr std::chrono::seconds patience(3);
     constexpr std::chrono::milliseconds pause(20);
+    // A folder that cannot be made is the better reason to report than the lock that fails in it.
     const int folderError = makeFolder(folderOf(pathBytes(stem)));
     const auto deadline = std::chrono::steady_clock::now() + patience;
     while (std::chrono::steady_clock::now() < deadline) {
@@ -131,7 +134,7 @@ std::optional<StartAnswer> InstanceFiles::startAt(const QString& stem)
 bool InstanceFiles::askFirst() const
 {
     const int error = withAddress(::connect, newSocket(), m_socketPath);
-    return error == 0 || error == EAGAIN; // so many ask that they have to queue
+    return error == 0 || error == EAGAIN; // so many ask that they queue
 }
 
 void InstanceFiles::holdIfFree()
@@ -158,6 +161,7 @@ void InstanceFiles::listen()
 
 int InstanceFiles::openSocket()
 {
+    // Left by a killed process; the lock says that nobody listens on it.
     if (::unlink(m_socketPath.constData()) != 0 && errno == EISDIR)
         ::rmdir(m_socketPath.constData());
     FileDescriptor socket = newSocket();

@@ -20,9 +20,9 @@ namespace quindle {
 /// Each is a path to which ".lock" and ".socket" are appended.
 std::vector<QString> instanceFileStems(const QString& name);
 
-/// Sees to it that one process runs for a name, by a lock file and a socket beside it: connecting to the
-/// socket is the request to open the battery view, and only processes of the same user are obeyed. A process
-/// that was killed leaves nothing that is in the way of the next one. Main thread only.
+/// Makes sure that one process runs for each name, by a lock file and a socket beside it: connecting to the
+/// socket asks for the battery view, and only processes of the same user are obeyed. A killed process leaves
+/// nothing that stops the next one. Main thread only.
 class InstanceFiles
 {
 public:
@@ -32,13 +32,14 @@ public:
     InstanceFiles(const InstanceFiles&) = delete;
     InstanceFiles& operator=(const InstanceFiles&) = delete;
 
-    /// Waits up to three seconds for the one that holds the lock to listen. Needs a QCoreApplication.
+    /// Waits up to three seconds for the process that holds the lock to listen. Needs a QCoreApplication.
     StartAnswer start();
 
-    /// Takes the best place if it is free, without asking or waiting, for one that runs whatever comes of it.
+    /// Takes the best place if it is free, without asking or waiting, for a process that runs whether or not
+    /// that succeeds.
     void holdIfFree();
 
-    /// Says what a request does; requests come in once the main loop runs.
+    /// Sets what a request does; requests arrive once the main loop runs.
     void setShowRequested(std::function<void()> showRequested) { m_showRequested = std::move(showRequested); }
 
 private:
@@ -50,7 +51,7 @@ private:
     void acceptRequest();
 
     std::vector<QString> m_stems;
-    QString m_faults; ///< of the stems at which no lock can be had
+    QString m_faults; ///< of the stems at which no lock can be taken
     QByteArray m_socketPath;
     std::optional<FileLock> m_lock;
     FileDescriptor m_socket;

@@ -9,6 +9,7 @@ namespace quindle {
 
 void LinuxApplication::terminate()
 {
+    // Queued: the caller, a menu's action, returns into objects that still exist.
     QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
@@ -17,6 +18,7 @@ void LinuxApplication::activateIgnoringOtherApplications()
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         return;
     for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        // Popups and tool tips belong to a window, and hidden ones stay hidden.
         if (!window->isVisible() || window->type() != Qt::Window)
             continue;
         window->raise();

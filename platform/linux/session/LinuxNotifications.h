@@ -19,14 +19,14 @@ class NameOwner;
 
 /// Notifications between processes as signals on the session bus, without arguments: object
 /// /com/fernhollow/Quindle, interface com.fernhollow.Quindle.Notifications, member = the notification's name.
-/// This process's own observers hear a post before it returns, with a bus or without one, and what comes back
-/// from the bus not again. Who posts faster than observers can be called is not heard for a while.
+/// This process's own observers are called before a post returns, with or without a bus, and not again when
+/// the signal comes back. While others post faster than observers can be called, none is called.
 class LinuxDistributedNotificationCenter : public QObject, public DistributedNotificationCenter
 {
     Q_OBJECT
 
 public:
-    /// `pause` as for BusLink; also how long nothing is heard after too much.
+    /// `pause` as for BusLink; also how long nothing is received after too much.
     explicit LinuxDistributedNotificationCenter(int pause = BusLink::usualPause);
 
     void addObserver(const QString& name, NotificationCenter::Observer observer) override;
@@ -51,9 +51,10 @@ private:
     NotificationCenter m_observers;
 };
 
-/// Sleep and wake as the login manager tells them on the system bus (PrepareForSleep); nobody else is heard
-/// there. The bus is connected after start-up, once there is an observer; a login manager that comes late or
-/// restarts is heard all the same. Observers hear of waking at once, and at most twice a second.
+/// Sleep and wake as the login manager announces them on the system bus (PrepareForSleep); other senders are
+/// ignored. The bus is connected after start-up, once there is an observer; a login manager that comes late
+/// or restarts is found as well. Observers are called at once when the computer wakes, and at most twice a
+/// second.
 class LinuxWorkspaceNotifications : public QObject, public WorkspaceNotifications
 {
     Q_OBJECT

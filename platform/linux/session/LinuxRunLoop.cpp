@@ -70,6 +70,7 @@ LinuxRunLoop::Wheel::Wheel(SteadyClock clock)
     : m_clock(std::move(clock))
 {
     m_timer.setSingleShot(true);
+    // The schedule has spent the tolerance already; the event loop must not add its own.
     m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.callOnTimeout(&m_timer, [this] { wakeUp(); });
 }
@@ -99,7 +100,7 @@ void LinuxRunLoop::Wheel::addPunctuality(int change)
 void LinuxRunLoop::Wheel::wakeUp()
 {
     const std::vector<int> due = m_schedule.takeDue(m_clock());
-    // Before firing: an action may run a loop of its own, in which the next ticks are due as ever.
+    // Before firing: an action may run a loop of its own, in which the next ticks are due as usual.
     armTimer();
     for (const int number : due)
         fireIfScheduled(number);
@@ -110,6 +111,7 @@ void LinuxRunLoop::Wheel::fireIfScheduled(int number)
     const auto entry = m_actions.find(number);
     if (entry == m_actions.end())
         return; // invalidated by one that fired before it
+    // An action may invalidate its own timer while it runs.
     const auto keptAlive = entry->second;
     (*keptAlive)();
 }
@@ -122,6 +124,7 @@ void LinuxRunLoop::Wheel::armTimer()
         return;
     }
     const double delay = std::clamp(*next - m_clock(), 0.0, longestSleep);
+    // Rounded up: a wake-up just before the tick would find nothing due.
     m_timer.start(static_cast<int>(std::ceil(delay * 1000)));
 }
 

@@ -11,6 +11,7 @@ NameOwner::NameOwner(const QDBusConnection& bus, const QString& name, Changed ch
     : QObject(parent)
     , m_changed(std::move(changed))
 {
+    // Watched before it is asked for, so that no change falls in between.
     auto* watcher = new QDBusServiceWatcher(name, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString&, const QString&, const QString& owner) { setOwner(owner); });
@@ -27,6 +28,7 @@ void NameOwner::hearAnswer(QDBusPendingCallWatcher& answer)
     answer.deleteLater();
     // A name without an owner is answered by an error.
     const QDBusPendingReply<QString> owner = answer;
+    // A change that arrived before the answer is newer.
     if (!m_isKnown)
         setOwner(owner.isValid() ? owner.value() : QString());
 }

@@ -10,7 +10,8 @@ class QDBusPendingCallWatcher;
 
 namespace quindle {
 
-/// Follows who owns a well-known name on a bus. Nothing waits for the bus. Only the bus itself is believed.
+/// Follows who owns a well-known name on a bus. Nothing waits for the bus, and only signals of the bus itself
+/// count.
 class NameOwner final : public QObject
 {
     Q_OBJECT

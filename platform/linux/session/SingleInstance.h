@@ -7,8 +7,8 @@
 
 namespace quindle {
 
-/// Sees to it that one helper runs for a session bus, because that is what an item is offered on; where there
-/// is no bus, for a display. Main thread only.
+/// Makes sure that one helper runs for each session bus, because items are offered on a bus; where there is
+/// none, for each display. Main thread only.
 ///
 /// A name on the bus is given to one process only, can be taken by nobody outside the session, and needs no
 /// folder. The files are taken as well, as far as they can be, so that a start which finds no bus finds the
@@ -21,10 +21,10 @@ public:
     /// Whether this process is to run. Needs a QCoreApplication.
     StartAnswer start();
 
-    /// Says what the request of another start does; requests come in once the main loop runs.
+    /// Sets what the request of another start does; requests arrive once the main loop runs.
     void setShowRequested(const std::function<void()>& showRequested);
 
-    /// Says what happens when a bus comes that another helper is on already.
+    /// Sets what happens when a bus appears that another helper is on already.
     void setTakenByAnother(std::function<void()> taken) { m_busName.setTakenByAnother(std::move(taken)); }
 
 private:

@@ -6,8 +6,8 @@
 
 namespace quindle {
 
-// A thread and not an alarm: a call to a file server that is away is left for no signal but the fatal ones,
-// as the end of the process is one.
+// A thread and not an alarm: only a fatal signal, such as the end of the process, interrupts a call to a file
+// server that is away.
 StartDeadline::StartDeadline(std::chrono::seconds patience, const std::string& reason)
     : m_line("quindle-helper: gave up: " + reason + '\n')
     , m_waiting([this, patience] { wait(patience); })
@@ -30,6 +30,7 @@ void StartDeadline::wait(std::chrono::seconds patience)
     if (m_ended.wait_for(lock, patience, [this] { return m_isOver; }))
         return;
     writeToStandardError(m_line.data(), m_line.size());
+    // At once: destructors may wait for the very call that does not return.
     ::_exit(1);
 }
 

@@ -52,11 +52,13 @@ std::vector<int> TimerSchedule::takeDue(double now)
     for (const auto& [number, entry] : m_entries)
         if (entry.planned <= present)
             due.emplace_back(entry.planned, number);
+    // By planned time, so that the order of ticks does not depend on how late the wake-up is.
     std::sort(due.begin(), due.end());
     std::vector<int> numbers;
     numbers.reserve(due.size());
     for (const auto& [planned, number] : due) {
         Entry& entry = m_entries.at(number);
+        // Such a timer may fire at any time, and so falls in step with the others for good.
         if (entry.tolerance >= entry.interval)
             entry.start = due.back().first;
         const Microseconds ticks = (present - entry.start) / entry.interval;
@@ -68,6 +70,7 @@ std::vector<int> TimerSchedule::takeDue(double now)
 
 TimerSchedule::Microseconds TimerSchedule::microseconds(double seconds)
 {
+    // Whole numbers, so that the ticks of 5 and 10 seconds are equal and not nearly so.
     return std::llround(seconds * microsecondsInSecond);
 }
 

@@ -21,8 +21,9 @@ Q_LOGGING_CATEGORY(settingsLog, "quindle.settings")
 
 using State = PropertyListFile::State;
 
-// Writers hold the lock for milliseconds; who holds it longer was stopped.
+// Writers hold the lock for milliseconds; one that holds it longer was stopped.
 constexpr std::chrono::milliseconds writerPatience(5000);
+// A reader waits on the main thread, for the rare file that has to be moved away.
 constexpr std::chrono::milliseconds readerPatience(100);
 
 // An editor that writes a file in its place is given this long to finish.
@@ -44,6 +45,7 @@ int renameAsDamaged(const QByteArray& path, QByteArray& newPath)
         path + ".damaged-" + QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss").toLatin1();
     newPath = stem;
     int error = renameWithoutReplacing(path, newPath);
+    // A damaged file is never lost to another damaged one of the same second.
     for (int number = 1; error == EEXIST; ++number) {
         newPath = stem + '-' + QByteArray::number(number);
         error = renameWithoutReplacing(path, newPath);
@@ -75,7 +77,7 @@ void LinuxUserDefaults::refresh() const
 {
     const State state = m_file.refresh();
     if (state == State::Damaged) {
-        // One that had to stay where it is is not tried again at every read.
+        // A file that could not be moved is not tried again at every read.
         if (!m_leftDamaged)
             m_leftDamaged = !setAside();
         return;
@@ -112,6 +114,7 @@ bool LinuxUserDefaults::setAside() const
 
 bool LinuxUserDefaults::setAsideLocked() const
 {
+    // Read again under the lock: another process may have put it right, or aside, meanwhile.
     if (m_file.reread() == State::Damaged && m_file.isFresh()) {
         std::this_thread::sleep_for(editorPatience);
         m_file.reread();
@@ -172,6 +175,7 @@ QString LinuxUserDefaults::store(const QString& key, const QVariant& value)
 
 QString LinuxUserDefaults::storeLocked(const QString& key, const QVariant& value, const QByteArray& xml)
 {
+    // Under the lock and from the disk, so that another writer's keys are not lost.
     if (m_file.reread() == State::Damaged && !setAsideLocked())
         return QStringLiteral("the file is damaged and cannot be set aside");
     if (m_file.refresh() == State::Unreadable)
@@ -179,6 +183,7 @@ QString LinuxUserDefaults::storeLocked(const QString& key, const QVariant& value
     if (holds(key, xml))
         return {};
     const QByteArray target = linkTarget(m_file.path());
+    // Safe now: whoever left them has not got the lock any more.
     removeLeftovers(target);
     QVariantMap changed = m_file.contents();
     changed.insert(key, value);
@@ -195,6 +200,7 @@ LinuxUserDefaultsDatabases::LinuxUserDefaultsDatabases(QString folder, SettingsA
 
 UserDefaults* LinuxUserDefaultsDatabases::suite(const QString& suiteName)
 {
+    // A name with a slash would be a file anywhere else.
     if (m_folder.isEmpty() || suiteName.isEmpty() || suiteName.contains(u'/'))
         return nullptr;
     auto& database = m_suites[suiteName];

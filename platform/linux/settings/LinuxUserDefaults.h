@@ -11,7 +11,7 @@ namespace quindle {
 /// Whether files may be changed: a program that only looks leaves a damaged file where it is.
 enum class SettingsAccess { ReadAndWrite, ReadOnly };
 
-/// One settings database in one property-list file; docs/settings.md tells how it is kept whole.
+/// One settings database in one property-list file; docs/settings.md says how it is kept whole.
 class LinuxUserDefaults : public UserDefaults
 {
 public:
@@ -39,7 +39,7 @@ private:
 
     SettingsAccess m_access;
 
-    // Reading keeps the last parse and puts a damaged file away; neither is a change a caller could tell.
+    // Reading keeps the last parse and puts a damaged file away; no caller notices either.
     mutable PropertyListFile m_file;
     mutable QString m_readFailure;
     mutable bool m_leftDamaged = false;

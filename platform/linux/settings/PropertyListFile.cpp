@@ -109,7 +109,7 @@ PropertyListFile::State PropertyListFile::become(State state, int error)
     m_state = state;
     m_error = error;
     m_settled = false;
-    // What cannot be read at the moment (a network home that is away) is still what it was.
+    // What cannot be read at the moment (a network home that is away) keeps its last contents.
     if (state != State::Unreadable)
         m_contents.clear();
     return state;

@@ -45,7 +45,7 @@ public:
     bool isFresh() const { return m_fresh; }
 
 private:
-    /// What tells one state of a file from every other.
+    /// What distinguishes one state of a file from every other.
     struct Identity
     {
         dev_t device = 0;

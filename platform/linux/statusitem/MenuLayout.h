@@ -24,8 +24,8 @@ QVariantMap menuProperties(const StatusMenu* menu, int id, const QStringList& na
 MenuNode menuLayout(const StatusMenu* menu, int parentId, int depth, const QStringList& names,
                     bool commandsFirst = false);
 
-/// The ids of the rows in the menu itself from above: as the menu has them, or with the commands between the
-/// first row and the other facts.
+/// The ids of the rows in the menu itself, from the top: as the menu has them, or with the commands between
+/// the first row and the other facts.
 std::vector<int> menuOrder(const StatusMenu* menu, bool commandsFirst);
 
 /// Whether the id is the menu itself or one of its rows.

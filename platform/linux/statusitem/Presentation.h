@@ -7,7 +7,7 @@
 
 namespace quindle {
 
-/// What the application has put into the status item.
+/// What the application has set on the status item.
 struct ItemContents
 {
     QString title;
@@ -47,7 +47,7 @@ enum class Carrier {
     Drawing, ///< as a file that the host draws in the colour of its panel's text
 };
 
-/// What a host is told of the item.
+/// What a host sees of the item.
 struct Presentation
 {
     QString title;
@@ -62,7 +62,7 @@ struct Presentation
     friend bool operator==(const Presentation&, const Presentation&) = default;
 };
 
-/// What that host is told of these contents. The title is exact; what is drawn or written beside the icon is
+/// What that host sees of these contents. The title is exact; what is drawn or written beside the icon is
 /// one line and cut with an ellipsis; the picture is never empty unless the host writes the title.
 Presentation present(const ItemContents& contents, const HostTraits& host);
 

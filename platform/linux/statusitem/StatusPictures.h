@@ -43,7 +43,7 @@ private:
 
     QString m_iconsDirectory;
     std::map<std::tuple<QString, int, QRgb>, QImage> m_glyphs; ///< kept, because reading a drawing takes long
-    std::set<QString> m_missing;                               ///< already told in the log
+    std::set<QString> m_missing;                               ///< already logged
 };
 
 } // namespace quindle

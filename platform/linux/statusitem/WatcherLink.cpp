@@ -38,6 +38,7 @@ QDBusMessage watcherCall(const QString& interface, const QString& method)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(
         watcherService(), QStringLiteral("/StatusNotifierWatcher"), interface, method);
+    // Starting a watcher is the desktop's business.
     message.setAutoStartService(false);
     return message;
 }
@@ -90,8 +91,7 @@ void WatcherLink::start()
     new NameOwner(m_bus, watcherService(), changed, this);
 }
 
-// Also when the owner is the same as the last that was answered: it left meanwhile, and has forgotten its
-// items.
+// Also when the owner is the same one as last time: it left in between, and has forgotten its items.
 void WatcherLink::answerOwner()
 {
     ++m_round;
@@ -105,6 +105,7 @@ void WatcherLink::askProcess()
 {
     call(processOf(m_owner), [this](const QDBusMessage& answer) {
         const uint pid = answer.arguments().value(0).toUInt();
+        // The process may have gone by now; an unknown host is a square one.
         const bool answered = answer.type() == QDBusMessage::ReplyMessage && pid != 0;
         Q_EMIT watcherFound(answered ? processWithId(pid) : HostProcess());
     });
@@ -126,6 +127,7 @@ void WatcherLink::sendRegistration(int attempt)
             qCWarning(logWatcher) << "registration failed:" << failure;
         m_failure = failure;
     });
+    // The answer does not say that the watcher keeps the item; its list does.
     const auto check = [this, attempt, round = m_round] {
         if (round == m_round)
             checkRegistration(attempt);
@@ -139,7 +141,7 @@ void WatcherLink::checkRegistration(int attempt)
         watcherCall(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     message << watcherService() << QStringLiteral("RegisteredStatusNotifierItems");
     call(message, [this, attempt](const QDBusMessage& answer) {
-        // A watcher that does not tell its items is believed.
+        // A watcher that does not list its items is trusted.
         if (answer.type() != QDBusMessage::ReplyMessage)
             return;
         const QVariant items = answer.arguments().value(0).value<QDBusVariant>().variant();

@@ -19,9 +19,9 @@ namespace quindle {
 /// ":1.8", ":1.8/Path", ":1.8@/Path".
 bool listsItemOf(const QString& uniqueName, const QStringList& items);
 
-/// The way to the watcher of status notifier items: hears when it comes, goes or is replaced, and registers
-/// the item there. Every call is asynchronous; without a watcher nothing runs until the bus tells of one. One
-/// that comes and goes all the time is answered at most twice a second.
+/// The link to the watcher of status notifier items: notices when it comes, goes or is replaced, and
+/// registers the item there. Every call is asynchronous; without a watcher nothing runs until the bus
+/// announces one. One that comes and goes all the time is answered at most twice a second.
 class WatcherLink final : public QObject
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ private:
     RateLimit m_changes;
     QString m_owner;
     QString m_failure; ///< of the last registration
-    int m_round = 0;   ///< counts the owners; answers that belong to an earlier one are not heard
+    int m_round = 0;   ///< counts the owners; answers that belong to an earlier one are ignored
 };
 
 } // namespace quindle

@@ -10,6 +10,7 @@ namespace quindle {
 LinuxBundle::LinuxBundle(const QString& executablePath)
 {
     std::error_code error;
+    // Links resolved: programs are usually started through one in /usr/bin.
     const auto executable = std::filesystem::canonical(pathBytes(executablePath).toStdString(), error);
     if (!error)
         m_path = pathText(QByteArray::fromStdString(executable.parent_path().parent_path().parent_path()));

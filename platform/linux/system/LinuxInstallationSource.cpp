@@ -64,7 +64,7 @@ InstallationSource fromPacman(const QString& file, const QString& root)
     return {};
 }
 
-/// Its database has no form that others may read.
+/// Its database has no documented form for others to read.
 InstallationSource fromRpm(const QString& file, const QString& root)
 {
     const QString program = root + QStringLiteral("/usr/bin/rpm");

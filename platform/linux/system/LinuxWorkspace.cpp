@@ -33,6 +33,7 @@ LinuxWorkspace::LinuxWorkspace(QStringList handlerFolders)
 void LinuxWorkspace::launchApplication(const QString& path)
 {
     if (launch(path)) {
+        // A path that worked may fail again, which is news.
         m_failed.remove(path);
         return;
     }
