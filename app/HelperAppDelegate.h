@@ -81,8 +81,8 @@ public:
     /// empty when nothing there is usable.
     QVariantList getSavedDataArray() const;
 
-    /// Starts sending this moment's record with the serial number masked, and does not look at what comes of
-    /// it. Without a host of the statistics service nothing is sent.
+    /// Starts sending this moment's record with the serial number masked, and ignores the outcome. Without a
+    /// host of the statistics service nothing is sent.
     void uploadDailyMacDataToQNDOnline();
 
     /// The same with the serial number in clear. inherited: a named entry point that nothing calls.

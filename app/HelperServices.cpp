@@ -43,7 +43,7 @@ private:
 };
 
 /// The network of a recorded computer whose posts leave for the host that its own bundle names. The program's
-/// own service hears of no computer but the real one.
+/// own service never hears of an invented computer.
 class MachineUrlSession : public UrlSession
 {
 public:

@@ -20,10 +20,10 @@ public:
 
     virtual Platform platform() = 0;
 
-    /// Lets a recorded computer's later states happen in their time; this computer does so by itself.
+    /// Plays a recorded computer's later states in their time; does nothing for this computer.
     virtual void play(HelperAppDelegate& delegate) = 0;
 
-    /// This computer; `systemRoot` stands in place of /sys when it is not empty. Needs a QApplication.
+    /// This computer; `systemRoot` replaces /sys when it is not empty. Needs a QApplication.
     static std::unique_ptr<HelperServices> ofThisComputer(const QString& systemRoot);
 
     /// A recorded computer. Needs a QApplication.

@@ -70,8 +70,10 @@ void playFrom(std::size_t index, const std::vector<MachineStep>& steps, Recorded
 {
     if (index >= steps.size())
         return;
+    // Counted from the step before and not from the start, as the file says it.
     const auto wait = std::chrono::duration_cast<std::chrono::milliseconds>(
         std::chrono::duration<double>(steps[index].after));
+    // The delegate is the context: with it the play ends, and no timer refers to what has gone.
     QTimer::singleShot(wait, &delegate, [index, &steps, &recorded, &platform, &delegate] {
         playStep(steps[index], recorded, platform, delegate);
         playFrom(index + 1, steps, recorded, platform, delegate);

@@ -13,8 +13,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(olderSettingsLog, "quindle.settings")
 
-/// An older helper that parked a text stored the standard row and wrote the default template in its place; by
-/// itself neither of them is stored.
+/// An older helper that parked a text stored the standard row and wrote the default template in its place;
+/// neither of them is ever stored alone.
 bool hasParkedByOlderHelper(const UserDefaults& standard, const UserDefaults& suite)
 {
     const auto row = convertToInteger(standard.object(menuBarSettingKey()));

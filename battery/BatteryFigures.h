@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-/// The battery's figures in plain doubles, unrounded and unguarded: what is divided by 0 is infinite or not a
-/// number, and reaches the reader so.
+/// The battery's figures in plain doubles, unrounded and unguarded: a division by 0 is infinite or not a
+/// number, and is passed on as such.
 namespace quindle {
 
 /// part ÷ whole × 100, in this order: 29 of 100 is 28.999999999999996.

@@ -6,8 +6,7 @@
 
 namespace quindle {
 
-/// The registry keys of the battery that the program knows. The order is the enumeration's numbering, 0
-/// to 21.
+/// The registry keys of the battery that the program knows. Their order is the numbering, 0 to 21.
 enum class BatteryRegistryKey {
     ExternalConnected,
     Amperage,

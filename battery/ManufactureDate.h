@@ -10,7 +10,7 @@ namespace quindle {
 /// November 1979); a year beyond what QDateTime can hold becomes its first or last. Never invalid.
 QDateTime decodeManufactureDate(qint64 packed);
 
-/// The same date by way of the binary digits, and at noon: the former decoding.
+/// The same date, at noon, read from the binary digits: the former decoding.
 QDateTime decodeManufactureDateByDigits(qint64 packed);
 
 } // namespace quindle

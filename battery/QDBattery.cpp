@@ -102,6 +102,7 @@ IOStatus QDBattery::close()
 
 void QDBattery::invokeTimer()
 {
+    // A timer that was let go of may outlive the battery.
     const auto refresh = [battery = QPointer<QDBattery>(this)] {
         if (battery)
             battery->updateData();
@@ -112,6 +113,7 @@ void QDBattery::invokeTimer()
 
 void QDBattery::updateData()
 {
+    // The order is fixed: later figures are made from earlier ones, and every read asks the computer.
     updateIdentity();
     m_cycleCount = cycleCount();
     updateCapacities();
@@ -286,6 +288,7 @@ void QDBattery::toggleTemperatureMode()
     else if (m_temperatureMode == TemperatureUnit::Fahrenheit)
         m_temperatureMode = TemperatureUnit::Celsius;
     m_temperature = getCustomTemperature();
+    // Also when Kelvin stayed: the same value is not written twice.
     storeMode(m_platform.userDefaults.standard(), temperatureModeKey(), m_temperatureMode);
     Q_EMIT changed();
 }

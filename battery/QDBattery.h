@@ -64,8 +64,8 @@ class QDBattery : public QObject
     Q_PROPERTY(QVariantList raw MEMBER m_raw NOTIFY changed)
 
 public:
-    /// Reads both modes from the standard defaults (`QDBatteryTemperatureMode`, `QDBatteryAgeMode`); touches
-    /// nothing else. `macModel` is the model identifier, e.g. "MacBookAir6,2".
+    /// Reads both modes from the helper's own settings (`QDBatteryTemperatureMode`, `QDBatteryAgeMode`);
+    /// touches nothing else. `macModel` is the model identifier, e.g. "MacBookAir6,2".
     QDBattery(const Platform& platform, const QString& macModel);
     ~QDBattery() override;
 
@@ -80,7 +80,8 @@ public:
     /// refresh; `open` may be called again.
     IOStatus close();
 
-    /// Starts a refresh every 5.0 s, with 5.0 s of tolerance. Called again it starts another one beside it.
+    /// Starts a refresh every 5.0 s, with 5.0 s of tolerance. A second call starts another timer beside the
+    /// first.
     void invokeTimer();
 
     /// The refresh: copies every value, each read afresh from the registry, in a fixed order.
@@ -127,7 +128,7 @@ public:
     /// The MD5 digest of serial number and packed date, which names this battery in snapshots.
     QString generateBatteryID() const;
 
-    /// The adapter's rating, e.g. "60 Watts"; nothing without an adapter that tells it.
+    /// The adapter's rating, e.g. "60 Watts"; nothing without an adapter that reports it.
     std::optional<QString> adapterWatt() const;
 
     /// The temperature now, one decimal; 0 in every unit when the battery reports none.
@@ -148,7 +149,8 @@ public:
     /// The date in a packed manufacture date (see battery/ManufactureDate.h), at midnight local time.
     static std::optional<QDateTime> calculateManufactureDate(qint64 packed);
 
-    /// The former decoding, by digits of the binary text and at noon; nothing in the program uses it.
+    /// The former decoding, by digits of the binary text and at noon. inherited: nothing in the program calls
+    /// it.
     static std::optional<QDateTime> calculateManufactureDate_deprecated(qint64 packed);
 
     /// Asks the power-source service for its sources. The result is not used; a service that cannot be asked

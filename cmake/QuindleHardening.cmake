@@ -1,4 +1,4 @@
-# What makes a mistake with memory end the program in place of serving an attacker. tests/hardening looks at the built
+# What makes a mistake with memory end the program instead of serving an attacker. tests/hardening looks at the built
 # programs for each of these. The sanitizers bring their own checks, which these would hide.
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)

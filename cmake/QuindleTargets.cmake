@@ -10,7 +10,7 @@ function(quindle_library name)
     quindle_compiles_together(${name})
 endfunction()
 
-# Of the libraries only: which of their own lines the tests run tells nothing.
+# Of the libraries only: which of their own lines the tests run means nothing.
 function(quindle_counts_coverage name)
     if(QUINDLE_COVERAGE)
         target_compile_options(${name} PRIVATE --coverage -fprofile-update=atomic)

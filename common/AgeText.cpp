@@ -13,6 +13,7 @@ namespace {
 QDate monthsAfter(QDate day, qint64 months)
 {
     const QDate first = firstOfMonth(monthNumber(day) + months);
+    // 31 January and a month is the last of February.
     return first.addDays(std::min(day.day(), first.daysInMonth()) - 1);
 }
 
@@ -21,8 +22,9 @@ QDateTime movedTo(QDate day, const QDateTime& moment)
     return moment.addDays(moment.date().daysTo(day));
 }
 
-/// Whether `start`, moved to that day, is after `end`, both in local time. The clock on the wall answers
-/// where no change of it can matter, since each look at the system's zone costs more than all the rest.
+/// Whether `start`, moved to that day, is after `end`, both in local time. Date and time of day alone decide
+/// where no change of the zone can matter, since each look at the system's zone costs more than everything
+/// else.
 bool isAfter(QDate day, const QDateTime& start, const QDateTime& end)
 {
     constexpr qint64 longestChange = 2;                  // days: places have left one out
@@ -72,6 +74,7 @@ QString yearsText(qint64 months)
 QString ageText(int mode, const QDateTime& from, const QDateTime& to)
 {
     switch (mode) {
+    // Modes come from stored numbers, of which others show days.
     case 1:
         return integerText(wholeMonths(from, to)) + QStringLiteral(" months");
     case 2:

@@ -11,9 +11,10 @@ namespace quindle {
 void fatalError(QStringView message)
 {
     QString line = message.toString();
-    // Names of files are anybody's text, the message stays one line.
+    // File names may hold any text; the message stays one line.
     std::replace_if(
         line.begin(), line.end(), [](QChar c) { return c < u' '; }, u' ');
+    // Straight to standard error: whatever handles log messages may be what is broken.
     std::fprintf(stderr, "quindle: fatal: %s\n", line.toUtf8().constData());
     std::abort();
 }

@@ -14,7 +14,7 @@ namespace {
 class OpenFile
 {
 public:
-    // Should a pipe come into the file's place after it was looked at, opening does not wait for a writer.
+    // If a pipe takes the file's place after the check, opening it does not wait for a writer.
     explicit OpenFile(const QByteArray& path)
         : m_descriptor(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY))
     {
@@ -49,6 +49,7 @@ FileContents readAll(int descriptor, qint64 size)
                                      static_cast<std::size_t>(contents.bytes.size() - filled));
         if (count < 0 && errno != EINTR)
             return {{}, errno};
+        // It became shorter while it was read.
         if (count == 0)
             break;
         filled += count > 0 ? count : 0;
@@ -65,6 +66,7 @@ FileContents fileContents(const QString& path, qint64 mostBytes)
     if (name.contains('\0')) // the system would read the name up to there
         return {{}, ENOENT};
     struct stat found = {};
+    // Looked at before it is opened: opening a device can have effects of its own.
     if (::stat(name.constData(), &found) != 0)
         return {{}, errno};
     if (const int fault = faultOf(found, mostBytes))

@@ -5,7 +5,7 @@
 
 namespace quindle {
 
-/// What a file holds, or why that is not to be had.
+/// What a file holds, or why it cannot be read.
 struct FileContents
 {
     QByteArray bytes;
@@ -13,7 +13,7 @@ struct FileContents
 };
 
 /// Reads a whole ordinary file. Anything else, such as a device or a pipe, is not opened: it could keep the
-/// reader waiting for ever, or have no end.
+/// reader waiting without end, or be endless.
 FileContents fileContents(const QString& path, qint64 mostBytes);
 
 /// Why a file could not be read, to follow its name: "cannot be read: No such file or directory".

@@ -21,7 +21,7 @@ qint64 floorDivided(qint64 number, qint64 divisor)
 qint64 monthNumber(QDate day)
 {
     const qint64 year = day.year() < 0 ? day.year() + 1 : day.year(); // QDate has no year 0
-    return year * 12 + day.month() - 1; // as it is: a date before the first year stays before it
+    return year * 12 + day.month() - 1; // unchanged: a date before the first year stays before it
 }
 
 qint64 monthNumber(qint64 year, qint64 month)

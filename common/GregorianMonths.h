@@ -2,7 +2,7 @@
 
 #include <QDateTime>
 
-/// Months counted through in one line of 64-bit numbers, for arithmetic that no value can overflow. Dates
+/// Months numbered consecutively in 64 bits, so that no arithmetic on them can overflow. Dates
 /// that lie outside what QDateTime can hold are moved to its first or last year.
 namespace quindle {
 

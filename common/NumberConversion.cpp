@@ -11,6 +11,7 @@ constexpr double twoTo63 = 9223372036854775808.0;
 
 bool fitsInteger(double number)
 {
+    // 2^63 is a double and does not fit; the next smaller double does.
     return number >= -twoTo63 && number < twoTo63;
 }
 

@@ -8,7 +8,7 @@
 /// Property-list values as the platform's number class sees them: booleans, integers and reals are one class
 /// and compare by value; a text is never a number. Registry reads and settings both use these rules, so that
 /// "another type" means the same everywhere. A value that does not convert gives nothing; what that leads to
-/// (an abort for the registry, a default for settings) is the caller's rule.
+/// (an abort for the registry, a default value for settings) is the caller's rule.
 namespace quindle {
 
 /// True for booleans, integers and doubles; false for everything else, the invalid value included.

@@ -26,6 +26,7 @@ QString shortestText(double number)
     if (!std::isfinite(number))
         return notFiniteText(number);
     Buffer buffer{};
+    // to_chars looks at no locale, and gives the shortest text that reads back the same.
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
     const auto text = QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
     const bool looksReal = text.contains(u'.') || text.contains(u'e');
@@ -52,6 +53,7 @@ QString formatMinutes(qint64 minutes)
     Buffer buffer{};
     const long long hours = minutes / 60;
     const long long rest = minutes % 60;
+    // As the C format does it, which counts the sign of a negative remainder.
     const int length = std::snprintf(buffer.data(), buffer.size(), "%lld:%02lld", hours, rest);
     return QString::fromLatin1(buffer.data(), length);
 }

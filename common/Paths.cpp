@@ -17,6 +17,7 @@ bool isEscape(QChar character)
 /// How many bytes at `at` are one character in UTF-8; 0 when none are.
 qsizetype characterLength(const QByteArray& bytes, qsizetype at)
 {
+    // UTF-8 has no longer character.
     constexpr qsizetype longest = 4;
     for (qsizetype length = 1; length <= longest && at + length <= bytes.size(); ++length)
         if (QByteArrayView(bytes).sliced(at, length).isValidUtf8())

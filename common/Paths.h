@@ -23,8 +23,8 @@ QString homeFolder();
 /// relative single name and the empty text give the empty text.
 QString pathWithoutLastComponent(const QString& path);
 
-/// The path with a leading "~" replaced by the user's home folder; "~name" is left as it is, and so is all
-/// where there is no home folder.
+/// The path with a leading "~" replaced by the user's home folder; "~name" is left as it is, and so is every
+/// path of a user without a home folder.
 QString pathWithTildeExpanded(const QString& path);
 
 } // namespace quindle

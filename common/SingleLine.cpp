@@ -6,7 +6,7 @@ namespace quindle {
 
 namespace {
 
-// One character as a person counts them may carry any number of combining marks; this bounds them.
+// What a person counts as one character may carry any number of combining marks; this bounds them.
 constexpr qsizetype unitsPerCharacter = 8;
 
 bool isControl(QChar c)
@@ -45,6 +45,7 @@ QString elided(const QString& text, int length)
     if (text.size() <= length || positionAfter(text, length) < 0)
         return text;
     qsizetype cut = positionAfter(text, length - 1);
+    // Half a character cannot be sent over the bus.
     if (cut > 0 && text.at(cut - 1).isHighSurrogate())
         --cut;
     return text.left(cut) + QChar(0x2026);

@@ -23,6 +23,7 @@ QString realDescription(double number)
     std::array<char, 32> buffer{};
     qsizetype length = 0;
     double readBack = 0;
+    // 15 digits give 0.1 as "0.1"; 17 always read back.
     for (int precision = 15; precision <= 17; ++precision) {
         const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                            std::chars_format::general, precision);
@@ -47,6 +48,7 @@ QString dataDescription(const QByteArray& data)
 
 QString dateDescription(const QDateTime& date)
 {
+    // Always UTC, so that the same date has one description everywhere.
     return date.toUTC().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss +0000"));
 }
 

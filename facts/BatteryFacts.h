@@ -9,8 +9,8 @@ namespace quindle {
 
 class QDBattery;
 
-/// Adds what is told of the battery, in the order of a record. Null, for a computer without a battery: the
-/// same facts, and none of them shown. `chargeLimit` is the percentage at which charging stops, if it is
+/// Adds the facts of the battery, in the order of a record. With null, for a computer without a battery, the
+/// same facts are added and none is shown. `chargeLimit` is the percentage at which charging stops, if it is
 /// limited.
 void addBatteryFacts(std::vector<Fact>& facts, FactPlace place, const QDBattery* battery,
                      std::optional<int> chargeLimit);

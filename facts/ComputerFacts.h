@@ -8,7 +8,7 @@ namespace quindle {
 
 class QDMac;
 
-/// Adds what is told of the computer. Null: the same facts, and none of them shown.
+/// Adds the facts of the computer. With null the same facts are added and none is shown.
 void addComputerFacts(std::vector<Fact>& facts, FactPlace place, const QDMac* mac);
 
 } // namespace quindle

@@ -6,7 +6,7 @@
 
 namespace quindle {
 
-/// Where facts are shown. Some stand there in other words, or not at all.
+/// Where facts are shown. Some have other words there, or are left out.
 enum class FactPlace {
     View,    ///< the battery view
     Menu,    ///< the menu that the desktop draws
@@ -42,12 +42,12 @@ enum class FactId {
     ComputerAge,
 };
 
-/// Which facts stand together.
+/// Which facts belong together.
 enum class FactGroup {
     Summary, ///< of the battery; in the view each has a place of its own
     State,   ///< what the battery does
     Battery, ///< what it is
-    Devices, ///< batteries of devices beside the computer
+    Devices, ///< batteries of devices such as a mouse
     Computer,
 };
 
@@ -59,7 +59,7 @@ inline constexpr int lastRankOfToolTip = 9;
 inline constexpr int lastRankOfMenu = 19;    ///< in the menu itself: three at most, under the title
 inline constexpr int lastRankOfDetails = 89; ///< in the menu's "Details"; what comes after is not in menus
 
-/// One thing that people are told about battery, devices or computer, in the words of one place.
+/// One thing to show about battery, devices or computer, in the words of one place.
 struct Fact
 {
     FactId id = FactId::Charge;

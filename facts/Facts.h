@@ -9,15 +9,15 @@ namespace quindle {
 class PowerSources;
 class QDMac;
 
-/// Where facts come from. Null: nothing is known, or nobody is asked.
+/// Where facts come from. Null where nothing is known, or nobody is to be asked.
 struct FactSources
 {
     const QDMac* mac = nullptr;
     PowerSources* powerSources = nullptr; ///< for the charge limit and the devices
 };
 
-/// What is told at one place: for the report in the order of a record, elsewhere by rank. There are always
-/// the same facts, shown or not; only devices come and go, which are told in view and report.
+/// The facts of one place: for the report in the order of a record, elsewhere by rank. They are always the
+/// same ones, shown or not; only devices, which view and report have, come and go.
 std::vector<Fact> factsFor(FactPlace place, const FactSources& sources);
 
 /// Value and detail in one text: "Connected · 60 Watts", in the report "Connected (60 Watts)".

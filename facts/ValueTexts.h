@@ -22,7 +22,7 @@ QString wattsText(double watts);     ///< "12.4 W"
 /// A number of things, e.g. "1,234". 0 and less is how drivers say that they do not count.
 QString countText(qint64 count, FactPlace place);
 
-/// What is held of what there is room for, in mAh: "4,000 of 6,000 mAh"; of two capacities one may be
+/// The charge held and the room for it, in mAh: "4,000 of 6,000 mAh"; of two capacities one may be
 /// unknown (0 or less).
 QString capacitiesText(qint64 held, qint64 room, FactPlace place);
 
@@ -33,13 +33,13 @@ QString groupedText(qint64 number, const QString& separator);
 /// point, which is the decimal point here. Nothing in the report.
 QString groupSeparator(FactPlace place);
 
-/// Both texts with `between` between them, or the one that is there.
+/// Both texts with `between` between them, or the only one that is not empty.
 QString joined(const QString& first, const QString& between, const QString& second);
 
-/// What stands between two things that are told together.
+/// What separates two values that are shown together.
 QString besideEachOther();
 
-/// What stands where a value is missing: an en dash.
+/// What replaces a missing value: an en dash.
 QString missingValueText();
 
 } // namespace quindle

@@ -31,6 +31,7 @@ QVariantList savedRecords(const QString& path)
     constexpr qint64 largestFile =
         qint64{1024} * 1024 * 1024; // bytes; a century of records takes a fifth of it
     const FileContents file = fileContents(path, largestFile);
+    // Most computers have no main application, and so no history: that is no fault.
     if (file.error == ENOENT || file.error == ENOTDIR)
         return {};
     if (file.error != 0)

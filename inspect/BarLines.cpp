@@ -87,6 +87,7 @@ constexpr Name names[] = {
 
 QByteArray barHeader(BarFormat format)
 {
+    // i3bar reads an array that never ends.
     return format == BarFormat::I3bar ? QByteArrayLiteral("{\"version\":1}\n[\n") : QByteArray();
 }
 

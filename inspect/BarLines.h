@@ -18,10 +18,10 @@ std::optional<BarFormat> barFormatNamed(const QString& name);
 /// What is printed before the first state, with its line ends; empty for most formats.
 QByteArray barHeader(BarFormat format);
 
-/// One state as one line, without its line end. States that a format does not tell apart give the same line.
+/// One state as one line, without its line end. States that a format does not distinguish give the same line.
 QByteArray barLine(BarFormat format, const BarState& state);
 
-/// What stands between the line end of one state and the next state.
+/// What separates the line end of one state from the next state.
 QByteArray barSeparator(BarFormat format);
 
 } // namespace quindle

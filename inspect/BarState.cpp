@@ -35,7 +35,7 @@ QString iconName(const QString& powerState, double stateOfCharge)
 
 std::optional<int> wholePercent(double percentage)
 {
-    constexpr double most = 1000; // what a driver may say of a charge above full, and no more
+    constexpr double most = 1000; // room for drivers that report a charge above full
     if (!(percentage >= 0 && percentage <= most))
         return std::nullopt;
     return static_cast<int>(std::lround(percentage));

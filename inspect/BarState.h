@@ -18,7 +18,7 @@ struct BarState
     QString icon;
 
     QString state;                 ///< "charging", "full", "plugged", "discharging" or "no-battery"
-    std::optional<int> percentage; ///< rounded; nothing where there is none to tell
+    std::optional<int> percentage; ///< rounded; nothing where there is none
 
     /// The charge bar's colour: "good" (green), "warning" (yellow), "critical" (red), "unknown" (none), or
     /// "no-battery".

@@ -60,6 +60,7 @@ void addPowerSources(QVariantMap& keys, PowerSources& powerSources)
 
 QVariantMap capturedFiles(const SystemFiles& systemFiles)
 {
+    // The files that the program reads on a computer that has them; no other one matters to a replay.
     const QStringList paths{QStringLiteral("/System/Library/CoreServices/SystemVersion.plist"),
                             QDMac::privateFrameworksURL()};
     QVariantMap files;
@@ -103,6 +104,7 @@ std::vector<SerialPair> inventedSerials(const QVariantMap& registry)
     };
     const QString computer = text(computerEntry(), QStringLiteral("IOPlatformSerialNumber"));
     const QString battery = text(batteryEntry(), QStringLiteral("BatterySerialNumber"));
+    // Each invented serial has to differ from both, or it would give part of the other away.
     const QStringList both{computer, battery};
     return {{computer, inventedSerial(computer, true, both)},
             {battery, inventedSerial(battery, false, both)}};
@@ -112,6 +114,7 @@ QVariantMap withoutModelCache(QVariantMap databases)
 {
     for (QVariant& database : databases) {
         QVariantMap settings = database.toMap();
+        // Its keys are the ends of serial numbers.
         settings.remove(QStringLiteral("modelStringCache"));
         database = settings;
     }
@@ -157,6 +160,7 @@ QVariantMap withoutIdentity(const QVariantMap& keys)
     edit(QStringLiteral("Defaults"), withoutModelCache);
     edit(QStringLiteral("Bundle"), withoutUserName);
     if (clean.contains(QStringLiteral("LoginItems")))
+        // It holds the bundle's path, which has just changed.
         clean.insert(QStringLiteral("LoginItems"),
                      helperLoginItem(clean.value(QStringLiteral("Bundle")).toMap()));
     clean.insert(QStringLiteral("HostName"), QStringLiteral("Computer"));

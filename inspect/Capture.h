@@ -12,9 +12,9 @@ struct Platform;
 /// changed.
 QVariantMap capturedKeys(const Platform& platform);
 
-/// The same without what tells whose computer it is: both serials are invented ones wherever they occur, the
-/// name is "Computer", the model cache (its keys are parts of serials) is gone, and so is the user's
-/// name in the bundle's path.
+/// The same without anything that identifies the computer's owner: both serials are invented ones wherever
+/// they occur, the name is "Computer", the model cache (its keys are parts of serials) is gone, and so is the
+/// user's name in the bundle's path.
 QVariantMap withoutIdentity(const QVariantMap& keys);
 
 } // namespace quindle

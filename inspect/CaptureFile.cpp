@@ -21,7 +21,8 @@ bool isDeviceOrPipe(const QByteArray& path)
     return ::stat(path.constData(), &found) == 0 && !S_ISREG(found.st_mode) && !S_ISDIR(found.st_mode);
 }
 
-/// A file put in its place would take a device or pipe away from everybody. Errno's value.
+/// A device or pipe is written into: replacing it by a file would take it away from everybody. Returns
+/// errno's value.
 int writeInto(const QByteArray& path, const QByteArray& content)
 {
     const FileDescriptor file(::open(path.constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY));

@@ -59,7 +59,7 @@ bool takeFlag(const QString& argument, Given& given)
     return false;
 }
 
-/// Takes "--name value" or "--name=value". True when the argument is such an option; `fault` tells a missing
+/// Takes "--name value" or "--name=value". True when the argument is such an option; `fault` names a missing
 /// value.
 bool takeOption(const QStringList& arguments, qsizetype& index, Given& given, QString& fault)
 {

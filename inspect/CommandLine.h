@@ -32,7 +32,7 @@ struct InspectEnvironment
 };
 
 /// Reads the arguments (without the program's name). `--help` and `--version` win over the other calls; an
-/// option beats the environment, and a machine file beats a sysfs folder told in the same way.
+/// option beats the environment, and a machine file beats a sysfs folder given in the same way.
 CommandLine parseCommandLine(const QStringList& arguments, const InspectEnvironment& environment);
 
 /// What --help prints.

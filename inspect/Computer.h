@@ -20,17 +20,17 @@ struct RecentEvents;
 
 /// The computer that a call looks at: a machine file's, or this one. Either way nothing is shown, sent or
 /// stored: status bar, workspace and notifications are recorded ones, and settings are written in memory
-/// only. No time passes in it, unless the call follows it: then timers fire, and this computer tells of its
-/// power supplies, its sleep and changed settings.
+/// only. No time passes in it, unless the call follows it: then timers fire, and changes of this computer's
+/// power supplies, sleep and settings are noticed.
 class Computer
 {
 public:
-    /// The computer that the call names, or the line that tells why its machine file is refused.
+    /// The computer that the call names, or the line that says why its machine file is refused.
     static std::variant<std::unique_ptr<Computer>, MachineRefusal> open(const CommandLine& commandLine);
 
     const Platform& platform() const { return m_platform; }
 
-    /// Lets a recorded computer's later states happen in their time; this computer does so by itself.
+    /// Plays a recorded computer's later states in their time; does nothing for this computer.
     void playInTime(HelperAppDelegate& delegate);
 
     /// How many later states there are; 0 for this computer.
@@ -39,7 +39,7 @@ public:
     /// Plays one of them to a launched helper.
     void playStep(std::size_t index, HelperAppDelegate& delegate);
 
-    /// What the recorded services were told since the last call; the refreshes are not theirs to count.
+    /// What the recorded services were asked for since the last call; refreshes are counted elsewhere.
     RecentEvents takeEvents();
 
 private:

@@ -28,6 +28,7 @@ void Follower::writeIfChanged()
     m_figureWatch.setTitleTemplate(m_inspection.preferences().customStatusBar());
     const RecentEvents recent = m_computer.takeEvents(); // or they would pile up
     QByteArray line = barLine(m_format, barState(m_inspection.delegate(), recent.toolTip));
+    // Bars redraw for each line, so a state that looks the same is not printed again.
     if (line == m_lastLine)
         return;
     m_write((m_lastLine ? barSeparator(m_format) : barHeader(m_format)) + line + '\n');

@@ -16,14 +16,14 @@ class Computer;
 class Inspection
 {
 public:
-    /// Constructs and launches the helper. `isDemo` puts the demonstration computer's model in place of the
-    /// computer's own.
+    /// Constructs and launches the helper. `isDemo` replaces the computer's own model by the demonstration
+    /// computer's.
     Inspection(Computer& computer, bool isDemo);
 
     /// Plays one later state of the computer.
     void playStep(std::size_t index);
 
-    /// The present state (see JsonState.h); the events told are those since the last call.
+    /// The present state (see JsonState.h); its events are those since the last call.
     QVariantMap takeState();
 
     HelperAppDelegate& delegate() { return m_delegate; }

@@ -6,6 +6,7 @@ namespace quindle {
 
 namespace {
 
+// Four characters of a serial name a computer nearly as well as all of them.
 constexpr qsizetype shortestRun = 4;
 constexpr qsizetype firstDateCharacter = 2; // counted from 0; three characters
 constexpr qsizetype afterDateCharacters = 5;
@@ -29,6 +30,7 @@ QChar inventedCharacter(QChar character, qsizetype position, int attempt)
     const QString alphabet = isDigit ? QStringLiteral("7041925836") : QStringLiteral("QXJKWZVYHGTB");
     const qsizetype index = position * 5 + attempt;
     const QChar first = alphabet[index % alphabet.size()];
+    // A character must not stay what it was by chance.
     return first == character ? alphabet[(index + 1) % alphabet.size()] : first;
 }
 
@@ -120,6 +122,7 @@ QString inventedSerial(const QString& serial, bool keepsDate, const QStringList&
         if (std::none_of(trueSerials.cbegin(), trueSerials.cend(), shares))
             return invented;
     }
+    // No serial of letters and digits shares a run with this.
     return QString(serial.size(), u'X');
 }
 

@@ -34,7 +34,7 @@ bool isKnownPercent(const std::vector<Fact>& facts, FactId id)
                        [id](const Fact& fact) { return fact.id == id && fact.percent; });
 }
 
-/// Icon and bars are the battery's: without one, or without the figure behind a bar, they tell nothing.
+/// Icon and bars are the battery's: without one, or without the figure behind a bar, they mean nothing.
 std::vector<Row> pictureRows(const QVariantMap& state, const std::vector<Fact>& facts)
 {
     if (!state.value(QStringLiteral("battery")).isValid())

@@ -8,8 +8,8 @@
 
 namespace quindle {
 
-/// A state (see JsonState.h) and the facts of the place Report in aligned lines for a person. Rows without
-/// anything to tell are left out.
+/// A state (see JsonState.h) and the facts of the place Report in aligned lines for a person. Rows without a
+/// value are left out.
 QString reportText(const QVariantMap& state, const std::vector<Fact>& facts);
 
 } // namespace quindle

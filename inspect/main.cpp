@@ -26,6 +26,7 @@ constexpr int wrongUsage = 2;
 void print(const QByteArray& bytes)
 {
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+    // At once: readers of a pipe wait for each line.
     std::fflush(stdout);
 }
 
@@ -60,7 +61,7 @@ void quitLater()
     QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
-/// Until the program is ended, or nobody reads any more. Both are a quiet end.
+/// Runs until the program is ended or nobody reads any more; neither is an error.
 int follow(Computer& computer, const CommandLine& commandLine)
 {
     const EndOfProcess endOfProcess(&quitLater);
@@ -68,6 +69,7 @@ int follow(Computer& computer, const CommandLine& commandLine)
         print(lines);
         if (!std::ferror(stdout))
             return;
+        // A reader that has gone is the usual end, not a failure to report.
         if (errno == EPIPE)
             std::clearerr(stdout);
         quitLater();
@@ -121,6 +123,7 @@ int answer(const CommandLine& commandLine)
 
 int main(int argc, char** argv)
 {
+    // First of all: serial numbers are read soon.
     keepMemoryOutOfCoreDumps();
     const QCoreApplication application(argc, argv);
     const CommandLine commandLine =

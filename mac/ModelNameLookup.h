@@ -15,7 +15,7 @@ class UrlSession;
 /// when it has none or no text.
 QString productInformationHost(const Bundle& bundle);
 
-/// The address that tells about a configuration code. Plain HTTP is the service's protocol.
+/// The address of the answer for a configuration code. Plain HTTP is the service's protocol.
 QString productInformationAddress(const QString& host, const QString& code);
 
 /// The first line of `name` with a parenthesised text, from its first "(" to its last ")", both included and
@@ -26,7 +26,7 @@ std::optional<QString> parenthesisedText(const QString& name);
 /// well-formed or has no such name.
 std::optional<QString> modelTextFromReply(const QString& code, const QByteArray& reply);
 
-/// Asks the service for the text that tells models of the code's family apart; nothing after any failure.
+/// Asks the service for the text that distinguishes models of the code's family; nothing after any failure.
 /// Waits for the answer. Without a configured host the address has none, which only a recorded computer
 /// answers.
 std::optional<QString> onlineModelText(const QString& code, const Bundle& bundle, UrlSession& urlSession);

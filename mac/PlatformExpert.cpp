@@ -16,6 +16,7 @@ QVariant expertProperty(IORegistry& registry, const QString& key)
     if (expert == 0)
         return {};
     QVariant value = registry.property(expert, key);
+    // At once: the entry never changes, so nothing is gained by holding it.
     registry.release(expert);
     return value;
 }

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The two values that the computer's own registry entry ("IOPlatformExpertDevice") tells. Each read opens
+/// The two values of the computer's own registry entry ("IOPlatformExpertDevice"). Each read opens
 /// the entry anew and gives it back.
 namespace quindle {
 

@@ -112,6 +112,7 @@ void QDMac::loadSettings()
 void QDMac::createBattery()
 {
     m_battery = std::make_unique<QDBattery>(m_platform, m_model.toString());
+    // An object without an entry would show zeros; none shows that there is no battery.
     if (m_battery->open() != kIOReturnSuccess) {
         m_battery.reset();
         return;
@@ -122,7 +123,7 @@ void QDMac::createBattery()
 
 void QDMac::dropBattery()
 {
-    m_battery->updateTimer()->invalidate(); // or it would go on for ever
+    m_battery->updateTimer()->invalidate(); // otherwise it would keep firing
     m_battery.reset();
 }
 
@@ -131,6 +132,7 @@ bool QDMac::followBattery()
     if (!m_followsBattery)
         return false;
     const std::optional<bool> isThere = m_platform.registry.isMatched(QStringLiteral("AppleSmartBattery"));
+    // Nothing is known on a computer whose entries stay what they were at the start.
     if (!isThere || *isThere == (m_battery != nullptr))
         return false;
     if (*isThere)

@@ -9,6 +9,7 @@ namespace {
 
 QVariant unlessEmpty(const QVariantMap& map)
 {
+    // An entry that could not be read is missing, and not an entry without properties.
     return map.isEmpty() ? QVariant() : QVariant(map);
 }
 

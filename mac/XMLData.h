@@ -7,7 +7,7 @@
 namespace quindle {
 
 /// Takes the product-information service's answer out of the parser's events. It only knows which element
-/// began last: the end of an element is not told to it.
+/// began last: it does not learn when an element ends.
 class XMLData
 {
 public:
@@ -23,7 +23,7 @@ public:
     /// stays.
     void foundCharacters(const QString& characters);
 
-    std::optional<QString> locale() const { return m_locale; }         ///< never told by any event
+    std::optional<QString> locale() const { return m_locale; }         ///< no event sets it
     std::optional<QString> configCode() const { return m_configCode; } ///< the marketing name
     std::optional<QString> name() const { return m_name; }
 

@@ -15,7 +15,7 @@ constexpr int longestText = 60;
 
 using Kind = StatusMenu::Kind;
 
-/// Not to be chosen, and hidden until there is something to tell.
+/// Cannot be chosen, and is hidden until there is something to show.
 StatusMenu::Row factRow(int parent)
 {
     return {Kind::Fact, {}, false, false, {}, parent};
@@ -26,7 +26,7 @@ QString oneLine(const QString& text, int length)
     return elided(singleLine(text), length);
 }
 
-/// Caption and value with a tab between, or the one that is there.
+/// Caption and value with a tab between them, or the only one that is not empty.
 QString menuText(const Fact& fact)
 {
     if (!fact.shown)
@@ -61,6 +61,7 @@ void MainInterface::addFactRows()
     m_titleRow = m_statusMenu.addRow(factRow(0));
     for (const Fact& fact : facts) {
         const bool isDetail = fact.rank > lastRankOfMenu;
+        // The submenu comes before its rows, as a row's parent has to.
         if (isDetail && m_detailsRow == 0)
             m_detailsRow = m_statusMenu.addRow({Kind::Submenu, QStringLiteral("Details"), true, true, {}, 0});
         m_factRows.push_back(m_statusMenu.addRow(factRow(isDetail ? m_detailsRow : 0)));

@@ -73,17 +73,17 @@ public:
     /// What the interface connects; virtual because an interface may lack an outlet.
     virtual MainOutlets outlets();
 
-    /// Says who carries out the entries. Until then they do nothing.
+    /// Sets who carries out the entries. Until then they do nothing.
     void setActions(StatusMenuActions* actions) { m_actions = actions; }
 
-    /// Says whom facts may ask besides the content of the object controller; nobody when null.
+    /// Sets whom facts may ask besides the content of the object controller; nobody when null.
     void setPowerSources(PowerSources* powerSources) { m_powerSources = powerSources; }
 
     /// Where the interface's facts come from.
     FactSources factSources() const { return {m_macObjectController.content(), m_powerSources}; }
 
-    /// Brings the Fact rows up to date; what is not shown is hidden. Observers of the menu hear only of rows
-    /// that are different, the observer of the facts of each call.
+    /// Brings the Fact rows up to date; what is not shown is hidden. Observers of the menu are called for
+    /// changed rows only, the observer of the facts at each call.
     void updateFacts(const QString& title);
 
     /// The one observer of `updateFacts`; an empty function for none.

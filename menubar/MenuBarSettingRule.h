@@ -15,7 +15,7 @@ constexpr qint64 customTextRow = 1;
 QString menuBarSettingKey();
 QString parkedTextKey();
 
-/// The title's template, and the one that is kept while the standard title is shown.
+/// The title's template, and the one that is parked while the standard title is shown.
 struct MenuBarTexts
 {
     QString customStatusBar;
@@ -25,11 +25,11 @@ struct MenuBarTexts
 };
 
 /// The texts after `row` was chosen where `before` was stored. The standard row parks the user's own template
-/// and shows the default one. Any other row after the standard one puts the parked one back unless there is
-/// another of the user's own by then, so that no text is lost that was written elsewhere.
+/// and shows the default one. Any other row after the standard one puts the parked one back, unless the user
+/// has written another one by then, so that no text written elsewhere is lost.
 MenuBarTexts textsAfterChoosing(qint64 before, qint64 row, const MenuBarTexts& texts);
 
-/// The row to show as selected: the one of what is in force. A template that was written elsewhere is a
+/// The row to show as selected: that of the template in force. A template that was written elsewhere is a
 /// custom text, whatever row is stored.
 qint64 rowInForce(qint64 stored, const QString& customStatusBar);
 

@@ -34,7 +34,7 @@ class ProgressIndicator
 public:
     const ContentFilters& contentFilters() const { return m_contentFilters; }
 
-    /// Replaces the filters; the observer hears of it only when they are different ones.
+    /// Replaces the filters; the observer is called only when they are different ones.
     void setContentFilters(const ContentFilters& filters);
 
     /// The one observer; an empty function for none.

@@ -16,11 +16,12 @@ QString chargingDirection(bool isCharging)
     return isCharging ? QStringLiteral(u"\u2B06\uFE0E") : QStringLiteral(u"\u2B07\uFE0E");
 }
 
-// Nobody reads a longer title, and putting one together and sending it makes the helper and the panel busy.
+// Nobody reads a longer title, and making and sending one keeps helper and panel busy.
 constexpr qsizetype longestTemplate = 4096;
 
 QString cutTemplate(const QString& titleTemplate)
 {
+    // Half a character is no text, and the bus would refuse the title.
     const bool splitsCharacter =
         titleTemplate.size() > longestTemplate && titleTemplate[longestTemplate - 1].isHighSurrogate();
     return titleTemplate.left(splitsCharacter ? longestTemplate - 1 : longestTemplate);

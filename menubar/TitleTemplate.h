@@ -15,7 +15,7 @@ struct TitleValues
     qint64 amperage = 0;       ///< %mA, mA, negative while discharging
     qint64 cycleCount = 0;     ///< %l
 
-    // Where nothing is known a title has what stands in for it ("0.0"); who explains placeholders may say so.
+    // Where nothing is known a title shows a stand-in ("0.0"); an explanation of the placeholders may say so.
     bool knowsTemperature = true;
     bool knowsPower = true;
     bool knowsCurrent = true;

@@ -87,6 +87,7 @@ void PropertyListGraph::readTrailer()
     m_root = number(trailer + 16, 8);
     m_offsetTable = number(trailer + 24, 8);
     const auto isWidth = [](quint64 width) { return width >= 1 && width <= 8; };
+    // Compared by division, so that no number in the trailer can overflow the sum.
     const bool isTableInside = isWidth(m_offsetWidth) && isWidth(m_referenceWidth) &&
                                m_offsetTable <= trailer && count <= (trailer - m_offsetTable) / m_offsetWidth;
     m_count = isTableInside ? count : 0;
@@ -99,6 +100,7 @@ PropertyListGraph::Element PropertyListGraph::elementAt(quint64 offset) const
         return invalid;
     const auto marker = static_cast<quint8>(m_bytes[static_cast<qsizetype>(offset)]);
     Element found{.kind = kindOf(marker), .marker = marker, .start = offset + 1, .count = detailOf(marker)};
+    // Checked once here, so that the readers below need no bounds of their own.
     const bool isInside =
         readCount(found) && found.count <= m_size && byteLength(found) <= m_size - found.start;
     return isInside ? found : invalid;
@@ -111,6 +113,7 @@ bool PropertyListGraph::readCount(Element& found) const
         return true;
     const quint64 marker = found.start < m_size ? number(found.start, 1) : 0;
     const quint64 width = quint64{1} << (marker & 0x0f);
+    // The count is written as an integer, and has to be one that fits.
     if (marker >> 4 != 0x1 || width > 8 || width >= m_size - found.start)
         return false;
     found.count = number(found.start + 1, width);
@@ -214,6 +217,7 @@ bool PropertyListGraph::isText(const Element& element, QLatin1StringView wanted)
         return false;
     if (isWide(element.marker))
         return text(element) == wanted;
+    // Compared where it lies: this is asked for every key of every object.
     return QLatin1StringView(content(element), wanted.size()) == wanted;
 }
 

@@ -7,10 +7,10 @@
 namespace quindle {
 
 /// A property list as the binary encoding stores it: numbered nodes that refer to each other, each read only
-/// when asked for. Unlike a tree of values it does not multiply what a file refers to more than once. An XML
+/// when asked for. Unlike a tree of values it does not copy what a file refers to more than once. An XML
 /// list is rewritten in the binary encoding first, so that there is one reader for both.
 ///
-/// Nothing is promised of the graph's form: nodes may hold themselves, and share others without end.
+/// The graph may have any form: nodes may contain themselves, and share others without end.
 class PropertyListGraph
 {
 public:
@@ -31,7 +31,7 @@ public:
         Dictionary,
     };
 
-    /// What stands at a node. Looked up once, it answers everything else about the node.
+    /// What is at a node. Looked up once, it answers every other question about the node.
     struct Element
     {
         Kind kind = Kind::Missing;

@@ -6,7 +6,7 @@
 
 namespace quindle {
 
-/// How deep arrays and dictionaries may stand in each other. Readers, writers and destructors recurse, so a
+/// How deep arrays and dictionaries may be nested. Readers, writers and destructors recurse, so a
 /// deeper list would run into the end of the stack.
 inline constexpr int mostPropertyListLevels = 512;
 
@@ -23,7 +23,7 @@ constexpr quint64 weightOfContent(quint64 count)
     return count / 16;
 }
 
-/// What may be made of a list of a certain size in bytes, whatever it says. Time and memory stay in
+/// How much may be made of a list of a certain size in bytes, whatever it contains. Time and memory stay in
 /// proportion to that size.
 class PropertyListLimits
 {
@@ -44,7 +44,7 @@ public:
     }
 
     /// Puts a value into an array or dictionary. False when that becomes too deep, or unfolds to more than a
-    /// lifetime of records that are all the same: lists can be made to unfold for ever.
+    /// lifetime of records that are all the same: lists can be made to unfold without end.
     bool put(const Extent& part, Extent& whole) const
     {
         whole.weight += part.weight;

@@ -10,7 +10,7 @@ namespace {
 
 void writeValue(QXmlStreamWriter& xml, const QVariant& value);
 
-/// Empty for a date whose year has no four digits, which no reader takes.
+/// Empty for a date whose year does not have four digits, which no reader accepts.
 QString isoText(const QDateTime& date)
 {
     return date.toUTC().toString(Qt::ISODate);

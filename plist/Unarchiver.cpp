@@ -12,9 +12,11 @@ namespace quindle {
 
 namespace {
 
+// Two marks among the positions, so that one vector holds them and what was read.
 constexpr quint32 notRead = std::numeric_limits<quint32>::max();
 constexpr quint32 beingRead = notRead - 1;
 
+// These are as cheap to read again as to keep.
 bool isPlainNumber(PropertyListGraph::Kind kind)
 {
     return kind == PropertyListGraph::Kind::Boolean || kind == PropertyListGraph::Kind::Integer ||
@@ -37,12 +39,14 @@ bool Unarchiver::readRecords(QVariantList& records)
     Element root;
     if (!findRoot(root))
         return false;
+    // An instance is a dictionary that names its class.
     if (root.kind != Kind::Dictionary || classOf(root) != ArchivedClass::Array)
         return fail("its root is no array");
     const auto elements = references(root, "NS.objects", "NS.object.");
     if (!elements)
         return fail(damagedObject);
     Extent extent{.height = 1};
+    // Safe to reserve: the references were counted against the file's size.
     records.reserve(static_cast<qsizetype>(elements->size()));
     for (const quint64 reference : *elements) {
         Object record;
@@ -64,6 +68,7 @@ bool Unarchiver::findRoot(Element& root)
         return fail("it is no keyed archive");
     m_objects = find(archive, "$objects");
     const Element reference = find(find(archive, "$top"), "root");
+    // The upper numbers are the marks.
     if (m_objects.kind != Kind::Array || m_objects.count >= beingRead || reference.kind != Kind::Reference)
         return fail("it has no root object");
     m_positions.assign(m_objects.count, notRead);
@@ -81,6 +86,7 @@ bool Unarchiver::object(quint64 reference, int level, Object& object)
         object = m_read[position];
         return true;
     }
+    // A list can be made to refer to itself; following it would never end.
     if (position == beingRead)
         return fail("an object contains itself");
     const Element element = archived(reference);
@@ -88,6 +94,7 @@ bool Unarchiver::object(quint64 reference, int level, Object& object)
         object.value = m_graph.value(element);
         return true;
     }
+    // Marked before its parts are read, so that one of them leading back here is noticed.
     m_positions[reference] = beingRead;
     if (!read(element, level, object))
         return fail(damagedObject);
@@ -104,6 +111,7 @@ bool Unarchiver::read(const Element& element, int level, Object& object)
     case Kind::Null:
         return true;
     case Kind::Text:
+        // The text that every archive has in place of a missing object.
         return m_graph.isText(element, QLatin1StringView("$null")) || readText(element, object);
     case Kind::Data:
         return readData(element, object);
@@ -145,6 +153,7 @@ bool Unarchiver::readInstance(const Element& element, int level, Object& object)
 
 bool Unarchiver::readContainer(const Element& element, ArchivedClass archived, int level, Object& object)
 {
+    // Reading recurses, and so does the destructor of what was read.
     if (level > mostPropertyListLevels)
         return fail(tooDeep);
     object.extent.height = 1;
@@ -184,6 +193,7 @@ bool Unarchiver::readDictionary(const Element& element, int level, Object& objec
         Object value;
         if (!this->object((*values)[key.index], level + 1, value) || !put(value, object.extent))
             return false;
+        // In sorted order, so each entry goes to the end without a search.
         map.insert_or_assign(map.end(), key.text, std::move(value.value));
     }
     object.value = QVariantMap(std::move(map));
@@ -195,6 +205,7 @@ bool Unarchiver::readDictionary(const Element& element, int level, Object& objec
 const Unarchiver::KeyList* Unarchiver::keyList(const References& references, int level)
 {
     const auto known = m_keyLists.find(references);
+    // Records of one history share their keys, so these are sorted once.
     if (known != m_keyLists.end())
         return &known->second;
     KeyList list;
@@ -202,6 +213,7 @@ const Unarchiver::KeyList* Unarchiver::keyList(const References& references, int
     for (const quint64 reference : references)
         if (!readKey(reference, level, list))
             return nullptr;
+    // Stable, so that of equal keys the last one in the file stays the last.
     std::stable_sort(list.sorted.begin(), list.sorted.end(),
                      [](const Key& left, const Key& right) { return left.text < right.text; });
     return &m_keyLists.emplace(references, std::move(list)).first->second;
@@ -253,6 +265,7 @@ bool Unarchiver::readDate(const Element& element, Object& object)
 
 bool Unarchiver::readNumber(const Element& element, Object& object)
 {
+    // Encoders name the value differently.
     for (const char* key : {"NS.number", "NS.boolval", "NS.intval", "NS.dblval"}) {
         object.value = m_graph.value(resolved(find(element, key)));
         if (isNumber(object.value))
@@ -266,6 +279,7 @@ ArchivedClass Unarchiver::classOf(const Element& instance)
     const Element description = find(instance, "$class");
     if (description.kind != Kind::Reference)
         return ArchivedClass::Unknown;
+    // All records have the same few classes, so each is looked up once.
     const quint64 reference = m_graph.reference(description);
     const auto known = m_classes.constFind(reference);
     if (known != m_classes.cend())
@@ -351,6 +365,7 @@ std::optional<Unarchiver::References> Unarchiver::numberedReferences(const Eleme
     }
     References found;
     for (const auto& [number, reference] : numbered) {
+        // A gap means that the file lost an item.
         if (number != found.size())
             return std::nullopt;
         found.push_back(reference);
@@ -379,7 +394,7 @@ bool Unarchiver::put(const Object& part, Extent& whole)
                     : "its shared objects unfold to more than it has room for");
 }
 
-/// The first reason is the one that is told.
+/// Only the first reason is kept: later ones follow from it.
 bool Unarchiver::fail(const char* reason)
 {
     if (m_fault.isEmpty())

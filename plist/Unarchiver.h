@@ -22,7 +22,7 @@ class Unarchiver
 public:
     explicit Unarchiver(const PropertyListGraph& graph);
 
-    /// False, with `fault` told, when the root is no array of dictionaries with text keys.
+    /// False, with `fault` set, when the root is no array of dictionaries with text keys.
     bool readRecords(QVariantList& records);
 
     const QString& fault() const { return m_fault; }

@@ -51,6 +51,7 @@ using Object = std::optional<QByteArray>;
 
 QByteArray textObject(const QString& text)
 {
+    // Most texts are, and take half the room so.
     const bool isAscii = std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80; });
     if (isAscii)
         return counted(asciiMarker, text.size()) + text.toLatin1();
@@ -65,16 +66,19 @@ Object integerObject(const QString& text)
     const QString digits = isNegative || text.startsWith(u'+') ? text.mid(1) : text;
     if (digits.isEmpty() || !digits.front().isLetterOrNumber())
         return std::nullopt;
+    // Property lists may write integers so.
     const bool isHexadecimal = digits.startsWith(QStringLiteral("0x"), Qt::CaseInsensitive);
     bool isNumber = false;
     const quint64 number = digits.toULongLong(&isNumber, isHexadecimal ? 16 : 10);
     if (!isNumber)
         return std::nullopt;
+    // Two's complement by hand, so that the smallest number is not an overflow.
     return integerMarker + eightBytes(isNegative ? 0 - number : number);
 }
 
 Object realObject(const QString& text)
 {
+    // from_chars knows no plus sign, and unlike the C functions no locale.
     const QByteArray bytes = (text.startsWith(u'+') ? text.mid(1) : text).toUtf8();
     const char* const end = bytes.constData() + bytes.size();
     double number = 0;
@@ -98,6 +102,7 @@ Object dataObject(const QString& text)
 {
     QByteArray base64;
     for (const QChar character : text)
+        // Writers break data into indented lines.
         if (!character.isSpace())
             base64 += character.toLatin1();
     const auto decoded = QByteArray::fromBase64Encoding(base64, QByteArray::AbortOnBase64DecodingErrors);
@@ -149,6 +154,7 @@ QByteArray XmlTranscript::binary()
     if (!m_xml.readNextStartElement() || m_xml.name() != u"plist" || !m_xml.readNextStartElement())
         return {};
     const Node root = addValue(1);
+    // Anything after the one value makes the list broken, as it does for other readers.
     const bool isOnlyValue = !m_xml.readNextStartElement();
     while (!m_xml.atEnd())
         m_xml.readNext();
@@ -201,8 +207,10 @@ XmlTranscript::Node XmlTranscript::addContainer(bool isDictionary, int level)
             return std::nullopt;
         values += eightBytes(*value);
     }
+    // The form that a reference has in XML.
     if (keys.size() == 8 && key == u"CF$UID" && m_bytes[m_last] == integerMarker)
         return add(referenceMarker + m_bytes.last(8));
+    // After what it holds, so its references are known when it is written.
     return add(counted(isDictionary ? dictionaryMarker : arrayMarker, values.size() / 8) + keys + values);
 }
 

@@ -10,9 +10,10 @@ class NotificationCenter;
 class UserDefaults;
 struct Platform;
 
-/// Every setting of the helper, typed. Each read goes to its database; a value that is missing or of another
-/// type reads as the default said here. "Suite" settings are shared with the main application; when the suite
-/// cannot be opened they read as their default and are not written. Main thread only.
+/// The settings of the helper, typed. inherited: the name, and "defaults" for a database (UserDefaults). Each
+/// read goes to its database; a value that is missing or of another type reads as the default value given
+/// here. "Suite" settings are shared with the main application; when the suite cannot be opened they read as
+/// their default value and are not written. Main thread only.
 class ApplicationPreferences
 {
 public:

@@ -48,8 +48,7 @@ bool StartupLaunch_pref::isAppLoginItem(LoginItems& items, const QString& bundle
 void StartupLaunch_pref::setLaunchOnLogin(LoginItems& items, const QString& bundlePath, bool enable)
 {
     const auto item = helperItem(items, bundlePath);
-    if (!items.snapshot()) // inherited: the list is fetched a second time to be changed, and may be gone by
-                           // then
+    if (!items.snapshot()) // inherited: fetched a second time to be changed; it may be gone by then
         return;
     if (enable && !item)
         items.insertBeforeFirst(insertLocation(bundlePath));

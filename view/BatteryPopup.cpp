@@ -15,6 +15,8 @@ namespace {
 BatteryWindow::Kind windowKind(const Application& application)
 {
     using Kind = BatteryWindow::Kind;
+    // A Wayland client cannot place a popup without a parent, so the desktop gets an ordinary window to
+    // place.
     const bool placesWindows = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
     if (placesWindows)
         return Kind::Plain;
@@ -32,6 +34,7 @@ BatteryPopup::BatteryPopup(MainInterface& interface, const Application& applicat
 {
     interface.statusMenu().setViewOpener([this] { open(); });
     interface.statusMenu().setViewToggler([this] { toggle(); });
+    // The menu has no way to lose an observer, and outlives this object.
     interface.statusMenu().addObserver([popup = QPointer(this)](int id) {
         if (popup && popup->m_window)
             popup->m_window->updateEntry(id);
@@ -47,6 +50,7 @@ BatteryPopup::~BatteryPopup()
     m_interface.statusMenu().setViewOpener({});
     m_interface.statusMenu().setViewToggler({});
     m_interface.setFactsObserver({});
+    // The window shows the interface's objects, which may go right after this one.
     delete m_window;
 }
 
@@ -63,8 +67,11 @@ void BatteryPopup::open()
         return;
     }
     m_window = new BatteryWindow(m_interface, windowKind(m_application));
+    // Figures that somebody looks at are read on time; they may be late while nobody does.
     m_window->setPunctuality(m_runLoop.keepPunctual());
     m_window->setClosedOutside([this] {
+        // A popup closes at the press and the tray reports the click at the release, so that click is
+        // remembered.
         m_closedAt = QCursor::pos();
         m_sinceClosedOutside.start();
     });

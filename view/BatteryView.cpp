@@ -30,6 +30,7 @@ BatteryView::BatteryView(MainInterface& interface, QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->headerGroup->setStretchFactor(m_ui->stateLabel, 1);
+    // The figure is never cut; the state beside it gives way.
     for (PlainLabel* whole : {m_ui->figureLabel, m_ui->percentLabel})
         whole->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_ui->stateOfChargeProgress->follow(interface.stateOfChargeProgress());
@@ -63,6 +64,7 @@ void BatteryView::showHealth(const Fact& health, const Fact& cycles)
 {
     m_ui->healthRow->setTexts(health.caption, health.value);
     m_ui->stateOfHealthProgress->setPercent(health.percent.value_or(0));
+    // An empty bar would say 0 %.
     m_ui->stateOfHealthProgress->setVisible(health.percent.has_value());
     m_ui->cyclesRow->setTexts(cycles.value, health.detail);
     m_ui->cyclesRow->setVisible(!cycles.value.isEmpty() || !health.detail.isEmpty());

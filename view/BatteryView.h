@@ -13,7 +13,7 @@ class BatteryView;
 }
 
 /// The battery view ("menuView"): charge, state, health, battery, devices, computer. The figures and bars of
-/// charge and health have places of their own; all other facts are rows of their group. The bars are coloured
+/// charge and health have their own places; all other facts are rows of their group. The bars are coloured
 /// by the two indicators of the interface, which must outlive it.
 class BatteryView : public FactsView
 {

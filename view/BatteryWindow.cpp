@@ -47,6 +47,7 @@ BatteryWindow::BatteryWindow(MainInterface& interface, Kind kind)
     , m_interface(interface)
     , m_kind(kind)
 {
+    // Nothing of the view stays in memory while it is closed, which is nearly always.
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
     setObjectName(QStringLiteral("batteryWindow"));
@@ -55,6 +56,7 @@ BatteryWindow::BatteryWindow(MainInterface& interface, Kind kind)
     setAttribute(Qt::WA_TranslucentBackground, kind == Kind::RoundPopup);
 
     auto* layout = new QVBoxLayout(this);
+    // A popup has no frame of the desktop's; it draws its own line.
     const int border = isPopup() ? 1 : 0;
     layout->setContentsMargins(border, border, border, border);
     layout->setSpacing(0);
@@ -71,6 +73,7 @@ void BatteryWindow::addScrollArea(QVBoxLayout& layout)
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->viewport()->setAutoFillBackground(false); // the window draws it
+    // The window's size comes from fit(), not from the area's own idea of a height.
     m_scrollArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     layout.addWidget(m_scrollArea, 1);
 }
@@ -92,6 +95,7 @@ void BatteryWindow::updateFacts()
     const QDMac* mac = m_interface.macObjectController().content();
     const bool hasBattery = mac && mac->Battery();
     const std::vector<Fact> facts = factsFor(FactPlace::View, m_interface.factSources());
+    // At each update, because another battery is another object.
     followModels();
     if (!m_view || hasBattery != m_showsBattery) {
         m_showsBattery = hasBattery;
@@ -130,6 +134,7 @@ void BatteryWindow::addEntries(QVBoxLayout& layout)
     menuLayout->setSpacing(0);
     const StatusMenu& menu = m_interface.statusMenu();
     for (int id = 1; id <= static_cast<int>(menu.rows().size()); ++id) {
+        // Facts are the view's own part, and "Show Battery..." is what has just been done.
         if (menu.rows()[static_cast<std::size_t>(id) - 1].kind != StatusMenu::Kind::Action)
             continue;
         auto* entry = new MenuEntry(m_menu);
@@ -167,6 +172,7 @@ void BatteryWindow::open(const QPoint& anchor)
     show();
     raise();
     activateWindow();
+    // The window itself has the keyboard first: no entry looks chosen before a key is pressed.
     setFocus(Qt::PopupFocusReason);
 }
 
@@ -204,6 +210,7 @@ void BatteryWindow::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Escape:
         close();
         break;
+    // The arrow keys move as they do in a menu.
     case Qt::Key_Down:
         focusNextPrevChild(true);
         break;
@@ -217,6 +224,7 @@ void BatteryWindow::keyPressEvent(QKeyEvent* event)
 
 void BatteryWindow::mousePressEvent(QMouseEvent* event)
 {
+    // A popup grabs the pointer, so presses outside arrive here.
     if (isPopup() && !rect().contains(event->position().toPoint())) {
         if (m_closedOutside)
             m_closedOutside();
@@ -237,6 +245,7 @@ void BatteryWindow::paintEvent(QPaintEvent*)
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(mixed(text, background, borderShare), 1));
         painter.setBrush(background);
+        // Half a pixel in, so that a line one pixel wide falls on whole pixels.
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
         painter.setRenderHint(QPainter::Antialiasing, false);
     } else {

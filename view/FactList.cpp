@@ -43,6 +43,7 @@ void FactList::setFacts(const std::vector<Fact>& facts, FactGroup group)
         row(used++).setFact(fact);
         anyShown = anyShown || fact.shown;
     }
+    // Rows are hidden and not deleted: one of them may have the keyboard, or be the sender of this update.
     for (; used < m_rows.size(); ++used)
         m_rows[used]->hide();
     setVisible(anyShown);

@@ -28,7 +28,7 @@ Q_SIGNALS:
     void clicked(quindle::FactClick click);
 };
 
-/// Facts of one group, each in a row, under a heading. Nothing is seen of it while none of them is shown.
+/// Facts of one group, each in a row, under a heading. It is hidden while none of them is shown.
 class FactList : public QWidget
 {
     Q_OBJECT

@@ -36,6 +36,7 @@ QSize MenuEntry::minimumSizeHint() const
 void MenuEntry::enterEvent(QEnterEvent* event)
 {
     PlainButton::enterEvent(event);
+    // The pointer moves the keyboard's place, so that never two entries look chosen.
     if (isEnabled())
         setFocus(Qt::MouseFocusReason);
 }

@@ -49,6 +49,7 @@ menuIndicator::menuIndicator(QWidget* parent)
 menuIndicator::~menuIndicator()
 {
     if (m_indicator)
+        // The indicator outlives the view, which is made anew at each opening.
         m_indicator->setObserver({});
 }
 

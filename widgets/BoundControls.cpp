@@ -14,6 +14,7 @@ BoundLineEdit::BoundLineEdit(QWidget* parent)
 void BoundLineEdit::setBoundText(const QString& text)
 {
     m_boundText = text;
+    // A change from elsewhere must not take a text away that somebody is writing.
     const bool isBeingTyped = hasFocus() && isModified();
     if (text == this->text() || isBeingTyped)
         return;
@@ -23,6 +24,7 @@ void BoundLineEdit::setBoundText(const QString& text)
 void BoundLineEdit::commit()
 {
     setModified(false);
+    // Before the signal: what is stored comes back as the bound text, and is no other change then.
     m_boundText = text();
     Q_EMIT committed();
 }

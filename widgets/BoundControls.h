@@ -33,8 +33,8 @@ private:
     QString m_boundText;
 };
 
-/// A check box that shows a setting. Tells changes by the user from those that only fill it in: also one that
-/// an assistive technology makes, which is no click.
+/// A check box that shows a setting. Distinguishes changes by the user, also through an assistive technology,
+/// which does not click, from filling it in.
 class BoundCheckBox : public QCheckBox
 {
     Q_OBJECT

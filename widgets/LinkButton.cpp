@@ -25,6 +25,7 @@ QSize LinkButton::sizeHint() const
 
 void LinkButton::keyPressEvent(QKeyEvent* event)
 {
+    // It looks like a link, and links open by Enter.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
     else

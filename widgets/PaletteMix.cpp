@@ -11,6 +11,7 @@ namespace quindle {
 namespace {
 
 constexpr double quietestShare = 0.6;
+// The least contrast of readable text in the accessibility guidelines.
 constexpr double readableContrast = 4.5;
 
 double linear(double channel)
@@ -44,6 +45,7 @@ double contrast(const QColor& first, const QColor& second)
 
 QColor quietText(const QColor& text, const QColor& background)
 {
+    // Palettes differ too much for one share: what is quiet on one cannot be read on another.
     for (double share = quietestShare; share < 1; share += 0.05) {
         const QColor color = mixed(text, background, share);
         if (contrast(color, background) >= readableContrast)

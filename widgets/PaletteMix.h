@@ -16,7 +16,7 @@ QColor mixed(const QColor& text, const QColor& background, double share);
 /// The contrast of two colours, from 1 to 21 (relative luminances as in the accessibility guidelines).
 double contrast(const QColor& first, const QColor& second);
 
-/// Text that stands back: as quiet as it can be with a contrast of 4.5 to the background; where even the
+/// Text that steps back: as quiet as it can be with a contrast of 4.5 to the background; where even the
 /// plain text has less, the plain text.
 QColor quietText(const QColor& text, const QColor& background);
 

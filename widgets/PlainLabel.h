@@ -5,7 +5,7 @@
 namespace quindle {
 
 /// One line of text that is shown literally and cut with an ellipsis where it does not fit; then its tool tip
-/// tells it whole.
+/// has all of it.
 class PlainLabel : public QLabel
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     bool isQuiet() const { return m_quiet; }
     void setQuiet(bool quiet);
 
-    /// Where the ellipsis stands; at the end of the text unless told otherwise.
+    /// Where the ellipsis stands; at the end of the text unless set otherwise.
     void setElideMode(Qt::TextElideMode elideMode);
 
     QSize sizeHint() const override;

@@ -23,6 +23,7 @@ QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignmen
                     Qt::TextElideMode elideMode)
 {
     const QString line = painter.fontMetrics().elidedText(measured(text), elideMode, rect.width());
+    // By the text and not by the layout: a Hebrew name reads right to left in an English view too.
     const int direction = line.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     const int flags = static_cast<int>(alignment | Qt::AlignAbsolute) | Qt::TextSingleLine | direction;
     QRect covered;
@@ -33,6 +34,7 @@ QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignmen
 int plainLineWidth(const QFontMetrics& metrics, const QString& text)
 {
     const QString line = measured(text);
+    // Slanted letters reach beyond their advance, and would be cut.
     return std::max(metrics.horizontalAdvance(line), metrics.boundingRect(line).width()) + 1;
 }
 
@@ -42,6 +44,7 @@ QString literalToolTip(const QString& text)
         return {};
     QString escaped = text.left(longestMeasured).toHtmlEscaped();
     escaped.replace(u'\n', QStringLiteral("<br/>"));
+    // Always markup, or Qt would guess from the text itself whether it is.
     return QStringLiteral("<p>") + escaped + QStringLiteral("</p>");
 }
 

@@ -36,6 +36,7 @@ void RadioMatrix::setCells(const QStringList& labels)
         setTabOrder(previous, cell); // labels may come when all other controls are there already
         previous = cell;
     }
+    // Only cells take the keyboard.
     setFocusPolicy(Qt::NoFocus);
 }
 

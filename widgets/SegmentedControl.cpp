@@ -158,6 +158,7 @@ int SegmentedControl::selectedTag() const
 void SegmentedControl::selectSegmentWithTag(int tag)
 {
     if (QAbstractButton* button = m_segments->button(tag)) {
+        // The signal means a choice by the user.
         const QSignalBlocker silent(button);
         button->setChecked(true);
     }

@@ -36,6 +36,7 @@ QRect SwitchField::textRect() const
 
 bool SwitchField::hitButton(const QPoint& position) const
 {
+    // The row is wide, and a click on its empty part is not meant for the value.
     return textRect().contains(position);
 }
 

@@ -1,5 +1,5 @@
 // The least a Qt tray program can be: an icon, a tool tip, a menu of one entry, no timer. What the helper
-// costs is told beside what this costs.
+// costs is compared with what this costs.
 
 #include <QApplication>
 #include <QIcon>

@@ -79,6 +79,7 @@ void BoundSettings::setTemperatureSettingIndex(qint64 value)
 
 void BoundSettings::setTemperatureOfTitleAndView(qint64 value)
 {
+    // First, because the signal of the second makes everybody read both.
     m_standardDefaults.setInteger(QStringLiteral("QDBatteryTemperatureMode"), value);
     setTemperatureSettingIndex(value);
 }
@@ -164,6 +165,7 @@ void BoundSettings::setStatusItemPresentation(qint64 value)
 
 void BoundSettings::reload()
 {
+    // Once: an observer cannot be removed, and twice would reload twice.
     if (!std::exchange(m_isObserving, true))
         observeAnnouncements();
     m_startsAtLogin = StartupLaunch_pref::isAppLoginItem(m_loginItems, m_bundle.path());

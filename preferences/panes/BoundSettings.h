@@ -40,7 +40,7 @@ public:
     void setTemperatureSettingIndex(qint64 value);
 
     /// Stores the unit for the title and, in its own key, for the battery view, which takes it up when the
-    /// battery is reloaded. 0 to 2 only: the battery does not survive any other.
+    /// battery is reloaded. 0 to 2 only: any other stored number is fatal.
     void setTemperatureOfTitleAndView(qint64 value);
 
     /// Whether 1 is stored; every other number shows no icon.
@@ -57,7 +57,7 @@ public:
     void setAutoUploadBatteryData(bool value);
 
     /// What the login item's list said at the last `reload`, or what was set since: a switch that the system
-    /// did not take stays as the user left it.
+    /// did not accept stays as the user left it.
     bool startsAtLogin() const { return m_startsAtLogin; }
 
     /// Switches the login item that is known by the helper's identifier.
@@ -77,8 +77,8 @@ public:
     qint64 statusItemPresentation() const;
     void setStatusItemPresentation(qint64 value);
 
-    /// Looks at the login items anew and tells everyone who is bound to look at everything anew; for every
-    /// showing. From the first time on it happens too whenever a change of the settings is announced.
+    /// Reads the login items again and has every bound control read its setting again; for each time a window
+    /// is shown. After the first call it also happens whenever a change of the settings is announced.
     void reload();
 
 Q_SIGNALS:

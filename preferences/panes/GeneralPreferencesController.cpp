@@ -126,6 +126,7 @@ void GeneralPreferencesController::applyHelperOnlyRule()
     m_ui->launchAtStartupDescription->setText(description);
     m_ui->launchAtStartupDescription->setVisible(helperOnly);
     m_ui->launchAtStartupWarningImage->setVisible(helperOnly);
+    // Only the main application may switch it there, as the text says.
     m_ui->launchAtStartupCheckbox->setEnabled(!helperOnly);
     m_ui->launchAtStartupCheckbox->setAccessibleDescription(description);
 }
@@ -188,6 +189,7 @@ void GeneralPreferencesController::refresh()
 void GeneralPreferencesController::showSentData()
 {
     auto* dialog = new SentDataDialog(m_sentText(), m_view.get());
+    // It holds a snapshot of this moment; the next one is made anew.
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

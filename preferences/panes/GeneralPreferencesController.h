@@ -22,7 +22,7 @@ class GeneralPreferencesController;
 }
 
 /// The pane "General": the helper's everyday settings. Each change by the user is stored at once and
-/// announced to the other processes exactly once, but for starting at login, which nobody reads from the
+/// announced to the other processes exactly once, except for starting at login, which nobody reads from the
 /// settings. Main thread only.
 class GeneralPreferencesController : public QObject, public QDPreferencesWindowControllerProtocol
 {
@@ -57,7 +57,7 @@ public:
     void resetCustomMenuBarText();
     void showIcons();
     void setAutoUpload();
-    void setAutoStart(); ///< announces nothing; what the system makes of it is not looked at
+    void setAutoStart(); ///< announces nothing; whether the system accepts it is not checked
     void showParameterPopover(const QWidget& sender);
 
     /// Shows the present values in the preview and the popover; for every refresh of the status item.

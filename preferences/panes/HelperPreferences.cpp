@@ -36,6 +36,7 @@ HelperPreferences::initWithWindow(std::unique_ptr<HelperPreferencesWindow> windo
 std::unique_ptr<HelperPreferences> HelperPreferences::initWithCoder(BoundSettings& settings,
                                                                     StatusBarTitle& delegate)
 {
+    // Nothing is decoded: the interface file is compiled in.
     return initWithWindow(nullptr, settings, delegate);
 }
 
@@ -91,6 +92,7 @@ void HelperPreferences::connectActions()
     connect(ui->runInBackgroundBox, &BoundCheckBox::switched, this,
             [this, ui] { setRunInBackground(ui->runInBackgroundBox); });
     connect(ui->closeButton, &QAbstractButton::clicked, this, [this, ui] { closeWindow(ui->closeButton); });
+    // An inserted placeholder counts at once; the field keeps the keyboard, so nothing else would commit it.
     connect(m_outlets.parameterPopover, &ParameterPopover::inserted, ui->customMenuBarTextField,
             &BoundLineEdit::commit);
 }
@@ -98,6 +100,7 @@ void HelperPreferences::connectActions()
 void HelperPreferences::showWindow()
 {
     HelperPreferencesWindow& shown = window();
+    // Other programs may have changed settings while no window observed them.
     m_settings.reload();
     if (!shown.testAttribute(Qt::WA_Moved)) { // where the user left it, if it was there before
         shown.adjustSize();
@@ -126,6 +129,7 @@ void HelperPreferences::windowDidLoad()
 void HelperPreferences::setCustomTextEnabled(bool enabled)
 {
     connected(m_outlets.customMenuBarTextField, u"customMenuBarTextField").setEnabled(enabled);
+    // The unit only matters for a text that can have "%t".
     connected(m_outlets.temperatureMatrix, u"temperatureMatrix").setEnabled(enabled);
 }
 
@@ -162,6 +166,7 @@ void HelperPreferences::changeMenuBarTemplate(QLineEdit* /*sender*/)
 
 void HelperPreferences::changeAutoSave(QAbstractButton* sender)
 {
+    // A mark of the window's own; the upload asks for the shared setting.
     m_settings.setAutoUploadBatteryData(sender->isChecked());
 }
 

@@ -43,7 +43,7 @@ void SettingsBinder::fill()
         show(binding, binding.setting.read(&m_settings));
 }
 
-// A control whose setting has not changed keeps what the user made of it.
+// A control whose setting has not changed keeps what the user has entered.
 void SettingsBinder::showChanges()
 {
     for (Binding& binding : m_bindings) {

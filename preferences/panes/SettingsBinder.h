@@ -15,7 +15,7 @@ class BoundSettings;
 
 /// Fills the controls of an interface file from the settings. A control's dynamic property "keyPath" names
 /// the property of BoundSettings that it shows in its USER property, or in the one that "keyPathProperty"
-/// names. It only fills: what the user does is stored by whoever hears of it.
+/// names. It only fills: what the user does is stored by whoever handles the control's signals.
 class SettingsBinder : public QObject
 {
     Q_OBJECT

@@ -23,7 +23,7 @@ public:
     /// What the placeholders of a title template stand for at the moment; nothing without a battery.
     virtual std::optional<TitleValues> titleValues() const = 0;
 
-    /// The values are brought up to date on time for as long as the answer exists.
+    /// Values are kept up to date on time for as long as the returned object exists.
     virtual Punctuality watchValues() const = 0;
 };
 

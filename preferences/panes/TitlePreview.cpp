@@ -23,7 +23,7 @@ TitlePreview::TitlePreview(QWidget* parent)
     m_caption.setText(tr("Now shows"));
     m_caption.setBuddy(&m_shown);
     m_shown.setObjectName(QStringLiteral("shownTitle"));
-    // Both ends of a title tell something, and the row stays as wide as its pane.
+    // Both ends of a title matter, and the row stays as wide as its pane.
     m_shown.setElideMode(Qt::ElideMiddle);
     m_shown.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_shown.setAlignment(Qt::AlignRight | Qt::AlignVCenter);

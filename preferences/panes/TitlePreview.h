@@ -31,7 +31,8 @@ public:
     const QString& titleTemplate() const { return m_titleTemplate; }
     void setTitleTemplate(const QString& titleTemplate);
 
-    /// Shows the present values. Nothing to show (no battery, an empty text) is said in words.
+    /// Shows the present values. Where there is nothing to show (no battery, an empty text) it says so in
+    /// words.
     void refresh();
 
 protected:

@@ -37,6 +37,7 @@ FrameAutosave::FrameAutosave(QWidget& window, UserDefaults& defaults, QString na
 
 FrameAutosave::~FrameAutosave()
 {
+    // A window that is closed soon after a move must not lose its place.
     if (m_settled.isActive())
         save();
 }
@@ -53,6 +54,7 @@ bool FrameAutosave::restore()
 
 void FrameAutosave::placeAtRestored()
 {
+    // A desktop that places windows itself ignores a position.
     if (!m_restored || !m_placesWindows)
         return;
     const QRect frame(m_restored->frame.topLeft(), m_window.frameGeometry().size());
@@ -61,8 +63,10 @@ void FrameAutosave::placeAtRestored()
 
 bool FrameAutosave::eventFilter(QObject* watched, QEvent* event)
 {
+    // Every step of a move arrives here; it is written once the window rests.
     if (event->type() == QEvent::Move && m_window.isVisible())
         m_settled.start();
+    // Minimizing hides spontaneously, and says nothing about where the window belongs.
     if (event->type() == QEvent::Hide && !event->spontaneous())
         save();
     return QObject::eventFilter(watched, event);
@@ -80,6 +84,7 @@ void FrameAutosave::save()
 {
     m_settled.stop();
     WindowFrame frame{m_window.frameGeometry(), m_window.screen()->availableGeometry()};
+    // There is no true position to store, so the one from another desktop is kept.
     if (!m_placesWindows) {
         const QSize size = frame.frame.size();
         const auto former = stored();

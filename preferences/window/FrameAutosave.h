@@ -15,7 +15,7 @@ namespace quindle {
 class UserDefaults;
 
 /// Keeps a window's frame under a name: stored when the window has been moved and rests, and when it is
-/// hidden; never while it is on its way.
+/// hidden; never while it is moving.
 class FrameAutosave : public QObject
 {
     Q_OBJECT

@@ -45,6 +45,7 @@ void PaneTransition::begin(QWidget& view, const QSize& size, Motion motion)
         end();
         return;
     }
+    // The effect is there for the transition only: it draws the view through a picture of its own.
     view.setGraphicsEffect(new QGraphicsOpacityEffect(&view));
     step(0);
     m_animation.start();
@@ -67,6 +68,7 @@ void PaneTransition::finish()
 
 void PaneTransition::step(double share)
 {
+    // Fixed at each step, since the window cannot be resized by hand.
     m_window.setFixedSize(between(m_from, m_to, share));
     if (!m_view)
         return;

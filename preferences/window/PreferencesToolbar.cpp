@@ -22,6 +22,8 @@ QIcon inkedIcon(const QIcon& icon, const QColor& ink, const QSize& size)
     if (!icon.isMask())
         return icon;
     QIcon inked;
+    // For each scale that screens have, since a pixmap is not drawn anew when the window moves to another
+    // screen.
     for (const double ratio : {1.0, 2.0, 3.0}) {
         QPixmap pixmap = icon.pixmap(size, ratio);
         if (pixmap.isNull())
@@ -83,12 +85,14 @@ void PreferencesToolbar::addPane(const ToolbarItem& item)
     action->setCheckable(true);
     action->setToolTip(item.toolTip.value_or(QString()));
     m_panes->addAction(action);
+    // The buttons of a tool bar take no focus, and the panes must be reachable by Tab.
     widgetForAction(action)->setFocusPolicy(Qt::StrongFocus);
     connect(action, &QAction::triggered, this, [this, action] { Q_EMIT itemClicked(action->objectName()); });
 }
 
 void PreferencesToolbar::addFlexibleSpace()
 {
+    // Tool bars know no flexible space; a widget that expands is one.
     auto* space = new QWidget(this);
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     addWidget(space);
@@ -141,6 +145,7 @@ void PreferencesToolbar::changeEvent(QEvent* event)
     QToolBar::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         fitToFont();
+    // Icons are inked with the palette's text colour.
     if (event->type() == QEvent::PaletteChange)
         drawIcons();
 }

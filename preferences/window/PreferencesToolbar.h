@@ -10,9 +10,9 @@ namespace quindle {
 
 class SegmentedControl;
 
-/// The toolbar of a preferences window. Its object name and those of its actions are the identifiers. Whether
-/// a user may change what stands in it is told by its context menu policy and the two properties; a changed
-/// toolbar could not be kept anyway, as there is nothing to change it with.
+/// The toolbar of a preferences window. Its object name and those of its actions are the identifiers. Its
+/// context menu policy and the two properties say whether a user may customise it; a customised toolbar would
+/// not be kept, as there is no interface to customise it with.
 class PreferencesToolbar : public QToolBar
 {
     Q_OBJECT

@@ -41,6 +41,7 @@ QString flexibleSpaceIdentifier()
 std::optional<ToolbarConfiguration> toolbarConfiguration(const PreferencesPanes& panes,
                                                          const PreferencesToolbarFlags& flags)
 {
+    // A toolbar with nothing to choose from only takes room.
     if (panes.empty() || (panes.size() == 1 && !flags.showToolbarWithSingleViewController))
         return std::nullopt;
     const bool segmented = flags.showToolbarItemsAsSegmentedControl;
@@ -109,6 +110,7 @@ QStringList titlesWithMnemonics(const QStringList& titles)
                 isMarked = true;
                 taken += character;
                 text += QLatin1Char('&');
+                // A single one would mark the letter behind it.
             } else if (character == QLatin1Char('&')) {
                 text += QLatin1Char('&');
             }

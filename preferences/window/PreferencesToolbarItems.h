@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What stands in the toolbar of a preferences window, as plain values.
+/// The contents of a preferences window's toolbar, as plain values.
 namespace quindle {
 
 class QDPreferencesWindowControllerProtocol;
@@ -53,7 +53,7 @@ QString flexibleSpaceIdentifier();
 std::optional<ToolbarConfiguration> toolbarConfiguration(const PreferencesPanes& panes,
                                                          const PreferencesToolbarFlags& flags);
 
-/// What stands in the toolbar, in its order. It is also all that may stand in it.
+/// The toolbar's items in their order. There can be no others.
 QStringList toolbarItemIdentifiers(const PreferencesPanes& panes, const PreferencesToolbarFlags& flags);
 
 /// The items that can be selected: those of panes.

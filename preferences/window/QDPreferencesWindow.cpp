@@ -18,6 +18,7 @@ namespace quindle {
 
 namespace {
 
+// Without the button to maximize: the window has its pane's size.
 constexpr Qt::WindowFlags titledClosableMiniaturizable =
     Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
     Qt::WindowMinimizeButtonHint;
@@ -46,6 +47,7 @@ QDPreferencesWindow::QDPreferencesWindow()
     , m_contentView(new QWidget)
 {
     setObjectName(QStringLiteral("preferencesWindow"));
+    // The helper goes on running in the tray.
     setAttribute(Qt::WA_QuitOnClose, false);
     setBackgroundRole(contentRole(palette()));
     plainLayout(this)->addWidget(m_scrollArea, 1);
@@ -71,6 +73,7 @@ void QDPreferencesWindow::setToolbar(PreferencesToolbar* toolbar)
     if (!m_toolbar)
         return;
     static_cast<QVBoxLayout*>(layout())->insertWidget(0, m_toolbar);
+    // The toolbar is made after the content, and comes before it.
     setTabOrder(m_toolbar, m_scrollArea);
     m_toolbar->show(); // at once, so that it has its size
 }
@@ -79,6 +82,7 @@ void QDPreferencesWindow::setContent(QWidget* view, bool inVisualEffectView)
 {
     QLayout* content = m_contentView->layout();
     while (QLayoutItem* item = content->takeAt(0)) {
+        // Views belong to their panes; only the plain view in between was made here.
         if (item->widget() && item->widget() != view)
             item->widget()->deleteLater();
         delete item;
@@ -101,16 +105,19 @@ QDPreferencesWindow::Fit QDPreferencesWindow::fitFor(const QWidget& view) const
 {
     const QSize toolbarSize = m_toolbar ? m_toolbar->sizeHint() : QSize(0, 0);
     QSize size = wantedSize(view);
+    // No segment may be cut off by a narrow pane.
     size.setWidth(std::max(size.width(), toolbarSize.width()));
     if (view.hasHeightForWidth())
         size.setHeight(view.heightForWidth(size.width()));
     size.rheight() += toolbarSize.height();
 
+    // The window manager's frame takes room on the screen as well.
     const int decorations = frameGeometry().height() - height();
     const int room = screen()->availableGeometry().height() - decorations;
     if (size.height() <= room)
         return {size, false};
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_scrollArea);
+    // The scroll bar stands beside the pane, not on it.
     return {QSize(size.width() + scrollBar, room), true};
 }
 
@@ -155,6 +162,7 @@ void QDPreferencesWindow::mousePressEvent(QMouseEvent* event)
 
 void QDPreferencesWindow::startMove()
 {
+    // The window manager moves it, so that its own edges and snapping work.
     if (QWindow* handle = windowHandle())
         handle->startSystemMove();
 }

@@ -31,7 +31,7 @@ public:
     /// Takes the toolbar over, or leaves the window without one.
     void setToolbar(PreferencesToolbar* toolbar);
 
-    /// Puts a view into the window; null leaves it empty. With `inVisualEffectView` another view stands
+    /// Puts a view into the window; null leaves it empty. With `inVisualEffectView` there is another view in
     /// between: desktops here blur nothing behind a window's content, so that view is plain.
     void setContent(QWidget* view, bool inVisualEffectView);
 

@@ -25,6 +25,7 @@ QString frameAutosaveName()
     return QStringLiteral("PreferencesWindowFrameAutoSaveName");
 }
 
+// Focus given to a widget that cannot have it would leave the window without any.
 bool canBeFirstResponder(const QWidget* widget)
 {
     return widget && widget->focusPolicy() != Qt::NoFocus && widget->isEnabled() && widget->isVisible();
@@ -169,6 +170,8 @@ void QDPreferencesWindowController::showPreferencesWindow()
     if (!isOnScreen(m_window.get())) {
         if (m_shownViewController)
             m_shownViewController->viewWillAppear();
+        // Shown transparent first: the first pane is put in while the window appears, which nobody should
+        // see.
         setWindowAlpha(0);
         bringToFront();
         selectFirstControl(); // also when another pane was left: the control starts anew, the pane stays
@@ -246,6 +249,7 @@ void QDPreferencesWindowController::toolbarItemAction(const QString& identifier)
 
 void QDPreferencesWindowController::segmentedControlAction()
 {
+    // Looked up, because the toolbar is made anew whenever a flag changes.
     const auto* control = m_window ? m_window->findChild<SegmentedControl*>() : nullptr;
     const int tag = control ? control->selectedTag() : -1;
     if (tag >= 0 && tag < static_cast<int>(m_viewControllers.size()))
@@ -262,6 +266,7 @@ bool QDPreferencesWindowController::keyDown(const QKeyEvent& event)
 
 void QDPreferencesWindowController::showPane(QDPreferencesWindowControllerProtocol& pane)
 {
+    // The pane that is shown already is not animated again.
     if (&pane == m_shownViewController || !m_window)
         return;
     m_window->setWindowTitle(pane.preferencesTitle());
@@ -277,7 +282,7 @@ void QDPreferencesWindowController::showPane(QDPreferencesWindowControllerProtoc
 
 void QDPreferencesWindowController::beginTransition(QWidget& view)
 {
-    const bool isFirst = m_shownViewController == nullptr; // there is no pane's size to come from
+    const bool isFirst = m_shownViewController == nullptr; // there is no earlier pane's size to start from
     PaneTransition::Motion motion =
         isFirst ? PaneTransition::Motion::Fade : PaneTransition::Motion::FadeAndSize;
     if (m_desktop.reducesMotion && m_desktop.reducesMotion())

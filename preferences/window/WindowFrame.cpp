@@ -52,6 +52,7 @@ std::optional<WindowFrame> frameFromText(const QString& text)
     for (std::size_t i = 0; i < numbers.size(); ++i) {
         bool isNumber = false;
         numbers[i] = words.at(static_cast<qsizetype>(i)).toInt(&isNumber);
+        // The text may come from anywhere, and what is computed from it must not overflow.
         if (!isNumber || numbers[i] < -farthest || numbers[i] > farthest)
             return std::nullopt;
     }

@@ -54,7 +54,7 @@ class Bus:
 
 
 class WatcherProcess:
-    """A watcher of status notifier items in a process of its own, which tells of every item that registers."""
+    """A watcher of status notifier items in a process of its own, which reports every item that registers."""
 
     def __init__(self, bus):
         self.reports, write_end = os.pipe()

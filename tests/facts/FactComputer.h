@@ -13,7 +13,7 @@
 
 namespace quindle::test {
 
-/// A portable computer with everything there is to tell but a charge limit and devices, on battery power.
+/// A portable computer with every fact but a charge limit and devices, on battery power.
 /// Change what it is made of, then `make` it.
 struct FactComputer
 {

@@ -126,7 +126,7 @@ TEST_F(FactsTest, NothingIsShownOfNothing)
 TEST_F(FactsTest, WithoutABatteryDevicesAndComputerAreLeft)
 {
     removeBattery();
-    addDevices(); // a limit too, of which nothing is told
+    addDevices(); // a limit too, which is not shown
     make();
     EXPECT_EQ(shown(FactPlace::View),
               lines({u"Marathon Mouse M705|85 %", u"K750 Keyboard|Low", u"Demo Computer|MacBook Air",

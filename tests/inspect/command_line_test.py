@@ -224,7 +224,7 @@ class CommandLine(unittest.TestCase):
             self.assertEqual(keys[key], MACHINE[key], key)
 
     def test_captured_machine_reads_the_same(self):
-        """Both at one moment: the snapshot and ages tell the time."""
+        """Both at one moment: the snapshot and ages depend on the time."""
         target, content = self.captured("--with-serials")
         for path, machine in ((self.machine, MACHINE), (target, plistlib.loads(content))):
             with open(path, "wb") as file:

@@ -1,4 +1,4 @@
-"""What tells computers, batteries and their ages apart."""
+"""What distinguishes computers, batteries and their ages."""
 
 import datetime
 import hashlib

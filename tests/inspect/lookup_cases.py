@@ -1,4 +1,4 @@
-"""The text that tells models of one family apart: known, cached, or answered by the product-information service."""
+"""The text that distinguishes models of one family: known, cached, or answered by the product-information service."""
 
 from machine_case import ABSENT, Case, machine
 

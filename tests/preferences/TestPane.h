@@ -9,7 +9,7 @@
 
 namespace quindle::test {
 
-/// A view that wants the size it is told.
+/// A view that wants a given size.
 class SizedView : public QWidget
 {
 public:

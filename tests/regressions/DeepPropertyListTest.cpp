@@ -76,7 +76,7 @@ TEST(DeepPropertyList, DeepByValuesReadBefore)
     EXPECT_FALSE(propertyListFromBytes(stair(512)).has_value());
 }
 
-// 300 MB and more of text came of 1 MB, and without end of more.
+// 1 MB turned into 300 MB and more of text, and more into text without end.
 TEST(DeepPropertyList, SharedTexts)
 {
     const auto list = [](int length, int times) {

@@ -19,7 +19,7 @@ public:
     QDateTime now() const override { return time; }
 };
 
-/// Timers on the schedule that the helper's own have, in a time that runs only when told to, and takes the
+/// Timers on the schedule that the helper's own have, in a time that only runs on request, and takes the
 /// clock along.
 class SoakRunLoop : public RunLoop
 {

@@ -43,7 +43,7 @@ private:
 };
 
 /// A launched helper with battery view, settings files and saved history, on a recorded computer whose clock
-/// and timers run as fast as they are told to.
+/// and timers run as fast as the test asks.
 class SoakedHelper
 {
 public:

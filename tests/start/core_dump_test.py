@@ -1,4 +1,4 @@
-"""What a core dump of the running helper tells: nothing of serial numbers."""
+"""What a core dump of the running helper holds: no serial numbers."""
 
 import resource
 import signal

@@ -44,7 +44,7 @@ class Bus:
         self.socket.unlink(missing_ok=True)
 
     def announce_settings(self):
-        """Tells the session that a setting was changed, as the main application does."""
+        """Announces in the session that a setting was changed, as the main application does."""
         bus = dbus.bus.BusConnection(self.address)
         bus.send_message(dbus.lowlevel.SignalMessage("/com/fernhollow/Quindle", "com.fernhollow.Quindle.Notifications",
                                                      "SettingsChangedNotification"))

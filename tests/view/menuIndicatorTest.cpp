@@ -155,7 +155,7 @@ TEST(PaletteMix, QuietTextIsReadable)
         EXPECT_LT(contrast(quiet, base), contrast(text, base));
     }
     const QColor grey(120, 120, 120);
-    EXPECT_EQ(quietText(grey, QColor(100, 100, 100)), grey); // nothing readable to be had
+    EXPECT_EQ(quietText(grey, QColor(100, 100, 100)), grey); // nothing is readable
 }
 
 TEST(PaletteMix, Contrast)

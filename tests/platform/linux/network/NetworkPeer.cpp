@@ -1,4 +1,4 @@
-// One exchange as the program makes it, and what came of it.
+// One exchange as the program makes it, and its outcome.
 //
 // NetworkPeer AUTHORITY URL BODY TIME_LIMIT_MS QUIT_AFTER_MS   posts, and prints "STATUS BODY" or "no
 // answer", and

@@ -1,4 +1,4 @@
-"""A statistics service for tests: HTTPS with certificates of its own authority, answering as it is told."""
+"""A statistics service for tests: HTTPS with certificates of its own authority, answering as the test asks."""
 
 import http.server
 import socket

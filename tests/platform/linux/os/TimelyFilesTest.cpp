@@ -1,4 +1,4 @@
-// Firmware's texts were read on the main thread: one that hung held the start for ever.
+// Firmware's texts were read on the main thread: one that hung held up the start without end.
 
 #include <atomic>
 #include <mutex>

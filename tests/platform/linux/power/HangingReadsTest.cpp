@@ -1,4 +1,4 @@
-// A driver that hangs while a file is read: everybody waited for it, for ever.
+// A driver that hangs while a file is read: everybody waited for it without end.
 
 #include <array>
 #include <cerrno>

@@ -39,7 +39,7 @@ TEST_F(DroppedBusLinkTest, IsLostAtOnceAndComesBackUnderAnotherName)
     EXPECT_TRUE(comesTrue([this] { return names.size() == 2; }));
     EXPECT_NE(names[0], names[1]);
     EXPECT_TRUE(link.connection().isConnected());
-    EXPECT_EQ(losses, 1); // the end of the connection is not told a second time
+    EXPECT_EQ(losses, 1); // the end of the connection is not reported a second time
 }
 
 TEST_F(DroppedBusLinkTest, HearsOfTheNextLoss)

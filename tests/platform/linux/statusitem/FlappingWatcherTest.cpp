@@ -36,7 +36,8 @@ protected:
         return condition();
     }
 
-    /// Everything that the bus has told the link by now is heard, and what it asked in turn is answered.
+    /// Everything that the bus has sent the link by now is handled, and what the link asked in turn is
+    /// answered.
     void settle()
     {
         const QString name = QStringLiteral("org.freedesktop.DBus");

@@ -262,7 +262,7 @@ TEST_F(LinuxStatusItemTest, registersAgainWhenTheWatcherIsReplaced)
 {
     makeRegisteredItem();
     FakeTrayHost other(bus.connect());
-    // The name passes on at once: the bus tells of one change, from owner to owner.
+    // The name passes on at once: the bus announces one change, from owner to owner.
     other.queueUp();
     host.disappear();
     EXPECT_TRUE(comesTrue([&other] { return other.registrations() == 1; }));
