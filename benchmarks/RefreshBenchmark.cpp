@@ -5,6 +5,7 @@
 #include <array>
 #include <filesystem>
 #include <string>
+#include <thread>
 
 #include <benchmark/benchmark.h>
 
@@ -80,6 +81,8 @@ public:
                                                          &QDMac::init, noControllers);
         m_delegate->applicationDidFinishLaunching();
         QCoreApplication::processEvents();
+        // Settings this young are read again at each look.
+        std::this_thread::sleep_for(std::chrono::milliseconds(60));
     }
 
     void passTime() { m_now += std::chrono::seconds(5); }
