@@ -47,15 +47,15 @@ bool hasDisplay()
            !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
-/// Whether the helper starts at login is the login item's to say. A session manager that starts again what
-/// ran when the session ended would start one that the user has taken out, and with arguments.
+/// The login item alone decides whether the helper starts at login. A session manager that restarts what ran
+/// when the session ended would start one that the user has taken out, and with arguments.
 void leaveLoginToLoginItems(const QApplication& application)
 {
     QObject::connect(&application, &QGuiApplication::saveStateRequest, &application,
                      [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); });
 }
 
-/// A home on a server that is away would keep the first read waiting for ever.
+/// A home on a server that is away would keep the first read waiting without end.
 void readSettingsInTime(UserDefaultsDatabases& databases)
 {
     const StartDeadline deadline(patience, "the folder of the settings does not answer");
@@ -68,6 +68,7 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
 {
     const Platform platform = services.platform();
     readSettingsInTime(platform.userDefaults);
+    // Before anything reads the settings.
     copyTextParkedByOlderHelper(platform.userDefaults);
     MainInterface interface;
     ApplicationPreferences& settings = ApplicationPreferences::sharedInstance(&platform);
@@ -82,6 +83,7 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
         application.quit();
     });
     instance.setShowRequested([&interface] { interface.statusMenu().openView(); });
+    // The requests of other starts come in only once the loop runs, so nothing is shown half made.
     delegate.applicationDidFinishLaunching();
     services.play(delegate);
     return QApplication::exec();
@@ -117,6 +119,7 @@ int start(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quindle-helper"));
     QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
+    // Closing the battery view must not end the helper.
     QApplication::setQuitOnLastWindowClosed(false);
     leaveLoginToLoginItems(application);
 
@@ -133,6 +136,7 @@ int start(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    // Before the first line is printed.
     neverWaitForStandardError();
     const HelperCommandLine commandLine = parseHelperCommandLine(argumentTexts(argc, argv));
     if (!commandLine.fault.isEmpty())

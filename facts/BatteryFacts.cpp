@@ -42,13 +42,13 @@ FactText charge(const BatterySource& source)
     return text;
 }
 
-/// Nothing to compare with is no health: neither a full charge nor a design capacity of 0 is one.
+/// Without anything to compare with there is no health: a full charge or design capacity of 0 is unknown.
 std::optional<double> knownHealth(const QDBattery& battery)
 {
     return battery.FullChargeCapacity() > 0 ? knownPercent(battery.StateOfHealth()) : std::nullopt;
 }
 
-/// With nothing to compare with, only the report tells the full charge again: it has one line for both.
+/// With nothing to compare with, only the report gives the full charge again: it has one line for both.
 QString fullAgainstDesign(const BatterySource& source)
 {
     const QDBattery& battery = source.battery;
@@ -57,7 +57,7 @@ QString fullAgainstDesign(const BatterySource& source)
                   : QString();
 }
 
-/// The view has a place for health, so there it is said that it is missing.
+/// The view has a place for health, so it says there that it is missing.
 QString missingHealth(const BatterySource& source)
 {
     if (source.place != FactPlace::View)
@@ -94,7 +94,7 @@ FactText health(const BatterySource& source)
         return text;
     text.value = joined(text.value, besideEachOther(), condition);
     if (source.place == FactPlace::Menu)
-        text.detail.clear(); // "Full charge" tells it
+        text.detail.clear(); // "Full charge" gives it
     return text;
 }
 
@@ -111,6 +111,7 @@ QString power(const QDBattery& battery)
 FactText state(const BatterySource& source)
 {
     const QString state = knownText(source.battery.BatteryState());
+    // Where the power has no row of its own it follows the state.
     const bool hasOwnPower = source.place == FactPlace::View || source.place == FactPlace::Report;
     return {.value = hasOwnPower ? state : joined(state, besideEachOther(), power(source.battery))};
 }
@@ -120,8 +121,8 @@ FactText powerWithCaption(const BatterySource& source)
     return {.value = power(source.battery), .caption = source.battery.StateText()};
 }
 
-/// Without a time the caption tells that it is not estimated yet, or that the battery is full; a menu that
-/// says "Charged" already does not say so again.
+/// Without a time the caption says that it is not estimated yet, or that the battery is full; a menu that
+/// already says "Charged" does not repeat it.
 FactText time(const BatterySource& source)
 {
     const QDBattery& battery = source.battery;

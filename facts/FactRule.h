@@ -6,23 +6,23 @@
 
 namespace quindle {
 
-/// What a fact says of its source. With nothing known all is empty, and the fact is not shown.
+/// What a fact says about its source. With nothing known everything is empty, and the fact is not shown.
 struct FactText
 {
     QString value = {};
     QString detail = {};
-    QString caption = {}; ///< in place of the table's, where it is not empty
+    QString caption = {}; ///< instead of the table's, where it is not empty
     QString toolTip = {};
     bool captionTells = false; ///< also shown without a value
     std::optional<double> percent = {};
     bool isQuiet = false;
 };
 
-/// A fact's caption at each place; null: it is not told there.
+/// A fact's caption at each place; null where it is left out.
 struct FactCaptions
 {
     const char16_t* inView = nullptr;
-    const char16_t* inMenu = nullptr; ///< also in the tool tip, for the ranks that are told there
+    const char16_t* inMenu = nullptr; ///< also in the tool tip, for the ranks that are shown there
     const char16_t* inReport = nullptr;
 };
 
@@ -80,7 +80,7 @@ Fact factOf(const FactRule<Source>& rule, const char16_t* caption, const FactTex
             .isQuiet = text.isQuiet};
 }
 
-/// Adds the facts of a table that are told at `place`: always the same ones in the table's order. Without a
+/// Adds the facts of a table that belong to `place`: always the same ones in the table's order. Without a
 /// source none is known.
 template <class Table, class Source>
 void addFacts(std::vector<Fact>& facts, const Table& table, FactPlace place,

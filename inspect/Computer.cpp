@@ -34,7 +34,7 @@ QString supplyFolderFault(const CommandLine& commandLine)
     return commandLine.sysfsDirectory + QStringLiteral(": holds no folder class/power_supply");
 }
 
-/// A bus that is asked for without an address may be started for it.
+/// Asking for a bus without an address may start one.
 bool hasSessionBus()
 {
     std::error_code error;

@@ -35,6 +35,7 @@ FactRow::FactRow(QWidget* parent)
 void FactRow::setFact(const Fact& fact)
 {
     setVisible(fact.shown);
+    // Most facts stay the same from one refresh to the next, and setting texts asks for a new layout.
     if (fact == m_fact)
         return;
     m_fact = fact;
@@ -149,6 +150,7 @@ void FactRow::arrange()
 {
     const int gap = fontMetrics().height();
     const int valueWanted = valueWidget()->sizeHint().width();
+    // The caption keeps at most half the row, since the value is what a person came for.
     const int captionKept = std::min(m_caption->sizeHint().width(), (width() - gap) / 2);
     const int valueWidth = std::clamp(valueWanted, 0, std::max(0, width() - captionKept - gap));
     const int valueSpace = valueWanted > 0 && !text().isEmpty() ? valueWidth + gap : 0;
@@ -160,6 +162,7 @@ void FactRow::arrange()
 
 void FactRow::tellAssistants()
 {
+    // Read aloud, a value without its caption means nothing.
     const QString whole = (caption() + u' ' + text()).trimmed();
     setAccessibleName(whole);
     if (m_switchField)

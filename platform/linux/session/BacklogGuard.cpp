@@ -32,6 +32,7 @@ bool BacklogGuard::eventFilter(QObject* /*watched*/, QEvent* event)
     // The library delivers every call and every signal to the main thread in such an event.
     if (event->type() == QEvent::MetaCall && !m_isDeaf)
         count();
+    // Dropped here, before the library unpacks it: a flood must not cost anything any more.
     return event->type() == QEvent::MetaCall && m_isDeaf;
 }
 
@@ -40,10 +41,11 @@ void BacklogGuard::count()
     ++m_heard;
     if (!m_isAsked && m_heard >= unasked)
         askForSign();
+    // An honest peer's calls are on the way in dozens, a flood's in thousands.
     if (m_heard <= mostOnTheWay)
         return;
     m_isDeaf = true;
-    // Later: an object is not taken off the bus while it is told something.
+    // Later: an object is not taken off the bus while a message is delivered to it.
     const auto tell = [this, round = m_round] {
         if (round == m_round)
             m_overrun();

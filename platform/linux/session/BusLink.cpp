@@ -87,6 +87,7 @@ void BusLink::open(std::function<void(QDBusConnection&)> subscribe, std::functio
     m_socket = busSocketFile(busAddress(m_type));
     m_socketTried = inodeOf(m_socket);
     const QDBusConnection first = firstConnection();
+    // The shared connection is taken as it is; only one of our own can be made again.
     if (take(first))
         return;
     waitForBus(m_firstPause);
@@ -129,6 +130,7 @@ void BusLink::drop()
 {
     qCWarning(busLog, "somebody on a message bus does not wait for answers: it is left for %d s",
               m_firstPause / 1000);
+    // The loss is reported below; the library's own report would come a second time.
     m_connection.disconnect(QString(), localPath, localInterface, disconnected, this, SLOT(onDisconnected()));
     closeOwn();
     if (m_lost)
@@ -138,6 +140,7 @@ void BusLink::drop()
 
 void BusLink::waitForBus(int pause)
 {
+    // Also with a watch: a bus on an abstract socket has no file to watch.
     m_retry.start(pause);
     if (!m_folderWatcher)
         watchSocketFolder();
@@ -155,7 +158,7 @@ void BusLink::watchSocketFolder()
 
 void BusLink::lookAtSocket()
 {
-    // Everything else that happens in the folder is no reason to try.
+    // Other changes in the folder are no reason to try.
     const quint64 inode = inodeOf(m_socket);
     if (inode != 0 && inode != m_socketTried)
         m_retry.start(pauseForNewSocket);
@@ -164,6 +167,7 @@ void BusLink::lookAtSocket()
 
 void BusLink::reconnect()
 {
+    // A computer without a bus must not be woken for it for ever.
     const int next = std::min(m_retry.interval() * 2, longestPause);
     closeOwn();
     m_triedOwn = true;

@@ -32,6 +32,7 @@ void LinuxDistributedNotificationCenter::addObserver(const QString& name,
 {
     openOnce();
     m_observers.addObserver(name, std::move(observer));
+    // One subscription for a name is enough, however many observers it has.
     if (m_names.contains(name))
         return;
     m_names.insert(name);
@@ -82,7 +83,8 @@ void LinuxDistributedNotificationCenter::subscribe(QDBusConnection& connection, 
 
 void LinuxDistributedNotificationCenter::onNotification(const QDBusMessage& message)
 {
-    if (message.service() != m_link.connection().baseService()) // its own were heard when they were posted
+    // Its own were delivered when they were posted.
+    if (message.service() != m_link.connection().baseService())
         m_observers.post(message.member());
 }
 
@@ -111,6 +113,7 @@ void LinuxWorkspaceNotifications::openLater()
     if (m_opening)
         return;
     m_opening = true;
+    // After the start: connecting to the system bus takes time that the item can be shown in.
     QTimer::singleShot(0, this, &LinuxWorkspaceNotifications::open);
 }
 
@@ -126,7 +129,7 @@ void LinuxWorkspaceNotifications::open()
 }
 
 /// Everybody may send this signal to everybody on the system bus, so it counts only from the login manager's
-/// own connection. Asked for by the well-known name, the library would wait for the bus to tell the owner.
+/// own connection. Asked for by the well-known name, the library would wait for the bus to name the owner.
 void LinuxWorkspaceNotifications::hearLoginManager(const QString& connectionName)
 {
     const QString path = QStringLiteral("/org/freedesktop/login1");

@@ -183,7 +183,7 @@ void LinuxStatusItem::flush()
         m_wanted.textColour = trayTextColour();
     if (m_flushed != m_wanted) {
         m_flushed = m_wanted;
-        // An X11 tray has room for a square only, whatever the person prefers.
+        // An X11 tray has room for a square only, whatever the user prefers.
         HostTraits host = m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : HostTraits();
         host.textColour = m_wanted.textColour;
         tell(present(m_wanted.contents, host));
@@ -225,7 +225,7 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
     m_menuAdaptor->setCommandsFirst(m_wanted.host.cutsTallMenus);
     flush();
     m_watcher->registerItem();
-    // A panel that is just starting may own the watcher's name before it tells its colours.
+    // A panel that is just starting may own the watcher's name before it publishes its colours.
     QTimer::singleShot(m_surroundings.registrationCheck, this, &LinuxStatusItem::lookAtPanelAgain);
 }
 

@@ -33,7 +33,8 @@ struct StatusItemSurroundings
 };
 
 /// The status item as a status notifier item, or in an X11 tray where no watcher of such items is on the bus.
-/// Setters only store; at the end of the event loop's turn hosts are told what is different, if anything is.
+/// Setters only store; at the end of the event loop's turn hosts are notified of what has changed, if
+/// anything.
 class LinuxStatusItem final : public QObject, public StatusItem
 {
     Q_OBJECT
@@ -58,8 +59,8 @@ public:
     void setMenu(StatusMenu* menu) override;
 
 Q_SIGNALS:
-    /// Somebody calls the item without end and does not wait for the answers. It is off the bus; the
-    /// connection ought to be closed, with all that waits in it.
+    /// A peer calls the item without end and does not wait for the answers. The item is off the bus; its
+    /// connection has to be closed, with everything queued in it.
     void busAbused();
 
 private:
@@ -76,7 +77,7 @@ private:
     void toggleView();
     void useActivationToken();
 
-    /// Everything that decides what hosts are told.
+    /// Everything that decides what hosts see.
     struct Decisive
     {
         ItemContents contents;

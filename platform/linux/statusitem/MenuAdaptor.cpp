@@ -121,6 +121,7 @@ QList<int> MenuAdaptor::EventGroup(const QList<MenuEvent>& events)
     return unknown;
 }
 
+// Nothing is made on demand: the rows are always up to date.
 bool MenuAdaptor::AboutToShow(int /*id*/)
 {
     return false;

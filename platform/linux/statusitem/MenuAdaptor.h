@@ -28,14 +28,14 @@ public:
     /// `aboutToChoose` is called before a row's action, so that its window may come to the front.
     MenuAdaptor(QObject* object, std::function<void()> aboutToChoose);
 
-    /// The menu to show, null for an empty one. Rows that it gets later are seen at the host's next question.
+    /// The menu to show, null for an empty one. Rows that are added later show at the host's next question.
     void setMenu(StatusMenu* menu);
 
     /// Puts the commands above all facts but the first, for hosts that cut menus higher than the screen.
     void setCommandsFirst(bool first);
 
-    /// Tells hosts which rows have changed since they were told last. They are told row by row, because some
-    /// close an open menu when its layout changes.
+    /// Announces the rows that have changed since the last announcement, row by row, because some hosts close
+    /// an open menu when its layout changes.
     void tellChanges();
 
     uint version() const;

@@ -77,8 +77,8 @@ QImage blankImage(int width, int height)
 }
 
 /// What the picture is drawn on: nothing, or a dark plate where the panel's colours are unknown. White on it
-/// reads on every panel, and a full battery stays the opposite of an empty one; on dark panels it is hardly
-/// seen.
+/// reads on every panel, and a full battery stays the opposite of an empty one; on dark panels it hardly
+/// shows.
 QImage ground(const Picture& picture, int width, int height)
 {
     QImage image = blankImage(width, height);
@@ -166,7 +166,7 @@ QString writtenPictures()
     return folder.isEmpty() ? QString() : folder + QStringLiteral("/quindle-helper-icons");
 }
 
-/// Whether a path can be told over the bus, which takes text only.
+/// Whether a path can be sent over the bus, which carries text only.
 bool isTellable(const QString& path)
 {
     return !path.isEmpty() && path.isValidUtf16();
@@ -185,13 +185,14 @@ QByteArray contentsOf(const QString& path)
 }
 
 /// The file of that name among the written pictures, made by `make` if it is not there yet; empty if it could
-/// not be written, or not be told.
+/// not be written, or not be named on the bus.
 QString writtenPicture(const QString& name, const std::function<QByteArray()>& make)
 {
     const QString folder = writtenPictures();
     if (!isTellable(folder))
         return {};
     QString path = folder + u'/' + name;
+    // Names stand for their contents, so what is there need not be written again.
     if (isThere(path))
         return path;
     const QByteArray bytes = make();
@@ -222,6 +223,7 @@ QImage rendered(const QString& file, int size, const QColor& colour)
     paintInStrips(
         image, [&](QPainter& painter) { renderer.render(&painter, QRectF(margin, margin, drawn, drawn)); });
     QPainter painter(&image);
+    // The drawing's shape in another colour, edges included.
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), colour);
     return image;
@@ -272,6 +274,7 @@ std::vector<QImage> StatusPictures::images(const Picture& picture)
 QString StatusPictures::file(const Picture& picture)
 {
     QString name = picture.imageName + picture.text;
+    // It becomes a file name, and a title may hold anything.
     name.removeIf([](QChar c) { return !c.isLetterOrNumber(); });
     name += QString::number(picture.ink, 16) + QStringLiteral(".png");
     return writtenPicture(name, [&] { return pngOf(image(picture, squareSizes.back())); });

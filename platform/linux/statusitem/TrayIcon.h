@@ -28,7 +28,7 @@ public:
     explicit TrayIcon(StatusMenu* menu);
     ~TrayIcon() override;
 
-    /// `told` is what a square host gets.
+    /// `told` is the one for a square host.
     void show(const Presentation& told, StatusPictures& pictures);
 
     /// Brings an open menu up to date.
