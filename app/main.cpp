@@ -79,7 +79,7 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      &HelperAppDelegate::applicationWillTerminate);
     instance.setTakenByAnother([&application] {
-        fail(QStringLiteral("another one is on the session bus that came"), 0);
+        fail(QStringLiteral("another helper is on the session bus that has come up"), 0);
         application.quit();
     });
     instance.setShowRequested([&interface] { interface.statusMenu().openView(); });

@@ -52,9 +52,9 @@ std::optional<double> knownHealth(const QDBattery& battery)
 QString fullAgainstDesign(const BatterySource& source)
 {
     const QDBattery& battery = source.battery;
-    const bool isTold = battery.DesignCapacity() > 0 || source.place == FactPlace::Report;
-    return isTold ? capacitiesText(battery.FullChargeCapacity(), battery.DesignCapacity(), source.place)
-                  : QString();
+    const bool isGiven = battery.DesignCapacity() > 0 || source.place == FactPlace::Report;
+    return isGiven ? capacitiesText(battery.FullChargeCapacity(), battery.DesignCapacity(), source.place)
+                   : QString();
 }
 
 /// The view has a place for health, so it says there that it is missing.
@@ -128,11 +128,11 @@ FactText time(const BatterySource& source)
     const QDBattery& battery = source.battery;
     const bool isSaidAbove =
         source.place == FactPlace::Menu && battery.BatteryState() == chargedTexts().batteryState;
-    const bool captionTells =
+    const bool isCaptionEnough =
         source.place != FactPlace::Report && !isSaidAbove && !knownText(battery.BatteryState()).isEmpty();
     return {.value = knownText(battery.TimeRemaining()),
             .caption = battery.RemainingString(),
-            .captionTells = captionTells};
+            .isCaptionEnough = isCaptionEnough};
 }
 
 FactText chargeLimit(const BatterySource& source)

@@ -20,7 +20,7 @@ struct ComputerSource
 FactText nameAndType(const ComputerSource& source)
 {
     const QString name = knownText(source.mac.Name());
-    return {.value = knownText(source.mac.Type()), .caption = name, .captionTells = !name.isEmpty()};
+    return {.value = knownText(source.mac.Type()), .caption = name, .isCaptionEnough = !name.isEmpty()};
 }
 
 FactText name(const ComputerSource& source)

@@ -13,7 +13,7 @@ struct FactText
     QString detail = {};
     QString caption = {}; ///< instead of the table's, where it is not empty
     QString toolTip = {};
-    bool captionTells = false; ///< also shown without a value
+    bool isCaptionEnough = false; ///< also shown without a value
     std::optional<double> percent = {};
     bool isQuiet = false;
 };
@@ -73,7 +73,7 @@ Fact factOf(const FactRule<Source>& rule, const char16_t* caption, const FactTex
             .caption = text.caption.isEmpty() ? QString::fromUtf16(caption) : text.caption,
             .value = text.value,
             .detail = text.detail,
-            .shown = !text.value.isEmpty() || text.captionTells,
+            .shown = !text.value.isEmpty() || text.isCaptionEnough,
             .toolTip = text.toolTip,
             .click = rule.click,
             .percent = text.percent,

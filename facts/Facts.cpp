@@ -25,8 +25,8 @@ const QDBattery* batteryOf(const FactSources& sources)
 
 std::optional<int> chargeLimit(const FactSources& sources, FactPlace place)
 {
-    const bool isTold = place != FactPlace::ToolTip && batteryOf(sources);
-    return isTold && sources.powerSources ? sources.powerSources->chargeLimit() : std::nullopt;
+    const bool isGiven = place != FactPlace::ToolTip && batteryOf(sources);
+    return isGiven && sources.powerSources ? sources.powerSources->chargeLimit() : std::nullopt;
 }
 
 Fact deviceFact(const PeripheralBattery& device)
@@ -46,8 +46,8 @@ Fact deviceFact(const PeripheralBattery& device)
 
 void addDeviceFacts(std::vector<Fact>& facts, FactPlace place, PowerSources* powerSources)
 {
-    const bool isTold = place == FactPlace::View || place == FactPlace::Report;
-    if (!isTold || !powerSources)
+    const bool isGiven = place == FactPlace::View || place == FactPlace::Report;
+    if (!isGiven || !powerSources)
         return;
     for (const PeripheralBattery& device : powerSources->peripherals())
         facts.push_back(deviceFact(device));

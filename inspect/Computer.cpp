@@ -72,15 +72,15 @@ Computer::Computer(Machine machine, const CommandLine& commandLine)
 Platform Computer::thisComputer(bool isFollowed)
 {
     const Platform linux = m_linux.services(m_recorded.statusBar);
-    const Platform told = m_recorded.platform();
-    const Platform& events = isFollowed ? linux : told;
+    const Platform recorded = m_recorded.platform();
+    const Platform& events = isFollowed ? linux : recorded;
     return {
         .registry = linux.registry,
         .powerSources = linux.powerSources,
         .userDefaults = m_settings,
         .notificationCenter = m_recorded.notificationCenter,
         .distributedNotificationCenter =
-            hasSessionBus() ? events.distributedNotificationCenter : told.distributedNotificationCenter,
+            hasSessionBus() ? events.distributedNotificationCenter : recorded.distributedNotificationCenter,
         .workspaceNotifications = events.workspaceNotifications,
         .workspace = m_recorded.workspace,
         .bundle = linux.bundle,

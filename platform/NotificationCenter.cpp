@@ -23,7 +23,8 @@ void NotificationCenter::addObserver(const QString& name, Observer observer)
         return;
     }
     if (!std::exchange(m_hasRefused, true))
-        qCInfo(notificationLog).noquote() << "an observer of" << name << "is registered often enough";
+        qCInfo(notificationLog).noquote()
+            << "an observer of" << name << "is registered" << mostRegistrations << "times, which is enough";
 }
 
 void NotificationCenter::post(const QString& name)

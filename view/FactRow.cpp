@@ -53,7 +53,7 @@ void FactRow::setTexts(const QString& caption, const QString& text)
     m_value->setText(text);
     if (m_switchField)
         m_switchField->setLabel(text);
-    tellAssistants();
+    updateAccessibleNames();
     arrange();
 }
 
@@ -102,7 +102,7 @@ void FactRow::setClickable(bool clickable)
     m_value->setVisible(!clickable);
     if (m_switchField)
         m_switchField->show();
-    tellAssistants();
+    updateAccessibleNames();
     arrange();
 }
 
@@ -160,7 +160,7 @@ void FactRow::arrange()
     valueWidget()->setGeometry(QStyle::visualRect(layoutDirection(), rect(), value));
 }
 
-void FactRow::tellAssistants()
+void FactRow::updateAccessibleNames()
 {
     // Read aloud, a value without its caption means nothing.
     const QString whole = (caption() + u' ' + text()).trimmed();

@@ -55,7 +55,7 @@ private:
     void setToolTips(const QString& text);
     QWidget* valueWidget() const;
     void arrange();
-    void tellAssistants();
+    void updateAccessibleNames();
 
     PlainLabel* m_caption;
     PlainLabel* m_value;

@@ -42,8 +42,8 @@ QSize PlainLabel::minimumSizeHint() const
 
 bool PlainLabel::event(QEvent* event)
 {
-    const bool tellsWhole = event->type() == QEvent::ToolTip && toolTip().isEmpty();
-    if (!tellsWhole || sizeHint().width() <= width())
+    const bool showsWhole = event->type() == QEvent::ToolTip && toolTip().isEmpty();
+    if (!showsWhole || sizeHint().width() <= width())
         return QLabel::event(event);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), literalToolTip(text()), this);
     return true;

@@ -104,7 +104,7 @@ class Desktop:
             env["GDK_SCALE"] = str(self.scale)
         return env
 
-    # ---- life
+    # ---- start and end
 
     def __enter__(self):
         self.log = open(self.log_path, "ab")
@@ -275,7 +275,7 @@ class Desktop:
             raise RuntimeError(f"{self.host}: no status notifier watcher appeared")
         time.sleep(0.3)
 
-    # ---- asking it
+    # ---- questions
 
     def gdbus(self, destination, path, method, *arguments):
         return self.call("gdbus", "call", "--session", "--timeout", "5", "--dest", destination, "--object-path", path,
@@ -329,9 +329,9 @@ class Desktop:
 
     def panel_text_colour(self):
         """X11: the colour that the panel with the tray says it writes in, as #RRGGBB; empty if it says nothing."""
-        told = self.call("sh", "-c", "for id in $(xwininfo -root -tree | grep -o '0x[0-9a-f]*' | sort -u); do "
-                                     "xprop -id $id _NET_SYSTEM_TRAY_COLORS; done")
-        found = re.search(r"= (\d+), (\d+), (\d+)", told)
+        colours = self.call("sh", "-c", "for id in $(xwininfo -root -tree | grep -o '0x[0-9a-f]*' | sort -u); do "
+                                        "xprop -id $id _NET_SYSTEM_TRAY_COLORS; done")
+        found = re.search(r"= (\d+), (\d+), (\d+)", colours)
         return "#" + "".join(f"{int(value) >> 8:02X}" for value in found.groups()) if found else ""
 
     def click(self, x, y, button=1):

@@ -71,17 +71,17 @@ class Notifications(HelperCase):
     def title(self):
         return str(self.item.Get(ITEM_INTERFACE, "Title", dbus_interface="org.freedesktop.DBus.Properties"))
 
-    def assert_changes_at_once(self, template, title, tell):
-        """Another template is not shown by itself, and at once when `tell` was called."""
+    def assert_changes_at_once(self, template, title, announce):
+        """Another template is not shown by itself, and at once when `announce` was called."""
         before = self.title()
         self.set_template(template)
         time.sleep(0.5)
         self.assertEqual(self.title(), before, "it changed before anybody said so")
-        tell()
-        told = time.monotonic()
+        announce()
+        announced = time.monotonic()
         wait_for(lambda: self.title() == title, 5, 0.005)
         self.assertEqual(self.title(), title)
-        self.assertLess(time.monotonic() - told, AT_ONCE, "seconds until the title changed")
+        self.assertLess(time.monotonic() - announced, AT_ONCE, "seconds until the title changed")
 
     def gdbus_emit(self, signal):
         self.desktop.call("gdbus", "emit", "--session", "--object-path", PATH, "--signal", signal)

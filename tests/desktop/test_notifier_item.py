@@ -82,7 +82,7 @@ class NotifierItem(HelperCase):
 
     def test_the_icon_has_the_colour_of_the_panel_s_text(self):
         panel = self.desktop.panel_text_colour()
-        self.assertRegex(panel, "^#[0-9A-F]{6}$", "this panel tells its colours")
+        self.assertRegex(panel, "^#[0-9A-F]{6}$", "this panel publishes its colours")
         self.start(machine(95))
         self.assert_title("95.0%")
         shown = wait_for(lambda: panel in self.desktop.call(

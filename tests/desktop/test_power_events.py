@@ -46,17 +46,17 @@ class Hardware:
             with open(f"{self.root}{device}/{name}", "r+", encoding="ascii") as file:
                 file.truncate(file.write(f"{value}\n"))
 
-    def tell(self, device, action="change"):
+    def announce(self, device, action="change"):
         os.putenv("UMOCKDEV_DIR", self.root)
         self.testbed.uevent(device, action)
         os.unsetenv("UMOCKDEV_DIR")
 
     def remove(self, device):
-        self.tell(device, "remove")
+        self.announce(device, "remove")
         self.testbed.remove_device(device)
 
-    def teller(self, device):
-        """Tells the one listener as `tell` does, but waits where that would give up: for many events in a row."""
+    def announcer(self, device):
+        """Announces to the one listener as `announce` does, but waits where that gives up: for many events in a row."""
         (listener,) = Path(self.root).glob("event*")
         message = self.message(device)
         sender = socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM)
@@ -67,16 +67,16 @@ class Hardware:
         with socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM) as listener:
             listener.settimeout(5)
             listener.bind(f"{self.root}/event99999")
-            self.tell(device)
+            self.announce(device)
             message = listener.recv(8192)
         os.unlink(f"{self.root}/event99999")
         return message
 
     def plug(self, is_plugged):
         self.write(self.adapter, online=int(is_plugged))
-        self.tell(self.adapter)
+        self.announce(self.adapter)
         self.write(self.battery, status="Charging" if is_plugged else "Discharging")
-        self.tell(self.battery)
+        self.announce(self.battery)
 
 
 class PowerEvents(HelperCase):
@@ -101,9 +101,9 @@ class PowerEvents(HelperCase):
         return self.item.Get(ITEM_INTERFACE, "IconPixmap", dbus_interface="org.freedesktop.DBus.Properties")
 
     def assert_shows_at_once(self, condition, what):
-        told = time.monotonic()
+        announced = time.monotonic()
         self.assertTrue(wait_for(condition, 4, 0.002), f"{what}: the title is {self.value('Title')!r}")
-        self.assertLess(time.monotonic() - told, AT_ONCE, f"seconds until {what} was shown")
+        self.assertLess(time.monotonic() - announced, AT_ONCE, f"seconds until {what} was shown")
 
     def test_plug_and_unplug_show_at_once(self):
         for is_plugged in (True, False, True):
@@ -117,11 +117,11 @@ class PowerEvents(HelperCase):
     def test_a_battery_swap_shows_at_once(self):
         time.sleep(1.3)
         self.hardware.write(self.hardware.battery, present=0)
-        self.hardware.tell(self.hardware.battery)
+        self.hardware.announce(self.hardware.battery)
         self.assert_shows_at_once(lambda: "50.0%" not in self.value("Title"), "the empty bay")
         time.sleep(1.3)
         self.hardware.write(self.hardware.battery, present=1, charge_now=5400000)
-        self.hardware.tell(self.hardware.battery)
+        self.hardware.announce(self.hardware.battery)
         self.assert_shows_at_once(lambda: "90.0%" in self.value("Title"), "the other battery")
 
     def test_a_battery_whose_device_goes_and_comes_shows_at_once(self):
@@ -130,7 +130,7 @@ class PowerEvents(HelperCase):
         self.assert_shows_at_once(lambda: "50.0%" not in self.value("Title"), "the loss")
         time.sleep(1.3)
         self.hardware.battery = self.hardware.add("BAT0", {**BATTERY, "charge_now": "4800000"})
-        self.hardware.tell(self.hardware.battery)
+        self.hardware.announce(self.hardware.battery)
         self.assert_shows_at_once(lambda: "80.0%" in self.value("Title"), "the other battery")
 
     def test_a_change_nobody_tells_waits_for_the_timers(self):
@@ -142,12 +142,12 @@ class PowerEvents(HelperCase):
     def test_other_devices_are_not_listened_to(self):
         other = self.hardware.testbed.add_device("leds", "lid", None, ["brightness", "0"], [])
         self.hardware.write(self.hardware.battery, charge_now=4200000)
-        tell = self.hardware.teller(other)
+        announce = self.hardware.announcer(other)
         for _ in range(200):
-            tell()
+            announce()
         time.sleep(AT_ONCE)
         self.assertIn("50.0%", self.value("Title"))
-        self.hardware.tell(self.hardware.battery)
+        self.hardware.announce(self.hardware.battery)
         self.assert_shows_at_once(lambda: "70.0%" in self.value("Title"), "the battery's own event")
 
     def test_a_storm_causes_two_refreshes_a_second(self):
@@ -155,7 +155,7 @@ class PowerEvents(HelperCase):
         seconds, titles, sent = 4, [], 0
         time.sleep(1.3)
         titles.append(self.value("Title"))
-        tell = self.hardware.teller(self.hardware.battery)
+        announce = self.hardware.announcer(self.hardware.battery)
         start = time.monotonic()
         while (passed := time.monotonic() - start) < seconds:
             if sent > passed * 1000:
@@ -163,7 +163,7 @@ class PowerEvents(HelperCase):
                 continue
             sent += 1
             self.hardware.write(self.hardware.battery, charge_now=600000 + sent * 1000)
-            tell()
+            announce()
             if sent % 20 == 0 and (title := self.value("Title")) != titles[-1]:
                 titles.append(title)
         self.assertGreater(sent / seconds, 500, "events a second: the machine is too slow for this test")

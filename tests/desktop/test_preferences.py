@@ -229,8 +229,8 @@ class OlderHelper(PreferencesCase):
 
 class Frame(PreferencesCase):
     def position(self):
-        told = self.desktop.call("xwininfo", "-id", self.window("General"))
-        return tuple(int(re.search(f"Absolute upper-left {axis}: +(-?[0-9]+)", told).group(1)) for axis in "XY")
+        geometry = self.desktop.call("xwininfo", "-id", self.window("General"))
+        return tuple(int(re.search(f"Absolute upper-left {axis}: +(-?[0-9]+)", geometry).group(1)) for axis in "XY")
 
     def test_the_window_comes_back_where_it_was(self):
         first = self.start_helper()

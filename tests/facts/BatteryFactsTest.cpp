@@ -95,7 +95,7 @@ TEST_F(BatteryFactsTest, WithoutADesignCapacityThereIsNoHealthAndTheViewSaysSo)
     const Fact health = fact(FactId::Health);
     EXPECT_TRUE(health.shown);
     EXPECT_EQ(health.value, QStringLiteral(u"No design capacity · Good"));
-    EXPECT_EQ(health.detail, QString()) << "the charge tells the full charge";
+    EXPECT_EQ(health.detail, QString()) << "the charge has the full charge";
     EXPECT_FALSE(fact(FactId::FullCharge, FactPlace::Menu).shown);
     EXPECT_FALSE(health.percent);
     EXPECT_FALSE(fact(FactId::Health, FactPlace::Report).shown);

@@ -55,14 +55,14 @@ TEST_F(ZoneAndLocaleTest, NoLocaleChangesWhatIsShown)
     const ScopedTimeZone home("UTC");
     launch();
     const QString shown = title();
-    const QString told = record().toolTipsSet.last();
+    const QString toolTipBefore = record().toolTipsSet.last();
     EXPECT_EQ(shown, QStringLiteral("50.0% 30.0 0.0"));
     const QLocale former;
     for (const char* name : {"de_DE", "ar_EG", "fa_IR", "hi_IN", "tr_TR", "th_TH"}) {
         QLocale::setDefault(QLocale(QLatin1String(name)));
         refresh();
         EXPECT_EQ(title(), shown) << name;
-        EXPECT_EQ(record().toolTipsSet.last(), told) << name;
+        EXPECT_EQ(record().toolTipsSet.last(), toolTipBefore) << name;
     }
     QLocale::setDefault(former);
 }

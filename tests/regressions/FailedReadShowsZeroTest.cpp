@@ -23,11 +23,11 @@ struct FailedReadShowsZeroTest : testing::Test, HelperOnSupplies
     {
         passTenSeconds();
         EXPECT_EQ(title(), QStringLiteral("50.0% 3:00 12.0 W -1000 mA 30.1 12 \u2B07\uFE0E"));
-        const QString told = toolTip();
+        const QString toolTipBefore = toolTip();
         for (int refresh = 0; refresh < refreshes; ++refresh) {
             passTenSeconds();
             ASSERT_EQ(title(), QStringLiteral("50.0% 3:00 12.0 W -1000 mA 30.1 12 \u2B07\uFE0E")) << refresh;
-            ASSERT_EQ(toolTip(), told) << refresh;
+            ASSERT_EQ(toolTip(), toolTipBefore) << refresh;
         }
     }
 };

@@ -34,11 +34,11 @@ class CheckSkipped(unittest.TestCase):
         return f'{PASSING}add_test(cases "{sys.executable}" "{path}")\n'
 
     def assert_refused(self, tests, *words):
-        status, told = self.check(tests)
-        self.assertEqual(status, 1, told)
+        status, output = self.check(tests)
+        self.assertEqual(status, 1, output)
         for word in words:
-            self.assertIn(word, told)
-        self.assertNotIn("passes", told)
+            self.assertIn(word, output)
+        self.assertNotIn("passes", output)
 
     def test_a_run_without_skipped_tests_passes(self):
         self.assertEqual(self.check(PASSING), (0, "None of 1 tests was skipped\n"))

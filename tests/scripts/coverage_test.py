@@ -59,18 +59,18 @@ class Coverage(unittest.TestCase):
 
     def test_folders_that_run_whole_pass(self):
         self.run_program({})
-        status, told = self.coverage()
-        self.assertEqual(status, 0, told)
-        self.assertRegex(told, r"battery +10 +10 +100\.0")
+        status, output = self.coverage()
+        self.assertEqual(status, 0, output)
+        self.assertRegex(output, r"battery +10 +10 +100\.0")
 
     def test_a_folder_below_the_least_is_named(self):
         self.run_program({"history": 4, "mac": 1})
-        status, told = self.coverage("--missed")
-        self.assertEqual(status, 1, told)
-        self.assertRegex(told, r"history +15 +11 +73\.3")
-        self.assertRegex(told, r"mac +12 +11 +91\.7")
-        self.assertIn("below 90 percent: history\n", told)
-        self.assertIn("history/rule.cpp: 12 13 14 15\n", told)
+        status, output = self.coverage("--missed")
+        self.assertEqual(status, 1, output)
+        self.assertRegex(output, r"history +15 +11 +73\.3")
+        self.assertRegex(output, r"mac +12 +11 +91\.7")
+        self.assertIn("below 90 percent: history\n", output)
+        self.assertIn("history/rule.cpp: 12 13 14 15\n", output)
 
     def test_the_least_can_be_given(self):
         self.run_program({"mac": 1})

@@ -56,9 +56,9 @@ class BadFolders(StartCase):
         self.assert_titles_after_change(session, ["back 50.0"])
         process.terminate()
         errors = process.communicate(timeout=20)[1].decode()
-        told = [line for line in errors.splitlines() if "Stale file handle" in line]
-        self.assertEqual(len(told), 2, errors)  # one for each file
-        self.assertNotEqual(told[0], told[1])
+        reports = [line for line in errors.splitlines() if "Stale file handle" in line]
+        self.assertEqual(len(reports), 2, errors)  # one for each file
+        self.assertNotEqual(reports[0], reports[1])
 
     if os.geteuid() == 0:  # to mount something takes the right to
 

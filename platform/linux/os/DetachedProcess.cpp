@@ -24,7 +24,7 @@ namespace {
     takeWholeCoreDumps();
     ::execv(arguments[0], arguments);
     const char failed = 1;
-    [[maybe_unused]] const ssize_t told = ::write(faults, &failed, sizeof failed);
+    [[maybe_unused]] const ssize_t written = ::write(faults, &failed, sizeof failed);
     ::_exit(1);
 }
 
@@ -61,11 +61,11 @@ bool startDetached(const QList<QByteArray>& command)
     if (words.empty() || ::pipe2(ends.data(), O_CLOEXEC) != 0)
         return false;
     const FileDescriptor faults(ends[0]);
-    FileDescriptor told(ends[1]);
+    FileDescriptor report(ends[1]);
     const pid_t child = ::fork();
     if (child == 0)
-        runAsGrandchild(arguments.data(), told.get());
-    told.close();
+        runAsGrandchild(arguments.data(), report.get());
+    report.close();
     return child > 0 && endedWell(child) && endsEmpty(faults.get());
 }
 

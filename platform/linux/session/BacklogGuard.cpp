@@ -46,11 +46,11 @@ void BacklogGuard::count()
         return;
     m_isDeaf = true;
     // Later: an object is not taken off the bus while a message is delivered to it.
-    const auto tell = [this, round = m_round] {
+    const auto report = [this, round = m_round] {
         if (round == m_round)
             m_overrun();
     };
-    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, report, Qt::QueuedConnection);
 }
 
 void BacklogGuard::askForSign()

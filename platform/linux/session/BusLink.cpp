@@ -128,7 +128,7 @@ void BusLink::onDisconnected()
 
 void BusLink::drop()
 {
-    qCWarning(busLog, "somebody on a message bus does not wait for answers: it is left for %d s",
+    qCWarning(busLog, "a peer on a message bus does not wait for answers: the bus is left for %d s",
               m_firstPause / 1000);
     // The loss is reported below; the library's own report would come a second time.
     m_connection.disconnect(QString(), localPath, localInterface, disconnected, this, SLOT(onDisconnected()));
@@ -188,9 +188,9 @@ void BusLink::closeOwn()
 QString busAddress(QDBusConnection::BusType type)
 {
     const bool isSystem = type == QDBusConnection::SystemBus;
-    const QString told =
+    const QString named =
         qEnvironmentVariable(isSystem ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS");
-    return told.isEmpty() ? usualAddress(type) : told;
+    return named.isEmpty() ? usualAddress(type) : named;
 }
 
 QString busSocketFile(const QString& address)

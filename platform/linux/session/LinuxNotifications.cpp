@@ -64,7 +64,7 @@ void LinuxDistributedNotificationCenter::hearAll(QDBusConnection& connection)
 
 void LinuxDistributedNotificationCenter::pauseHearing()
 {
-    qCWarning(notificationLog, "more notifications come than can be heard: none is for %d s", m_pause / 1000);
+    qCWarning(notificationLog, "too many notifications arrive: none is received for %d s", m_pause / 1000);
     QDBusConnection connection = m_link.connection();
     for (const QString& name : std::as_const(m_names))
         connection.disconnect(QString(), notificationPath, notificationInterface, name, this,
@@ -83,8 +83,8 @@ void LinuxDistributedNotificationCenter::subscribe(QDBusConnection& connection, 
 
 void LinuxDistributedNotificationCenter::onNotification(const QDBusMessage& message)
 {
-    // Its own were delivered when they were posted.
-    if (message.service() != m_link.connection().baseService())
+    if (message.service() !=
+        m_link.connection().baseService()) // its own were delivered when they were posted
         m_observers.post(message.member());
 }
 

@@ -52,8 +52,9 @@ LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, RunLoop& runLoop,
         [this] { toggleView(); },
         [this](const QString& token) { m_activationToken = token; },
     };
-    m_labelledItem = new LabelledItemAdaptor(&m_itemObject, m_told, m_pictures, requests);
-    m_itemWithoutLabel = new NotifierItemAdaptor(&m_itemObjectWithoutLabel, m_told, m_pictures, requests);
+    m_labelledItem = new LabelledItemAdaptor(&m_itemObject, m_announced, m_pictures, requests);
+    m_itemWithoutLabel =
+        new NotifierItemAdaptor(&m_itemObjectWithoutLabel, m_announced, m_pictures, requests);
     m_menuAdaptor = new MenuAdaptor(&m_menuObject, [this] { useActivationToken(); });
     m_notifierItem = m_labelledItem;
     exportObjects();
@@ -186,11 +187,11 @@ void LinuxStatusItem::flush()
         // An X11 tray has room for a square only, whatever the user prefers.
         HostTraits host = m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : HostTraits();
         host.textColour = m_wanted.textColour;
-        tell(present(m_wanted.contents, host));
+        announce(present(m_wanted.contents, host));
     }
     if (m_menuChanged) {
         m_menuChanged = false;
-        m_menuAdaptor->tellChanges();
+        m_menuAdaptor->announceChanges();
         if (m_tray)
             m_tray->updateMenu();
     }
@@ -201,19 +202,19 @@ void LinuxStatusItem::flush()
     }
 }
 
-void LinuxStatusItem::tell(Presentation next)
+void LinuxStatusItem::announce(Presentation next)
 {
-    const Presentation last = std::exchange(m_told, std::move(next));
-    if (m_told.title != last.title)
+    const Presentation last = std::exchange(m_announced, std::move(next));
+    if (m_announced.title != last.title)
         Q_EMIT m_notifierItem->NewTitle();
-    if (m_told.picture != last.picture || m_told.carrier != last.carrier)
+    if (m_announced.picture != last.picture || m_announced.carrier != last.carrier)
         Q_EMIT m_notifierItem->NewIcon();
-    if (m_told.toolTipTitle != last.toolTipTitle || m_told.toolTipBody != last.toolTipBody)
+    if (m_announced.toolTipTitle != last.toolTipTitle || m_announced.toolTipBody != last.toolTipBody)
         Q_EMIT m_notifierItem->NewToolTip();
-    if (m_told.label != last.label || m_told.labelGuide != last.labelGuide)
-        Q_EMIT m_notifierItem->XAyatanaNewLabel(m_told.label, m_told.labelGuide);
-    if (m_tray && m_told != last)
-        m_tray->show(m_told, m_pictures);
+    if (m_announced.label != last.label || m_announced.labelGuide != last.labelGuide)
+        Q_EMIT m_notifierItem->XAyatanaNewLabel(m_announced.label, m_announced.labelGuide);
+    if (m_tray && m_announced != last)
+        m_tray->show(m_announced, m_pictures);
 }
 
 void LinuxStatusItem::watcherFound(const HostProcess& process)
@@ -245,7 +246,7 @@ void LinuxStatusItem::watcherLost()
     if (m_tray || !mayHaveX11Tray())
         return;
     m_tray = std::make_unique<TrayIcon>(m_menu);
-    m_tray->show(m_told, m_pictures);
+    m_tray->show(m_announced, m_pictures);
 }
 
 void LinuxStatusItem::toggleView()

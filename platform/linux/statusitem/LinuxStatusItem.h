@@ -70,7 +70,7 @@ private:
     void linkToWatcher();
     void scheduleFlush();
     void flush();
-    void tell(Presentation next);
+    void announce(Presentation next);
     void watcherFound(const HostProcess& process);
     void watcherLost();
     void lookAtPanelAgain();
@@ -97,7 +97,7 @@ private:
     StatusMenu* m_menu = nullptr;
     Decisive m_wanted;
     std::optional<Decisive> m_flushed;
-    Presentation m_told;
+    Presentation m_announced;
     QString m_activationToken;
     bool m_flushScheduled = false;
     bool m_menuChanged = false;

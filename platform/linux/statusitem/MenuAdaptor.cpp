@@ -32,7 +32,7 @@ MenuAdaptor::MenuAdaptor(QObject* object, std::function<void()> aboutToChoose)
 void MenuAdaptor::setMenu(StatusMenu* menu)
 {
     m_menu = menu;
-    m_told = allRowProperties(menu);
+    m_announced = allRowProperties(menu);
     ++m_revision;
     Q_EMIT LayoutUpdated(m_revision, menuRootId);
 }
@@ -45,15 +45,15 @@ void MenuAdaptor::setCommandsFirst(bool first)
     Q_EMIT LayoutUpdated(m_revision, menuRootId);
 }
 
-void MenuAdaptor::tellChanges()
+void MenuAdaptor::announceChanges()
 {
     std::vector<QVariantMap> now = allRowProperties(m_menu);
     QList<MenuRowProperties> changed;
     for (std::size_t i = 0; i < now.size(); ++i) {
-        if (i >= m_told.size() || m_told[i] != now[i])
+        if (i >= m_announced.size() || m_announced[i] != now[i])
             changed.append({static_cast<int>(i) + 1, now[i]});
     }
-    m_told = std::move(now);
+    m_announced = std::move(now);
     if (!changed.isEmpty())
         Q_EMIT ItemsPropertiesUpdated(changed, {});
 }

@@ -36,7 +36,7 @@ public:
 
     /// Announces the rows that have changed since the last announcement, row by row, because some hosts close
     /// an open menu when its layout changes.
-    void tellChanges();
+    void announceChanges();
 
     uint version() const;
     QString status() const;
@@ -66,7 +66,7 @@ private:
     StatusMenu* m_menu = nullptr;
     bool m_commandsFirst = false;
     std::function<void()> m_aboutToChoose;
-    std::vector<QVariantMap> m_told; ///< of each row; the row with id n at n - 1
+    std::vector<QVariantMap> m_announced; ///< of each row; the row with id n at n - 1
     uint m_revision = 0;
 };
 

@@ -5,10 +5,10 @@
 
 namespace quindle {
 
-NotifierItemAdaptor::NotifierItemAdaptor(QObject* item, const Presentation& told, StatusPictures& pictures,
-                                         Requests requests)
+NotifierItemAdaptor::NotifierItemAdaptor(QObject* item, const Presentation& presentation,
+                                         StatusPictures& pictures, Requests requests)
     : QDBusAbstractAdaptor(item)
-    , m_told(told)
+    , m_announced(presentation)
     , m_pictures(pictures)
     , m_requests(std::move(requests))
 {
@@ -27,7 +27,7 @@ QString NotifierItemAdaptor::id() const
 
 QString NotifierItemAdaptor::title() const
 {
-    return m_told.title;
+    return m_announced.title;
 }
 
 QString NotifierItemAdaptor::status() const
@@ -47,13 +47,13 @@ QString NotifierItemAdaptor::noText() const
 
 QString NotifierItemAdaptor::iconName() const
 {
-    if (m_told.picture.kind == Picture::Kind::Transparent)
+    if (m_announced.picture.kind == Picture::Kind::Transparent)
         return m_pictures.transparentFile();
-    switch (m_told.carrier) {
+    switch (m_announced.carrier) {
     case Carrier::File:
-        return m_pictures.file(m_told.picture);
+        return m_pictures.file(m_announced.picture);
     case Carrier::Drawing:
-        return m_pictures.drawing(m_told.picture);
+        return m_pictures.drawing(m_announced.picture);
     case Carrier::Pixels:
         break;
     }
@@ -63,10 +63,10 @@ QString NotifierItemAdaptor::iconName() const
 QList<NotifierPixmap> NotifierItemAdaptor::iconPixmap() const
 {
     // Some hosts prefer pixels to a name, and would not colour these.
-    if (m_told.carrier == Carrier::Drawing && !m_pictures.drawing(m_told.picture).isEmpty())
+    if (m_announced.carrier == Carrier::Drawing && !m_pictures.drawing(m_announced.picture).isEmpty())
         return {};
     QList<NotifierPixmap> pixmaps;
-    for (const QImage& image : m_pictures.images(m_told.picture))
+    for (const QImage& image : m_pictures.images(m_announced.picture))
         pixmaps.append(notifierPixmap(image));
     return pixmaps;
 }
@@ -78,7 +78,7 @@ QList<NotifierPixmap> NotifierItemAdaptor::noPixmap() const
 
 NotifierToolTip NotifierItemAdaptor::toolTip() const
 {
-    return {{}, {}, m_told.toolTipTitle, m_told.toolTipBody};
+    return {{}, {}, m_announced.toolTipTitle, m_announced.toolTipBody};
 }
 
 bool NotifierItemAdaptor::itemIsMenu() const
@@ -93,17 +93,17 @@ QDBusObjectPath NotifierItemAdaptor::menu() const
 
 QString LabelledItemAdaptor::label() const
 {
-    return told().label;
+    return presentation().label;
 }
 
 QString LabelledItemAdaptor::labelGuide() const
 {
-    return told().labelGuide;
+    return presentation().labelGuide;
 }
 
-const Presentation& NotifierItemAdaptor::told() const
+const Presentation& NotifierItemAdaptor::presentation() const
 {
-    return m_told;
+    return m_announced;
 }
 
 uint NotifierItemAdaptor::orderingIndex() const

@@ -46,7 +46,8 @@ public:
         std::function<void(const QString&)> activationToken; ///< allows the next window to come to the front
     };
 
-    NotifierItemAdaptor(QObject* item, const Presentation& told, StatusPictures& pictures, Requests requests);
+    NotifierItemAdaptor(QObject* item, const Presentation& presentation, StatusPictures& pictures,
+                        Requests requests);
 
     QString category() const;
     QString id() const;
@@ -80,10 +81,10 @@ Q_SIGNALS:
     void XAyatanaNewLabel(const QString& label, const QString& guide);
 
 protected:
-    const Presentation& told() const;
+    const Presentation& presentation() const;
 
 private:
-    const Presentation& m_told;
+    const Presentation& m_announced;
     StatusPictures& m_pictures;
     Requests m_requests;
 };

@@ -58,10 +58,10 @@ QString toolTipCut(const QString& text)
     return elided(busText(text), toolTipLength);
 }
 
-QString toolTipTitle(const Presentation& told, const ItemContents& contents, const HostTraits& host)
+QString toolTipTitle(const Presentation& presented, const ItemContents& contents, const HostTraits& host)
 {
     if (host.showsToolTipTitleOnly)
-        return literalPanelToolTip(told.plainToolTip);
+        return literalPanelToolTip(presented.plainToolTip);
     const QString cut = toolTipCut(contents.title);
     return host.escapesToolTipTitle ? cut : escapedMarkup(cut);
 }
@@ -70,22 +70,22 @@ QString toolTipTitle(const Presentation& told, const ItemContents& contents, con
 
 Presentation present(const ItemContents& contents, const HostTraits& host)
 {
-    Presentation told;
-    told.title = busText(contents.title);
-    told.plainToolTip =
+    Presentation presented;
+    presented.title = busText(contents.title);
+    presented.plainToolTip =
         (toolTipCut(contents.title) + QLatin1Char('\n') + toolTipCut(contents.toolTipText)).trimmed();
-    told.toolTipTitle = toolTipTitle(told, contents, host);
-    told.toolTipBody = escapedMarkup(toolTipCut(contents.toolTipText));
+    presented.toolTipTitle = toolTipTitle(presented, contents, host);
+    presented.toolTipBody = escapedMarkup(toolTipCut(contents.toolTipText));
     if (host.takesLabel)
-        told.label = elided(singleLine(contents.title), labelLength);
-    if (!told.label.isEmpty())
-        told.labelGuide = QStringLiteral("100.0%");
-    told.picture = pictureFor(contents, host.shape);
-    told.picture.ink = host.textColour;
-    told.picture.inAllHeights = host.labelHidesIcon;
-    told.picture.isSmall = host.drawsSmall;
-    told.carrier = carrierOf(told.picture, host);
-    return told;
+        presented.label = elided(singleLine(contents.title), labelLength);
+    if (!presented.label.isEmpty())
+        presented.labelGuide = QStringLiteral("100.0%");
+    presented.picture = pictureFor(contents, host.shape);
+    presented.picture.ink = host.textColour;
+    presented.picture.inAllHeights = host.labelHidesIcon;
+    presented.picture.isSmall = host.drawsSmall;
+    presented.carrier = carrierOf(presented.picture, host);
+    return presented;
 }
 
 } // namespace quindle

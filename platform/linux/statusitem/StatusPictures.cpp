@@ -167,7 +167,7 @@ QString writtenPictures()
 }
 
 /// Whether a path can be sent over the bus, which carries text only.
-bool isTellable(const QString& path)
+bool isSendable(const QString& path)
 {
     return !path.isEmpty() && path.isValidUtf16();
 }
@@ -189,7 +189,7 @@ QByteArray contentsOf(const QString& path)
 QString writtenPicture(const QString& name, const std::function<QByteArray()>& make)
 {
     const QString folder = writtenPictures();
-    if (!isTellable(folder))
+    if (!isSendable(folder))
         return {};
     QString path = folder + u'/' + name;
     // Names stand for their contents, so what is there need not be written again.
@@ -289,7 +289,7 @@ QString StatusPictures::drawing(const Picture& picture) const
     QString path = drawingOfImage(picture.imageName, grid);
     if (!isThere(path))
         return {};
-    if (isTellable(path))
+    if (isSendable(path))
         return path;
     return writtenPicture(QString::number(grid) + u'-' + picture.imageName + symbolic(),
                           [&] { return contentsOf(path); });
@@ -299,7 +299,7 @@ QString StatusPictures::transparentFile() const
 {
     const QString name = QStringLiteral("transparent.png");
     QString path = m_iconsDirectory + u'/' + name;
-    return isTellable(path) ? path : writtenPicture(name, [&] { return contentsOf(path); });
+    return isSendable(path) ? path : writtenPicture(name, [&] { return contentsOf(path); });
 }
 
 QString StatusPictures::drawingOfImage(const QString& name, int grid) const

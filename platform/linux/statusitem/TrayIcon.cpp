@@ -66,14 +66,14 @@ TrayIcon::TrayIcon(StatusMenu* menu)
 
 TrayIcon::~TrayIcon() = default;
 
-void TrayIcon::show(const Presentation& told, StatusPictures& pictures)
+void TrayIcon::show(const Presentation& presentation, StatusPictures& pictures)
 {
     // Drawing six sizes costs more than all else of a change, and mostly it is the tool tip that changes.
-    if (m_shownPicture != told.picture) {
-        m_shownPicture = told.picture;
-        m_icon.setIcon(trayIcon(told.picture, pictures));
+    if (m_shownPicture != presentation.picture) {
+        m_shownPicture = presentation.picture;
+        m_icon.setIcon(trayIcon(presentation.picture, pictures));
     }
-    m_icon.setToolTip(literalPanelToolTip(told.plainToolTip));
+    m_icon.setToolTip(literalPanelToolTip(presentation.plainToolTip));
     m_icon.show();
 }
 

@@ -28,8 +28,8 @@ public:
     explicit TrayIcon(StatusMenu* menu);
     ~TrayIcon() override;
 
-    /// `told` is the one for a square host.
-    void show(const Presentation& told, StatusPictures& pictures);
+    /// `presentation` is the one for a square host.
+    void show(const Presentation& presentation, StatusPictures& pictures);
 
     /// Brings an open menu up to date.
     void updateMenu();

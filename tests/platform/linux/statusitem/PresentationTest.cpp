@@ -66,31 +66,31 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Presentation, textsOfAnOrdinaryTitle)
 {
-    const Presentation told = present({u("87.0%"), {}, u("87"), u("Charging"), 12.0}, squareHost);
-    EXPECT_EQ(told.title, u("87.0%"));
-    EXPECT_EQ(told.toolTipTitle, u("87.0%"));
-    EXPECT_EQ(told.toolTipBody, u("Charging"));
-    EXPECT_EQ(told.plainToolTip, u("87.0%\nCharging"));
-    EXPECT_EQ(told.label, u("87.0%"));
-    EXPECT_EQ(told.labelGuide, u("100.0%"));
+    const Presentation presented = present({u("87.0%"), {}, u("87"), u("Charging"), 12.0}, squareHost);
+    EXPECT_EQ(presented.title, u("87.0%"));
+    EXPECT_EQ(presented.toolTipTitle, u("87.0%"));
+    EXPECT_EQ(presented.toolTipBody, u("Charging"));
+    EXPECT_EQ(presented.plainToolTip, u("87.0%\nCharging"));
+    EXPECT_EQ(presented.label, u("87.0%"));
+    EXPECT_EQ(presented.labelGuide, u("100.0%"));
 }
 
 TEST(Presentation, longTitleStaysExactAndIsCutWhereItIsShown)
 {
     const QString title(10000, QLatin1Char('x'));
-    const Presentation told = present({title, {}, {}, title, 12.0}, wideHost);
-    EXPECT_EQ(told.title, title);
-    EXPECT_EQ(told.label.size(), 60);
-    EXPECT_EQ(told.picture.text.size(), 40);
-    EXPECT_EQ(told.toolTipTitle.size(), 1000);
-    EXPECT_EQ(told.toolTipBody.size(), 1000);
+    const Presentation presented = present({title, {}, {}, title, 12.0}, wideHost);
+    EXPECT_EQ(presented.title, title);
+    EXPECT_EQ(presented.label.size(), 60);
+    EXPECT_EQ(presented.picture.text.size(), 40);
+    EXPECT_EQ(presented.toolTipTitle.size(), 1000);
+    EXPECT_EQ(presented.toolTipBody.size(), 1000);
 }
 
 TEST(Presentation, titleKeepsLineBreaksLabelDoesNot)
 {
-    const Presentation told = present({u("a\nb"), {}, {}, {}, 12.0}, labelHost);
-    EXPECT_EQ(told.title, u("a\nb"));
-    EXPECT_EQ(told.label, u("a b"));
+    const Presentation presented = present({u("a\nb"), {}, {}, {}, 12.0}, labelHost);
+    EXPECT_EQ(presented.title, u("a\nb"));
+    EXPECT_EQ(presented.label, u("a b"));
 }
 
 TEST(Presentation, toolTipIsEscapedWhereItIsMarkup)
@@ -164,9 +164,10 @@ TEST(Presentation, pictureComesInAllHeightsWhereThereIsNoLabel)
 
 TEST(Presentation, noLabelWhereThePersonWantsNone)
 {
-    const Presentation told = present({u("87.0%"), u("#bat34"), {}, {}, 12.0}, {HostShape::Square, false});
-    EXPECT_EQ(told.label, QString());
-    EXPECT_EQ(told.labelGuide, QString());
+    const Presentation presented =
+        present({u("87.0%"), u("#bat34"), {}, {}, 12.0}, {HostShape::Square, false});
+    EXPECT_EQ(presented.label, QString());
+    EXPECT_EQ(presented.labelGuide, QString());
 }
 
 TEST(Presentation, fontSizeMattersOnlyWhereTextIsDrawn)
