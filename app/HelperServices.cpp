@@ -9,6 +9,7 @@
 #include "platform/linux/statusitem/LinuxStatusItem.h"
 #include "platform/linux/system/LinuxBundle.h"
 #include "platform/recorded/RecordedPlatform.h"
+#include "settings/SettingsTable.h"
 
 namespace quindle {
 
@@ -20,7 +21,7 @@ StatusItemSurroundings surroundings(const Bundle& programBundle, UserDefaultsDat
     return {.iconsDirectory = programBundle.resourcesPath() + QStringLiteral("/icons"),
             .currentDesktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
             .presentationChoice = [&databases] {
-                return databases.standard().object(QStringLiteral("statusItemPresentation")).toString();
+                return databases.standard().object(Keys::statusItemPresentation.name()).toString();
             }};
 }
 

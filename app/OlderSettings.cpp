@@ -6,6 +6,7 @@
 #include "menubar/MenuBarSettingRule.h"
 #include "menubar/TitleTemplate.h"
 #include "platform/UserDefaults.h"
+#include "settings/SettingsTable.h"
 
 namespace quindle {
 
@@ -17,10 +18,10 @@ Q_LOGGING_CATEGORY(olderSettingsLog, "quindle.settings")
 /// neither of them is ever stored alone.
 bool hasParkedByOlderHelper(const UserDefaults& standard, const UserDefaults& suite)
 {
-    const auto row = convertToInteger(standard.object(menuBarSettingKey()));
-    const QVariant shown = suite.object(QStringLiteral("customStatusBar"));
+    const auto row = convertToInteger(standard.object(Keys::menuBarSetting.name()));
+    const QVariant shown = suite.object(Keys::customStatusBar.name());
     return row && row != customTextRow && convertToText(shown) == defaultTitleTemplate() &&
-           !standard.object(parkedTextKey()).isValid();
+           !standard.object(Keys::parkedCustomStatusBar.name()).isValid();
 }
 
 } // namespace
@@ -28,13 +29,13 @@ bool hasParkedByOlderHelper(const UserDefaults& standard, const UserDefaults& su
 void copyTextParkedByOlderHelper(UserDefaultsDatabases& databases)
 {
     UserDefaults& standard = databases.standard();
-    const UserDefaults* suite = databases.suite(QStringLiteral("group.fernhollow.Quindle"));
+    const UserDefaults* suite = databases.suite(groupDatabaseName());
     if (!suite || !hasParkedByOlderHelper(standard, *suite))
         return;
-    const auto parked = convertToText(standard.object(QStringLiteral("statusBarString")));
+    const auto parked = convertToText(standard.object(Keys::statusBarString.name()));
     if (!parked)
         return;
-    standard.setObject(parkedTextKey(), *parked);
+    standard.setObject(Keys::parkedCustomStatusBar.name(), *parked);
     qCInfo(olderSettingsLog) << "the menu bar text of an older helper is copied from statusBarString";
 }
 

@@ -60,7 +60,7 @@ void readSettingsInTime(UserDefaultsDatabases& databases)
 {
     const StartDeadline deadline(patience, "the folder of the settings does not answer");
     databases.standard().dictionaryRepresentation();
-    if (UserDefaults* shared = databases.suite(QStringLiteral("group.fernhollow.Quindle")))
+    if (UserDefaults* shared = databases.suite(groupDatabaseName()))
         shared->dictionaryRepresentation();
 }
 

@@ -22,6 +22,7 @@
 #include "platform/PowerSources.h"
 #include "platform/RunLoop.h"
 #include "platform/UserDefaults.h"
+#include "settings/SettingsTable.h"
 
 namespace quindle {
 
@@ -30,37 +31,29 @@ namespace {
 constexpr double refreshInterval = 5.0;  // seconds
 constexpr double refreshTolerance = 5.0; // lets its ticks fall together with those of slower timers
 
-QString temperatureModeKey()
-{
-    return QStringLiteral("QDBatteryTemperatureMode");
-}
-
-QString ageModeKey()
-{
-    return QStringLiteral("QDBatteryAgeMode");
-}
-
-[[noreturn]] void endForStoredMode(const UserDefaults& defaults, const QString& key, qint64 number)
+[[noreturn]] void endForStoredMode(const UserDefaults& defaults, const Setting<qint64>& setting,
+                                   qint64 number)
 {
     const QString file = defaults.file();
+    const QString key = setting.name();
     const QString place = file.isEmpty() ? key : file + QStringLiteral(": ") + key;
     fatalError(QString(place + QStringLiteral(": %1 is none of 0, 1 and 2").arg(number)));
 }
 
-/// The mode stored under `key`; the stored number must be one of the mode's three.
+/// The stored mode; the stored number must be one of the mode's three.
 template <typename Mode>
-Mode storedMode(const UserDefaults& defaults, const QString& key)
+Mode storedMode(const UserDefaults& defaults, const Setting<qint64>& setting)
 {
-    const qint64 number = defaults.integer(key);
+    const qint64 number = defaults.integer(setting.name());
     if (number < 0 || number > 2) // inherited: fatal; no toggle or preference stores another
-        endForStoredMode(defaults, key, number);
+        endForStoredMode(defaults, setting, number);
     return static_cast<Mode>(number);
 }
 
 template <typename Mode>
-void storeMode(UserDefaults& defaults, const QString& key, Mode mode)
+void storeMode(UserDefaults& defaults, const Setting<qint64>& setting, Mode mode)
 {
-    defaults.setInteger(key, static_cast<qint64>(mode));
+    defaults.setInteger(setting.name(), static_cast<qint64>(mode));
 }
 
 } // namespace
@@ -81,8 +74,8 @@ QDBattery::~QDBattery()
 void QDBattery::loadSettings()
 {
     const UserDefaults& defaults = m_platform.userDefaults.standard();
-    m_temperatureMode = storedMode<TemperatureUnit>(defaults, temperatureModeKey());
-    m_ageMode = storedMode<AgeFieldMode>(defaults, ageModeKey());
+    m_temperatureMode = storedMode<TemperatureUnit>(defaults, Keys::batteryTemperatureMode);
+    m_ageMode = storedMode<AgeFieldMode>(defaults, Keys::batteryAgeMode);
 }
 
 IOStatus QDBattery::open()
@@ -289,7 +282,7 @@ void QDBattery::toggleTemperatureMode()
         m_temperatureMode = TemperatureUnit::Celsius;
     m_temperature = getCustomTemperature();
     // Also when Kelvin stayed: the same value is not written twice.
-    storeMode(m_platform.userDefaults.standard(), temperatureModeKey(), m_temperatureMode);
+    storeMode(m_platform.userDefaults.standard(), Keys::batteryTemperatureMode, m_temperatureMode);
     Q_EMIT changed();
 }
 
@@ -298,7 +291,7 @@ void QDBattery::toggleAge()
     m_ageMode = static_cast<AgeFieldMode>((static_cast<int>(m_ageMode) + 1) % 3);
     if (const auto made = ManufactureDate())
         m_customAge = ageText(static_cast<int>(m_ageMode), *made, m_platform.clock.now());
-    storeMode(m_platform.userDefaults.standard(), ageModeKey(), m_ageMode);
+    storeMode(m_platform.userDefaults.standard(), Keys::batteryAgeMode, m_ageMode);
     Q_EMIT changed();
 }
 

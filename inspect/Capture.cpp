@@ -13,6 +13,7 @@
 #include "platform/PowerSources.h"
 #include "platform/UserDefaults.h"
 #include "plist/PropertyList.h"
+#include "settings/SettingsTable.h"
 #include "settings/StartupLaunch_pref.h"
 
 namespace quindle {
@@ -94,7 +95,7 @@ QVariantList helperLoginItem(const QVariantMap& bundle)
 
 bool isSuiteUnavailable(UserDefaultsDatabases& userDefaults)
 {
-    return userDefaults.suite(QStringLiteral("group.fernhollow.Quindle")) == nullptr;
+    return userDefaults.suite(groupDatabaseName()) == nullptr;
 }
 
 std::vector<SerialPair> inventedSerials(const QVariantMap& registry)
@@ -115,7 +116,7 @@ QVariantMap withoutModelCache(QVariantMap databases)
     for (QVariant& database : databases) {
         QVariantMap settings = database.toMap();
         // Its keys are the ends of serial numbers.
-        settings.remove(QStringLiteral("modelStringCache"));
+        settings.remove(Keys::modelStringCache.name());
         database = settings;
     }
     return databases;

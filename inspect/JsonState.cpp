@@ -12,6 +12,7 @@
 #include "platform/Platform.h"
 #include "platform/StatusBar.h"
 #include "settings/ApplicationPreferences.h"
+#include "settings/SettingsTable.h"
 #include "settings/StartupLaunch_pref.h"
 
 namespace quindle {
@@ -80,17 +81,17 @@ QVariantMap settingsState(const ApplicationPreferences& preferences)
     // Without the suite this one setting must not be asked: that is fatal.
     const QVariant firstStart = preferences.hasSuite() ? QVariant(preferences.firstStart()) : QVariant();
     return {
-        {QStringLiteral("autoUpload"), preferences.autoUpload()},
-        {QStringLiteral("temperatureSettingIndex"), preferences.temperatureSettingIndex()},
-        {QStringLiteral("showIconsInMenuBar"), preferences.showIconsInMenuBar()},
-        {QStringLiteral("temperatureWarningTag"), preferences.temperatureWarningTag()},
-        {QStringLiteral("customStatusBar"), preferences.customStatusBar()},
-        {QStringLiteral("runInBackground"), preferences.runInBackground()},
-        {QStringLiteral("bundleVersionAtQuit"), orNull(preferences.bundleVersionAtQuit())},
+        {Keys::autoUpload.name(), preferences.autoUpload()},
+        {Keys::temperatureSettingIndex.name(), preferences.temperatureSettingIndex()},
+        {Keys::showIconsInMenuBar.name(), preferences.showIconsInMenuBar()},
+        {Keys::temperatureWarningTag.name(), preferences.temperatureWarningTag()},
+        {Keys::customStatusBar.name(), preferences.customStatusBar()},
+        {Keys::runInBackground.name(), preferences.runInBackground()},
+        {Keys::bundleVersionAtQuit.name(), orNull(preferences.bundleVersionAtQuit())},
         {QStringLiteral("bundleVersionAtQuitText"), orNull(preferences.bundleVersionAtQuitText())},
-        {QStringLiteral("statusBarString"), orNull(preferences.statusBarString())},
+        {Keys::statusBarString.name(), orNull(preferences.statusBarString())},
         {QStringLiteral("runInBackgroundOwn"), orNull(preferences.runInBackgroundOwn())},
-        {QStringLiteral("firstStart"), firstStart},
+        {Keys::firstStart.name(), firstStart},
     };
 }
 

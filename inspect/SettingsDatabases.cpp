@@ -6,11 +6,10 @@ namespace quindle {
 
 QVariantMap settingsDatabases(UserDefaultsDatabases& userDefaults)
 {
-    const QString groupName = QStringLiteral("group.fernhollow.Quindle");
-    const UserDefaults* group = userDefaults.suite(groupName);
+    const UserDefaults* group = userDefaults.suite(groupDatabaseName());
     return {
         {QStringLiteral("standard"), userDefaults.standard().dictionaryRepresentation()},
-        {groupName, group ? group->dictionaryRepresentation() : QVariantMap()},
+        {groupDatabaseName(), group ? group->dictionaryRepresentation() : QVariantMap()},
     };
 }
 

@@ -2,26 +2,22 @@
 
 #include "common/NumberConversion.h"
 #include "platform/UserDefaults.h"
+#include "settings/SettingsTable.h"
 
 namespace quindle {
 
 namespace {
 
-QString cacheKey()
-{
-    return QStringLiteral("modelStringCache");
-}
-
 std::optional<QString> fullModelText(const QString& code, UserDefaults& defaults,
                                      const OnlineModelText& online)
 {
-    QVariantMap cache = defaults.dictionary(cacheKey());
+    QVariantMap cache = defaults.dictionary(Keys::modelStringCache.name());
     if (auto cached = convertToText(cache.value(code)))
         return cached;
     auto text = online(code);
     if (text) { // without an answer the next start asks again
         cache.insert(code, *text);
-        defaults.setObject(cacheKey(), cache);
+        defaults.setObject(Keys::modelStringCache.name(), cache);
     }
     return text;
 }

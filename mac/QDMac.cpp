@@ -18,15 +18,11 @@
 #include "platform/Platform.h"
 #include "platform/RunLoop.h"
 #include "platform/UserDefaults.h"
+#include "settings/SettingsTable.h"
 
 namespace quindle {
 
 namespace {
-
-QString ageModeKey()
-{
-    return QStringLiteral("QDMacAgeMode");
-}
 
 qint64 nextAgeMode(qint64 mode)
 {
@@ -54,7 +50,7 @@ QString wrappedOptional(const std::optional<QString>& text)
 QDMac::QDMac(const Platform& platform)
     : m_platform(platform)
     , m_manufactureDate(platform.clock.now())
-    , m_ageMode(platform.userDefaults.standard().integer(ageModeKey()))
+    , m_ageMode(platform.userDefaults.standard().integer(Keys::macAgeMode.name()))
 {
 }
 
@@ -147,7 +143,7 @@ void QDMac::toggleAge()
 {
     m_ageMode = nextAgeMode(m_ageMode);
     m_customAge = ageTextOfMode(m_ageMode, ManufactureDate(), m_platform.clock.now());
-    m_platform.userDefaults.standard().setInteger(ageModeKey(), m_ageMode);
+    m_platform.userDefaults.standard().setInteger(Keys::macAgeMode.name(), m_ageMode);
     Q_EMIT changed();
 }
 

@@ -4,16 +4,6 @@
 
 namespace quindle {
 
-QString menuBarSettingKey()
-{
-    return QStringLiteral("customMenuBarSettingSelectedIndex");
-}
-
-QString parkedTextKey()
-{
-    return QStringLiteral("parkedCustomStatusBar");
-}
-
 MenuBarTexts textsAfterChoosing(qint64 before, qint64 row, const MenuBarTexts& texts)
 {
     const bool isDefault = texts.customStatusBar == defaultTitleTemplate();

@@ -10,11 +10,6 @@ namespace quindle {
 constexpr qint64 standardTitleRow = 0;
 constexpr qint64 customTextRow = 1;
 
-/// Where the helper's own database holds the chosen row, which only the window of the menu bar text writes,
-/// and the user's own text while the standard title is shown.
-QString menuBarSettingKey();
-QString parkedTextKey();
-
 /// The title's template, and the one that is parked while the standard title is shown.
 struct MenuBarTexts
 {

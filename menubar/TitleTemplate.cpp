@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "common/NumberTexts.h"
+#include "settings/SettingsTable.h"
 
 namespace quindle {
 
@@ -31,7 +32,7 @@ QString cutTemplate(const QString& titleTemplate)
 
 QString defaultTitleTemplate()
 {
-    return QStringLiteral("%p%");
+    return DefaultValues::customStatusBar.toString();
 }
 
 QString titleFromTemplate(const QString& titleTemplate, const TitleValues& values)

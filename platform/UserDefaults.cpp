@@ -20,4 +20,9 @@ QVariantMap UserDefaults::dictionary(const QString& key) const
     return value.typeId() == QMetaType::QVariantMap ? value.toMap() : QVariantMap();
 }
 
+QString groupDatabaseName()
+{
+    return QStringLiteral("group.fernhollow.Quindle");
+}
+
 } // namespace quindle

@@ -40,6 +40,9 @@ public:
     QVariantMap dictionary(const QString& key) const;
 };
 
+/// The name of the database that the helper shares with the main application: that of their group.
+QString groupDatabaseName();
+
 /// Both settings databases of the helper. Main thread only.
 class UserDefaultsDatabases
 {
@@ -50,7 +53,7 @@ public:
     /// It always exists, even where nothing can be stored.
     virtual UserDefaults& standard() = 0;
 
-    /// The database of a group of applications ("group.fernhollow.Quindle"), which lives as long as this
+    /// The database of a group of applications, which lives as long as this
     /// object; null when it cannot be opened.
     /// Settings of the group then have their defaults, and are not kept.
     virtual UserDefaults* suite(const QString& suiteName) = 0;

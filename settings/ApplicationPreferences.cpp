@@ -6,70 +6,43 @@
 #include "common/NumberConversion.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
+#include "settings/SettingsTable.h"
 
 namespace quindle {
 
-namespace Keys {
-
 namespace {
 
-const QString suiteName = QStringLiteral("group.fernhollow.Quindle");
-
-const QString autoUpload = QStringLiteral("autoUpload");
-const QString temperatureSettingIndex = QStringLiteral("temperatureSettingIndex");
-const QString showIconsInMenuBar = QStringLiteral("showIconsInMenuBar");
-const QString temperatureWarningTag = QStringLiteral("temperatureWarningTag");
-const QString customStatusBar = QStringLiteral("customStatusBar");
-const QString runInBackground = QStringLiteral("runInBackground");
-const QString bundleVersionAtQuit = QStringLiteral("bundleVersionAtQuit");
-const QString statusBarString = QStringLiteral("statusBarString");
-const QString firstStart = QStringLiteral("firstStart");
-
-} // namespace
-
-} // namespace Keys
-
-namespace DefaultValues {
-
-namespace {
-
-const QString customStatusBar = QStringLiteral("%p%");
-constexpr bool flag = false;
-constexpr qint64 number = 0;
-
-} // namespace
-
-} // namespace DefaultValues
-
-namespace {
-
-template <typename Type>
-using Conversion = std::optional<Type> (*)(const QVariant&);
-
-template <typename Type>
-Type suiteValue(const UserDefaults* suite, const QString& key, Conversion<Type> convert, const Type& fallback)
+std::optional<bool> converted(const Setting<bool>& /*setting*/, const QVariant& object)
 {
-    return suite ? convert(suite->object(key)).value_or(fallback) : fallback;
+    return convertToBoolean(object);
 }
 
-void setSuiteValue(UserDefaults* suite, const QString& key, const QVariant& value)
+std::optional<qint64> converted(const Setting<qint64>& /*setting*/, const QVariant& object)
 {
-    if (suite)
-        suite->setObject(key, value);
+    return convertToInteger(object);
+}
+
+std::optional<QString> converted(const Setting<QStringView>& /*setting*/, const QVariant& object)
+{
+    return convertToText(object);
 }
 
 template <typename Type>
-void setOwnValue(UserDefaults& defaults, const QString& key, const std::optional<Type>& value)
+Type withoutView(Type value)
 {
-    if (value) // nothing is not written, and removes nothing
-        defaults.setObject(key, QVariant::fromValue(*value));
+    return value;
+}
+
+QString withoutView(QStringView value)
+{
+    return value.toString();
 }
 
 } // namespace
 
 ApplicationPreferences::ApplicationPreferences(const Platform& platform)
     : m_defaults(platform.userDefaults.standard())
-    , m_suiteDefaults(platform.userDefaults.suite(Keys::suiteName))
+    , m_suiteDefaults(platform.userDefaults.suite(groupDatabaseName()))
     , m_nc(platform.notificationCenter)
 {
 }
@@ -85,118 +58,150 @@ ApplicationPreferences& ApplicationPreferences::sharedInstance(const Platform* p
     return *instance;
 }
 
+template <typename Type>
+UserDefaults* ApplicationPreferences::databaseOf(const Setting<Type>& setting) const
+{
+    return setting.database == SettingsDatabase::Own ? &m_defaults : m_suiteDefaults;
+}
+
+template <typename Type>
+auto ApplicationPreferences::stored(const Setting<Type>& setting) const
+{
+    const UserDefaults* database = databaseOf(setting);
+    return converted(setting, database ? database->object(setting.name()) : QVariant());
+}
+
+template <typename Type>
+auto ApplicationPreferences::read(const Setting<Type>& setting) const
+{
+    return stored(setting).value_or(withoutView(*setting.missing));
+}
+
+template <typename Type, typename Value>
+void ApplicationPreferences::store(const Setting<Type>& setting, const Value& value)
+{
+    if (UserDefaults* database = databaseOf(setting))
+        database->setObject(setting.name(), QVariant::fromValue(value));
+}
+
+template <typename Type, typename Value>
+void ApplicationPreferences::store(const Setting<Type>& setting, const std::optional<Value>& value)
+{
+    if (value) // nothing is not written, and removes nothing
+        store(setting, *value);
+}
+
 bool ApplicationPreferences::autoUpload() const
 {
-    return suiteValue(m_suiteDefaults, Keys::autoUpload, convertToBoolean, DefaultValues::flag);
+    return read(Keys::autoUpload);
 }
 
 void ApplicationPreferences::setAutoUpload(bool value)
 {
-    setSuiteValue(m_suiteDefaults, Keys::autoUpload, value);
+    store(Keys::autoUpload, value);
 }
 
 qint64 ApplicationPreferences::temperatureSettingIndex() const
 {
-    return suiteValue(m_suiteDefaults, Keys::temperatureSettingIndex, convertToInteger,
-                      DefaultValues::number);
+    return read(Keys::temperatureSettingIndex);
 }
 
 void ApplicationPreferences::setTemperatureSettingIndex(qint64 value)
 {
-    setSuiteValue(m_suiteDefaults, Keys::temperatureSettingIndex, value);
+    store(Keys::temperatureSettingIndex, value);
 }
 
 qint64 ApplicationPreferences::showIconsInMenuBar() const
 {
-    return suiteValue(m_suiteDefaults, Keys::showIconsInMenuBar, convertToInteger, DefaultValues::number);
+    return read(Keys::showIconsInMenuBar);
 }
 
 void ApplicationPreferences::setShowIconsInMenuBar(qint64 value)
 {
-    setSuiteValue(m_suiteDefaults, Keys::showIconsInMenuBar, value);
+    store(Keys::showIconsInMenuBar, value);
 }
 
 qint64 ApplicationPreferences::temperatureWarningTag() const
 {
-    return suiteValue(m_suiteDefaults, Keys::temperatureWarningTag, convertToInteger, DefaultValues::number);
+    return read(Keys::temperatureWarningTag);
 }
 
 void ApplicationPreferences::setTemperatureWarningTag(qint64 value)
 {
-    setSuiteValue(m_suiteDefaults, Keys::temperatureWarningTag, value);
+    store(Keys::temperatureWarningTag, value);
 }
 
 QString ApplicationPreferences::customStatusBar() const
 {
-    return suiteValue(m_suiteDefaults, Keys::customStatusBar, convertToText, DefaultValues::customStatusBar);
+    return read(Keys::customStatusBar);
 }
 
 void ApplicationPreferences::setCustomStatusBar(const QString& value)
 {
-    setSuiteValue(m_suiteDefaults, Keys::customStatusBar, value);
+    store(Keys::customStatusBar, value);
 }
 
 bool ApplicationPreferences::runInBackground() const
 {
-    return suiteValue(m_suiteDefaults, Keys::runInBackground, convertToBoolean, DefaultValues::flag);
+    return read(Keys::runInBackground);
 }
 
 void ApplicationPreferences::setRunInBackground(bool value)
 {
-    setSuiteValue(m_suiteDefaults, Keys::runInBackground, value);
+    store(Keys::runInBackground, value);
 }
 
 bool ApplicationPreferences::firstStart() const
 {
     if (!m_suiteDefaults) // inherited: fatal, alone among the suite's settings
         fatalError(u"firstStart was asked for without the shared settings");
-    return suiteValue(m_suiteDefaults, Keys::firstStart, convertToBoolean, DefaultValues::flag);
+    return read(Keys::firstStart);
 }
 
 void ApplicationPreferences::setFirstStart(bool value)
 {
-    setSuiteValue(m_suiteDefaults, Keys::firstStart, value);
+    store(Keys::firstStart, value);
 }
 
 // inherited: one key, read as a number and as text.
 std::optional<qint64> ApplicationPreferences::bundleVersionAtQuit() const
 {
-    return convertToInteger(m_defaults.object(Keys::bundleVersionAtQuit));
+    return stored(Keys::bundleVersionAtQuit);
 }
 
 void ApplicationPreferences::setBundleVersionAtQuit(std::optional<qint64> value)
 {
-    setOwnValue(m_defaults, Keys::bundleVersionAtQuit, value);
+    store(Keys::bundleVersionAtQuit, value);
 }
 
 std::optional<QString> ApplicationPreferences::bundleVersionAtQuitText() const
 {
-    return convertToText(m_defaults.object(Keys::bundleVersionAtQuit));
+    return stored(Keys::bundleVersionAtQuitText);
 }
 
 void ApplicationPreferences::setBundleVersionAtQuitText(const std::optional<QString>& value)
 {
-    setOwnValue(m_defaults, Keys::bundleVersionAtQuit, value);
+    store(Keys::bundleVersionAtQuitText, value);
 }
 
 std::optional<QString> ApplicationPreferences::statusBarString() const
 {
-    return convertToText(m_defaults.object(Keys::statusBarString));
+    return stored(Keys::statusBarString);
 }
 
 void ApplicationPreferences::setStatusBarString(const std::optional<QString>& value)
 {
-    setOwnValue(m_defaults, Keys::statusBarString, value);
+    store(Keys::statusBarString, value);
 }
 
 std::optional<bool> ApplicationPreferences::runInBackgroundOwn() const
 {
-    return convertToBoolean(m_defaults.object(Keys::runInBackground));
+    return stored(Keys::runInBackgroundOwn);
 }
 
 void ApplicationPreferences::setRunInBackgroundOwn(std::optional<bool> value)
 {
-    setOwnValue(m_defaults, Keys::runInBackground, value);
+    store(Keys::runInBackgroundOwn, value);
 }
 
 } // namespace quindle

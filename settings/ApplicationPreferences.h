@@ -9,6 +9,8 @@ namespace quindle {
 class NotificationCenter;
 class UserDefaults;
 struct Platform;
+template <typename Type>
+struct Setting;
 
 /// The settings of the helper, typed. inherited: the name, and "defaults" for a database (UserDefaults). Each
 /// read goes to its database; a value that is missing or of another type reads as the default value given
@@ -57,6 +59,17 @@ public:
     NotificationCenter& nc() const { return m_nc; }
 
 private:
+    template <typename Type>
+    UserDefaults* databaseOf(const Setting<Type>& setting) const;
+    template <typename Type>
+    auto stored(const Setting<Type>& setting) const;
+    template <typename Type>
+    auto read(const Setting<Type>& setting) const;
+    template <typename Type, typename Value>
+    void store(const Setting<Type>& setting, const Value& value);
+    template <typename Type, typename Value>
+    void store(const Setting<Type>& setting, const std::optional<Value>& value);
+
     UserDefaults& m_defaults;
     UserDefaults* m_suiteDefaults;
     NotificationCenter& m_nc;

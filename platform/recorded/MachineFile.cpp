@@ -9,6 +9,7 @@
 
 #include "common/FileContents.h"
 #include "common/Paths.h"
+#include "platform/UserDefaults.h"
 #include "plist/PropertyList.h"
 
 namespace quindle {
@@ -273,11 +274,6 @@ MachineStep stepFromKeys(QVariantMap keys, const QDir& folder)
 }
 
 } // namespace
-
-QString groupDatabaseName()
-{
-    return QStringLiteral("group.fernhollow.Quindle");
-}
 
 MachineResult readMachineFile(const QString& path)
 {

@@ -52,9 +52,6 @@ struct MachineRefusal
 
 using MachineResult = std::variant<Machine, MachineRefusal>;
 
-/// The name of the database that all the applications of the group share.
-QString groupDatabaseName();
-
 /// Reads and checks the file at `path`.
 MachineResult readMachineFile(const QString& path);
 

@@ -13,6 +13,7 @@
 #include "platform/NotificationCenter.h"
 #include "platform/UserDefaults.h"
 #include "settings/ApplicationPreferences.h"
+#include "settings/SettingsTable.h"
 #include "settings/StartupLaunch_pref.h"
 
 namespace quindle {
@@ -20,18 +21,6 @@ namespace quindle {
 namespace {
 
 constexpr qint64 iconsShown = 1;
-
-// inherited: the window's switch has a key of its own, beside "autoUpload", and the upload does not look at
-// it.
-QString autoUploadBatteryDataKey()
-{
-    return QStringLiteral("autoUploadBatteryData");
-}
-
-QString presentationKey()
-{
-    return QStringLiteral("statusItemPresentation");
-}
 
 // As they are stored; anything else is the first.
 constexpr std::array<QLatin1StringView, 4> presentations{
@@ -80,7 +69,7 @@ void BoundSettings::setTemperatureSettingIndex(qint64 value)
 void BoundSettings::setTemperatureOfTitleAndView(qint64 value)
 {
     // First, because the signal of the second makes everybody read both.
-    m_standardDefaults.setInteger(QStringLiteral("QDBatteryTemperatureMode"), value);
+    m_standardDefaults.setInteger(Keys::batteryTemperatureMode.name(), value);
     setTemperatureSettingIndex(value);
 }
 
@@ -108,12 +97,12 @@ void BoundSettings::setAutoUpload(bool value)
 
 bool BoundSettings::autoUploadBatteryData() const
 {
-    return m_standardDefaults.integer(autoUploadBatteryDataKey()) != 0;
+    return m_standardDefaults.integer(Keys::autoUploadBatteryData.name()) != 0;
 }
 
 void BoundSettings::setAutoUploadBatteryData(bool value)
 {
-    m_standardDefaults.setInteger(autoUploadBatteryDataKey(), value ? 1 : 0);
+    m_standardDefaults.setInteger(Keys::autoUploadBatteryData.name(), value ? 1 : 0);
     Q_EMIT changed();
 }
 
@@ -126,7 +115,7 @@ void BoundSettings::setStartsAtLogin(bool value)
 
 qint64 BoundSettings::menuBarSetting() const
 {
-    const auto row = convertToInteger(m_standardDefaults.object(menuBarSettingKey()));
+    const auto row = convertToInteger(m_standardDefaults.object(Keys::menuBarSetting.name()));
     return row == customTextRow ? customTextRow : standardTitleRow;
 }
 
@@ -138,12 +127,12 @@ qint64 BoundSettings::shownMenuBarSetting() const
 void BoundSettings::setMenuBarSetting(qint64 row)
 {
     const qint64 before = menuBarSetting();
-    m_standardDefaults.setInteger(menuBarSettingKey(), row);
+    m_standardDefaults.setInteger(Keys::menuBarSetting.name(), row);
     const MenuBarTexts texts{m_preferences.customStatusBar(),
-                             convertToText(m_standardDefaults.object(parkedTextKey()))};
+                             convertToText(m_standardDefaults.object(Keys::parkedCustomStatusBar.name()))};
     const MenuBarTexts next = textsAfterChoosing(before, row, texts);
     if (next.parked && next.parked != texts.parked) // first: the user's text is never nowhere
-        m_standardDefaults.setObject(parkedTextKey(), *next.parked);
+        m_standardDefaults.setObject(Keys::parkedCustomStatusBar.name(), *next.parked);
     if (next.customStatusBar != texts.customStatusBar)
         m_preferences.setCustomStatusBar(next.customStatusBar);
     Q_EMIT changed();
@@ -151,14 +140,14 @@ void BoundSettings::setMenuBarSetting(qint64 row)
 
 qint64 BoundSettings::statusItemPresentation() const
 {
-    const QString stored = m_standardDefaults.object(presentationKey()).toString();
+    const QString stored = m_standardDefaults.object(Keys::statusItemPresentation.name()).toString();
     const auto* const found = std::find(presentations.begin(), presentations.end(), stored);
     return found == presentations.end() ? 0 : found - presentations.begin();
 }
 
 void BoundSettings::setStatusItemPresentation(qint64 value)
 {
-    m_standardDefaults.setObject(presentationKey(),
+    m_standardDefaults.setObject(Keys::statusItemPresentation.name(),
                                  QString(presentations.at(static_cast<std::size_t>(value))));
     Q_EMIT changed();
 }

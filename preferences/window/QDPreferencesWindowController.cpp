@@ -13,17 +13,13 @@
 #include "preferences/window/PreferencesToolbar.h"
 #include "preferences/window/QDPreferencesWindow.h"
 #include "preferences/window/QDPreferencesWindowControllerProtocol.h"
+#include "settings/SettingsTable.h"
 #include "widgets/CloseKey.h"
 #include "widgets/SegmentedControl.h"
 
 namespace quindle {
 
 namespace {
-
-QString frameAutosaveName()
-{
-    return QStringLiteral("PreferencesWindowFrameAutoSaveName");
-}
 
 // Focus given to a widget that cannot have it would leave the window without any.
 bool canBeFirstResponder(const QWidget* widget)
@@ -153,8 +149,8 @@ void QDPreferencesWindowController::makeWindow()
     m_window->setWindowTitle(QStringLiteral("Preferences")); // until a pane is shown
     m_window->setMovableByWindowBackground(true);
     m_transition = std::make_unique<PaneTransition>(*m_window);
-    m_frameAutosave =
-        std::make_unique<FrameAutosave>(*m_window, m_defaults, frameAutosaveName(), m_desktop.placesWindows);
+    m_frameAutosave = std::make_unique<FrameAutosave>(
+        *m_window, m_defaults, Keys::preferencesWindowFrame.name(), m_desktop.placesWindows);
     m_frameRestored = m_frameAutosave->restore();
     connect(m_window.get(), &QDPreferencesWindow::contentSizeMayDiffer, this,
             &QDPreferencesWindowController::fitWindow);

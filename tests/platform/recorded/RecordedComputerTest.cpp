@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/UserDefaults.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
