@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/linux/power/Battery.h"
-#include "platform/linux/power/SupplyAttributes.h"
+#include "platform/linux/supplies/SupplyAttributes.h"
 
 /// What the attributes of one battery mean. Plain functions.
 namespace quindle {

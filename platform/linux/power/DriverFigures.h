@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "platform/linux/power/SupplyAttributes.h"
+#include "platform/linux/supplies/SupplyAttributes.h"
 
 namespace quindle {
 

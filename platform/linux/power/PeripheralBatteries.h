@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/linux/power/PeripheralRules.h"
-#include "platform/linux/power/SupplyReader.h"
+#include "platform/linux/supplies/SupplyReader.h"
 
 namespace quindle {
 

@@ -4,7 +4,7 @@
 
 #include "platform/PowerSources.h"
 #include "platform/linux/os/BluetoothBattery.h"
-#include "platform/linux/power/SupplyReading.h"
+#include "platform/linux/supplies/SupplyReading.h"
 
 /// The batteries of devices beside the computer. Plain functions.
 namespace quindle {

@@ -9,8 +9,8 @@
 
 #include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/power/BatteryTimes.h"
-#include "platform/linux/power/SupplyMemory.h"
-#include "platform/linux/power/SupplyReader.h"
+#include "platform/linux/supplies/SupplyMemory.h"
+#include "platform/linux/supplies/SupplyReader.h"
 
 namespace quindle {
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/linux/power/CombinedBattery.h"
-#include "platform/linux/power/SupplyReading.h"
+#include "platform/linux/supplies/SupplyReading.h"
 
 namespace quindle {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/power/SupplyReader.h"
+#include "platform/linux/supplies/SupplyReader.h"
 
 namespace quindle {
 

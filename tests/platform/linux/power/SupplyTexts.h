@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-#include "platform/linux/power/SupplyReading.h"
+#include "platform/linux/supplies/SupplyReading.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "platform/linux/power/SupplyReading.h"
+#include "platform/linux/supplies/SupplyReading.h"
 
 #include <initializer_list>
 

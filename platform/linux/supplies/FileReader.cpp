@@ -1,4 +1,4 @@
-#include "platform/linux/power/FileReader.h"
+#include "platform/linux/supplies/FileReader.h"
 
 #include <algorithm>
 #include <cerrno>

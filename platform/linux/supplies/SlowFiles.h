@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/power/SupplyFiles.h"
+#include "platform/linux/supplies/SupplyFiles.h"
 
 namespace quindle {
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/power/FileReader.h"
-#include "platform/linux/power/SupplyReading.h"
+#include "platform/linux/supplies/FileReader.h"
+#include "platform/linux/supplies/SupplyReading.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "platform/linux/power/FolderWatch.h"
+#include "platform/linux/supplies/FolderWatch.h"
 
 #include <array>
 #include <string>

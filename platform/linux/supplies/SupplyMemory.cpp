@@ -1,4 +1,4 @@
-#include "platform/linux/power/SupplyMemory.h"
+#include "platform/linux/supplies/SupplyMemory.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/power/SlowFiles.h"
+#include "platform/linux/supplies/SlowFiles.h"
 
 #include <algorithm>
 #include <array>

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/power/SlowFiles.h"
-#include "platform/linux/power/SupplyFolder.h"
+#include "platform/linux/supplies/SlowFiles.h"
+#include "platform/linux/supplies/SupplyFolder.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "platform/linux/power/SupplyFiles.h"
+#include "platform/linux/supplies/SupplyFiles.h"
 
 #include <algorithm>
 #include <array>

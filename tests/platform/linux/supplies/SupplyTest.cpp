@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
-#include "platform/linux/power/Supply.h"
+#include "platform/linux/supplies/Supply.h"
 #include "tests/platform/linux/power/SupplyTree.h"
 
 using namespace quindle;

@@ -1,4 +1,4 @@
-#include "platform/linux/power/SupplyFolder.h"
+#include "platform/linux/supplies/SupplyFolder.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -10,9 +10,9 @@
 #include <dirent.h>
 
 #include "platform/linux/os/FileDescriptor.h"
-#include "platform/linux/power/FileReader.h"
-#include "platform/linux/power/FolderWatch.h"
-#include "platform/linux/power/Supply.h"
+#include "platform/linux/supplies/FileReader.h"
+#include "platform/linux/supplies/FolderWatch.h"
+#include "platform/linux/supplies/Supply.h"
 
 namespace quindle {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/linux/power/SupplyFiles.h"
+#include "platform/linux/supplies/SupplyFiles.h"
 
 namespace quindle {
 

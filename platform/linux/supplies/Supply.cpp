@@ -1,4 +1,4 @@
-#include "platform/linux/power/Supply.h"
+#include "platform/linux/supplies/Supply.h"
 
 #include <cerrno>
 #include <set>

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/power/SupplyReading.h"
+#include "platform/linux/supplies/SupplyReading.h"
 
 namespace quindle {
 

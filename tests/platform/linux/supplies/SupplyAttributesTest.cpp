@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/linux/power/SupplyReading.h"
+#include "platform/linux/supplies/SupplyReading.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

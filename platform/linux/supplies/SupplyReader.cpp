@@ -1,8 +1,8 @@
-#include "platform/linux/power/SupplyReader.h"
+#include "platform/linux/supplies/SupplyReader.h"
 
 #include <algorithm>
 
-#include "platform/linux/power/ReadingThread.h"
+#include "platform/linux/supplies/ReadingThread.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "platform/linux/power/ReadingThread.h"
+#include "platform/linux/supplies/ReadingThread.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "platform/linux/power/SupplyAttributes.h"
+#include "platform/linux/supplies/SupplyAttributes.h"
 
 #include <algorithm>
 #include <charconv>

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/power/SupplyAttributes.h"
+#include "platform/linux/supplies/SupplyAttributes.h"
 
 namespace quindle {
 
