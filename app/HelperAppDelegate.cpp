@@ -67,9 +67,9 @@ HelperAppDelegate::HelperAppDelegate(const Platform& platform, ApplicationPrefer
     , m_myMac(makeMac(platform))
     , m_powerEventRate(platform.runLoop, RateLimit::settleTime, [this] { refreshBatteryAndTitle(); })
     , m_statusItem(platform.statusBar.statusItemWithLength(variableStatusItemLength))
-    , m_hueColorGreen(std::make_shared<HueFilter>())
-    , m_hueColorYellow(std::make_shared<HueFilter>())
-    , m_hueColorRed(std::make_shared<HueFilter>())
+    , m_hueColorGreen(std::make_shared<HueFilter>(BarColour::Green))
+    , m_hueColorYellow(std::make_shared<HueFilter>(BarColour::Yellow))
+    , m_hueColorRed(std::make_shared<HueFilter>(BarColour::Red))
     , m_controllers(makeControllers(*this))
     , m_lastDailyUploadToOnlineService(platform.clock.now())
 {

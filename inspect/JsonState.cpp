@@ -111,17 +111,22 @@ QVariantMap statusItemState(const StatusItem& item, const RecentEvents& recent)
     return state;
 }
 
-/// The colour by the filter object that a bar is drawn through; null for a bar without one of the three.
-QVariant barColour(const ContentFilters& filters, const HelperAppDelegate& delegate)
+/// The colour that a bar is drawn in; null for a bar without a filter.
+QVariant barColour(const ProgressIndicator& bar)
 {
-    const std::shared_ptr<HueFilter> filter = filters.empty() ? nullptr : filters.front();
-    if (!filter)
+    const std::optional<BarColour> colour =
+        bar.contentFilters().empty() ? std::nullopt : bar.contentFilters().front()->colour();
+    if (!colour)
         return {};
-    if (filter == delegate.hueColorGreen())
+    switch (*colour) {
+    case BarColour::Green:
         return QStringLiteral("green");
-    if (filter == delegate.hueColorYellow())
+    case BarColour::Yellow:
         return QStringLiteral("yellow");
-    return filter == delegate.hueColorRed() ? QVariant(QStringLiteral("red")) : QVariant();
+    case BarColour::Red:
+        break;
+    }
+    return QStringLiteral("red");
 }
 
 QVariant barsState(const HelperAppDelegate& delegate, MainInterface& interface)
@@ -129,10 +134,8 @@ QVariant barsState(const HelperAppDelegate& delegate, MainInterface& interface)
     if (!delegate.myMac().Battery())
         return {};
     return QVariantMap{
-        {QStringLiteral("stateOfCharge"),
-         barColour(interface.stateOfChargeProgress().contentFilters(), delegate)},
-        {QStringLiteral("stateOfHealth"),
-         barColour(interface.stateOfHealthProgress().contentFilters(), delegate)},
+        {QStringLiteral("stateOfCharge"), barColour(interface.stateOfChargeProgress())},
+        {QStringLiteral("stateOfHealth"), barColour(interface.stateOfHealthProgress())},
     };
 }
 

@@ -2,9 +2,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <QColor>
+
+#include "menubar/BarColours.h"
 
 namespace quindle {
 
@@ -12,6 +15,17 @@ namespace quindle {
 class HueFilter
 {
 public:
+    HueFilter() = default;
+
+    /// The filter that gives a bar `colour`; its angle is still to be set.
+    explicit HueFilter(BarColour colour)
+        : m_colour(colour)
+    {
+    }
+
+    /// Which of the bars' three colours it gives; nothing for another filter.
+    std::optional<BarColour> colour() const { return m_colour; }
+
     /// The angle in radians; any number, whole turns make no difference. 0 at first.
     double inputAngle() const { return m_inputAngle; }
     void setInputAngle(double radians) { m_inputAngle = radians; }
@@ -20,11 +34,11 @@ public:
     QColor filtered(const QColor& color) const;
 
 private:
+    std::optional<BarColour> m_colour;
     double m_inputAngle = 0;
 };
 
-/// The filters that a view is drawn through, first to last. A bar is recognised as coloured by which filter
-/// object stands in its list, so the objects are shared.
+/// The filters that a view is drawn through, first to last. Both bars share one object for each colour.
 using ContentFilters = std::vector<std::shared_ptr<HueFilter>>;
 
 /// One of the two bars of the battery view as the rest of the program sees it: it has content filters,
