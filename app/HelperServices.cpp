@@ -84,24 +84,10 @@ public:
 
     Platform platform() override
     {
-        return {.registry = m_recorded.registry,
-                .powerSources = m_recorded.powerSources,
-                .userDefaults = m_recorded.userDefaults,
-                .notificationCenter = m_recorded.notificationCenter,
-                .distributedNotificationCenter = m_recorded.distributedNotificationCenter,
-                .workspaceNotifications = m_recorded.workspaceNotifications,
-                .workspace = m_recorded.workspace,
-                .bundle = m_recorded.bundle,
-                .clock = m_recorded.clock,
-                .host = m_recorded.host,
-                .systemFiles = m_recorded.systemFiles,
-                .runLoop = m_runLoop,
-                .statusBar = m_statusBar,
-                .application = m_application,
-                .urlSession = m_urlSession,
-                .userDirectories = m_recorded.userDirectories,
-                .loginItems = m_recorded.loginItems,
-                .powerEvents = m_recorded.powerEvents};
+        return m_recorded.platform().with({.runLoop = &m_runLoop,
+                                           .statusBar = &m_statusBar,
+                                           .application = &m_application,
+                                           .urlSession = &m_urlSession});
     }
 
     void play(HelperAppDelegate& delegate) override

@@ -98,25 +98,11 @@ public:
 private:
     Platform platform(bool hasRealItem)
     {
-        StatusBar& recorded = m_others.statusBar;
-        return {.registry = m_registry,
-                .powerSources = m_powerSources,
-                .userDefaults = m_userDefaults,
-                .notificationCenter = m_others.notificationCenter,
-                .distributedNotificationCenter = m_others.distributedNotificationCenter,
-                .workspaceNotifications = m_others.workspaceNotifications,
-                .workspace = m_others.workspace,
-                .bundle = m_others.bundle,
-                .clock = m_clock,
-                .host = m_others.host,
-                .systemFiles = m_others.systemFiles,
-                .runLoop = m_others.runLoop,
-                .statusBar = hasRealItem ? m_statusBar : recorded,
-                .application = m_others.application,
-                .urlSession = m_others.urlSession,
-                .userDirectories = m_others.userDirectories,
-                .loginItems = m_others.loginItems,
-                .powerEvents = m_others.powerEvents};
+        const Platform platform = m_others.platform().with({.registry = &m_registry,
+                                                            .powerSources = &m_powerSources,
+                                                            .userDefaults = &m_userDefaults,
+                                                            .clock = &m_clock});
+        return hasRealItem ? platform.with({.statusBar = &m_statusBar}) : platform;
     }
 
     std::chrono::milliseconds m_now{0};

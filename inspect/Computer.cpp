@@ -74,52 +74,26 @@ Platform Computer::thisComputer(bool isFollowed)
     const Platform linux = m_linux.services(m_recorded.statusBar);
     const Platform recorded = m_recorded.platform();
     const Platform& events = isFollowed ? linux : recorded;
-    return {
-        .registry = linux.registry,
-        .powerSources = linux.powerSources,
-        .userDefaults = m_settings,
-        .notificationCenter = m_recorded.notificationCenter,
-        .distributedNotificationCenter =
-            hasSessionBus() ? events.distributedNotificationCenter : recorded.distributedNotificationCenter,
-        .workspaceNotifications = events.workspaceNotifications,
-        .workspace = m_recorded.workspace,
-        .bundle = linux.bundle,
-        .clock = linux.clock,
-        .host = linux.host,
-        .systemFiles = linux.systemFiles,
-        .runLoop = events.runLoop,
-        .statusBar = m_recorded.statusBar,
-        .application = m_recorded.application,
-        .urlSession = m_recorded.urlSession,
-        .userDirectories = linux.userDirectories,
-        .loginItems = linux.loginItems,
-        .powerEvents = events.powerEvents,
-    };
+    const Platform& bus = hasSessionBus() ? events : recorded;
+    return recorded.with({.registry = &linux.registry,
+                          .powerSources = &linux.powerSources,
+                          .userDefaults = &m_settings,
+                          .distributedNotificationCenter = &bus.distributedNotificationCenter,
+                          .workspaceNotifications = &events.workspaceNotifications,
+                          .bundle = &linux.bundle,
+                          .clock = &linux.clock,
+                          .host = &linux.host,
+                          .systemFiles = &linux.systemFiles,
+                          .runLoop = &events.runLoop,
+                          .userDirectories = &linux.userDirectories,
+                          .loginItems = &linux.loginItems,
+                          .powerEvents = &events.powerEvents});
 }
 
 Platform Computer::recordedComputer(bool isFollowed)
 {
     const Platform recorded = m_recorded.platform();
-    return {
-        .registry = recorded.registry,
-        .powerSources = recorded.powerSources,
-        .userDefaults = recorded.userDefaults,
-        .notificationCenter = recorded.notificationCenter,
-        .distributedNotificationCenter = recorded.distributedNotificationCenter,
-        .workspaceNotifications = recorded.workspaceNotifications,
-        .workspace = recorded.workspace,
-        .bundle = recorded.bundle,
-        .clock = recorded.clock,
-        .host = recorded.host,
-        .systemFiles = recorded.systemFiles,
-        .runLoop = isFollowed ? m_linux.services(recorded.statusBar).runLoop : recorded.runLoop,
-        .statusBar = recorded.statusBar,
-        .application = recorded.application,
-        .urlSession = recorded.urlSession,
-        .userDirectories = recorded.userDirectories,
-        .loginItems = recorded.loginItems,
-        .powerEvents = recorded.powerEvents,
-    };
+    return isFollowed ? recorded.with({.runLoop = &m_linux.runLoop()}) : recorded;
 }
 
 void Computer::playInTime(HelperAppDelegate& delegate)

@@ -21,6 +21,8 @@ class UserDirectories;
 class Workspace;
 class WorkspaceNotifications;
 
+struct ServiceOverrides;
+
 /// Every service the program asks of the computer, whichever back end gives it. The composition roots
 /// (app/main.cpp, inspect/main.cpp and tests) fill it in; all others only pass it on or take from it.
 struct Platform
@@ -43,6 +45,33 @@ struct Platform
     UserDirectories& userDirectories;
     LoginItems& loginItems;
     PowerEvents& powerEvents;
+
+    /// The same services but for those that `overrides` names.
+    Platform with(const ServiceOverrides& overrides) const;
+};
+
+/// Services that take the place of a platform's own: a composition root names those in which it differs. Null
+/// leaves a service as it is; what is named must outlive the platform made with it.
+struct ServiceOverrides
+{
+    IORegistry* registry = nullptr;
+    PowerSources* powerSources = nullptr;
+    UserDefaultsDatabases* userDefaults = nullptr;
+    NotificationCenter* notificationCenter = nullptr;
+    DistributedNotificationCenter* distributedNotificationCenter = nullptr;
+    WorkspaceNotifications* workspaceNotifications = nullptr;
+    Workspace* workspace = nullptr;
+    Bundle* bundle = nullptr;
+    Clock* clock = nullptr;
+    Host* host = nullptr;
+    SystemFiles* systemFiles = nullptr;
+    RunLoop* runLoop = nullptr;
+    StatusBar* statusBar = nullptr;
+    Application* application = nullptr;
+    UrlSession* urlSession = nullptr;
+    UserDirectories* userDirectories = nullptr;
+    LoginItems* loginItems = nullptr;
+    PowerEvents* powerEvents = nullptr;
 };
 
 } // namespace quindle

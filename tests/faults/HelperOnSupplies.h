@@ -29,24 +29,7 @@ struct HelperOnSupplies
     LinuxRegistry registry{sampler, {}};
     LinuxPowerSources powerSources{sampler};
     FakePlatform others;
-    Platform platform{.registry = registry,
-                      .powerSources = powerSources,
-                      .userDefaults = others.userDefaults,
-                      .notificationCenter = others.notificationCenter,
-                      .distributedNotificationCenter = others.distributedNotificationCenter,
-                      .workspaceNotifications = others.workspaceNotifications,
-                      .workspace = others.workspace,
-                      .bundle = others.bundle,
-                      .clock = others.clock,
-                      .host = others.host,
-                      .systemFiles = others.systemFiles,
-                      .runLoop = others.runLoop,
-                      .statusBar = others.statusBar,
-                      .application = others.application,
-                      .urlSession = others.urlSession,
-                      .userDirectories = others.userDirectories,
-                      .loginItems = others.loginItems,
-                      .powerEvents = others.powerEvents};
+    Platform platform = others.platform.with({.registry = &registry, .powerSources = &powerSources});
     MainInterface interface;
     std::unique_ptr<ApplicationPreferences> preferences;
     std::unique_ptr<HelperAppDelegate> delegate;

@@ -117,24 +117,11 @@ SoakedHelper::~SoakedHelper() = default;
 
 Platform SoakedHelper::platform()
 {
-    return {.registry = m_recorded.registry,
-            .powerSources = m_recorded.powerSources,
-            .userDefaults = m_userDefaults,
-            .notificationCenter = m_recorded.notificationCenter,
-            .distributedNotificationCenter = m_recorded.distributedNotificationCenter,
-            .workspaceNotifications = m_recorded.workspaceNotifications,
-            .workspace = m_recorded.workspace,
-            .bundle = m_recorded.bundle,
-            .clock = m_clock,
-            .host = m_recorded.host,
-            .systemFiles = m_recorded.systemFiles,
-            .runLoop = m_runLoop,
-            .statusBar = m_statusBar,
-            .application = m_recorded.application,
-            .urlSession = m_urlSession,
-            .userDirectories = m_recorded.userDirectories,
-            .loginItems = m_recorded.loginItems,
-            .powerEvents = m_recorded.powerEvents};
+    return m_recorded.platform().with({.userDefaults = &m_userDefaults,
+                                       .clock = &m_clock,
+                                       .runLoop = &m_runLoop,
+                                       .statusBar = &m_statusBar,
+                                       .urlSession = &m_urlSession});
 }
 
 void SoakedHelper::passTenSeconds()
