@@ -73,15 +73,23 @@ class BadFolders(StartCase):
             self.assertEqual(holder.stdout.readline(), "full\n")
             return ["nsenter", "--mount", f"--target={holder.pid}"]
 
-        def home_outside(self):
+        def folder_outside(self):
             folder = Path(tempfile.mkdtemp(prefix="quindle-start-", dir="/var/tmp"))
             self.addCleanup(subprocess.run, ["rm", "-rf", folder], check=False)
+            return folder
+
+        def program_outside(self):
+            """The program where a full /tmp does not hide it, as it does that of a source folder in /tmp."""
+            return self.install(self.folder_outside())
+
+        def home_outside(self):
+            folder = self.folder_outside()
             return {"XDG_RUNTIME_DIR": None, "HOME": str(folder), "XDG_CONFIG_HOME": str(folder / "config"),
                     "XDG_DATA_HOME": str(folder), "QUINDLE_SYSFS": str(folder)}
 
         def test_a_full_temporary_folder(self):
-            prefix, home = self.full_temporary_folder(), self.home_outside()
-            starts = [self.start(None, prefix=prefix, **home) for _ in range(2)]
+            prefix, program, home = self.full_temporary_folder(), self.program_outside(), self.home_outside()
+            starts = [self.start(None, program=program, prefix=prefix, **home) for _ in range(2)]
             self.assertTrue(wait_for(lambda: sum(start.poll() is None for start in starts) == 1, 15))
             time.sleep(1)
             self.assertEqual(sum(start.poll() is None for start in starts), 1)
@@ -91,9 +99,9 @@ class BadFolders(StartCase):
         def test_a_home_in_a_full_temporary_folder(self):
             home = {"XDG_RUNTIME_DIR": None, "HOME": "/tmp", "XDG_CONFIG_HOME": None, "XDG_DATA_HOME": None,
                     "QUINDLE_SYSFS": "/nowhere"}
-            prefix = self.full_temporary_folder()
+            prefix, program = self.full_temporary_folder(), self.program_outside()
             for _ in range(2):
-                self.assert_gives_up(self.start(None, prefix=prefix, **home), "No space left")
+                self.assert_gives_up(self.start(None, program=program, prefix=prefix, **home), "No space left")
 
 
 if __name__ == "__main__":
