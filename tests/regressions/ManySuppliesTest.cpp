@@ -117,8 +117,9 @@ TEST_F(ManySuppliesTest, FiveThousandAnswerWithinASecond)
     passTenSeconds();
     const auto refreshed = processorTime();
     EXPECT_EQ(title(), QStringLiteral("50.0% -5000000"));
-    EXPECT_LT((launched - begun).count(), 1);
-    EXPECT_LT((refreshed - launched).count(), 1);
+    constexpr double most = QUINDLE_IS_SANITIZED ? 10 : 1; // seconds; the sanitizers make five of one
+    EXPECT_LT((launched - begun).count(), most);
+    EXPECT_LT((refreshed - launched).count(), most);
 }
 
 TEST_F(ManySuppliesTest, OneTakenOutAfterTheListIsStillDescribed)

@@ -8,6 +8,7 @@ from pathlib import Path
 from start_case import StartCase
 
 SERIAL = "SERIAL7Q3X9Z"
+MOST = 1 << 30  # bytes of a range of memory; a sanitizer's own, of terabytes, holds no texts
 CORE_PATTERN = Path("/proc/sys/kernel/core_pattern").read_text(encoding="ascii").strip()
 
 
@@ -30,7 +31,7 @@ class CoreDump(StartCase):
                 if "rw-p" not in line:
                     continue
                 memory.seek(begin)
-                if SERIAL.encode() in memory.read(end - begin):
+                if end - begin < MOST and SERIAL.encode() in memory.read(end - begin):
                     return True
         return False
 
