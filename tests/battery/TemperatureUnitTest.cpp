@@ -24,12 +24,18 @@ TEST(TemperatureUnit, RawTenthsOfAKelvin)
     };
     constexpr Row rows[] = {
         // 303.1 - 273.15 is a little above 29.95 in doubles, so it rounds up.
-        {3031, celsius, 30.0},       {3031, fahrenheit, 85.9}, // 85.91; from the rounded 30.0 °C it would
-                                                               // be 86.0
-        {3031, kelvin, 303.1},       {2981.5, celsius, 25.0},  {2981.5, fahrenheit, 77.0},
-        {2981.5, kelvin, 298.2},                           // halves go away from zero
-        {-2981.5, kelvin, -298.2},   {0, celsius, -273.2}, // -273.15, away from zero
-        {0, fahrenheit, -459.7},     {0, kelvin, 0.0},         {3731.5, celsius, 100.0},
+        {3031, celsius, 30.0},
+        {3031, fahrenheit, 85.9}, // 85.91; from the rounded 30.0 °C it would
+                                  // be 86.0
+        {3031, kelvin, 303.1},
+        {2981.5, celsius, 25.0},
+        {2981.5, fahrenheit, 77.0},
+        {2981.5, kelvin, 298.2}, // halves go away from zero
+        {-2981.5, kelvin, -298.2},
+        {0, celsius, -273.2}, // -273.15, away from zero
+        {0, fahrenheit, -459.7},
+        {0, kelvin, 0.0},
+        {3731.5, celsius, 100.0},
         {3731.5, fahrenheit, 212.0},
     };
     for (const Row& row : rows)
