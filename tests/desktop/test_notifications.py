@@ -21,7 +21,7 @@ PATH = "/com/fernhollow/Quindle"
 NOTIFICATIONS = "com.fernhollow.Quindle.Notifications."
 SETTINGS_CHANGED = NOTIFICATIONS + "SettingsChangedNotification"
 WILL_UPDATE = NOTIFICATIONS + "WillUpdateImmediately"
-AT_ONCE = 0.2  # seconds; the refresh timer comes every ten
+AT_ONCE = 2.0  # seconds, on a busy machine too; the refresh timer comes every ten
 BATTERY = {"type": "Battery", "present": "1", "status": "Discharging", "charge_now": "3000000",
            "charge_full": "6000000", "charge_full_design": "6500000", "voltage_now": "12000000",
            "voltage_min_design": "11400000", "current_now": "1000000", "cycle_count": "12"}

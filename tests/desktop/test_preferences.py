@@ -81,7 +81,7 @@ class General(PreferencesCase):
         self.desktop.key("Escape")
         self.assertTrue(wait_for(lambda: self.stored("customStatusBar").startswith("at %"), 5),
                         self.stored("customStatusBar"))
-        self.assertTrue(self.window("General"), "Escape closed more than the popover")
+        self.assertTrue(wait_for(lambda: self.window("General"), 5), "Escape closed more than the popover")
 
     def test_what_is_sent(self):
         self.act("push button", "See exactly what is sent")
@@ -95,7 +95,7 @@ class General(PreferencesCase):
         for key in ("Escape", "ctrl+shift+w"):
             self.desktop.key(key)
             time.sleep(0.5)
-            self.assertTrue(self.window("General"), key)
+            self.assertTrue(wait_for(lambda: self.window("General"), 5), key)
         self.desktop.key("ctrl+w")
         self.assertTrue(wait_for(lambda: not self.window("General"), 5))
 
