@@ -60,7 +60,7 @@ xcb_window_t selectionOwner(xcb_connection_t* x11, const QByteArray& selection)
 
 } // namespace
 
-QRgb trayTextColour()
+Argb trayTextColour()
 {
     xcb_connection_t* x11 = connection();
     if (!x11)
@@ -76,8 +76,7 @@ QRgb trayTextColour()
     if (!reply || reply->format != 32 || reply->value_len < channels)
         return 0;
     const auto* text = static_cast<const uint32_t*>(xcb_get_property_value(reply.get()));
-    return qRgb(static_cast<int>(text[0] >> 8 & 0xff), static_cast<int>(text[1] >> 8 & 0xff),
-                static_cast<int>(text[2] >> 8 & 0xff));
+    return opaqueColour(text[0] >> 8U & 0xffU, text[1] >> 8U & 0xffU, text[2] >> 8U & 0xffU);
 }
 
 bool hasCompositor()

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QRgb>
+#include "platform/linux/os/Colour.h"
 
 namespace quindle {
 
 /// The text colour of the panel with the X11 tray, from _NET_SYSTEM_TRAY_COLORS; transparent where there is
 /// no such panel or it does not set that.
-QRgb trayTextColour();
+Argb trayTextColour();
 
 /// Whether windows may be translucent: a compositing manager runs on the X11 screen. False elsewhere.
 bool hasCompositor();

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QRgb>
 #include <QString>
+
+#include "platform/linux/os/Colour.h"
 
 namespace quindle {
 
@@ -26,15 +27,15 @@ struct HostTraits
         false; ///< even an empty label does; a wide picture is shown if icon-high ones are there
     bool drawsSmall = false;    ///< a drawing gets 16 pixels, which are too few for one made on 22
     bool cutsTallMenus = false; ///< the last rows of a menu higher than the screen cannot be reached
-    QRgb textColour = 0;        ///< what its panel writes in; transparent while that is unknown
+    Argb textColour = 0;        ///< what its panel writes in; transparent while that is unknown
 
     friend bool operator==(const HostTraits&, const HostTraits&) = default;
 };
 
 /// Whether that is a colour and not the absence of one.
-constexpr bool isKnown(QRgb colour)
+constexpr bool isKnown(Argb colour)
 {
-    return qAlpha(colour) != 0;
+    return alphaOf(colour) != 0;
 }
 
 /// The process behind the host; both empty when it cannot be read.

@@ -232,7 +232,7 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
 
 void LinuxStatusItem::lookAtPanelAgain()
 {
-    const QRgb colour = trayTextColour();
+    const Argb colour = trayTextColour();
     if (colour == m_wanted.textColour)
         return;
     m_wanted.textColour = colour;

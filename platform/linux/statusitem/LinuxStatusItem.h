@@ -10,6 +10,7 @@
 #include <QString>
 
 #include "platform/StatusBar.h"
+#include "platform/linux/os/Colour.h"
 #include "platform/linux/session/BacklogGuard.h"
 #include "platform/linux/statusitem/HostTraits.h"
 #include "platform/linux/statusitem/Presentation.h"
@@ -84,7 +85,7 @@ private:
         HostTraits host;
         bool hasWatcher = false;
         QString choice;
-        QRgb textColour = 0;
+        Argb textColour = 0;
 
         friend bool operator==(const Decisive&, const Decisive&) = default;
     };

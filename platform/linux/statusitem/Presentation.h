@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QRgb>
 #include <QString>
 
+#include "platform/linux/os/Colour.h"
 #include "platform/linux/statusitem/HostTraits.h"
 
 namespace quindle {
@@ -33,7 +33,7 @@ struct Picture
     QString imageName;
     QString text;
     double fontSize = 0.0;
-    QRgb ink = 0;              ///< what the panel writes in; see isKnown
+    Argb ink = 0;              ///< what the panel writes in; see isKnown
     bool isSmall = false;      ///< the host shows a drawing in 16 pixels, not in 22
     bool inAllHeights = false; ///< a wide one is wanted as high as icons are, not high and to be scaled
 

@@ -42,7 +42,7 @@ private:
     QImage glyph(const Picture& picture, int size);
 
     QString m_iconsDirectory;
-    std::map<std::tuple<QString, int, QRgb>, QImage> m_glyphs; ///< kept, because reading a drawing takes long
+    std::map<std::tuple<QString, int, Argb>, QImage> m_glyphs; ///< kept, because reading a drawing takes long
     std::set<QString> m_missing;                               ///< already logged
 };
 

@@ -116,10 +116,11 @@ TEST(Presentation, everyPictureHasTheColourOfThePanelsText)
 {
     HostTraits host;
     EXPECT_FALSE(isKnown(present({}, host).picture.ink));
-    host.textColour = qRgb(1, 2, 3);
+    host.textColour = opaqueColour(1, 2, 3);
     for (const HostShape shape : {HostShape::Label, HostShape::Square, HostShape::Wide}) {
         host.shape = shape;
-        EXPECT_EQ(present({u("87%"), u("#bat44"), u("87"), {}, 12.0}, host).picture.ink, qRgb(1, 2, 3));
+        EXPECT_EQ(present({u("87%"), u("#bat44"), u("87"), {}, 12.0}, host).picture.ink,
+                  opaqueColour(1, 2, 3));
     }
 }
 

@@ -94,7 +94,7 @@ TEST_F(StatusPicturesTest, glyphsAreOnThePixelGrid)
 TEST_F(StatusPicturesTest, sizesALittleAboveTheGridsHaveSharpLines)
 {
     Picture picture = iconPicture(names()[4]);
-    picture.ink = qRgb(0, 0, 0);
+    picture.ink = opaqueColour(0, 0, 0);
     for (const int size : {16, 18, 22, 24, 44, 48}) {
         const QImage image = pictures.image(picture, size);
         for (int y = 0; y < size; ++y) {
@@ -137,7 +137,7 @@ TEST_F(StatusPicturesTest, theLevelStandsOutOnEveryPanel)
 
 TEST_F(StatusPicturesTest, aKnownTextColourNeedsNoPlate)
 {
-    constexpr QRgb ink = qRgb(0x2e, 0x34, 0x36);
+    constexpr Argb ink = opaqueColour(0x2e, 0x34, 0x36);
     Picture icon = iconPicture(names()[4]);
     Picture number = text("87");
     Picture title = wide(names()[4], QStringLiteral("87%"));
