@@ -44,7 +44,8 @@ add_compile_options(
     "$<$<${released}>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
 
 if(QUINDLE_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    # Reports name lines and no variables.
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
