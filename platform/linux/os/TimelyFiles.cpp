@@ -1,11 +1,9 @@
 #include "platform/linux/os/TimelyFiles.h"
 
-#include <condition_variable>
-#include <mutex>
-
 #include <QLoggingCategory>
 
 #include "platform/linux/os/DetachedThread.h"
+#include "platform/linux/os/EndOfWork.h"
 #include "platform/linux/os/SmallFile.h"
 
 namespace quindle {
@@ -18,26 +16,8 @@ Q_LOGGING_CATEGORY(fileLog, "quindle.files")
 
 struct TimelyFiles::Reading
 {
-    bool isOver(std::chrono::milliseconds patience)
-    {
-        std::unique_lock lock(mutex);
-        return ended.wait_for(lock, patience, [this] { return hasEnded; });
-    }
-
-    void end(std::optional<QByteArray> read)
-    {
-        {
-            const std::scoped_lock lock(mutex);
-            content = std::move(read);
-            hasEnded = true;
-        }
-        ended.notify_one();
-    }
-
-    std::mutex mutex;
-    std::condition_variable ended;
     std::optional<QByteArray> content;
-    bool hasEnded = false;
+    EndOfWork end;
 };
 
 TimelyFiles::TimelyFiles(std::chrono::milliseconds patience, Read read)
@@ -55,7 +35,7 @@ std::optional<QByteArray> TimelyFiles::read(const QString& path)
     if (isNew && !begin(path))
         return m_last[path];
     const std::shared_ptr<Reading> reading = m_underWay[path];
-    if (reading->isOver(isNew ? m_patience : std::chrono::milliseconds(0))) {
+    if (reading->end.isReached(isNew ? m_patience : std::chrono::milliseconds(0))) {
         m_last[path] = reading->content;
         m_underWay.erase(path);
         // Logged once for each wait, not for each question in it.
@@ -68,7 +48,11 @@ std::optional<QByteArray> TimelyFiles::read(const QString& path)
 bool TimelyFiles::begin(const QString& path)
 {
     const auto reading = std::make_shared<Reading>();
-    if (!startThread([reading, path, read = m_read] { reading->end(read(path)); }))
+    const auto work = [reading, path, read = m_read] {
+        reading->content = read(path);
+        reading->end.reach();
+    };
+    if (!startThread(work))
         return false;
     m_underWay[path] = reading;
     return true;

@@ -28,7 +28,7 @@ void LinuxApplication::activateIgnoringOtherApplications()
 
 bool LinuxApplication::showsTranslucentWindows() const
 {
-    return hasCompositor();
+    return hasCompositor(m_display);
 }
 
 } // namespace quindle

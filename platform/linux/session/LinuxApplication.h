@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Workspace.h"
+#include "platform/linux/session/X11Display.h"
 
 namespace quindle {
 
@@ -16,6 +17,9 @@ public:
     void activateIgnoringOtherApplications() override;
 
     bool showsTranslucentWindows() const override;
+
+private:
+    mutable X11Display m_display; ///< of its state only what it owes changes
 };
 
 } // namespace quindle

@@ -1,88 +1,62 @@
 #include "platform/linux/session/X11Desktop.h"
 
-#include <cstdlib>
-#include <memory>
+#include <array>
+#include <cstdint>
+#include <cstring>
 
 #include <QByteArray>
-#include <QGuiApplication>
-#include <xcb/xcb.h>
+
+#include "platform/linux/session/X11Connection.h"
+#include "platform/linux/session/X11Display.h"
 
 namespace quindle {
 
 namespace {
 
-struct Free
+/// Text, error, warning and success, each red, green and blue in 16 bits.
+Argb textColourOf(const QByteArray& colours)
 {
-    void operator()(void* reply) const { std::free(reply); }
-};
-
-template <typename Reply>
-using ReplyPtr = std::unique_ptr<Reply, Free>;
-
-/// Null on desktops without X11.
-xcb_connection_t* connection()
-{
-    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
-        return nullptr;
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
+    std::array<std::uint32_t, 3> text{};
+    if (static_cast<std::size_t>(colours.size()) < sizeof text)
+        return 0;
+    std::memcpy(text.data(), colours.constData(), sizeof text);
+    const auto eightBits = [](std::uint32_t channel) { return channel >> 8 & 0xff; };
+    return opaqueColour(eightBits(text[0]), eightBits(text[1]), eightBits(text[2]));
 }
 
-/// The number of the screen that the program shows itself on, as selections name it.
-QByteArray screenNumber()
+X11Tray trayOf(const X11Connection& connection)
 {
-    char* host = nullptr;
-    int display = 0;
-    int screen = 0;
-    if (xcb_parse_display(nullptr, &host, &display, &screen) != 0)
-        std::free(host);
-    return QByteArray::number(screen);
+    const std::uint32_t tray = connection.selectionOwner("_NET_SYSTEM_TRAY_S");
+    if (tray == 0)
+        return {};
+    return {true, textColourOf(connection.property(tray, "_NET_SYSTEM_TRAY_COLORS", 32))};
 }
 
-/// An atom that some program has made; none if no program has.
-xcb_atom_t existingAtom(xcb_connection_t* x11, const QByteArray& name)
+bool hasCompositingManager(const X11Connection& connection)
 {
-    const auto cookie = xcb_intern_atom(x11, 1, static_cast<uint16_t>(name.size()), name.constData());
-    const ReplyPtr<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(x11, cookie, nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    return connection.selectionOwner("_NET_WM_CM_S") != 0;
 }
 
-xcb_window_t selectionOwner(xcb_connection_t* x11, const QByteArray& selection)
+std::optional<QPoint> pointerOf(const X11Connection& connection)
 {
-    const xcb_atom_t atom = existingAtom(x11, selection);
-    if (atom == XCB_ATOM_NONE)
-        return XCB_WINDOW_NONE;
-    const auto cookie = xcb_get_selection_owner(x11, atom);
-    const ReplyPtr<xcb_get_selection_owner_reply_t> reply(
-        xcb_get_selection_owner_reply(x11, cookie, nullptr));
-    return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+    return connection.pointer();
 }
 
 } // namespace
 
-Argb trayTextColour()
+X11Tray x11Tray(X11Display& display)
 {
-    xcb_connection_t* x11 = connection();
-    if (!x11)
-        return 0;
-    const xcb_window_t tray = selectionOwner(x11, "_NET_SYSTEM_TRAY_S" + screenNumber());
-    const xcb_atom_t colours = existingAtom(x11, QByteArrayLiteral("_NET_SYSTEM_TRAY_COLORS"));
-    if (tray == XCB_WINDOW_NONE || colours == XCB_ATOM_NONE)
-        return 0;
-    // Text, error, warning and success, each red, green and blue in 16 bits.
-    constexpr uint32_t channels = 3;
-    const auto cookie = xcb_get_property(x11, 0, tray, colours, XCB_ATOM_CARDINAL, 0, channels);
-    const ReplyPtr<xcb_get_property_reply_t> reply(xcb_get_property_reply(x11, cookie, nullptr));
-    if (!reply || reply->format != 32 || reply->value_len < channels)
-        return 0;
-    const auto* text = static_cast<const uint32_t*>(xcb_get_property_value(reply.get()));
-    return opaqueColour(text[0] >> 8U & 0xffU, text[1] >> 8U & 0xffU, text[2] >> 8U & 0xffU);
+    return display.ask(trayOf).value_or(X11Tray{});
 }
 
-bool hasCompositor()
+bool hasCompositor(X11Display& display)
 {
-    xcb_connection_t* x11 = connection();
-    return x11 && selectionOwner(x11, "_NET_WM_CM_S" + screenNumber()) != XCB_WINDOW_NONE;
+    return display.ask(hasCompositingManager).value_or(false);
+}
+
+std::optional<QPoint> pointerPosition(X11Display& display)
+{
+    return display.ask(pointerOf).value_or(std::nullopt);
 }
 
 } // namespace quindle

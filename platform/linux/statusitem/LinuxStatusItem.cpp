@@ -9,6 +9,7 @@
 
 #include "platform/Image.h"
 #include "platform/StatusMenu.h"
+#include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/session/BusLink.h"
 #include "platform/linux/session/X11Desktop.h"
 #include "platform/linux/statusitem/MenuAdaptor.h"
@@ -26,6 +27,9 @@ QString itemPath()
 {
     return QStringLiteral("/StatusNotifierItem");
 }
+
+// Nobody tells of a panel's new colours, and each question is a connection of its own.
+constexpr std::chrono::minutes panelLooksTheSame(10);
 
 bool mayHaveX11Tray()
 {
@@ -180,8 +184,8 @@ void LinuxStatusItem::flush()
     m_flushScheduled = false;
     if (m_surroundings.presentationChoice)
         m_wanted.choice = m_surroundings.presentationChoice();
-    if (m_flushed != m_wanted)
-        m_wanted.textColour = trayTextColour();
+    if (m_flushed && m_flushed != m_wanted && timeSinceBoot() - m_panelSeen > panelLooksTheSame)
+        lookAtPanel();
     if (m_flushed != m_wanted) {
         m_flushed = m_wanted;
         // An X11 tray has room for a square only, whatever the user prefers.
@@ -224,24 +228,30 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
     m_wanted.hasWatcher = true;
     useItem(m_wanted.host.labelHidesIcon ? m_itemWithoutLabel : m_labelledItem);
     m_menuAdaptor->setCommandsFirst(m_wanted.host.cutsTallMenus);
+    lookAtPanel();
     flush();
     m_watcher->registerItem();
     // A panel that is just starting may own the watcher's name before it publishes its colours.
     QTimer::singleShot(m_surroundings.registrationCheck, this, &LinuxStatusItem::lookAtPanelAgain);
 }
 
+void LinuxStatusItem::lookAtPanel()
+{
+    m_panelSeen = timeSinceBoot();
+    m_wanted.textColour = x11Tray(m_display).textColour;
+}
+
 void LinuxStatusItem::lookAtPanelAgain()
 {
-    const Argb colour = trayTextColour();
-    if (colour == m_wanted.textColour)
-        return;
-    m_wanted.textColour = colour;
-    scheduleFlush();
+    lookAtPanel();
+    if (m_flushed != m_wanted)
+        scheduleFlush();
 }
 
 void LinuxStatusItem::watcherLost()
 {
     m_wanted.hasWatcher = false;
+    lookAtPanel();
     flush();
     if (m_tray || !mayHaveX11Tray())
         return;
@@ -256,6 +266,7 @@ void LinuxStatusItem::toggleView()
         useActivationToken();
         if (m_menu)
             m_menu->toggleView();
+        lookAtPanelAgain();
     };
     QMetaObject::invokeMethod(this, toggle, Qt::QueuedConnection);
 }

@@ -12,6 +12,7 @@
 #include "platform/StatusBar.h"
 #include "platform/linux/os/Colour.h"
 #include "platform/linux/session/BacklogGuard.h"
+#include "platform/linux/session/X11Display.h"
 #include "platform/linux/statusitem/HostTraits.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
@@ -74,6 +75,7 @@ private:
     void announce(Presentation next);
     void watcherFound(const HostProcess& process);
     void watcherLost();
+    void lookAtPanel();
     void lookAtPanelAgain();
     void toggleView();
     void useActivationToken();
@@ -94,6 +96,8 @@ private:
     RunLoop& m_runLoop;
     StatusItemSurroundings m_surroundings;
     StatusPictures m_pictures;
+    X11Display m_display;
+    std::chrono::milliseconds m_panelSeen{0}; ///< since the computer's start
     std::shared_ptr<Image> m_image;
     StatusMenu* m_menu = nullptr;
     Decisive m_wanted;

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <QByteArray>
+
+namespace quindle {
+
+class EndOfWork;
+class X11Connection;
+
+/// The name of the display whose windows a process shows, by three variables of its environment: DISPLAY, or
+/// nothing where WAYLAND_DISPLAY names one too, since many a Wayland desktop starts its X server at the first
+/// question to it. The toolkit's own variable (QT_QPA_PLATFORM) decides before both.
+QByteArray x11DisplayName(const QByteArray& x11, const QByteArray& wayland,
+                          const QByteArray& toolkitPlatform);
+
+/// The X server of the session, asked now and then over connections of a moment, each on a thread of its own:
+/// a server that is stopped or does not answer is waited for, but not without end. Main thread only.
+class X11Display
+{
+public:
+    /// The display of this process; nothing is ever asked of an empty name.
+    X11Display();
+
+    X11Display(QByteArray name, std::chrono::milliseconds patience);
+    ~X11Display();
+    X11Display(const X11Display&) = delete;
+    X11Display& operator=(const X11Display&) = delete;
+
+    bool hasName() const { return !m_name.isEmpty(); }
+
+    /// What `question` answers on an open connection. Nothing where there is no display, or no answer in
+    /// time; while an answer is owed, no further question is asked. `question` runs on another thread.
+    template <typename Answer>
+    std::optional<Answer> ask(Answer (*question)(const X11Connection&))
+    {
+        const auto answer = std::make_shared<std::optional<Answer>>();
+        const auto visit = [answer, question](const X11Connection& connection) {
+            *answer = question(connection);
+        };
+        return visitInTime(visit) ? *answer : std::nullopt;
+    }
+
+private:
+    using Visit = std::function<void(const X11Connection&)>;
+
+    bool visitInTime(Visit visit);
+
+    QByteArray m_name;
+    std::chrono::milliseconds m_patience;
+    std::shared_ptr<EndOfWork> m_lastVisit;
+};
+
+} // namespace quindle
