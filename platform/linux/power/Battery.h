@@ -15,12 +15,12 @@ enum class ChargingState {
 };
 
 /// One battery as it was when it was read, in the registry's units and with the nonsense of firmwares and
-/// drivers put right. What the battery does not tell is missing.
+/// drivers put right. What the battery does not report is missing.
 struct Battery
 {
     std::optional<ChargingState> state; ///< a word that is none of the known ones is Unknown
 
-    // mAh. Where a battery tells its percentage only, the charge is that number and the full charge 100.
+    // mAh. Where a battery reports its percentage only, the charge is that number and the full charge 100.
     std::optional<double> charge;       ///< not above the full charge
     std::optional<double> fullCharge;   ///< above 0
     std::optional<double> designCharge; ///< above 0

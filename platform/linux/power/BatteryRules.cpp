@@ -70,12 +70,12 @@ std::optional<bool> isFull(const Battery& battery)
     return battery.charge && battery.fullCharge && *battery.charge >= *battery.fullCharge;
 }
 
-std::optional<QString> healthWord(const Battery& battery, std::optional<QString> told)
+std::optional<QString> healthWord(const Battery& battery, std::optional<QString> reported)
 {
     constexpr double leastOfGood = 0.8; // as the word for a Mac's battery changes at 80 %
     constexpr double leastOfFair = 0.5;
-    if (told && *told != QLatin1String("Unknown"))
-        return told;
+    if (reported && *reported != QLatin1String("Unknown"))
+        return reported;
     if (!battery.fullCharge || !battery.designCharge)
         return std::nullopt;
     const double share = *battery.fullCharge / *battery.designCharge;

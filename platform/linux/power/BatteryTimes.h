@@ -22,7 +22,7 @@ struct SystemTimes
 class BatteryTimes
 {
 public:
-    /// The times at that moment. To be told of every moment, so that no plug or unplug is missed.
+    /// The times at that moment. To be called for every sample, so that no plug or unplug is missed.
     SystemTimes follow(const SystemPower& power, std::chrono::milliseconds now);
 
 private:

@@ -39,9 +39,9 @@ OptionalNumber percentage(const DriverFigures& figures)
     return figures.percent ? OptionalNumber(std::min(*figures.percent, 100.0)) : std::nullopt;
 }
 
-/// The charge as the driver tells it. A percentage of the full charge is nearer to the truth than a charge
+/// The charge as the driver gives it. A percentage of the full charge is nearer to the truth than a charge
 /// from the other counter (asahi-macbookpro-m4pro has a full charge beside a present energy).
-OptionalNumber toldCharge(const Counters& counters, double full, OptionalNumber percent)
+OptionalNumber givenCharge(const Counters& counters, double full, OptionalNumber percent)
 {
     if (counters.main.now)
         return counters.main.now;
@@ -65,10 +65,10 @@ bool isLost(double charge, double full, double percent)
     return std::abs(charge - percent * full / 100) > widestDifference * full / 100;
 }
 
-double believableCharge(double told, double full, OptionalNumber percent)
+double believableCharge(double given, double full, OptionalNumber percent)
 {
-    const double charge = std::min(told, full);
-    if (percent && (isBroken(told, full) || isLost(charge, full, *percent)))
+    const double charge = std::min(given, full);
+    if (percent && (isBroken(given, full) || isLost(charge, full, *percent)))
         return *percent * full / 100;
     return charge;
 }
@@ -80,7 +80,7 @@ void setPercentageOnly(Battery& battery, double percent)
     battery.tellsPercentageOnly = true; // a design charge would stand beside a full charge of 100
 }
 
-/// Drivers differ in the sign they give a current; the status tells its direction.
+/// Drivers differ in the sign they give a current; the status says which way it flows.
 OptionalNumber directed(const Battery& battery, OptionalNumber amount)
 {
     if (!amount)
@@ -88,7 +88,7 @@ OptionalNumber directed(const Battery& battery, OptionalNumber amount)
     return battery.state == ChargingState::Discharging ? -std::abs(*amount) : std::abs(*amount);
 }
 
-/// mA: the first of both that is told, else what the power makes at the present voltage.
+/// mA: the first of both that is given, else what the power makes at the present voltage.
 OptionalNumber current(const Battery& battery, const DriverFigures& figures, OptionalNumber first,
                        OptionalNumber second)
 {
@@ -135,8 +135,8 @@ void setCharges(Battery& battery, const DriverFigures& figures)
         return;
     }
     battery.fullCharge = full;
-    if (const OptionalNumber told = toldCharge(counters, *full, percent))
-        battery.charge = believableCharge(*told, *full, percent);
+    if (const OptionalNumber given = givenCharge(counters, *full, percent))
+        battery.charge = believableCharge(*given, *full, percent);
     const OptionalNumber design = positive(counters.main.design);
     battery.designCharge = design ? design : positive(counters.other.design);
 }

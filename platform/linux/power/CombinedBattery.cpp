@@ -28,7 +28,7 @@ OptionalNumber atVoltageOf(const Battery& first, const Battery& battery, Optiona
     return *quantity * battery.ratedVoltage / first.ratedVoltage;
 }
 
-/// Of those that tell it.
+/// Of those that report it.
 template <typename QuantityOf>
 OptionalNumber sumOf(Batteries batteries, QuantityOf quantityOf)
 {
@@ -40,7 +40,7 @@ OptionalNumber sumOf(Batteries batteries, QuantityOf quantityOf)
 }
 
 /// Whether a battery's figures may be added to others': percentages are no charges, and one that does not
-/// tell both charge and full charge would make the percentage of all wrong.
+/// report both charge and full charge would make the percentage of all wrong.
 bool addsUp(const Battery& battery)
 {
     return !battery.tellsPercentageOnly && battery.charge && battery.fullCharge;
@@ -56,7 +56,7 @@ OptionalNumber presentCharge(const Battery& battery)
     return battery.charge;
 }
 
-/// A battery that does not tell its design charge counts as new beside others that do.
+/// A battery that does not report its design charge counts as new beside others that do.
 OptionalNumber designOrFullCharge(const Battery& battery)
 {
     return battery.designCharge ? battery.designCharge : battery.fullCharge;

@@ -20,7 +20,7 @@ std::optional<double> combinedPresentCurrent(Batteries batteries);
 /// mAh an hour; see Battery::chargeRate.
 std::optional<double> combinedChargeRate(Batteries batteries);
 
-/// The first battery's that tells it: a sum or a mean would say nothing.
+/// The first battery's that reports it: a sum or a mean would say nothing.
 std::optional<double> combinedVoltage(Batteries batteries);
 std::optional<double> combinedTemperature(Batteries batteries);
 std::optional<int> combinedChargeLimit(Batteries batteries);

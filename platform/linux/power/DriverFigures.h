@@ -16,7 +16,7 @@ struct ChargeCounter
 };
 
 /// The figures that a driver wrote of one battery, in units that are the same for all drivers, and otherwise
-/// as it wrote them. A figure is missing that the driver does not tell, or gives as a negative number where
+/// as it wrote them. A figure is missing that the driver does not give, or gives as a negative number where
 /// only positive ones make sense.
 struct DriverFigures
 {

@@ -34,8 +34,8 @@ void LinuxPowerEvents::Release::operator()(udev_monitor* monitor) const
     udev_monitor_unref(monitor);
 }
 
-LinuxPowerEvents::LinuxPowerEvents(std::function<void()> aboutToTell)
-    : m_aboutToTell(std::move(aboutToTell))
+LinuxPowerEvents::LinuxPowerEvents(std::function<void()> beforeObserver)
+    : m_beforeObserver(std::move(beforeObserver))
 {
 }
 
@@ -52,7 +52,8 @@ void LinuxPowerEvents::setObserver(std::function<void()> observer)
     }
     m_notifier =
         std::make_unique<QSocketNotifier>(udev_monitor_get_fd(m_monitor.get()), QSocketNotifier::Read);
-    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { tell(); });
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(),
+                     [this] { readEvents(); });
 }
 
 bool LinuxPowerEvents::open()
@@ -76,11 +77,11 @@ bool LinuxPowerEvents::takeEvents()
     return any || errno == ENOBUFS; // there were more than the socket holds
 }
 
-void LinuxPowerEvents::tell()
+void LinuxPowerEvents::readEvents()
 {
     if (!takeEvents())
         return;
-    m_aboutToTell();
+    m_beforeObserver();
     m_observer();
 }
 

@@ -12,12 +12,12 @@ namespace quindle {
 
 /// The kernel's events of the class "power_supply", as udev's daemon passes them on, or straight from the
 /// kernel where no such daemon runs. Events of other devices do not wake the process in the first case. Where
-/// there is no access to them one line is logged and nothing is told.
+/// there is no access to them one line is logged and no event comes.
 class LinuxPowerEvents : public PowerEvents
 {
 public:
-    /// `aboutToTell` is called before the observer, whenever it is.
-    explicit LinuxPowerEvents(std::function<void()> aboutToTell);
+    /// `beforeObserver` is called before the observer, whenever it is.
+    explicit LinuxPowerEvents(std::function<void()> beforeObserver);
     ~LinuxPowerEvents() override;
 
     void setObserver(std::function<void()> observer) override;
@@ -31,9 +31,9 @@ private:
 
     bool open();
     bool takeEvents();
-    void tell();
+    void readEvents();
 
-    std::function<void()> m_aboutToTell;
+    std::function<void()> m_beforeObserver;
     std::function<void()> m_observer;
     std::unique_ptr<udev, Release> m_udev;
     std::unique_ptr<udev_monitor, Release> m_monitor;

@@ -24,7 +24,7 @@ struct PowerSample
 
 /// Takes samples of a class directory ("/sys/class/power_supply"). One sample answers all questions of one
 /// refresh, as a Mac's registry holds what its driver last published, so that figures of two moments never
-/// meet in one title: it serves until the main loop waits again, of which the owner tells by expire(), and
+/// meet in one title: it serves until the main loop waits again, which the owner says by expire(), and
 /// for a second where that is never. Main thread only.
 class PowerSampler
 {

@@ -30,7 +30,7 @@ public:
     /// Says how things stand now; a change forgets all samples.
     void setState(bool isPlugged, Direction direction);
 
-    /// Whether the last sample is old enough, 1 s, for another one to tell something.
+    /// Whether the last sample is old enough, 1 s, for another one to add anything.
     bool wantsSample(std::chrono::milliseconds now) const;
 
     void addSample(const Sample& sample);

@@ -4,7 +4,7 @@
 
 namespace quindle {
 
-/// Hears of changes of the files in some folders (inotify). Folders of the kernel's own file systems tell
+/// Hears of changes of the files in some folders (inotify). Folders of the kernel's own file systems announce
 /// nothing.
 class FolderWatch
 {

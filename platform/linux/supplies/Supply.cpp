@@ -67,7 +67,7 @@ void Supply::look(FileReader& reader, Uevent uevent)
     lookAgain(reader);
 }
 
-/// The kind stays what it was while the files that tell it do not answer.
+/// The kind stays what it was while the files that say so do not answer.
 void Supply::lookAtKind(FileReader& reader)
 {
     const ssize_t typeSize = readOnce(reader, Attribute::Type);
@@ -116,7 +116,7 @@ std::optional<SupplyAttributes> Supply::readUevent(FileReader& reader)
     return size > 0 ? attributesFromUevent(reader.text(size)) : std::nullopt;
 }
 
-/// Whether a uevent tells what the other files do, of which there may be fewer. In a folder of files that
+/// Whether a uevent says what the other files do, of which there may be fewer. In a folder of files that
 /// someone has collected they may be of another moment (thinkpad-procfs-lnv45n1), and the two must not be
 /// mixed.
 bool Supply::agrees(FileReader& reader, const SupplyAttributes& uevent) const
@@ -127,8 +127,8 @@ bool Supply::agrees(FileReader& reader, const SupplyAttributes& uevent) const
         const auto attribute = static_cast<Attribute>(index);
         const bool isThere = measured.test(index) && files.contains(attributeName(attribute));
         const ssize_t size = isThere ? readOnce(reader, attribute) : -ENOENT;
-        const std::optional<std::string_view> told = uevent.text(attribute);
-        if (size >= 0 && (!told || trimmed(reader.text(size)) != trimmed(*told)))
+        const std::optional<std::string_view> stated = uevent.text(attribute);
+        if (size >= 0 && (!stated || trimmed(reader.text(size)) != trimmed(*stated)))
             return false;
     }
     return true;

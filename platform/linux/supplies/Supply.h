@@ -21,7 +21,7 @@ public:
         FileUnseen, ///< and changes are not heard of
     };
 
-    /// `kind` is what it was before, if that is known: the files that tell may not answer now.
+    /// `kind` is what it was before, if that is known: the files that say so may not answer now.
     Supply(std::string name, std::optional<SupplyKind> kind);
 
     const std::string& name() const { return m_name; }

@@ -36,7 +36,7 @@ std::optional<SupplyReadings> SupplyFolder::read(bool looksAgain)
 {
     // Before the files are read: what changes later is seen the next time.
     const bool hasChanged = m_watch && m_watch->hasChanged();
-    // Where changes are told the folder need not be listed each time.
+    // Where changes are announced the folder need not be listed each time.
     if ((!m_watch || !m_folder || hasChanged || looksAgain) && !list())
         return std::nullopt;
     SupplyReadings readings;

@@ -11,7 +11,7 @@
 namespace quindle {
 
 /// What stands in for attributes whose reading failed: what they were last, for up to 30 s. A charge of
-/// nothing for a moment tells nobody anything.
+/// nothing for a moment helps nobody.
 class SupplyMemory
 {
 public:
