@@ -14,7 +14,7 @@ enum class ChargingState {
     Full,
 };
 
-/// One battery as it was when it was read, in the registry's units and with the nonsense of firmwares and
+/// One battery as it was when it was read, in the registry's units and with the nonsense of firmware and
 /// drivers put right. What the battery does not report is missing.
 struct Battery
 {

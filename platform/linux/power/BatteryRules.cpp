@@ -22,6 +22,8 @@ std::optional<ChargingState> chargingState(const SupplyAttributes& attributes)
         return ChargingState::Discharging;
     if (word == "Not charging")
         return ChargingState::NotCharging;
+    // "Unknown" is an answer of its own, and not a missing one: some controllers say it of a battery that
+    // rests on the adapter (thinkpad-t430s).
     return word == "Full" ? ChargingState::Full : ChargingState::Unknown;
 }
 
@@ -30,8 +32,8 @@ bool isWithin(std::optional<double> number, double lowest, double highest)
     return number && *number >= lowest && *number <= highest;
 }
 
-/// Tenths of a kelvin. Below -60 or above 150 °C it is a sensor that is not there or another unit: no driver
-/// of the recorded computers does so, and SBS gauges write -2731 (absolute zero) where they measure nothing.
+/// Tenths of a kelvin. Below -60 or above 150 °C the sensor is missing or the unit is another one. No
+/// recorded computer has such a value; SBS gauges write -2731 (absolute zero) where they measure nothing.
 std::optional<double> temperature(std::optional<double> tenthsOfCelsius)
 {
     if (!isWithin(tenthsOfCelsius, -600, 1500))
@@ -45,6 +47,7 @@ std::optional<qint64> packedDate(const SupplyAttributes& attributes)
     const std::optional<double> year = attributes.number(Attribute::ManufactureYear);
     const std::optional<double> month = attributes.number(Attribute::ManufactureMonth);
     const std::optional<double> day = attributes.number(Attribute::ManufactureDay);
+    // The packed form counts years from 1980, so it has no place for earlier ones.
     if (!isWithin(year, 1980, 9999) || !isWithin(month, 1, 12) || !isWithin(day, 1, 31))
         return std::nullopt;
     return static_cast<qint64>((*year - 1980) * 512 + *month * 32 + *day);
@@ -65,6 +68,8 @@ std::optional<bool> isFull(const Battery& battery)
 {
     if (!battery.state)
         return std::nullopt;
+    // A battery that is held below its limit says "Not charging" too (thinkpad-two-batteries-both-held, at 80
+    // and 7 %), so that word alone does not mean full.
     if (*battery.state != ChargingState::NotCharging)
         return *battery.state == ChargingState::Full;
     return battery.charge && battery.fullCharge && *battery.charge >= *battery.fullCharge;
@@ -74,6 +79,7 @@ std::optional<QString> healthWord(const Battery& battery, std::optional<QString>
 {
     constexpr double leastOfGood = 0.8; // as the word for a Mac's battery changes at 80 %
     constexpr double leastOfFair = 0.5;
+    // SBS gauges that do not assess their health write "Unknown" (chromebook-lazor-limozeen).
     if (reported && *reported != QLatin1String("Unknown"))
         return reported;
     if (!battery.fullCharge || !battery.designCharge)
@@ -95,6 +101,7 @@ bool followsThreshold(const SupplyAttributes& attributes)
 std::optional<int> chargeLimit(const SupplyAttributes& attributes)
 {
     const std::optional<double> percent = attributes.number(Attribute::ChargeControlEndThreshold);
+    // 100 is how a driver says that it limits nothing.
     if (!isWithin(percent, 1, 99) || !followsThreshold(attributes))
         return std::nullopt;
     return static_cast<int>(*percent);
@@ -106,6 +113,8 @@ Battery batteryFrom(const SupplyAttributes& attributes)
 {
     const DriverFigures figures = driverFigures(attributes);
     Battery battery;
+    // In this order: currents take their sign from the state and their rated voltage from the charges, which
+    // "full" and the health word compare too.
     battery.state = chargingState(attributes);
     setCharges(battery, figures);
     setVoltageAndCurrents(battery, figures);

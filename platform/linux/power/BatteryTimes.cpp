@@ -19,7 +19,7 @@ Minutes firstOf(Minutes first, Minutes second)
     return first ? first : second;
 }
 
-/// What the driver says. It goes on giving its last time to empty while it charges, and the reverse; and the
+/// What the driver says. Drivers keep giving the last time to empty while charging, and the reverse; and the
 /// times of several batteries, which are used one after the other, do not add up to one.
 SystemTimes driversTimes(const SystemPower& power, Direction direction)
 {
@@ -42,11 +42,13 @@ SystemTimes BatteryTimes::follow(const SystemPower& power, std::chrono::millisec
 {
     const Direction direction = directionOf(power);
     const bool isPlugged = isExternallyPowered(power);
+    // First: a change of state forgets all samples, and the new one must not be among them.
     m_estimator.setState(isPlugged, direction);
     if (m_estimator.wantsSample(now))
         m_estimator.addSample({now, combinedCharge(power.batteries), combinedFullCharge(power.batteries),
                                combinedChargeRate(power.batteries)});
     SystemTimes times = driversTimes(power, direction);
+    // The driver's own time comes first: it is there at once, the estimate only after a while.
     times.averageToFull = firstOf(times.averageToFull, m_estimator.minutesUntilFull());
     times.averageToEmpty = firstOf(times.averageToEmpty, m_estimator.minutesUntilEmpty());
     times.presentToEmpty = firstOf(times.presentToEmpty, m_estimator.minutesUntilEmpty());

@@ -48,8 +48,8 @@ OptionalNumber givenCharge(const Counters& counters, double full, OptionalNumber
     return percent ? OptionalNumber(*percent * full / 100) : counters.other.now;
 }
 
-/// Whether a charge above the full one is a broken counter: one was read as 56,848 mAh of 4,998, the bytes of
-/// its number swapped. A worn battery, or one just charged, counts a little above its own full charge
+/// Whether a charge above the full one is a broken counter: one read 56,848 mAh of 4,998, the bytes of its
+/// number swapped. A battery that has just been charged counts a little above its own full charge
 /// (steam-deck-above-full).
 bool isBroken(double charge, double full)
 {
@@ -68,11 +68,13 @@ bool isLost(double charge, double full, double percent)
 double believableCharge(double given, double full, OptionalNumber percent)
 {
     const double charge = std::min(given, full);
+    // Without a percentage there is nothing better than the full charge.
     if (percent && (isBroken(given, full) || isLost(charge, full, *percent)))
         return *percent * full / 100;
     return charge;
 }
 
+/// As on pinephone-with-keyboard, whose driver has a design charge beside the percentage but no full charge.
 void setPercentageOnly(Battery& battery, double percent)
 {
     battery.charge = percent;
@@ -80,7 +82,8 @@ void setPercentageOnly(Battery& battery, double percent)
     battery.tellsPercentageOnly = true; // a design charge would stand beside a full charge of 100
 }
 
-/// Drivers differ in the sign they give a current; the status says which way it flows.
+/// Drivers differ in the sign they give a current: of two that discharge, sbs-gehc-32-properties writes
+/// -26000 and dell-inspiron-3521 1177000. The status says which way it flows.
 OptionalNumber directed(const Battery& battery, OptionalNumber amount)
 {
     if (!amount)
@@ -110,6 +113,8 @@ OptionalNumber presentVoltage(const Battery& battery, const DriverFigures& figur
     return figures.presentVoltage ? OptionalNumber(*figures.presentVoltage * 1000) : std::nullopt;
 }
 
+/// Where charges are energies over the rated voltage, so is the rate: with the present voltage the time left
+/// would be wrong by the ratio of the two.
 OptionalNumber chargeRate(const Battery& battery, const DriverFigures& figures)
 {
     if (!countsEnergies(figures))
@@ -125,6 +130,7 @@ OptionalNumber chargeRate(const Battery& battery, const DriverFigures& figures)
 
 void setCharges(Battery& battery, const DriverFigures& figures)
 {
+    // Set even without energies: charges of several batteries are added as energy.
     battery.ratedVoltage = voltageOfEnergies(figures);
     const Counters counters = countersOf(figures);
     const OptionalNumber percent = percentage(figures);

@@ -39,8 +39,8 @@ OptionalNumber sumOf(Batteries batteries, QuantityOf quantityOf)
     return sum;
 }
 
-/// Whether a battery's figures may be added to others': percentages are no charges, and one that does not
-/// report both charge and full charge would make the percentage of all wrong.
+/// Whether a battery's figures may be added to others': percentages are no charges, and a battery that does
+/// not report both charge and full charge would falsify the percentage of all.
 bool addsUp(const Battery& battery)
 {
     return !battery.tellsPercentageOnly && battery.charge && battery.fullCharge;
@@ -62,6 +62,8 @@ OptionalNumber designOrFullCharge(const Battery& battery)
     return battery.designCharge ? battery.designCharge : battery.fullCharge;
 }
 
+/// Charges are added instead of averaging percentages: the packs of 25 and 71 Wh of
+/// thinkpad-t480-two-batteries-rear-empty, at 94 and 0 %, hold 24 % together and not 47.
 OptionalNumber sumOfCharges(Batteries batteries, OptionalNumber (*chargeOf)(const Battery&))
 {
     // Percentages, where there is nothing else, are added as they are: that gives their mean.
@@ -93,6 +95,7 @@ std::optional<double> combinedFullCharge(Batteries batteries)
 
 std::optional<double> combinedDesignCharge(Batteries batteries)
 {
+    // With none at all every battery would count as new, and health would be 100 %.
     if (!firstTold(batteries, &Battery::designCharge))
         return std::nullopt;
     return sumOfCharges(batteries, designOrFullCharge);
@@ -132,6 +135,7 @@ std::optional<double> combinedCycleCount(Batteries batteries)
 {
     OptionalNumber highest;
     for (const Battery& battery : batteries)
+        // An optional without a value is less than any count.
         highest = std::max(highest, battery.cycleCount);
     return highest;
 }

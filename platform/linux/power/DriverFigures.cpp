@@ -61,11 +61,12 @@ void multiply(std::initializer_list<OptionalNumber*> numbers, double factor)
 }
 
 /// Drivers that count in mAh, mWh and mA write a few thousand where others write a few million. The smallest
-/// battery recorded of a computer is the inner one of the ThinkPad of thinkpad-two-batteries-both-held, worn
-/// to 1,180 mAh.
+/// battery of the recorded computers is the inner one of thinkpad-two-batteries-both-held, worn to 1,180 mAh.
 bool countsInThousandths(const DriverFigures& figures)
 {
     constexpr double smallestFullCharge = 100; // mAh
+    // By the full charge, the one figure that is never near 0: a present charge or a current may be small in
+    // any unit.
     if (const OptionalNumber charge = positive(figures.charges.full))
         return *charge < smallestFullCharge;
     const OptionalNumber energy = positive(figures.energies.full);
@@ -84,12 +85,14 @@ OptionalNumber inVolts(OptionalNumber voltage)
 DriverFigures driverFigures(const SupplyAttributes& battery)
 {
     DriverFigures figures = asWritten(battery);
+    // Voltages first: whether energies are in thousandths shows in the charge that they make at the voltage.
     figures.presentVoltage = inVolts(figures.presentVoltage);
     figures.ratedVoltage = inVolts(figures.ratedVoltage);
     if (!countsInThousandths(figures))
         return figures;
     ChargeCounter& charges = figures.charges;
     ChargeCounter& energies = figures.energies;
+    // Not the voltages: drivers that count in mWh may give them in µV all the same.
     multiply({&charges.now, &charges.full, &charges.design, &energies.now, &energies.full, &energies.design,
               &figures.averageCurrent, &figures.presentCurrent, &figures.power},
              1000);
@@ -98,13 +101,18 @@ DriverFigures driverFigures(const SupplyAttributes& battery)
 
 double voltageOfEnergies(const DriverFigures& figures)
 {
-    constexpr double usualVoltage = 11.4; // three lithium cells
+    // Three lithium cells. thinkpad-t480-two-batteries-rear-empty and thinkpad-x1-extreme-thresholds give
+    // energies and no voltage at all.
+    constexpr double usualVoltage = 11.4;
+    // The present voltage moves with charge and load, and a full charge made with it would move too.
     const OptionalNumber rated = positive(figures.ratedVoltage);
     return rated ? *rated : positive(figures.presentVoltage).value_or(usualVoltage);
 }
 
 bool countsEnergies(const DriverFigures& figures)
 {
+    // Charges need no voltage, and where a driver has both they are nearer to its percentage: 75.0 and 73.2
+    // of 76 % on sbs-gehc-32-properties.
     return !positive(figures.charges.full) && positive(figures.energies.full);
 }
 

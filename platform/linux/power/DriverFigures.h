@@ -16,8 +16,8 @@ struct ChargeCounter
 };
 
 /// The figures that a driver wrote of one battery, in units that are the same for all drivers, and otherwise
-/// as it wrote them. A figure is missing that the driver does not give, or gives as a negative number where
-/// only positive ones make sense.
+/// as it wrote them. A figure that the driver does not give, or gives as a negative number where only
+/// positive ones make sense, is missing.
 struct DriverFigures
 {
     ChargeCounter charges;  ///< mAh
@@ -32,13 +32,13 @@ struct DriverFigures
     std::optional<double> cycleCount;
 };
 
-/// A figure of nothing, where only more makes sense, is how drivers say that they know none.
+/// 0 where only more makes sense is how drivers say that they do not know the figure.
 inline std::optional<double> positive(std::optional<double> number)
 {
     return number && *number > 0 ? number : std::nullopt;
 }
 
-/// Reads the figures and puts the units of drivers right that count in thousandths.
+/// Reads the figures and corrects the units of drivers that count in thousandths.
 DriverFigures driverFigures(const SupplyAttributes& battery);
 
 /// V: the rated voltage, else the present one, else a usual one. Never 0.

@@ -15,8 +15,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(powerLog, "quindle.power")
 
-/// Only the daemon's messages can be filtered in the kernel; without the daemon (in a container) they never
-/// come.
+/// Only the daemon's messages can be filtered in the kernel, but without the daemon (in a container) none
+/// ever come.
 const char* eventSource()
 {
     return access("/run/udev/control", F_OK) == 0 ? "udev" : "kernel";
@@ -47,6 +47,7 @@ void LinuxPowerEvents::setObserver(std::function<void()> observer)
     if (m_monitor)
         return;
     if (!open()) {
+        // No reason to give up: the timers refresh all the same.
         qCWarning(powerLog, "no events of the power supplies: changes show at the next refresh");
         return;
     }
@@ -71,6 +72,7 @@ bool LinuxPowerEvents::takeEvents()
 {
     bool any = false;
     while (udev_device* const device = udev_monitor_receive_device(m_monitor.get())) {
+        // Which supply it was does not matter: the next sample reads them all.
         udev_device_unref(device);
         any = true;
     }
@@ -81,6 +83,7 @@ void LinuxPowerEvents::readEvents()
 {
     if (!takeEvents())
         return;
+    // The sample that was taken before the event would answer the observer otherwise.
     m_beforeObserver();
     m_observer();
 }

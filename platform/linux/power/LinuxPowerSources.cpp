@@ -11,6 +11,7 @@ std::optional<QVariantMap> LinuxPowerSources::externalAdapterDetails()
 {
     std::optional<qint64> highest;
     for (const ExternalSupply& supply : m_sampler.sample()->power.externals)
+        // An optional without a value is less than any number of watts.
         highest = std::max(highest, supply.watts);
     if (!highest)
         return std::nullopt;
@@ -19,6 +20,8 @@ std::optional<QVariantMap> LinuxPowerSources::externalAdapterDetails()
 
 std::optional<int> LinuxPowerSources::sourceCount()
 {
+    // Kept for the descriptions: a battery that is taken out after it was counted could not be described,
+    // which is fatal.
     m_listed = m_sampler.sample();
     return static_cast<int>(m_listed->sources.size());
 }

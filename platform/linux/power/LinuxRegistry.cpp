@@ -6,7 +6,7 @@ namespace quindle {
 
 namespace {
 
-constexpr IOStatus badArgument = static_cast<IOStatus>(0xe00002c2);
+constexpr IOStatus badArgument = static_cast<IOStatus>(0xe00002c2); // as the registry itself numbers it
 
 const QLatin1String batteryName("AppleSmartBattery");
 const QString modelKey = QStringLiteral("model");
@@ -41,6 +41,7 @@ RegistryObject LinuxRegistry::serviceMatchingName(const QString& name)
 {
     if (name != batteryName)
         return 0;
+    // Opening is rare and follows a battery that has just come: its files may be newer than the last look.
     m_sampler.lookAgain();
     return m_sampler.sample()->batteryEntry.isEmpty() ? 0 : open(Entry::Battery);
 }
@@ -82,6 +83,8 @@ IOStatus LinuxRegistry::release(RegistryObject object)
 
 RegistryObject LinuxRegistry::open(Entry entry)
 {
+    // A handle is never 0, which stands for no entry, nor one that is still open after the count has wrapped
+    // around.
     do
         ++m_lastHandle;
     while (m_lastHandle == 0 || m_open.contains(m_lastHandle));
@@ -92,6 +95,7 @@ RegistryObject LinuxRegistry::open(Entry entry)
 const QVariantMap& LinuxRegistry::batteryEntry()
 {
     const std::shared_ptr<const PowerSample> sample = m_sampler.sample();
+    // A battery pulled out under an open entry leaves its last values: 0 of 0 mAh would be shown as "nan%".
     if (!sample->batteryEntry.isEmpty())
         m_lastBatteryEntry = sample->batteryEntry;
     return m_lastBatteryEntry;
@@ -102,9 +106,11 @@ QVariant LinuxRegistry::computerProperty(const QString& key)
     if (key == modelKey) {
         const auto model =
             firmwareText(m_files, m_folders.dmi, "product_name", m_folders.deviceTree, "model");
+        // Bytes that end in NUL, as a Mac's registry holds its model.
         return model ? QVariant(model->toUtf8().append('\0')) : QVariant();
     }
     if (key == serialKey) {
+        // DMI shows it to root only, as docs/platform.md explains: for most users it is missing.
         const auto serial =
             firmwareText(m_files, m_folders.dmi, "product_serial", m_folders.deviceTree, "serial-number");
         return serial ? QVariant(*serial) : QVariant();

@@ -9,7 +9,7 @@
 namespace quindle {
 
 /// The batteries of devices beside the computer. Reading them may send something to the device, so they are
-/// read when somebody wants to know and never else. Main thread only.
+/// read only when somebody wants to know. Main thread only.
 class PeripheralBatteries
 {
 public:

@@ -9,7 +9,7 @@ namespace quindle {
 
 namespace {
 
-/// No maker writes more; a device may call itself anything.
+/// Longer than any maker's name for a device; a Bluetooth device may call itself anything.
 constexpr int longestName = 64;
 
 std::optional<int> percentOf(const SupplyAttributes& attributes)
@@ -31,6 +31,7 @@ bool isSwitchedOff(const SupplyAttributes& attributes)
     return attributes.number(Attribute::Online) == 0.0 || attributes.number(Attribute::Present) == 0.0;
 }
 
+/// A supply without a model name shows its own name (ip5xxx-battery of pinephone-with-keyboard).
 QString nameOf(const SupplyReading& reading)
 {
     const std::optional<QString> model = readableAttribute(reading.attributes, Attribute::ModelName);
@@ -50,6 +51,7 @@ std::optional<QString> nameOf(const BluetoothBattery& device)
 std::optional<PeripheralBattery> peripheralFrom(const SupplyReading& reading)
 {
     PeripheralBattery battery{nameOf(reading), percentOf(reading.attributes), levelOf(reading.attributes)};
+    // Some devices report a level and no percentage (desktop-keyboard-k375s-level-only).
     if (isSwitchedOff(reading.attributes) || (!battery.percent && !battery.level))
         return std::nullopt;
     return battery;
@@ -79,6 +81,7 @@ QList<PeripheralBattery> peripheralsFrom(const SupplyReadings& readings,
             continue;
         if (const std::optional<PeripheralBattery> battery = peripheralFrom(reading)) {
             batteries.append(*battery);
+            // Only these hide a Bluetooth device: one whose supply shows nothing would be shown nowhere.
             shown.push_back(reading);
         }
     }

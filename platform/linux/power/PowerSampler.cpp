@@ -8,6 +8,8 @@ namespace quindle {
 namespace {
 
 constexpr std::chrono::milliseconds longestService(1000);
+// How late a changed charge limit may show: writing it announces nothing, and its file is read at a look
+// only.
 constexpr std::chrono::milliseconds lookInterval(30'000);
 
 } // namespace
@@ -37,6 +39,7 @@ void PowerSampler::take(std::chrono::milliseconds now)
 {
     auto sample = std::make_shared<PowerSample>();
     sample->power = systemPowerFrom(m_memory.complete(m_reader.read(looksAgain(now)), now));
+    // With each sample, so that no plug or unplug is missed.
     const SystemTimes times = m_times.follow(sample->power, now);
     sample->batteryEntry = registryEntry(sample->power, times);
     sample->sources = sourceDescriptions(sample->power, times);

@@ -37,6 +37,7 @@ QVariantMap sourceDescription(const Battery& source, const QString& type, bool i
                        isExternallyPowered ? QStringLiteral("AC Power") : QStringLiteral("Battery Power"));
     description.insert(QStringLiteral("Is Present"), true);
     description.insert(QStringLiteral("Is Charging"), source.state == ChargingState::Charging);
+    // The service's capacities are percentages, whatever the battery counts in.
     description.insert(QStringLiteral("Max Capacity"), qint64{100});
     description.insert(QStringLiteral("Time to Empty"), qint64{minutesToEmpty.value_or(-1)});
     description.insert(QStringLiteral("Time to Full Charge"), qint64{minutesToFull.value_or(-1)});

@@ -25,7 +25,7 @@ QVariant atLeastOne(std::optional<double> number)
 
 QVariant minutes(std::optional<int> known)
 {
-    constexpr qint64 notKnown = 65535;
+    constexpr qint64 notKnown = 65535; // as in battery/BatteryStateRule, which this layer must not include
     return QVariant::fromValue<qint64>(known ? *known : notKnown);
 }
 

@@ -8,7 +8,7 @@ namespace quindle {
 
 namespace {
 
-/// Whether there is a battery in the bay. One that does not say so is there.
+/// Whether there is a battery in the bay. A driver without the attribute has one.
 bool isPresent(const SupplyAttributes& attributes)
 {
     return attributes.number(Attribute::Present) != 0.0;
@@ -81,7 +81,7 @@ ExternalSupply externalSupplyFrom(const SupplyAttributes& attributes)
 
 bool isExternallyPowered(const SystemPower& power)
 {
-    // Some chargers say that they are online for ever; a battery that discharges knows better.
+    // Some chargers claim to be online for ever; a battery that discharges knows better.
     if (anyDischarges(power.batteries))
         return false;
     bool chargerSaysSomething = false;
@@ -90,6 +90,8 @@ bool isExternallyPowered(const SystemPower& power)
             return true;
         chargerSaysSomething = chargerSaysSomething || supply.isOnline.has_value();
     }
+    // Without an adapter that says anything a battery that does not discharge is fed
+    // (framework-13-charging-99 lists none while it charges).
     return !chargerSaysSomething;
 }
 

@@ -14,6 +14,7 @@ namespace quindle {
 
 namespace {
 
+/// What is left must do for everything else in the process: three hundred batteries once took all of 256.
 int quarterOfDescriptors()
 {
     constexpr rlim_t most = 256;
@@ -43,6 +44,7 @@ ssize_t FileReader::read(const std::string& path, const char* name, FileDescript
     // With one read in three failing, this many all fail once in 81 times: what a value was last stands in
     // for it then, and a value is missing once in half a million readings.
     constexpr int mostTries = 4;
+    // Asked before anything is touched: even opening a file may hang.
     if (const std::optional<ssize_t> instead = m_steps.insteadOf(path, m_buffer.data(), m_buffer.size()))
         return *instead;
     ssize_t result = tryToRead(path, name, kept);
@@ -69,6 +71,7 @@ ssize_t FileReader::readOpened(const std::string& path, const char* name, FileDe
     }
     const int file = kept.isOpen() ? kept.get() : opened.get();
     const ssize_t result = m_read(file, name, m_buffer.data(), m_buffer.size());
+    // Left open it would fail for ever, whatever device comes under the same name.
     if (isGone(result)) {
         close(kept);
     } else if (opened.isOpen() && m_keptOpen < m_mostKeptOpen) {
@@ -94,6 +97,7 @@ std::set<std::string> FileReader::namesIn(const std::string& path)
     m_steps.begin(path);
     FileDescriptor descriptor(openat(m_folder, path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (const std::unique_ptr<DIR, CloseFolder> folder{fdopendir(descriptor.get())}) {
+        // Only now: a stream that was not made has not taken the descriptor over.
         descriptor.release();
         while (const dirent* const entry = readdir(folder.get()))
             names.insert(entry->d_name);

@@ -22,15 +22,18 @@ bool ReadingThread::request(bool looksAgain)
         const std::scoped_lock lock(m_mutex);
         m_requestedAt = Clock::now();
         m_isBusy = true;
+        // An answer that nobody took is of an older moment.
         m_answer.reset();
         m_hasAnswer = false;
     }
+    // The thread keeps this object alive: it may hang in a file long after the reader has gone.
     const auto read = [self = shared_from_this(), looksAgain] {
         self->answer(self->m_folder.read(looksAgain));
     };
     if (startThreadHere(read))
         return true;
     const std::scoped_lock lock(m_mutex);
+    // Nobody must wait for a reading that never began.
     m_isBusy = false;
     return false;
 }
@@ -65,6 +68,7 @@ bool ReadingThread::abandonIfStuck(std::chrono::milliseconds longest)
     const std::scoped_lock lock(m_mutex);
     if (m_path.empty() || Clock::now() - m_begun < longest)
         return false;
+    // Should the file answer after all, its thread hands the answer over and ends at the next file.
     m_stuckFile = m_slowFiles->add(m_path, m_begun);
     m_isEnded = true;
     return true;

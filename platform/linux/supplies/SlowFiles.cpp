@@ -19,6 +19,8 @@ using namespace std::chrono_literals;
 
 Q_LOGGING_CATEGORY(slowLog, "quindle.power")
 
+/// Well below the 100 ms after which a file counts as slow, so that it does not go back and forth between the
+/// two.
 constexpr auto quick = 10ms;
 
 /// A file that is slow and quick by turns would hold the program up again and again.
@@ -59,6 +61,7 @@ void SlowFile::request(const std::shared_ptr<SlowFile>& file)
         file->m_begun = Clock::now();
     }
     if (!startThread([file] { file->readOnce(); }))
+        // Counts as an accident of the bus: the last value stands in.
         file->deliver(nullptr, -EAGAIN);
 }
 
@@ -67,6 +70,7 @@ void SlowFile::readOnce()
     std::array<char, 4096> buffer{};
     const std::string name = m_path.substr(m_path.rfind('/') + 1);
     const std::filesystem::path path = std::filesystem::path(m_folder) / m_path;
+    // Opened by itself: the descriptor that was kept belongs to the thread that hangs.
     const FileDescriptor file = openRegularFile(AT_FDCWD, path.c_str());
     const ssize_t result =
         file.isOpen() ? m_read(file.get(), name.c_str(), buffer.data(), buffer.size()) : ssize_t{-errno};
@@ -111,7 +115,9 @@ std::optional<ssize_t> SlowFiles::insteadOf(const std::string& path, char* buffe
     if (found == m_files.end())
         return isGivenUp(path) ? std::optional<ssize_t>(-EAGAIN) : std::nullopt;
     const std::shared_ptr<SlowFile> file = found->second;
-    const ssize_t result = file->latest(buffer, size); // before the next read begins
+    // Before the next read begins: while one is under way there is no value, and a file that stays slow would
+    // never have one.
+    const ssize_t result = file->latest(buffer, size);
     if (file->hasRecovered() && m_timesFoundSlow[path] <= mostRecoveries)
         m_files.erase(found);
     else

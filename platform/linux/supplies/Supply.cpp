@@ -59,6 +59,7 @@ ssize_t Supply::readOnce(FileReader& reader, Attribute attribute) const
 
 void Supply::look(FileReader& reader, Uevent uevent)
 {
+    // Files kept open may be those of another supply that had the same name.
     close(reader);
     m_wasLookedAt = true;
     m_checksUevent = uevent == Uevent::File;
@@ -101,6 +102,7 @@ SupplyReading Supply::read(FileReader& reader)
     SupplyReading reading{m_name, *m_kind, {}, {}};
     std::optional<SupplyAttributes> uevent = m_usesUevent ? readUevent(reader) : std::nullopt;
     if (uevent && std::exchange(m_checksUevent, false))
+        // Once for each look: the files of a collected folder change seldom, and it takes a read of each.
         m_usesUevent = agrees(reader, *uevent);
     if (uevent && m_usesUevent)
         reading.attributes = std::move(*uevent);
@@ -121,6 +123,7 @@ std::optional<SupplyAttributes> Supply::readUevent(FileReader& reader)
 /// mixed.
 bool Supply::agrees(FileReader& reader, const SupplyAttributes& uevent) const
 {
+    // Listed once: with thousands of supplies it would cost more to try to open each file that may be there.
     const std::set<std::string> files = reader.namesIn(m_name);
     const AttributeSet measured = measuredOf(*m_kind);
     for (std::size_t index = 0; index < attributeCount; ++index) {
@@ -145,8 +148,10 @@ void Supply::readSingly(FileReader& reader, SupplyReading& reading)
         if (size >= 0)
             reading.attributes.set(attribute, reader.text(size));
         else if (attribute == Attribute::Present && size == -ENODEV)
+            // A driver whose battery was taken out answers so: an empty bay, not a battery without figures.
             reading.attributes.set(attribute, "0");
         reading.failed[index] = isAccident(size);
+        // Not tried again before the next look: each missing file would cost a failed call at every refresh.
         m_absent[index] = isAbsence(size);
     }
 }

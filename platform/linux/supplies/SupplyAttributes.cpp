@@ -9,7 +9,7 @@ namespace quindle {
 
 namespace {
 
-/// Literals, so each ends in NUL.
+/// In the order of the enumeration. Literals, so each ends in NUL.
 constexpr std::array<std::string_view, attributeCount> attributeNames = {
     "type",
     "scope",
@@ -60,6 +60,8 @@ bool isPrintableAscii(char character)
     return character >= ' ' && character <= '~';
 }
 
+/// Texts of firmware may run on into left-over bytes of a buffer; where they are printable they stay
+/// (macbook-retina13-garbled-strings).
 QString withoutUnprintable(std::string_view text)
 {
     const QString decoded = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -154,6 +156,7 @@ std::optional<double> numberFromText(std::string_view text)
     const std::string_view digits = trimmed(text);
     long long number = 0;
     const char* const end = digits.data() + digits.size();
+    // Unlike strtol it knows no locale and skips nothing: a text that only begins with a number is none.
     const auto [stop, error] = std::from_chars(digits.data(), end, number);
     if (error != std::errc() || stop != end)
         return std::nullopt;

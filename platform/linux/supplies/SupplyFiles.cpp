@@ -12,12 +12,14 @@ namespace quindle {
 
 ssize_t readDescriptor(int descriptor, const char* /*attribute*/, char* buffer, std::size_t size)
 {
+    // A file of the kernel's is made anew for each read from its beginning, so it can stay open.
     const ssize_t result = pread(descriptor, buffer, size, 0);
     return result < 0 ? -errno : result;
 }
 
 FileDescriptor openRegularFile(int folder, const char* path)
 {
+    // A pipe must not wait for a writer, nor a terminal become that of the process.
     FileDescriptor descriptor(openat(folder, path, O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
     struct stat status
     {

@@ -10,6 +10,8 @@ namespace quindle {
 
 namespace {
 
+/// The kernel's own folder announces no changes, and its uevents are always of the same moment as its other
+/// files.
 bool isOfKernel(int folder)
 {
     struct statfs status
@@ -47,6 +49,7 @@ std::optional<SupplyReadings> SupplyFolder::read(bool looksAgain)
         else if (looksAgain && !m_watch)
             supply.lookAgain(m_reader);
         if (!supply.kind())
+            // With everything failed, so that what it was last stands in.
             readings.push_back({supply.name(), SupplyKind::Other, {}, AttributeSet().set()});
         else if (belongs(*supply.kind()))
             readings.push_back(supply.read(m_reader));
@@ -117,6 +120,7 @@ void SupplyFolder::open()
 /// Keeps the supplies that are still there.
 void SupplyFolder::take(std::vector<Entry> entries)
 {
+    // Both lists sorted, one pass compares them: there may be thousands of supplies.
     std::sort(entries.begin(), entries.end());
     std::vector<Member> members;
     members.reserve(entries.size());
@@ -136,6 +140,7 @@ void SupplyFolder::take(std::vector<Entry> entries)
 SupplyFolder::Member SupplyFolder::member(Entry entry) const
 {
     const auto kind = m_kinds.find(entry.name);
+    // What it was under an earlier thread: the files that say so may hang by now.
     auto supply = std::make_unique<Supply>(entry.name, kind == m_kinds.end() ? std::nullopt
                                                                              : std::optional(kind->second));
     return {std::move(entry), std::move(supply)};

@@ -19,6 +19,7 @@ SupplyReadings SupplyMemory::complete(std::optional<SupplyReadings> readings, st
         const auto before = m_known.find(reading.name);
         const Known* const last = before == m_known.end() ? nullptr : &before->second;
         if (last && reading.failed.all())
+            // Not even its type could be read.
             reading.kind = last->reading.kind;
         if (last && reading.failed.any())
             standIn(reading, *last, now);
@@ -52,6 +53,7 @@ SupplyMemory::Known SupplyMemory::remembered(const SupplyReading& reading, const
 {
     Known known{reading, {}};
     for (std::size_t index = 0; index < attributeCount; ++index)
+        // A value that stands in grows no younger by it.
         known.readAt[index] = before && reading.failed.test(index) ? before->readAt[index] : now;
     return known;
 }

@@ -24,6 +24,7 @@ SupplyReader::~SupplyReader()
 
 std::optional<SupplyReadings> SupplyReader::read(bool looksAgain)
 {
+    // Remembered: while a reading hangs no new one begins that could look.
     m_looksAgain = m_looksAgain || looksAgain;
     if (std::optional<SupplyReadings> late = takeLate())
         return late;
@@ -34,6 +35,7 @@ std::optional<SupplyReadings> SupplyReader::read(bool looksAgain)
             return accept(std::move(answer->readings));
         }
         if (m_thread->abandonIfStuck(m_patience.withFile))
+            // A new thread goes on without that file.
             m_thread.reset();
         else if (Clock::now() >= deadline)
             break;
@@ -65,6 +67,7 @@ std::optional<SupplyReadings> SupplyReader::accept(std::optional<SupplyReadings>
         const auto known = m_kinds.find(reading.name);
         if (reading.kind != SupplyKind::Other)
             kinds[reading.name] = reading.kind;
+        // A kind that could not be read is no news.
         else if (known != m_kinds.end())
             kinds.insert(*known);
     }
@@ -75,6 +78,7 @@ std::optional<SupplyReadings> SupplyReader::accept(std::optional<SupplyReadings>
 std::chrono::milliseconds SupplyReader::patience() const
 {
     if (m_wasLate)
+        // A reading that was late once is waited for no more, or it would hold up every refresh.
         return std::chrono::milliseconds(0);
     return m_hasAnswered ? m_patience.later : m_patience.first;
 }
@@ -83,6 +87,7 @@ std::chrono::milliseconds SupplyReader::patience() const
 bool SupplyReader::request()
 {
     if (!m_thread) {
+        // Each hanging file holds a thread; beyond so many nothing more is tried.
         if (m_slowFiles->areTooMany())
             return false;
         m_thread = std::make_shared<ReadingThread>(m_folder, m_scope, m_kinds, m_read, m_slowFiles);

@@ -24,6 +24,7 @@ AttributeSet allBut(std::initializer_list<Attribute> attributes)
 SupplyKind supplyKind(std::string_view type, std::string_view scope)
 {
     if (scope == "Device")
+        // The battery of a keyboard must not count as the computer's (pinephone-with-keyboard has both).
         return type == "Battery" ? SupplyKind::Peripheral : SupplyKind::Other;
     if (type == "Battery")
         return SupplyKind::Battery;
