@@ -5,13 +5,12 @@
 #include <optional>
 #include <vector>
 
-#include <QColor>
-
 #include "menubar/BarColours.h"
 
 namespace quindle {
 
-/// An image filter ("CIHueAdjust") that turns every hue by an angle and leaves grey, black and white alone.
+/// An image filter ("CIHueAdjust") that turns every hue by an angle and leaves grey, black and white alone
+/// (view/HueAdjust.h does so).
 class HueFilter
 {
 public:
@@ -29,9 +28,6 @@ public:
     /// The angle in radians; any number, whole turns make no difference. 0 at first.
     double inputAngle() const { return m_inputAngle; }
     void setInputAngle(double radians) { m_inputAngle = radians; }
-
-    /// `color` with its hue turned by `inputAngle`; saturation, value and alpha stay.
-    QColor filtered(const QColor& color) const;
 
 private:
     std::optional<BarColour> m_colour;

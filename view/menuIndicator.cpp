@@ -8,6 +8,7 @@
 #include <QPainterPath>
 
 #include "menubar/ProgressIndicator.h"
+#include "view/HueAdjust.h"
 #include "widgets/PaletteMix.h"
 
 namespace quindle {
@@ -92,7 +93,7 @@ QColor menuIndicator::fillColor() const
     if (!m_indicator)
         return color;
     for (const auto& filter : m_indicator->contentFilters())
-        color = filter->filtered(color);
+        color = filtered(color, *filter);
     return color;
 }
 

@@ -1,6 +1,7 @@
 #include "preferences/panes/UpdatePreferencesController.h"
 
 #include <QBuffer>
+#include <QIcon>
 #include <QImageReader>
 #include <QPixmap>
 

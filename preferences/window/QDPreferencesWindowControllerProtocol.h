@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include <QIcon>
 #include <QString>
 
+class QIcon;
 class QWidget;
 
 namespace quindle {

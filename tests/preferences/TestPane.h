@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include <QIcon>
 #include <QLineEdit>
 #include <QWidget>
 

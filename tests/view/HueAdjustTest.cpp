@@ -1,9 +1,11 @@
-#include "menubar/ProgressIndicator.h"
+#include "view/HueAdjust.h"
 
 #include <limits>
 #include <numbers>
 
 #include <gtest/gtest.h>
+
+#include "menubar/ProgressIndicator.h"
 
 using namespace quindle;
 
@@ -13,10 +15,10 @@ QColor turned(double angle, const QColor& color)
 {
     HueFilter filter;
     filter.setInputAngle(angle);
-    return filter.filtered(color);
+    return filtered(color, filter);
 }
 
-TEST(HueFilter, TurnsByRadians)
+TEST(HueAdjust, TurnsByRadians)
 {
     const QColor blue = QColor::fromHsv(240, 200, 210, 120);
     // 4 rad is 229.18 degrees, -16 rad 163.27 and 241 rad 128.28 past whole turns.
@@ -25,7 +27,7 @@ TEST(HueFilter, TurnsByRadians)
         EXPECT_NEAR(turned(angle, blue).hsvHue(), hue, 1) << angle;
 }
 
-TEST(HueFilter, KeepsEverythingElse)
+TEST(HueAdjust, KeepsEverythingElse)
 {
     const QColor color = QColor::fromHsv(240, 200, 210, 120);
     const QColor other = turned(4, color);
@@ -35,20 +37,20 @@ TEST(HueFilter, KeepsEverythingElse)
     EXPECT_EQ(other.spec(), color.spec());
 }
 
-TEST(HueFilter, WholeTurnsMakeNoDifference)
+TEST(HueAdjust, WholeTurnsMakeNoDifference)
 {
     const QColor color = QColor::fromHsv(200, 200, 210);
     EXPECT_EQ(turned(2 * std::numbers::pi, color).hsvHue(), 200);
     EXPECT_EQ(turned(-40 * std::numbers::pi, color).hsvHue(), 200);
 }
 
-TEST(HueFilter, GreysStay)
+TEST(HueAdjust, GreysStay)
 {
     for (const QColor& grey : {QColor(Qt::black), QColor(Qt::white), QColor(90, 90, 90, 40), QColor()})
         EXPECT_EQ(turned(4, grey), grey);
 }
 
-TEST(HueFilter, NoAngleTurnsNothing)
+TEST(HueAdjust, NoAngleTurnsNothing)
 {
     const QColor color(10, 20, 200);
     EXPECT_EQ(turned(std::numeric_limits<double>::quiet_NaN(), color), color);
