@@ -61,6 +61,9 @@ public:
     void textFieldTextChanged();
     static void quiteDueToUpdate(); ///< does nothing; inherited: the spelling
 
+    /// Has the battery read its values, and then refreshes the status item.
+    void refreshBatteryAndTitle();
+
     /// The refresh: daily gate, font, icon, title, tool tip and menu rows, bar colours.
     void updateStatusBarTitle() override;
 
@@ -143,7 +146,6 @@ private:
     void addBatteryView();
     void startTimer();
     void observePowerEvents();
-    void refreshBatteryAndTitle();
     void setBarFilters();
     void showNoBattery();
     void updateIcon(const QDBattery& battery);

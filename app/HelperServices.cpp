@@ -9,6 +9,7 @@
 #include "platform/linux/statusitem/LinuxStatusItem.h"
 #include "platform/linux/system/LinuxBundle.h"
 #include "platform/recorded/RecordedPlatform.h"
+#include "plist/PropertyList.h"
 #include "settings/SettingsTable.h"
 
 namespace quindle {
@@ -25,6 +26,11 @@ StatusItemSurroundings surroundings(const Bundle& programBundle, UserDefaultsDat
             }};
 }
 
+QString windowsProgramOf(const Bundle& programBundle)
+{
+    return programBundle.path() + QStringLiteral("/Contents/Linux/quindle-windows");
+}
+
 class ThisComputer : public HelperServices
 {
 public:
@@ -37,6 +43,10 @@ public:
     Platform platform() override { return m_linux.services(m_statusBar); }
 
     void play(HelperAppDelegate& /*delegate*/) override {}
+    QString windowsProgram() const override { return windowsProgramOf(m_linux.bundle()); }
+    QByteArray memory() const override { return m_linux.powerMemory(); }
+    quint32 statesEntered() const override { return 0; }
+    void store(const QString& /*database*/, const QByteArray& /*values*/) override {}
 
 private:
     LinuxPlatform m_linux;
@@ -92,7 +102,27 @@ public:
 
     void play(HelperAppDelegate& delegate) override
     {
-        playStepsInTime(m_steps, m_recorded, m_platform, delegate);
+        playStepsInTime(m_steps, m_recorded, m_platform, delegate,
+                        [this](std::size_t steps) { m_entered = static_cast<quint32>(steps); });
+    }
+
+    QString windowsProgram() const override { return windowsProgramOf(m_programBundle); }
+
+    QByteArray memory() const override
+    {
+        QVariantMap databases;
+        for (const QString& name : {QStringLiteral("standard"), groupDatabaseName()})
+            databases.insert(name, m_recorded.computer.database(name));
+        return xmlPropertyList(databases);
+    }
+
+    quint32 statesEntered() const override { return m_entered; }
+
+    void store(const QString& database, const QByteArray& values) override
+    {
+        const QVariantMap stored = propertyListFromBytes(values).value_or(QVariant()).toMap();
+        for (auto value = stored.begin(); value != stored.end(); ++value)
+            m_recorded.computer.setInDatabase(database, value.key(), value.value());
     }
 
 private:
@@ -104,6 +134,7 @@ private:
     MachineUrlSession m_urlSession;
     LinuxStatusBar m_statusBar;
     Platform m_platform;
+    quint32 m_entered = 0;
 };
 
 } // namespace

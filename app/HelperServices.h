@@ -20,8 +20,22 @@ public:
 
     virtual Platform platform() = 0;
 
+    /// The program of the helper's windows.
+    virtual QString windowsProgram() const = 0;
+
     /// Plays a recorded computer's later states in their time; does nothing for this computer.
     virtual void play(HelperAppDelegate& delegate) = 0;
+
+    /// What another process must know to go on from here: the samples that times are estimated from, or the
+    /// settings of a recorded computer.
+    virtual QByteArray memory() const = 0;
+
+    /// How many of a recorded computer's later states have been entered.
+    virtual quint32 statesEntered() const = 0;
+
+    /// Stores `values`, a property list, in a recorded computer's settings; does nothing for this computer,
+    /// whose settings are files.
+    virtual void store(const QString& database, const QByteArray& values) = 0;
 
     /// This computer; `systemRoot` replaces /sys when it is not empty. Needs a QApplication.
     static std::unique_ptr<HelperServices> ofThisComputer(const QString& systemRoot);

@@ -66,7 +66,8 @@ void play(MachineAction action, RecordedPlatform& recorded, const Platform& plat
 }
 
 void playFrom(std::size_t index, const std::vector<MachineStep>& steps, RecordedPlatform& recorded,
-              const Platform& platform, HelperAppDelegate& delegate)
+              const Platform& platform, HelperAppDelegate& delegate,
+              const std::function<void(std::size_t)>& entered)
 {
     if (index >= steps.size())
         return;
@@ -74,9 +75,11 @@ void playFrom(std::size_t index, const std::vector<MachineStep>& steps, Recorded
     const auto wait = std::chrono::duration_cast<std::chrono::milliseconds>(
         std::chrono::duration<double>(steps[index].after));
     // The delegate is the context: with it the play ends, and no timer refers to what has gone.
-    QTimer::singleShot(wait, &delegate, [index, &steps, &recorded, &platform, &delegate] {
+    QTimer::singleShot(wait, &delegate, [index, &steps, &recorded, &platform, &delegate, entered] {
+        if (entered)
+            entered(index + 1);
         playStep(steps[index], recorded, platform, delegate);
-        playFrom(index + 1, steps, recorded, platform, delegate);
+        playFrom(index + 1, steps, recorded, platform, delegate, entered);
     });
 }
 
@@ -94,9 +97,10 @@ void playStep(const MachineStep& step, RecordedPlatform& recorded, const Platfor
 }
 
 void playStepsInTime(const std::vector<MachineStep>& steps, RecordedPlatform& recorded,
-                     const Platform& platform, HelperAppDelegate& delegate)
+                     const Platform& platform, HelperAppDelegate& delegate,
+                     const std::function<void(std::size_t)>& entered)
 {
-    playFrom(0, steps, recorded, platform, delegate);
+    playFrom(0, steps, recorded, platform, delegate, entered);
 }
 
 } // namespace quindle

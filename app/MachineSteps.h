@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "platform/recorded/MachineFile.h"
@@ -18,8 +19,10 @@ void playStep(const MachineStep& step, RecordedPlatform& recorded, const Platfor
               HelperAppDelegate& delegate);
 
 /// Plays each step on the main loop at its time, `MachineStep::after` seconds after the one before, the first
-/// counted from now. All arguments must live as long as the delegate; destroying it ends the play.
+/// counted from now, and calls `entered` before each with the number of steps entered with it. All arguments
+/// must live as long as the delegate; destroying it ends the play.
 void playStepsInTime(const std::vector<MachineStep>& steps, RecordedPlatform& recorded,
-                     const Platform& platform, HelperAppDelegate& delegate);
+                     const Platform& platform, HelperAppDelegate& delegate,
+                     const std::function<void(std::size_t steps)>& entered = {});
 
 } // namespace quindle

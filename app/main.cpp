@@ -11,20 +11,25 @@
 
 #include "app/HelperAppDelegate.h"
 #include "app/HelperCommandLine.h"
-#include "app/HelperControllers.h"
 #include "app/HelperServices.h"
 #include "app/OlderSettings.h"
+#include "app/RemoteControllers.h"
+#include "app/SharedNotifications.h"
 #include "common/Paths.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
-#include "platform/Bundle.h"
 #include "platform/UserDefaults.h"
+#include "platform/linux/link/LinuxProgramStarter.h"
 #include "platform/linux/os/CoreDumps.h"
+#include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/os/StandardError.h"
+#include "platform/linux/session/ActivationToken.h"
 #include "platform/linux/session/SingleInstance.h"
 #include "platform/linux/session/StartDeadline.h"
-#include "platform/linux/system/LinuxInstallationSource.h"
+#include "platform/linux/session/X11Desktop.h"
+#include "platform/linux/session/X11Display.h"
 #include "platform/recorded/MachineFile.h"
+#include "remote/WindowsProcess.h"
 #include "settings/ApplicationPreferences.h"
 
 using namespace quindle;
@@ -64,16 +69,31 @@ void readSettingsInTime(UserDefaultsDatabases& databases)
         shared->dictionaryRepresentation();
 }
 
+RequestSurroundings surroundingsOf(const HelperServices& services, X11Display& display)
+{
+    return {.pointer = [&display] { return pointerPosition(display); },
+            .activationToken = takeActivationToken,
+            .statesEntered = [&services] { return services.statesEntered(); },
+            .memory = [&services] { return services.memory(); }};
+}
+
 int run(QApplication& application, HelperServices& services, SingleInstance& instance)
 {
-    const Platform platform = services.platform();
+    const Platform computer = services.platform();
+    SharedNotifications notifications(computer.distributedNotificationCenter);
+    const Platform platform = computer.with({.distributedNotificationCenter = &notifications});
     readSettingsInTime(platform.userDefaults);
     // Before anything reads the settings.
     copyTextParkedByOlderHelper(platform.userDefaults);
     MainInterface interface;
     ApplicationPreferences& settings = ApplicationPreferences::sharedInstance(&platform);
-    HelperControllers controllers(platform, settings, interface,
-                                  [&platform] { return installationSource(platform.bundle.path()); });
+    LinuxProgramStarter starter(pathBytes(services.windowsProgram()));
+    WindowsProcess windows(starter, timeSinceBoot);
+    X11Display display;
+    RemoteControllers controllers(platform, interface, windows, notifications,
+                                  surroundingsOf(services, display));
+    controllers.setStore(
+        [&services](const QString& database, const QByteArray& values) { services.store(database, values); });
     HelperAppDelegate delegate(platform, settings, interface, &QDMac::init,
                                [&controllers](HelperAppDelegate& owner) { return controllers.make(owner); });
     QObject::connect(&application, &QCoreApplication::aboutToQuit,

@@ -102,6 +102,16 @@ void MainInterface::updateFacts(const QString& title)
         m_factsUpdated();
 }
 
+void MainInterface::performClick(FactClick click)
+{
+    QDMac* mac = m_macObjectController.content();
+    if (!mac)
+        return;
+    quindle::performClick(click, *mac);
+    if (m_clicked)
+        m_clicked(click);
+}
+
 void MainInterface::setFactRow(int id, const QString& text)
 {
     if (!text.isEmpty()) // a hidden row keeps its text, so that a row that goes is one change and not two

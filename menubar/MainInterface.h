@@ -86,6 +86,12 @@ public:
     /// changed rows only, the observer of the facts at each call.
     void updateFacts(const QString& title);
 
+    /// Does what a click on a fact's value does.
+    void performClick(FactClick click);
+
+    /// The one observer of `performClick`, called afterwards; an empty function for none.
+    void setClickObserver(std::function<void(FactClick)> clicked) { m_clicked = std::move(clicked); }
+
     /// The one observer of `updateFacts`; an empty function for none.
     void setFactsObserver(std::function<void()> updated) { m_factsUpdated = std::move(updated); }
 
@@ -108,6 +114,7 @@ private:
     StatusMenuActions* m_actions = nullptr;
     PowerSources* m_powerSources = nullptr;
     std::function<void()> m_factsUpdated;
+    std::function<void(FactClick)> m_clicked;
     int m_titleRow = 0;
     int m_detailsRow = 0;
     std::vector<int> m_factRows;

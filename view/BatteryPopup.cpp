@@ -59,7 +59,7 @@ bool BatteryPopup::isOpen() const
     return m_window && m_window->isVisible();
 }
 
-void BatteryPopup::open()
+void BatteryPopup::open(const std::optional<QPoint>& pointer)
 {
     if (isOpen()) {
         m_window->raise();
@@ -75,7 +75,7 @@ void BatteryPopup::open()
         m_closedAt = QCursor::pos();
         m_sinceClosedOutside.start();
     });
-    m_window->open(QCursor::pos());
+    m_window->open(pointer.value_or(QCursor::pos()));
 }
 
 void BatteryPopup::close()
@@ -84,19 +84,19 @@ void BatteryPopup::close()
         m_window->close();
 }
 
-void BatteryPopup::toggle()
+void BatteryPopup::toggle(const std::optional<QPoint>& pointer)
 {
     if (isOpen())
         close();
-    else if (!isSameClick())
-        open();
+    else if (!isSameClick(pointer.value_or(QCursor::pos())))
+        open(pointer);
 }
 
-bool BatteryPopup::isSameClick() const
+bool BatteryPopup::isSameClick(const QPoint& pointer) const
 {
     return m_sinceClosedOutside.isValid() &&
            m_sinceClosedOutside.elapsed() < QApplication::doubleClickInterval() &&
-           (QCursor::pos() - m_closedAt).manhattanLength() < QApplication::startDragDistance();
+           (pointer - m_closedAt).manhattanLength() < QApplication::startDragDistance();
 }
 
 } // namespace quindle

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QPoint>
@@ -26,16 +28,17 @@ public:
 
     bool isOpen() const;
 
-    /// Opens it, or brings it to the front.
-    void open();
+    /// Opens it, or brings it to the front. `pointer` is where it was when the user asked for it, if that is
+    /// known better than where it is now.
+    void open(const std::optional<QPoint>& pointer = {});
     void close();
 
     /// Opens it when closed and closes it when open. The click that closed it by being outside of it does not
     /// open it again when it reaches the status item.
-    void toggle();
+    void toggle(const std::optional<QPoint>& pointer = {});
 
 private:
-    bool isSameClick() const;
+    bool isSameClick(const QPoint& pointer) const;
 
     MainInterface& m_interface;
     const Application& m_application;

@@ -121,8 +121,7 @@ void BatteryWindow::followModels()
 
 void BatteryWindow::performClick(FactClick click)
 {
-    if (QDMac* mac = m_interface.macObjectController().content())
-        quindle::performClick(click, *mac);
+    m_interface.performClick(click);
 }
 
 void BatteryWindow::addEntries(QVBoxLayout& layout)

@@ -7,6 +7,7 @@
 #include "platform/linux/login/LinuxLoginItems.h"
 #include "platform/linux/network/LinuxUrlSession.h"
 #include "platform/linux/os/UserFolders.h"
+#include "platform/linux/power/EstimatorText.h"
 #include "platform/linux/power/LinuxPowerEvents.h"
 #include "platform/linux/power/LinuxPowerSources.h"
 #include "platform/linux/power/LinuxRegistry.h"
@@ -102,7 +103,18 @@ LinuxPlatform::LinuxPlatform(const QString& systemRoot, SettingsAccess settingsA
 
 LinuxPlatform::~LinuxPlatform() = default;
 
-Bundle& LinuxPlatform::bundle()
+QByteArray LinuxPlatform::powerMemory() const
+{
+    return estimatorText(m_services->sampler.estimator().memory());
+}
+
+void LinuxPlatform::setPowerMemory(const QByteArray& memory)
+{
+    if (const auto remembered = estimatorMemoryFrom(memory))
+        m_services->sampler.estimator().setMemory(*remembered);
+}
+
+Bundle& LinuxPlatform::bundle() const
 {
     return m_services->bundle;
 }

@@ -18,7 +18,12 @@ public:
                            SettingsAccess settingsAccess = SettingsAccess::ReadAndWrite);
     ~LinuxPlatform();
 
-    Bundle& bundle();
+    /// What estimates of times are made from, for another process that shows the same batteries; empty before
+    /// there is anything. And going on from there.
+    QByteArray powerMemory() const;
+    void setPowerMemory(const QByteArray& memory);
+
+    Bundle& bundle() const;
     RunLoop& runLoop();
     UserDefaultsDatabases& userDefaults();
 

@@ -20,14 +20,13 @@ STATES = {"checked": Atspi.StateType.CHECKED, "enabled": Atspi.StateType.ENABLED
           "showing": Atspi.StateType.SHOWING, "active": Atspi.StateType.ACTIVE}
 
 
-def application(name, seconds=10.0):
+def applications(name, seconds=10.0):
+    """Several processes may have one name."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
-        desktop = Atspi.get_desktop(0)
-        for index in range(desktop.get_child_count()):
-            child = desktop.get_child_at_index(index)
-            if child and child.get_name() == name:
-                return child
+        found = [child for child in children(Atspi.get_desktop(0)) if child.get_name() == name]
+        if found:
+            return found
         time.sleep(0.1)
     raise SystemExit(f"no application {name!r} on the accessibility bus")
 
@@ -73,16 +72,17 @@ def found(node, role, name):
 
 
 def control(app, role, name):
-    node = found(application(app), role, name)
-    if not node:
-        raise SystemExit(f"{app} shows no {role} {name!r}")
-    return node
+    for one in applications(app):
+        node = found(one, role, name)
+        if node:
+            return node
+    raise SystemExit(f"{app} shows no {role} {name!r}")
 
 
 def main(verb, app, *arguments):
     Atspi.init()
     if verb == "tree":
-        print(json.dumps([described(window) for window in children(application(app))]))
+        print(json.dumps([described(window) for one in applications(app) for window in children(one)]))
     elif verb == "act":
         Atspi.Action.do_action(control(app, *arguments), 0)
     elif verb == "write":

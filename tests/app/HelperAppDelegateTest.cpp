@@ -1,5 +1,6 @@
 #include "app/HelperAppDelegate.h"
 
+#include <QIcon>
 #include <QJsonDocument>
 
 #include <gtest/gtest.h>

@@ -44,13 +44,15 @@ class Metadata(unittest.TestCase):
         return parser["Desktop Entry"]
 
     def test_layout(self):
-        for path in ("Info.plist", "Linux/quindle-helper", "Linux/quindle-inspect", "PlugIns/quindle-network.so",
+        for path in ("Info.plist", "Linux/quindle-helper", "Linux/quindle-inspect", "Linux/quindle-windows",
+                     "PlugIns/quindle-network.so",
                      "Resources/icons/AppIconBW-symbolic.svg", "Resources/machines/demo.plist"):
             self.assertTrue((self.root / BUNDLE / path).is_file(), path)
         for name in ("quindle-helper", "quindle-inspect"):
             link = self.root / "bin" / name
             self.assertFalse(os.path.isabs(os.readlink(link)))
             self.assertTrue(link.samefile(self.root / BUNDLE / "Linux" / name))
+        self.assertEqual(len(list((self.root / "bin").iterdir())), 2, "the program of the windows is no command")
 
     def test_installed_program_runs(self):
         result = run(str(self.root / "bin/quindle-inspect"), "--json", "--demo", HOME=self.folder.name,
@@ -67,7 +69,7 @@ class Metadata(unittest.TestCase):
         entry = self.entry()
         self.assertTrue((self.root / "bin" / entry["Exec"]).exists())
         self.assertNotIn("NoDisplay", entry)
-        main = Path(SOURCE, "app/main.cpp").read_text(encoding="utf-8")
+        main = Path(SOURCE, "windows/main.cpp").read_text(encoding="utf-8")
         name = re.search(r'setDesktopFileName\(QStringLiteral\("(.*?)"\)\)', main).group(1)
         self.assertEqual(self.desktop.name, name + ".desktop")
 

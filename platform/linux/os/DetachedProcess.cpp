@@ -5,26 +5,32 @@
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "platform/linux/os/CoreDumps.h"
-#include "platform/linux/os/FileDescriptor.h"
 
 namespace quindle {
 
 namespace {
 
-/// Between fork and exec only calls that are safe in a signal handler: other threads may hold any lock.
-[[noreturn]] void runAsGrandchild(char* const* arguments, int faults)
+constexpr int nothingInherited = -1;
+
+/// Between fork and exec only calls that are safe in a signal handler: other threads may hold any lock. The
+/// report is the number of the process that is to run the program, and another one if it does not.
+[[noreturn]] void runAsGrandchild(char* const* arguments, int inherited, int report)
 {
     ::setsid();
     if (const pid_t child = ::fork(); child != 0)
         ::_exit(child > 0 ? 0 : 1);
+    const pid_t own = ::getpid();
+    [[maybe_unused]] ssize_t written = ::write(report, &own, sizeof own);
     takeWholeCoreDumps();
+    if (inherited != nothingInherited)
+        ::fcntl(inherited, F_SETFD, 0);
     ::execv(arguments[0], arguments);
-    const char failed = 1;
-    [[maybe_unused]] const ssize_t written = ::write(faults, &failed, sizeof failed);
+    written = ::write(report, &own, sizeof own);
     ::_exit(1);
 }
 
@@ -37,20 +43,22 @@ bool endedWell(pid_t child)
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-/// Whether the pipe is closed, as exec does, without anything having been written into it.
-bool endsEmpty(int pipe)
+/// The numbers in the pipe until it is closed, as exec does.
+std::vector<pid_t> reportOf(int pipe)
 {
-    char fault = 0;
-    ssize_t count = 0;
-    do
-        count = ::read(pipe, &fault, sizeof fault);
-    while (count < 0 && errno == EINTR);
-    return count == 0;
+    std::vector<pid_t> numbers;
+    pid_t number = 0;
+    for (;;) {
+        const ssize_t count = ::read(pipe, &number, sizeof number);
+        if (count == sizeof number)
+            numbers.push_back(number);
+        else if (count >= 0 || errno != EINTR)
+            return numbers;
+    }
 }
 
-} // namespace
-
-bool startDetached(const QList<QByteArray>& command)
+/// The process that runs the program; nothing when none does.
+std::optional<pid_t> runDetached(const QList<QByteArray>& command, int inherited)
 {
     std::vector<QByteArray> words(command.cbegin(), command.cend());
     std::vector<char*> arguments;
@@ -59,14 +67,37 @@ bool startDetached(const QList<QByteArray>& command)
     arguments.push_back(nullptr);
     std::array<int, 2> ends{};
     if (words.empty() || ::pipe2(ends.data(), O_CLOEXEC) != 0)
-        return false;
-    const FileDescriptor faults(ends[0]);
+        return std::nullopt;
+    const FileDescriptor reports(ends[0]);
     FileDescriptor report(ends[1]);
     const pid_t child = ::fork();
     if (child == 0)
-        runAsGrandchild(arguments.data(), report.get());
+        runAsGrandchild(arguments.data(), inherited, report.get());
     report.close();
-    return child > 0 && endedWell(child) && endsEmpty(faults.get());
+    if (child < 0 || !endedWell(child))
+        return std::nullopt;
+    const std::vector<pid_t> numbers = reportOf(reports.get());
+    return numbers.size() == 1 ? std::optional(numbers.front()) : std::nullopt;
+}
+
+FileDescriptor handleOf(pid_t process)
+{
+    // Without its function: the C library has it only since 2.36.
+    return FileDescriptor(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
+}
+
+} // namespace
+
+bool startDetached(const QList<QByteArray>& command)
+{
+    return runDetached(command, nothingInherited).has_value();
+}
+
+std::optional<FileDescriptor> startDetachedWith(const FileDescriptor& inherited,
+                                                const QList<QByteArray>& command)
+{
+    const auto process = runDetached(command, inherited.get());
+    return process ? std::optional(handleOf(*process)) : std::nullopt;
 }
 
 } // namespace quindle

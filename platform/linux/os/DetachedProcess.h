@@ -1,12 +1,22 @@
 #pragma once
 
+#include <optional>
+
 #include <QByteArray>
 #include <QList>
+
+#include "platform/linux/os/FileDescriptor.h"
 
 namespace quindle {
 
 /// Starts a program (an absolute path and arguments, as the bytes they are) in a session of its own; it is
 /// nobody's child, so nobody has to wait for it. False when it cannot be run.
 bool startDetached(const QList<QByteArray>& command);
+
+/// The same for a program that gets one open file of this process, under the number that it has here. A
+/// handle of the process that runs it (a pidfd), which is not open where the kernel gives none; nothing when
+/// it cannot be run.
+std::optional<FileDescriptor> startDetachedWith(const FileDescriptor& inherited,
+                                                const QList<QByteArray>& command);
 
 } // namespace quindle

@@ -25,6 +25,8 @@ public:
     /// The times at that moment. To be called for every sample, so that no plug or unplug is missed.
     SystemTimes follow(const SystemPower& power, std::chrono::milliseconds now);
 
+    TimeEstimator& estimator() { return m_estimator; }
+
 private:
     TimeEstimator m_estimator;
 };

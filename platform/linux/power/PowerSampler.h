@@ -42,6 +42,9 @@ public:
     /// does so every half minute besides.
     void lookAgain();
 
+    /// What estimates the times; see EstimatorText.h.
+    TimeEstimator& estimator() { return m_times.estimator(); }
+
 private:
     void take(std::chrono::milliseconds now);
     bool looksAgain(std::chrono::milliseconds now);

@@ -34,37 +34,37 @@ std::optional<int> minutesFor(std::optional<double> charge, std::optional<double
 
 void TimeEstimator::setState(bool isPlugged, Direction direction)
 {
-    if (isPlugged == m_isPlugged && direction == m_direction)
+    if (isPlugged == m_memory.isPlugged && direction == m_memory.direction)
         return;
-    m_isPlugged = isPlugged;
-    m_direction = direction;
-    m_samples.clear();
+    m_memory.isPlugged = isPlugged;
+    m_memory.direction = direction;
+    m_memory.samples.clear();
 }
 
 bool TimeEstimator::wantsSample(milliseconds now) const
 {
-    return m_samples.empty() || now - m_samples.back().time >= sampleInterval;
+    return m_memory.samples.empty() || now - m_memory.samples.back().time >= sampleInterval;
 }
 
 void TimeEstimator::addSample(const Sample& sample)
 {
-    while (!m_samples.empty() && sample.time - m_samples.front().time > chargeWindow)
-        m_samples.pop_front();
-    m_samples.push_back(sample);
+    while (!m_memory.samples.empty() && sample.time - m_memory.samples.front().time > chargeWindow)
+        m_memory.samples.pop_front();
+    m_memory.samples.push_back(sample);
 }
 
 std::optional<int> TimeEstimator::minutesUntilEmpty() const
 {
-    if (m_direction != Direction::Discharging || m_samples.empty())
+    if (m_memory.direction != Direction::Discharging || m_memory.samples.empty())
         return std::nullopt;
-    return minutesFor(m_samples.back().charge, averageCurrent());
+    return minutesFor(m_memory.samples.back().charge, averageCurrent());
 }
 
 std::optional<int> TimeEstimator::minutesUntilFull() const
 {
-    if (m_direction != Direction::Charging || m_samples.empty())
+    if (m_memory.direction != Direction::Charging || m_memory.samples.empty())
         return std::nullopt;
-    const Sample& last = m_samples.back();
+    const Sample& last = m_memory.samples.back();
     if (!last.charge || !last.fullCharge)
         return std::nullopt;
     return minutesFor(*last.fullCharge - *last.charge, averageCurrent());
@@ -72,12 +72,12 @@ std::optional<int> TimeEstimator::minutesUntilFull() const
 
 std::optional<double> TimeEstimator::averageCurrent() const
 {
-    const milliseconds end = m_samples.back().time;
+    const milliseconds end = m_memory.samples.back().time;
     milliseconds watched{};
     double sum = 0;
     int count = 0;
-    for (auto sample = m_samples.rbegin(); sample != m_samples.rend() && end - sample->time <= currentWindow;
-         ++sample) {
+    for (auto sample = m_memory.samples.rbegin();
+         sample != m_memory.samples.rend() && end - sample->time <= currentWindow; ++sample) {
         if (!sample->current)
             continue;
         sum += std::abs(*sample->current);
@@ -91,14 +91,14 @@ std::optional<double> TimeEstimator::averageCurrent() const
 
 std::optional<double> TimeEstimator::currentFromCharges() const
 {
-    const Sample& first = m_samples.front();
-    const Sample& last = m_samples.back();
+    const Sample& first = m_memory.samples.front();
+    const Sample& last = m_memory.samples.back();
     const milliseconds watched = last.time - first.time;
     if (!first.charge || !last.charge || watched < shortestWatch)
         return std::nullopt;
     const double gained = *last.charge - *first.charge;
     const double hours = std::chrono::duration<double, std::ratio<3600>>(watched).count();
-    return (m_direction == Direction::Charging ? gained : -gained) / hours;
+    return (m_memory.direction == Direction::Charging ? gained : -gained) / hours;
 }
 
 } // namespace quindle

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <deque>
 #include <optional>
+#include <utility>
 
 namespace quindle {
 
@@ -27,6 +28,19 @@ public:
             current; ///< mAh an hour, of either sign; without it the charge's change stands in
     };
 
+    /// All that it remembers.
+    struct Memory
+    {
+        bool isPlugged = false;
+        Direction direction = Direction::Idle;
+        std::deque<Sample> samples; ///< in order of time
+    };
+
+    const Memory& memory() const { return m_memory; }
+
+    /// Goes on from there, as if it had watched itself.
+    void setMemory(Memory memory) { m_memory = std::move(memory); }
+
     /// Says how things stand now; a change forgets all samples.
     void setState(bool isPlugged, Direction direction);
 
@@ -44,9 +58,7 @@ private:
     std::optional<double> averageCurrent() const;
     std::optional<double> currentFromCharges() const;
 
-    bool m_isPlugged = false;
-    Direction m_direction = Direction::Idle;
-    std::deque<Sample> m_samples;
+    Memory m_memory;
 };
 
 } // namespace quindle

@@ -18,6 +18,13 @@ QByteArray activationTokenOfProcess()
     return qgetenv(variable);
 }
 
+QByteArray takeActivationToken()
+{
+    const QByteArray token = activationTokenOfProcess();
+    ::unsetenv(variable);
+    return token;
+}
+
 ActivationToken::ActivationToken(const QByteArray& token)
 {
     const QByteArray entry = QByteArray(variable) + '=' + token;

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <optional>
+
 #include "app/DelegateControllers.h"
 #include "preferences/panes/BoundSettings.h"
 #include "preferences/panes/UpdatePreferencesController.h"
+#include "windows/SharedServices.h"
 
 namespace quindle {
 
 class ApplicationPreferences;
+class HelperEnd;
 class MainInterface;
 struct Platform;
 
@@ -18,7 +22,7 @@ class HelperControllers
 public:
     /// All must outlive it. `installationSource` as for UpdatePreferencesController.
     HelperControllers(const Platform& platform, ApplicationPreferences& preferences, MainInterface& interface,
-                      std::function<InstallationSource()> installationSource);
+                      HelperEnd& helper, std::function<InstallationSource()> installationSource);
 
     /// A ControllerFactory.
     DelegateControllers make(HelperAppDelegate& delegate);
@@ -26,7 +30,9 @@ public:
 private:
     const Platform& m_platform;
     MainInterface& m_interface;
+    HelperEnd& m_helper;
     BoundSettings m_settings;
+    std::optional<SharedTitle> m_title;
     UpdatePreferencesController m_updateController;
 };
 

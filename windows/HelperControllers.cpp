@@ -1,4 +1,4 @@
-#include "app/HelperControllers.h"
+#include "windows/HelperControllers.h"
 
 #include "app/HelperAppDelegate.h"
 #include "menubar/MainInterface.h"
@@ -38,10 +38,11 @@ std::unique_ptr<QDPreferencesWindowController> preferencesController(const Platf
 } // namespace
 
 HelperControllers::HelperControllers(const Platform& platform, ApplicationPreferences& preferences,
-                                     MainInterface& interface,
+                                     MainInterface& interface, HelperEnd& helper,
                                      std::function<InstallationSource()> installationSource)
     : m_platform(platform)
     , m_interface(interface)
+    , m_helper(helper)
     , m_settings(preferences, platform.userDefaults.standard(), platform.loginItems, platform.bundle,
                  platform.distributedNotificationCenter)
     , m_updateController(platform.bundle, std::move(installationSource))
@@ -50,12 +51,13 @@ HelperControllers::HelperControllers(const Platform& platform, ApplicationPrefer
 
 DelegateControllers HelperControllers::make(HelperAppDelegate& delegate)
 {
-    auto menuBarText = HelperPreferences::initWithWindow(nullptr, m_settings, delegate);
+    SharedTitle& title = m_title.emplace(m_helper, delegate);
+    auto menuBarText = HelperPreferences::initWithWindow(nullptr, m_settings, title);
     auto general = std::make_unique<GeneralPreferencesController>(
-        m_settings, delegate, m_platform.distributedNotificationCenter, m_platform.bundle,
+        m_settings, title, m_platform.distributedNotificationCenter, m_platform.bundle,
         [&delegate] { return delegate.dailyUploadText(); });
     auto menuBar = std::make_unique<MenuBarPreferencesController>(
-        m_settings, delegate, [window = menuBarText.get()] { window->showWindow(); });
+        m_settings, title, [window = menuBarText.get()] { window->showWindow(); });
     refreshWith(delegate, *menuBarText);
     refreshWith(delegate, *general);
     refreshWith(delegate, *menuBar);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/linux/session/LinuxApplication.h"
+#include "platform/linux/session/X11Display.h"
+
+namespace quindle {
+
+/// The running QGuiApplication.
+class WindowedApplication : public LinuxApplication
+{
+public:
+    /// Raises the visible top-level windows and asks for the keyboard; a Wayland desktop may only mark them
+    /// as wanting attention.
+    void activateIgnoringOtherApplications() override;
+
+    bool showsTranslucentWindows() const override;
+
+private:
+    mutable X11Display m_display; ///< of its state only what it owes changes
+};
+
+} // namespace quindle

@@ -1,0 +1,248 @@
+#!/usr/bin/env python3
+"""The process that has the helper's windows: started by a click, gone when nothing is open, and whatever happens to it,
+the item lives and the next click works."""
+
+import json
+import os
+import shutil
+import signal
+import time
+import unittest
+from pathlib import Path
+
+from fault_case import anonymous_memory
+from helper_case import HELPER, HelperCase, charge_step, machine, wait_for
+from preferences_case import ACCESSIBILITY, PreferencesCase, nodes
+
+KEEPS_FREED_MEMORY = os.environ.get("QUINDLE_KEEPS_FREED_MEMORY") == "1"
+
+
+class WindowsCase(HelperCase):
+    """A helper in a bundle of its own, in which the program of the windows can be replaced."""
+
+    def setUp(self):
+        self.contents = Path(self.desktop.root) / "own.app" / "Contents"
+        shutil.copytree(Path(HELPER).parents[1], self.contents, symlinks=True)
+        self.addCleanup(shutil.rmtree, self.contents)
+        self.program = self.contents / "Linux/quindle-windows"
+        self.real = self.contents / "Linux/real-windows"
+        self.program.rename(self.real)
+        self.log_start = self.desktop.log_path.stat().st_size
+
+    def replace(self, script):
+        """The program of the windows is that script from now on; $real names the true one."""
+        new = self.program.with_suffix(".new")
+        new.write_text(f"#!/bin/bash\nreal='{self.real}'\n{script}\n")
+        new.chmod(0o755)
+        new.rename(self.program)
+
+    def start_own(self, computer=None):
+        process = self.start(computer or machine(66), program=self.contents / "Linux/quindle-helper")
+        self.assert_title("66.0%")
+        return process
+
+    def processes(self):
+        """The processes of the windows."""
+        found = []
+        for entry in Path("/proc").iterdir():
+            try:
+                if entry.name.isdigit() and (entry / "exe").readlink() == self.real:
+                    found.append(int(entry.name))
+            except OSError:
+                continue
+        return found
+
+    def logged(self, text):
+        with open(self.desktop.log_path, "rb") as log:
+            log.seek(self.log_start)
+            return log.read().decode(errors="replace").count(text)
+
+    def show(self):
+        self.desktop.choose("Show Battery...")
+
+    def assert_runs_on(self, process):
+        self.assertIsNone(process.poll())
+        self.assertEqual(self.desktop.item_title(), "66.0%")
+
+    def assert_next_click_works(self, process):
+        self.show()
+        self.assert_view_opens()
+        self.assert_runs_on(process)
+
+
+class Windows(WindowsCase):
+    def test_nothing_runs_before_the_first_click(self):
+        self.replace('exec "$real" "$@"')
+        process = self.start_own()
+        time.sleep(0.5)
+        self.assertEqual(self.processes(), [])
+        self.assert_next_click_works(process)
+        self.assertEqual(len(self.processes()), 1)
+
+    def test_it_ends_when_nothing_has_been_open_for_a_while(self):
+        self.replace('exec "$real" --patience=700 "$@"')
+        process = self.start_own()
+        for _ in range(2):
+            self.show()
+            self.assert_view_opens()
+            time.sleep(1.5)
+            self.assertEqual(len(self.processes()), 1, "it ended under an open window")
+            self.desktop.activate_item()
+            self.assert_view_closes()
+            time.sleep(0.2)
+            self.assertEqual(len(self.processes()), 1, "it ended at once")
+            self.assertTrue(wait_for(lambda: not self.processes(), 5), "it stays")
+        self.assert_runs_on(process)
+        self.assertEqual(self.logged("program of the windows"), 0)
+
+    def test_it_ends_with_the_helper(self):
+        self.replace('exec "$real" "$@"')
+        for number in (signal.SIGTERM, signal.SIGKILL):
+            process = self.start_own()
+            self.show()
+            self.assert_view_opens()
+            process.send_signal(number)
+            process.wait()
+            self.assertTrue(wait_for(lambda: not self.processes(), 5), number)
+            self.assertTrue(wait_for(lambda: not self.desktop.registered_items(), 5))
+
+    def test_quit_in_the_view_ends_both(self):
+        self.replace('exec "$real" "$@"')
+        process = self.start_own()
+        self.show()
+        self.assert_view_opens()
+        time.sleep(0.5)
+        for key in ("Up", "Return"):  # the last entry
+            self.desktop.key(key)
+        self.assertEqual(process.wait(5), 0)
+        self.assertTrue(wait_for(lambda: not self.processes(), 5))
+        self.assertEqual(self.logged("program of the windows"), 0)
+
+    def test_killed_in_the_middle(self):
+        self.replace('exec "$real" "$@"')
+        process = self.start_own()
+        for _ in range(3):
+            self.assert_next_click_works(process)
+            os.kill(self.processes()[0], signal.SIGKILL)
+            self.assert_view_closes()
+            self.assert_runs_on(process)
+        self.assertEqual(self.logged("program of the windows ended unexpectedly"), 3)  # each after it had answered
+
+    def test_asked_twice_while_it_starts(self):
+        self.replace('sleep 1; exec "$real" "$@"')
+        process = self.start_own()
+        for _ in range(2):
+            self.desktop.activate_item()
+        self.assertEqual(self.desktop.windows(), [])
+        self.assert_view_opens()
+        time.sleep(1)
+        self.assertEqual(len(self.desktop.windows()), 1, "the second click closed what nobody had seen")
+        self.assertEqual(len(self.processes()), 1)
+        self.assert_runs_on(process)
+
+    def test_missing_from_the_installation(self):
+        process = self.start_own()
+        for _ in range(3):
+            self.show()
+        self.assert_runs_on(process)
+        self.assertEqual(self.logged("the program of the windows cannot be started"), 1)
+        self.replace('exec "$real" "$@"')
+        self.assert_next_click_works(process)
+
+    def test_one_that_crashes_at_each_start(self):
+        self.replace("kill -SEGV $$")
+        process = self.start_own()
+        for _ in range(3):
+            self.show()
+            time.sleep(0.3)
+        self.assert_runs_on(process)
+        self.assertEqual(self.logged("the program of the windows ended unexpectedly"), 1)
+        self.replace('exec "$real" "$@"')
+        self.assert_next_click_works(process)
+
+    def test_one_that_hangs(self):
+        self.replace("exec sleep 100")
+        process = self.start_own()
+        files = len(os.listdir(f"/proc/{process.pid}/fd"))
+        for _ in range(200):  # more than its queues hold
+            self.desktop.activate_item()
+            if len(os.listdir(f"/proc/{process.pid}/fd")) > files + 20:
+                self.fail("it opens files without end")
+            if self.logged("does not answer"):
+                break
+        self.assert_runs_on(process)
+        self.replace('exec "$real" "$@"')
+        self.assertTrue(wait_for(lambda: self.show() or self.desktop.windows(), 15, 0.5), "no view after a while")
+        self.assertLessEqual(self.logged("program of the windows does not answer"), 2)
+        self.assert_runs_on(process)
+
+    def test_a_recorded_computer_is_where_the_helper_s_is(self):
+        self.replace('exec "$real" "$@"')
+        self.start(machine(66, steps=[charge_step(65, 1), charge_step(64, 4)]),
+                   program=self.contents / "Linux/quindle-helper",
+                   env={"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
+        self.assert_title("65.0%")
+        self.show()
+        self.assert_view_opens()
+        self.assertTrue(wait_for(lambda: "65.0" in self.view_texts(), 3), self.view_texts())
+        self.assert_title("64.0%")
+        self.assertTrue(wait_for(lambda: "64.0" in self.view_texts(), 3), self.view_texts())
+
+    def view_texts(self):
+        tree = self.desktop.call("/usr/bin/python3", "-W", "ignore", ACCESSIBILITY, "tree", "quindle-helper")
+        return [node["name"] for node in nodes(json.loads(tree or "[]"))]
+
+    @unittest.skipIf(KEEPS_FREED_MEMORY, "the sanitizers' allocator keeps what is freed")
+    def test_many_openings_leave_the_helper_s_memory_flat(self):
+        self.replace('exec "$real" "$@"')
+        process = self.start_own()
+
+        def open_and_close(times):
+            for _ in range(times):
+                self.desktop.activate_item()
+                self.assert_view_opens()
+                self.desktop.activate_item()
+                self.assert_view_closes()
+            return anonymous_memory(process), len(os.listdir(f"/proc/{process.pid}/fd"))
+
+        memory, files = open_and_close(5)
+        memory_after, files_after = open_and_close(40)
+        self.assertEqual(files_after, files)
+        self.assertLess(memory_after - memory, 60, "kB")
+
+
+class ReadAloud(PreferencesCase):
+    """What an assistive technology finds of the two windows that the toolkit would hide from it."""
+
+    def view(self):
+        return next((window for window in self.tree() if window["name"] == "Battery" and "showing" in window["states"]),
+                    None)
+
+    def test_the_battery_view(self):
+        self.start_helper()
+        self.desktop.activate_item()
+        self.assertTrue(wait_for(self.view, 5), "no battery view in the tree")
+        names = [node["name"] for node in nodes([self.view()])]
+        self.assertIn("66.0", names)
+        self.assertIn("Discharging...", names)
+        self.assertTrue([name for name in names if name.startswith("Temperature 30.0")], names)
+        buttons = [node["name"] for node in nodes([self.view()]) if node["role"] == "push button"]
+        self.assertIn("Preferences...", buttons)
+        self.act("push button", next(name for name in buttons if name.startswith("Temperature")))
+        self.assertTrue(wait_for(lambda: any("86.0" in node["name"] for node in nodes([self.view()])), 5))
+        self.desktop.key("Escape")
+        self.assertTrue(wait_for(lambda: not self.view(), 5), "a closed view is still shown")
+
+    def test_the_parameters(self):
+        self.start_helper()
+        self.open("Preferences...", "General")
+        self.act("push button", "Parameters")
+        popover = wait_for(lambda: next((window for window in self.tree() if window["name"] == "Parameters"
+                                         and "showing" in window["states"]), None), 5)
+        self.assertTrue(popover, "no popover in the tree")
+        names = [node["name"] for node in nodes([popover])]
+        self.assertTrue([name for name in names if name.startswith("%p, ") and "66.0" in name], names)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,69 @@
+#include "windows/WindowWatch.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QWidget>
+
+#include "tests/support/MessageBus.h"
+
+using namespace quindle;
+using namespace std::chrono_literals;
+
+namespace {
+
+struct WindowWatchTest : testing::Test
+{
+    /// Lets several times the patience pass.
+    static void wait()
+    {
+        QElapsedTimer clock;
+        clock.start();
+        comesTrue([&clock] { return clock.hasExpired(300); });
+    }
+
+    int idle = 0;
+    WindowWatch watch{50ms, [this] { ++idle; }};
+};
+
+TEST_F(WindowWatchTest, NothingOpenIsIdleAgainAndAgain)
+{
+    EXPECT_TRUE(comesTrue([this] { return idle >= 2; }));
+}
+
+TEST_F(WindowWatchTest, IsNotIdleWhileAWindowIsOpen)
+{
+    QWidget first;
+    QWidget second;
+    first.show();
+    second.show();
+    wait();
+    EXPECT_EQ(idle, 0);
+    first.hide();
+    wait();
+    EXPECT_EQ(idle, 0) << "another one is open";
+    second.close();
+    EXPECT_TRUE(comesTrue([this] { return idle > 0; }));
+}
+
+TEST_F(WindowWatchTest, AWindowThatIsDestroyedIsNoLongerOpen)
+{
+    auto window = std::make_unique<QWidget>();
+    window->show();
+    wait();
+    EXPECT_EQ(idle, 0);
+    window.reset();
+    EXPECT_TRUE(comesTrue([this] { return idle > 0; }));
+}
+
+TEST_F(WindowWatchTest, WhatIsInAWindowDoesNotMatter)
+{
+    QWidget window;
+    QWidget child(&window);
+    window.show();
+    child.hide();
+    wait();
+    EXPECT_EQ(idle, 0);
+}
+
+} // namespace

@@ -1,0 +1,51 @@
+#include "windows/WindowWatch.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QApplication>
+#include <QEvent>
+#include <QWidget>
+
+namespace quindle {
+
+namespace {
+
+bool isWindowOpen()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(),
+                       [](const QWidget* window) { return window->isVisible(); });
+}
+
+} // namespace
+
+WindowWatch::WindowWatch(std::chrono::milliseconds patience, std::function<void()> idle)
+    : m_idle(std::move(idle))
+{
+    m_timer.setInterval(patience);
+    m_timer.setTimerType(Qt::VeryCoarseTimer);
+    m_timer.callOnTimeout(this, [this] { m_idle(); });
+    m_timer.start();
+    qApp->installEventFilter(this);
+}
+
+bool WindowWatch::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool shows = event->type() == QEvent::Show || event->type() == QEvent::Hide;
+    if (shows && watched->isWidgetType() && static_cast<QWidget*>(watched)->isWindow())
+        // Afterwards: during the event the window is still, or not yet, as it was.
+        QMetaObject::invokeMethod(
+            this, [this] { look(); }, Qt::QueuedConnection);
+    return false;
+}
+
+void WindowWatch::look()
+{
+    if (isWindowOpen())
+        m_timer.stop();
+    else if (!m_timer.isActive())
+        m_timer.start();
+}
+
+} // namespace quindle

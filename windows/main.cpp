@@ -1,0 +1,112 @@
+// The entry point and composition root of the program that has the helper's windows.
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <variant>
+
+#include <QApplication>
+#include <QSessionManager>
+
+#include "common/Paths.h"
+#include "platform/linux/link/SocketLink.h"
+#include "platform/linux/os/CoreDumps.h"
+#include "platform/linux/os/StandardError.h"
+#include "platform/recorded/MachineFile.h"
+#include "remote/WindowMessage.h"
+#include "widgets/AccessiblePopups.h"
+#include "windows/HelperEnd.h"
+#include "windows/WindowWatch.h"
+#include "windows/WindowsCommandLine.h"
+#include "windows/WindowsProgram.h"
+#include "windows/WindowsServices.h"
+
+using namespace quindle;
+
+namespace {
+
+constexpr int wrongUsage = 2;
+
+int fail(const QString& line)
+{
+    printToStandardError("quindle-windows: " + pathBytes(line));
+    return wrongUsage;
+}
+
+/// The windows come with the helper. A session manager that restarts what ran when the session ended would
+/// start them without one.
+void leaveStartToHelper(const QApplication& application)
+{
+    QObject::connect(&application, &QGuiApplication::saveStateRequest, &application,
+                     [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); });
+}
+
+std::unique_ptr<WindowsServices> servicesOf(const std::optional<Machine>& machine, HelperEnd& helper)
+{
+    return machine ? WindowsServices::ofMachine(*machine, helper)
+                   : WindowsServices::ofThisComputer(pathText(qgetenv("QUINDLE_SYSFS")), helper);
+}
+
+int run(SocketLink& link, const std::optional<Machine>& machine, std::chrono::milliseconds patience)
+{
+    HelperEnd helper(link);
+    const auto services = servicesOf(machine, helper);
+    std::optional<WindowsProgram> program;
+    const auto receive = [&](const WindowMessage& message) {
+        // The models are made with the first request, which says what they begin with.
+        if (!program && isRequest(message.kind)) {
+            services->begin(message);
+            program.emplace(*services, helper);
+        }
+        if (program)
+            program->handle(message);
+    };
+    link.setReceiver([&receive](const QByteArray& bytes) {
+        if (const auto message = decoded(bytes))
+            receive(*message);
+    });
+    link.setClosed(&QCoreApplication::quit);
+    const WindowWatch watch(patience, [&program] {
+        if (program)
+            program->tellIdle();
+    });
+    return QApplication::exec();
+}
+
+int start(const WindowsCommandLine& commandLine)
+{
+    keepMemoryOutOfCoreDumps();
+    FileDescriptor end(commandLine.link);
+    if (!SocketLink::isEndOfPair(end))
+        return fail(QStringLiteral("is started by quindle-helper"));
+    std::optional<Machine> machine;
+    if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
+        MachineResult result = readMachineFile(path);
+        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
+            return fail(refusal->line);
+        machine = std::get<Machine>(std::move(result));
+    }
+    exposePopups();
+    // The name by which desktops find the entry of the helper, whose windows these are.
+    char name[] = "quindle-helper";
+    char* arguments[] = {name, nullptr};
+    int count = 1;
+    const QApplication application(count, arguments);
+    QApplication::setApplicationName(QStringLiteral("quindle-helper"));
+    QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
+    // The helper says when to end.
+    QApplication::setQuitOnLastWindowClosed(false);
+    leaveStartToHelper(application);
+    SocketLink link(std::move(end));
+    return run(link, machine, commandLine.patience);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Before the first line is printed.
+    neverWaitForStandardError();
+    const auto commandLine = parseWindowsCommandLine(argumentTexts(argc, argv));
+    return commandLine ? start(*commandLine) : fail(QStringLiteral("is started by quindle-helper"));
+}
