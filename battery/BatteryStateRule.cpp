@@ -4,6 +4,7 @@ namespace quindle {
 
 namespace {
 
+/// An unknown time would be shown like any other, as "1092:15".
 void hideUnknownTime(BatteryStateTexts& texts, bool isUnknown)
 {
     if (!isUnknown)

@@ -16,7 +16,7 @@ std::vector<QVariantMap> describePowerSources(PowerSources& powerSources)
     descriptions.reserve(static_cast<std::size_t>(*count));
     for (int source = 0; source < *count; ++source) {
         auto description = powerSources.description(source);
-        if (!description)
+        if (!description) // inherited: fatal for the same reason
             fatalError(u"a power source cannot be described");
         descriptions.push_back(std::move(*description));
     }
@@ -27,6 +27,7 @@ QString detailText(const QVariant& value)
 {
     if (const auto boolean = convertToBoolean(value)) // inherited: numbers 0 and 1 too
         return *boolean ? QStringLiteral("YES") : QStringLiteral("NO");
+    // Any type: which keys there are is not known in advance.
     return valueDescription(value);
 }
 
@@ -34,6 +35,7 @@ QVariantMap detailRow(const QVariantMap& description)
 {
     QVariantMap row;
     for (auto entry = description.cbegin(); entry != description.cend(); ++entry)
+        // At the end, where it belongs: keys come in order and stay as they are.
         row.insert(row.cend(), entry.key(), detailText(entry.value()));
     return row;
 }

@@ -8,7 +8,7 @@ namespace quindle {
 
 class PowerSources;
 
-/// What the power-source service says about each source, in its order. A service, or a source, that cannot be
+/// What the power-source service says about each source, in its order. A service or a source that cannot be
 /// asked is fatal: the program runs only where there are power sources.
 std::vector<QVariantMap> describePowerSources(PowerSources& powerSources);
 

@@ -13,6 +13,7 @@ constexpr int yearBits = 64 - dayBits - monthBits;
 
 QDate lenientDay(qint64 year, qint64 month, qint64 day)
 {
+    // Counted on from the first of the month, because QDate takes no 31 June and no day 0.
     return firstOfMonth(monthNumber(year, month)).addDays(day - 1);
 }
 
@@ -26,6 +27,7 @@ qint64 fromBinary(const QString& digits)
 // inherited: fields out of range run over into the next, and 0 is 30 November 1979.
 QDateTime decodeManufactureDate(qint64 packed)
 {
+    // Shifted with its sign and without a mask: a negative number is a year before 1980.
     const qint64 year = (packed >> (dayBits + monthBits)) + firstYear;
     const qint64 month = (packed >> dayBits) & 15;
     const qint64 day = packed & 31;
@@ -34,10 +36,12 @@ QDateTime decodeManufactureDate(qint64 packed)
 
 QDateTime decodeManufactureDateByDigits(qint64 packed)
 {
+    // All 64 digits, so that the fields stand at the same places for every number.
     const QString digits = QString::number(static_cast<quint64>(packed), 2).rightJustified(64, u'0');
     const qint64 day = fromBinary(digits.right(dayBits));
     const qint64 month = fromBinary(digits.mid(yearBits, monthBits));
     const qint64 unsignedYear = fromBinary(digits.left(yearBits));
+    // The digits carry no sign: a number below 0 has its year counted from the top.
     const qint64 year = packed < 0 ? unsignedYear - (qint64{1} << yearBits) : unsignedYear;
     return {lenientDay(year + firstYear, month, day), QTime(12, 0)};
 }

@@ -28,12 +28,16 @@ namespace quindle {
 
 namespace {
 
-constexpr double refreshInterval = 5.0;  // seconds
-constexpr double refreshTolerance = 5.0; // lets its ticks fall together with those of slower timers
+constexpr double refreshInterval = 5.0; // seconds
+
+// The whole interval, so that its ticks fall together with those of the item's timer: the processor wakes
+// once for both.
+constexpr double refreshTolerance = 5.0;
 
 [[noreturn]] void endForStoredMode(const UserDefaults& defaults, const Setting<qint64>& setting,
                                    qint64 number)
 {
+    // The file is named because only editing it helps: the program ends at every start until then.
     const QString file = defaults.file();
     const QString key = setting.name();
     const QString place = file.isEmpty() ? key : file + QStringLiteral(": ") + key;
@@ -88,6 +92,7 @@ IOStatus QDBattery::open()
 
 IOStatus QDBattery::close()
 {
+    // The handle is let go of whatever the registry answers, so that the entry can be opened again.
     const IOStatus status = m_platform.registry.release(m_service);
     m_service = 0;
     return status;
@@ -106,13 +111,15 @@ void QDBattery::invokeTimer()
 
 void QDBattery::updateData()
 {
-    // The order is fixed: later figures are made from earlier ones, and every read asks the computer.
+    // The order is fixed: later figures are made from earlier ones. Every read asks the computer, and nothing
+    // is kept in between.
     updateIdentity();
     m_cycleCount = cycleCount();
     updateCapacities();
     m_temperature = getCustomTemperature();
     m_knowsTemperature = registryDouble(BatteryRegistryKey::Temperature).has_value();
     updatePercentages();
+    // With each refresh: packs are swapped while the program runs.
     m_batteryID = generateBatteryID();
     m_adapterWatt = variantFromOptional(adapterWatt());
     updateWattThroughput();
@@ -137,6 +144,7 @@ void QDBattery::updateCapacities()
 {
     m_reportedDesignCapacity = designCapacity();
     m_actualDesignCapacity = listActualDesignCapacity(m_macModel);
+    // Health is measured against the capacity that the manufacturer states, where one is known.
     m_designCapacity = m_actualDesignCapacity != 0 ? m_actualDesignCapacity : designCapacity();
     m_currentCapacity = currentCapacity();
     m_fullChargeCapacity = maxCapactiy();
@@ -155,6 +163,7 @@ void QDBattery::updateWattThroughput()
     const auto milliamperes = knownInteger(BatteryRegistryKey::Amperage);
     m_knowsCurrent = milliamperes.has_value();
     m_knowsPower = millivolts && milliamperes;
+    // A missing factor counts as 0, which is stored so; facts ask m_knowsPower before they show it.
     m_wattThroughput = wattThroughput(millivolts.value_or(0), milliamperes.value_or(0));
 }
 
@@ -173,6 +182,7 @@ void QDBattery::updateState()
     // stay as they were.
     if (isCharged() && isACPowered())
         setStateTexts(chargedTexts());
+    // Later tests overwrite: a battery that is full and charges is charging.
     if (isCharging()) {
         const QString timeToFull = avgTimeToFullFormatted();
         setStateTexts(chargingTexts(timeToFull, isUnknownTime(BatteryRegistryKey::AvgTimeToFull)));
@@ -193,6 +203,7 @@ void QDBattery::setStateTexts(const BatteryStateTexts& texts)
 
 bool QDBattery::isUnknownTime(BatteryRegistryKey key) const
 {
+    // A missing time reads as 0 and is shown as "0:00", not as "Calculating...".
     return registryInteger(key) == unknownMinutes;
 }
 
@@ -204,8 +215,10 @@ void QDBattery::updateAdapterConnected()
 void QDBattery::updateDetailRows()
 {
     m_raw = collectAllAvailableDataForBattery();
+    // Without a source, or a first one with the word, the last word stays.
     if (m_raw.isEmpty())
         return;
+    // The service lists the computer's own battery first.
     const QVariant health = m_raw.constFirst().toMap().value(QStringLiteral("BatteryHealth"));
     if (health.isValid())
         m_batteryHealth = health.toString();
@@ -248,6 +261,7 @@ std::optional<QString> QDBattery::manufacturer(bool raw) const
 QString QDBattery::generateBatteryID() const
 {
     const QString serial = serialNumber();
+    // No separator: identifiers of stored snapshots were made so.
     return md5Hex(serial + integerText(manufactureDate()));
 }
 
@@ -289,6 +303,7 @@ void QDBattery::toggleTemperatureMode()
 void QDBattery::toggleAge()
 {
     m_ageMode = static_cast<AgeFieldMode>((static_cast<int>(m_ageMode) + 1) % 3);
+    // Before the first refresh there is no date, and the text stays empty.
     if (const auto made = ManufactureDate())
         m_customAge = ageText(static_cast<int>(m_ageMode), *made, m_platform.clock.now());
     storeMode(m_platform.userDefaults.standard(), Keys::batteryAgeMode, m_ageMode);

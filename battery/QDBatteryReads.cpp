@@ -19,11 +19,13 @@ namespace {
 
 QVariantMap QDBattery::getRawData() const
 {
+    // One question for all: a record must not mix properties of two moments.
     return m_platform.registry.properties(m_service);
 }
 
 QString QDBattery::serialNumber() const
 {
+    // Empty and not missing: the identifier of the battery is made of it in any case.
     return registryText(BatteryRegistryKey::BatterySerialNumber).value_or(QStringLiteral(""));
 }
 
@@ -129,6 +131,7 @@ QVariant QDBattery::registryValue(BatteryRegistryKey key) const
 
 std::optional<qint64> QDBattery::knownInteger(BatteryRegistryKey key) const
 {
+    // Missing and of another type are different answers: the one is a driver that has no such figure.
     const QVariant value = registryValue(key);
     if (!value.isValid())
         return std::nullopt;
@@ -148,6 +151,8 @@ std::optional<double> QDBattery::registryDouble(BatteryRegistryKey key) const
     const QVariant value = registryValue(key);
     if (!value.isValid())
         return std::nullopt;
+    // A double, because drivers on Linux give tenths of a degree Celsius, which are no whole tenths of a
+    // kelvin.
     const auto number = convertToDouble(value);
     if (!number)
         failConversion(key);
@@ -160,6 +165,7 @@ bool QDBattery::registryBoolean(BatteryRegistryKey key) const
     if (!value.isValid())
         return false;
     const auto boolean = convertToBoolean(value);
+    // 0 and 1 count as booleans, because drivers write either; any other number is fatal.
     if (!boolean)
         failConversion(key);
     return *boolean;

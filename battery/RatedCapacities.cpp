@@ -35,6 +35,7 @@ constexpr std::array ratedCapacities{
 
 qint64 ratedCapacity(QStringView macModel)
 {
+    // Whole identifiers only: "MacBookAir6,22" would be another model than "MacBookAir6,2".
     const auto isModel = [macModel](const RatedCapacity& row) { return row.macModel == macModel; };
     const auto* const found = std::find_if(ratedCapacities.begin(), ratedCapacities.end(), isModel);
     return found == ratedCapacities.end() ? 0 : found->capacity;

@@ -10,6 +10,7 @@ namespace {
 
 QDateTime day(const QString& text)
 {
+    // The texts are written out below, and all are days.
     return dateFromText(text).value();
 }
 
@@ -27,6 +28,7 @@ void setDemoValues(QDMac& mac)
     mac.setProperty("Type", QStringLiteral("MacBook Air"));
     mac.setProperty("Name", QStringLiteral("Demo Computer"));
     mac.setProperty("LongModel", QStringLiteral("(13-inch, Late 2013)"));
+    // Its date characters M and N are the manufacture date below, week 19 of 2014.
     mac.setProperty("Serial", QStringLiteral("C02MN1TXF5YW"));
     mac.setProperty("ManufactureDate", day(QStringLiteral("2014-05-12")));
 }

@@ -7,8 +7,8 @@ namespace quindle {
 
 namespace {
 
-// The first fragment found anywhere in the identifier decides; "MacBook" is last because it is part of
-// others.
+// The first fragment found anywhere in the identifier decides, so "iMacPro1,1" is an iMac; "MacBook" is last
+// because it is part of others.
 constexpr std::array machineTypes{
     // clang-format off
     FragmentName{u"MacBookPro", u"MacBook Pro"},

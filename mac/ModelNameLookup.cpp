@@ -22,7 +22,9 @@ bool isLineEnd(QChar character)
 std::optional<QString> parenthesisedTextOfLine(QStringView line)
 {
     const qsizetype first = line.indexOf(u'(');
+    // From the first parenthesis to the last: of "A (x) B (y)" that is "(x) B (y)".
     const qsizetype last = line.lastIndexOf(u')');
+    // "()" holds no text.
     if (first < 0 || last - first < 2)
         return std::nullopt;
     return line.mid(first, last - first + 1).toString();
@@ -34,11 +36,13 @@ QString productInformationHost(const Bundle& bundle)
 {
     const QVariant host =
         bundle.infoDictionary().value_or(QVariantMap()).value(QStringLiteral("QDProductInformationHost"));
+    // Empty in the program as built: the address then has no host, and nothing is asked.
     return host.typeId() == QMetaType::QString ? host.toString() : QString();
 }
 
 QString productInformationAddress(const QString& host, const QString& code)
 {
+    // The service's protocol: plain HTTP, always in English.
     return QStringLiteral("http://") + host + QStringLiteral("/sp/product?cc=") + code +
            QStringLiteral("&lang=en_US");
 }
@@ -58,8 +62,10 @@ std::optional<QString> parenthesisedText(const QString& name)
 std::optional<QString> modelTextFromReply(const QString& code, const QByteArray& reply)
 {
     XMLData data(code);
+    // What came before a fault is not used: half a name would stay in the cache for good.
     if (!parseXml(reply, data))
         return std::nullopt;
+    // In spite of its name the element holds the marketing name.
     return parenthesisedText(data.configCode().value_or(QString()));
 }
 

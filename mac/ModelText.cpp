@@ -12,8 +12,10 @@ std::optional<QString> fullModelText(const QString& code, UserDefaults& defaults
                                      const OnlineModelText& online)
 {
     QVariantMap cache = defaults.dictionary(Keys::modelStringCache.name());
+    // An entry of another type is none: anybody may edit the file.
     if (auto cached = convertToText(cache.value(code)))
         return cached;
+    // May take seconds, at the start: therefore the cache, which is never emptied.
     auto text = online(code);
     if (text) { // without an answer the next start asks again
         cache.insert(code, *text);
@@ -34,6 +36,7 @@ std::optional<QString> modelText(const QString& code, UserDefaults& defaults, co
     auto text = fullModelText(code, defaults, online);
     if (!text)
         return std::nullopt;
+    // Only what is shown is shortened; the cache keeps the service's text.
     return shortenedModelText(std::move(*text));
 }
 

@@ -41,6 +41,7 @@ std::optional<QString> shortVersion(const Bundle& bundle)
     const QVariant version = info->value(QStringLiteral("CFBundleShortVersionString"));
     if (!version.isValid())
         return std::nullopt;
+    // Whatever its type: records hold its textual form.
     return valueDescription(version);
 }
 

@@ -28,6 +28,7 @@ std::optional<QString> strictUtf8(const QByteArray& bytes)
     QString text = decode(bytes);
     if (decode.hasError())
         return std::nullopt;
+    // An empty identifier is one that was read; the computer's identifier is made differently without one.
     return text.isNull() ? QStringLiteral("") : text;
 }
 
@@ -38,9 +39,11 @@ std::optional<QString> readModelIdentifier(IORegistry& registry)
     const QVariant value = expertProperty(registry, QStringLiteral("model"));
     if (!value.isValid())
         return std::nullopt;
+    // inherited: fatal; a registry holds the model as data, never as text.
     if (value.typeId() != QMetaType::QByteArray)
         fatalError(u"model has an unexpected type in the registry");
     QByteArray bytes = value.toByteArray();
+    // The data is a C string with its NUL, which would spoil every comparison.
     const qsizetype end = bytes.indexOf('\0');
     if (end >= 0)
         bytes.truncate(end);

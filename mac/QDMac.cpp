@@ -24,6 +24,7 @@ namespace quindle {
 
 namespace {
 
+/// A stored mode of any other number shows days, so months come next.
 qint64 nextAgeMode(qint64 mode)
 {
     if (mode == 1)
@@ -94,6 +95,7 @@ void QDMac::loadSettings()
         getModelStringFromSerial(), m_platform.userDefaults.standard(), [this](const QString& code) {
             return onlineModelText(code, m_platform.bundle, m_platform.urlSession);
         }));
+    // Without a date the moment of the start stays, and m_knowsManufactureDate keeps facts from showing it.
     const auto built = buildDate(serial.value_or(QString()));
     m_knowsManufactureDate = built.has_value();
     if (built)
@@ -114,6 +116,7 @@ void QDMac::createBattery()
         return;
     }
     m_battery->invokeTimer();
+    // At once: the first values are shown before the timer's first tick.
     m_battery->updateData();
 }
 
@@ -149,6 +152,7 @@ void QDMac::toggleAge()
 
 QString QDMac::generateMacID() const
 {
+    // Read anew and not from the properties: those may have been set by key.
     const auto model = readModelIdentifier(m_platform.registry);
     const auto serial = readSerialNumber(m_platform.registry);
     return md5Hex(serial.value_or(QString()) + wrappedOptional(model));
@@ -187,6 +191,7 @@ std::optional<QString> QDMac::hardwareImageName() const
     const auto file = m_platform.systemFiles.propertyList(privateFrameworksURL());
     if (!model || !file)
         return std::nullopt;
+    // A table of the system's own; any part of it may be missing.
     const QVariant attributes = file->value(*model);
     if (attributes.typeId() != QMetaType::QVariantMap)
         return std::nullopt;

@@ -14,7 +14,7 @@ namespace {
 
 constexpr qsizetype shortLength = 11;
 constexpr qsizetype longLength = 12;
-constexpr int unknownYear = 2000;
+constexpr int unknownYear = 2000; // an unknown letter is no error, but gives a date in that year
 
 struct YearCode
 {
@@ -77,6 +77,7 @@ YearCode yearOfLetter(QStringView letter)
 int weekOfCode(const QString& code)
 {
     const qsizetype index = code.size() == 1 ? weekCodes.indexOf(code.front()) : -1;
+    // An unknown code counts as the first week.
     return index < 0 ? 1 : static_cast<int>(index) + 1;
 }
 
@@ -100,6 +101,7 @@ std::optional<int> strictInteger(const QString& text)
 
 std::optional<QDateTime> shortLayoutDate(const QStringList& characters)
 {
+    // Week 0 is allowed, and is the Monday on or before 1 January.
     const auto week = strictInteger(characters[3] + characters[4]);
     if (!week)
         return std::nullopt;
@@ -158,6 +160,8 @@ std::optional<QDateTime> weekDate(int year, int week)
     if (!newYear)
         return std::nullopt;
     const int daysSinceMonday = newYear->date().dayOfWeek() - Qt::Monday;
+    // Seconds and not days: across a change of the clock the time of day moves by an hour, which is never
+    // shown.
     return newYear->addSecs(week * secondsPerWeek - daysSinceMonday * secondsPerDay);
 }
 

@@ -38,14 +38,17 @@ QVariantMap snapshotRecord(const SnapshotValues& values)
         {QStringLiteral("Data.SnapshotDate"), values.snapshotDate},
         {QStringLiteral("Data.ApplicationVersion"), variantFromOptional(values.applicationVersion)},
         {QStringLiteral("Data.Raw"), unlessEmpty(values.raw)},
+        // The version of this form of record, not of the program.
         {QStringLiteral("Data.Version"), QStringLiteral("3.4")},
     };
+    // Property lists, in which records are kept, have no null.
     record.removeIf([](const auto& entry) { return !entry.value().isValid(); });
     return record;
 }
 
 QString snapshotSummary(double stateOfHealth, qint64 fullChargeCapacity)
 {
+    // Rounded, unlike the figure itself: this is a line for people.
     return fixedText(stateOfHealth, 0) + QStringLiteral("% (") + integerText(fullChargeCapacity) +
            QStringLiteral(" mAh)");
 }

@@ -17,6 +17,7 @@ struct ContextFree
 {
     void operator()(xmlParserCtxtPtr context) const
     {
+        // Not freed with the context.
         if (context->myDoc)
             xmlFreeDoc(context->myDoc);
         xmlFreeParserCtxt(context);
@@ -56,6 +57,7 @@ xmlSAXHandler handlers()
     sax.initialized = XML_SAX2_MAGIC;
     sax.startElementNs = startElement;
     sax.characters = characters;
+    // Blanks between elements replace a name that came before them, as any piece of text does.
     sax.ignorableWhitespace = characters;
     sax.cdataBlock = ignoreLiteralSection;
     sax.serror = ignoreFault;
@@ -66,12 +68,14 @@ xmlSAXHandler handlers()
 
 bool parseXml(const QByteArray& document, XMLData& delegate)
 {
+    // The library counts in int.
     if (document.isEmpty() || document.size() > std::numeric_limits<int>::max())
         return false;
     const ContextPointer context(
         xmlCreateMemoryParserCtxt(document.constData(), static_cast<int>(document.size())));
     if (!context)
         return false;
+    // A document type may name an address; parsing must not ask there.
     xmlCtxtUseOptions(context.get(), XML_PARSE_NONET);
     *context->sax = handlers();
     context->userData = &delegate;
