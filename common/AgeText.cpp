@@ -22,12 +22,11 @@ QDateTime movedTo(QDate day, const QDateTime& moment)
     return moment.addDays(moment.date().daysTo(day));
 }
 
-/// Whether `start`, moved to that day, is after `end`, both in local time. Date and time of day alone decide
-/// where no change of the zone can matter, since each look at the system's zone costs more than everything
-/// else.
+/// Whether `start`, moved to that day, is after `end`, both in local time. Where no change of the zone can
+/// matter, date and time of day alone decide: each look at the system's zone costs more than everything else.
 bool isAfter(QDate day, const QDateTime& start, const QDateTime& end)
 {
-    constexpr qint64 longestChange = 2;                  // days: places have left one out
+    constexpr qint64 longestChange = 2;                  // days: Apia left one out in 2011
     constexpr int longestWithinDay = 3 * 60 * 60 * 1000; // milliseconds
     const qint64 days = end.date().daysTo(day);
     if (std::abs(days) > longestChange)
@@ -45,6 +44,7 @@ qint64 wholeDays(const QDateTime& from, const QDateTime& to)
     const QDateTime start = from.toLocalTime();
     const QDateTime end = to.toLocalTime();
     const qint64 days = start.date().daysTo(end.date());
+    // By the calendar: a day of 23 hours is a day.
     if (days > 0 && isAfter(end.date(), start, end))
         return days - 1;
     if (days < 0 && movedTo(end.date(), start) < end)
@@ -56,6 +56,7 @@ qint64 wholeMonths(const QDateTime& from, const QDateTime& to)
 {
     const QDateTime start = from.toLocalTime();
     const QDateTime end = to.toLocalTime();
+    // In 64 bits: packed dates reach years whose months an int could not count.
     const qint64 months = monthNumber(end.date()) - monthNumber(start.date());
     const QDate day = monthsAfter(start.date(), months);
     if (months > 0 && isAfter(day, start, end))
@@ -67,6 +68,7 @@ qint64 wholeMonths(const QDateTime& from, const QDateTime& to)
 
 QString yearsText(qint64 months)
 {
+    // Halves away from zero, so 15 months are 1.3 years.
     const double years = std::round(static_cast<double>(months) / 12.0 * 10.0) / 10.0;
     return shortestText(years) + QStringLiteral(" years");
 }

@@ -16,6 +16,7 @@ const QString& dayFormat()
 
 std::optional<QDateTime> dateFromText(const QString& text)
 {
+    // A format and no locale, so digits are ASCII and years Gregorian for every user.
     const QDate day = QDate::fromString(text, dayFormat());
     if (!day.isValid())
         return std::nullopt;
@@ -24,6 +25,7 @@ std::optional<QDateTime> dateFromText(const QString& text)
 
 QString dayText(const QDateTime& date)
 {
+    // In the zone of the process: the day that the user's calendar shows.
     return date.toLocalTime().date().toString(dayFormat());
 }
 

@@ -8,6 +8,7 @@ namespace {
 
 QString hexDigest(const QString& text, QCryptographicHash::Algorithm algorithm)
 {
+    // Of UTF-8, in lower case: stored identifiers are compared as text.
     return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), algorithm).toHex());
 }
 
@@ -15,6 +16,7 @@ QString hexDigest(const QString& text, QCryptographicHash::Algorithm algorithm)
 
 QString md5Hex(const QString& text)
 {
+    // Not for protection: it names batteries and computers, and stored records have such names.
     return hexDigest(text, QCryptographicHash::Md5);
 }
 

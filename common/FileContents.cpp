@@ -44,6 +44,7 @@ FileContents readAll(int descriptor, qint64 size)
 {
     FileContents contents{QByteArray(static_cast<qsizetype>(size), Qt::Uninitialized), 0};
     qsizetype filled = 0;
+    // Only as much as it held when it was opened: a file that grows meanwhile cannot pass the limit.
     while (filled < contents.bytes.size()) {
         const ssize_t count = ::read(descriptor, contents.bytes.data() + filled,
                                      static_cast<std::size_t>(contents.bytes.size() - filled));
@@ -74,6 +75,7 @@ FileContents fileContents(const QString& path, qint64 mostBytes)
     const OpenFile file(name);
     if (file.descriptor() < 0 || ::fstat(file.descriptor(), &found) != 0)
         return {{}, errno};
+    // Once more: another file may stand there since the first look.
     if (const int fault = faultOf(found, mostBytes))
         return {{}, fault};
     return readAll(file.descriptor(), found.st_size);

@@ -13,6 +13,7 @@ constexpr qint64 lastYear = static_cast<qint64>(QDateTime::YearRange::Last) - 1;
 qint64 floorDivided(qint64 number, qint64 divisor)
 {
     const qint64 quotient = number / divisor;
+    // C++ rounds towards 0, which would make one year of the two around 0.
     return number % divisor < 0 ? quotient - 1 : quotient;
 }
 
@@ -31,6 +32,7 @@ qint64 monthNumber(qint64 year, qint64 month)
 
 QDate firstOfMonth(qint64 number)
 {
+    // Dates out of packed numbers may be millions of years away; QDate would be invalid.
     const qint64 inRange = std::clamp(number, firstYear * 12, lastYear * 12 + 11);
     const qint64 year = floorDivided(inRange, 12);
     const auto month = static_cast<int>(inRange - year * 12) + 1;
@@ -40,6 +42,8 @@ QDate firstOfMonth(qint64 number)
 QDateTime startOfLocalDay(QDate day)
 {
     const QDateTime start = day.startOfDay();
+    // In some zones a whole day was left out (Apia, 30 December 2011); the next one begins at the same
+    // moment.
     return start.isValid() ? start : day.addDays(1).startOfDay();
 }
 

@@ -49,6 +49,7 @@ std::optional<bool> convertToBoolean(const QVariant& value)
 {
     if (!isNumber(value))
         return std::nullopt;
+    // Compared as a double, so that 1 and 1.0 are the same number.
     const double number = value.toDouble();
     if (number == 0.0)
         return false;
@@ -64,6 +65,7 @@ std::optional<qint64> convertToInteger(const QVariant& value)
     if (value.typeId() != QMetaType::Double)
         return value.toLongLong();
     const double number = value.toDouble();
+    // Converting a double that does not fit is undefined in C++.
     if (!fitsInteger(number) || std::trunc(number) != number)
         return std::nullopt;
     return static_cast<qint64>(number);
@@ -92,6 +94,7 @@ qint64 integerFromObject(const QVariant& object)
     if (object.typeId() != QMetaType::Double)
         return object.toLongLong();
     const double number = object.toDouble();
+    // Stored settings are what anybody wrote: unlike above, nothing here is refused.
     if (std::isnan(number))
         return 0;
     if (!fitsInteger(number))

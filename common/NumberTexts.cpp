@@ -38,6 +38,7 @@ QString fixedText(double number, int decimals)
     if (!std::isfinite(number))
         return notFiniteText(number);
     Buffer buffer{};
+    // Exact ties go to the even digit, as with the C format.
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                       std::chars_format::fixed, decimals);
     return QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
@@ -45,6 +46,7 @@ QString fixedText(double number, int decimals)
 
 QString integerText(qint64 number)
 {
+    // Never grouped, in no locale: these texts are hashed and stored.
     return QString::number(number);
 }
 

@@ -81,8 +81,10 @@ QString homeFolder()
 {
     QByteArray home = qgetenv("HOME");
     if (home.isEmpty())
+        // Whoever starts the helper may not have set HOME; the account says the same.
         if (const passwd* account = ::getpwuid(::geteuid()); account && account->pw_dir)
             home = account->pw_dir;
+    // A relative one would be another folder in each process.
     return home.startsWith('/') ? pathText(home) : QString();
 }
 
@@ -92,6 +94,7 @@ QString pathWithoutLastComponent(const QString& path)
     const qsizetype slash = trimmed.lastIndexOf(u'/');
     if (slash < 0)
         return QStringLiteral("");
+    // The root has no folder above it.
     if (slash == 0)
         return QStringLiteral("/");
     return withoutTrailingSlashes(trimmed.left(slash));

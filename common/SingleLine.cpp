@@ -19,6 +19,7 @@ bool isControl(QChar c)
 qsizetype positionAfter(const QString& text, int count)
 {
     const qsizetype limit = count * unitsPerCharacter;
+    // Only the part that can matter: the text may be megabytes long.
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.left(limit + 1));
     qsizetype position = 0;
     for (int i = 0; i < count && position >= 0; ++i)
@@ -42,6 +43,7 @@ QString singleLine(const QString& text)
 
 QString elided(const QString& text, int length)
 {
+    // No text has more characters than units, so most need no search.
     if (text.size() <= length || positionAfter(text, length) < 0)
         return text;
     qsizetype cut = positionAfter(text, length - 1);

@@ -41,6 +41,7 @@ QString dataDescription(const QByteArray& data)
     for (qsizetype start = 0; start < data.size(); start += 4) {
         if (start > 0)
             text += u' ';
+        // In groups of four bytes, as the platform writes data.
         text += QString::fromLatin1(data.mid(start, 4).toHex());
     }
     return text + u'>';
@@ -54,6 +55,7 @@ QString dateDescription(const QDateTime& date)
 
 bool isPlainCharacter(QChar character)
 {
+    // Anything else is quoted, a point or a minus too, so "-1000" has quotes where 57 has none.
     return character.unicode() < 0x80 && character.isLetterOrNumber();
 }
 
@@ -83,6 +85,7 @@ QString quotedWhereNeeded(const QString& text)
     if (!text.isEmpty() && std::all_of(text.cbegin(), text.cend(), isPlainCharacter))
         return text;
     QString quoted = QStringLiteral("\"");
+    // By UTF-16 units, as the platform escapes them.
     for (const QChar character : text)
         quoted += escaped(character);
     return quoted + u'"';
@@ -137,6 +140,7 @@ QString numberDescription(const QVariant& number)
         return {};
     if (number.typeId() == QMetaType::Double)
         return realDescription(number.toDouble());
+    // An unsigned number above 2^63 is negative so, as registries show currents.
     return integerText(number.toLongLong());
 }
 

@@ -23,6 +23,7 @@ struct BatterySource
 
 std::optional<double> knownPercent(double percent)
 {
+    // A full charge of 0 makes the percentage infinite or no number.
     return std::isfinite(percent) ? std::optional(percent) : std::nullopt;
 }
 
@@ -75,6 +76,7 @@ QString capacityDescription(qint64 capacity, const QString& description, FactPla
 QString designDescription(const BatterySource& source)
 {
     const QDBattery& battery = source.battery;
+    // Both, as they may differ: health is measured against the stated one where there is one.
     const QString reported = capacityDescription(battery.ReportedDesignCapacity(),
                                                  QDBattery::ReportedDesignCapacity_Desc(), source.place);
     const QString actual = capacityDescription(battery.ActualDesignCapacity(),
@@ -118,6 +120,7 @@ FactText state(const BatterySource& source)
 
 FactText powerWithCaption(const BatterySource& source)
 {
+    // The caption says which way the power flows, so figures have no sign.
     return {.value = power(source.battery), .caption = source.battery.StateText()};
 }
 
@@ -128,6 +131,7 @@ FactText time(const BatterySource& source)
     const QDBattery& battery = source.battery;
     const bool isSaidAbove =
         source.place == FactPlace::Menu && battery.BatteryState() == chargedTexts().batteryState;
+    // The report is for programs, which look for a value.
     const bool isCaptionEnough =
         source.place != FactPlace::Report && !isSaidAbove && !knownText(battery.BatteryState()).isEmpty();
     return {.value = knownText(battery.TimeRemaining()),
@@ -161,11 +165,13 @@ FactText cycles(const BatterySource& source)
 
 FactText temperature(const BatterySource& source)
 {
+    // A battery without a sensor would be shown as "0.0 °C".
     return {.value = source.battery.knowsTemperature() ? knownText(source.battery.Temperature()) : QString()};
 }
 
 FactText failures(const BatterySource& source)
 {
+    // Quiet, because the text is always "No Errors".
     return {.value = knownText(source.battery.PermanentFailureString()), .isQuiet = true};
 }
 
@@ -191,6 +197,7 @@ FactText serialNumber(const BatterySource& source)
 
 FactText age(const BatterySource& source)
 {
+    // Most drivers give no date, and the age would be counted from 1979.
     if (!source.battery.knowsManufactureDate())
         return {};
     const QString day = dayText(*source.battery.ManufactureDate());
@@ -231,6 +238,7 @@ void addBatteryFacts(std::vector<Fact>& facts, FactPlace place, const QDBattery*
                      std::optional<int> chargeLimit)
 {
     std::optional<BatterySource> source;
+    // Without one the facts are made all the same, not shown: a menu must always have the same rows.
     if (battery)
         source.emplace(BatterySource{*battery, chargeLimit, place});
     addFacts(facts, batteryTable, place, source);

@@ -59,6 +59,7 @@ FactText computerSerial(const ComputerSource& source)
 
 FactText computerAge(const ComputerSource& source)
 {
+    // The moment of the start stands in for a date, and would be shown as an age of 0 days.
     if (!source.mac.knowsManufactureDate())
         return {};
     const QString day = knownText(source.mac.ManufactureDateString());

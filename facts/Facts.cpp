@@ -25,6 +25,7 @@ const QDBattery* batteryOf(const FactSources& sources)
 
 std::optional<int> chargeLimit(const FactSources& sources, FactPlace place)
 {
+    // The tool tip does not show it, and is made at every refresh.
     const bool isGiven = place != FactPlace::ToolTip && batteryOf(sources);
     return isGiven && sources.powerSources ? sources.powerSources->chargeLimit() : std::nullopt;
 }
@@ -46,6 +47,7 @@ Fact deviceFact(const PeripheralBattery& device)
 
 void addDeviceFacts(std::vector<Fact>& facts, FactPlace place, PowerSources* powerSources)
 {
+    // Menu and tool tip are made at every refresh, and asking some drivers sends something over the air.
     const bool isGiven = place == FactPlace::View || place == FactPlace::Report;
     if (!isGiven || !powerSources)
         return;
@@ -62,6 +64,7 @@ std::vector<Fact> factsFor(FactPlace place, const FactSources& sources)
     addDeviceFacts(facts, place, sources.powerSources);
     addComputerFacts(facts, place, sources.mac);
     if (place != FactPlace::Report)
+        // Stable: devices share one rank, and keep the order of the service.
         std::stable_sort(facts.begin(), facts.end(),
                          [](const Fact& one, const Fact& other) { return one.rank < other.rank; });
     return facts;

@@ -39,6 +39,7 @@ QString wattsText(double watts)
 
 QString countText(qint64 count, FactPlace place)
 {
+    // Drivers that do not count cycles write 0, as that of dell-latitude-5501 does.
     return count > 0 ? groupedText(count, groupSeparator(place)) : QString();
 }
 
@@ -67,7 +68,9 @@ QString groupSeparator(FactPlace place)
 {
     if (place == FactPlace::Report)
         return {};
+    // Groups are for people only; the report is the same in every locale.
     const QString separator = QLocale().groupSeparator();
+    // A point beside a decimal point would be read as one: 6.000 mAh.
     return separator == u'.' ? QString(QChar(u'\u202F')) : separator;
 }
 

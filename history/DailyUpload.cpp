@@ -17,6 +17,7 @@ namespace quindle {
 
 namespace {
 
+// In this order: the service joins records of one state by the hash of these texts.
 constexpr std::array<const char*, 7> identityKeys{
     "Battery.BatteryID", "Battery.CycleCount",         "Battery.FullChargeCapacity", "Battery.DesignCapacity",
     "Mac.Model",         "Battery.ManufactureDateRaw", "Data.SnapshotDate",
@@ -36,6 +37,7 @@ void replaceDateByDay(QVariantMap& record)
 {
     const QVariant date = record.value(snapshotDateKey());
     if (date.typeId() == QMetaType::QDateTime)
+        // In the zone of the user: one day there has one hash.
         record.insert(snapshotDateKey(), dayText(date.toDateTime()));
 }
 
@@ -43,6 +45,7 @@ QVariantMap withMaskedSerial(QVariantMap raw)
 {
     const QString key = QStringLiteral("BatterySerialNumber");
     const QVariant serial = raw.value(key);
+    // The registry holds whatever a driver wrote; only a text can be masked.
     if (serial.typeId() == QMetaType::QString)
         raw.insert(key, maskedSerial(serial.toString()));
     return raw;
@@ -87,6 +90,7 @@ std::optional<DailyUpload> dailyUpload(const QVariantMap& snapshot,
         record.insert(QStringLiteral("Application.SendingVersion"), *sendingVersion);
     replaceRawByText(record, serialText);
     record.insert(QStringLiteral("Data.Daily"), QStringLiteral("1"));
+    // Health without a design capacity is infinite; nothing is sent then.
     if (!isWritableAsJson(record))
         return std::nullopt;
     return DailyUpload{record, uploadBody(record)};
@@ -97,6 +101,7 @@ std::optional<QString> identityText(const QVariantMap& record)
     QString text;
     for (const char* key : identityKeys) {
         const QVariant value = record.value(QLatin1String(key));
+        // All seven are needed: a hash of fewer would join batteries that differ.
         if (!value.isValid())
             return std::nullopt;
         text += valueDescription(value);

@@ -32,6 +32,8 @@ QString normalFileUrl(const QString& url)
     QString path = pathOfFileUrl(parsed.toString(QUrl::FullyEncoded));
     while (path.size() > 1 && path.endsWith(u'/'))
         path.chop(1);
+    // Bundles are folders, and items resolve to them with a slash; the disk is not asked, as they may have
+    // gone.
     return fileUrl(path.endsWith(u".app") ? path + u'/' : path);
 }
 

@@ -27,24 +27,24 @@ struct ServiceOverrides;
 /// (app/main.cpp, inspect/main.cpp and tests) fill it in; all others only pass it on or take from it.
 struct Platform
 {
-    IORegistry& registry;
-    PowerSources& powerSources;
-    UserDefaultsDatabases& userDefaults;
-    NotificationCenter& notificationCenter;
-    DistributedNotificationCenter& distributedNotificationCenter;
-    WorkspaceNotifications& workspaceNotifications;
-    Workspace& workspace;
-    Bundle& bundle;
-    Clock& clock;
-    Host& host;
-    SystemFiles& systemFiles;
-    RunLoop& runLoop;
-    StatusBar& statusBar;
-    Application& application;
-    UrlSession& urlSession;
-    UserDirectories& userDirectories;
-    LoginItems& loginItems;
-    PowerEvents& powerEvents;
+    IORegistry& registry;                                         ///< battery, model and serial number
+    PowerSources& powerSources;                                   ///< sources, adapter, limit, devices
+    UserDefaultsDatabases& userDefaults;                          ///< both settings databases
+    NotificationCenter& notificationCenter;                       ///< within the process
+    DistributedNotificationCenter& distributedNotificationCenter; ///< from and to other processes
+    WorkspaceNotifications& workspaceNotifications;               ///< sleep and wake
+    Workspace& workspace;                                         ///< starts programs, opens folders
+    Bundle& bundle;                                               ///< where the program lies; its Info.plist
+    Clock& clock;                                                 ///< the date, for ages and the daily upload
+    Host& host;                                                   ///< the computer's name
+    SystemFiles& systemFiles;                                     ///< property lists of the system
+    RunLoop& runLoop;                                             ///< timers
+    StatusBar& statusBar;                                         ///< the item in the panel
+    Application& application;                                     ///< the process: its end, its windows
+    UrlSession& urlSession;                                       ///< model names, and the daily upload
+    UserDirectories& userDirectories;                             ///< where the saved history lies
+    LoginItems& loginItems;                                       ///< what the session starts
+    PowerEvents& powerEvents;                                     ///< plugs and swaps, as they happen
 
     /// The same services but for those that `overrides` names.
     Platform with(const ServiceOverrides& overrides) const;

@@ -21,6 +21,7 @@ RateLimit::~RateLimit()
 
 void RateLimit::request()
 {
+    // Remembered even while a timer runs, so that the last request is never lost.
     m_isRequested = true;
     if (m_timer)
         return;
@@ -47,6 +48,7 @@ void RateLimit::actIfRequested()
 {
     if (!std::exchange(m_isRequested, false))
         return;
+    // Before the call, which may itself request the next time.
     wait(shortestPause);
     m_act();
 }

@@ -13,6 +13,7 @@ int StatusMenu::addRow(Row row)
 void StatusMenu::setText(int id, const QString& text)
 {
     Row* row = find(id);
+    // Rows are set at every refresh; each change would be a message to the host.
     if (!row || row->text == text)
         return;
     row->text = text;
@@ -33,6 +34,7 @@ void StatusMenu::choose(int id) const
     if (id < 1 || id > static_cast<int>(m_rows.size()))
         return;
     const Row& row = m_rows[static_cast<std::size_t>(id) - 1];
+    // Hosts are other processes, and may choose any row.
     if (!row.enabled)
         return;
     if (row.kind == Kind::OpenView)

@@ -33,6 +33,7 @@ Type withoutView(Type value)
     return value;
 }
 
+/// The table is made at compile time, where there are views only; a stored value is a text.
 QString withoutView(QStringView value)
 {
     return value.toString();
@@ -61,6 +62,7 @@ ApplicationPreferences& ApplicationPreferences::sharedInstance(const Platform* p
 template <typename Type>
 UserDefaults* ApplicationPreferences::databaseOf(const Setting<Type>& setting) const
 {
+    // Null where the shared database cannot be opened: its settings then read as missing, and are not kept.
     return setting.database == SettingsDatabase::Own ? &m_defaults : m_suiteDefaults;
 }
 
@@ -68,12 +70,14 @@ template <typename Type>
 auto ApplicationPreferences::stored(const Setting<Type>& setting) const
 {
     const UserDefaults* database = databaseOf(setting);
+    // Read at each call: another process may have written meanwhile.
     return converted(setting, database ? database->object(setting.name()) : QVariant());
 }
 
 template <typename Type>
 auto ApplicationPreferences::read(const Setting<Type>& setting) const
 {
+    // A value of another type counts as missing: files may be edited by hand.
     return stored(setting).value_or(withoutView(*setting.missing));
 }
 

@@ -29,6 +29,7 @@ std::optional<LoginItems::Item> helperItem(LoginItems& items, const QString& bun
     const auto snapshot = items.snapshot();
     if (!snapshot)
         return std::nullopt;
+    // By what an item starts, not by its name: other programs and the user make entries too.
     const QString wanted = searchLocation(bundlePath);
     for (const LoginItems::Item item : *snapshot) {
         const auto url = items.resolve(item);
