@@ -45,6 +45,7 @@ ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes)
 
 ArchivedClass archivedClass(const PropertyListGraph& graph, const PropertyListGraph::Element& name)
 {
+    // A name only chooses a reader: whatever an archive says, no object of another class is made.
     const auto* found =
         std::find_if(namedClasses.begin(), namedClasses.end(), [&](const NamedClass& candidate) {
             return graph.isText(name, QLatin1StringView(candidate.name));

@@ -60,14 +60,17 @@ bool ValueMaker::make(Node node, int level, MadeValue& made)
         return isMade;
     }
     if (element.kind == Kind::Reference)
+        // As XML writes it, so that both encodings give the same value.
         made.value = QVariantMap{{QStringLiteral("CF$UID"), static_cast<qint64>(m_graph.reference(element))}};
     else
         made.value = m_graph.value(element);
+    // Property lists hold no null, which only archives use.
     return element.kind != Kind::Invalid && element.kind != Kind::Null;
 }
 
 bool ValueMaker::makeContainer(const Element& element, int level, MadeValue& made)
 {
+    // Spent before any room is reserved: the count is only what the list says of itself.
     if (level > mostPropertyListLevels || !m_limits.spend(element.count))
         return false;
     made.extent.height = 1;

@@ -15,7 +15,8 @@ QVariant dateFromSeconds(double seconds)
 {
     if (std::isnan(seconds))
         return {};
-    constexpr double farthest = 9.0e15; // milliseconds, some 285,000 years
+    // Milliseconds, some 285,000 years: beyond that a double no longer holds every whole one.
+    constexpr double farthest = 9.0e15;
     const double milliseconds = std::clamp(std::round(seconds * 1000.0), -farthest, farthest);
     return QDateTime::fromMSecsSinceEpoch(startOf2001 + static_cast<qint64>(milliseconds), Qt::LocalTime);
 }

@@ -171,7 +171,7 @@ QVariant PropertyListGraph::value(const Element& element) const
     }
 }
 
-/// Of one that is longer than 8 bytes the last 8 count.
+/// Of one that is longer than 8 bytes the last 8 count: writers use 16 for numbers above 2^63.
 quint64 PropertyListGraph::integer(const Element& element) const
 {
     const quint64 width = byteLength(element);
@@ -196,6 +196,7 @@ quint64 PropertyListGraph::reference(const Element& element) const
 
 PropertyListGraph::Node PropertyListGraph::item(const Element& array, quint64 index) const
 {
+    // Asked of whatever an archive leads to, so kind and range are checked here, once for all readers.
     return array.kind == Kind::Array && index < array.count ? nodeAt(array, index) : noNode;
 }
 

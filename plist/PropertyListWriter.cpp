@@ -96,6 +96,7 @@ void writeMap(QXmlStreamWriter& xml, const QVariantMap& map)
 {
     xml.writeStartElement(QStringLiteral("dict"));
     for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
+        // Left out by itself: written as an empty date, it made readers refuse the whole list.
         if (!isWritable(entry.value()))
             continue;
         writeText(xml, QStringLiteral("key"), entry.key());
@@ -130,6 +131,7 @@ void writeValue(QXmlStreamWriter& xml, const QVariant& value)
         writeMap(xml, value.toMap());
         return;
     default:
+        // With a sign, so that every reader sees a negative number.
         xml.writeTextElement(QStringLiteral("integer"), integerText(value.toLongLong()));
         return;
     }
@@ -144,6 +146,7 @@ QByteArray xmlPropertyList(const QVariant& value)
     QByteArray bytes;
     QXmlStreamWriter xml(&bytes);
     xml.setAutoFormatting(true);
+    // Tabs, as in the files that the other programs write.
     xml.setAutoFormattingIndent(-1);
     xml.writeStartDocument();
     xml.writeDTD(QStringLiteral("<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "

@@ -353,6 +353,7 @@ std::optional<Unarchiver::References> Unarchiver::listedReferences(const Element
 std::optional<Unarchiver::References> Unarchiver::numberedReferences(const Element& element,
                                                                      const char* prefix)
 {
+    // Sorted by their numbers: a dictionary may hold them in any order.
     const QLatin1StringView start(prefix);
     std::map<quint64, quint64> numbered;
     for (quint64 index = 0; index < element.count; ++index) {

@@ -94,6 +94,7 @@ std::optional<QString> urlStartedBy(const QByteArray& entryBytes, const QStringL
     const auto entry = desktopEntryFromBytes(entryBytes);
     if (!entry || isSwitchedOff(*entry) || !isApplication(*entry) || !isInstalled(*entry, programFolders))
         return std::nullopt;
+    // OnlyShowIn and NotShowIn are not asked: such an entry starts the program in some session.
     const auto arguments = execArguments(entry->value("Exec"));
     QString program = arguments ? programFile(programOf(*arguments, home), programFolders) : QString();
     if (program.isEmpty())

@@ -186,6 +186,7 @@ QByteArray execValue(const QByteArray& program)
     for (const char c : program) {
         if (QByteArrayView("\"`$\\").contains(c))
             quoted.append('\\');
+        // A single one would begin a field code.
         quoted.append(c == '%' ? QByteArrayView("%%") : QByteArrayView(&c, 1));
     }
     return escapedValue(quoted + '"');

@@ -52,6 +52,7 @@ bool comesBefore(const QByteArray& left, const QByteArray& right)
 {
     const bool isLeftOwn = left == ownEntryName();
     const bool isRightOwn = right == ownEntryName();
+    // The order needs no file of its own: "in front of all" is simply ours.
     return isLeftOwn == isRightOwn ? left < right : isLeftOwn;
 }
 
@@ -100,6 +101,7 @@ std::optional<std::vector<LoginItems::Item>> LinuxLoginItems::snapshot()
     std::sort(names->begin(), names->end(), comesBefore);
     std::vector<Item> items;
     for (const QByteArray& name : *names) {
+        // Never forgotten: an item keeps its number when others come and go.
         if (!m_known.contains(name))
             m_known.append(name);
         items.push_back(static_cast<Item>(m_known.indexOf(name)));
@@ -174,6 +176,7 @@ QString LinuxLoginItems::enter(const QByteArray& entryName, const QString& bundl
     const auto lock = FileLock::take(lockPath, lockPatience);
     if (!lock)
         return reason(errno);
+    // The link before the entry: an entry that names a missing link starts nothing.
     const StartCommand command = startCommand(program, m_places.link, m_places.home);
     if (const int error =
             command.isThroughLink ? replaceLink(pathBytes(m_places.link), pathBytes(program)) : 0)
@@ -199,6 +202,7 @@ QString LinuxLoginItems::disable(const QByteArray& entryName, const QString& hel
         if (!url || (*url != helperUrl && m_known.value(item) != entryName))
             continue;
         const QString failed = erase(m_known.value(item));
+        // The others are tried all the same: one that stays would start the helper.
         failure = failed.isEmpty() ? failure : failed;
     }
     return failure;
@@ -210,6 +214,7 @@ QString LinuxLoginItems::erase(const QByteArray& entryName) const
         return QStringLiteral("they are for reading only");
     if (entryName.isEmpty())
         return {};
+    // Gone already is as good as taken out.
     if (::unlink(pathBytes(pathOf(entryName)).constData()) != 0 && errno != ENOENT)
         return reason(errno);
     // Nothing else needs the link.

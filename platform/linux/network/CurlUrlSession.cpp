@@ -38,6 +38,7 @@ CurlUrlSession::CurlUrlSession(CurlSettings settings)
 void CurlUrlSession::post(const QString& url, const QByteArray& body,
                           std::function<void(int status, const QByteArray& body)> answered)
 {
+    // The same headers for everybody: they say nothing about user, system or language.
     HttpRequest request{.url = QUrl(url),
                         .headers = {"Content-Length: " + QByteArray::number(body.size()),
                                     "User-Agent: Quindle-Helper", "Accept-Language: en",
@@ -80,6 +81,7 @@ std::optional<QByteArray> CurlUrlSession::contents(const QString& url)
             return std::nullopt;
         if (isSuccess(answer->status))
             return answer->body;
+        // Another host would learn the end of the serial number.
         if (!isSameService(request.url, answer->redirection))
             return std::nullopt;
         request.url = answer->redirection;

@@ -19,6 +19,7 @@ void* run(void* work)
 
 bool start(Work work, const pthread_attr_t& attributes)
 {
+    // Not std::thread, which cannot be bound before it starts, and throws where there is no room for it.
     auto owned = std::make_unique<Work>(std::move(work));
     pthread_t thread = {};
     if (pthread_create(&thread, &attributes, run, owned.get()) != 0)
@@ -59,6 +60,7 @@ bool startThreadHere(Work work)
         CPU_SET(static_cast<unsigned>(processor), &here);
         pthread_attr_setaffinity_np(&detached.attributes, sizeof here, &here);
     }
+    // The binding is only a wish: where it is refused any processor will do.
     return start(work, detached.attributes) || startThread(work);
 }
 

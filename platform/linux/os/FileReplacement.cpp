@@ -105,6 +105,7 @@ int replaceFile(const QByteArray& path, const QByteArray& bytes)
 {
     // In the same folder, since a rename does not cross file systems.
     QByteArray temporary = folderOf(path) + '/' + temporaryPrefix(path) + "XXXXXX";
+    // Of mode 0600, which also masks what an access list of the folder would give to others.
     const FileDescriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.isOpen())
         return errno;
@@ -137,6 +138,7 @@ void removeLeftovers(const QByteArray& path)
         return;
     const QByteArray prefix = temporaryPrefix(path);
     while (const dirent* entry = ::readdir(folder.get()))
+        // Left by writers that were killed before they could rename them.
         if (QByteArrayView(entry->d_name).startsWith(prefix))
             ::unlinkat(::dirfd(folder.get()), entry->d_name, 0);
 }

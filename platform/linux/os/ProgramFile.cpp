@@ -30,11 +30,13 @@ bool isRunnable(const QByteArray& path)
 
 QByteArray programPath(const QByteArray& program, const QStringList& folders)
 {
+    // The system would read the name up to the NUL.
     if (program.isEmpty() || program.contains('\0'))
         return {};
     // The folder of the process says nothing about the one that a session starts programs in.
     if (program.contains('/'))
         return program.startsWith('/') && isRunnable(program) ? program : QByteArray();
+    // A relative folder would mean another one in each process.
     for (const QByteArray& folder : searchPath(folders))
         if (const QByteArray path = folder + '/' + program; folder.startsWith('/') && isRunnable(path))
             return path;

@@ -35,6 +35,7 @@ std::optional<QByteArray> TimelyFiles::read(const QString& path)
     if (isNew && !begin(path))
         return m_last[path];
     const std::shared_ptr<Reading> reading = m_underWay[path];
+    // Waited for once: whoever asks again while it hangs gets what was read last.
     if (reading->end.isReached(isNew ? m_patience : std::chrono::milliseconds(0))) {
         m_last[path] = reading->content;
         m_underWay.erase(path);

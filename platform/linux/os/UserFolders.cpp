@@ -11,6 +11,7 @@ namespace {
 
 QString folderNamed(const char* variable, const char* placeInHome)
 {
+    // A relative path in one of these variables counts as none, as the XDG rules say.
     if (const QByteArray folder = qgetenv(variable); folder.startsWith('/'))
         return pathText(folder);
     const QString home = homeFolder();

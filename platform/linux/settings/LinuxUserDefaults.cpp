@@ -144,6 +144,7 @@ bool LinuxUserDefaults::holds(const QString& key, const QByteArray& xml) const
 void LinuxUserDefaults::setObject(const QString& key, const QVariant& value)
 {
     const QString failure = store(key, value);
+    // Once, until a write succeeds: a full disk fails at every change.
     if (!failure.isEmpty() && failure != m_writeFailure)
         qCWarning(settingsLog).noquote()
             << QStringLiteral("cannot write %1: %2").arg(pathText(m_file.path()), failure);
@@ -160,6 +161,7 @@ QString LinuxUserDefaults::store(const QString& key, const QVariant& value)
     const QByteArray xml = xmlPropertyList(value);
     if (xml.isEmpty())
         return QStringLiteral("the value of \"%1\" is of no property-list type").arg(key);
+    // Looked at without the lock first: most values that are stored are there already.
     refresh();
     if (holds(key, xml))
         return {};
@@ -182,6 +184,7 @@ QString LinuxUserDefaults::storeLocked(const QString& key, const QVariant& value
         return qt_error_string(m_file.error());
     if (holds(key, xml))
         return {};
+    // A file behind a link is replaced there, so that the link stays one.
     const QByteArray target = linkTarget(m_file.path());
     // Safe now: whoever left them has not got the lock any more.
     removeLeftovers(target);

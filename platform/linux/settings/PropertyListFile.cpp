@@ -50,6 +50,7 @@ bool PropertyListFile::Identity::operator==(const Identity& other) const
 
 PropertyListFile::Identity PropertyListFile::identityOf(const struct stat& found)
 {
+    // The time of change too: unlike that of modification no program can set it back after an edit in place.
     return {found.st_dev, found.st_ino, found.st_size, found.st_mtim, found.st_ctim};
 }
 
@@ -97,6 +98,7 @@ PropertyListFile::State PropertyListFile::readFrom(int descriptor, off_t size)
     }
     bytes.truncate(filled);
     const auto root = propertyListFromBytes(bytes);
+    // An empty file too: a program that is killed while it writes in place leaves one.
     if (!root || root->typeId() != QMetaType::QVariantMap)
         return become(State::Damaged);
     become(State::Good);
@@ -119,6 +121,7 @@ void PropertyListFile::remember(const struct stat& found)
 {
     m_identity = identityOf(found);
     m_settled = ageOf(found.st_ctim) > clockStep;
+    // Young enough that an editor may still be writing it in place.
     m_fresh = ageOf(found.st_mtim) < 1.0;
 }
 

@@ -36,6 +36,7 @@ QString assignedValue(const QByteArray& assignments, const QByteArray& name)
     for (const QByteArray& line : assignments.split('\n')) {
         const QByteArray trimmedLine = line.trimmed();
         if (trimmedLine.startsWith(name + '='))
+            // As in a shell, the last assignment counts.
             value = unquoted(trimmedLine.mid(name.size() + 1));
     }
     return QString::fromUtf8(value).trimmed();

@@ -99,6 +99,7 @@ InstallationSource installationSource(const QString& bundlePath, const QString& 
         return {};
     if (isInBuildFolder(bundlePath))
         return {InstallationSource::Kind::Build, {}, {}};
+    // By one of its files: a package of that name may hold another copy.
     const QString file = bundlePath + QStringLiteral("/Contents/Info.plist");
     for (const auto& ask : {fromDpkg, fromPacman, fromRpm}) {
         InstallationSource source = ask(file, root);
