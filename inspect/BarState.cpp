@@ -18,6 +18,8 @@ QString noBattery()
     return QStringLiteral("no-battery");
 }
 
+/// From the flags, in the order of the model's tests. The model's own words have none for an adapter that
+/// neither charges nor fills: there they stay what they were.
 QString powerState(const QDBattery& battery)
 {
     if (battery.isCharging())
@@ -29,6 +31,7 @@ QString powerState(const QDBattery& battery)
 
 QString iconName(const QString& powerState, double stateOfCharge)
 {
+    // As the tray item does, so that both show one picture.
     return powerState == QStringLiteral("discharging") ? batteryIconName(stateOfCharge)
                                                        : chargingIconName(stateOfCharge);
 }
@@ -36,6 +39,7 @@ QString iconName(const QString& powerState, double stateOfCharge)
 std::optional<int> wholePercent(double percentage)
 {
     constexpr double most = 1000; // room for drivers that report a charge above full
+    // Written so that it refuses what is no number as well.
     if (!(percentage >= 0 && percentage <= most))
         return std::nullopt;
     return static_cast<int>(std::lround(percentage));

@@ -46,6 +46,7 @@ QString writeMachineFile(const QString& path, const QVariantMap& keys)
     std::error_code error;
     const auto absolute = std::filesystem::absolute(pathBytes(path).toStdString(), error);
     const QByteArray target = QByteArray::fromStdString(absolute);
+    // A link stays one, and a file is never seen half written.
     const int fault =
         isDeviceOrPipe(target) ? writeInto(target, content) : replaceFile(linkTarget(target), content);
     return fault == 0 ? QString() : qt_error_string(fault);

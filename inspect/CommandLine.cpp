@@ -111,6 +111,7 @@ QString contradiction(const Given& given)
 
 CommandLine::Call callOf(const Given& given)
 {
+    // Before all others, which may be given besides; those exclude each other.
     if (given.help)
         return CommandLine::Call::Help;
     if (given.version)

@@ -73,8 +73,10 @@ Platform Computer::thisComputer(bool isFollowed)
 {
     const Platform linux = m_linux.services(m_recorded.statusBar);
     const Platform recorded = m_recorded.platform();
+    // Only who follows is there long enough to hear of changes.
     const Platform& events = isFollowed ? linux : recorded;
     const Platform& bus = hasSessionBus() ? events : recorded;
+    // What would show, send or launch something stays recorded; settings are overlaid.
     return recorded.with({.registry = &linux.registry,
                           .powerSources = &linux.powerSources,
                           .userDefaults = &m_settings,
@@ -93,6 +95,7 @@ Platform Computer::thisComputer(bool isFollowed)
 Platform Computer::recordedComputer(bool isFollowed)
 {
     const Platform recorded = m_recorded.platform();
+    // Steps happen in their time then, for which a true loop is needed.
     return isFollowed ? recorded.with({.runLoop = &m_linux.runLoop()}) : recorded;
 }
 

@@ -17,6 +17,7 @@ Follower::Follower(Computer& computer, bool isDemo, BarFormat format, Write writ
     , m_figureWatch(computer.platform().runLoop)
 {
     HelperAppDelegate& delegate = m_inspection.delegate();
+    // The launch has refreshed the item already, before anything could be connected to it.
     writeIfChanged();
     QObject::connect(&delegate, &HelperAppDelegate::statusItemRefreshed, &delegate,
                      [this] { writeIfChanged(); });

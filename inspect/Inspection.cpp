@@ -24,6 +24,7 @@ Inspection::Inspection(Computer& computer, bool isDemo)
     , m_preferences(computer.platform())
     , m_delegate(computer.platform(), m_preferences, m_interface, macFactory(isDemo), noControllers)
 {
+    // Before the launch, whose refreshes count too.
     QObject::connect(&m_delegate, &HelperAppDelegate::statusItemRefreshed, &m_delegate,
                      [this] { ++m_refreshes; });
     QObject::connect(&m_delegate, &HelperAppDelegate::dailyUploadStarted, &m_delegate,

@@ -84,6 +84,7 @@ Text replaced(Text text, const Text& serial, const Text& invented)
 QString cleanText(QString text, const std::vector<SerialPair>& serials)
 {
     for (const SerialPair& pair : serials) {
+        // Also a serial that is too short for a run.
         if (text == pair.trueSerial)
             return pair.inventedSerial;
         text = replaced(text, pair.trueSerial, pair.inventedSerial);
@@ -106,6 +107,7 @@ QVariant cleanNumber(qint64 number, const std::vector<SerialPair>& serials)
 {
     const QString digits = QString::number(number);
     for (const SerialPair& pair : serials)
+        // Whole numbers only, and no short ones: a capacity may hold the same digits.
         if (digits.size() >= shortestRun && digits == pair.trueSerial)
             return pair.inventedSerial.toLongLong();
     return number;

@@ -32,6 +32,7 @@ QVariantMap valueProperties(const QObject& object)
     const QMetaObject& meta = *object.metaObject();
     for (int index = QObject::staticMetaObject.propertyCount(); index < meta.propertyCount(); ++index) {
         const QMetaProperty property = meta.property(index);
+        // The computer's battery is an object of its own in the output.
         if (!(property.metaType().flags() & QMetaType::PointerToQObject))
             values.insert(QString::fromLatin1(property.name()), property.read(&object));
     }

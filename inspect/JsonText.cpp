@@ -45,6 +45,7 @@ QString quoted(const QString& text)
 QString doubleText(double number)
 {
     const QString text = shortestText(number);
+    // JSON has no number for these.
     return std::isfinite(number) ? text : quoted(text);
 }
 
@@ -61,6 +62,7 @@ QString listText(const QVariantList& list)
 QString mapText(const QVariantMap& map)
 {
     QStringList items;
+    // In the order of the keys, so that outputs can be compared as text.
     for (auto it = map.cbegin(); it != map.cend(); ++it)
         items.append(quoted(it.key()) + u':' + valueText(it.value()));
     return u'{' + items.join(u',') + u'}';
@@ -105,6 +107,7 @@ QByteArray jsonText(const QVariant& value)
 
 QString isoDateText(const QDateTime& date)
 {
+    // Written by hand, because Qt leaves the offset out of local times.
     const QDateTime local = date.toLocalTime();
     const int offset = local.offsetFromUtc() / 60;
     const QString day = QStringLiteral("%1-").arg(local.date().year(), 4, 10, QLatin1Char('0')) +

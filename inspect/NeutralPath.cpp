@@ -21,6 +21,7 @@ QString withoutName(const QString& path, qsizetype begin)
 
 QString neutralPath(const QString& path, const QString& home)
 {
+    // The home folder first: it may be anywhere. "/", as some system accounts have it, names nobody.
     if (home.size() > 1 && (path == home || path.startsWith(home + u'/')))
         return QStringLiteral("/home/user") + path.mid(home.size());
     for (const QStringView folder : foldersOfUsers)

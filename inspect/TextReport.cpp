@@ -99,6 +99,7 @@ QString reportText(const QVariantMap& state, const std::vector<Fact>& facts)
     std::vector<Group> groups = reportGroups(state, facts);
     qsizetype width = 0;
     for (Group& group : groups) {
+        // Before the width is measured: what is not shown needs no room.
         std::erase_if(group.rows, [](const Row& row) { return row.value.isEmpty(); });
         for (const Row& row : group.rows)
             width = std::max(width, row.label.size());
@@ -106,8 +107,8 @@ QString reportText(const QVariantMap& state, const std::vector<Fact>& facts)
     QStringList paragraphs;
     for (const Group& group : groups) {
         QString lines = group.heading + u'\n';
-        for (const Row& row :
-             group.rows) // firmware and users write these texts; a terminal must not obey them
+        // Firmware and users write these texts; a terminal must not obey them.
+        for (const Row& row : group.rows)
             lines += QStringLiteral("  ") + singleLine(row.label).leftJustified(width + 2) +
                      singleLine(row.value) + u'\n';
         paragraphs.append(lines);

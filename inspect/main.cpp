@@ -79,6 +79,7 @@ int follow(Computer& computer, const CommandLine& commandLine)
 
 int capture(Computer& computer, const CommandLine& commandLine)
 {
+    // The demonstration is a model without a registry behind it, so its keys are made from the model.
     QVariantMap keys = commandLine.demo ? keysFromModel(Inspection(computer, true).mac())
                                         : capturedKeys(computer.platform());
     if (!commandLine.withSerials)
@@ -132,5 +133,6 @@ int main(int argc, char** argv)
     if (!commandLine.fault.isEmpty())
         return refuse(commandLine.fault + QStringLiteral(" (see --help)"));
     const int status = answer(commandLine);
+    // A full disk behind standard output shows nowhere else.
     return std::ferror(stdout) ? refuse(QStringLiteral("cannot write to standard output")) : status;
 }

@@ -69,6 +69,7 @@ Verdict checkDate(const QVariant& value)
 
 Verdict checkNumber(const QVariant& value)
 {
+    // A boolean converts to a number, and is none.
     return wants(value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Double, "a number");
 }
 
@@ -135,6 +136,7 @@ Verdict checkDefaults(const QVariant& value)
         return fault;
     const QVariantMap databases = value.toMap();
     for (auto it = databases.cbegin(); it != databases.cend(); ++it)
+        // The program opens no other, so another name would be a mistake that nothing shows.
         if (it.key() != u"standard" && it.key() != groupDatabaseName())
             return Fault{u'.' + it.key(), QStringLiteral("no such database")};
     return std::nullopt;
@@ -191,6 +193,8 @@ struct KeyRule
     Place place;
 };
 
+/// Only the form is checked. What stands inside entries is what that computer answered, whatever it was, and
+/// the program must bear it as it would there.
 constexpr KeyRule keyRules[] = {
     {"Registry", checkDictionariesByName, Place::Anywhere},
     {"PowerSources", checkDictionaries, Place::Anywhere},
@@ -254,6 +258,7 @@ void makeFoldersAbsolute(QVariantMap& keys, const QDir& folder)
         return;
     QVariantList folders = found->toList();
     for (QVariant& path : folders)
+        // Relative ones count from the machine file, so both can be moved together.
         path = QDir::cleanPath(folder.absoluteFilePath(pathWithTildeExpanded(path.toString())));
     *found = folders;
 }
@@ -264,9 +269,11 @@ MachineStep stepFromKeys(QVariantMap keys, const QDir& folder)
     step.remove = keys.take(QStringLiteral("Remove")).toStringList();
     const QStringList actions = keys.take(QStringLiteral("Actions")).toStringList();
     for (const QString& name : actions)
+        // Checked before any step was made, so every name is known.
         step.actions.push_back(findAction(name)->action);
     const QVariant after = keys.take(QStringLiteral("After"));
     if (after.isValid())
+        // 0 first: a time that is no number (NaN) becomes 0 too.
         step.after = std::max(0.0, after.toDouble());
     makeFoldersAbsolute(keys, folder);
     step.keys = keys;
@@ -291,6 +298,7 @@ MachineResult machineFromPropertyList(const QVariant& root, const QString& path)
     if (!isDictionary(root))
         return refusal(path, QStringLiteral("must be a dictionary"));
     Machine machine{root.toMap(), {}, path};
+    // All of it before anything is played: half of a refused file must not have happened.
     if (const Verdict fault = checkMachine(machine.keys))
         return refusal(path, fault->inside + QStringLiteral(": ") + fault->reason);
     const QDir folder = QFileInfo(path).absoluteDir();

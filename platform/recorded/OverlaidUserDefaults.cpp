@@ -10,6 +10,7 @@ QVariant OverlaidUserDefaults::object(const QString& key) const
 
 void OverlaidUserDefaults::setObject(const QString& key, const QVariant& value)
 {
+    // In memory only: quindle-inspect must leave the user's settings as they are.
     m_written.insert(key, value);
 }
 
@@ -29,6 +30,7 @@ OverlaidUserDefaultsDatabases::OverlaidUserDefaultsDatabases(UserDefaultsDatabas
 UserDefaults* OverlaidUserDefaultsDatabases::suite(const QString& suiteName)
 {
     UserDefaults* below = m_below.suite(suiteName);
+    // No overlay of nothing: that the database cannot be opened has to show.
     if (!below)
         return nullptr;
     std::unique_ptr<OverlaidUserDefaults>& overlay = m_suites[suiteName];

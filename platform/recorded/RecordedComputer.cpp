@@ -60,9 +60,11 @@ RecordedComputer::RecordedComputer(QVariantMap keys, QString machineFile)
 
 void RecordedComputer::enter(const MachineStep& step)
 {
+    // Taken out first, so that a step can replace what it removes.
     for (const QString& path : step.remove)
         removeFromComputer(m_keys, path);
     for (auto it = step.keys.cbegin(); it != step.keys.cend(); ++it) {
+        // Of these two a step names only what changes.
         const bool byProperty = it.key() == u"Registry" || it.key() == u"Defaults";
         m_keys.insert(it.key(), byProperty ? overlaid(m_keys.value(it.key()).toMap(), it->toMap()) : *it);
     }
@@ -116,6 +118,7 @@ QVariantMap RecordedComputer::database(const QString& name) const
 
 void RecordedComputer::setInDatabase(const QString& name, const QString& key, const QVariant& value)
 {
+    // Where steps write too: whoever wrote last counts.
     const QVariantMap written{{name, QVariantMap{{key, value}}}};
     const QString defaults = QStringLiteral("Defaults");
     m_keys.insert(defaults, overlaid(m_keys.value(defaults).toMap(), written));

@@ -52,6 +52,7 @@ void RecordedLoginItems::setEnabled(const QString& identifier, bool enabled)
     if (enabled)
         items.prepend(helper);
     else
+        // All of them: one that stays would still start the helper.
         items.removeIf(startsHelper);
     m_computer.setLoginItems(items);
 }

@@ -12,6 +12,8 @@ std::optional<QVariantMap> RecordedPowerSources::externalAdapterDetails()
 std::optional<int> RecordedPowerSources::sourceCount()
 {
     const std::optional<QVariantList> sources = m_computer.powerSources();
+    // Without the key the service cannot be asked, which is fatal beside a battery; an empty array means no
+    // sources.
     if (!sources)
         return std::nullopt;
     return static_cast<int>(sources->size());

@@ -13,6 +13,7 @@ RecordedTimer::RecordedTimer(double interval, double tolerance, std::function<vo
 
 void RecordedTimer::fire() const
 {
+    // The loop keeps timers for good, those that were stopped as well.
     if (m_isValid)
         m_fire();
 }

@@ -12,6 +12,7 @@ RecordedStatusItem::RecordedStatusItem(std::shared_ptr<StatusItemRecord> record)
 void RecordedStatusItem::setTitle(const QString& title)
 {
     m_record->title = title;
+    // Each of them: that the title is set to "100 %" first, and then twice, no host ever sees.
     m_record->titlesSet.append(title);
 }
 

@@ -22,6 +22,7 @@ QString configurationCodeIn(const QString& url)
 void RecordedUrlSession::post(const QString& url, const QByteArray& body,
                               std::function<void(int status, const QByteArray& body)> /*answered*/)
 {
+    // Kept and never answered: what is played must reach no service.
     m_posts.emplace_back(url, body);
 }
 

@@ -10,6 +10,7 @@ namespace {
 QEasingCurve easeInEaseOut()
 {
     QEasingCurve curve(QEasingCurve::BezierSpline);
+    // The usual control points of "ease in, ease out".
     curve.addCubicBezierSegment({0.42, 0}, {0.58, 1}, {1, 1});
     return curve;
 }
@@ -47,6 +48,7 @@ void PaneTransition::begin(QWidget& view, const QSize& size, Motion motion)
     }
     // The effect is there for the transition only: it draws the view through a picture of its own.
     view.setGraphicsEffect(new QGraphicsOpacityEffect(&view));
+    // Before the next frame is drawn, which would show the view whole.
     step(0);
     m_animation.start();
 }

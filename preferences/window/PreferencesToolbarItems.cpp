@@ -44,6 +44,7 @@ std::optional<ToolbarConfiguration> toolbarConfiguration(const PreferencesPanes&
     // A toolbar with nothing to choose from only takes room.
     if (panes.empty() || (panes.size() == 1 && !flags.showToolbarWithSingleViewController))
         return std::nullopt;
+    // A segmented control is one item: there is nothing to arrange, and nothing to remember.
     const bool segmented = flags.showToolbarItemsAsSegmentedControl;
     return ToolbarConfiguration{preferencesToolbarIdentifier(), flags.showToolbarSeparator, !segmented,
                                 !segmented,
@@ -65,6 +66,7 @@ QStringList toolbarItemIdentifiers(const PreferencesPanes& panes, const Preferen
 QStringList toolbarSelectableItemIdentifiers(const PreferencesPanes& panes,
                                              const PreferencesToolbarFlags& flags)
 {
+    // A segmented control marks its segment itself.
     return flags.showToolbarItemsAsSegmentedControl ? QStringList() : paneIdentifiers(panes);
 }
 

@@ -56,7 +56,9 @@ QDPreferencesWindow::QDPreferencesWindow()
     plainLayout(m_contentView);
     m_contentView->installEventFilter(this);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
+    // Tab goes from control to control; the area itself would be a stop where nothing happens.
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
+    // The window is always as wide as its pane.
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setWidget(m_contentView);
@@ -107,6 +109,7 @@ QDPreferencesWindow::Fit QDPreferencesWindow::fitFor(const QWidget& view) const
     QSize size = wantedSize(view);
     // No segment may be cut off by a narrow pane.
     size.setWidth(std::max(size.width(), toolbarSize.width()));
+    // Wrapped texts need less height where the toolbar makes the window wider than the pane.
     if (view.hasHeightForWidth())
         size.setHeight(view.heightForWidth(size.width()));
     size.rheight() += toolbarSize.height();

@@ -115,6 +115,7 @@ void QDPreferencesWindowController::rebuildToolbar()
                 &QDPreferencesWindowController::segmentedControlAction);
     }
     m_window->setToolbar(toolbar);
+    // A new toolbar knows nothing of the pane that is shown, and may be of another height.
     selectControlOf(m_shownViewController);
     fitWindow();
 }
@@ -164,6 +165,7 @@ void QDPreferencesWindowController::showPreferencesWindow()
         placeForFirstPane();
     }
     if (!isOnScreen(m_window.get())) {
+        // Another program may have changed what the pane shows while nobody saw it.
         if (m_shownViewController)
             m_shownViewController->viewWillAppear();
         // Shown transparent first: the first pane is put in while the window appears, which nobody should
@@ -188,6 +190,7 @@ void QDPreferencesWindowController::placeForFirstPane()
 
 void QDPreferencesWindowController::bringToFront()
 {
+    // Brings a minimized window back too.
     m_window->showNormal();
     m_window->raise();
     m_window->activateWindow();
@@ -271,6 +274,7 @@ void QDPreferencesWindowController::showPane(QDPreferencesWindowControllerProtoc
     m_shownView = &pane.view();
     m_window->setContent(m_shownView, m_allowsVibrancy);
     beginTransition(*m_shownView);
+    // Only now: the transition asks whether a pane was shown before.
     m_shownViewController = &pane;
     if (QWidget* responder = pane.initialFirstResponder(); canBeFirstResponder(responder))
         responder->setFocus(Qt::OtherFocusReason);
@@ -318,6 +322,7 @@ void QDPreferencesWindowController::centre()
 
 void QDPreferencesWindowController::setWindowAlpha(double alpha)
 {
+    // Where windows have no position of their own (Wayland) they have no opacity either.
     if (m_desktop.placesWindows)
         m_window->setWindowOpacity(alpha);
 }

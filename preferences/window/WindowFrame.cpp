@@ -71,8 +71,10 @@ QRect placedFrame(const WindowFrame& saved, const std::vector<QRect>& screens)
         std::max_element(screens.begin(), screens.end(), [&saved](const QRect& one, const QRect& other) {
             return commonArea(saved.frame, one) < commonArea(saved.frame, other);
         });
+    // Onto the screen that shows most of it, which need not be the one it was saved on.
     if (saved.frame.intersects(*best))
         return movedInto(saved.frame, *best);
+    // The same place on the first screen as it had on the one that is gone.
     const QPoint offset = screens.front().topLeft() - saved.screen.topLeft();
     return movedInto(saved.frame.translated(offset), screens.front());
 }
