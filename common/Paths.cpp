@@ -58,6 +58,7 @@ QByteArray pathBytes(const QString& text)
     QByteArray bytes;
     qsizetype plain = 0; // where the run begins that has no escape yet
     for (qsizetype at = 0; at < text.size(); ++at) {
+        // A pair is one character; only a lone one can be an escape.
         if (text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {
             ++at;
         } else if (isEscape(text[at])) {

@@ -11,10 +11,9 @@ namespace quindle {
 QString numberDescription(const QVariant& number);
 
 /// Any value: numbers as above, texts as they are, dates as "2014-03-02 00:00:00 +0000" (UTC), data as
-/// "<0a0b>" in groups of four bytes, arrays and dictionaries (keys sorted) over several lines as "(\n    1,\n
-/// 2\n)" and
-/// "{\n    key = value;\n}". Inside those, texts of anything but ASCII letters and digits are quoted and
-/// escaped. Empty for values of other types.
+/// "<0a0b>" in groups of four bytes. Arrays stand in parentheses, dictionaries in braces, with an item, or a
+/// "key = value;" in the order of the keys, on each line, indented by four blanks. Inside those, texts of
+/// anything but ASCII letters and digits are quoted and escaped. Empty for values of other types.
 QString valueDescription(const QVariant& value);
 
 } // namespace quindle

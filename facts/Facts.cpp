@@ -33,6 +33,7 @@ std::optional<int> chargeLimit(const FactSources& sources, FactPlace place)
 Fact deviceFact(const PeripheralBattery& device)
 {
     const QString level = knownText(device.level);
+    // The percentage says more; some devices have the level alone.
     const QString value = device.percent ? integerText(*device.percent) + QStringLiteral(" %") : level;
     return {.id = FactId::Peripheral,
             .group = FactGroup::Devices,
@@ -91,6 +92,7 @@ QString toolTipText(const FactSources& sources)
 
 void performClick(FactClick click, QDMac& mac)
 {
+    // It may have been taken out since the fact was shown.
     QDBattery* battery = mac.Battery();
     switch (click) {
     case FactClick::Nothing:

@@ -16,8 +16,8 @@ struct FactSources
     PowerSources* powerSources = nullptr; ///< for the charge limit and the devices
 };
 
-/// The facts of one place: for the report in the order of a record, elsewhere by rank. They are always the
-/// same ones, shown or not; only devices, which view and report have, come and go.
+/// The facts of one place: in the tables' order for the report, elsewhere by rank. They are always the same
+/// ones, shown or not; only devices, which view and report have, come and go.
 std::vector<Fact> factsFor(FactPlace place, const FactSources& sources);
 
 /// Value and detail in one text: "Connected · 60 Watts", in the report "Connected (60 Watts)".

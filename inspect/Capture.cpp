@@ -108,6 +108,7 @@ std::vector<SerialPair> inventedSerials(const QVariantMap& registry)
     const QString battery = text(batteryEntry(), QStringLiteral("BatterySerialNumber"));
     // Each invented serial has to differ from both, or it would give part of the other away.
     const QStringList both{computer, battery};
+    // The computer's keeps the characters that date it: its age is part of what is reported.
     return {{computer, inventedSerial(computer, true, both)},
             {battery, inventedSerial(battery, false, both)}};
 }

@@ -43,6 +43,7 @@ QVariantMap batteryEntry(const QDBattery& battery)
         {QStringLiteral("DesignCapacity"), static_cast<qint64>(std::llround(design))},
         {QStringLiteral("CycleCount"), battery.CycleCount()},
         {QStringLiteral("Voltage"), millivolts},
+        // Negative, because the demonstration discharges.
         {QStringLiteral("Amperage"),
          -static_cast<qint64>(std::llround(battery.WattThroughput() * 1e6 / millivolts))},
         {QStringLiteral("Temperature"), tenthsOfKelvin(battery.Temperature())},
@@ -58,6 +59,7 @@ QVariantMap batteryEntry(const QDBattery& battery)
 QVariantMap keysFromModel(const QDMac& mac)
 {
     const QVariantMap computer{
+        // With its NUL, as a registry holds it.
         {QStringLiteral("model"), mac.Model().value_or(QString()).toUtf8() + '\0'},
         {QStringLiteral("IOPlatformSerialNumber"), mac.Serial().value_or(QString())},
     };
@@ -65,6 +67,7 @@ QVariantMap keysFromModel(const QDMac& mac)
     QVariantMap registry{{QStringLiteral("IOPlatformExpertDevice"), computer}};
     if (const QDBattery* battery = mac.Battery()) {
         registry.insert(QStringLiteral("AppleSmartBattery"), batteryEntry(*battery));
+        // Without a source a replay would end: beside a battery that is fatal.
         const QVariantMap source{{QStringLiteral("BatteryHealth"), battery->BatteryHealth()}};
         keys.insert(QStringLiteral("PowerSources"), QVariantList{source});
     }

@@ -89,6 +89,8 @@ QVariantMap settingsState(const ApplicationPreferences& preferences)
         {Keys::customStatusBar.name(), preferences.customStatusBar()},
         {Keys::runInBackground.name(), preferences.runInBackground()},
         {Keys::bundleVersionAtQuit.name(), orNull(preferences.bundleVersionAtQuit())},
+        // One key holds two settings, and another is in both databases: the second has a name of its own
+        // here.
         {QStringLiteral("bundleVersionAtQuitText"), orNull(preferences.bundleVersionAtQuitText())},
         {Keys::statusBarString.name(), orNull(preferences.statusBarString())},
         {QStringLiteral("runInBackgroundOwn"), orNull(preferences.runInBackgroundOwn())},
@@ -143,6 +145,7 @@ QVariant barsState(const HelperAppDelegate& delegate, MainInterface& interface)
 QVariant versionItemText(MainInterface& interface)
 {
     const auto row = static_cast<std::size_t>(interface.outlets().versionItem);
+    // Rows count from 1.
     return interface.statusMenu().rows().at(row - 1).text;
 }
 

@@ -15,7 +15,8 @@ QString twoDigits(int number)
     return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
 }
 
-/// Characters that end a line for some reader, and the two that JSON itself uses inside a text.
+/// Characters that end a line for some reader, the two that JSON itself uses inside a text, and surrogates:
+/// half a pair cannot be written as UTF-8.
 bool mustBeEscaped(QChar c)
 {
     return c < u' ' || c == u'"' || c == u'\\' || (c >= u'\u007f' && c <= u'\u009f') || c == u'\u2028' ||

@@ -87,6 +87,7 @@ std::unique_ptr<QDMac> QDMac::initWithHost(const Platform& platform, const QStri
 
 void QDMac::loadSettings()
 {
+    // In this order: type, age and day are made of what was read before.
     m_OSXVersion = variantFromOptional(localGetOSXVersion());
     m_model = variantFromOptional(readModelIdentifier(m_platform.registry));
     const auto serial = readSerialNumber(m_platform.registry);

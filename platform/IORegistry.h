@@ -35,7 +35,7 @@ public:
     /// One property as it stands now.
     /// The invalid value when the handle is not open, when there is no such property and when it cannot be
     /// read; 0 and false are real values.
-    /// An entry that has gone has none, or goes on saying what it said last.
+    /// An entry that has gone has none, or still answers as it did last.
     /// Integers are qint64.
     virtual QVariant property(RegistryObject object, const QString& key) = 0;
 

@@ -46,7 +46,7 @@ struct Platform
     LoginItems& loginItems;                                       ///< what the session starts
     PowerEvents& powerEvents;                                     ///< plugs and swaps, as they happen
 
-    /// The same services but for those that `overrides` names.
+    /// The same services, except those that `overrides` names.
     Platform with(const ServiceOverrides& overrides) const;
 };
 

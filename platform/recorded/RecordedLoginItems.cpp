@@ -12,6 +12,7 @@ std::optional<std::vector<LoginItems::Item>> RecordedLoginItems::snapshot()
 {
     std::vector<Item> items;
     for (const QString& url : m_computer.loginItems()) {
+        // Never forgotten: an item keeps its number when a step changes the list.
         if (!m_known.contains(url))
             m_known.append(url);
         items.push_back(static_cast<Item>(m_known.indexOf(url)));
@@ -23,6 +24,7 @@ std::optional<QString> RecordedLoginItems::resolve(Item item)
 {
     if (item < 0 || item >= m_known.size())
         return std::nullopt;
+    // A machine file may have bundles with or without a slash at the end.
     return normalFileUrl(m_known[item]);
 }
 

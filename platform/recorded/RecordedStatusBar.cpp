@@ -53,6 +53,7 @@ void RecordedStatusItem::setMenu(StatusMenu* menu)
 
 std::unique_ptr<StatusItem> RecordedStatusBar::statusItemWithLength(double length)
 {
+    // Shared with the item, so that what it is given can be looked at from outside.
     m_lastItem = std::make_shared<StatusItemRecord>();
     m_lastItem->length = length;
     return std::make_unique<RecordedStatusItem>(m_lastItem);

@@ -81,6 +81,7 @@ void PreferencesToolbar::addItem(const ToolbarItem& item, const QStringList& seg
 
 void PreferencesToolbar::addPane(const ToolbarItem& item)
 {
+    // Its text comes later: which letter is marked depends on all titles.
     QAction* action = addAction(QString());
     action->setCheckable(true);
     action->setToolTip(item.toolTip.value_or(QString()));
@@ -153,6 +154,7 @@ void PreferencesToolbar::changeEvent(QEvent* event)
 void PreferencesToolbar::drawIcons()
 {
     const QColor ink = palette().color(QPalette::WindowText);
+    // In the order of the items, from which they were made.
     const QList<QAction*> all = actions();
     for (std::size_t i = 0; i < m_items.size() && qsizetype(i) < all.size(); ++i)
         if (m_items[i].kind == ToolbarItem::Kind::Pane)

@@ -128,6 +128,7 @@ private:
 QByteArray escapedValue(const QByteArray& text)
 {
     QByteArray written = text;
+    // Backslashes first, or those of the other escapes would be doubled.
     return written.replace('\\', "\\\\").replace('\n', "\\n").replace('\t', "\\t").replace('\r', "\\r");
 }
 
@@ -182,6 +183,7 @@ std::optional<QList<QByteArray>> execArguments(const QByteArray& written)
 
 QByteArray execValue(const QByteArray& program)
 {
+    // In quotes whatever it holds, so that blanks are part of it.
     QByteArray quoted = "\"";
     for (const char c : program) {
         if (QByteArrayView("\"`$\\").contains(c))

@@ -16,7 +16,7 @@ struct CurlSettings
     HttpLimits post{.time = std::chrono::seconds(30), .size = qsizetype{64} * 1024};
     HttpLimits contents{.time = std::chrono::seconds(3),
                         .size = qsizetype{64} * 1024}; ///< redirections included
-    QByteArray authorities{}; ///< the file of those that posts trust; the system's when empty
+    QByteArray authorities{}; ///< a file of certificate authorities to trust; the system's when empty
 };
 
 /// The exchanges themselves. Each request is sent once, over a connection of its own, and carries nothing

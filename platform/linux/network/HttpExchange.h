@@ -15,20 +15,20 @@ struct HttpRequest
     QUrl url;                         ///< http or https, with a host
     QList<QByteArray> headers;        ///< all there are besides "Host", in this order
     std::optional<QByteArray> body{}; ///< is posted; without one it is a GET
-    QByteArray authorities{};         ///< the file of those that are trusted; the system's when empty
+    QByteArray authorities{};         ///< a file of certificate authorities to trust; the system's when empty
 };
 
 struct HttpLimits
 {
     std::chrono::milliseconds time; ///< for the whole exchange, finding the host included
-    qsizetype size; ///< of the answer's body, decompressed; all around it may take three times as much
+    qsizetype size; ///< of the answer's body, decompressed; head and framing may take three times as much
 };
 
 struct HttpAnswer
 {
     long status = 0;
     QByteArray body;    ///< decompressed; of a compressed one that is cut off, what there is
-    QUrl redirection{}; ///< where the answer leads to; empty when nowhere
+    QUrl redirection{}; ///< where the answer redirects to; empty when nowhere
 };
 
 /// Sends `request` once and waits for its answer, without dispatching any event. Nothing without a complete

@@ -9,6 +9,5 @@
 
 extern "C" Q_DECL_EXPORT quindle::UrlSession* quindleMakeUrlSession(const char* programVersion)
 {
-    // What both sides use may be laid out differently in another version.
     return std::string_view(programVersion) == QUINDLE_VERSION ? new quindle::CurlUrlSession : nullptr;
 }

@@ -28,6 +28,7 @@ constexpr int nothingInherited = -1;
     [[maybe_unused]] ssize_t written = ::write(report, &own, sizeof own);
     takeWholeCoreDumps();
     if (inherited != nothingInherited)
+        // Every file of the program is opened to be closed here; this one is to stay.
         ::fcntl(inherited, F_SETFD, 0);
     ::execv(arguments[0], arguments);
     written = ::write(report, &own, sizeof own);

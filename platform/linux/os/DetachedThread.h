@@ -8,8 +8,8 @@ namespace quindle {
 /// room for a thread.
 bool startThread(std::function<void()> work);
 
-/// The same on the processor that the caller runs on, which is awake: no other one has to be woken for a
-/// short work that the caller waits for.
+/// The same on the processor that the caller runs on, which is awake: no other one has to be woken for short
+/// work that the caller waits for.
 bool startThreadHere(std::function<void()> work);
 
 } // namespace quindle

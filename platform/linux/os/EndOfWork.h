@@ -6,12 +6,12 @@
 
 namespace quindle {
 
-/// The end of a work on a thread of its own, which may never come. What that thread has written before
-/// `reach` can be read after `isReached`.
+/// The end of a piece of work on a thread of its own, which may never come. What that thread has written
+/// before `reach` can be read after `isReached`.
 class EndOfWork
 {
 public:
-    /// Waits for it, so long at most.
+    /// Waits for it, at most that long.
     bool isReached(std::chrono::milliseconds patience)
     {
         std::unique_lock lock(m_mutex);

@@ -18,7 +18,7 @@ class TimelyFiles
 public:
     using Read = std::function<std::optional<QByteArray>(const QString& path)>;
 
-    /// How long a file is waited for; it is by `read`, readSmallFile where that is empty.
+    /// `patience` is how long a file is waited for. `read` reads it; readSmallFile where that is empty.
     explicit TimelyFiles(std::chrono::milliseconds patience = std::chrono::milliseconds(200), Read read = {});
     ~TimelyFiles();
 

@@ -13,7 +13,7 @@ using Sample = TimeEstimator::Sample;
 using std::chrono::milliseconds;
 
 constexpr std::chrono::seconds lastMinute(60);
-constexpr int allDigits = 17;
+constexpr int allDigits = 17; // reads back to the same double, so both processes estimate the same
 constexpr qsizetype wordsOfState = 2;
 constexpr qsizetype wordsOfSample = 4;
 const QByteArray notKnown = QByteArrayLiteral("-");
@@ -84,6 +84,7 @@ QByteArray estimatorText(const TimeEstimator::Memory& memory)
 {
     if (memory.samples.empty())
         return {};
+    // The change of the charge is counted from the first sample, however old it is.
     QByteArray text = stateLine(memory) + lineOf(memory.samples.front());
     const milliseconds end = memory.samples.back().time;
     for (auto sample = memory.samples.begin() + 1; sample != memory.samples.end(); ++sample)

@@ -47,7 +47,7 @@ private:
     PowerSampler& m_sampler;
     Folders m_folders;
     TimelyFiles m_files;
-    QVariantMap m_lastBatteryEntry; ///< what an open entry goes on saying when its battery has gone
+    QVariantMap m_lastBatteryEntry; ///< what an open entry still answers when its battery has gone
     std::unordered_map<RegistryObject, Entry> m_open;
     RegistryObject m_lastHandle = 0;
 };

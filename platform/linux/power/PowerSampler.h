@@ -32,7 +32,7 @@ public:
     explicit PowerSampler(std::string folder, ReadFunction read = readDescriptor,
                           MonotonicClock now = timeSinceBoot, ReadingPatience patience = {});
 
-    /// Null at no time.
+    /// Never null.
     std::shared_ptr<const PowerSample> sample();
 
     /// Has the next question take a new sample.

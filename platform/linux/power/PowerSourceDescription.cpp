@@ -61,6 +61,7 @@ QVariantMap batteryDescription(const Battery& battery, bool isExternallyPowered,
 
 QVariantMap uninterruptibleDescription(const Battery& supply)
 {
+    // Whether mains feed a UPS only its own state says; the computer's adapters are behind it.
     return sourceDescription(supply, QStringLiteral("UPS"), supply.state != ChargingState::Discharging,
                              supply.averageMinutesToEmpty, supply.averageMinutesToFull);
 }

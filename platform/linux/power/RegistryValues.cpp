@@ -45,6 +45,7 @@ QVariantMap registryEntry(const SystemPower& power, const SystemTimes& times)
     const Battery& first = batteries.front(); // texts and date are all of one battery
     QVariantMap entry;
     const auto add = [&entry](QLatin1String key, const QVariant& value) {
+        // A key with 0 would be taken for a figure of the battery's.
         if (value.isValid())
             entry.insert(key, value);
     };

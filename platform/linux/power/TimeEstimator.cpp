@@ -21,7 +21,9 @@ constexpr milliseconds chargeWindow = 10min;
 
 std::optional<int> minutesFor(std::optional<double> charge, std::optional<double> current)
 {
+    // As with a driver's own times: beyond that the current is too small to mean anything.
     constexpr double tenDays = 10.0 * 24 * 60;
+    // A charge that rose while the battery discharges gives a current below 0, and no time.
     if (!charge || !current || *charge < 0 || !(*current > 0))
         return std::nullopt;
     const double minutes = *charge / *current * 60;
@@ -82,8 +84,10 @@ std::optional<double> TimeEstimator::averageCurrent() const
             continue;
         sum += std::abs(*sample->current);
         ++count;
+        // Only as far back as there are samples: one after a gap has not watched for a minute.
         watched = end - sample->time;
     }
+    // Some drivers give neither current nor power (laptop-discharging-without-current).
     if (count == 0)
         return currentFromCharges();
     return watched >= shortestWatch ? std::optional(sum / count) : std::nullopt;

@@ -20,8 +20,8 @@ public:
 
     QVariant object(const QString& key) const override;
 
-    /// Replaces the file only when the stored value differs in type or value. A value that is none of a
-    /// property list is not stored.
+    /// Replaces the file only when the stored value differs in type or value. A value of no property-list
+    /// type is not stored.
     void setObject(const QString& key, const QVariant& value) override;
 
     QVariantMap dictionaryRepresentation() const override;

@@ -39,10 +39,11 @@ public:
     /// The answer to the last request, once; waits for it until `deadline`.
     std::optional<Answer> take(Clock::time_point deadline);
 
-    /// Leaves the thread to itself if it has been with one file for so long, and adds that to the slow files.
+    /// Leaves the thread to itself if it has been at one file for that long, and adds the file to the slow
+    /// ones.
     bool abandonIfStuck(std::chrono::milliseconds longest);
 
-    /// Has a reading that is under way touch no further file.
+    /// Keeps a reading that is under way from touching any further file.
     void end();
 
 private:

@@ -18,8 +18,7 @@ class SlowFile
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// As if a read of it had begun then, which somebody else performs. `path` is below `folder`, or
-    /// absolute.
+    /// A read of it began at `begun`, and somebody else performs it. `path` is below `folder`, or absolute.
     SlowFile(std::string folder, std::string path, ReadFunction read, Clock::time_point begun);
 
     /// What the last read gave, as a read into `buffer` would; -EAGAIN while one is under way.
@@ -33,7 +32,7 @@ public:
 
     bool isUnderWay() const;
 
-    /// Whether the last read was as quick as a file's.
+    /// Whether the last read was as quick as that of any other file.
     bool hasRecovered() const;
 
 private:

@@ -18,7 +18,7 @@ public:
     enum class Uevent {
         Kernel,     ///< made while it is read, from the same device as the other files
         File,       ///< somebody has written it, perhaps at another moment than the others
-        FileUnseen, ///< and changes are not heard of
+        FileUnseen, ///< the same, and nobody says when it changes
     };
 
     /// `kind` is what it was before, if that is known: the files that say so may not answer now.

@@ -15,8 +15,8 @@ namespace quindle {
 class SupplyMemory
 {
 public:
-    /// The readings with everything in its place that can be had. Without readings it is what was read last.
-    /// `now` is of one clock that only runs forward.
+    /// The readings, completed as far as possible. Without readings it is what was read last. `now` is of one
+    /// clock that only runs forward.
     SupplyReadings complete(std::optional<SupplyReadings> readings, std::chrono::milliseconds now);
 
 private:

@@ -13,7 +13,6 @@ LinuxBundle::LinuxBundle(const QString& executablePath)
     // Links resolved: programs are usually started through one in /usr/bin.
     const auto executable = std::filesystem::canonical(pathBytes(executablePath).toStdString(), error);
     if (!error)
-        // The program is BUNDLE/Contents/Linux/PROGRAM.
         m_path = pathText(QByteArray::fromStdString(executable.parent_path().parent_path().parent_path()));
 }
 
