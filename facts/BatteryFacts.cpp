@@ -100,6 +100,7 @@ FactText health(const BatterySource& source)
     return text;
 }
 
+/// For the report alone: elsewhere the word stands beside the health.
 FactText condition(const BatterySource& source)
 {
     return {.value = knownText(source.battery.BatteryHealth())};

@@ -31,6 +31,7 @@ FactText name(const ComputerSource& source)
 FactText type(const ComputerSource& source)
 {
     const QString type = knownText(source.mac.Type());
+    // Elsewhere the words for the model have a row of their own.
     if (type.isEmpty() || source.place != FactPlace::Report)
         return {.value = type};
     return {.value = joined(type, QStringLiteral(" "), knownText(source.mac.LongModel()))};

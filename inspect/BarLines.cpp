@@ -104,6 +104,7 @@ QByteArray barLine(BarFormat format, const BarState& state)
     case BarFormat::Waybar:
         return jsonText(waybarObject(state));
     }
+    // A title may hold line breaks, and bars take each line for a new state.
     return singleLine(state.title).toUtf8();
 }
 

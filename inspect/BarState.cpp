@@ -66,6 +66,7 @@ QString chargeClass(double stateOfCharge)
 BarState barState(const HelperAppDelegate& delegate, const QString& toolTip)
 {
     BarState bar;
+    // The texts that the tray shows, and not others made for bars.
     bar.title = delegate.statusItem().title();
     bar.toolTip = toolTip;
     const QDBattery* battery = delegate.myMac().Battery();

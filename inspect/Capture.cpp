@@ -83,6 +83,7 @@ QVariantMap withoutServiceHosts(QVariantMap info)
 QVariantMap capturedBundle(const Bundle& bundle)
 {
     QVariantMap captured{{QStringLiteral("Path"), bundle.path()}};
+    // A bundle without information is captured without: its replay ends as the program does there.
     if (const auto info = bundle.infoDictionary())
         captured.insert(QStringLiteral("Info"), withoutServiceHosts(*info));
     return captured;
@@ -168,7 +169,9 @@ QVariantMap withoutIdentity(const QVariantMap& keys)
                      helperLoginItem(clean.value(QStringLiteral("Bundle")).toMap()));
     clean.insert(QStringLiteral("HostName"), QStringLiteral("Computer"));
     const std::vector<SerialPair> serials = inventedSerials(keys.value(QStringLiteral("Registry")).toMap());
-    for (QVariant& value : clean) // the format's own keys stay, whatever the serials are
+    // Last, in all that is left: a serial number may stand in any text. Only the format's own keys stay,
+    // whatever the serials are.
+    for (QVariant& value : clean)
         value = withoutSerials(value, serials);
     return clean;
 }

@@ -44,6 +44,7 @@ QString writeMachineFile(const QString& path, const QVariantMap& keys)
 {
     const QByteArray content = xmlPropertyList(keys);
     std::error_code error;
+    // The writer takes absolute paths only.
     const auto absolute = std::filesystem::absolute(pathBytes(path).toStdString(), error);
     const QByteArray target = QByteArray::fromStdString(absolute);
     // A link stays one, and a file is never seen half written.

@@ -74,6 +74,7 @@ bool takeOption(const QStringList& arguments, qsizetype& index, Given& given, QS
             given.*option.member = argument.mid(name.size() + 1);
         else if (argument != name)
             continue;
+        // An empty value too: "--machine=" would look at this computer without a word.
         if (!(given.*option.member) || (given.*option.member)->isEmpty())
             fault = QStringLiteral("%1 needs a value").arg(name);
         return true;

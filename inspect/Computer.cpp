@@ -60,6 +60,7 @@ std::variant<std::unique_ptr<Computer>, MachineRefusal> Computer::open(const Com
 
 Computer::Computer(Machine machine, const CommandLine& commandLine)
     : m_machine(std::move(machine))
+    // Settings for reading only: a damaged file is reported, and left for the helper to set aside.
     , m_linux(commandLine.sysfsDirectory, SettingsAccess::ReadOnly)
     , m_recorded(m_machine.keys, m_linux.bundle(), m_machine.file)
     , m_settings(isRecorded(commandLine) ? static_cast<UserDefaultsDatabases&>(m_recorded.userDefaults)

@@ -26,6 +26,7 @@ Follower::Follower(Computer& computer, bool isDemo, BarFormat format, Write writ
 
 void Follower::writeIfChanged()
 {
+    // Each time: another program may have changed the template.
     m_figureWatch.setTitleTemplate(m_inspection.preferences().customStatusBar());
     const RecentEvents recent = m_computer.takeEvents(); // or they would pile up
     QByteArray line = barLine(m_format, barState(m_inspection.delegate(), recent.toolTip));

@@ -29,6 +29,7 @@ QVariant orNull(const std::optional<Value>& value)
 QVariantMap valueProperties(const QObject& object)
 {
     QVariantMap values;
+    // Those of QObject itself, such as its name, come before the class's own.
     const QMetaObject& meta = *object.metaObject();
     for (int index = QObject::staticMetaObject.propertyCount(); index < meta.propertyCount(); ++index) {
         const QMetaProperty property = meta.property(index);
@@ -156,6 +157,7 @@ QVariant snapshotState(const QDMac& mac)
 
 QVariant uploadState(const HelperAppDelegate& delegate)
 {
+    // Made as the gate would have it made, and not sent: looking sends nothing.
     const auto upload = delegate.currentDailyUpload();
     if (!upload)
         return {};

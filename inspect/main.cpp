@@ -32,6 +32,7 @@ void print(const QByteArray& bytes)
 
 int refuse(const QString& line)
 {
+    // Lines name files, whose names need not be UTF-8.
     std::fprintf(stderr, "quindle-inspect: %s\n", pathBytes(line).constData());
     return wrongUsage;
 }
@@ -108,6 +109,7 @@ int inspect(const CommandLine& commandLine)
 
 int answer(const CommandLine& commandLine)
 {
+    // Help and version need no computer, which might be refused.
     switch (commandLine.call) {
     case CommandLine::Call::Help:
         print(helpText().toUtf8());

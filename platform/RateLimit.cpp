@@ -15,6 +15,7 @@ RateLimit::RateLimit(RunLoop& runLoop, double settling, std::function<void()> ac
 
 RateLimit::~RateLimit()
 {
+    // The loop keeps its timers alive, and would call an object that is gone.
     if (m_timer)
         m_timer->invalidate();
 }

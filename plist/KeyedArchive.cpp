@@ -15,6 +15,7 @@ struct NamedClass
     ArchivedClass archived;
 };
 
+/// With the mutable ones: an encoder writes the class that the object had at the moment.
 constexpr std::array namedClasses{
     NamedClass{"NSArray", ArchivedClass::Array},
     NamedClass{"NSMutableArray", ArchivedClass::Array},

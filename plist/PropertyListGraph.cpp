@@ -37,7 +37,7 @@ Kind kindOf(quint8 marker)
                : detail == 0x8 || detail == trueDetail ? Kind::Boolean
                                                        : Kind::Invalid;
     case 0x1:
-        return detail <= 4 ? Kind::Integer : Kind::Invalid;
+        return detail <= 4 ? Kind::Integer : Kind::Invalid; // 2 to the power of it are the bytes, 16 at most
     case 0x2:
         return detail == floatDetail || detail == 3 ? Kind::Real : Kind::Invalid;
     case 0x3:
@@ -80,6 +80,7 @@ void PropertyListGraph::readTrailer()
     constexpr quint64 trailerSize = 32;
     if (m_size < headerSize + trailerSize)
         return;
+    // Six bytes that are not used, two widths of a byte each, and three numbers of eight.
     const quint64 trailer = m_size - trailerSize;
     m_offsetWidth = number(trailer + 6, 1);
     m_referenceWidth = number(trailer + 7, 1);
@@ -100,7 +101,8 @@ PropertyListGraph::Element PropertyListGraph::elementAt(quint64 offset) const
         return invalid;
     const auto marker = static_cast<quint8>(m_bytes[static_cast<qsizetype>(offset)]);
     Element found{.kind = kindOf(marker), .marker = marker, .start = offset + 1, .count = detailOf(marker)};
-    // Checked once here, so that the readers below need no bounds of their own.
+    // Checked once here, so that the readers below need no bounds of their own. In this order: only a count
+    // that is at most the list's size cannot overflow the length.
     const bool isInside =
         readCount(found) && found.count <= m_size && byteLength(found) <= m_size - found.start;
     return isInside ? found : invalid;

@@ -45,6 +45,7 @@ bool isXmlCharacter(QChar character)
     const char16_t code = character.unicode();
     if (character.isSurrogate())
         return false; // one half of a character
+    // U+FFFE and U+FFFF are no characters for XML.
     return code >= 0x20 ? code < 0xfffe : code == u'\t' || code == u'\n' || code == u'\r';
 }
 

@@ -182,6 +182,7 @@ bool Unarchiver::readDictionary(const Element& element, int level, Object& objec
 {
     const auto keyReferences = references(element, "NS.keys", "NS.key.");
     const auto values = references(element, "NS.objects", "NS.object.");
+    // Of different lengths, nobody knows which value belongs to which key.
     if (!keyReferences || !values || keyReferences->size() != values->size())
         return false;
     const KeyList* keys = keyList(*keyReferences, level + 1);
@@ -337,6 +338,7 @@ std::optional<Unarchiver::References> Unarchiver::references(const Element& elem
 
 std::optional<Unarchiver::References> Unarchiver::listedReferences(const Element& list)
 {
+    // Spent before room is reserved: the count is only what the file says of itself.
     if (list.kind != Kind::Array || !spend(list.count))
         return std::nullopt;
     References found;

@@ -285,6 +285,7 @@ MachineStep stepFromKeys(QVariantMap keys, const QDir& folder)
 MachineResult readMachineFile(const QString& path)
 {
     const FileContents file = fileContents(path, mostPropertyListBytes);
+    // Two refusals, which say whether the file or what is in it is at fault.
     if (file.error != 0)
         return refusal(path, readingFault(file.error));
     const std::optional<QVariant> root = propertyListFromBytes(file.bytes);

@@ -21,6 +21,7 @@ void RecordedTimer::fire() const
 std::shared_ptr<Timer> RecordedRunLoop::scheduleRepeatingTimer(double interval, double tolerance,
                                                                std::function<void()> fire)
 {
+    // Kept and not started: what is played refreshes with each step, and at no other time.
     m_timers.push_back(std::make_shared<RecordedTimer>(interval, tolerance, std::move(fire)));
     return m_timers.back();
 }

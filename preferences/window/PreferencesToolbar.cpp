@@ -132,6 +132,7 @@ void PreferencesToolbar::setSelectedItemIdentifier(const QString& identifier)
 {
     for (QAction* action : m_panes->actions())
         if (action->objectName() == identifier)
+            // Unlike a click this does not trigger the action, so no pane is shown by it.
             action->setChecked(true);
 }
 

@@ -103,6 +103,7 @@ void QDPreferencesWindowController::rebuildToolbar()
     if (const auto configuration = toolbarConfiguration(m_viewControllers, m_flags)) {
         std::vector<ToolbarItem> items;
         for (const QString& identifier : toolbarDefaultItemIdentifiers())
+            // The identifiers are our own, so each has an item.
             items.push_back(*itemForItemIdentifier(identifier));
         QStringList titles;
         for (const auto* pane : m_viewControllers)
@@ -141,6 +142,7 @@ void QDPreferencesWindowController::selectFirstControl()
     if (SegmentedControl* control = toolbar->segmentedControl())
         control->selectSegmentWithTag(0);
     else
+        // A toolbar is there only where there is a pane, so the item exists.
         toolbar->setSelectedItemIdentifier(toolbarDefaultItemIdentifiers().at(firstPaneItemIndex(m_flags)));
 }
 
@@ -294,6 +296,7 @@ void QDPreferencesWindowController::beginTransition(QWidget& view)
 
 void QDPreferencesWindowController::removeShownView()
 {
+    // Its effect would stay on a view that goes back to its pane.
     if (m_transition)
         m_transition->finish();
     if (!m_shownView)
