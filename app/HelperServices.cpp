@@ -19,7 +19,7 @@ namespace {
 /// The tray around the item. The user's own choice of its form is asked for each time it is shown anew.
 StatusItemSurroundings surroundings(const Bundle& programBundle, UserDefaultsDatabases& databases)
 {
-    return {.iconsDirectory = programBundle.resourcesPath() + QStringLiteral("/icons"),
+    return {.resourcesDirectory = programBundle.resourcesPath(),
             .currentDesktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
             .presentationChoice = [&databases] {
                 return databases.standard().object(Keys::statusItemPresentation.name()).toString();

@@ -43,7 +43,7 @@ LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, RunLoop& runLoop,
     : m_bus(bus)
     , m_runLoop(runLoop)
     , m_surroundings(std::move(surroundings))
-    , m_pictures(m_surroundings.iconsDirectory)
+    , m_pictures(m_surroundings.resourcesDirectory)
     , m_guard([this] {
         withdrawObjects();
         Q_EMIT busAbused();

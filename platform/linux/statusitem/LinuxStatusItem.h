@@ -28,7 +28,7 @@ class WatcherLink;
 /// What a status item finds around it.
 struct StatusItemSurroundings
 {
-    QString iconsDirectory;
+    QString resourcesDirectory;
     QString currentDesktop;                      ///< names separated by colons, as in XDG_CURRENT_DESKTOP
     std::function<QString()> presentationChoice; ///< "label", "wide", "icon"; anything else: by the host
     std::chrono::milliseconds registrationCheck{3000};

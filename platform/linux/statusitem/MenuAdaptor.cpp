@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include <QGuiApplication>
+#include <QLocale>
 
 #include "platform/linux/statusitem/MenuLayout.h"
 
@@ -70,7 +70,7 @@ QString MenuAdaptor::status() const
 
 QString MenuAdaptor::textDirection() const
 {
-    return QGuiApplication::isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr");
+    return QLocale().textDirection() == Qt::RightToLeft ? QStringLiteral("rtl") : QStringLiteral("ltr");
 }
 
 QStringList MenuAdaptor::iconThemePath() const

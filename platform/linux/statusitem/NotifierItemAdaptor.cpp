@@ -66,7 +66,7 @@ QList<NotifierPixmap> NotifierItemAdaptor::iconPixmap() const
     if (m_announced.carrier == Carrier::Drawing && !m_pictures.drawing(m_announced.picture).isEmpty())
         return {};
     QList<NotifierPixmap> pixmaps;
-    for (const QImage& image : m_pictures.images(m_announced.picture))
+    for (const Pixels& image : m_pictures.images(m_announced.picture))
         pixmaps.append(notifierPixmap(image));
     return pixmaps;
 }

@@ -2,21 +2,21 @@
 
 #include <QDBusArgument>
 #include <QDBusMetaType>
-#include <QImage>
 #include <QtEndian>
+
+#include "platform/linux/pictures/Pixels.h"
 
 namespace quindle {
 
-NotifierPixmap notifierPixmap(const QImage& image)
+NotifierPixmap notifierPixmap(const Pixels& picture)
 {
-    const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
-    NotifierPixmap pixmap{argb.width(), argb.height(), {}};
-    const qsizetype lineBytes = qsizetype{4} * argb.width();
-    pixmap.pixels.reserve(lineBytes * argb.height());
-    for (int y = 0; y < argb.height(); ++y)
-        pixmap.pixels.append(reinterpret_cast<const char*>(argb.constScanLine(y)), lineBytes);
-    char* pixels = pixmap.pixels.data();
-    qToBigEndian<quint32>(pixels, pixmap.pixels.size() / 4, pixels);
+    NotifierPixmap pixmap{picture.width, picture.height, {}};
+    pixmap.pixels.resize(static_cast<qsizetype>(4 * picture.data.size()));
+    char* to = pixmap.pixels.data();
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x, to += 4)
+            qToBigEndian(colourAt(picture, x, y), to);
+    }
     return pixmap;
 }
 

@@ -6,9 +6,10 @@
 #include <QString>
 
 class QDBusArgument;
-class QImage;
 
 namespace quindle {
+
+struct Pixels;
 
 /// (iiay): a picture on the bus, its pixels as ARGB in network byte order, not premultiplied.
 struct NotifierPixmap
@@ -27,7 +28,7 @@ struct NotifierToolTip
     QString body;
 };
 
-NotifierPixmap notifierPixmap(const QImage& image);
+NotifierPixmap notifierPixmap(const Pixels& picture);
 
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap);
 const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap);

@@ -68,7 +68,7 @@ QString toolTipTitle(const Presentation& presented, const ItemContents& contents
 
 } // namespace
 
-Presentation present(const ItemContents& contents, const HostTraits& host)
+Presentation present(const ItemContents& contents, const HostTraits& host, const QString& fontFamily)
 {
     Presentation presented;
     presented.title = busText(contents.title);
@@ -84,6 +84,8 @@ Presentation present(const ItemContents& contents, const HostTraits& host)
     presented.picture.ink = host.textColour;
     presented.picture.inAllHeights = host.labelHidesIcon;
     presented.picture.isSmall = host.drawsSmall;
+    if (!presented.picture.text.isEmpty())
+        presented.picture.fontFamily = fontFamily;
     presented.carrier = carrierOf(presented.picture, host);
     return presented;
 }

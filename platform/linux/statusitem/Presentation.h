@@ -36,6 +36,7 @@ struct Picture
     Argb ink = 0;              ///< what the panel writes in; see isKnown
     bool isSmall = false;      ///< the host shows a drawing in 16 pixels, not in 22
     bool inAllHeights = false; ///< a wide one is wanted as high as icons are, not high and to be scaled
+    QString fontFamily{};      ///< of text; empty for the system's usual one
 
     friend bool operator==(const Picture&, const Picture&) = default;
 };
@@ -63,7 +64,8 @@ struct Presentation
 };
 
 /// What that host sees of these contents. The title is exact; what is drawn or written beside the icon is
-/// one line and cut with an ellipsis; the picture is never empty unless the host writes the title.
-Presentation present(const ItemContents& contents, const HostTraits& host);
+/// one line and cut with an ellipsis; the picture is never empty unless the host writes the title. The family
+/// is the one that the desktop writes in, empty while that is unknown.
+Presentation present(const ItemContents& contents, const HostTraits& host, const QString& fontFamily = {});
 
 } // namespace quindle

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <map>
-#include <set>
-#include <tuple>
 #include <vector>
 
-#include <QImage>
 #include <QString>
 
+#include "platform/linux/pictures/IconMasks.h"
+#include "platform/linux/pictures/Lettering.h"
+#include "platform/linux/pictures/Pixels.h"
 #include "platform/linux/statusitem/Presentation.h"
 
 namespace quindle {
@@ -17,33 +16,37 @@ namespace quindle {
 class StatusPictures
 {
 public:
-    /// Images are the files NAME-symbolic.svg in that folder, made on 22 pixels, and in its folder "16", made
-    /// on 16; transparent.png is there too.
-    explicit StatusPictures(QString iconsDirectory);
+    /// In that folder are the images' shapes, masks/NAME.pgm, and their drawings: icons/NAME-symbolic.svg,
+    /// made on 22 pixels, and icons/16/NAME-symbolic.svg, made on 16; icons/transparent.png is there too.
+    explicit StatusPictures(const QString& resourcesDirectory);
 
-    /// The picture in that size (pixels; the height of a wide one). Null when the image has no file.
-    QImage image(const Picture& picture, int size);
+    /// The picture in that size (pixels; the height of a wide one). Empty when the image has no file.
+    Pixels image(const Picture& picture, int size);
 
     /// The sizes that hosts choose from: squares, or one wide picture. Hosts take the largest by different
     /// rules, so the two are never mixed. Empty for a transparent picture.
-    std::vector<QImage> images(const Picture& picture);
+    std::vector<Pixels> images(const Picture& picture);
 
     /// The picture as a file, for hosts that show nothing else; empty if it could not be written.
     QString file(const Picture& picture);
 
     /// The square picture as a drawing without a colour of its own, as a file; empty if there is none.
-    QString drawing(const Picture& picture) const;
+    QString drawing(const Picture& picture);
 
     /// A picture of one transparent pixel. It takes the place of the host's own picture for a missing icon.
     QString transparentFile() const;
 
 private:
-    QString drawingOfImage(const QString& name, int grid) const;
-    QImage glyph(const Picture& picture, int size);
+    Pixels drawn(const Picture& picture, int size);
+    Pixels icon(const Picture& picture, int size);
+    Pixels squareText(const Picture& picture, int size);
+    Pixels wideText(const Picture& picture, int height);
+    QByteArray drawingOfText(const Picture& picture);
+    QString drawingOfImage(const QString& name, bool isSmall) const;
 
     QString m_iconsDirectory;
-    std::map<std::tuple<QString, int, Argb>, QImage> m_glyphs; ///< kept, because reading a drawing takes long
-    std::set<QString> m_missing;                               ///< already logged
+    IconMasks m_masks;
+    Lettering m_lettering;
 };
 
 } // namespace quindle

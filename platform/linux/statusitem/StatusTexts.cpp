@@ -1,7 +1,5 @@
 #include "platform/linux/statusitem/StatusTexts.h"
 
-#include <QTextDocument>
-
 #include "common/SingleLine.h"
 
 namespace quindle {
@@ -9,6 +7,21 @@ namespace quindle {
 namespace {
 
 constexpr int menuLabelLength = 100;
+
+/// Whether a host that looks for markup may find some. It looks closer than this, but what is written as
+/// markup without need is shown as it should be all the same.
+bool mayLookLikeMarkup(const QString& text)
+{
+    return text.contains(u'<') || text.contains(QLatin1String("&lt;"));
+}
+
+/// A blank that markup does not join with its neighbours.
+QString asMarkup(QChar c)
+{
+    if (c == u'\n')
+        return QStringLiteral("<br>");
+    return c.isSpace() ? QString(QChar(QChar::Nbsp)) : QString(c).toHtmlEscaped();
+}
 
 } // namespace
 
@@ -25,7 +38,12 @@ QString escapedMarkup(const QString& text)
 
 QString literalPanelToolTip(const QString& text)
 {
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+    if (!mayLookLikeMarkup(text))
+        return text;
+    QString markup = QStringLiteral("<p>");
+    for (const QChar c : text)
+        markup += asMarkup(c);
+    return markup + QStringLiteral("</p>");
 }
 
 QString menuLabel(const QString& text)

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QCursor>
 #include <QIcon>
+#include <QImage>
 #include <QMenu>
 #include <QPalette>
 #include <QPixmap>
@@ -20,11 +21,18 @@ namespace {
 // An X11 tray gives the icon its room and never scales it, so the usual rooms get pictures of their own.
 constexpr std::array traySizes{16, 22, 24, 32, 44, 48};
 
+QImage qtImage(const Pixels& pixels)
+{
+    const auto* bytes = reinterpret_cast<const uchar*>(pixels.data.data());
+    // A copy, because the image would only borrow the pixels.
+    return QImage(bytes, pixels.width, pixels.height, QImage::Format_ARGB32_Premultiplied).copy();
+}
+
 QIcon trayIcon(const Picture& picture, StatusPictures& pictures)
 {
     QIcon icon;
     for (const int size : traySizes)
-        icon.addPixmap(QPixmap::fromImage(pictures.image(picture, size)));
+        icon.addPixmap(QPixmap::fromImage(qtImage(pictures.image(picture, size))));
     return icon;
 }
 

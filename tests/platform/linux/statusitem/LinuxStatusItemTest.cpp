@@ -63,7 +63,7 @@ protected:
     {
         item = std::make_unique<LinuxStatusItem>(
             bus.connect(), runLoop,
-            StatusItemSurroundings{QStringLiteral(QUINDLE_ICONS), currentDesktop, [this] { return choice; },
+            StatusItemSurroundings{QStringLiteral(QUINDLE_RESOURCES), currentDesktop, [this] { return choice; },
                                    registrationCheck});
         item->setTitle(u("87.0%"));
         item->setFallbackText(u("87"));
@@ -197,7 +197,7 @@ TEST_F(LinuxStatusItemTest, labelHostWithoutImageGetsATransparentFile)
     makeRegisteredItem();
     item->setImage(nullptr);
     settle();
-    EXPECT_EQ(host.itemProperty("IconName"), u(QUINDLE_ICONS "/transparent.png"));
+    EXPECT_EQ(host.itemProperty("IconName"), u(QUINDLE_RESOURCES "/icons/transparent.png"));
     EXPECT_EQ(pixmaps("IconPixmap").size(), 0);
 }
 
@@ -205,7 +205,7 @@ TEST_F(LinuxStatusItemTest, hostThatColoursDrawingsGetsNothingElse)
 {
     currentDesktop = u("KDE");
     makeRegisteredItem();
-    EXPECT_EQ(host.itemProperty("IconName"), u(QUINDLE_ICONS "/#bat34-symbolic.svg"));
+    EXPECT_EQ(host.itemProperty("IconName"), u(QUINDLE_RESOURCES "/icons/#bat34-symbolic.svg"));
     EXPECT_EQ(pixmaps("IconPixmap").size(), 0);
     item->setImage(std::make_shared<Image>(u("none")));
     settle();
@@ -417,7 +417,7 @@ TEST(LinuxStatusItemWithoutBus, keepsItsValues)
 {
     LinuxRunLoop runLoop;
     LinuxStatusItem item(QDBusConnection(u("no such connection")), runLoop,
-                         StatusItemSurroundings{QStringLiteral(QUINDLE_ICONS), {}, {}});
+                         StatusItemSurroundings{QStringLiteral(QUINDLE_RESOURCES), {}, {}});
     item.setTitle(u("87.0%"));
     QCoreApplication::processEvents();
     EXPECT_EQ(item.title(), u("87.0%"));

@@ -171,6 +171,16 @@ TEST(Presentation, noLabelWhereThePersonWantsNone)
     EXPECT_EQ(presented.labelGuide, QString());
 }
 
+TEST(Presentation, fontFamilyMattersOnlyWhereTextIsDrawn)
+{
+    const ItemContents withIcon{u("87.0%"), u("#bat34"), u("87"), {}, 12.0};
+    const ItemContents without{u("87.0%"), {}, u("87"), {}, 12.0};
+    EXPECT_EQ(present(withIcon, squareHost, u("Sans")), present(withIcon, squareHost, u("Serif")));
+    EXPECT_EQ(present(without, labelHost, u("Sans")), present(without, labelHost, u("Serif")));
+    EXPECT_EQ(present(without, squareHost, u("Sans")).picture.fontFamily, u("Sans"));
+    EXPECT_EQ(present(withIcon, wideHost, u("Sans")).picture.fontFamily, u("Sans"));
+}
+
 TEST(Presentation, fontSizeMattersOnlyWhereTextIsDrawn)
 {
     const ItemContents small{u("87.0%"), u("#bat34"), {}, {}, 12.0};

@@ -16,13 +16,19 @@ namespace {
 
 using namespace quindle;
 
-void drawSheet(const QString& icons, const QString& file)
+QImage imageOf(const Pixels& pixels)
+{
+    const auto* bytes = reinterpret_cast<const uchar*>(pixels.data.data());
+    return QImage(bytes, pixels.width, pixels.height, QImage::Format_ARGB32_Premultiplied).copy();
+}
+
+void drawSheet(const QString& resources, const QString& file)
 {
     const QStringList names{QStringLiteral("#bat04"),       QStringLiteral("#bat14"),
                             QStringLiteral("#bat24"),       QStringLiteral("#bat34"),
                             QStringLiteral("#bat44"),       QStringLiteral("#bat04Charge"),
                             QStringLiteral("#bat44Charge"), QStringLiteral("AppIconBW")};
-    StatusPictures pictures(icons);
+    StatusPictures pictures(resources);
     QImage sheet(60 * 8, 4 * 150, QImage::Format_RGB32);
     QPainter painter(&sheet);
     int y = 0;
@@ -31,7 +37,7 @@ void drawSheet(const QString& icons, const QString& file)
         for (const int size : {16, 22, 24, 32, 44}) {
             for (int i = 0; i < names.size(); ++i)
                 painter.drawImage(60 * i + 5, y + 2,
-                                  pictures.image({Picture::Kind::Icon, names[i], {}, 0}, size));
+                                  imageOf(pictures.image({Picture::Kind::Icon, names[i], {}, 0}, size)));
             y += size + 2;
         }
         y += 150 - (16 + 22 + 24 + 32 + 44 + 10);
@@ -59,7 +65,7 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QCommandLineParser arguments;
-    const QString icons = QStringLiteral(QUINDLE_ICONS);
+    const QString resources = QStringLiteral(QUINDLE_RESOURCES);
     arguments.addOptions({
         {QStringLiteral("text"), {}, QStringLiteral("text"), QStringLiteral("87.0%")},
         {QStringLiteral("image"), {}, QStringLiteral("name")},
@@ -70,14 +76,14 @@ int main(int argc, char** argv)
     });
     arguments.process(application);
     if (arguments.isSet(QStringLiteral("sheet"))) {
-        drawSheet(icons, arguments.value(QStringLiteral("sheet")));
+        drawSheet(resources, arguments.value(QStringLiteral("sheet")));
         return 0;
     }
 
     const QString choice = arguments.value(QStringLiteral("choice"));
     LinuxRunLoop runLoop;
     LinuxStatusBar bar(runLoop,
-                       {icons, qEnvironmentVariable("XDG_CURRENT_DESKTOP"), [choice] { return choice; }});
+                       {resources, qEnvironmentVariable("XDG_CURRENT_DESKTOP"), [choice] { return choice; }});
     const auto item = bar.statusItemWithLength(variableStatusItemLength);
     const QString title = arguments.value(QStringLiteral("text"));
     StatusMenu menu;

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/statusitem/NotifierTypes.h"
+#include "tests/platform/linux/pictures/PictureImage.h"
 #include "tests/support/QtPrinters.h"
 
 namespace quindle {
@@ -54,13 +55,23 @@ int lightPixels(const QImage& image)
 class StatusPicturesTest : public testing::Test
 {
 protected:
-    StatusPictures pictures{QStringLiteral(QUINDLE_ICONS)};
+    QImage drawn(const Picture& picture, int size) { return imageOf(pictures.image(picture, size)); }
+
+    std::vector<QImage> allDrawn(const Picture& picture)
+    {
+        std::vector<QImage> made;
+        for (const Pixels& pixels : pictures.images(picture))
+            made.push_back(imageOf(pixels));
+        return made;
+    }
+
+    StatusPictures pictures{QStringLiteral(QUINDLE_RESOURCES)};
 };
 
 TEST_F(StatusPicturesTest, everyImageHasThreeSquares)
 {
     for (const QString& name : names()) {
-        const auto images = pictures.images(iconPicture(name));
+        const auto images = allDrawn(iconPicture(name));
         ASSERT_EQ(images.size(), 3U) << name.toStdString();
         EXPECT_EQ(images[0].size(), QSize(22, 22));
         EXPECT_EQ(images[1].size(), QSize(32, 32));
@@ -74,7 +85,7 @@ TEST_F(StatusPicturesTest, fullerBatteriesAreVisiblyFuller)
     for (const int size : {16, 22, 32, 44, 48}) {
         int last = 0;
         for (const QString& name : names().mid(0, 5)) {
-            const int now = lightPixels(pictures.image(iconPicture(name), size));
+            const int now = lightPixels(drawn(iconPicture(name), size));
             EXPECT_GT(now, last + 2 * size / 3) << name.toStdString();
             last = now;
         }
@@ -83,7 +94,7 @@ TEST_F(StatusPicturesTest, fullerBatteriesAreVisiblyFuller)
 
 TEST_F(StatusPicturesTest, glyphsAreOnThePixelGrid)
 {
-    const QImage full = pictures.image(iconPicture(names()[4]), 22);
+    const QImage full = drawn(iconPicture(names()[4]), 22);
     EXPECT_EQ(full.pixelColor(10, 5), QColor(255, 255, 255));
     EXPECT_EQ(full.pixelColor(10, 7), QColor(255, 255, 255));
     EXPECT_LT(full.pixelColor(10, 6).lightness(), 60);
@@ -96,7 +107,7 @@ TEST_F(StatusPicturesTest, sizesALittleAboveTheGridsHaveSharpLines)
     Picture picture = iconPicture(names()[4]);
     picture.ink = opaqueColour(0, 0, 0);
     for (const int size : {16, 18, 22, 24, 44, 48}) {
-        const QImage image = pictures.image(picture, size);
+        const QImage image = drawn(picture, size);
         for (int y = 0; y < size; ++y) {
             const int alpha = image.pixelColor(size / 2, y).alpha();
             EXPECT_TRUE(alpha == 0 || alpha == 255) << size << " at " << y;
@@ -121,8 +132,8 @@ TEST_F(StatusPicturesTest, theLevelStandsOutOnEveryPanel)
     for (const int size : {22, 32, 44}) {
         for (const char* panel : {"#000000", "#222222", "#4a6a8a", "#f6f5f4", "#ffffff"}) {
             const QColor colour(QString::fromLatin1(panel));
-            const QImage empty = pictures.image(iconPicture(names()[0]), size);
-            const QImage full = pictures.image(iconPicture(names()[4]), size);
+            const QImage empty = drawn(iconPicture(names()[0]), size);
+            const QImage full = drawn(iconPicture(names()[4]), size);
             EXPECT_GT(lightness(full, inLevel, colour), lightness(empty, inLevel, colour) + 120)
                 << panel << " at " << size;
             EXPECT_GT(lightness(full, inLevel, colour), lightness(full, beside, colour) + 120)
@@ -144,7 +155,7 @@ TEST_F(StatusPicturesTest, aKnownTextColourNeedsNoPlate)
     for (Picture* picture : {&icon, &number, &title}) {
         picture->ink = ink;
         int inked = 0;
-        const QImage image = pictures.image(*picture, 44);
+        const QImage image = drawn(*picture, 44);
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
                 const QColor colour = image.pixelColor(x, y);
@@ -162,14 +173,14 @@ TEST_F(StatusPicturesTest, aKnownTextColourNeedsNoPlate)
 
 TEST_F(StatusPicturesTest, imageWithoutFileGivesNothing)
 {
-    EXPECT_TRUE(pictures.image(iconPicture(QStringLiteral("none")), 22).isNull());
-    EXPECT_TRUE(pictures.images(iconPicture(QStringLiteral("none"))).empty());
+    EXPECT_TRUE(drawn(iconPicture(QStringLiteral("none")), 22).isNull());
+    EXPECT_TRUE(allDrawn(iconPicture(QStringLiteral("none"))).empty());
 }
 
 TEST_F(StatusPicturesTest, numberFillsTheSquare)
 {
     for (const char* number : {"7", "87", "100"}) {
-        for (const QImage& image : pictures.images(text(number))) {
+        for (const QImage& image : allDrawn(text(number))) {
             EXPECT_EQ(image.width(), image.height());
             EXPECT_GT(lightPixels(image), image.width()) << number << " in " << image.width();
         }
@@ -179,7 +190,7 @@ TEST_F(StatusPicturesTest, numberFillsTheSquare)
 TEST_F(StatusPicturesTest, widePictureGrowsWithTheTitleWithinBounds)
 {
     const auto width = [this](const QString& image, const QString& title) {
-        const auto images = pictures.images(wide(image, title));
+        const auto images = allDrawn(wide(image, title));
         EXPECT_EQ(images.size(), 1U);
         EXPECT_EQ(images.at(0).height(), 42);
         return images.at(0).width();
@@ -195,7 +206,7 @@ TEST_F(StatusPicturesTest, widePictureOfEveryHeight)
     Picture picture = wide(names()[3], QStringLiteral("87%"));
     picture.inAllHeights = true;
     std::vector<int> heights;
-    for (const QImage& image : pictures.images(picture)) {
+    for (const QImage& image : allDrawn(picture)) {
         EXPECT_GT(image.width(), 2 * image.height());
         EXPECT_GT(lightPixels(image), image.width());
         heights.push_back(image.height());
@@ -206,12 +217,12 @@ TEST_F(StatusPicturesTest, widePictureOfEveryHeight)
 TEST_F(StatusPicturesTest, anyTextCanBeDrawn)
 {
     for (const char* title : {"\u202e87%", "שלום 87%", "😀", "e\u0301\u0301\u0301", "&amp; <b>"})
-        EXPECT_EQ(pictures.images(wide({}, QString::fromUtf8(title))).size(), 1U) << title;
+        EXPECT_EQ(allDrawn(wide({}, QString::fromUtf8(title))).size(), 1U) << title;
 }
 
 TEST_F(StatusPicturesTest, transparentPictureIsOnePixelInAFile)
 {
-    EXPECT_TRUE(pictures.images({Picture::Kind::Transparent, {}, {}, 0.0, 0}).empty());
+    EXPECT_TRUE(allDrawn({Picture::Kind::Transparent, {}, {}, 0.0, 0}).empty());
     const QImage image(pictures.transparentFile());
     EXPECT_EQ(image.size(), QSize(1, 1));
     EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
@@ -311,10 +322,7 @@ TEST_F(StatusPicturesTest, numbersDoNotShareADrawing)
 
 TEST(NotifierPixmap, pixelsAreInNetworkOrderAndNotPremultiplied)
 {
-    QImage image(2, 1, QImage::Format_ARGB32_Premultiplied);
-    image.setPixelColor(0, 0, QColor(0x11, 0x22, 0x33, 0xff));
-    image.setPixelColor(1, 0, QColor(255, 255, 255, 0x80));
-    const NotifierPixmap pixmap = notifierPixmap(image);
+    const NotifierPixmap pixmap = notifierPixmap(Pixels{2, 1, {0xff112233, 0x80808080}});
     EXPECT_EQ(pixmap.width, 2);
     EXPECT_EQ(pixmap.height, 1);
     EXPECT_EQ(pixmap.pixels, QByteArray::fromHex("ff11223380ffffff"));

@@ -23,6 +23,14 @@ TEST(EscapedMarkup, markupIsLiteral)
     EXPECT_EQ(escapedMarkup(u("<b>R&D</b> \"x\"")), u("&lt;b&gt;R&amp;D&lt;/b&gt; &quot;x&quot;"));
 }
 
+TEST(LiteralPanelToolTip, plainTextStaysAndWhatLooksLikeMarkupIsEscaped)
+{
+    EXPECT_EQ(literalPanelToolTip(u("87.0%\nR&D > 3")), u("87.0%\nR&D > 3"));
+    EXPECT_EQ(literalPanelToolTip(u("<b>R&D</b>\na  b")),
+              u("<p>&lt;b&gt;R&amp;D&lt;/b&gt;<br>a\u00a0\u00a0b</p>"));
+    EXPECT_EQ(literalPanelToolTip(u("a &lt; b")), u("<p>a\u00a0&amp;lt;\u00a0b</p>"));
+}
+
 TEST(MenuLabel, mnemonicsAreLiteralAndTheTabBecomesAColon)
 {
     EXPECT_EQ(menuLabel(u("a_b__c & d")), u("a__b____c & d"));
