@@ -35,7 +35,7 @@ QVariantMap detailRow(const QVariantMap& description)
 {
     QVariantMap row;
     for (auto entry = description.cbegin(); entry != description.cend(); ++entry)
-        // At the end, where it belongs: keys come in order and stay as they are.
+        // Keys come in order, so each goes to the end without a search.
         row.insert(row.cend(), entry.key(), detailText(entry.value()));
     return row;
 }

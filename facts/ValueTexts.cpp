@@ -52,6 +52,7 @@ QString capacitiesText(qint64 held, qint64 room, FactPlace place)
         return first.isEmpty() ? first : joined(withUnit(first, unit), QStringLiteral(" of "), second);
     if (second.isEmpty())
         return withUnit(first, unit);
+    // A dash stands for an unknown charge, so that what follows is not taken for it.
     return (first.isEmpty() ? missingValueText() : first) + QStringLiteral(" of ") + second;
 }
 

@@ -39,7 +39,7 @@ QString iconName(const QString& powerState, double stateOfCharge)
 std::optional<int> wholePercent(double percentage)
 {
     constexpr double most = 1000; // room for drivers that report a charge above full
-    // Written so that it refuses what is no number as well.
+    // Written so that NaN is refused as well.
     if (!(percentage >= 0 && percentage <= most))
         return std::nullopt;
     return static_cast<int>(std::lround(percentage));

@@ -182,7 +182,7 @@ bool Unarchiver::readDictionary(const Element& element, int level, Object& objec
 {
     const auto keyReferences = references(element, "NS.keys", "NS.key.");
     const auto values = references(element, "NS.objects", "NS.object.");
-    // Of different lengths, nobody knows which value belongs to which key.
+    // With different lengths there is no knowing which value belongs to which key.
     if (!keyReferences || !values || keyReferences->size() != values->size())
         return false;
     const KeyList* keys = keyList(*keyReferences, level + 1);

@@ -85,6 +85,7 @@ template <typename Type, typename Value>
 void ApplicationPreferences::store(const Setting<Type>& setting, const Value& value)
 {
     if (UserDefaults* database = databaseOf(setting))
+        // With its type: the databases keep a boolean and a 1 apart.
         database->setObject(setting.name(), QVariant::fromValue(value));
 }
 

@@ -75,7 +75,7 @@ std::optional<QVariantMap> RecordedComputer::dictionary(const QString& key) cons
     const auto found = m_keys.constFind(key);
     if (found == m_keys.cend())
         return std::nullopt;
-    // Of that type without a doubt: the file was checked when it was read.
+    // Certainly of that type: the file was checked when it was read.
     return found->toMap();
 }
 

@@ -72,6 +72,7 @@ void PaneTransition::step(double share)
 {
     // Fixed at each step, since the window cannot be resized by hand.
     m_window.setFixedSize(between(m_from, m_to, share));
+    // A view belongs to its pane, which may go while the view fades in.
     if (!m_view)
         return;
     if (auto* effect = qobject_cast<QGraphicsOpacityEffect*>(m_view->graphicsEffect()))

@@ -112,8 +112,8 @@ QStringList titlesWithMnemonics(const QStringList& titles)
                 isMarked = true;
                 taken += character;
                 text += QLatin1Char('&');
-                // A single one would mark the letter behind it.
             } else if (character == QLatin1Char('&')) {
+                // A single one would mark the letter behind it.
                 text += QLatin1Char('&');
             }
             text += character;

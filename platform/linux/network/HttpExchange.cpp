@@ -112,7 +112,7 @@ void setRequest(Options& options, const HttpRequest& request, curl_slist* header
     options.set(CURLOPT_PROXY, ""); // whatever the environment names
     options.set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
     options.set(CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});
-    // These alone then, not the system's besides.
+    // Then only these are trusted, and not the system's as well.
     if (!request.authorities.isEmpty()) {
         options.set(CURLOPT_CAINFO, request.authorities.constData());
         options.set(CURLOPT_CAPATH, static_cast<const char*>(nullptr));

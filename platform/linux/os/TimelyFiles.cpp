@@ -39,8 +39,8 @@ std::optional<QByteArray> TimelyFiles::read(const QString& path)
     if (reading->end.isReached(isNew ? m_patience : std::chrono::milliseconds(0))) {
         m_last[path] = reading->content;
         m_underWay.erase(path);
-        // Logged once for each wait, not for each question in it.
     } else if (isNew) {
+        // Logged once for each wait, not for each question in it.
         qCWarning(fileLog).noquote() << path << "does not answer";
     }
     return m_last[path];

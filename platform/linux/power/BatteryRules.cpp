@@ -78,6 +78,7 @@ std::optional<bool> isFull(const Battery& battery)
 std::optional<QString> healthWord(const Battery& battery, std::optional<QString> reported)
 {
     constexpr double leastOfGood = 0.8; // as the word for a Mac's battery changes at 80 %
+    // thinkpad-two-batteries-both-held is "Fair" and thinkpad-worn-to-a-third "Poor".
     constexpr double leastOfFair = 0.5;
     // SBS gauges that do not assess their health write "Unknown" (chromebook-lazor-limozeen).
     if (reported && *reported != QLatin1String("Unknown"))

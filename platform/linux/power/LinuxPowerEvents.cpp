@@ -83,7 +83,7 @@ void LinuxPowerEvents::readEvents()
 {
     if (!takeEvents())
         return;
-    // The sample that was taken before the event would answer the observer otherwise.
+    // Otherwise the sample that was taken before the event would answer the observer.
     m_beforeObserver();
     m_observer();
 }

@@ -61,7 +61,7 @@ QVariantMap batteryDescription(const Battery& battery, bool isExternallyPowered,
 
 QVariantMap uninterruptibleDescription(const Battery& supply)
 {
-    // Whether mains feed a UPS only its own state says; the computer's adapters are behind it.
+    // Only its own state says whether mains feed a UPS; the computer's adapters are behind it.
     return sourceDescription(supply, QStringLiteral("UPS"), supply.state != ChargingState::Discharging,
                              supply.averageMinutesToEmpty, supply.averageMinutesToFull);
 }

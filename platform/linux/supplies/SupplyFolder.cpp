@@ -75,6 +75,7 @@ Supply::Uevent SupplyFolder::ueventOf(const Supply& supply)
 bool SupplyFolder::list()
 {
     std::vector<Entry> entries;
+    // Listing the folder may hang as reading a file may.
     if (m_steps.insteadOf(m_path, nullptr, 0))
         return false;
     m_steps.begin(m_path);
@@ -97,6 +98,7 @@ int SupplyFolder::readEntries(std::vector<Entry>& entries)
         open();
     if (!m_folder)
         return errno;
+    // Only errno says whether readdir failed or has come to the end.
     errno = 0;
     while (const dirent* const entry = readdir(m_folder.get()))
         if (entry->d_name[0] != '.')
@@ -113,6 +115,7 @@ void SupplyFolder::open()
     m_reader.setFolder(dirfd(m_folder.get()));
     if (!isOfKernel(dirfd(m_folder.get()))) {
         m_watch.emplace();
+        // The folder itself too: supplies come and go in it.
         m_watch->add(dirfd(m_folder.get()), ".");
     }
 }

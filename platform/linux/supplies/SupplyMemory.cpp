@@ -53,7 +53,7 @@ SupplyMemory::Known SupplyMemory::remembered(const SupplyReading& reading, const
 {
     Known known{reading, {}};
     for (std::size_t index = 0; index < attributeCount; ++index)
-        // A value that stands in grows no younger by it.
+        // A value that stands in keeps its age.
         known.readAt[index] = before && reading.failed.test(index) ? before->readAt[index] : now;
     return known;
 }

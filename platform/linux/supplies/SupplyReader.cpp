@@ -29,6 +29,8 @@ std::optional<SupplyReadings> SupplyReader::read(bool looksAgain)
     if (std::optional<SupplyReadings> late = takeLate())
         return late;
     const auto deadline = Clock::now() + patience();
+    // Woken whenever a file may have got stuck, and not at the deadline only: the others can be read in time
+    // then.
     while (request()) {
         if (auto answer = m_thread->take(std::min(deadline, Clock::now() + m_patience.withFile))) {
             m_wasLate = false;
@@ -67,7 +69,7 @@ std::optional<SupplyReadings> SupplyReader::accept(std::optional<SupplyReadings>
         const auto known = m_kinds.find(reading.name);
         if (reading.kind != SupplyKind::Other)
             kinds[reading.name] = reading.kind;
-        // A kind that could not be read is no news.
+        // A kind that could not be read this time stays what it was.
         else if (known != m_kinds.end())
             kinds.insert(*known);
     }
@@ -78,7 +80,7 @@ std::optional<SupplyReadings> SupplyReader::accept(std::optional<SupplyReadings>
 std::chrono::milliseconds SupplyReader::patience() const
 {
     if (m_wasLate)
-        // A reading that was late once is waited for no more, or it would hold up every refresh.
+        // After a late reading the next ones are not waited for, or each would hold up a refresh.
         return std::chrono::milliseconds(0);
     return m_hasAnswered ? m_patience.later : m_patience.first;
 }
