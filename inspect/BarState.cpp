@@ -49,6 +49,7 @@ std::optional<int> wholePercent(double percentage)
 
 QString chargeClass(double stateOfCharge)
 {
+    // The colours of the charge bar, so that bars and battery view agree.
     const auto colour = chargeBarColour(stateOfCharge);
     if (!colour)
         return QStringLiteral("unknown");

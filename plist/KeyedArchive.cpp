@@ -40,6 +40,7 @@ ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes)
     Unarchiver unarchiver(graph);
     ArchivedRecords result;
     if (!unarchiver.readRecords(result.records))
+        // Never both: what was read before a fault is not used.
         result = {{}, unarchiver.fault()};
     return result;
 }

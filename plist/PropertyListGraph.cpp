@@ -187,6 +187,7 @@ QString PropertyListGraph::text(const Element& element) const
     if (!isWide(element.marker))
         return QString::fromUtf8(content(element), length); // ASCII, or what careless writers put there
     QString text(length, Qt::Uninitialized);
+    // Half a surrogate pair stays: it is the writer of XML that has to leave it out.
     qFromBigEndian<char16_t>(content(element), length, text.data());
     return text;
 }

@@ -39,7 +39,8 @@ bool Unarchiver::readRecords(QVariantList& records)
     Element root;
     if (!findRoot(root))
         return false;
-    // An instance is a dictionary that names its class.
+    // An instance is a dictionary that names its class. A set, though it would read alike, is no history: its
+    // records have no order.
     if (root.kind != Kind::Dictionary || classOf(root) != ArchivedClass::Array)
         return fail("its root is no array");
     const auto elements = references(root, "NS.objects", "NS.object.");
@@ -390,6 +391,7 @@ bool Unarchiver::spendContent(qsizetype count, Object& object)
 
 bool Unarchiver::put(const Object& part, Extent& whole)
 {
+    // The height as well: a part that was read before, higher up, may be nested too deep here.
     if (m_limits.put(part.extent, whole))
         return true;
     return fail(whole.height > mostPropertyListLevels

@@ -51,6 +51,7 @@ void StartupLaunch_pref::setLaunchOnLogin(LoginItems& items, const QString& bund
     const auto item = helperItem(items, bundlePath);
     if (!items.snapshot()) // inherited: fetched a second time to be changed; it may be gone by then
         return;
+    // One item is enough: two would start the helper twice.
     if (enable && !item)
         items.insertBeforeFirst(insertLocation(bundlePath));
     else if (!enable && item)

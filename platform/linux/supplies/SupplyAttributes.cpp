@@ -52,6 +52,7 @@ constexpr std::array<std::string_view, attributeCount> attributeNames = {
 bool isBlankOrControl(char character)
 {
     const auto byte = static_cast<unsigned char>(character);
+    // NUL is one too: device trees end their texts with it.
     return byte <= ' ' || byte == 0x7f;
 }
 
