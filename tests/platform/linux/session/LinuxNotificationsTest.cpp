@@ -59,6 +59,13 @@ public:
     }
 };
 
+// The bus has passed on everything that was sent before, and what it passed on to this connection is here.
+void roundTrip(const QDBusConnection& connection)
+{
+    const QString bus = QStringLiteral("org.freedesktop.DBus");
+    connection.call(QDBusMessage::createMethodCall(bus, QStringLiteral("/"), bus, QStringLiteral("GetId")));
+}
+
 // The login manager, on a connection of its own.
 class LoginManager
 {
@@ -74,6 +81,7 @@ public:
     LoginManager& operator=(const LoginManager&) = delete;
 
     void prepareForSleep(bool goingToSleep) { m_connection.send(prepareForSleepSignal() << goingToSleep); }
+    void finish() { roundTrip(m_connection); }
 
     static QDBusMessage prepareForSleepSignal()
     {
@@ -116,13 +124,7 @@ public:
 
     QString name() const { return m_connection.baseService(); }
 
-    // The bus has passed on everything when this returns.
-    void finish()
-    {
-        const QString bus = QStringLiteral("org.freedesktop.DBus");
-        m_connection.call(
-            QDBusMessage::createMethodCall(bus, QStringLiteral("/"), bus, QStringLiteral("GetId")));
-    }
+    void finish() { roundTrip(m_connection); }
 
 private:
     QDBusConnection m_connection;
@@ -250,7 +252,9 @@ protected:
             runFor(10);
             return !called.empty();
         }));
-        runFor(50);
+        manager.finish();
+        roundTrip(QDBusConnection::systemBus());
+        runFor(10);
         called.clear();
     }
 
