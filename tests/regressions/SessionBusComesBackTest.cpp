@@ -69,6 +69,21 @@ TEST_F(SessionBusComesBackTest, ANewSocketIsNoticedWithoutWaiting)
     }
 }
 
+// The file of the new socket often gets the number of the old one's, and the loss is heard only afterwards.
+TEST_F(SessionBusComesBackTest, ABusThatIsBackBeforeItWasMissedIsNoticed)
+{
+    BusLink link(QDBusConnection::SessionBus, QStringLiteral("restarted"), longerThanTheTest);
+    int connections = 0;
+    bus.start();
+    link.open([&](const QDBusConnection&) { ++connections; });
+    for (int round = 1; round <= 5; ++round) {
+        EXPECT_EQ(connections, round);
+        bus.stop();
+        bus.start();
+        EXPECT_TRUE(comesTrue([&] { return connections == round + 1; }));
+    }
+}
+
 TEST_F(SessionBusComesBackTest, TheItemIsOfferedAgain)
 {
     LinuxRunLoop runLoop;

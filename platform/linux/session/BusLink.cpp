@@ -31,10 +31,13 @@ QString usualName(QDBusConnection::BusType type)
                                               : QStringLiteral("quindle-session");
 }
 
-quint64 inodeOf(const QString& path)
+/// File systems give a new file the number of the one that has just gone, so the number alone is not enough.
+BusLink::Socket socketAt(const QString& path)
 {
     struct stat found = {};
-    return ::stat(pathBytes(path).constData(), &found) == 0 ? found.st_ino : 0;
+    if (::stat(pathBytes(path).constData(), &found) != 0)
+        return {};
+    return {found.st_ino, found.st_ctim.tv_sec, found.st_ctim.tv_nsec};
 }
 
 const QString unixPath = QStringLiteral("unix:path=");
@@ -85,7 +88,7 @@ void BusLink::open(std::function<void(QDBusConnection&)> subscribe, std::functio
     m_subscribe = std::move(subscribe);
     m_lost = std::move(lost);
     m_socket = busSocketFile(busAddress(m_type));
-    m_socketTried = inodeOf(m_socket);
+    m_socketTried = socketAt(m_socket);
     const QDBusConnection first = firstConnection();
     // The shared connection is taken as it is; only one of our own can be made again.
     if (take(first))
@@ -159,10 +162,10 @@ void BusLink::watchSocketFolder()
 void BusLink::lookAtSocket()
 {
     // Other changes in the folder are no reason to try.
-    const quint64 inode = inodeOf(m_socket);
-    if (inode != 0 && inode != m_socketTried)
+    const Socket present = socketAt(m_socket);
+    if (present != Socket() && present != m_socketTried)
         m_retry.start(pauseForNewSocket);
-    m_socketTried = inode;
+    m_socketTried = present;
 }
 
 void BusLink::reconnect()

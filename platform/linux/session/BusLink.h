@@ -22,6 +22,16 @@ class BusLink : public QObject
 public:
     static constexpr int usualPause = 10'000;
 
+    /// Which socket stands at a path: its inode, and when that was last changed; zeros for none.
+    struct Socket
+    {
+        quint64 inode = 0;
+        qint64 seconds = 0;
+        qint64 nanoseconds = 0;
+
+        friend bool operator==(const Socket&, const Socket&) = default;
+    };
+
     /// Begins with the connection that the whole process shares; when that is not available or lost,
     /// connections of its own follow. The first try comes after `firstPause` milliseconds.
     explicit BusLink(QDBusConnection::BusType type, int firstPause = usualPause, QObject* parent = nullptr);
@@ -67,7 +77,7 @@ private:
     int m_firstPause;
     QTimer m_retry;
     QString m_socket;
-    quint64 m_socketTried = 0; ///< the inode at the last try; 0 for none
+    Socket m_socketTried; ///< at the last try
     std::unique_ptr<QFileSystemWatcher> m_folderWatcher;
     std::function<void(QDBusConnection&)> m_subscribe;
     std::function<void()> m_lost;
