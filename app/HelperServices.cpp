@@ -16,19 +16,21 @@ namespace quindle {
 
 namespace {
 
+QString windowsProgramOf(const Bundle& programBundle)
+{
+    return programBundle.path() + QStringLiteral("/Contents/Linux/quindle-windows");
+}
+
 /// The tray around the item. The user's own choice of its form is asked for each time it is shown anew.
 StatusItemSurroundings surroundings(const Bundle& programBundle, UserDefaultsDatabases& databases)
 {
     return {.resourcesDirectory = programBundle.resourcesPath(),
             .currentDesktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
-            .presentationChoice = [&databases] {
-                return databases.standard().object(Keys::statusItemPresentation.name()).toString();
-            }};
-}
-
-QString windowsProgramOf(const Bundle& programBundle)
-{
-    return programBundle.path() + QStringLiteral("/Contents/Linux/quindle-windows");
+            .presentationChoice =
+                [&databases] {
+                    return databases.standard().object(Keys::statusItemPresentation.name()).toString();
+                },
+            .trayProgram = windowsProgramOf(programBundle)};
 }
 
 class ThisComputer : public HelperServices

@@ -6,7 +6,7 @@
 #include <optional>
 #include <variant>
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QSessionManager>
 
 #include "app/HelperAppDelegate.h"
@@ -54,7 +54,7 @@ bool hasDisplay()
 
 /// The login item alone decides whether the helper starts at login. A session manager that restarts what ran
 /// when the session ended would start one that the user has taken out, and with arguments.
-void leaveLoginToLoginItems(const QApplication& application)
+void leaveLoginToLoginItems(const QGuiApplication& application)
 {
     QObject::connect(&application, &QGuiApplication::saveStateRequest, &application,
                      [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); });
@@ -77,7 +77,7 @@ RequestSurroundings surroundingsOf(const HelperServices& services, X11Display& d
             .memory = [&services] { return services.memory(); }};
 }
 
-int run(QApplication& application, HelperServices& services, SingleInstance& instance)
+int run(QGuiApplication& application, HelperServices& services, SingleInstance& instance)
 {
     const Platform computer = services.platform();
     SharedNotifications notifications(computer.distributedNotificationCenter);
@@ -106,7 +106,7 @@ int run(QApplication& application, HelperServices& services, SingleInstance& ins
     // The requests of other starts come in only once the loop runs, so nothing is shown half made.
     delegate.applicationDidFinishLaunching();
     services.play(delegate);
-    return QApplication::exec();
+    return QGuiApplication::exec();
 }
 
 int print(const QByteArray& text)
@@ -136,11 +136,11 @@ int start(int argc, char** argv)
     if (!hasDisplay())
         return fail(QStringLiteral("there is no display to show a tray item on"), cannotRun);
 
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("quindle-helper"));
-    QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("quindle-helper"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
     // Closing the battery view must not end the helper.
-    QApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
     leaveLoginToLoginItems(application);
 
     std::optional<SingleInstance> instance;

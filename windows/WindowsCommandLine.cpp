@@ -18,6 +18,8 @@ std::optional<int> numberOf(const QString& argument, QStringView name)
 
 std::optional<WindowsCommandLine> parseWindowsCommandLine(const QStringList& arguments)
 {
+    if (arguments == QStringList(QStringLiteral("--tray")))
+        return WindowsCommandLine{.holdsTray = true};
     WindowsCommandLine commandLine;
     for (const QString& argument : arguments) {
         if (const auto link = numberOf(argument, u"--link="))

@@ -10,7 +10,8 @@ namespace quindle {
 /// What the helper starts its windows with.
 struct WindowsCommandLine
 {
-    int link = -1;                              ///< --link=N, the number of the inherited socket
+    bool holdsTray = false; ///< --tray, alone: for the icon in an X11 tray, not for windows
+    int link = -1;          ///< --link=N, the number of the inherited socket
     std::chrono::milliseconds patience{60'000}; ///< --patience=MS, without a window before it may end
 };
 

@@ -1,5 +1,6 @@
 // The entry point and composition root of the program that has the helper's windows.
 
+#include <array>
 #include <chrono>
 #include <memory>
 #include <optional>
@@ -20,6 +21,7 @@
 #include "windows/WindowsCommandLine.h"
 #include "windows/WindowsProgram.h"
 #include "windows/WindowsServices.h"
+#include "windows/tray/TrayProcess.h"
 
 using namespace quindle;
 
@@ -40,6 +42,27 @@ void leaveStartToHelper(const QApplication& application)
     QObject::connect(&application, &QGuiApplication::saveStateRequest, &application,
                      [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); });
 }
+
+/// The toolkit's application under the name by which desktops find the entry of the helper, to which all that
+/// is shown belongs.
+class HelpersApplication
+{
+public:
+    HelpersApplication()
+    {
+        QApplication::setApplicationName(QStringLiteral("quindle-helper"));
+        QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
+        // The helper says when to end.
+        QApplication::setQuitOnLastWindowClosed(false);
+        leaveStartToHelper(m_application);
+    }
+
+private:
+    std::array<char, 15> m_name{"quindle-helper"};
+    std::array<char*, 2> m_arguments{m_name.data(), nullptr};
+    int m_count = 1;
+    QApplication m_application{m_count, m_arguments.data()};
+};
 
 std::unique_ptr<WindowsServices> servicesOf(const std::optional<Machine>& machine, HelperEnd& helper)
 {
@@ -76,6 +99,10 @@ int run(SocketLink& link, const std::optional<Machine>& machine, std::chrono::mi
 int start(const WindowsCommandLine& commandLine)
 {
     keepMemoryOutOfCoreDumps();
+    if (commandLine.holdsTray) {
+        const HelpersApplication application;
+        runTrayProcess();
+    }
     FileDescriptor end(commandLine.link);
     if (!SocketLink::isEndOfPair(end))
         return fail(QStringLiteral("is started by quindle-helper"));
@@ -87,16 +114,7 @@ int start(const WindowsCommandLine& commandLine)
         machine = std::get<Machine>(std::move(result));
     }
     exposePopups();
-    // The name by which desktops find the entry of the helper, whose windows these are.
-    char name[] = "quindle-helper";
-    char* arguments[] = {name, nullptr};
-    int count = 1;
-    const QApplication application(count, arguments);
-    QApplication::setApplicationName(QStringLiteral("quindle-helper"));
-    QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
-    // The helper says when to end.
-    QApplication::setQuitOnLastWindowClosed(false);
-    leaveStartToHelper(application);
+    const HelpersApplication application;
     SocketLink link(std::move(end));
     return run(link, machine, commandLine.patience);
 }

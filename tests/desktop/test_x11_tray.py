@@ -1,8 +1,12 @@
 #!/usr/bin/env python3
-"""The helper in an XEmbed tray, where no watcher is on the bus."""
+"""The helper in an XEmbed tray, where no watcher is on the bus: a program of its own holds the icon."""
 
+import os
+import shutil
+import signal
 import time
 import unittest
+from pathlib import Path
 
 from helper_case import HELPER, HelperCase, charge_step, machine, wait_for
 from preferences_case import PreferencesCase
@@ -10,15 +14,47 @@ from preferences_case import PreferencesCase
 ICON = (14, 14)
 
 
-class X11Tray(HelperCase):
+class TrayCase(HelperCase):
     host = "tint2"
-
-    def picture(self):
-        return self.desktop.call("sh", "-c", "import -silent -window root -crop 28x28+0+0 -colors 64 txt:- | md5sum")
 
     def colours(self):
         """How many different colours the place of the icon shows; an empty panel shows one."""
         return int(self.desktop.call("sh", "-c", "import -silent -window root -crop 24x24+2+2 -format %k info:-") or 0)
+
+    def assert_icon(self, seconds=8, what="no icon in the tray"):
+        self.assertTrue(wait_for(lambda: self.colours() > 2, seconds), what)
+
+    def tray_program(self, helper, seconds=5.0):
+        """The process that holds the helper's icon; None when there is none in time."""
+        return wait_for(lambda: tray_program_of(helper.pid), seconds)
+
+    def assert_ends(self, process, seconds=3):
+        self.assertTrue(wait_for(lambda: not is_running(process), seconds), "the tray program stayed")
+
+
+def is_running(pid):
+    try:
+        return Path(f"/proc/{pid}/stat").read_text(encoding="ascii", errors="replace").rsplit(")", 1)[1].split()[0] != "Z"
+    except OSError:
+        return False
+
+
+def tray_program_of(helper):
+    for entry in Path("/proc").iterdir():
+        if not entry.name.isdigit():
+            continue
+        try:
+            parent = int((entry / "stat").read_text(encoding="ascii", errors="replace").rsplit(")", 1)[1].split()[1])
+            if parent == helper and b"\0--tray\0" in (entry / "cmdline").read_bytes():
+                return int(entry.name)
+        except OSError:
+            continue
+    return None
+
+
+class X11Tray(TrayCase):
+    def picture(self):
+        return self.desktop.call("sh", "-c", "import -silent -window root -crop 28x28+0+0 -colors 64 txt:- | md5sum")
 
     def test_icon_click_and_change(self):
         self.start(machine(66, steps=[charge_step(12, 4)]))
@@ -46,6 +82,75 @@ class X11Tray(HelperCase):
         self.desktop.kill_panel()
         self.desktop.start_panel()
         self.assertTrue(wait_for(lambda: self.picture() == before, 8), "the icon did not come back as it was")
+
+    def test_a_tray_that_comes_later_is_found(self):
+        self.desktop.kill_panel()
+        helper = self.start(machine(66))
+        time.sleep(1.5)
+        self.assertIsNone(self.tray_program(helper, 0))
+        self.desktop.start_panel()
+        self.assert_icon(15)
+
+    def test_the_menu_opens_and_a_row_can_be_chosen(self):
+        helper = self.start(machine(66))
+        self.assert_icon()
+        before = self.desktop.windows()
+        self.desktop.click(*ICON, button=3)
+        self.assertTrue(wait_for(lambda: len(self.desktop.windows()) > len(before), 5), "no menu appeared")
+        time.sleep(0.3)
+        for key in ("Up", "Return"):  # the last entry is "Quit"
+            self.desktop.key(key)
+        self.assertEqual(helper.wait(5), 0)
+
+
+class TrayProgram(TrayCase):
+    def test_killed_it_comes_back_and_the_helper_stays(self):
+        helper = self.start(machine(66))
+        self.assert_icon()
+        for _ in range(2):  # the second time after a pause, with the helper's next refresh
+            first = self.tray_program(helper)
+            os.kill(first, signal.SIGKILL)
+            self.assertTrue(wait_for(lambda: self.tray_program(helper, 0) not in (None, first), 15), "it did not come back")
+            self.assert_icon(what="the icon did not come back")
+        self.assertIsNone(helper.poll())
+
+    def test_it_ends_with_the_helper(self):
+        for number in (signal.SIGKILL, signal.SIGTERM):
+            helper = self.start(machine(66))
+            self.assert_icon()
+            program = self.tray_program(helper)
+            helper.send_signal(number)
+            helper.wait(5)
+            self.assert_ends(program)
+            self.assertEqual(list(Path(self.desktop.env["XDG_RUNTIME_DIR"]).glob("quindle-tray-*")), [])
+
+    def test_missing_it_is_named_once_and_the_helper_stays(self):
+        bundle = self.desktop.root / "Copy.app"
+        contents = bundle / "Contents"
+        (contents / "Linux").mkdir(parents=True)
+        shutil.copy(HELPER, contents / "Linux")
+        (contents / "Resources").symlink_to(Path(HELPER).parents[1] / "Resources")
+        shutil.copy(Path(HELPER).parents[1] / "Info.plist", contents)
+        helper = self.start(machine(66), program=contents / "Linux/quindle-helper")
+        time.sleep(12)  # a refresh later
+        self.assertIsNone(helper.poll())
+        log = self.desktop.log_path.read_text(errors="replace")
+        self.assertEqual(log.count(f"{contents}/Linux/quindle-windows"), 1, log)
+
+
+class TrayAndWatcher(TrayCase):
+    def test_the_tray_program_ends_with_a_watcher_and_comes_back_without(self):
+        helper = self.start(machine(66))
+        self.assert_icon()
+        program = self.tray_program(helper)
+        self.desktop.host = "xfce"
+        self.desktop.start_panel()
+        self.assert_title("66.0%")
+        self.assert_ends(program)
+        self.desktop.kill_panel()
+        self.desktop.host = "tint2"
+        self.desktop.start_panel()  # the other one had taken its tray
+        self.assertIsNotNone(self.tray_program(helper, 15), "no tray program after the watcher")
 
 
 class WithoutASessionBus(PreferencesCase):

@@ -19,6 +19,14 @@ TEST(WindowsCommandLine, TheLinkIsWhatItNeeds)
     EXPECT_EQ(hasty->patience, 250ms);
 }
 
+TEST(WindowsCommandLine, TheTrayNeedsNoLink)
+{
+    const auto tray = parseWindowsCommandLine({QStringLiteral("--tray")});
+    ASSERT_TRUE(tray);
+    EXPECT_TRUE(tray->holdsTray);
+    EXPECT_FALSE(parseWindowsCommandLine({QStringLiteral("--link=7")})->holdsTray);
+}
+
 TEST(WindowsCommandLine, AnythingElseIsWrong)
 {
     const QStringList wrong[]{{},
@@ -27,6 +35,7 @@ TEST(WindowsCommandLine, AnythingElseIsWrong)
                               {QStringLiteral("--link=x")},
                               {QStringLiteral("--link=-1")},
                               {QStringLiteral("--link=3"), QStringLiteral("--other")},
+                              {QStringLiteral("--link=3"), QStringLiteral("--tray")},
                               {QStringLiteral("--help")}};
     for (const QStringList& arguments : wrong)
         EXPECT_FALSE(parseWindowsCommandLine(arguments)) << arguments.join(u' ').toStdString();

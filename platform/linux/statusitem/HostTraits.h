@@ -26,6 +26,7 @@ struct HostTraits
     bool labelHidesIcon =
         false; ///< even an empty label does; a wide picture is shown if icon-high ones are there
     bool drawsSmall = false;    ///< a drawing gets 16 pixels, which are too few for one made on 22
+    bool neverScales = false;   ///< it needs a picture of each size that it may have room for
     bool cutsTallMenus = false; ///< the last rows of a menu higher than the screen cannot be reached
     Argb textColour = 0;        ///< what its panel writes in; transparent while that is unknown
 
@@ -48,6 +49,10 @@ struct HostProcess
 /// What is known of the host: by its process, else by the desktop's names (as in XDG_CURRENT_DESKTOP,
 /// separated by colons); an unknown host is a square one, which is legible everywhere.
 HostTraits hostTraits(const HostProcess& process, const QString& currentDesktop);
+
+/// An X11 tray, which has room for a square only, whatever the user prefers.
+inline constexpr HostTraits x11TrayTraits{
+    .shape = HostShape::Square, .showsToolTipTitleOnly = true, .neverScales = true};
 
 /// The traits after the user's choice: "label", "wide" or "icon"; anything else leaves them as they are.
 HostTraits withChoice(HostTraits traits, const QString& choice);

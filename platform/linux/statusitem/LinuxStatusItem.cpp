@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPointer>
 #include <QTimer>
@@ -12,9 +11,9 @@
 #include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/session/BusLink.h"
 #include "platform/linux/session/X11Desktop.h"
+#include "platform/linux/statusitem/ItemPaths.h"
 #include "platform/linux/statusitem/MenuAdaptor.h"
-#include "platform/linux/statusitem/NotifierItemAdaptor.h"
-#include "platform/linux/statusitem/TrayIcon.h"
+#include "platform/linux/statusitem/TrayItem.h"
 #include "platform/linux/statusitem/WatcherLink.h"
 
 namespace quindle {
@@ -23,18 +22,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(logItem, "quindle.statusitem", QtWarningMsg)
 
-QString itemPath()
-{
-    return QStringLiteral("/StatusNotifierItem");
-}
-
 // Nobody tells of a panel's new colours, and each question is a connection of its own.
 constexpr std::chrono::minutes panelLooksTheSame(10);
-
-bool mayHaveX11Tray()
-{
-    return QGuiApplication::platformName() == QLatin1String("xcb");
-}
 
 } // namespace
 
@@ -52,13 +41,9 @@ LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, RunLoop& runLoop,
     for (QObject* offered : {&m_itemObject, &m_itemObjectWithoutLabel, &m_menuObject})
         m_guard.watch(*offered);
     m_guard.setBus(m_bus);
-    const NotifierItemAdaptor::Requests requests{
-        [this] { toggleView(); },
-        [this](const QString& token) { m_activationToken = token; },
-    };
-    m_labelledItem = new LabelledItemAdaptor(&m_itemObject, m_announced, m_pictures, requests);
+    m_labelledItem = new LabelledItemAdaptor(&m_itemObject, m_announced, m_pictures, requests());
     m_itemWithoutLabel =
-        new NotifierItemAdaptor(&m_itemObjectWithoutLabel, m_announced, m_pictures, requests);
+        new NotifierItemAdaptor(&m_itemObjectWithoutLabel, m_announced, m_pictures, requests());
     m_menuAdaptor = new MenuAdaptor(&m_menuObject, [this] { useActivationToken(); });
     m_notifierItem = m_labelledItem;
     exportObjects();
@@ -83,7 +68,8 @@ void LinuxStatusItem::setBus(const QDBusConnection& bus)
 
 void LinuxStatusItem::linkToWatcher()
 {
-    m_watcher = std::make_unique<WatcherLink>(m_bus, itemPath(), m_surroundings.registrationCheck, m_runLoop);
+    m_watcher = std::make_unique<WatcherLink>(m_bus, QLatin1String(itemObjectPath),
+                                              m_surroundings.registrationCheck, m_runLoop);
     connect(m_watcher.get(), &WatcherLink::watcherFound, this, &LinuxStatusItem::watcherFound);
     connect(m_watcher.get(), &WatcherLink::watcherLost, this, &LinuxStatusItem::watcherLost);
 }
@@ -93,16 +79,17 @@ void LinuxStatusItem::exportObjects()
     if (!m_bus.isConnected())
         return;
     const bool exported =
-        m_bus.registerObject(itemPath(), m_notifierItem->parent(), QDBusConnection::ExportAdaptors) &&
-        m_bus.registerObject(QLatin1String(menuPath), &m_menuObject, QDBusConnection::ExportAdaptors);
+        m_bus.registerObject(QLatin1String(itemObjectPath), m_notifierItem->parent(),
+                             QDBusConnection::ExportAdaptors) &&
+        m_bus.registerObject(QLatin1String(menuObjectPath), &m_menuObject, QDBusConnection::ExportAdaptors);
     if (!exported)
         qCWarning(logItem) << "the status item cannot be offered on the session bus";
 }
 
 void LinuxStatusItem::withdrawObjects()
 {
-    m_bus.unregisterObject(itemPath());
-    m_bus.unregisterObject(QLatin1String(menuPath));
+    m_bus.unregisterObject(QLatin1String(itemObjectPath));
+    m_bus.unregisterObject(QLatin1String(menuObjectPath));
 }
 
 void LinuxStatusItem::useItem(NotifierItemAdaptor* item)
@@ -160,6 +147,8 @@ void LinuxStatusItem::setMenu(StatusMenu* menu)
         return;
     m_menu = menu;
     m_menuAdaptor->setMenu(menu);
+    if (m_tray)
+        m_tray->setMenu(menu);
     if (!menu)
         return;
     // The menu has no way to lose an observer, and may live longer than the item.
@@ -182,14 +171,15 @@ void LinuxStatusItem::scheduleFlush()
 void LinuxStatusItem::flush()
 {
     m_flushScheduled = false;
+    if (m_tray && m_tray->isWanted())
+        lookForTray();
     if (m_surroundings.presentationChoice)
         m_wanted.choice = m_surroundings.presentationChoice();
     if (m_flushed && m_flushed != m_wanted && timeSinceBoot() - m_panelSeen > panelLooksTheSame)
         lookAtPanel();
     if (m_flushed != m_wanted) {
         m_flushed = m_wanted;
-        // An X11 tray has room for a square only, whatever the user prefers.
-        HostTraits host = m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : HostTraits();
+        HostTraits host = m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : x11TrayTraits;
         host.textColour = m_wanted.textColour;
         announce(present(m_wanted.contents, host));
     }
@@ -197,7 +187,7 @@ void LinuxStatusItem::flush()
         m_menuChanged = false;
         m_menuAdaptor->announceChanges();
         if (m_tray)
-            m_tray->updateMenu();
+            m_tray->announceMenuChanges();
     }
     // Only now, so that the first thing a host reads is a whole item.
     if (!m_started) {
@@ -209,16 +199,9 @@ void LinuxStatusItem::flush()
 void LinuxStatusItem::announce(Presentation next)
 {
     const Presentation last = std::exchange(m_announced, std::move(next));
-    if (m_announced.title != last.title)
-        Q_EMIT m_notifierItem->NewTitle();
-    if (m_announced.picture != last.picture || m_announced.carrier != last.carrier)
-        Q_EMIT m_notifierItem->NewIcon();
-    if (m_announced.toolTipTitle != last.toolTipTitle || m_announced.toolTipBody != last.toolTipBody)
-        Q_EMIT m_notifierItem->NewToolTip();
-    if (m_announced.label != last.label || m_announced.labelGuide != last.labelGuide)
-        Q_EMIT m_notifierItem->XAyatanaNewLabel(m_announced.label, m_announced.labelGuide);
-    if (m_tray && m_announced != last)
-        m_tray->show(m_announced, m_pictures);
+    m_notifierItem->announce(last);
+    if (m_tray)
+        m_tray->announce(last);
 }
 
 void LinuxStatusItem::watcherFound(const HostProcess& process)
@@ -227,7 +210,7 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
     m_wanted.host = hostTraits(process, m_surroundings.currentDesktop);
     m_wanted.hasWatcher = true;
     useItem(m_wanted.host.labelHidesIcon ? m_itemWithoutLabel : m_labelledItem);
-    m_menuAdaptor->setCommandsFirst(m_wanted.host.cutsTallMenus);
+    m_menuAdaptor->setForm({.commandsFirst = m_wanted.host.cutsTallMenus});
     lookAtPanel();
     flush();
     m_watcher->registerItem();
@@ -235,10 +218,12 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
     QTimer::singleShot(m_surroundings.registrationCheck, this, &LinuxStatusItem::lookAtPanelAgain);
 }
 
-void LinuxStatusItem::lookAtPanel()
+X11Tray LinuxStatusItem::lookAtPanel()
 {
+    const X11Tray tray = x11Tray(m_display);
     m_panelSeen = timeSinceBoot();
-    m_wanted.textColour = x11Tray(m_display).textColour;
+    m_wanted.textColour = tray.textColour;
+    return tray;
 }
 
 void LinuxStatusItem::lookAtPanelAgain()
@@ -250,13 +235,35 @@ void LinuxStatusItem::lookAtPanelAgain()
 
 void LinuxStatusItem::watcherLost()
 {
-    m_wanted.hasWatcher = false;
-    lookAtPanel();
+    // A panel that starts again has its watcher back in a moment; the tray is looked for if it has not by the
+    // next refresh.
+    const bool mayComeBack = std::exchange(m_wanted.hasWatcher, false);
+    if (!mayComeBack)
+        makeTray();
     flush();
-    if (m_tray || !mayHaveX11Tray())
+    makeTray();
+}
+
+void LinuxStatusItem::makeTray()
+{
+    if (m_tray || !m_display.hasName())
         return;
-    m_tray = std::make_unique<TrayIcon>(m_menu);
-    m_tray->show(m_announced, m_pictures);
+    m_tray = std::make_unique<TrayItem>(m_surroundings.trayProgram, m_announced, m_pictures, requests(),
+                                        [this] { useActivationToken(); });
+    m_tray->setMenu(m_menu);
+    connect(m_tray.get(), &TrayItem::wanted, this, &LinuxStatusItem::scheduleFlush);
+}
+
+/// The tray's panel may start after the item, so each refresh asks until there is one.
+void LinuxStatusItem::lookForTray()
+{
+    if (lookAtPanel().isThere)
+        m_tray->start();
+}
+
+NotifierItemAdaptor::Requests LinuxStatusItem::requests()
+{
+    return {[this] { toggleView(); }, [this](const QString& token) { m_activationToken = token; }};
 }
 
 void LinuxStatusItem::toggleView()

@@ -14,16 +14,17 @@
 #include "platform/linux/session/BacklogGuard.h"
 #include "platform/linux/session/X11Display.h"
 #include "platform/linux/statusitem/HostTraits.h"
+#include "platform/linux/statusitem/NotifierItemAdaptor.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
 
 namespace quindle {
 
 class MenuAdaptor;
-class NotifierItemAdaptor;
 class RunLoop;
-class TrayIcon;
+class TrayItem;
 class WatcherLink;
+struct X11Tray;
 
 /// What a status item finds around it.
 struct StatusItemSurroundings
@@ -32,6 +33,7 @@ struct StatusItemSurroundings
     QString currentDesktop;                      ///< names separated by colons, as in XDG_CURRENT_DESKTOP
     std::function<QString()> presentationChoice; ///< "label", "wide", "icon"; anything else: by the host
     std::chrono::milliseconds registrationCheck{3000};
+    QString trayProgram{}; ///< what holds the icon in an X11 tray; its path
 };
 
 /// The status item as a status notifier item, or in an X11 tray where no watcher of such items is on the bus.
@@ -75,7 +77,10 @@ private:
     void announce(Presentation next);
     void watcherFound(const HostProcess& process);
     void watcherLost();
-    void lookAtPanel();
+    NotifierItemAdaptor::Requests requests();
+    void makeTray();
+    void lookForTray();
+    X11Tray lookAtPanel();
     void lookAtPanelAgain();
     void toggleView();
     void useActivationToken();
@@ -116,7 +121,7 @@ private:
     MenuAdaptor* m_menuAdaptor = nullptr;
     BacklogGuard m_guard;
     std::unique_ptr<WatcherLink> m_watcher;
-    std::unique_ptr<TrayIcon> m_tray;
+    std::unique_ptr<TrayItem> m_tray; ///< null while there is a watcher
 };
 
 /// The tray of the desktop session that the program runs in.

@@ -10,13 +10,13 @@ namespace quindle {
 
 namespace {
 
-std::vector<QVariantMap> allRowProperties(const StatusMenu* menu)
+std::vector<QVariantMap> allRowProperties(const StatusMenu* menu, const MenuForm& form)
 {
     std::vector<QVariantMap> all;
     if (!menu)
         return all;
     for (const StatusMenu::Row& row : menu->rows())
-        all.push_back(menuRowProperties(row));
+        all.push_back(menuRowProperties(row, form));
     return all;
 }
 
@@ -32,22 +32,23 @@ MenuAdaptor::MenuAdaptor(QObject* object, std::function<void()> aboutToChoose)
 void MenuAdaptor::setMenu(StatusMenu* menu)
 {
     m_menu = menu;
-    m_announced = allRowProperties(menu);
+    m_announced = allRowProperties(menu, m_form);
     ++m_revision;
     Q_EMIT LayoutUpdated(m_revision, menuRootId);
 }
 
-void MenuAdaptor::setCommandsFirst(bool first)
+void MenuAdaptor::setForm(const MenuForm& form)
 {
-    if (std::exchange(m_commandsFirst, first) == first)
+    if (std::exchange(m_form, form) == form)
         return;
+    m_announced = allRowProperties(m_menu, m_form);
     ++m_revision;
     Q_EMIT LayoutUpdated(m_revision, menuRootId);
 }
 
 void MenuAdaptor::announceChanges()
 {
-    std::vector<QVariantMap> now = allRowProperties(m_menu);
+    std::vector<QVariantMap> now = allRowProperties(m_menu, m_form);
     QList<MenuRowProperties> changed;
     for (std::size_t i = 0; i < now.size(); ++i) {
         if (i >= m_announced.size() || m_announced[i] != now[i])
@@ -81,7 +82,7 @@ QStringList MenuAdaptor::iconThemePath() const
 uint MenuAdaptor::GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames,
                             MenuNode& layout)
 {
-    layout = menuLayout(m_menu, parentId, recursionDepth, propertyNames, m_commandsFirst);
+    layout = menuLayout(m_menu, parentId, recursionDepth, propertyNames, m_form);
     return m_revision;
 }
 
@@ -91,14 +92,14 @@ QList<MenuRowProperties> MenuAdaptor::GetGroupProperties(const QList<int>& ids,
     QList<MenuRowProperties> group;
     for (const int id : ids) {
         if (isMenuId(m_menu, id))
-            group.append({id, menuProperties(m_menu, id, propertyNames)});
+            group.append({id, menuProperties(m_menu, id, propertyNames, m_form)});
     }
     return group;
 }
 
 QDBusVariant MenuAdaptor::GetProperty(int id, const QString& name)
 {
-    const QVariant value = menuProperties(m_menu, id, {name}).value(name);
+    const QVariant value = menuProperties(m_menu, id, {name}, m_form).value(name);
     // A variant on the bus cannot be empty.
     return QDBusVariant(value.isValid() ? value : QVariant(QString()));
 }

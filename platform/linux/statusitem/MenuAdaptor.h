@@ -8,6 +8,7 @@
 #include <QList>
 #include <QStringList>
 
+#include "platform/linux/statusitem/MenuLayout.h"
 #include "platform/linux/statusitem/MenuTypes.h"
 
 namespace quindle {
@@ -31,8 +32,8 @@ public:
     /// The menu to show, null for an empty one. Rows that are added later show at the host's next question.
     void setMenu(StatusMenu* menu);
 
-    /// Puts the commands above all facts but the first, for hosts that cut menus higher than the screen.
-    void setCommandsFirst(bool first);
+    /// Sets what the present host needs.
+    void setForm(const MenuForm& form);
 
     /// Announces the rows that have changed since the last announcement, row by row, because some hosts close
     /// an open menu when its layout changes.
@@ -64,7 +65,7 @@ private:
     void choose(int id);
 
     StatusMenu* m_menu = nullptr;
-    bool m_commandsFirst = false;
+    MenuForm m_form;
     std::function<void()> m_aboutToChoose;
     std::vector<QVariantMap> m_announced; ///< of each row; the row with id n at n - 1
     uint m_revision = 0;

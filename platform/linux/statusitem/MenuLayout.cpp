@@ -38,13 +38,13 @@ QVariantMap only(const QVariantMap& properties, const QStringList& names)
 
 } // namespace
 
-QVariantMap menuRowProperties(const StatusMenu::Row& row)
+QVariantMap menuRowProperties(const StatusMenu::Row& row, const MenuForm& form)
 {
     if (row.kind == StatusMenu::Kind::Separator)
         return {{QStringLiteral("type"), QStringLiteral("separator")},
                 {QStringLiteral("visible"), row.visible}};
     QVariantMap properties{
-        {QStringLiteral("label"), menuLabel(row.text)},
+        {QStringLiteral("label"), menuLabel(row.text, form.keepsTabs)},
         {QStringLiteral("enabled"), row.enabled},
         {QStringLiteral("visible"), row.visible},
     };
@@ -53,25 +53,25 @@ QVariantMap menuRowProperties(const StatusMenu::Row& row)
     return properties;
 }
 
-QVariantMap menuProperties(const StatusMenu* menu, int id, const QStringList& names)
+QVariantMap menuProperties(const StatusMenu* menu, int id, const QStringList& names, const MenuForm& form)
 {
     if (!isMenuId(menu, id))
         return {};
     if (id == menuRootId)
         return only({{QStringLiteral("children-display"), QStringLiteral("submenu")}}, names);
-    return only(menuRowProperties(menu->rows()[static_cast<std::size_t>(id) - 1]), names);
+    return only(menuRowProperties(menu->rows()[static_cast<std::size_t>(id) - 1], form), names);
 }
 
 MenuNode menuLayout(const StatusMenu* menu, int parentId, int depth, const QStringList& names,
-                    bool commandsFirst)
+                    const MenuForm& form)
 {
-    MenuNode node{parentId, menuProperties(menu, parentId, names), {}};
+    MenuNode node{parentId, menuProperties(menu, parentId, names, form), {}};
     if (depth == 0)
         return node;
     const std::vector<int> ids =
-        parentId == menuRootId ? menuOrder(menu, commandsFirst) : rowsIn(menu, parentId);
+        parentId == menuRootId ? menuOrder(menu, form.commandsFirst) : rowsIn(menu, parentId);
     for (const int id : ids) {
-        const MenuNode child = menuLayout(menu, id, depth - 1, names);
+        const MenuNode child = menuLayout(menu, id, depth - 1, names, form);
         node.children.append(QDBusVariant(QVariant::fromValue(child)));
     }
     return node;

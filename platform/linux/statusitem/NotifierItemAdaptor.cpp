@@ -1,5 +1,7 @@
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"
 
+#include "platform/linux/statusitem/ItemPaths.h"
+#include "platform/linux/statusitem/NotifierPixmaps.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
 
@@ -13,6 +15,18 @@ NotifierItemAdaptor::NotifierItemAdaptor(QObject* item, const Presentation& pres
     , m_requests(std::move(requests))
 {
     registerNotifierTypes();
+}
+
+void NotifierItemAdaptor::announce(const Presentation& last)
+{
+    if (m_announced.title != last.title)
+        Q_EMIT NewTitle();
+    if (m_announced.picture != last.picture || m_announced.carrier != last.carrier)
+        Q_EMIT NewIcon();
+    if (m_announced.toolTipTitle != last.toolTipTitle || m_announced.toolTipBody != last.toolTipBody)
+        Q_EMIT NewToolTip();
+    if (m_announced.label != last.label || m_announced.labelGuide != last.labelGuide)
+        Q_EMIT XAyatanaNewLabel(m_announced.label, m_announced.labelGuide);
 }
 
 QString NotifierItemAdaptor::category() const
@@ -88,7 +102,7 @@ bool NotifierItemAdaptor::itemIsMenu() const
 
 QDBusObjectPath NotifierItemAdaptor::menu() const
 {
-    return QDBusObjectPath(QLatin1String(menuPath));
+    return QDBusObjectPath(QLatin1String(menuObjectPath));
 }
 
 QString LabelledItemAdaptor::label() const

@@ -49,6 +49,9 @@ public:
     NotifierItemAdaptor(QObject* item, const Presentation& presentation, StatusPictures& pictures,
                         Requests requests);
 
+    /// Signals what is different in the presentation from the last one.
+    void announce(const Presentation& last);
+
     QString category() const;
     QString id() const;
     QString title() const;
@@ -103,8 +106,5 @@ public:
     QString label() const;
     QString labelGuide() const;
 };
-
-/// Where the menu is on the connection.
-inline constexpr auto menuPath = "/MenuBar";
 
 } // namespace quindle

@@ -9,8 +9,6 @@ class QDBusArgument;
 
 namespace quindle {
 
-struct Pixels;
-
 /// (iiay): a picture on the bus, its pixels as ARGB in network byte order, not premultiplied.
 struct NotifierPixmap
 {
@@ -27,8 +25,6 @@ struct NotifierToolTip
     QString title;
     QString body;
 };
-
-NotifierPixmap notifierPixmap(const Pixels& picture);
 
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap);
 const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap);

@@ -86,6 +86,7 @@ Presentation present(const ItemContents& contents, const HostTraits& host, const
     presented.picture.isSmall = host.drawsSmall;
     if (!presented.picture.text.isEmpty())
         presented.picture.fontFamily = fontFamily;
+    presented.picture.isUnscaled = host.neverScales;
     presented.carrier = carrierOf(presented.picture, host);
     return presented;
 }

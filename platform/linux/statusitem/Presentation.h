@@ -35,6 +35,7 @@ struct Picture
     double fontSize = 0.0;
     Argb ink = 0;              ///< what the panel writes in; see isKnown
     bool isSmall = false;      ///< the host shows a drawing in 16 pixels, not in 22
+    bool isUnscaled = false;   ///< the host shows one of its sizes as it is
     bool inAllHeights = false; ///< a wide one is wanted as high as icons are, not high and to be scaled
     QString fontFamily{};      ///< of text; empty for the system's usual one
 

@@ -20,6 +20,8 @@ namespace quindle {
 namespace {
 
 constexpr std::array squareSizes{22, 32, 44};
+// An X11 tray gives the icon its room and never scales it.
+constexpr std::array traySizes{16, 22, 24, 32, 44, 48};
 // Panels that scale give the icon a pixel or two less than their own height.
 constexpr std::array wideHeights{16, 18, 20, 22, 24, 26, 28, 30, 32, 36, 40, 44, 48};
 constexpr int gridSize = 22;
@@ -43,7 +45,7 @@ constexpr Argb plateColour = 0xbe181a1e;
 std::span<const int> sizesOf(const Picture& picture)
 {
     if (picture.kind != Picture::Kind::Wide)
-        return squareSizes;
+        return picture.isUnscaled ? std::span<const int>(traySizes) : squareSizes;
     return picture.inAllHeights ? std::span<const int>(wideHeights) : std::span(&wideHeight, 1);
 }
 

@@ -46,13 +46,16 @@ QString literalPanelToolTip(const QString& text)
     return markup + QStringLiteral("</p>");
 }
 
-QString menuLabel(const QString& text)
+QString menuLabel(const QString& text, bool keepsTab)
 {
     QString label = text;
     const qsizetype tab = label.indexOf(QLatin1Char('\t'));
-    if (tab >= 0)
+    if (tab >= 0 && !keepsTab)
         label.replace(tab, 1, QStringLiteral(": "));
-    return elided(singleLine(label), menuLabelLength).replace(QLatin1Char('_'), QLatin1String("__"));
+    label = singleLine(label);
+    if (tab >= 0 && keepsTab)
+        label[tab] = QLatin1Char('\t');
+    return elided(label, menuLabelLength).replace(QLatin1Char('_'), QLatin1String("__"));
 }
 
 } // namespace quindle

@@ -15,6 +15,6 @@ QString literalPanelToolTip(const QString& text);
 
 /// A menu row's label: no mnemonic, one line. A tab, which separates caption and value, becomes a colon: not
 /// every host aligns what follows a tab.
-QString menuLabel(const QString& text);
+QString menuLabel(const QString& text, bool keepsTab = false);
 
 } // namespace quindle

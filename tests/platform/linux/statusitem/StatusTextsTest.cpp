@@ -37,6 +37,7 @@ TEST(MenuLabel, mnemonicsAreLiteralAndTheTabBecomesAColon)
     EXPECT_EQ(menuLabel(u("Health\t93.4%")), u("Health: 93.4%"));
     EXPECT_EQ(menuLabel(u("a\nb\tc\td")), u("a b: c d"));
     EXPECT_EQ(menuLabel(QString(10000, QLatin1Char('x'))).size(), 100);
+    EXPECT_EQ(menuLabel(u("a_b\nc\td\te"), true), u("a__b c\td e"));
 }
 
 } // namespace

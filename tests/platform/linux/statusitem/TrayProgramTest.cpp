@@ -1,0 +1,122 @@
+#include "platform/linux/statusitem/TrayProgram.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "tests/support/QtPrinters.h"
+
+namespace quindle {
+namespace {
+
+using namespace std::chrono_literals;
+
+int warnings = 0;
+
+void countWarning(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*line*/)
+{
+    warnings += type == QtWarningMsg ? 1 : 0;
+}
+
+class TrayProgramTest : public testing::Test
+{
+protected:
+    TrayProgramTest()
+    {
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
+        warnings = 0;
+        qInstallMessageHandler(countWarning);
+    }
+
+    ~TrayProgramTest() override { qInstallMessageHandler(nullptr); }
+
+    void make(const char* program)
+    {
+        tray = std::make_unique<TrayProgram>(
+            QString::fromUtf8(program),
+            [this](const QDBusConnection& peer) { isConnected = peer.isConnected(); },
+            [this] { return now; });
+        QObject::connect(tray.get(), &TrayProgram::wanted, tray.get(), [this] { ++wanted; });
+    }
+
+    template <typename Condition>
+    static bool comesTrue(Condition condition)
+    {
+        const QDeadlineTimer deadline(10'000);
+        while (!condition() && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
+        return condition();
+    }
+
+    /// Starts it, and lets so much time pass until it has ended.
+    void runFor(std::chrono::milliseconds time)
+    {
+        ASSERT_TRUE(tray->isWanted());
+        tray->start();
+        ASSERT_FALSE(tray->isWanted());
+        now += time;
+        ASSERT_TRUE(comesTrue([this] { return wantedLater(); }));
+    }
+
+    /// Whether it is wanted, now or after a pause.
+    bool wantedLater()
+    {
+        const auto present = now;
+        now += 1h;
+        const bool isWanted = tray->isWanted();
+        now = present;
+        return isWanted;
+    }
+
+    QTemporaryDir runtime;
+    std::chrono::milliseconds now{1h};
+    std::unique_ptr<TrayProgram> tray;
+    bool isConnected = false;
+    int wanted = 0;
+};
+
+TEST_F(TrayProgramTest, OneThatEndsIsWantedAtOnceTheFirstTimeThenEverMoreSeldom)
+{
+    make("/bin/true");
+    runFor(0ms);
+    EXPECT_EQ(wanted, 1);
+    runFor(0ms);
+    EXPECT_EQ(wanted, 1);
+    EXPECT_FALSE(tray->isWanted());
+    now += 999ms;
+    EXPECT_FALSE(tray->isWanted());
+    tray->start();
+    now += 1ms;
+    runFor(0ms);
+    now += 1s;
+    EXPECT_FALSE(tray->isWanted());
+    EXPECT_EQ(warnings, 1);
+    now += 1s;
+    runFor(0ms);
+    EXPECT_EQ(warnings, 1);
+}
+
+TEST_F(TrayProgramTest, OneThatStayedIsStartedAgainAtOnce)
+{
+    make("/bin/true");
+    for (int times = 0; times < 5; ++times) {
+        runFor(1min);
+        EXPECT_EQ(wanted, times + 1);
+    }
+    EXPECT_EQ(warnings, 0);
+}
+
+TEST_F(TrayProgramTest, OneThatIsMissingIsNamedOnce)
+{
+    make("/nowhere/quindle-windows");
+    for (int times = 0; times < 5; ++times) {
+        runFor(0ms);
+        now += 10min;
+    }
+    EXPECT_EQ(warnings, 1);
+    EXPECT_FALSE(isConnected);
+}
+
+} // namespace
+} // namespace quindle

@@ -1,0 +1,77 @@
+#include "windows/tray/HelperListener.h"
+
+#include <cstdlib>
+#include <unistd.h>
+#include <utility>
+
+#include <QDBusServer>
+
+#include "common/Paths.h"
+#include "platform/linux/os/UserFolders.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr auto socketName = "/socket";
+
+/// A path as addresses of D-Bus name it.
+QString addressOf(const QByteArray& socket)
+{
+    return QStringLiteral("unix:path=") + QString::fromLatin1(socket.toPercentEncoding("-_/.\\*", "~"));
+}
+
+} // namespace
+
+HelperListener::HelperListener(std::function<void(const QDBusConnection&)> connected)
+    : m_connected(std::move(connected))
+{
+    // A socket's path has room for a short folder only, and the runtime folder may be read-only.
+    if (const QString runtime = runtimeFolder(); runtime.isEmpty() || !listenBelow(pathBytes(runtime)))
+        listenBelow("/tmp");
+}
+
+HelperListener::~HelperListener()
+{
+    removeFiles();
+}
+
+bool HelperListener::listenBelow(const QByteArray& folder)
+{
+    removeFiles();
+    // A folder for this user alone: the library lets everybody write to the socket itself.
+    m_folder = folder + "/quindle-tray-XXXXXX";
+    if (!::mkdtemp(m_folder.data())) {
+        m_folder.clear();
+        return false;
+    }
+    // Never destroyed: Qt 6.4 lets another thread free what its destructor still uses.
+    m_server = new QDBusServer(addressOf(m_folder + socketName));
+    connect(m_server, &QDBusServer::newConnection, this, &HelperListener::accept);
+    return m_server->isConnected();
+}
+
+void HelperListener::removeFiles()
+{
+    if (m_folder.isEmpty())
+        return;
+    ::unlink((m_folder + socketName).constData());
+    ::rmdir(m_folder.constData());
+    m_folder.clear();
+}
+
+void HelperListener::accept(const QDBusConnection& connection)
+{
+    removeFiles();
+    if (const auto connected = std::exchange(m_connected, {}))
+        connected(connection);
+}
+
+QString HelperListener::address() const
+{
+    return m_server && m_server->isConnected() ? m_server->address() : QString();
+}
+
+} // namespace quindle
+
+#include "moc_HelperListener.cpp"

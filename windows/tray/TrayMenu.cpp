@@ -1,0 +1,93 @@
+#include "windows/tray/TrayMenu.h"
+
+#include <utility>
+
+#include <QAction>
+#include <QDBusArgument>
+#include <QPalette>
+
+namespace quindle {
+
+namespace {
+
+/// Facts are disabled rows, which many styles write in a grey that can hardly be read.
+void makeDisabledLegible(QMenu& menu)
+{
+    constexpr float share = 0.62F; // contrast of about 5 on white and on black
+    QPalette palette = menu.palette();
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        QColor quiet = palette.color(QPalette::Active, role);
+        quiet.setAlphaF(share);
+        palette.setColor(QPalette::Disabled, role, quiet);
+    }
+    menu.setPalette(palette);
+}
+
+/// From the protocol's mnemonics, of which the labels have none, to the toolkit's.
+QString actionText(const QVariantMap& properties)
+{
+    QString label = properties.value(QStringLiteral("label")).toString();
+    label.replace(QLatin1String("__"), QLatin1String("_"));
+    return label.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+/// What is not said has the protocol's usual value.
+void bringUpToDate(QAction* action, const QVariantMap& properties)
+{
+    action->setVisible(properties.value(QStringLiteral("visible"), true).toBool());
+    if (action->isSeparator())
+        return;
+    action->setText(actionText(properties));
+    action->setEnabled(properties.value(QStringLiteral("enabled"), true).toBool());
+}
+
+bool isSeparator(const MenuNode& row)
+{
+    return row.properties.value(QStringLiteral("type")) == QLatin1String("separator");
+}
+
+bool isSubmenu(const MenuNode& row)
+{
+    return row.properties.value(QStringLiteral("children-display")) == QLatin1String("submenu");
+}
+
+} // namespace
+
+TrayMenu::TrayMenu(const MenuNode& root, std::function<void(int id)> chosen)
+    : m_chosen(std::move(chosen))
+{
+    addRows(m_menu, root);
+}
+
+void TrayMenu::addRows(QMenu& menu, const MenuNode& parent)
+{
+    makeDisabledLegible(menu);
+    for (const QDBusVariant& child : parent.children) {
+        const auto row = qdbus_cast<MenuNode>(child.variant());
+        QAction* action = addRow(menu, row);
+        bringUpToDate(action, row.properties);
+        m_actions[row.id] = action;
+        QObject::connect(action, &QAction::triggered, &m_menu, [this, id = row.id] { m_chosen(id); });
+    }
+}
+
+QAction* TrayMenu::addRow(QMenu& menu, const MenuNode& row)
+{
+    if (isSeparator(row))
+        return menu.addSeparator();
+    if (!isSubmenu(row))
+        return menu.addAction(QString());
+    QMenu* submenu = menu.addMenu(QString());
+    addRows(*submenu, row);
+    return submenu->menuAction();
+}
+
+void TrayMenu::update(const QList<MenuRowProperties>& rows)
+{
+    for (const MenuRowProperties& row : rows) {
+        if (const auto found = m_actions.find(row.id); found != m_actions.end())
+            bringUpToDate(found->second, row.properties);
+    }
+}
+
+} // namespace quindle
