@@ -171,7 +171,7 @@ std::optional<FontFile> FontChoice::font(const QString& family, char32_t charact
 
 QString familyOfFontName(const QString& name)
 {
-    QStringList words = name.simplified().split(u' ', Qt::SkipEmptyParts);
+    QStringList words = name.left(longestFamily).simplified().split(u' ', Qt::SkipEmptyParts);
     if (!words.isEmpty() && isSize(words.last()))
         words.removeLast();
     // A comma ends a list of families, of which the first is meant.

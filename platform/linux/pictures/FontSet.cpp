@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <malloc.h>
+
 #include <QLoggingCategory>
 
 namespace quindle {
@@ -114,7 +116,11 @@ void FontSet::rest()
     for (Font& font : m_fonts)
         font.face.reset();
     m_library.reset();
+    if (!m_choice)
+        return;
+    // The list of all fonts was a quarter of a megabyte in small pieces, which the allocator would keep.
     m_choice.reset();
+    malloc_trim(0);
 }
 
 } // namespace quindle

@@ -46,6 +46,11 @@ LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, RunLoop& runLoop,
         new NotifierItemAdaptor(&m_itemObjectWithoutLabel, m_announced, m_pictures, requests());
     m_menuAdaptor = new MenuAdaptor(&m_menuObject, [this] { useActivationToken(); });
     m_notifierItem = m_labelledItem;
+    m_font.setBus(m_bus);
+    connect(&m_font, &InterfaceFont::changed, this, [this] {
+        m_wanted.fontFamily = m_font.family();
+        scheduleFlush();
+    });
     exportObjects();
     linkToWatcher();
     scheduleFlush();
@@ -60,6 +65,7 @@ void LinuxStatusItem::setBus(const QDBusConnection& bus)
 {
     m_bus = bus;
     m_guard.setBus(m_bus);
+    m_font.setBus(m_bus);
     exportObjects();
     linkToWatcher();
     if (m_started)
@@ -181,7 +187,9 @@ void LinuxStatusItem::flush()
         m_flushed = m_wanted;
         HostTraits host = m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : x11TrayTraits;
         host.textColour = m_wanted.textColour;
-        announce(present(m_wanted.contents, host));
+        announce(present(m_wanted.contents, host, m_wanted.fontFamily));
+        if (!m_announced.picture.text.isEmpty())
+            m_font.need();
     }
     if (m_menuChanged) {
         m_menuChanged = false;
@@ -223,6 +231,7 @@ X11Tray LinuxStatusItem::lookAtPanel()
     const X11Tray tray = x11Tray(m_display);
     m_panelSeen = timeSinceBoot();
     m_wanted.textColour = tray.textColour;
+    m_font.forgetAnswer();
     return tray;
 }
 

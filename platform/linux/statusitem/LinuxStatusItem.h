@@ -14,6 +14,7 @@
 #include "platform/linux/session/BacklogGuard.h"
 #include "platform/linux/session/X11Display.h"
 #include "platform/linux/statusitem/HostTraits.h"
+#include "platform/linux/statusitem/InterfaceFont.h"
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
@@ -93,6 +94,7 @@ private:
         bool hasWatcher = false;
         QString choice;
         Argb textColour = 0;
+        QString fontFamily;
 
         friend bool operator==(const Decisive&, const Decisive&) = default;
     };
@@ -102,6 +104,7 @@ private:
     StatusItemSurroundings m_surroundings;
     StatusPictures m_pictures;
     X11Display m_display;
+    InterfaceFont m_font{m_display};
     std::chrono::milliseconds m_panelSeen{0}; ///< since the computer's start
     std::shared_ptr<Image> m_image;
     StatusMenu* m_menu = nullptr;

@@ -1,0 +1,98 @@
+#include "platform/linux/statusitem/InterfaceFont.h"
+
+#include <utility>
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusVariant>
+
+#include "platform/linux/pictures/FontChoice.h"
+#include "platform/linux/session/XSettings.h"
+
+namespace quindle {
+
+namespace {
+
+const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString portalInterface = QStringLiteral("org.freedesktop.portal.Settings");
+const QString settingChangedSignal = QStringLiteral("SettingChanged");
+const QStringList fontSetting{QStringLiteral("org.gnome.desktop.interface"), QStringLiteral("font-name")};
+
+/// The text in a variant, which the portal puts into another one.
+QString textIn(QVariant value)
+{
+    while (value.userType() == qMetaTypeId<QDBusVariant>())
+        value = value.value<QDBusVariant>().variant();
+    return value.toString();
+}
+
+} // namespace
+
+InterfaceFont::InterfaceFont(X11Display& display)
+    : m_display(display)
+{
+}
+
+InterfaceFont::~InterfaceFont() = default;
+
+void InterfaceFont::setBus(const QDBusConnection& bus)
+{
+    m_question.reset();
+    m_bus = bus;
+    m_isAsked = false;
+}
+
+void InterfaceFont::forgetAnswer()
+{
+    m_isAsked = false;
+}
+
+void InterfaceFont::need()
+{
+    if (std::exchange(m_isAsked, true))
+        return;
+    const QByteArray fontName = xsettingsFontName(m_display);
+    if (!fontName.isEmpty())
+        take(QString::fromUtf8(fontName));
+    else if (m_bus.isConnected())
+        askPortal();
+}
+
+void InterfaceFont::askPortal()
+{
+    // From anybody: what the signal says is not used, only that the portal is to be asked again.
+    m_bus.connect(QString(), portalPath, portalInterface, settingChangedSignal, fontSetting, QString(), this,
+                  SLOT(settingChanged()));
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(portalService, portalPath, portalInterface, QStringLiteral("Read"));
+    question << fontSetting.at(0) << fontSetting.at(1);
+    question.setAutoStartService(false);
+    m_question = std::make_unique<QDBusPendingCallWatcher>(m_bus.asyncCall(question));
+    connect(m_question.get(), &QDBusPendingCallWatcher::finished, this, [this] {
+        const QDBusMessage answer = m_question->reply();
+        m_question.release()->deleteLater();
+        if (answer.type() == QDBusMessage::ReplyMessage)
+            take(textIn(answer.arguments().value(0)));
+    });
+}
+
+void InterfaceFont::settingChanged()
+{
+    // One question on the way is enough: whoever announces without end gets no more than that.
+    if (m_question)
+        return;
+    m_isAsked = false;
+    need();
+}
+
+void InterfaceFont::take(const QString& fontName)
+{
+    const QString family = familyOfFontName(fontName);
+    if (std::exchange(m_family, family) != family)
+        Q_EMIT changed();
+}
+
+} // namespace quindle
+
+#include "moc_InterfaceFont.cpp"
