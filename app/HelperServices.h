@@ -37,10 +37,10 @@ public:
     /// whose settings are files.
     virtual void store(const QString& database, const QByteArray& values) = 0;
 
-    /// This computer; `systemRoot` replaces /sys when it is not empty. Needs a QGuiApplication.
+    /// This computer; `systemRoot` replaces /sys when it is not empty. Needs a QCoreApplication.
     static std::unique_ptr<HelperServices> ofThisComputer(const QString& systemRoot);
 
-    /// A recorded computer. Needs a QGuiApplication.
+    /// A recorded computer. Needs a QCoreApplication.
     static std::unique_ptr<HelperServices> ofMachine(const Machine& machine);
 };
 

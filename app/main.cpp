@@ -6,8 +6,7 @@
 #include <optional>
 #include <variant>
 
-#include <QGuiApplication>
-#include <QSessionManager>
+#include <QCoreApplication>
 
 #include "app/HelperAppDelegate.h"
 #include "app/HelperCommandLine.h"
@@ -24,6 +23,7 @@
 #include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/os/StandardError.h"
 #include "platform/linux/session/ActivationToken.h"
+#include "platform/linux/session/DisplayEnd.h"
 #include "platform/linux/session/SingleInstance.h"
 #include "platform/linux/session/StartDeadline.h"
 #include "platform/linux/session/X11Desktop.h"
@@ -39,6 +39,7 @@ namespace {
 constexpr int cannotRun = 1;
 constexpr int wrongUsage = 2;
 constexpr std::chrono::seconds patience(5);
+constexpr std::chrono::seconds patienceWithDisplay(1);
 
 int fail(const QString& line, int status)
 {
@@ -50,14 +51,6 @@ bool hasDisplay()
 {
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
            !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-}
-
-/// The login item alone decides whether the helper starts at login. A session manager that restarts what ran
-/// when the session ended would start one that the user has taken out, and with arguments.
-void leaveLoginToLoginItems(const QGuiApplication& application)
-{
-    QObject::connect(&application, &QGuiApplication::saveStateRequest, &application,
-                     [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); });
 }
 
 /// A home on a server that is away would keep the first read waiting without end.
@@ -77,7 +70,7 @@ RequestSurroundings surroundingsOf(const HelperServices& services, X11Display& d
             .memory = [&services] { return services.memory(); }};
 }
 
-int run(QGuiApplication& application, HelperServices& services, SingleInstance& instance)
+int run(QCoreApplication& application, HelperServices& services, SingleInstance& instance)
 {
     const Platform computer = services.platform();
     SharedNotifications notifications(computer.distributedNotificationCenter);
@@ -102,11 +95,16 @@ int run(QGuiApplication& application, HelperServices& services, SingleInstance& 
         fail(QStringLiteral("another helper is on the session bus that has come up"), 0);
         application.quit();
     });
+    // Nothing else ends a program without windows together with the desktop that it shows its item on.
+    const DisplayEnd displayEnd(displaySocketOfProcess(), patienceWithDisplay, [&application] {
+        fail(QStringLiteral("the display has gone"), 0);
+        application.quit();
+    });
     instance.setShowRequested([&interface] { interface.statusMenu().openView(); });
     // The requests of other starts come in only once the loop runs, so nothing is shown half made.
     delegate.applicationDidFinishLaunching();
     services.play(delegate);
-    return QGuiApplication::exec();
+    return QCoreApplication::exec();
 }
 
 int print(const QByteArray& text)
@@ -136,12 +134,10 @@ int start(int argc, char** argv)
     if (!hasDisplay())
         return fail(QStringLiteral("there is no display to show a tray item on"), cannotRun);
 
-    QGuiApplication application(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("quindle-helper"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
-    // Closing the battery view must not end the helper.
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    leaveLoginToLoginItems(application);
+    // No windows and no display: the session management that a program with them takes part in does not know
+    // it, so the login item alone decides whether it starts at login.
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("quindle-helper"));
 
     std::optional<SingleInstance> instance;
     const StartAnswer answer = answerInTime(instance);

@@ -4,16 +4,18 @@ the item lives and the next click works."""
 
 import json
 import os
+import re
 import shutil
 import signal
 import time
 import unittest
 from pathlib import Path
 
-from fault_case import anonymous_memory
-from helper_case import HELPER, HelperCase, charge_step, machine, wait_for
+from fault_case import FaultCase, anonymous_memory
+from helper_case import HELPER, Desktop, HelperCase, charge_step, machine, wait_for
 from preferences_case import ACCESSIBILITY, PreferencesCase, nodes
 
+OPENINGS = int(os.environ.get("QUINDLE_VIEW_OPENINGS", "40"))
 KEEPS_FREED_MEMORY = os.environ.get("QUINDLE_KEEPS_FREED_MEMORY") == "1"
 
 
@@ -206,9 +208,57 @@ class Windows(WindowsCase):
             return anonymous_memory(process), len(os.listdir(f"/proc/{process.pid}/fd"))
 
         memory, files = open_and_close(5)
-        memory_after, files_after = open_and_close(40)
+        memory_after, files_after = open_and_close(OPENINGS)
         self.assertEqual(files_after, files)
         self.assertLess(memory_after - memory, 60, "kB")
+
+
+class WithoutADisplay(FaultCase):
+    """The helper itself is no graphical program."""
+
+    def libraries(self, process):
+        return {Path(line.split(maxsplit=5)[-1]).name.split(".so")[0]
+                for line in Path(f"/proc/{process.pid}/maps").read_text().splitlines() if ".so" in line}
+
+    @staticmethod
+    def x_server(desktop):
+        server, = (pid for pid in desktop._own_processes() if "Xvfb" in desktop._command_line(pid))
+        return server
+
+    def connections(self):
+        """How many files the X server has open: one more for each program that is connected."""
+        return len(os.listdir(f"/proc/{self.x_server(self.desktop)}/fd"))
+
+    def start_shown(self):
+        bus = self.bus()
+        bus.start()
+        before = self.connections()
+        process = self.start_helper({"DBUS_SESSION_BUS_ADDRESS": bus.address})
+        item = self.watcher(bus).item()
+        self.assert_shows(bus, item, "50.0%")
+        time.sleep(4)  # what a start asks has been answered
+        return process, before
+
+    def test_it_loads_nothing_of_the_kind(self):
+        process, _ = self.start_shown()
+        loaded = self.libraries(process)
+        self.assertIn("libQt6Core", loaded)
+        graphical = [name for name in loaded if re.match("libQt6(Gui|Widgets|Svg|XcbQpa|WaylandClient)|libX11$|libwayland",
+                                                         name)]
+        self.assertEqual(graphical, [])
+
+    def test_it_ends_with_the_display(self):
+        desktop = Desktop("none")
+        with desktop:
+            helper = desktop.start(HELPER, env={"QUINDLE_SYSFS": str(self.sysfs)})
+            time.sleep(1.5)
+            self.assertIsNone(helper.poll())
+            os.kill(self.x_server(desktop), signal.SIGTERM)
+            self.assertEqual(helper.wait(10), 0)
+
+    def test_it_is_not_connected_to_the_display(self):
+        _, before = self.start_shown()
+        self.assertEqual(self.connections(), before)
 
 
 class ReadAloud(PreferencesCase):

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+#include <QFileSystemWatcher>
+#include <QString>
+#include <QTimer>
+
+#include "platform/linux/session/DisplayKey.h"
+
+namespace quindle {
+
+/// The socket file of the display that the session shows itself on: Wayland's before X11's. Empty where there
+/// is no display, or one of another computer.
+QString displaySocket(const DisplayNames& names);
+
+/// The same for the display that programs started by this process would show windows on: the toolkit's own
+/// variable (QT_QPA_PLATFORM) decides first.
+QString displaySocketOfProcess();
+
+/// Notices the end of a display without being connected to it: its server takes its socket away, or another
+/// one puts its own in that place. A server whose socket file alone was deleted, by whoever tidies up, goes
+/// on as long as it can be reached. Needs a QCoreApplication.
+class DisplayEnd
+{
+public:
+    /// Calls `ended` once, from the main loop; never where `socket` is empty or not there. What comes and
+    /// goes within `settling` is no end.
+    DisplayEnd(const QString& socket, std::chrono::milliseconds settling, std::function<void()> ended);
+
+    /// Which file stands at a path: its inode, and when it was made; zeros for none. File systems give a new
+    /// file the inode of the one that has just gone, and the mode of a file may be changed.
+    struct File
+    {
+        quint64 inode = 0;
+        qint64 seconds = 0;
+        qint64 nanoseconds = 0;
+
+        friend bool operator==(const File&, const File&) = default;
+    };
+
+private:
+    void look();
+
+    QString m_socket;
+    File m_file;
+    QFileSystemWatcher m_watcher;
+    QTimer m_settling;
+    std::function<void()> m_ended;
+};
+
+} // namespace quindle
