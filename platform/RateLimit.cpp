@@ -15,43 +15,58 @@ RateLimit::RateLimit(RunLoop& runLoop, double settling, std::function<void()> ac
 
 RateLimit::~RateLimit()
 {
-    // The loop keeps its timers alive, and would call an object that is gone.
-    if (m_timer)
-        m_timer->invalidate();
+    for (const auto& timer : {m_settle, m_recover})
+        if (timer)
+            timer->invalidate();
 }
 
 void RateLimit::request()
 {
-    // Remembered even while a timer runs, so that the last request is never lost.
     m_isRequested = true;
-    if (m_timer)
+    const bool isFirst = m_spent == 0;
+    if (isFirst)
+        act();
+    // Once more without another request too: some drivers announce a change before its values have settled.
+    if (isFirst && m_settling > 0)
+        m_isRequested = true;
+    settle();
+}
+
+/// Acts on what is requested when it has settled, if another action is allowed then.
+void RateLimit::settle()
+{
+    const int allowed = m_settling > 0 ? 2 : 1;
+    if (!m_isRequested || m_settle || m_spent >= allowed)
         return;
-    if (m_settling > 0)
-        wait(m_settling);
-    else
-        actIfRequested();
+    m_settle = m_runLoop.scheduleRepeatingTimer(m_settling, 0.0, [this] {
+        std::exchange(m_settle, nullptr)->invalidate();
+        act();
+    });
 }
 
-void RateLimit::wait(double seconds)
+void RateLimit::act()
 {
-    m_timer = m_runLoop.scheduleRepeatingTimer(seconds, 0.0, [this] { waitIsOver(); });
-}
-
-void RateLimit::waitIsOver()
-{
-    // A timer of its own for each wait: the next tick of the same one would count from when this one was
-    // planned, and come too soon after it.
-    std::exchange(m_timer, nullptr)->invalidate();
-    actIfRequested();
-}
-
-void RateLimit::actIfRequested()
-{
-    if (!std::exchange(m_isRequested, false))
-        return;
-    // Before the call, which may itself request the next time.
-    wait(shortestPause);
+    m_isRequested = false;
+    ++m_spent;
+    recover();
     m_act();
+}
+
+/// From the last action on, in which the time of a while's two begins together.
+void RateLimit::recover()
+{
+    if (m_recover)
+        m_recover->invalidate();
+    // A timer of its own for each pause: the next tick of the same one would count from when this one was
+    // planned, and come too soon after it.
+    m_recover = m_runLoop.scheduleRepeatingTimer(shortestPause, 0.0, [this] {
+        std::exchange(m_recover, nullptr)->invalidate();
+        --m_spent;
+        if (m_isRequested && !m_settle)
+            act();
+        else if (m_spent > 0)
+            recover();
+    });
 }
 
 } // namespace quindle

@@ -8,17 +8,20 @@ namespace quindle {
 class RunLoop;
 class Timer;
 
-/// Acts on request, at most twice a second: a moment after the first request, where changes are announced
-/// piece by piece, and then no sooner than half a second after the last time. Requests in between count as
-/// one, and the last is never lost. Without requests it keeps no timer. Main thread only.
+/// Acts on request, at most twice a second: the last request is never lost, and those that have to wait
+/// count as one. Without requests it keeps no timer. Main thread only.
+///
+/// Where changes are announced piece by piece, it acts on the first request of a while at once and once more
+/// when the pieces have settled, so a while begins with two actions; each of them lets another one come half
+/// a second later.
 class RateLimit
 {
 public:
     static constexpr double settleTime = 0.02;   ///< seconds that drivers take to announce one change
-    static constexpr double shortestPause = 0.5; ///< seconds from one action to the next
+    static constexpr double shortestPause = 0.5; ///< seconds for each action, in the long run
 
-    /// `settling` is how long, in seconds, a first request waits for others; with 0 it is acted on at once,
-    /// before `request` returns.
+    /// `settling` is how long, in seconds, a change takes to be announced in full; with 0 nothing is acted on
+    /// twice. The first request of a while is acted on before `request` returns.
     /// `act` must not be empty.
     /// The loop must outlive this object.
     RateLimit(RunLoop& runLoop, double settling, std::function<void()> act);
@@ -33,14 +36,16 @@ public:
     void request();
 
 private:
-    void wait(double seconds);
-    void waitIsOver();
-    void actIfRequested();
+    void settle();
+    void recover();
+    void act();
 
     RunLoop& m_runLoop;
     double m_settling;
     std::function<void()> m_act;
-    std::shared_ptr<Timer> m_timer; ///< null while nothing is waited for
+    std::shared_ptr<Timer> m_settle;  ///< null while nothing has to settle
+    std::shared_ptr<Timer> m_recover; ///< until another action is allowed; null while all are
+    int m_spent = 0;                  ///< actions, of those that a while begins with
     bool m_isRequested = false;
 };
 

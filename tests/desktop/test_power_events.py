@@ -175,8 +175,8 @@ class PowerEvents(HelperCase):
             if sent % 20 == 0 and (title := self.value("Title")) != titles[-1]:
                 titles.append(title)
         self.assertGreater(sent / seconds, 500, "events a second: the machine is too slow for this test")
-        # The five-second timer may tick once on top of the two a second, and the first comes after a moment.
-        self.assertLessEqual(len(titles) - 1, 2 * seconds + 1)
+        # The first event causes one more, and the five-second timer may tick once on top of them.
+        self.assertLessEqual(len(titles) - 1, 2 * seconds + 2)
         self.assertGreaterEqual(len(titles) - 1, seconds, "the storm kept it from refreshing")
         last = f"{(600 + sent) / 6000 * 100:.1f}%"  # in mAh, as the program divides: 4599 shows 76.6, not 76.7
         self.assert_shows_at_once(lambda: last in self.value("Title"), f"the last charge, {last}, ")
