@@ -2,7 +2,8 @@
 """windows.py HELPER [--times 20] [--sysfs DIR]
 
 From a click on the item until the battery view is on the screen (its window is mapped): where the program of the
-windows runs already (warm), and where it has to be started (cold). The click is the call that a panel makes. With the
+windows runs already (warm), and where it has to be started (cold); and the same for the preferences, chosen in the menu.
+The click is the call that a panel makes. With the
 system's own Python, for its D-Bus module, on a private headless desktop; the machine should have nothing else to do.
 """
 
@@ -22,6 +23,7 @@ SOURCE = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(SOURCE / "scripts" / "headless"))
 from desktop import ITEM, ITEM_INTERFACE, Desktop, wait_for  # noqa: E402
 
+MENU_INTERFACE = "com.canonical.dbusmenu"
 PATIENCE = 10.0  # seconds
 
 
@@ -64,10 +66,22 @@ def windows_processes(program):
     return found
 
 
-def milliseconds_of_click(item, windows):
+def click(item):
+    item.Activate(0, 0, dbus_interface=ITEM_INTERFACE, ignore_reply=True)
+
+
+def choose_preferences(menu):
+    """What a panel does when the entry of the menu that it draws is chosen."""
+    _, (_, _, rows) = menu.GetLayout(0, 1, ["label"], dbus_interface=MENU_INTERFACE)
+    row = next(row for row, properties, _ in rows if properties.get("label") == "Preferences...")
+    return lambda: menu.Event(row, "clicked", dbus.Int32(0, variant_level=1), dbus.UInt32(0),
+                              dbus_interface=MENU_INTERFACE, ignore_reply=True)
+
+
+def milliseconds_of(ask, windows):
     windows.drain()
     begun = time.monotonic()
-    item.Activate(0, 0, dbus_interface=ITEM_INTERFACE, ignore_reply=True)
+    ask()
     shown = windows.wait(rb"MapNotify event") - begun
     time.sleep(0.7)  # it is painted, and the toolkit has tidied up
     return shown * 1000
@@ -75,8 +89,15 @@ def milliseconds_of_click(item, windows):
 
 def close(item, windows):
     windows.drain()
-    item.Activate(0, 0, dbus_interface=ITEM_INTERFACE, ignore_reply=True)
+    click(item)
     windows.wait(rb"UnmapNotify event|DestroyNotify event")
+    time.sleep(0.3)
+
+
+def end(program):
+    for process in windows_processes(program):
+        os.kill(process, signal.SIGKILL)
+    wait_for(lambda: not windows_processes(program))
     time.sleep(0.3)
 
 
@@ -98,18 +119,19 @@ def main():
         bus = dbus.bus.BusConnection(desktop.env["DBUS_SESSION_BUS_ADDRESS"])
         item = bus.get_object(name, ITEM, introspect=False)
         windows = MappedWindows(desktop)
-        cold, warm = [], []
+        preferences = choose_preferences(bus.get_object(name, "/MenuBar", introspect=False))
+        cold, warm, panes = [], [], []
         for _ in range(arguments.times):
-            cold.append(milliseconds_of_click(item, windows))
+            cold.append(milliseconds_of(lambda: click(item), windows))
             close(item, windows)
-            warm.append(milliseconds_of_click(item, windows))
+            warm.append(milliseconds_of(lambda: click(item), windows))
             close(item, windows)
-            for process in windows_processes(program):
-                os.kill(process, signal.SIGKILL)
-            wait_for(lambda: not windows_processes(program))
-            time.sleep(0.2)
-        report("cold", cold)
-        report("warm", warm)
+            end(program)
+            panes.append(milliseconds_of(preferences, windows))
+            end(program)
+        report("battery view, cold", cold)
+        report("battery view, warm", warm)
+        report("preferences, cold", panes)
         helper.terminate()
         helper.wait()
 

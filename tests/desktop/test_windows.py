@@ -7,6 +7,7 @@ import os
 import re
 import shutil
 import signal
+import sys
 import time
 import unittest
 from pathlib import Path
@@ -209,6 +210,7 @@ class Windows(WindowsCase):
 
         memory, files = open_and_close(5)
         memory_after, files_after = open_and_close(OPENINGS)
+        print(f"\n  {OPENINGS} openings: memory {memory} -> {memory_after} kB, files {files} -> {files_after}", file=sys.stderr)
         self.assertEqual(files_after, files)
         self.assertLess(memory_after - memory, 60, "kB")
 
