@@ -101,7 +101,9 @@ class PreferencesCase(HelperCase):
         return json.loads(self.accessibility("tree"))
 
     def control(self, role, name):
-        return next((node for node in nodes(self.tree()) if (node["role"], node["name"]) == (role, name)), None)
+        """A window is mapped a while before assistive technologies hear of what is in it."""
+        return wait_for(lambda: next((node for node in nodes(self.tree())
+                                      if (node["role"], node["name"]) == (role, name)), None), 10)
 
     def is_checked(self, role, name):
         return "checked" in self.control(role, name)["states"]

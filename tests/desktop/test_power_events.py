@@ -107,39 +107,58 @@ class PowerEvents(HelperCase):
     def picture(self):
         return self.item.Get(ITEM_INTERFACE, "IconPixmap", dbus_interface="org.freedesktop.DBus.Properties")
 
-    def assert_shows_at_once(self, condition, what):
+    def seconds_until(self, condition, what):
         announced = time.monotonic()
-        self.assertTrue(wait_for(condition, 4, 0.002), f"{what}: the title is {self.value('Title')!r}")
-        self.assertLess(time.monotonic() - announced, AT_ONCE, f"seconds until {what} was shown")
+        self.assertTrue(wait_for(condition, 12, 0.002), f"{what}: the title is {self.value('Title')!r}")
+        return time.monotonic() - announced
+
+    def assert_shows_at_once(self, condition, what):
+        self.assertLess(self.seconds_until(condition, what), AT_ONCE, f"seconds until {what} was shown")
+
+    def assert_at_once(self, delays):
+        """Of several, so that one in which the machine did something else counts for nothing."""
+        self.assertLess(sorted(delays)[len(delays) // 2], AT_ONCE, f"seconds until changes were shown: {delays}")
 
     def test_plug_and_unplug_show_at_once(self):
+        delays = []
         for is_plugged in (True, False, True):
             time.sleep(1.3)
             title, label, picture = self.value("Title"), self.value("XAyatanaLabel"), self.picture()
             self.hardware.plug(is_plugged)
-            self.assert_shows_at_once(lambda: self.value("Title") != title, "the title")
+            delays.append(self.seconds_until(lambda before=title: self.value("Title") != before, "the title"))
             self.assertNotEqual(self.value("XAyatanaLabel"), label)
             self.assertNotEqual(self.picture(), picture)
+        self.assert_at_once(delays)
 
     def test_a_battery_swap_shows_at_once(self):
-        time.sleep(1.3)
-        self.hardware.write(self.hardware.battery, present=0)
-        self.hardware.announce(self.hardware.battery)
-        self.assert_shows_at_once(lambda: "50.0%" not in self.value("Title"), "the empty bay")
-        time.sleep(1.3)
-        self.hardware.write(self.hardware.battery, present=1, charge_now=5400000)
-        self.hardware.announce(self.hardware.battery)
-        self.assert_shows_at_once(lambda: "90.0%" in self.value("Title"), "the other battery")
+        delays = []
+        for charge in (5400000, 4800000, 3000000):
+            time.sleep(1.3)
+            title = self.value("Title")
+            self.hardware.write(self.hardware.battery, present=0)
+            self.hardware.announce(self.hardware.battery)
+            delays.append(self.seconds_until(lambda before=title: self.value("Title") != before, "the empty bay"))
+            time.sleep(1.3)
+            self.hardware.write(self.hardware.battery, present=1, charge_now=charge)
+            self.hardware.announce(self.hardware.battery)
+            delays.append(self.seconds_until(lambda now=f"{charge // 60000}.0%": now in self.value("Title"),
+                                             "the other battery"))
+        self.assert_at_once(delays)
 
     def test_a_battery_whose_device_goes_and_comes_shows_at_once(self):
-        remove = self.hardware.remover(self.hardware.battery)
-        time.sleep(1.3)
-        remove()
-        self.assert_shows_at_once(lambda: "50.0%" not in self.value("Title"), "the loss")
-        time.sleep(1.3)
-        self.hardware.battery = self.hardware.add("BAT0", {**BATTERY, "charge_now": "4800000"})
-        self.hardware.announce(self.hardware.battery)
-        self.assert_shows_at_once(lambda: "80.0%" in self.value("Title"), "the other battery")
+        delays = []
+        for charge in (5400000, 4800000, 3000000):
+            title = self.value("Title")
+            remove = self.hardware.remover(self.hardware.battery)
+            time.sleep(1.3)
+            remove()
+            delays.append(self.seconds_until(lambda before=title: self.value("Title") != before, "the loss"))
+            time.sleep(1.3)
+            self.hardware.battery = self.hardware.add("BAT0", {**BATTERY, "charge_now": str(charge)})
+            self.hardware.announce(self.hardware.battery)
+            delays.append(self.seconds_until(lambda now=f"{charge // 60000}.0%": now in self.value("Title"),
+                                             "the other battery"))
+        self.assert_at_once(delays)
 
     def test_a_change_nobody_tells_waits_for_the_timers(self):
         time.sleep(1.3)
