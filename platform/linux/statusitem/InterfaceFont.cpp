@@ -29,8 +29,12 @@ QString textIn(QVariant value)
 
 } // namespace
 
-InterfaceFont::InterfaceFont(X11Display& display)
+InterfaceFont::InterfaceFont(X11Display& display, RunLoop& runLoop)
     : m_display(display)
+    , m_changes(runLoop, 0.0, [this] {
+        forgetAnswer();
+        need();
+    })
 {
 }
 
@@ -61,7 +65,7 @@ void InterfaceFont::need()
 
 void InterfaceFont::askPortal()
 {
-    // From anybody: what the signal says is not used, only that the portal is to be asked again.
+    // From anybody: of the signal only the moment is used, and not more often than twice a second.
     m_bus.connect(QString(), portalPath, portalInterface, settingChangedSignal, fontSetting, QString(), this,
                   SLOT(settingChanged()));
     QDBusMessage question =
@@ -79,11 +83,7 @@ void InterfaceFont::askPortal()
 
 void InterfaceFont::settingChanged()
 {
-    // One question on the way is enough: whoever announces without end gets no more than that.
-    if (m_question)
-        return;
-    m_isAsked = false;
-    need();
+    m_changes.request();
 }
 
 void InterfaceFont::take(const QString& fontName)

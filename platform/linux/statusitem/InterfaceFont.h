@@ -6,10 +6,13 @@
 #include <QObject>
 #include <QString>
 
+#include "platform/RateLimit.h"
+
 class QDBusPendingCallWatcher;
 
 namespace quindle {
 
+class RunLoop;
 class X11Display;
 
 /// The family that the desktop writes in. On X11 its settings manager says it, elsewhere, or where there is
@@ -20,8 +23,8 @@ class InterfaceFont final : public QObject
     Q_OBJECT
 
 public:
-    /// The display must live longer.
-    explicit InterfaceFont(X11Display& display);
+    /// The display and the loop must live longer.
+    InterfaceFont(X11Display& display, RunLoop& runLoop);
     ~InterfaceFont() override;
 
     /// The session bus from now on; one that is not connected is none.
@@ -44,13 +47,13 @@ private Q_SLOTS:
 
 private:
     void askPortal();
-    void listenToPortal();
     void take(const QString& fontName);
 
     X11Display& m_display;
     QDBusConnection m_bus{QString()};
     QString m_family;
     bool m_isAsked = false;
+    RateLimit m_changes;
     std::unique_ptr<QDBusPendingCallWatcher> m_question;
 };
 

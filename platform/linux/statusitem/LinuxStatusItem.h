@@ -104,7 +104,7 @@ private:
     StatusItemSurroundings m_surroundings;
     StatusPictures m_pictures;
     X11Display m_display;
-    InterfaceFont m_font{m_display};
+    InterfaceFont m_font{m_display, m_runLoop};
     std::chrono::milliseconds m_panelSeen{0}; ///< since the computer's start
     std::shared_ptr<Image> m_image;
     StatusMenu* m_menu = nullptr;
