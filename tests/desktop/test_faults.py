@@ -2,6 +2,7 @@
 """The running helper when what it stands on fails: message buses, tray hosts, the place of its settings."""
 
 import os
+import socket
 import time
 import unittest
 
@@ -95,6 +96,25 @@ class MessageBuses(FaultCase):
         login_manager.send_message(woken)
         login_manager.flush()
         self.assert_shows(bus, item, "woken", 2)
+
+
+class SilentDisplay(FaultCase):
+    def test_a_display_that_accepts_and_never_answers_holds_nothing_up(self):
+        number = 20_000_000 + os.getpid()
+        with socket.socket(socket.AF_UNIX, socket.SOCK_STREAM) as display:
+            display.bind(f"\0/tmp/.X11-unix/X{number}")
+            display.listen(8)
+            bus = self.bus()
+            bus.start()
+            watcher = self.watcher(bus)
+            self.set_template("%p%")
+            process = self.start_helper({"DBUS_SESSION_BUS_ADDRESS": bus.address, "DISPLAY": f":{number}"})
+            item = watcher.item()
+            self.assert_shows(bus, item, "50.0%")
+            watcher.kill()  # now an X11 tray would be looked for
+            self.assertIsNotNone(self.watcher(bus).item())
+            self.assertIsNone(process.poll())
+        self.assertIn("does not answer", self.desktop.log_path.read_text(errors="replace"))
 
 
 class TrayHosts(FaultCase):

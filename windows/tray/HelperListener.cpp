@@ -1,6 +1,8 @@
 #include "windows/tray/HelperListener.h"
 
+#include <cstddef>
 #include <cstdlib>
+#include <sys/un.h>
 #include <unistd.h>
 #include <utility>
 
@@ -21,12 +23,17 @@ QString addressOf(const QByteArray& socket)
     return QStringLiteral("unix:path=") + QString::fromLatin1(socket.toPercentEncoding("-_/.\\*", "~"));
 }
 
+bool hasRoomForSocket(const QByteArray& folder)
+{
+    return static_cast<std::size_t>((folder + socketName).size()) < sizeof(sockaddr_un::sun_path);
+}
+
 } // namespace
 
 HelperListener::HelperListener(std::function<void(const QDBusConnection&)> connected)
     : m_connected(std::move(connected))
 {
-    // A socket's path has room for a short folder only, and the runtime folder may be read-only.
+    // The runtime folder may be read-only, or too long for a socket's path.
     if (const QString runtime = runtimeFolder(); runtime.isEmpty() || !listenBelow(pathBytes(runtime)))
         listenBelow("/tmp");
 }
@@ -38,13 +45,11 @@ HelperListener::~HelperListener()
 
 bool HelperListener::listenBelow(const QByteArray& folder)
 {
-    removeFiles();
+    QByteArray made = folder + "/quindle-tray-XXXXXX";
     // A folder for this user alone: the library lets everybody write to the socket itself.
-    m_folder = folder + "/quindle-tray-XXXXXX";
-    if (!::mkdtemp(m_folder.data())) {
-        m_folder.clear();
+    if (!hasRoomForSocket(made) || !::mkdtemp(made.data()))
         return false;
-    }
+    m_folder = made;
     // Never destroyed: Qt 6.4 lets another thread free what its destructor still uses.
     m_server = new QDBusServer(addressOf(m_folder + socketName));
     connect(m_server, &QDBusServer::newConnection, this, &HelperListener::accept);
