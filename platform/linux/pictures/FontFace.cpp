@@ -142,7 +142,9 @@ bool FontFace::selectBitmaps(int pixels)
     }
     if (best < 0 || heightOf(best) < 1 || FT_Select_Size(m_face, best) != 0)
         return false;
-    m_bitmapScale = pixels / heightOf(best);
+    // Emoji are drawn higher than letters of their size; as high as the size they go with figures.
+    const double drawn = FT_HAS_COLOR(m_face) ? m_face->available_sizes[best].height : 0.0;
+    m_bitmapScale = pixels / std::max(drawn, heightOf(best));
     return true;
 }
 

@@ -10,8 +10,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(logShaping, "quindle.statusitem.pictures", QtWarningMsg)
 
-constexpr auto libraryName = "libraqm.so.0";
-
 // What is used of the library's interface, which has not changed since its version 0.3. It is declared here
 // so that building needs none of the many packages behind the library's own header.
 
@@ -48,10 +46,10 @@ struct Shaping::Library
     bool (*layOut)(Paragraph*) = nullptr;
     LibraryGlyph* (*glyphs)(Paragraph*, std::size_t*) = nullptr;
 
-    bool load()
+    bool load(const char* name)
     {
         // Never unloaded: what is behind it does not stand that.
-        void* library = dlopen(libraryName, RTLD_NOW | RTLD_LOCAL);
+        void* library = dlopen(name, RTLD_NOW | RTLD_LOCAL);
         return library && find(library, "raqm_create", create) && find(library, "raqm_destroy", destroy) &&
                find(library, "raqm_set_text", setText) &&
                find(library, "raqm_set_freetype_face_range", setFace) &&
@@ -73,7 +71,10 @@ struct Shaping::Library
     }
 };
 
-Shaping::Shaping() = default;
+Shaping::Shaping(const char* library)
+    : m_name(library)
+{
+}
 
 Shaping::~Shaping() = default;
 
@@ -82,9 +83,9 @@ std::optional<std::vector<ShapedGlyph>> Shaping::shape(std::u32string_view text,
 {
     if (!m_library && !m_isMissing) {
         m_library = std::make_unique<Library>();
-        m_isMissing = !m_library->load();
+        m_isMissing = !m_library->load(m_name);
         if (m_isMissing)
-            qCWarning(logShaping) << libraryName << "is not installed: letters of some scripts do not join";
+            qCWarning(logShaping) << m_name << "is not installed: letters of some scripts do not join";
     }
     if (m_isMissing || text.empty())
         return std::nullopt;

@@ -33,7 +33,8 @@ struct ShapedGlyph
 class Shaping
 {
 public:
-    Shaping();
+    /// The library is looked for where the system has its own.
+    explicit Shaping(const char* library = "libraqm.so.0");
     ~Shaping();
 
     /// The glyphs of the text, whose characters all belong to one of the runs, in fonts that have been given
@@ -44,6 +45,7 @@ public:
 private:
     struct Library;
 
+    const char* m_name;
     std::unique_ptr<Library> m_library;
     bool m_isMissing = false;
 };

@@ -50,6 +50,20 @@ TEST_F(ShapingTest, AdvancesAreThoseOfTheFont)
     EXPECT_NEAR(glyphs.at(0).advance, face->advanceOf(face->glyphOf(U'8')), 0.02);
 }
 
+TEST_F(ShapingTest, WithoutTheLibraryNothingIsShapedAndOneLineSaysSo)
+{
+    for (const char* missing : {"libno-such-library.so.0", "libc.so.6"}) { // the second lacks the functions
+        Shaping without(missing);
+        testing::internal::CaptureStderr();
+        for (int times = 0; times < 3; ++times)
+            EXPECT_FALSE(without.shape(U"ببب", {{face->face(), 0, 3}}, face->measuringFlags()));
+        const std::string log = testing::internal::GetCapturedStderr();
+        const std::size_t said = log.find(missing);
+        EXPECT_NE(said, std::string::npos);
+        EXPECT_EQ(log.find(missing, said + 1), std::string::npos) << log;
+    }
+}
+
 TEST_F(ShapingTest, NoTextIsNoGlyphs)
 {
     EXPECT_FALSE(shaping.shape({}, {}, 0));
