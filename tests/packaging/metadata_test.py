@@ -46,7 +46,8 @@ class Metadata(unittest.TestCase):
     def test_layout(self):
         for path in ("Info.plist", "Linux/quindle-helper", "Linux/quindle-inspect", "Linux/quindle-windows",
                      "PlugIns/quindle-network.so",
-                     "Resources/icons/AppIconBW-symbolic.svg", "Resources/machines/demo.plist"):
+                     "Resources/icons/AppIconBW-symbolic.svg", "Resources/masks/AppIconBW.pgm",
+                     "Resources/machines/demo.plist"):
             self.assertTrue((self.root / BUNDLE / path).is_file(), path)
         for name in ("quindle-helper", "quindle-inspect"):
             link = self.root / "bin" / name

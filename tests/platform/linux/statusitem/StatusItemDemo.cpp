@@ -3,24 +3,19 @@
 
 #include <iostream>
 
-#include <QApplication>
 #include <QCommandLineParser>
+#include <QGuiApplication>
 #include <QPainter>
 
 #include "platform/Image.h"
 #include "platform/StatusMenu.h"
 #include "platform/linux/session/LinuxRunLoop.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
+#include "tests/platform/linux/pictures/PictureImage.h"
 
 namespace {
 
 using namespace quindle;
-
-QImage imageOf(const Pixels& pixels)
-{
-    const auto* bytes = reinterpret_cast<const uchar*>(pixels.data.data());
-    return QImage(bytes, pixels.width, pixels.height, QImage::Format_ARGB32_Premultiplied).copy();
-}
 
 void drawSheet(const QString& resources, const QString& file)
 {
@@ -63,7 +58,7 @@ void fill(StatusMenu& menu, const QString& title)
 
 int main(int argc, char** argv)
 {
-    const QApplication application(argc, argv);
+    const QGuiApplication application(argc, argv);
     QCommandLineParser arguments;
     const QString resources = QStringLiteral(QUINDLE_RESOURCES);
     arguments.addOptions({
@@ -94,5 +89,5 @@ int main(int argc, char** argv)
     item->setMenu(&menu);
     if (arguments.isSet(QStringLiteral("image")))
         item->setImage(std::make_shared<Image>(arguments.value(QStringLiteral("image"))));
-    return QApplication::exec();
+    return QGuiApplication::exec();
 }
