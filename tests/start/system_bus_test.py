@@ -60,6 +60,9 @@ def memory(process):
     text = Path(f"/proc/{process.pid}/smaps_rollup").read_text(encoding="ascii")
     return int(re.search(r"^Anonymous:\s+(\d+)", text, re.M).group(1))
 
+# kB that a sanitizer keeps of what was freed.
+KEPT = 300_000 if os.environ.get("QUINDLE_KEEPS_FREED_MEMORY") == "1" else 0
+
 
 class LoginManager:
     def __init__(self, address):
@@ -135,13 +138,13 @@ class SystemBus(StartCase):
         titles, share, grown = self.flooded("all")
         self.assertLessEqual(titles, 3)  # the first, and those of the helper's own timers
         self.assertLess(share, 0.05)
-        self.assertLess(grown, 2000)
+        self.assertLess(grown, KEPT + 2000)
         self.assert_waking_shows("awake")
 
     def test_another_users_signals_to_the_helper_alone_are_not_heard(self):
         titles, _, grown = self.flooded("each")
         self.assertLessEqual(titles, 3)
-        self.assertLess(grown, 5000)
+        self.assertLess(grown, KEPT + 5000)
         self.assert_waking_shows("awake")
 
     def test_the_login_manager_is_heard_and_followed(self):
