@@ -129,7 +129,9 @@ class Windows(WindowsCase):
             os.kill(self.processes()[0], signal.SIGKILL)
             self.assert_view_closes()
             self.assert_runs_on(process)
-        self.assertEqual(self.logged("program of the windows ended unexpectedly"), 3)  # each after it had answered
+        ended = "program of the windows ended unexpectedly"
+        self.assertTrue(wait_for(lambda: self.logged(ended) >= 3, 10))
+        self.assertEqual(self.logged(ended), 3)  # each after it had answered
 
     def test_asked_twice_while_it_starts(self):
         self.replace('sleep 1; exec "$real" "$@"')
@@ -148,6 +150,7 @@ class Windows(WindowsCase):
         for _ in range(3):
             self.show()
         self.assert_runs_on(process)
+        self.assertTrue(wait_for(lambda: self.logged("the program of the windows cannot be started"), 10))
         self.assertEqual(self.logged("the program of the windows cannot be started"), 1)
         self.replace('exec "$real" "$@"')
         self.assert_next_click_works(process)
@@ -158,6 +161,7 @@ class Windows(WindowsCase):
         for _ in range(3):
             self.show()
             time.sleep(0.3)
+        self.assertTrue(wait_for(lambda: self.logged("the program of the windows ended unexpectedly"), 10))
         self.assert_runs_on(process)
         self.assertEqual(self.logged("the program of the windows ended unexpectedly"), 1)
         self.replace('exec "$real" "$@"')
