@@ -63,8 +63,8 @@ protected:
     {
         item = std::make_unique<LinuxStatusItem>(
             bus.connect(), runLoop,
-            StatusItemSurroundings{QStringLiteral(QUINDLE_RESOURCES), currentDesktop, [this] { return choice; },
-                                   registrationCheck});
+            StatusItemSurroundings{QStringLiteral(QUINDLE_RESOURCES), currentDesktop,
+                                   [this] { return choice; }, registrationCheck});
         item->setTitle(u("87.0%"));
         item->setFallbackText(u("87"));
         item->setToolTipText(u("R&D"));
