@@ -1,22 +1,12 @@
 #pragma once
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
 
-namespace quindle {
+#include "tests/support/ComesTrue.h"
 
-/// Runs the main loop until the condition comes true, ten seconds at most.
-template <typename Condition>
-bool comesTrue(Condition condition)
-{
-    const QDeadlineTimer deadline(10'000);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-    return condition();
-}
+namespace quindle {
 
 /// A message bus of the test's own at a fixed address, which can come and go. Everybody may do everything on
 /// it. It ends with this object.

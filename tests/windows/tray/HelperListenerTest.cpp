@@ -2,12 +2,12 @@
 
 #include <QCoreApplication>
 #include <QDBusConnection>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"
 
 namespace quindle {
@@ -28,15 +28,6 @@ protected:
     }
 
     QDBusConnection connect() { return QDBusConnection::connectToPeer(listener->address(), name); }
-
-    template <typename Condition>
-    static bool comesTrue(Condition condition)
-    {
-        const QDeadlineTimer deadline(10'000);
-        while (!condition() && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-        return condition();
-    }
 
     QString socketFile() const
     {

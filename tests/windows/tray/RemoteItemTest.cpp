@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QDBusArgument>
-#include <QDeadlineTimer>
 #include <gtest/gtest.h>
 
 #include "platform/StatusMenu.h"
@@ -11,6 +10,7 @@
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
+#include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"
 #include "windows/tray/HelperListener.h"
 
@@ -20,15 +20,6 @@ namespace {
 QString u(const char* text)
 {
     return QString::fromUtf8(text);
-}
-
-template <typename Condition>
-bool comesTrue(Condition condition)
-{
-    const QDeadlineTimer deadline(10'000);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-    return condition();
 }
 
 /// The helper's own objects on one end of a connection, and their host on the other.

@@ -3,22 +3,13 @@
 #include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
-#include <QDeadlineTimer>
 #include <gtest/gtest.h>
 
 #include "tests/platform/linux/statusitem/PrivateBus.h"
+#include "tests/support/ComesTrue.h"
 
 namespace quindle {
 namespace {
-
-template <typename Condition>
-bool comesTrue(Condition condition)
-{
-    const QDeadlineTimer deadline(10'000);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-    return condition();
-}
 
 class Offered final : public QObject
 {

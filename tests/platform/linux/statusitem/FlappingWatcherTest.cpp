@@ -2,12 +2,12 @@
 
 #include <QCoreApplication>
 #include <QDBusMessage>
-#include <QDeadlineTimer>
 #include <gtest/gtest.h>
 
 #include "platform/linux/statusitem/WatcherLink.h"
 #include "tests/platform/linux/statusitem/FakeTrayHost.h"
 #include "tests/platform/linux/statusitem/PrivateBus.h"
+#include "tests/support/ComesTrue.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quindle {
@@ -26,15 +26,6 @@ protected:
     }
 
     ~FlappingWatcherTest() override { QDBusConnection::disconnectFromBus(connection.name()); }
-
-    template <typename Condition>
-    static bool comesTrue(Condition condition)
-    {
-        const QDeadlineTimer deadline(10'000);
-        while (!condition() && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-        return condition();
-    }
 
     /// Everything that the bus has sent the link by now is handled, and what the link asked in turn is
     /// answered.

@@ -5,25 +5,16 @@
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusVariant>
-#include <QDeadlineTimer>
 #include <gtest/gtest.h>
 
 #include "platform/linux/session/LinuxRunLoop.h"
 #include "platform/linux/session/X11Display.h"
 #include "tests/platform/linux/statusitem/PrivateBus.h"
+#include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"
 
 namespace quindle {
 namespace {
-
-template <typename Condition>
-bool comesTrue(Condition condition)
-{
-    const QDeadlineTimer deadline(10'000);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-    return condition();
-}
 
 /// The settings portal of a desktop.
 class FakePortal final : public QObject, protected QDBusContext

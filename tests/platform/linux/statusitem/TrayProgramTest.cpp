@@ -1,10 +1,10 @@
 #include "platform/linux/statusitem/TrayProgram.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"
 
 namespace quindle {
@@ -38,15 +38,6 @@ protected:
             [this](const QDBusConnection& peer) { isConnected = peer.isConnected(); },
             [this] { return now; });
         QObject::connect(tray.get(), &TrayProgram::wanted, tray.get(), [this] { ++wanted; });
-    }
-
-    template <typename Condition>
-    static bool comesTrue(Condition condition)
-    {
-        const QDeadlineTimer deadline(10'000);
-        while (!condition() && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-        return condition();
     }
 
     /// Starts it, and lets so much time pass until it has ended.

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+
+namespace quindle {
+
+/// Runs the main loop until the condition comes true, ten seconds at most.
+template <typename Condition>
+bool comesTrue(Condition condition)
+{
+    const QDeadlineTimer deadline(10'000);
+    while (!condition() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
+    return condition();
+}
+
+} // namespace quindle
