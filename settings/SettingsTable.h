@@ -32,6 +32,7 @@ namespace DefaultValues {
 inline constexpr bool flag = false;
 inline constexpr qint64 number = 0;
 inline constexpr QStringView customStatusBar = u"%p%";
+inline constexpr bool recordHistory = true; // on by default: what is recorded stays on the computer
 
 } // namespace DefaultValues
 
@@ -63,6 +64,8 @@ inline constexpr Setting<QStringView> parkedCustomStatusBar{u"parkedCustomStatus
 // inherited: beside autoUpload, and the upload does not look at it.
 inline constexpr Setting<qint64>      autoUploadBatteryData{u"autoUploadBatteryData", own, DefaultValues::number};
 inline constexpr Setting<QStringView> statusItemPresentation{u"statusItemPresentation", own, std::nullopt};
+inline constexpr Setting<bool>        recordHistory{u"recordHistory", own, DefaultValues::recordHistory};
+inline constexpr Setting<qint64>      historyDays{u"historyDays", own, DefaultValues::number};
 inline constexpr Setting<QStringView> preferencesWindowFrame{u"PreferencesWindowFrameAutoSaveName", own, std::nullopt};
 // clang-format on
 

@@ -1,0 +1,31 @@
+#include "settings/HistorySettings.h"
+
+#include <algorithm>
+
+#include "common/NumberConversion.h"
+#include "platform/UserDefaults.h"
+#include "settings/SettingsTable.h"
+
+namespace quindle {
+
+bool recordsHistory(const UserDefaults& own)
+{
+    return convertToBoolean(own.object(Keys::recordHistory.name())).value_or(*Keys::recordHistory.missing);
+}
+
+void setRecordsHistory(UserDefaults& own, bool records)
+{
+    own.setObject(Keys::recordHistory.name(), records);
+}
+
+qint64 historyDays(const UserDefaults& own)
+{
+    return std::max(qint64{0}, own.integer(Keys::historyDays.name()));
+}
+
+void setHistoryDays(UserDefaults& own, qint64 days)
+{
+    own.setInteger(Keys::historyDays.name(), days);
+}
+
+} // namespace quindle

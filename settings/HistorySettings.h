@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtGlobal>
+
+namespace quindle {
+
+class UserDefaults;
+
+/// The settings of the recorded history, in the helper's own database (`own`), which the application shares.
+/// Read at each call. Main thread only.
+
+/// Whether charge, power and a daily snapshot are recorded; true unless false is stored.
+bool recordsHistory(const UserDefaults& own);
+void setRecordsHistory(UserDefaults& own, bool records);
+
+/// For how many days samples are kept; 0, also for less than that, means for ever.
+qint64 historyDays(const UserDefaults& own);
+void setHistoryDays(UserDefaults& own, qint64 days);
+
+} // namespace quindle
