@@ -2,8 +2,8 @@
 
 #include <QVariantMap>
 
+#include "common/JsonText.h"
 #include "common/SingleLine.h"
-#include "inspect/JsonText.h"
 
 namespace quindle {
 

@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 
+#include "common/JsonText.h"
 #include "common/Paths.h"
 #include "facts/Facts.h"
 #include "inspect/Capture.h"
@@ -12,7 +13,6 @@
 #include "inspect/DemoMachine.h"
 #include "inspect/Follower.h"
 #include "inspect/Inspection.h"
-#include "inspect/JsonText.h"
 #include "inspect/TextReport.h"
 #include "platform/linux/os/CoreDumps.h"
 #include "platform/linux/os/EndOfProcess.h"

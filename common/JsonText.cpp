@@ -1,4 +1,4 @@
-#include "inspect/JsonText.h"
+#include "common/JsonText.h"
 
 #include <cmath>
 
