@@ -10,6 +10,8 @@
 #include <memory>
 #include <sys/stat.h>
 
+#include <QDateTime>
+
 #include "platform/linux/os/FileDescriptor.h"
 
 namespace quindle {
@@ -46,6 +48,25 @@ int fillAndRename(int descriptor, const QByteArray& temporary, const QByteArray&
     if (const int error = writeAll(descriptor, bytes))
         return error;
     return ::rename(temporary.constData(), path.constData()) == 0 ? 0 : errno;
+}
+
+/// Gives the first error.
+int removeStartingWith(const QByteArray& prefix, const QByteArray& path)
+{
+    const std::unique_ptr<DIR, CloseFolder> folder(::opendir(path.constData()));
+    if (!folder)
+        return errno == ENOENT ? 0 : errno;
+    int error = 0;
+    while (const dirent* entry = ::readdir(folder.get()))
+        if (QByteArrayView(entry->d_name).startsWith(prefix) &&
+            ::unlinkat(::dirfd(folder.get()), entry->d_name, 0) != 0 && error == 0)
+            error = errno;
+    return error;
+}
+
+QByteArray damagedStem(const QByteArray& path)
+{
+    return path + ".damaged-";
 }
 
 // The new name survives a power cut only once the folder has reached the disk. The file is replaced by then,
@@ -133,14 +154,8 @@ int replaceLink(const QByteArray& path, const QByteArray& target)
 
 void removeLeftovers(const QByteArray& path)
 {
-    const std::unique_ptr<DIR, CloseFolder> folder(::opendir(folderOf(path).constData()));
-    if (!folder)
-        return;
-    const QByteArray prefix = temporaryPrefix(path);
-    while (const dirent* entry = ::readdir(folder.get()))
-        // Left by writers that were killed before they could rename them.
-        if (QByteArrayView(entry->d_name).startsWith(prefix))
-            ::unlinkat(::dirfd(folder.get()), entry->d_name, 0);
+    // Left by writers that were killed before they could rename them.
+    removeStartingWith(temporaryPrefix(path), folderOf(path));
 }
 
 int renameWithoutReplacing(const QByteArray& path, const QByteArray& newPath)
@@ -154,6 +169,25 @@ int renameWithoutReplacing(const QByteArray& path, const QByteArray& newPath)
     if (::lstat(newPath.constData(), &found) == 0)
         return EEXIST;
     return ::rename(path.constData(), newPath.constData()) == 0 ? 0 : errno;
+}
+
+int setAsideAsDamaged(const QByteArray& path, QByteArray& newPath)
+{
+    const QByteArray stem =
+        damagedStem(path) + QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss").toLatin1();
+    newPath = stem;
+    int error = renameWithoutReplacing(path, newPath);
+    // A damaged file is never lost to another damaged one of the same second.
+    for (int number = 1; error == EEXIST; ++number) {
+        newPath = stem + '-' + QByteArray::number(number);
+        error = renameWithoutReplacing(path, newPath);
+    }
+    return error;
+}
+
+int removeDamaged(const QByteArray& path)
+{
+    return removeStartingWith(nameOf(damagedStem(path)), folderOf(path));
 }
 
 } // namespace quindle

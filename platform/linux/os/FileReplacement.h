@@ -30,4 +30,11 @@ void removeLeftovers(const QByteArray& path);
 /// Renames `path` to `newPath`, never over a file that is there (EEXIST).
 int renameWithoutReplacing(const QByteArray& path, const QByteArray& newPath);
 
+/// Renames `path` to a name beside it that says that it was damaged, and when:
+/// "FILE.damaged-20260228-143000". `newPath` is that name; no other file is ever lost to it.
+int setAsideAsDamaged(const QByteArray& path, QByteArray& newPath);
+
+/// Removes what `setAsideAsDamaged` made of `path` so far. Gives the first error.
+int removeDamaged(const QByteArray& path);
+
 } // namespace quindle

@@ -4,7 +4,6 @@
 #include <optional>
 #include <thread>
 
-#include <QDateTime>
 #include <QLoggingCategory>
 
 #include "common/Paths.h"
@@ -37,20 +36,6 @@ QString filePath(const QString& folder, const QString& domain)
 std::optional<FileLock> lockFor(const QByteArray& path, std::chrono::milliseconds patience)
 {
     return FileLock::take(path + ".lock", patience);
-}
-
-int renameAsDamaged(const QByteArray& path, QByteArray& newPath)
-{
-    const QByteArray stem =
-        path + ".damaged-" + QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss").toLatin1();
-    newPath = stem;
-    int error = renameWithoutReplacing(path, newPath);
-    // A damaged file is never lost to another damaged one of the same second.
-    for (int number = 1; error == EEXIST; ++number) {
-        newPath = stem + '-' + QByteArray::number(number);
-        error = renameWithoutReplacing(path, newPath);
-    }
-    return error;
 }
 
 } // namespace
@@ -122,7 +107,7 @@ bool LinuxUserDefaults::setAsideLocked() const
     if (m_file.refresh() != State::Damaged)
         return true;
     QByteArray newPath;
-    const int error = renameAsDamaged(linkTarget(m_file.path()), newPath);
+    const int error = setAsideAsDamaged(linkTarget(m_file.path()), newPath);
     if (error != 0) {
         reportReading(QStringLiteral("%1 is damaged and cannot be set aside: %2")
                           .arg(pathText(m_file.path()), qt_error_string(error)));
