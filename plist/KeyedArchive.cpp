@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "plist/KeyedArchiver.h"
 #include "plist/Unarchiver.h"
 
 namespace quindle {
@@ -43,6 +44,11 @@ ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes)
         // Never both: what was read before a fault is not used.
         result = {{}, unarchiver.fault()};
     return result;
+}
+
+QByteArray keyedArchive(const QVariantList& records)
+{
+    return KeyedArchiver().archive(records);
 }
 
 ArchivedClass archivedClass(const PropertyListGraph& graph, const PropertyListGraph::Element& name)

@@ -20,6 +20,11 @@ struct ArchivedRecords
 /// is no such dictionary leave nothing. Time and memory grow with the size of the bytes, whatever they say.
 ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes);
 
+/// A binary keyed archive of `records`, each a QVariantMap, that the reader above and the platform's own
+/// reader take. Property-list values come back as they are, dates to the millisecond; an invalid value or
+/// date becomes a null.
+QByteArray keyedArchive(const QVariantList& records);
+
 /// The kinds of objects that archives of snapshot records hold.
 enum class ArchivedClass { Unknown, Array, Set, Dictionary, Text, Data, Date, Number, Null };
 

@@ -1,0 +1,172 @@
+#include "plist/BinaryListWriter.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+
+#include <QtEndian>
+
+namespace quindle {
+
+namespace {
+
+/// What nodes begin with; counts and widths are added.
+struct Marker
+{
+    static constexpr int integer = 0x10;
+    static constexpr int real = 0x23; // of eight bytes
+    static constexpr int data = 0x40;
+    static constexpr int ascii = 0x50;
+    static constexpr int wideText = 0x60;
+    static constexpr int reference = 0x80;
+    static constexpr int array = 0xa0;
+    static constexpr int dictionary = 0xd0;
+};
+
+// Always this wide: containers are written before it is known how many nodes there will be.
+constexpr int nodeWidth = 4;
+
+bool hasOnlyAscii(const QString& text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
+/// The power of two that says how many bytes a number takes.
+int widthPower(quint64 number)
+{
+    if (number <= std::numeric_limits<quint8>::max())
+        return 0;
+    if (number <= std::numeric_limits<quint16>::max())
+        return 1;
+    return number <= std::numeric_limits<quint32>::max() ? 2 : 3;
+}
+
+} // namespace
+
+BinaryListWriter::Node BinaryListWriter::addBoolean(bool value)
+{
+    const auto known = m_booleans.constFind(value);
+    if (known != m_booleans.cend())
+        return *known;
+    const Node node = begin();
+    m_bytes += value ? '\x09' : '\x08';
+    return *m_booleans.insert(value, node);
+}
+
+BinaryListWriter::Node BinaryListWriter::addInteger(qint64 value)
+{
+    const auto known = m_integers.constFind(value);
+    if (known != m_integers.cend())
+        return *known;
+    const Node node = begin();
+    // Fewer than eight bytes are read as unsigned, so every negative number takes eight.
+    putNumber(Marker::integer, static_cast<quint64>(value));
+    return *m_integers.insert(value, node);
+}
+
+BinaryListWriter::Node BinaryListWriter::addReal(double value)
+{
+    const auto bits = std::bit_cast<quint64>(value);
+    const auto known = m_reals.constFind(bits);
+    if (known != m_reals.cend())
+        return *known;
+    const Node node = begin();
+    put(Marker::real, 1);
+    put(bits, 8);
+    return *m_reals.insert(bits, node);
+}
+
+BinaryListWriter::Node BinaryListWriter::addData(const QByteArray& bytes)
+{
+    const Node node = begin();
+    putCount(Marker::data, bytes.size());
+    m_bytes += bytes;
+    return node;
+}
+
+BinaryListWriter::Node BinaryListWriter::addText(const QString& text)
+{
+    const auto known = m_texts.constFind(text);
+    if (known != m_texts.cend())
+        return *known;
+    const Node node = begin();
+    const bool isNarrow = hasOnlyAscii(text);
+    putCount(isNarrow ? Marker::ascii : Marker::wideText, text.size());
+    for (const QChar c : text)
+        put(c.unicode(), isNarrow ? 1 : 2);
+    return *m_texts.insert(text, node);
+}
+
+BinaryListWriter::Node BinaryListWriter::addReference(quint32 number)
+{
+    const Node node = begin();
+    // Unlike an integer's, its marker holds the number of bytes less one.
+    const int width = 1 << widthPower(number);
+    put(static_cast<quint64>(Marker::reference | (width - 1)), 1);
+    put(number, width);
+    return node;
+}
+
+BinaryListWriter::Node BinaryListWriter::addArray(const std::vector<Node>& items)
+{
+    const Node node = begin();
+    putCount(Marker::array, static_cast<qsizetype>(items.size()));
+    for (const Node item : items)
+        put(item, nodeWidth);
+    return node;
+}
+
+BinaryListWriter::Node BinaryListWriter::addDictionary(const Entries& entries)
+{
+    const Node node = begin();
+    putCount(Marker::dictionary, static_cast<qsizetype>(entries.size()));
+    for (const auto& [key, value] : entries)
+        put(key, nodeWidth);
+    for (const auto& [key, value] : entries)
+        put(value, nodeWidth);
+    return node;
+}
+
+QByteArray BinaryListWriter::finish(Node root)
+{
+    const auto table = static_cast<quint64>(m_bytes.size());
+    const int offsetWidth = 1 << widthPower(table);
+    for (const quint64 offset : m_offsets)
+        put(offset, offsetWidth);
+    m_bytes += QByteArray(6, '\0') + static_cast<char>(offsetWidth) + static_cast<char>(nodeWidth);
+    put(m_offsets.size(), 8);
+    put(root, 8);
+    put(table, 8);
+    return m_bytes;
+}
+
+BinaryListWriter::Node BinaryListWriter::begin()
+{
+    m_offsets.push_back(static_cast<quint64>(m_bytes.size()));
+    return static_cast<Node>(m_offsets.size() - 1);
+}
+
+/// The last bytes of a number, the highest first.
+void BinaryListWriter::put(quint64 number, int width)
+{
+    const quint64 bigEndian = qToBigEndian(number);
+    m_bytes.append(reinterpret_cast<const char*>(&bigEndian) + (8 - width), width);
+}
+
+/// A count of 15 and more stands behind the marker, as an integer of its own.
+void BinaryListWriter::putCount(int marker, qsizetype count)
+{
+    constexpr qsizetype isBehind = 0xf;
+    put(static_cast<quint64>(marker) | static_cast<quint64>(std::min(count, isBehind)), 1);
+    if (count >= isBehind)
+        putNumber(Marker::integer, static_cast<quint64>(count));
+}
+
+void BinaryListWriter::putNumber(int marker, quint64 number)
+{
+    const int power = widthPower(number);
+    put(static_cast<quint64>(marker | power), 1);
+    put(number, 1 << power);
+}
+
+} // namespace quindle

@@ -1,0 +1,148 @@
+#include "plist/KeyedArchiver.h"
+
+#include <utility>
+
+#include <QDateTime>
+
+#include "plist/PropertyListDate.h"
+
+namespace quindle {
+
+namespace {
+
+const char* const missingObject = "$null";
+
+/// The classes that one inherits from, itself first.
+QStringList ancestry(const QString& name)
+{
+    const QString root = QStringLiteral("NSObject");
+    // One that can be changed inherits from the one that cannot.
+    const QString mutableMark = QStringLiteral("Mutable");
+    return name.contains(mutableMark) ? QStringList{name, QString(name).remove(mutableMark), root}
+                                      : QStringList{name, root};
+}
+
+} // namespace
+
+QByteArray KeyedArchiver::archive(const QVariantList& records)
+{
+    keep(text(missingObject));
+    // The root comes first by custom; it is known only when what it holds has been written.
+    const Reference root = keep(0);
+    const Node items = m_list.addArray(referencesTo(records));
+    m_objects[root] = instance("NSMutableArray", {{text("NS.objects"), items}});
+    const Node top = m_list.addDictionary({{text("root"), referenceTo(root)}});
+    const Node objects = m_list.addArray(m_objects);
+    return m_list.finish(m_list.addDictionary({{text("$version"), m_list.addInteger(100000)},
+                                               {text("$archiver"), text("NSKeyedArchiver")},
+                                               {text("$top"), top},
+                                               {text("$objects"), objects}}));
+}
+
+KeyedArchiver::Reference KeyedArchiver::keep(Node node)
+{
+    const auto reference = static_cast<Reference>(m_objects.size());
+    m_objects.push_back(node);
+    m_references.push_back(m_list.addReference(reference));
+    return reference;
+}
+
+KeyedArchiver::Reference KeyedArchiver::keepOnce(Node node)
+{
+    const auto known = m_kept.constFind(node);
+    return known != m_kept.cend() ? *known : *m_kept.insert(node, keep(node));
+}
+
+KeyedArchiver::Reference KeyedArchiver::keepValue(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        return keep(instance("NSNull", {}));
+    case QMetaType::Bool:
+        return keepOnce(m_list.addBoolean(value.toBool()));
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return keepOnce(m_list.addReal(value.toDouble()));
+    case QMetaType::QString:
+        return keepText(value.toString());
+    case QMetaType::QDateTime:
+        return keepDate(value.toDateTime());
+    case QMetaType::QByteArray:
+        return keep(instance("NSData", {{text("NS.data"), m_list.addData(value.toByteArray())}}));
+    case QMetaType::QVariantList:
+    case QMetaType::QStringList:
+        return keepList(value.toList());
+    case QMetaType::QVariantMap:
+        return keepMap(value.toMap());
+    default:
+        return keepOnce(m_list.addInteger(value.toLongLong()));
+    }
+}
+
+KeyedArchiver::Reference KeyedArchiver::keepText(const QString& text)
+{
+    const Node node = m_list.addText(text);
+    // As an object of its own: readers take the bare text for a missing object.
+    if (text == QLatin1StringView(missingObject))
+        return keep(instance("NSString", {{this->text("NS.string"), node}}));
+    return keepOnce(node);
+}
+
+KeyedArchiver::Reference KeyedArchiver::keepDate(const QDateTime& date)
+{
+    if (!date.isValid())
+        return keepValue({});
+    return keep(instance("NSDate", {{text("NS.time"), m_list.addReal(secondsOfDate(date))}}));
+}
+
+KeyedArchiver::Reference KeyedArchiver::keepList(const QVariantList& list)
+{
+    const Node items = m_list.addArray(referencesTo(list));
+    return keep(instance("NSArray", {{text("NS.objects"), items}}));
+}
+
+KeyedArchiver::Reference KeyedArchiver::keepMap(const QVariantMap& map)
+{
+    Nodes keys;
+    Nodes values;
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
+        keys.push_back(referenceTo(keepText(entry.key())));
+        values.push_back(referenceTo(keepValue(entry.value())));
+    }
+    auto known = m_keyLists.find(keys);
+    if (known == m_keyLists.end())
+        known = m_keyLists.emplace(keys, m_list.addArray(keys)).first;
+    return keep(instance("NSDictionary",
+                         {{text("NS.keys"), known->second}, {text("NS.objects"), m_list.addArray(values)}}));
+}
+
+KeyedArchiver::Reference KeyedArchiver::classNamed(const char* name)
+{
+    const QString className = QString::fromLatin1(name);
+    const auto known = m_classes.constFind(className);
+    if (known != m_classes.cend())
+        return *known;
+    Nodes classes;
+    for (const QString& ancestor : ancestry(className))
+        classes.push_back(m_list.addText(ancestor));
+    const Node description = m_list.addDictionary(
+        {{text("$classname"), m_list.addText(className)}, {text("$classes"), m_list.addArray(classes)}});
+    return *m_classes.insert(className, keep(description));
+}
+
+KeyedArchiver::Node KeyedArchiver::instance(const char* className, BinaryListWriter::Entries entries)
+{
+    entries.emplace_back(text("$class"), referenceTo(classNamed(className)));
+    return m_list.addDictionary(entries);
+}
+
+KeyedArchiver::Nodes KeyedArchiver::referencesTo(const QVariantList& list)
+{
+    Nodes references;
+    references.reserve(static_cast<std::size_t>(list.size()));
+    for (const QVariant& item : list)
+        references.push_back(referenceTo(keepValue(item)));
+    return references;
+}
+
+} // namespace quindle
