@@ -2,7 +2,7 @@
 # say in by_hand what to do where there is no apt.
 
 build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools qt6-svg-dev
-    libgl-dev libudev-dev libxml2-dev libcurl4-openssl-dev libxcb1-dev libfreetype-dev libfontconfig-dev zlib1g-dev"
+    libgl-dev libudev-dev libxml2-dev libcurl4-openssl-dev libxcb1-dev libsqlite3-dev libfreetype-dev libfontconfig-dev zlib1g-dev"
 runtime_packages="libqt6svg6 fonts-dejavu-core qt6-wayland libraqm0"
 desktop_packages="python3 xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme fonts-noto-core imagemagick x11-utils
     x11-xserver-utils xdotool libglib2.0-bin"

@@ -1,0 +1,22 @@
+#include "records/SnapshotDue.h"
+
+#include <algorithm>
+
+#include "records/SnapshotIdentity.h"
+
+namespace quindle {
+
+bool isSnapshotDue(const QVariantList& records, const QVariantMap& snapshot)
+{
+    const auto date = snapshotDate(snapshot);
+    if (!date || snapshot.value(QStringLiteral("Battery.FullChargeCapacity")).toDouble() <= 0)
+        return false;
+    const QDate today = date->toLocalTime().date();
+    const QString battery = snapshotBattery(snapshot);
+    return std::none_of(records.crbegin(), records.crend(), [&](const QVariant& record) {
+        const auto other = snapshotDate(record);
+        return other && snapshotBattery(record) == battery && other->toLocalTime().date() == today;
+    });
+}
+
+} // namespace quindle
