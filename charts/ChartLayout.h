@@ -1,0 +1,40 @@
+#pragma once
+
+#include <vector>
+
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QRectF>
+
+#include "charts/ChartContent.h"
+#include "charts/LinearScale.h"
+#include "charts/TimeTicks.h"
+#include "charts/ValueTicks.h"
+
+/// What of a chart lies where.
+namespace quindle {
+
+struct ChartLayout
+{
+    QRectF plot; ///< inside of the axes
+    double line; ///< the height of a line of text, the measure of everything
+    LinearScale time;
+    LinearScale value;
+    std::vector<TimeTick> timeTicks;
+    ValueTicks valueTicks;
+
+    QPointF at(double moment, double value) const;
+};
+
+ChartLayout chartLayout(const ChartContent& content, AxisSpan seen, const QRectF& area,
+                        const QFontMetricsF& metrics, const QLocale& locale);
+
+/// What the axis of values must reach over while the moments `seen` are: the content's own span, or that of
+/// the points there, the reference lines and the projection, with some room beside. Never without a length.
+AxisSpan valuesSeen(const ChartContent& content, AxisSpan seen);
+
+/// Where the card beside a point lies: above it and behind, on the other side or below where it would not be
+/// inside of the plot.
+QRectF cardBeside(const QPointF& point, const QSizeF& card, double distance, const QRectF& plot);
+
+} // namespace quindle

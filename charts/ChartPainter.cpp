@@ -1,0 +1,280 @@
+#include "charts/ChartPainter.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QPainter>
+#include <QPolygonF>
+
+#include "charts/DateTexts.h"
+#include "charts/Decimation.h"
+#include "widgets/PaletteMix.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr double seriesWidth = 0.1; // of a line of text, as the others
+constexpr double dotRadius = 0.2;
+constexpr double quietShare = 0.5;
+constexpr double shadeShare = 0.11;
+constexpr float selectionAlpha = 0.2F;
+constexpr float bandAlpha = 0.15F;
+
+QColor veiled(QColor colour, float alpha)
+{
+    colour.setAlphaF(alpha);
+    return colour;
+}
+
+/// A line of one pixel is sharp only between whole pixels.
+void fillRow(QPainter& painter, const QRectF& plot, double y, const QColor& colour)
+{
+    painter.fillRect(QRectF(plot.left(), std::round(y), plot.width(), 1), colour);
+}
+
+void fillColumn(QPainter& painter, const QRectF& plot, double x, const QColor& colour)
+{
+    painter.fillRect(QRectF(std::round(x), plot.top(), 1, plot.height()), colour);
+}
+
+void paintShaded(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
+                 const ChartLook& look)
+{
+    if (layout.time.values().length() > content.shadedUpTo)
+        return;
+    // Opaque, since the painter shares a blend out to threads, which costs more than many small ones are
+    // worth.
+    const double share = isDark(look.background) ? shadeShare * 1.7 : shadeShare;
+    const QColor shade = mixed(look.charge, look.background, share);
+    for (const ShadedSpan& span : content.shaded) {
+        const double from = std::max(layout.time.pixel(static_cast<double>(span.from)), layout.plot.left());
+        const double to = std::min(layout.time.pixel(static_cast<double>(span.to)), layout.plot.right());
+        if (from < to)
+            painter.fillRect(QRectF(from, layout.plot.top(), to - from, layout.plot.height()), shade);
+    }
+}
+
+void paintValueTicks(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
+                     const ChartLook& look)
+{
+    painter.setPen(look.quiet);
+    const double right = layout.plot.left() - layout.line * 0.5;
+    for (const double value : layout.valueTicks.values) {
+        const double y = layout.value.pixel(value);
+        fillRow(painter, layout.plot, y, look.grid);
+        painter.drawText(QRectF(right - 1000, y - layout.line, 1000, layout.line * 2),
+                         Qt::AlignRight | Qt::AlignVCenter,
+                         tickText(content, value, layout.valueTicks.decimals));
+    }
+}
+
+void paintTimeTicks(QPainter& painter, const ChartLayout& layout, const ChartLook& look)
+{
+    painter.setPen(look.quiet);
+    const QFontMetricsF metrics = painter.fontMetrics();
+    double free = -INFINITY;
+    for (const TimeTick& tick : layout.timeTicks) {
+        const double width = metrics.horizontalAdvance(tick.label);
+        const double centred = layout.time.pixel(static_cast<double>(tick.moment)) - width / 2;
+        const double farthest = layout.plot.right() + layout.line * 0.35 - width;
+        const double left = std::min(centred, farthest);
+        if (left < free)
+            continue; // moved aside by the edge, it would touch its neighbour
+        painter.drawText(QPointF(left, layout.plot.bottom() + layout.line * 0.5 + metrics.ascent()),
+                         tick.label);
+        free = left + width + layout.line * 0.4;
+    }
+}
+
+void paintReferenceLines(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
+                         const ChartLook& look)
+{
+    QPen dotted(look.quiet, 1);
+    dotted.setDashPattern({2, 3});
+    painter.setPen(dotted);
+    for (const ReferenceLine& line : content.lines) {
+        const double y = std::round(layout.value.pixel(line.value)) + 0.5;
+        painter.drawLine(QPointF(layout.plot.left(), y), QPointF(layout.plot.right(), y));
+    }
+}
+
+/// On top of everything, since a line may pass below.
+void paintReferenceLabels(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
+                          const ChartLook& look)
+{
+    painter.setPen(look.quiet);
+    const double gap = layout.line * 0.15;
+    for (const ReferenceLine& line : content.lines) {
+        const double y = layout.value.pixel(line.value) - gap - layout.line;
+        painter.drawText(QRectF(layout.plot.left(), y, layout.plot.width(), layout.line),
+                         Qt::AlignRight | Qt::AlignVCenter, line.label);
+    }
+}
+
+void paintProjection(QPainter& painter, const ChartProjection& projection, const ChartLayout& layout,
+                     const ChartLook& look)
+{
+    const QColor ink = inkColour(look, projection.ink);
+    const auto to = static_cast<double>(projection.to.moment);
+    const QPointF from = layout.at(static_cast<double>(projection.from.moment), projection.from.value);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(veiled(ink, bandAlpha));
+    painter.drawPolygon(QPolygonF({from, layout.at(to, projection.high), layout.at(to, projection.low)}));
+    painter.setBrush(Qt::NoBrush);
+    QPen dashed(ink, layout.line * seriesWidth * 0.7);
+    dashed.setDashPattern({4, 3});
+    painter.setPen(dashed);
+    painter.drawLine(from, layout.at(to, projection.to.value));
+}
+
+QColor colourOf(const ChartSeries& series, const ChartLook& look)
+{
+    const QColor ink = inkColour(look, series.ink);
+    return series.isQuiet ? mixed(ink, look.background, quietShare) : ink;
+}
+
+/// In pieces, since the painter takes a line as one outline, whose cost grows with how often it meets itself.
+/// Without round joints, which cost more than the line and cannot be seen on one so thin.
+void paintLine(QPainter& painter, const QPolygonF& line, QPen pen)
+{
+    constexpr qsizetype piece = 4;
+    pen.setCapStyle(line.size() == 1 ? Qt::RoundCap : Qt::SquareCap);
+    pen.setJoinStyle(Qt::BevelJoin);
+    painter.setPen(pen);
+    if (line.size() == 1)
+        return painter.drawPoint(line.first());
+    for (qsizetype first = 0; first + 1 < line.size(); first += piece) {
+        const qsizetype count = std::min(piece + 1, line.size() - first);
+        painter.drawPolyline(line.constData() + first, static_cast<int>(count));
+    }
+}
+
+void paintSeries(QPainter& painter, const ChartSeries& series, const ChartLayout& layout,
+                 const ChartLook& look)
+{
+    const QPen pen(colourOf(series, look), layout.line * seriesWidth);
+    for (const auto& stretch : decimated(series, layout.time)) {
+        QPolygonF line;
+        line.reserve(static_cast<qsizetype>(stretch.size()));
+        for (const ChartPoint& point : stretch)
+            line.append(layout.at(static_cast<double>(point.moment), point.value));
+        paintLine(painter, line, pen);
+    }
+}
+
+void paintDot(QPainter& painter, const QPointF& centre, double radius, const QColor& ink,
+              const ChartLook& look)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look.background);
+    painter.drawEllipse(centre, radius * 1.5, radius * 1.5);
+    painter.setBrush(ink);
+    painter.drawEllipse(centre, radius, radius);
+    painter.setBrush(Qt::NoBrush);
+}
+
+void paintEndDot(QPainter& painter, const ChartSeries& series, const ChartLayout& layout,
+                 const ChartLook& look)
+{
+    if (!series.endsWithDot || series.points.empty())
+        return;
+    const auto moment = static_cast<double>(series.points.back().moment);
+    if (layout.time.values().contains(moment))
+        paintDot(painter, layout.at(moment, series.points.back().value), layout.line * dotRadius,
+                 colourOf(series, look), look);
+}
+
+void paintLines(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
+                const ChartLook& look)
+{
+    painter.save();
+    const double overlap = layout.line * seriesWidth;
+    painter.setClipRect(layout.plot.adjusted(0, -layout.line, overlap, overlap));
+    if (content.projection)
+        paintProjection(painter, *content.projection, layout, look);
+    for (const ChartSeries& series : content.series)
+        paintSeries(painter, series, layout, look);
+    painter.restore();
+    for (const ChartSeries& series : content.series)
+        paintEndDot(painter, series, layout, look);
+}
+
+/// What the reading says, in two lines.
+struct CardTexts
+{
+    QString date;
+    QString value;
+};
+
+void paintCard(QPainter& painter, const QPointF& place, const ChartLayout& layout, const ChartLook& look,
+               const CardTexts& texts)
+{
+    constexpr double borderShare = 0.2;
+    constexpr double darkShare = 0.04; // on dark backgrounds what is nearer is lighter
+    const QFontMetricsF metrics = painter.fontMetrics();
+    const double padding = layout.line * 0.55;
+    const double radius = layout.line * 0.25;
+    const double width =
+        std::max(metrics.horizontalAdvance(texts.date), metrics.horizontalAdvance(texts.value)) + padding * 2;
+    const QSizeF size(std::ceil(width), std::ceil(layout.line * 2 + padding * 1.5));
+    const QRectF card = cardBeside(place, size, layout.line * 0.6, layout.plot).toRect();
+    painter.setPen(mixed(look.text, look.background, borderShare));
+    painter.setBrush(isDark(look.background) ? mixed(look.text, look.background, darkShare)
+                                             : look.background);
+    painter.drawRoundedRect(card.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.setBrush(Qt::NoBrush);
+    const QRectF text = card.adjusted(padding, padding * 0.75, 0, -padding * 0.75);
+    painter.setPen(look.quiet);
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignTop, texts.date);
+    painter.setPen(look.text);
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignBottom, texts.value);
+}
+
+} // namespace
+
+void paintChart(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
+                const ChartLook& look)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(look.font);
+    painter.setBrush(Qt::NoBrush);
+    if (!hasPoints(content)) {
+        painter.setPen(look.quiet);
+        painter.drawText(layout.plot, Qt::AlignCenter | Qt::TextWordWrap, content.emptyText);
+        return;
+    }
+    paintShaded(painter, content, layout, look);
+    paintValueTicks(painter, content, layout, look);
+    paintTimeTicks(painter, layout, look);
+    paintReferenceLines(painter, content, layout, look);
+    paintLines(painter, content, layout, look);
+    paintReferenceLabels(painter, content, layout, look);
+}
+
+void paintReading(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
+                  const ChartLook& look, const ChartReading& reading, const QLocale& locale)
+{
+    constexpr double lineShare = 0.35;
+    const ChartPoint& point = pointOf(content, reading);
+    const QPointF place = layout.at(static_cast<double>(point.moment), point.value);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(look.font);
+    fillColumn(painter, layout.plot, place.x() - 0.5, mixed(look.text, look.background, lineShare));
+    paintDot(painter, place, layout.line * dotRadius, colourOf(content.series[reading.series], look), look);
+    paintCard(painter, place, layout, look,
+              {momentText(point.moment, content.readsTimes, locale), readingText(content, reading)});
+}
+
+void paintSelection(QPainter& painter, const ChartLayout& layout, const ChartLook& look, AxisSpan moments)
+{
+    const double first = layout.time.pixel(moments.from);
+    const double second = layout.time.pixel(moments.to);
+    const QRectF chosen(std::min(first, second), layout.plot.top(), std::abs(second - first),
+                        layout.plot.height());
+    painter.fillRect(chosen & layout.plot, veiled(look.charge, selectionAlpha));
+    fillColumn(painter, layout.plot, first - 0.5, look.charge);
+    fillColumn(painter, layout.plot, second - 0.5, look.charge);
+}
+
+} // namespace quindle

@@ -1,0 +1,34 @@
+#include "charts/DateTexts.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+
+namespace quindle {
+
+QString clockText(QTime time, const QLocale& locale)
+{
+    static const QRegularExpression seconds(QStringLiteral("[:.]s+"));
+    return locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(seconds));
+}
+
+QString dayText(QDate day, const QLocale& locale)
+{
+    const QString order = locale.dateFormat(QLocale::ShortFormat);
+    const bool dayFirst = order.indexOf(u'd') < order.indexOf(u'M');
+    return locale.toString(day, dayFirst ? QStringLiteral("d MMM") : QStringLiteral("MMM d"));
+}
+
+QString dateText(QDate day, const QLocale& locale)
+{
+    static const QRegularExpression weekday(QStringLiteral("^dddd[, ]*|[, ]*dddd$"));
+    return locale.toString(day, locale.dateFormat(QLocale::LongFormat).remove(weekday));
+}
+
+QString momentText(qint64 moment, bool withTime, const QLocale& locale)
+{
+    const QDateTime local = QDateTime::fromSecsSinceEpoch(moment);
+    const QString date = dateText(local.date(), locale);
+    return withTime ? date + QStringLiteral(", ") + clockText(local.time(), locale) : date;
+}
+
+} // namespace quindle
