@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+namespace quindle {
+
+struct TrendValue
+{
+    double x = 0;
+    double y = 0;
+};
+
+/// A straight line through values, and between which slopes it lies with a probability of 95 %.
+struct TrendLine
+{
+    double slope = 0;
+    double intercept = 0; ///< y where x is 0
+    double lowestSlope = 0;
+    double highestSlope = 0;
+
+    double at(double x) const { return intercept + slope * x; }
+};
+
+/// The line of Theil and Sen: the median of the slopes between all pairs, which up to 29 % of wrong values do
+/// not move. The interval is Sen's, from the variance of Kendall's statistic with ties; since each day's
+/// capacity resembles the day's before, which that takes for independent, the variance grows by the
+/// correlation of neighbours. `values` by x; of more than 400 the medians of groups are used. Nothing
+/// without two different x.
+std::optional<TrendLine> trendLine(const std::vector<TrendValue>& values);
+
+} // namespace quindle

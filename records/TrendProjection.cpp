@@ -1,0 +1,41 @@
+#include "records/TrendProjection.h"
+
+#include <algorithm>
+
+namespace quindle {
+
+namespace {
+
+constexpr double goalPercent = 80;
+constexpr double daysAYear = 365.25;
+constexpr double leastYears = 0.5;
+constexpr double yearsBehindGoal = 1.0 / 6;
+
+double yearsAhead(const TrendEstimate& trend)
+{
+    const double most = std::max(1.0, static_cast<double>(trend.days) / daysAYear / 2);
+    if (trend.pace->level <= goalPercent)
+        return leastYears;
+    return std::clamp(yearsUntil(*trend.pace, goalPercent).latest + yearsBehindGoal, leastYears, most);
+}
+
+} // namespace
+
+std::optional<TrendProjection> projectionOf(const TrendEstimate& trend)
+{
+    if (!trend.pace || !trend.pace->isWear())
+        return {};
+    const WearPace& pace = *trend.pace;
+    const double years = yearsAhead(trend);
+    const auto capacity = [&](double perYear) {
+        return std::max(0.0, pace.level + perYear * years) / 100 * trend.reference;
+    };
+    return TrendProjection{.from = trend.lastMoment,
+                           .to = trend.lastMoment + static_cast<qint64>(years * daysAYear * 86400),
+                           .start = capacity(0),
+                           .end = capacity(pace.perYear),
+                           .lowestEnd = capacity(pace.steepest),
+                           .highestEnd = capacity(pace.flattest)};
+}
+
+} // namespace quindle

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+
+#include "records/TrendEstimate.h"
+
+namespace quindle {
+
+/// Where the trend leads, in mAh: from the line's last point to one end, and between which values that lies.
+struct TrendProjection
+{
+    qint64 from = 0;
+    qint64 to = 0;
+    double start = 0;
+    double end = 0;
+    double lowestEnd = 0;
+    double highestEnd = 0;
+};
+
+/// As far as 80 % will have come with some certainty, but at least half a year and no farther than half of
+/// what is known already, or a year where that is more. Nothing where no wear is to be seen.
+std::optional<TrendProjection> projectionOf(const TrendEstimate& trend);
+
+} // namespace quindle
