@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <vector>
 
 #include <fcntl.h>
@@ -15,11 +16,35 @@ namespace quindle {
 
 namespace {
 
-constexpr int nothingInherited = -1;
+/// An open file of this process that the program gets, and the number that it finds it under.
+struct Inheritance
+{
+    int file = -1; ///< none
+    int number = -1;
+};
+
+void inherit(const Inheritance& inheritance)
+{
+    if (inheritance.file < 0)
+        return;
+    // Every file of the program is opened to be closed here; this one is to stay.
+    if (inheritance.file == inheritance.number)
+        ::fcntl(inheritance.file, F_SETFD, 0);
+    else
+        ::dup2(inheritance.file, inheritance.number);
+}
+
+/// What this process blocks, to read it by other means, must end others as ever.
+void unblockSignals()
+{
+    sigset_t none;
+    ::sigemptyset(&none);
+    ::sigprocmask(SIG_SETMASK, &none, nullptr);
+}
 
 /// Between fork and exec only calls that are safe in a signal handler: other threads may hold any lock. The
 /// report is the number of the process that is to run the program, and another one if it does not.
-[[noreturn]] void runAsGrandchild(char* const* arguments, int inherited, int report)
+[[noreturn]] void runAsGrandchild(char* const* arguments, const Inheritance& inheritance, int report)
 {
     ::setsid();
     if (const pid_t child = ::fork(); child != 0)
@@ -27,9 +52,8 @@ constexpr int nothingInherited = -1;
     const pid_t own = ::getpid();
     [[maybe_unused]] ssize_t written = ::write(report, &own, sizeof own);
     takeWholeCoreDumps();
-    if (inherited != nothingInherited)
-        // Every file of the program is opened to be closed here; this one is to stay.
-        ::fcntl(inherited, F_SETFD, 0);
+    unblockSignals();
+    inherit(inheritance);
     ::execv(arguments[0], arguments);
     written = ::write(report, &own, sizeof own);
     ::_exit(1);
@@ -59,7 +83,7 @@ std::vector<pid_t> reportOf(int pipe)
 }
 
 /// The process that runs the program; nothing when none does.
-std::optional<pid_t> runDetached(const QList<QByteArray>& command, int inherited)
+std::optional<pid_t> runDetached(const QList<QByteArray>& command, const Inheritance& inheritance)
 {
     std::vector<QByteArray> words(command.cbegin(), command.cend());
     std::vector<char*> arguments;
@@ -73,7 +97,7 @@ std::optional<pid_t> runDetached(const QList<QByteArray>& command, int inherited
     FileDescriptor report(ends[1]);
     const pid_t child = ::fork();
     if (child == 0)
-        runAsGrandchild(arguments.data(), inherited, report.get());
+        runAsGrandchild(arguments.data(), inheritance, report.get());
     report.close();
     if (child < 0 || !endedWell(child))
         return std::nullopt;
@@ -81,24 +105,33 @@ std::optional<pid_t> runDetached(const QList<QByteArray>& command, int inherited
     return numbers.size() == 1 ? std::optional(numbers.front()) : std::nullopt;
 }
 
-FileDescriptor handleOf(pid_t process)
+/// A handle of the process that runs the program; nothing when none does.
+std::optional<FileDescriptor> runWith(const QList<QByteArray>& command, const Inheritance& inheritance)
 {
+    const auto process = runDetached(command, inheritance);
+    if (!process)
+        return std::nullopt;
     // Without its function: the C library has it only since 2.36.
-    return FileDescriptor(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
+    return FileDescriptor(static_cast<int>(::syscall(SYS_pidfd_open, *process, 0)));
 }
 
 } // namespace
 
 bool startDetached(const QList<QByteArray>& command)
 {
-    return runDetached(command, nothingInherited).has_value();
+    return runDetached(command, {}).has_value();
 }
 
 std::optional<FileDescriptor> startDetachedWith(const FileDescriptor& inherited,
                                                 const QList<QByteArray>& command)
 {
-    const auto process = runDetached(command, inherited.get());
-    return process ? std::optional(handleOf(*process)) : std::nullopt;
+    return runWith(command, {.file = inherited.get(), .number = inherited.get()});
+}
+
+std::optional<FileDescriptor> startDetachedReading(const FileDescriptor& input,
+                                                   const QList<QByteArray>& command)
+{
+    return runWith(command, {.file = input.get(), .number = STDIN_FILENO});
 }
 
 } // namespace quindle

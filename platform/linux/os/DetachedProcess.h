@@ -19,4 +19,8 @@ bool startDetached(const QList<QByteArray>& command);
 std::optional<FileDescriptor> startDetachedWith(const FileDescriptor& inherited,
                                                 const QList<QByteArray>& command);
 
+/// The same for a program that gets the file as its standard input.
+std::optional<FileDescriptor> startDetachedReading(const FileDescriptor& input,
+                                                   const QList<QByteArray>& command);
+
 } // namespace quindle
