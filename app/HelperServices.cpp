@@ -1,6 +1,7 @@
 #include "app/HelperServices.h"
 
 #include "app/MachineSteps.h"
+#include "common/NumberConversion.h"
 #include "platform/UserDefaults.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/network/LinuxUrlSession.h"
@@ -37,7 +38,8 @@ class ThisComputer : public HelperServices
 {
 public:
     explicit ThisComputer(const QString& systemRoot)
-        : m_linux(systemRoot)
+        : m_isOther(!systemRoot.isEmpty())
+        , m_linux(systemRoot)
         , m_statusBar(m_linux.runLoop(), surroundings(m_linux.bundle(), m_linux.userDefaults()))
     {
     }
@@ -46,11 +48,16 @@ public:
 
     void play(HelperAppDelegate& /*delegate*/) override {}
     QString windowsProgram() const override { return windowsProgramOf(m_linux.bundle()); }
+    QString recordingProgram() const override
+    {
+        return m_isOther ? QString() : mainApplicationProgram(m_linux.bundle().path());
+    }
     QByteArray memory() const override { return m_linux.powerMemory(); }
     quint32 statesEntered() const override { return 0; }
     void store(const QString& /*database*/, const QByteArray& /*values*/) override {}
 
 private:
+    bool m_isOther;
     LinuxPlatform m_linux;
     LinuxStatusBar m_statusBar;
 };
@@ -109,6 +116,13 @@ public:
     }
 
     QString windowsProgram() const override { return windowsProgramOf(m_programBundle); }
+
+    QString recordingProgram() const override
+    {
+        const QVariantMap settings = m_recorded.computer.database(QStringLiteral("standard"));
+        const bool isAskedFor = convertToBoolean(settings.value(Keys::recordHistory.name())).value_or(false);
+        return isAskedFor ? mainApplicationProgram(m_programBundle.path()) : QString();
+    }
 
     QByteArray memory() const override
     {

@@ -23,6 +23,11 @@ public:
     /// The program of the helper's windows.
     virtual QString windowsProgram() const = 0;
 
+    /// The program that keeps the history of charge and power; empty where none is to be kept: in this
+    /// computer's there is no place for another one, read from another folder or recorded, unless the machine
+    /// file itself stores that its history is recorded.
+    virtual QString recordingProgram() const = 0;
+
     /// Plays a recorded computer's later states in their time; does nothing for this computer.
     virtual void play(HelperAppDelegate& delegate) = 0;
 

@@ -13,13 +13,16 @@
 #include "app/HelperServices.h"
 #include "app/OlderSettings.h"
 #include "app/RemoteControllers.h"
+#include "app/SampleKeeper.h"
 #include "app/SharedNotifications.h"
 #include "common/Paths.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/UserDefaults.h"
 #include "platform/linux/link/LinuxProgramStarter.h"
+#include "platform/linux/link/LinuxTextReceiver.h"
 #include "platform/linux/os/CoreDumps.h"
+#include "platform/linux/os/EndSignals.h"
 #include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/os/StandardError.h"
 #include "platform/linux/session/ActivationToken.h"
@@ -40,6 +43,7 @@ constexpr int cannotRun = 1;
 constexpr int wrongUsage = 2;
 constexpr std::chrono::seconds patience(5);
 constexpr std::chrono::seconds patienceWithDisplay(1);
+constexpr std::chrono::seconds patienceAtEnd(2);
 
 int fail(const QString& line, int status)
 {
@@ -89,8 +93,11 @@ int run(QCoreApplication& application, HelperServices& services, SingleInstance&
         [&services](const QString& database, const QByteArray& values) { services.store(database, values); });
     HelperAppDelegate delegate(platform, settings, interface, &QDMac::init,
                                [&controllers](HelperAppDelegate& owner) { return controllers.make(owner); });
+    LinuxTextReceiver recorder({pathBytes(services.recordingProgram()), "--record"});
+    SampleKeeper samples(platform, delegate, recorder);
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      &HelperAppDelegate::applicationWillTerminate);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &samples, &SampleKeeper::finish);
     instance.setTakenByAnother([&application] {
         fail(QStringLiteral("another helper is on the session bus that has come up"), 0);
         application.quit();
@@ -138,6 +145,8 @@ int start(int argc, char** argv)
     // it, so the login item alone decides whether it starts at login.
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quindle-helper"));
+    // The end hands over what is to be recorded, also at the end of a session.
+    const EndSignals endSignals(patienceAtEnd, [&application] { application.quit(); });
 
     std::optional<SingleInstance> instance;
     const StartAnswer answer = answerInTime(instance);

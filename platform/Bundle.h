@@ -48,4 +48,8 @@ struct InstallationSource
 /// a bundle is there is not checked.
 QString helperBundlePath(const QString& runningBundlePath);
 
+/// The main application's program, seen from the helper's bundle among its resources. Empty for an empty
+/// path; whether a program is there is not checked.
+QString mainApplicationProgram(const QString& helperBundlePath);
+
 } // namespace quindle

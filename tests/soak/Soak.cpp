@@ -73,18 +73,37 @@ bool isSteady(const Measures& first, const Measures& last, int gatesOpened)
     return true;
 }
 
+/// The battery of this day changes each minute, and nothing is written more often than each hour and before
+/// sleep.
+bool hasRecorded(const CountingRecorder& recorder, const CountingRecorder& before)
+{
+    constexpr int minutes = 24 * 60;
+    constexpr int sleeps = 3;
+    const int samples = recorder.samples - before.samples;
+    const int starts = recorder.starts - before.starts;
+    // Views and swaps take a moment more.
+    if (samples < minutes / 2 || samples > minutes + 10)
+        return fail("samples recorded in a day", minutes, samples);
+    // The hours of sleep count too: the clock goes on.
+    if (starts < 24 || starts > 24 + 2 * sleeps)
+        return fail("starts of the recorder in a day", 24, starts);
+    return true;
+}
+
 bool soak(int days)
 {
     SoakedHelper helper;
     std::vector<Measures> measures;
-    std::puts("  day  heap (bytes)  resident (kB)  files  uploads");
+    std::puts("  day  heap (bytes)  resident (kB)  files  uploads  samples");
     for (int day = 1; day <= days; ++day) {
-        if (!livesThroughDay(helper))
+        const CountingRecorder before = helper.recorder();
+        if (!livesThroughDay(helper) || !hasRecorded(helper.recorder(), before))
             return false;
         measures.push_back(Measures::now());
         const Measures& now = measures.back();
-        std::printf("%5d  %12lld  %13lld  %5d  %7d\n", day, static_cast<long long>(now.heap),
-                    static_cast<long long>(now.resident / 1024), now.openFiles, helper.posts());
+        std::printf("%5d  %12lld  %13lld  %5d  %7d  %7d\n", day, static_cast<long long>(now.heap),
+                    static_cast<long long>(now.resident / 1024), now.openFiles, helper.posts(),
+                    helper.recorder().samples);
         std::fflush(stdout);
     }
     if (helper.posts() != helper.gatesOpened() || helper.posts() < days - 1)

@@ -15,6 +15,7 @@
 #include "history/SavedHistory.h"
 #include "mac/QDMac.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
+#include "samples/SampleLine.h"
 
 namespace quindle {
 
@@ -86,6 +87,17 @@ void AnsweringUrlSession::post(const QString& /*url*/, const QByteArray& body,
     answered(200, QByteArrayLiteral("stored"));
 }
 
+bool CountingRecorder::handOver(const QByteArray& text)
+{
+    ++starts;
+    const QList<QByteArray> lines = text.split('\n');
+    for (const QByteArray& line : lines.first(lines.size() - 1)) {
+        require(sampleFromLine(line).has_value(), "a line of a sample is none");
+        ++samples;
+    }
+    return true;
+}
+
 std::unique_ptr<StatusItem> UnconnectedStatusBar::statusItemWithLength(double /*length*/)
 {
     return std::make_unique<LinuxStatusItem>(QDBusConnection(QStringLiteral("none")), m_runLoop,
@@ -105,6 +117,7 @@ SoakedHelper::SoakedHelper()
     m_preferences = std::make_unique<ApplicationPreferences>(m_platform);
     m_delegate = std::make_unique<HelperAppDelegate>(m_platform, *m_preferences, m_interface, &QDMac::init,
                                                      noControllers);
+    m_keeper = std::make_unique<SampleKeeper>(m_platform, *m_delegate, m_recorder);
     m_popup = std::make_unique<BatteryPopup>(m_interface, m_recorded.application, m_runLoop);
     QObject::connect(m_delegate.get(), &HelperAppDelegate::dailyUploadStarted, m_delegate.get(),
                      [this] { ++m_gatesOpened; });

@@ -5,7 +5,9 @@
 #include <QTemporaryDir>
 
 #include "app/HelperAppDelegate.h"
+#include "app/SampleKeeper.h"
 #include "menubar/MainInterface.h"
+#include "platform/TextReceiver.h"
 #include "platform/UrlSession.h"
 #include "platform/linux/settings/LinuxUserDefaults.h"
 #include "platform/linux/system/LinuxBundle.h"
@@ -25,6 +27,18 @@ public:
     void post(const QString& url, const QByteArray& body,
               std::function<void(int status, const QByteArray& body)> answered) override;
     std::optional<QByteArray> contents(const QString& /*url*/) override { return std::nullopt; }
+};
+
+/// Counts what it is given to record, and refuses what is no sample.
+class CountingRecorder : public TextReceiver
+{
+public:
+    int starts = 0;
+    int samples = 0;
+
+    bool isInstalled() const override { return true; }
+    bool isRunning() override { return false; }
+    bool handOver(const QByteArray& text) override;
 };
 
 /// The real status item, off every bus.
@@ -58,6 +72,7 @@ public:
 
     int gatesOpened() const { return m_gatesOpened; }
     int posts() const { return m_urlSession.posts; }
+    const CountingRecorder& recorder() const { return m_recorder; }
 
 private:
     Platform platform();
@@ -85,6 +100,8 @@ private:
     MainInterface m_interface;
     std::unique_ptr<ApplicationPreferences> m_preferences;
     std::unique_ptr<HelperAppDelegate> m_delegate;
+    CountingRecorder m_recorder;
+    std::unique_ptr<SampleKeeper> m_keeper;
     std::unique_ptr<BatteryPopup> m_popup;
 };
 

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <optional>
+
+#include <QByteArray>
+
+#include "samples/Sample.h"
+
+namespace quindle {
+
+/// What is to be done with a sample that follows another one.
+enum class SampleFate {
+    Ignored, ///< nothing has changed, or this minute has its sample
+    Added,
+    Replaces ///< the one before: the battery's state has changed within its minute
+};
+
+/// At most one sample for each minute of the clock, and only when something has changed since the last one:
+/// the state, the charge by 0.1 points, whether the power is known, or the power by half a watt and a tenth
+/// of what it was (meters waver). A moment before the last one's (a clock that was set back) is another
+/// minute.
+SampleFate sampleFate(const Sample& last, const Sample& next);
+
+/// Samples on their way to the program that stores them. It has no clock: samples bring their moment along.
+class SampleBuffer
+{
+public:
+    /// A day's, one a minute: 58 kB. When more cannot be handed over the oldest fall out.
+    static constexpr std::size_t most = 1440;
+
+    /// Takes a sample as `sampleFate` says, also against the last one that has been let go of. The first one
+    /// is always taken.
+    void add(const Sample& sample);
+
+    bool isEmpty() const { return m_samples.empty(); }
+    std::size_t size() const { return m_samples.size(); }
+
+    /// All of them, oldest first, a line each (see SampleLine.h).
+    QByteArray lines() const;
+
+    /// They have been handed over, or are not wanted.
+    void clear() { m_samples.clear(); }
+
+private:
+    std::deque<Sample> m_samples;
+    std::optional<Sample> m_last; ///< also after it has been handed over
+};
+
+} // namespace quindle
