@@ -25,11 +25,17 @@ double megabytes(const QString& path)
     return static_cast<double>(QFileInfo(path).size()) / 1e6;
 }
 
-/// So many records, one a day; the invented laptop is not used every day.
+/// So many records, one an hour: a battery does not live as long as the longest archive.
 QVariantList snapshots(int count)
 {
-    QVariantList records = inventedSnapshots({.end = end, .days = count * 13 / 10 + 20});
-    records.erase(records.begin(), records.end() - count);
+    const QVariantList invented = inventedSnapshots({.end = end, .days = tenYears});
+    QVariantList records;
+    for (int number = 0; number < count; ++number) {
+        QVariantMap record = invented[number % invented.size()].toMap();
+        record.insert(QStringLiteral("Data.SnapshotDate"),
+                      QDateTime::fromSecsSinceEpoch(end + (number - count) * secondsOfHour, Qt::UTC));
+        records.append(record);
+    }
     return records;
 }
 

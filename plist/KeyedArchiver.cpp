@@ -1,5 +1,6 @@
 #include "plist/KeyedArchiver.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QDateTime>
@@ -49,8 +50,11 @@ KeyedArchiver::Reference KeyedArchiver::keep(Node node)
 
 KeyedArchiver::Reference KeyedArchiver::keepOnce(Node node)
 {
-    const auto known = m_kept.constFind(node);
-    return known != m_kept.cend() ? *known : *m_kept.insert(node, keep(node));
+    if (node >= m_kept.size())
+        m_kept.resize(std::size_t{node} * 2 + 1, 0);
+    if (m_kept[node] == 0)
+        m_kept[node] = keep(node);
+    return m_kept[node];
 }
 
 KeyedArchiver::Reference KeyedArchiver::keepValue(const QVariant& value)
@@ -103,17 +107,33 @@ KeyedArchiver::Reference KeyedArchiver::keepList(const QVariantList& list)
 
 KeyedArchiver::Reference KeyedArchiver::keepMap(const QVariantMap& map)
 {
-    Nodes keys;
+    const Node keys = keyList(map);
     Nodes values;
-    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
-        keys.push_back(referenceTo(keepText(entry.key())));
-        values.push_back(referenceTo(keepValue(entry.value())));
-    }
-    auto known = m_keyLists.find(keys);
-    if (known == m_keyLists.end())
-        known = m_keyLists.emplace(keys, m_list.addArray(keys)).first;
-    return keep(instance("NSDictionary",
-                         {{text("NS.keys"), known->second}, {text("NS.objects"), m_list.addArray(values)}}));
+    values.reserve(static_cast<std::size_t>(map.size()));
+    for (const QVariant& value : map)
+        values.push_back(referenceTo(keepValue(value)));
+    return keep(
+        instance("NSDictionary", {{text("NS.keys"), keys}, {text("NS.objects"), m_list.addArray(values)}}));
+}
+
+/// Compared key by key, which costs less than looking each of them up.
+KeyedArchiver::Node KeyedArchiver::keyList(const QVariantMap& map)
+{
+    const auto isOfMap = [&map](const KeyList& list) {
+        return std::equal(list.keys.cbegin(), list.keys.cend(), map.keyBegin(), map.keyEnd());
+    };
+    const auto known = std::find_if(m_keyLists.crbegin(), m_keyLists.crend(), isOfMap);
+    if (known != m_keyLists.crend())
+        return known->node;
+    Nodes references;
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
+        references.push_back(referenceTo(keepText(entry.key())));
+    // A history has a handful of them; in one of another kind looking through all would take ever longer.
+    constexpr std::size_t most = 64;
+    if (m_keyLists.size() == most)
+        m_keyLists.clear();
+    m_keyLists.push_back({map.keys(), m_list.addArray(references)});
+    return m_keyLists.back().node;
 }
 
 KeyedArchiver::Reference KeyedArchiver::classNamed(const char* name)

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <map>
 #include <vector>
 
 #include <QHash>
+#include <QStringList>
 #include <QVariant>
 
 #include "plist/BinaryListWriter.h"
@@ -22,6 +22,12 @@ private:
     using Reference = quint32; ///< the index of an archived object
     using Nodes = std::vector<Node>;
 
+    struct KeyList
+    {
+        QStringList keys;
+        Node node = 0;
+    };
+
     Reference keep(Node node);
     Reference keepOnce(Node node);
     Reference keepValue(const QVariant& value);
@@ -31,16 +37,17 @@ private:
     Reference keepMap(const QVariantMap& map);
     Reference classNamed(const char* name);
 
+    Node keyList(const QVariantMap& map);
     Node instance(const char* className, BinaryListWriter::Entries entries);
     Node text(const char* latin1) { return m_list.addText(QString::fromLatin1(latin1)); }
     Node referenceTo(Reference object) const { return m_references[object]; }
     Nodes referencesTo(const QVariantList& list);
 
     BinaryListWriter m_list;
-    Nodes m_objects;                  ///< by reference
-    Nodes m_references;               ///< to each of them
-    QHash<Node, Reference> m_kept;    ///< texts and numbers
-    std::map<Nodes, Node> m_keyLists; ///< by the references in them
+    Nodes m_objects;                 ///< by reference
+    Nodes m_references;              ///< to each of them
+    Nodes m_kept;                    ///< the references of texts and numbers, by node; 0 for others
+    std::vector<KeyList> m_keyLists; ///< few, since records have the same keys
     QHash<QString, Reference> m_classes;
 };
 
