@@ -10,6 +10,7 @@ struct Given
     bool help = false;
     bool version = false;
     bool json = false;
+    bool metrics = false;
     bool withSerials = false;
     bool demo = false;
     bool follow = false;
@@ -25,15 +26,18 @@ struct Flag
     bool Given::*member;
 };
 
+// clang-format off
 constexpr Flag flags[] = {
     {"--help", &Given::help},
     {"-h", &Given::help},
     {"--version", &Given::version},
     {"--json", &Given::json},
+    {"--metrics", &Given::metrics},
     {"--with-serials", &Given::withSerials},
     {"--demo", &Given::demo},
     {"--follow", &Given::follow},
 };
+// clang-format on
 
 struct Option
 {
@@ -101,6 +105,8 @@ QString contradiction(const Given& given)
         return QStringLiteral("--follow and --json exclude each other (there is --format json)");
     if (given.follow && given.capture)
         return QStringLiteral("--follow and --capture exclude each other");
+    if (given.metrics && (given.json || given.capture || given.follow))
+        return QStringLiteral("--metrics excludes --json, --capture and --follow");
     if (given.format && !given.follow)
         return QStringLiteral("--format belongs to --follow");
     if (given.format && !barFormatNamed(*given.format))
@@ -119,6 +125,8 @@ CommandLine::Call callOf(const Given& given)
         return CommandLine::Call::Version;
     if (given.json)
         return CommandLine::Call::Json;
+    if (given.metrics)
+        return CommandLine::Call::Metrics;
     if (given.follow)
         return CommandLine::Call::Follow;
     return given.capture ? CommandLine::Call::Capture : CommandLine::Call::Report;
@@ -159,7 +167,8 @@ CommandLine parseCommandLine(const QStringList& arguments, const InspectEnvironm
 QString helpText()
 {
     return QStringLiteral(
-        "Usage: quindle-inspect [--json | --capture FILE [--with-serials] | --follow [--format FORMAT]]\n"
+        "Usage: quindle-inspect [--json | --metrics | --capture FILE [--with-serials] | --follow [--format "
+        "FORMAT]]\n"
         "                       [--demo] [--machine FILE | --sysfs DIR]\n"
         "\n"
         "Prints what Quindle Helper knows of this computer and its battery, and what it would show.\n"
@@ -167,6 +176,8 @@ QString helpText()
         "\n"
         "  --json            one JSON object on one line; with a machine file one more for each of its "
         "steps\n"
+        "  --metrics         the battery in the text format of OpenMetrics and Prometheus, without serial "
+        "numbers\n"
         "  --capture FILE    write this computer as a machine file, replacing FILE; serial numbers and the\n"
         "                    computer's name are replaced by invented ones\n"
         "  --with-serials    with --capture: keep the true serial numbers, name and model cache\n"

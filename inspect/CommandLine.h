@@ -12,7 +12,7 @@ namespace quindle {
 /// What one call of quindle-inspect asks for.
 struct CommandLine
 {
-    enum class Call { Report, Json, Capture, Follow, Help, Version };
+    enum class Call { Report, Json, Metrics, Capture, Follow, Help, Version };
 
     Call call = Call::Report;
     BarFormat format = BarFormat::Text; ///< of Follow

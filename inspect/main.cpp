@@ -13,6 +13,7 @@
 #include "inspect/DemoMachine.h"
 #include "inspect/Follower.h"
 #include "inspect/Inspection.h"
+#include "inspect/Metrics.h"
 #include "inspect/TextReport.h"
 #include "platform/linux/os/CoreDumps.h"
 #include "platform/linux/os/EndOfProcess.h"
@@ -53,6 +54,12 @@ int printReport(Computer& computer, bool isDemo)
     Inspection inspection(computer, isDemo);
     const std::vector<Fact> facts = factsFor(FactPlace::Report, inspection.interface().factSources());
     print(reportText(inspection.takeState(), facts).toUtf8());
+    return 0;
+}
+
+int printMetrics(Computer& computer, bool isDemo)
+{
+    print(metricsText(Inspection(computer, isDemo).mac()));
     return 0;
 }
 
@@ -98,6 +105,8 @@ int inspect(const CommandLine& commandLine)
     switch (commandLine.call) {
     case CommandLine::Call::Json:
         return printJson(computer, commandLine.demo);
+    case CommandLine::Call::Metrics:
+        return printMetrics(computer, commandLine.demo);
     case CommandLine::Call::Follow:
         return follow(computer, commandLine);
     case CommandLine::Call::Capture:

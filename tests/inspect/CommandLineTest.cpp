@@ -24,6 +24,8 @@ constexpr Row rows[] = {
     {"", "", "", Call::Report, "", ""},
     {"--json", "", "", Call::Json, "", ""},
     {"--demo", "", "", Call::Report, "", ""},
+    {"--metrics --demo", "", "", Call::Metrics, "", ""},
+    {"--metrics --machine m", "", "", Call::Metrics, "m", ""},
     {"--capture out", "", "", Call::Capture, "", ""},
     {"--capture=out --with-serials", "", "", Call::Capture, "", ""},
     {"--follow", "", "", Call::Follow, "", ""},
@@ -93,11 +95,29 @@ TEST(CommandLine, FormatOfFollowing)
 
 TEST(CommandLine, WrongUsage)
 {
-    for (const char* arguments :
-         {"--bogus", "file", "--machine", "--capture", "--sysfs", "--capture=", "--jsonx", "--json=1",
-          "--with-serials", "--json --capture out", "--help extra", "--follow --json",
-          "--follow --capture out", "--follow --with-serials", "--format json", "--follow --format",
-          "--follow --format xml", "--follow --format JSON", "--follow=1"}) {
+    for (const char* arguments : {"--bogus",
+                                  "file",
+                                  "--machine",
+                                  "--capture",
+                                  "--sysfs",
+                                  "--capture=",
+                                  "--jsonx",
+                                  "--json=1",
+                                  "--with-serials",
+                                  "--json --capture out",
+                                  "--help extra",
+                                  "--follow --json",
+                                  "--follow --capture out",
+                                  "--follow --with-serials",
+                                  "--format json",
+                                  "--follow --format",
+                                  "--follow --format xml",
+                                  "--follow --format JSON",
+                                  "--follow=1",
+                                  "--metrics --json",
+                                  "--metrics --follow",
+                                  "--metrics --capture out",
+                                  "--metrics=1"}) {
         const CommandLine line = parse({arguments, "", "", Call::Report, "", ""});
         EXPECT_FALSE(line.fault.isEmpty()) << arguments;
         EXPECT_FALSE(line.fault.contains(u'\n')) << arguments;
