@@ -8,6 +8,8 @@ set(doc share/doc/quindle-helper)
 configure_file(debian/changelog.in "${documents}/changelog" @ONLY)
 quindle_compressed("${documents}/changelog" changelog ${doc})
 install(FILES debian/copyright DESTINATION ${doc})
+install(FILES fleet/prometheus.yml fleet/quindle-dashboard.json fleet/quindle-metrics.service fleet/quindle-metrics.timer
+    fleet/quindle-rules.yml DESTINATION ${doc}/examples)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME quindle-helper)
