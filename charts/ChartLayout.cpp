@@ -65,7 +65,7 @@ ChartLayout chartLayout(const ChartContent& content, AxisSpan seen, const QRectF
     const AxisSpan values = valuesSeen(content, seen);
     const ValueTicks ticks = valueTicks(values, fitting(height, line * linesPerValue));
     const double gutter = gutterFor(content, ticks, metrics);
-    const double width = std::max(1.0, area.width() - gutter - line * 0.35);
+    const double width = std::max(1.0, area.width() - gutter - chartOverhang(line));
     const QRectF plot(area.left() + gutter, area.top() + above, width, height);
     return {.plot = plot,
             .line = line,
@@ -95,6 +95,11 @@ AxisSpan valuesSeen(const ChartContent& content, AxisSpan seen)
         span.add(content.projection->high);
     }
     return span.withRoom();
+}
+
+double chartOverhang(double line)
+{
+    return std::ceil(line * 0.35);
 }
 
 QRectF cardBeside(const QPointF& point, const QSizeF& card, double distance, const QRectF& plot)

@@ -77,7 +77,7 @@ void paintTimeTicks(QPainter& painter, const ChartLayout& layout, const ChartLoo
     for (const TimeTick& tick : layout.timeTicks) {
         const double width = metrics.horizontalAdvance(tick.label);
         const double centred = layout.time.pixel(static_cast<double>(tick.moment)) - width / 2;
-        const double farthest = layout.plot.right() + layout.line * 0.35 - width;
+        const double farthest = layout.plot.right() + chartOverhang(layout.line) - width;
         const double left = std::min(centred, farthest);
         if (left < free)
             continue; // moved aside by the edge, it would touch its neighbour
@@ -99,16 +99,18 @@ void paintReferenceLines(QPainter& painter, const ChartContent& content, const C
     }
 }
 
-/// On top of everything, since a line may pass below.
+/// Instead of the grid, which would run through the letters, but below the lines.
 void paintReferenceLabels(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
                           const ChartLook& look)
 {
     painter.setPen(look.quiet);
-    const double gap = layout.line * 0.15;
+    const QFontMetricsF metrics = painter.fontMetrics();
     for (const ReferenceLine& line : content.lines) {
-        const double y = layout.value.pixel(line.value) - gap - layout.line;
-        painter.drawText(QRectF(layout.plot.left(), y, layout.plot.width(), layout.line),
-                         Qt::AlignRight | Qt::AlignVCenter, line.label);
+        const double width = metrics.horizontalAdvance(line.label);
+        const double y = layout.value.pixel(line.value) - layout.line * 1.15;
+        const QRectF place(layout.plot.right() - width, y, width, layout.line);
+        painter.fillRect(place.adjusted(-layout.line * 0.3, 0, 0, 0), look.background);
+        painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, line.label);
     }
 }
 
@@ -247,9 +249,9 @@ void paintChart(QPainter& painter, const ChartContent& content, const ChartLayou
     paintShaded(painter, content, layout, look);
     paintValueTicks(painter, content, layout, look);
     paintTimeTicks(painter, layout, look);
+    paintReferenceLabels(painter, content, layout, look);
     paintReferenceLines(painter, content, layout, look);
     paintLines(painter, content, layout, look);
-    paintReferenceLabels(painter, content, layout, look);
 }
 
 void paintReading(QPainter& painter, const ChartContent& content, const ChartLayout& layout,

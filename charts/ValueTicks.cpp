@@ -20,7 +20,8 @@ struct ValueStep
     {
         constexpr std::array mantissas{1, 2, 5};
         const double units = count * mantissas[static_cast<std::size_t>(number - exponent() * 3)];
-        return exponent() < 0 ? units / std::pow(10, -exponent()) : units * std::pow(10, exponent());
+        // Adding 0 takes the sign from a zero.
+        return (exponent() < 0 ? units / std::pow(10, -exponent()) : units * std::pow(10, exponent())) + 0.0;
     }
 };
 

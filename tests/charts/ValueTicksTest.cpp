@@ -40,6 +40,12 @@ TEST(ValueTicks, AreMultiplesOfOneTwoOrFive)
     }
 }
 
+TEST(ValueTicks, ZeroHasNoSign)
+{
+    EXPECT_FALSE(std::signbit(valueTicks({0, 100}, 3).values.front()));
+    EXPECT_FALSE(std::signbit(valueTicks({-3, 53}, 4).values.front()));
+}
+
 TEST(ValueTicks, AreTheOutermostTwoWhereNoStepFits)
 {
     // By 2 there are five, by 5 there is one.

@@ -1,0 +1,145 @@
+// What the history page saves: a picture of itself, and the numbers that it shows.
+#include <functional>
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QImage>
+#include <QPainter>
+#include <QSaveFile>
+#include <QStyle>
+#include <QSvgGenerator>
+
+#include "application/pages/HistoryPage.h"
+#include "application/pages/SampleTable.h"
+#include "charts/ChartLook.h"
+#include "charts/ChartPainter.h"
+#include "charts/TimeSeriesChart.h"
+#include "common/Paths.h"
+#include "widgets/PaletteMix.h"
+#include "widgets/PlainLabel.h"
+#include "widgets/PlainText.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr int pictureScale = 2; // as screens of today show it sharp
+
+void paintLabel(QPainter& painter, const PlainLabel& label)
+{
+    const QColor text = textOf(label);
+    painter.setFont(label.font());
+    painter.setPen(label.isQuiet() ? quietText(text, backgroundOf(label)) : text);
+    const QRect place = label.contentsRect().translated(label.pos());
+    drawPlainLine(painter, place, QStyle::visualAlignment(label.layoutDirection(), label.alignment()),
+                  label.text());
+}
+
+void paintChartOf(QPainter& painter, const TimeSeriesChart& chart)
+{
+    paintChart(painter, chart.content(), chart.layoutInside(chart.geometry()), chartLook(chart));
+}
+
+QFileDialog* saveDialog(QWidget* parent, const QString& title, const QStringList& filters,
+                        const QString& suffix)
+{
+    auto* dialog = new QFileDialog(parent, title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters(filters);
+    dialog->setDefaultSuffix(suffix);
+    dialog->setDirectory(homeFolder());
+    dialog->selectFile(QStringLiteral("battery-history.") + suffix);
+    return dialog;
+}
+
+/// Why it could not be written; empty when it was.
+QString written(const QString& path, const std::function<bool(QIODevice&)>& write)
+{
+    QSaveFile file(path);
+    const bool done = file.open(QIODevice::WriteOnly) && write(file) && file.commit();
+    return done ? QString() : file.errorString();
+}
+
+} // namespace
+
+QSize HistoryPage::pictureSize() const
+{
+    const int below = m_sampleChart->geometry().bottom() + 1 + content().layout()->contentsMargins().bottom();
+    return {content().width(), below};
+}
+
+void HistoryPage::paintPicture(QPainter& painter) const
+{
+    painter.fillRect(QRect(QPoint(0, 0), pictureSize()), backgroundOf(content()));
+    for (const PlainLabel* label :
+         {m_heading, m_figure, m_sign, m_sentence, m_detail, m_wearCaption, m_sampleHeading, m_legend})
+        paintLabel(painter, *label);
+    for (const TimeSeriesChart* chart : {m_wearChart, m_sampleChart})
+        paintChartOf(painter, *chart);
+}
+
+void HistoryPage::askForPicture()
+{
+    QFileDialog* dialog = saveDialog(this, QStringLiteral("Save Picture"),
+                                     {QStringLiteral("Pictures (*.png)"), QStringLiteral("Drawings (*.svg)")},
+                                     QStringLiteral("png"));
+    connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
+        dialog->setDefaultSuffix(filter.contains(QStringLiteral("svg")) ? QStringLiteral("svg")
+                                                                        : QStringLiteral("png"));
+    });
+    connect(dialog, &QFileDialog::fileSelected, this, &HistoryPage::savePicture);
+    dialog->open();
+}
+
+void HistoryPage::askForTable()
+{
+    QFileDialog* dialog =
+        saveDialog(this, QStringLiteral("Export"), {QStringLiteral("Tables (*.csv)")}, QStringLiteral("csv"));
+    connect(dialog, &QFileDialog::fileSelected, this, &HistoryPage::saveTable);
+    dialog->open();
+}
+
+void HistoryPage::savePicture(const QString& path)
+{
+    const bool isDrawing = path.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive);
+    tell(path, written(path, [this, isDrawing](QIODevice& file) {
+             return isDrawing ? writeDrawing(file) : writePicture(file);
+         }));
+}
+
+bool HistoryPage::writePicture(QIODevice& file) const
+{
+    QImage picture(pictureSize() * pictureScale, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(pictureScale);
+    QPainter painter(&picture);
+    paintPicture(painter);
+    painter.end();
+    return picture.save(&file, "PNG");
+}
+
+bool HistoryPage::writeDrawing(QIODevice& file) const
+{
+    QSvgGenerator drawing;
+    drawing.setOutputDevice(&file);
+    drawing.setSize(pictureSize());
+    drawing.setViewBox(QRect(QPoint(0, 0), pictureSize()));
+    drawing.setTitle(accessibleName());
+    QPainter painter(&drawing);
+    paintPicture(painter);
+    return painter.end();
+}
+
+void HistoryPage::saveTable(const QString& path)
+{
+    const QByteArray table = sampleTable(m_samples, m_sampleChart->seen());
+    tell(path, written(path, [&table](QIODevice& file) { return file.write(table) == table.size(); }));
+}
+
+void HistoryPage::tell(const QString& path, const QString& failure)
+{
+    m_told->setText(failure.isEmpty() ? QStringLiteral("Saved") : path + QStringLiteral(": ") + failure);
+}
+
+} // namespace quindle

@@ -1,0 +1,114 @@
+#include "application/pages/SampleChart.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "application/pages/SampleTable.h"
+#include "charts/Gaps.h"
+#include "facts/ValueTexts.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr double daysOfShade = 32; // stripes of more of them cannot be told apart
+constexpr double recent = 600;
+constexpr double sameCharge = 1; // percent
+
+bool rests(const Sample& sample)
+{
+    return sample.state != SampleState::Charging && sample.state != SampleState::Discharging;
+}
+
+bool isRest(const Sample& before, const Sample& after)
+{
+    return rests(before) && rests(after) && std::abs(before.charge - after.charge) < sameCharge;
+}
+
+QString textOf(const Sample& sample)
+{
+    QString text = percentText(sample.charge);
+    if (sample.power)
+        text += besideEachOther() + wattsText(std::abs(*sample.power));
+    if (sample.state != SampleState::Unknown)
+        text += besideEachOther() + sampleStateName(sample.state);
+    return text;
+}
+
+bool hasQuantity(const Sample& sample, SampleQuantity quantity)
+{
+    return quantity == SampleQuantity::Charge ? std::isfinite(sample.charge)
+                                              : sample.power && std::isfinite(*sample.power);
+}
+
+ChartSeries seriesOf(const std::vector<Sample>& samples, SampleQuantity quantity, double end)
+{
+    ChartSeries series;
+    series.name = quantity == SampleQuantity::Charge ? QStringLiteral("Charge") : QStringLiteral("Power");
+    series.points.reserve(samples.size());
+    for (const Sample& sample : samples) {
+        const double value = quantity == SampleQuantity::Charge ? sample.charge : std::abs(*sample.power);
+        series.points.push_back({sample.moment, value});
+    }
+    series.gaps = gapsOf(samples);
+    series.endsWithDot = !samples.empty() && end - static_cast<double>(samples.back().moment) <= recent;
+    return series;
+}
+
+} // namespace
+
+std::vector<std::size_t> gapsOf(const std::vector<Sample>& samples)
+{
+    std::vector<ChartPoint> points;
+    points.reserve(samples.size());
+    for (const Sample& sample : samples)
+        points.push_back({sample.moment, sample.charge});
+    std::vector<std::size_t> gaps = gapsBetween(points);
+    std::erase_if(gaps, [&](std::size_t gap) { return isRest(samples[gap], samples[gap + 1]); });
+    return gaps;
+}
+
+std::vector<ShadedSpan> chargingSpans(const std::vector<Sample>& samples,
+                                      const std::vector<std::size_t>& gaps)
+{
+    std::vector<ShadedSpan> spans;
+    auto gap = gaps.begin();
+    bool goesOn = false;
+    for (std::size_t index = 0; index < samples.size(); ++index) {
+        const Sample& sample = samples[index];
+        const bool isCharging = sample.state == SampleState::Charging;
+        if (goesOn)
+            spans.back().to = sample.moment;
+        else if (isCharging)
+            spans.push_back({sample.moment, sample.moment});
+        goesOn = isCharging;
+        if (gap != gaps.end() && *gap == index) {
+            goesOn = false;
+            ++gap;
+        }
+    }
+    return spans;
+}
+
+ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quantity, AxisSpan moments)
+{
+    ChartContent content;
+    content.moments = moments;
+    content.readsTimes = true;
+    content.shadedUpTo = daysOfShade * 86400;
+    content.emptyText = QStringLiteral("Nothing was recorded in this time.");
+    if (quantity == SampleQuantity::Charge)
+        content.values = AxisSpan{0, 100};
+    content.valuesIncludeZero = true;
+    std::vector<Sample> shown;
+    std::copy_if(samples.begin(), samples.end(), std::back_inserter(shown),
+                 [quantity](const Sample& sample) { return hasQuantity(sample, quantity); });
+    content.series.push_back(seriesOf(shown, quantity, moments.to));
+    content.shaded = chargingSpans(shown, content.series.front().gaps);
+    content.readingText = [shown = std::move(shown)](const ChartReading& reading) {
+        return textOf(shown[reading.point]);
+    };
+    return content;
+}
+
+} // namespace quindle

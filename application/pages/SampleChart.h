@@ -1,0 +1,24 @@
+#pragma once
+
+#include <vector>
+
+#include "charts/ChartContent.h"
+#include "samples/Sample.h"
+
+namespace quindle {
+
+enum class SampleQuantity { Charge, Power };
+
+/// Charge or power over `moments`, charging shaded. Power has no sign: which way it flows says the shade.
+/// `samples` by moment. A sample of the last ten minutes before the end is marked as what is now.
+ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quantity, AxisSpan moments);
+
+/// The samples after which the line is left open (see gapsBetween). No pause is one while the battery rests,
+/// neither charged nor discharged and as full as before: then there is nothing to record.
+std::vector<std::size_t> gapsOf(const std::vector<Sample>& samples);
+
+/// From each sample that charges to the next one of another state or, before a gap, to the last that charges.
+std::vector<ShadedSpan> chargingSpans(const std::vector<Sample>& samples,
+                                      const std::vector<std::size_t>& gaps);
+
+} // namespace quindle

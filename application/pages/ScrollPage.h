@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QScrollArea>
+
+namespace quindle {
+
+/// A page that scrolls up and down where the window is lower than what is on it; by the keyboard too.
+class ScrollPage : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit ScrollPage(QWidget* parent = nullptr);
+
+    /// What is on the page; it gets a layout by the page.
+    QWidget& content() const { return *m_content; }
+
+private:
+    QWidget* m_content;
+};
+
+} // namespace quindle

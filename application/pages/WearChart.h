@@ -1,0 +1,16 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "charts/ChartContent.h"
+#include "records/CapacityPoint.h"
+#include "records/TrendEstimate.h"
+
+namespace quindle {
+
+/// The full charge of each battery over the whole history, a line for each one, those that are not used any
+/// more quiet; what it was made for, 80 % of that, and where the trend leads. `points` by moment.
+ChartContent wearChart(const std::vector<CapacityPoint>& points, const std::optional<TrendEstimate>& trend);
+
+} // namespace quindle
