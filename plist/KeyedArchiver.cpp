@@ -23,21 +23,27 @@ QStringList ancestry(const QString& name)
                                       : QStringList{name, root};
 }
 
+/// Most often it is one text, which two lists share.
+bool isSameText(const QString& left, const QString& right)
+{
+    return (left.constData() == right.constData() && left.size() == right.size()) || left == right;
+}
+
 } // namespace
 
 QByteArray KeyedArchiver::archive(const QVariantList& records)
 {
-    keep(text(missingObject));
+    keep(name(missingObject));
     // The root comes first by custom; it is known only when what it holds has been written.
     const Reference root = keep(0);
     const Node items = m_list.addArray(referencesTo(records));
-    m_objects[root] = instance("NSMutableArray", {{text("NS.objects"), items}});
-    const Node top = m_list.addDictionary({{text("root"), referenceTo(root)}});
+    m_objects[root] = instance("NSMutableArray", {{name("NS.objects"), items}});
+    const Node top = m_list.addDictionary({{name("root"), referenceTo(root)}});
     const Node objects = m_list.addArray(m_objects);
-    return m_list.finish(m_list.addDictionary({{text("$version"), m_list.addInteger(100000)},
-                                               {text("$archiver"), text("NSKeyedArchiver")},
-                                               {text("$top"), top},
-                                               {text("$objects"), objects}}));
+    return m_list.finish(m_list.addDictionary({{name("$version"), m_list.addInteger(100000)},
+                                               {name("$archiver"), name("NSKeyedArchiver")},
+                                               {name("$top"), top},
+                                               {name("$objects"), objects}}));
 }
 
 KeyedArchiver::Reference KeyedArchiver::keep(Node node)
@@ -72,7 +78,7 @@ KeyedArchiver::Reference KeyedArchiver::keepValue(const QVariant& value)
     case QMetaType::QDateTime:
         return keepDate(value.toDateTime());
     case QMetaType::QByteArray:
-        return keep(instance("NSData", {{text("NS.data"), m_list.addData(value.toByteArray())}}));
+        return keep(instance("NSData", {{name("NS.data"), m_list.addData(value.toByteArray())}}));
     case QMetaType::QVariantList:
     case QMetaType::QStringList:
         return keepList(value.toList());
@@ -85,24 +91,30 @@ KeyedArchiver::Reference KeyedArchiver::keepValue(const QVariant& value)
 
 KeyedArchiver::Reference KeyedArchiver::keepText(const QString& text)
 {
+    // Records that were read share their texts, so most are known by their place already, without a look at
+    // their characters.
+    KnownText& known = m_knownTexts[text.constData()];
+    if (known.reference != 0 && known.length == text.size())
+        return known.reference;
     const Node node = m_list.addText(text);
     // As an object of its own: readers take the bare text for a missing object.
-    if (text == QLatin1StringView(missingObject))
-        return keep(instance("NSString", {{this->text("NS.string"), node}}));
-    return keepOnce(node);
+    const bool isMarked = text == QLatin1StringView(missingObject);
+    known.reference = isMarked ? keep(instance("NSString", {{name("NS.string"), node}})) : keepOnce(node);
+    known.length = text.size();
+    return known.reference;
 }
 
 KeyedArchiver::Reference KeyedArchiver::keepDate(const QDateTime& date)
 {
     if (!date.isValid())
         return keepValue({});
-    return keep(instance("NSDate", {{text("NS.time"), m_list.addReal(secondsOfDate(date))}}));
+    return keep(instance("NSDate", {{name("NS.time"), m_list.addReal(secondsOfDate(date))}}));
 }
 
 KeyedArchiver::Reference KeyedArchiver::keepList(const QVariantList& list)
 {
     const Node items = m_list.addArray(referencesTo(list));
-    return keep(instance("NSArray", {{text("NS.objects"), items}}));
+    return keep(instance("NSArray", {{name("NS.objects"), items}}));
 }
 
 KeyedArchiver::Reference KeyedArchiver::keepMap(const QVariantMap& map)
@@ -113,14 +125,14 @@ KeyedArchiver::Reference KeyedArchiver::keepMap(const QVariantMap& map)
     for (const QVariant& value : map)
         values.push_back(referenceTo(keepValue(value)));
     return keep(
-        instance("NSDictionary", {{text("NS.keys"), keys}, {text("NS.objects"), m_list.addArray(values)}}));
+        instance("NSDictionary", {{name("NS.keys"), keys}, {name("NS.objects"), m_list.addArray(values)}}));
 }
 
 /// Compared key by key, which costs less than looking each of them up.
 KeyedArchiver::Node KeyedArchiver::keyList(const QVariantMap& map)
 {
     const auto isOfMap = [&map](const KeyList& list) {
-        return std::equal(list.keys.cbegin(), list.keys.cend(), map.keyBegin(), map.keyEnd());
+        return std::equal(list.keys.cbegin(), list.keys.cend(), map.keyBegin(), map.keyEnd(), isSameText);
     };
     const auto known = std::find_if(m_keyLists.crbegin(), m_keyLists.crend(), isOfMap);
     if (known != m_keyLists.crend())
@@ -136,23 +148,29 @@ KeyedArchiver::Node KeyedArchiver::keyList(const QVariantMap& map)
     return m_keyLists.back().node;
 }
 
-KeyedArchiver::Reference KeyedArchiver::classNamed(const char* name)
+KeyedArchiver::Reference KeyedArchiver::classNamed(const char* literal)
 {
-    const QString className = QString::fromLatin1(name);
-    const auto known = m_classes.constFind(className);
+    const auto known = m_classes.constFind(literal);
     if (known != m_classes.cend())
         return *known;
     Nodes classes;
-    for (const QString& ancestor : ancestry(className))
+    for (const QString& ancestor : ancestry(QString::fromLatin1(literal)))
         classes.push_back(m_list.addText(ancestor));
     const Node description = m_list.addDictionary(
-        {{text("$classname"), m_list.addText(className)}, {text("$classes"), m_list.addArray(classes)}});
-    return *m_classes.insert(className, keep(description));
+        {{name("$classname"), name(literal)}, {name("$classes"), m_list.addArray(classes)}});
+    return *m_classes.insert(literal, keep(description));
+}
+
+KeyedArchiver::Node KeyedArchiver::name(const char* literal)
+{
+    const auto known = m_names.constFind(literal);
+    return known != m_names.cend() ? *known
+                                   : *m_names.insert(literal, m_list.addText(QString::fromLatin1(literal)));
 }
 
 KeyedArchiver::Node KeyedArchiver::instance(const char* className, BinaryListWriter::Entries entries)
 {
-    entries.emplace_back(text("$class"), referenceTo(classNamed(className)));
+    entries.emplace_back(name("$class"), referenceTo(classNamed(className)));
     return m_list.addDictionary(entries);
 }
 

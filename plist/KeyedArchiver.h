@@ -28,6 +28,12 @@ private:
         Node node = 0;
     };
 
+    struct KnownText
+    {
+        qsizetype length = 0;
+        Reference reference = 0;
+    };
+
     Reference keep(Node node);
     Reference keepOnce(Node node);
     Reference keepValue(const QVariant& value);
@@ -35,20 +41,22 @@ private:
     Reference keepDate(const QDateTime& date);
     Reference keepList(const QVariantList& list);
     Reference keepMap(const QVariantMap& map);
-    Reference classNamed(const char* name);
+    Reference classNamed(const char* literal);
 
     Node keyList(const QVariantMap& map);
     Node instance(const char* className, BinaryListWriter::Entries entries);
-    Node text(const char* latin1) { return m_list.addText(QString::fromLatin1(latin1)); }
+    Node name(const char* literal);
     Node referenceTo(Reference object) const { return m_references[object]; }
     Nodes referencesTo(const QVariantList& list);
 
     BinaryListWriter m_list;
-    Nodes m_objects;                 ///< by reference
-    Nodes m_references;              ///< to each of them
-    Nodes m_kept;                    ///< the references of texts and numbers, by node; 0 for others
-    std::vector<KeyList> m_keyLists; ///< few, since records have the same keys
-    QHash<QString, Reference> m_classes;
+    Nodes m_objects;                  ///< by reference
+    Nodes m_references;               ///< to each of them
+    Nodes m_kept;                     ///< the references of texts and numbers, by node; 0 for others
+    std::vector<KeyList> m_keyLists;  ///< few, since records have the same keys
+    QHash<const char*, Node> m_names; ///< by literal, like the classes
+    QHash<const char*, Reference> m_classes;
+    QHash<const QChar*, KnownText> m_knownTexts; ///< by where they lie while the records live
 };
 
 } // namespace quindle
