@@ -12,6 +12,8 @@
 #include <QApplication>
 
 #include "platform/NotificationCenter.h"
+#include "records/SampleStore.h"
+#include "records/Thinning.h"
 #include "tests/soak/Measures.h"
 #include "tests/soak/SoakedHelper.h"
 
@@ -75,7 +77,7 @@ bool isSteady(const Measures& first, const Measures& last, int gatesOpened)
 
 /// The battery of this day changes each minute, and nothing is written more often than each hour and before
 /// sleep.
-bool hasRecorded(const CountingRecorder& recorder, const CountingRecorder& before)
+bool hasRecorded(const Recorder& recorder, const Recorder& before)
 {
     constexpr int minutes = 24 * 60;
     constexpr int sleeps = 3;
@@ -90,13 +92,35 @@ bool hasRecorded(const CountingRecorder& recorder, const CountingRecorder& befor
     return true;
 }
 
+/// What has grown old is one sample an hour by now, the rest is there as it was recorded. Thinning comes once
+/// a day, and one more day may have passed without.
+bool hasThinned(const SoakedHelper& helper)
+{
+    constexpr std::size_t hoursOfOldDay = 25; // it began within one
+    SampleStore store(helper.history());
+    const qint64 now = helper.now();
+    const qint64 old = hourlyBefore(now) - 2 * secondsOfDay;
+    const std::vector<Sample> thinned = store.samplesBetween(0, old - 1);
+    const auto areOfOneHour = [](const Sample& one, const Sample& other) {
+        return one.moment / secondsOfHour == other.moment / secondsOfHour;
+    };
+    if (thinned.size() < hoursOfOldDay - 1 ||
+        std::adjacent_find(thinned.begin(), thinned.end(), areOfOneHour) != thinned.end())
+        return fail("samples of the old day", hoursOfOldDay, static_cast<qint64>(thinned.size()));
+    const auto young = static_cast<qint64>(store.samplesBetween(old, now).size());
+    const bool isAllYoung = thinned.size() <= hoursOfOldDay;
+    if (isAllYoung && young != helper.recorder().samples)
+        return fail("samples since then", helper.recorder().samples, young);
+    return true;
+}
+
 bool soak(int days)
 {
     SoakedHelper helper;
     std::vector<Measures> measures;
     std::puts("  day  heap (bytes)  resident (kB)  files  uploads  samples");
     for (int day = 1; day <= days; ++day) {
-        const CountingRecorder before = helper.recorder();
+        const Recorder before = helper.recorder();
         if (!livesThroughDay(helper) || !hasRecorded(helper.recorder(), before))
             return false;
         measures.push_back(Measures::now());
@@ -108,7 +132,7 @@ bool soak(int days)
     }
     if (helper.posts() != helper.gatesOpened() || helper.posts() < days - 1)
         return fail("uploads", helper.gatesOpened(), helper.posts());
-    return isSteady(measures.at(warmUpDays - 1), measures.back(), helper.gatesOpened());
+    return hasThinned(helper) && isSteady(measures.at(warmUpDays - 1), measures.back(), helper.gatesOpened());
 }
 
 /// Starts the program once more with an allocator that keeps nothing in reserve: what it keeps counts as in

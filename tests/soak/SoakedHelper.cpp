@@ -6,16 +6,18 @@
 #include <cstdlib>
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QPixmap>
 #include <QWidget>
 
+#include "application/commands/RecordCommand.h"
 #include "battery/QDBattery.h"
 #include "history/SavedHistory.h"
 #include "mac/QDMac.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
-#include "samples/SampleLine.h"
+#include "records/SampleStore.h"
 
 namespace quindle {
 
@@ -69,6 +71,12 @@ MachineStep batteryStep(const QVariantMap& battery)
     return {.remove = {}, .keys = {{QStringLiteral("Registry"), registry}}, .actions = {}};
 }
 
+class NoPowerHistory : public PowerHistory
+{
+public:
+    std::optional<RecordedPower> lastWeek() override { return std::nullopt; }
+};
+
 void require(bool holds, const char* what)
 {
     if (holds)
@@ -87,14 +95,21 @@ void AnsweringUrlSession::post(const QString& /*url*/, const QByteArray& body,
     answered(200, QByteArrayLiteral("stored"));
 }
 
-bool CountingRecorder::handOver(const QByteArray& text)
+bool Recorder::handOver(const QByteArray& text)
 {
     ++starts;
-    const QList<QByteArray> lines = text.split('\n');
-    for (const QByteArray& line : lines.first(lines.size() - 1)) {
-        require(sampleFromLine(line).has_value(), "a line of a sample is none");
-        ++samples;
-    }
+    samples += static_cast<int>(text.count('\n'));
+    QByteArray lines = text;
+    QBuffer input(&lines);
+    input.open(QIODevice::ReadOnly);
+    NoPowerHistory nothing;
+    // Its models are there for this one call and must not tick.
+    RecordedRunLoop still;
+    const Platform platform = m_platform.with({.runLoop = &still});
+    const int status = recordHistory(platform, nothing, input, [](const QString& line) {
+        std::fprintf(stderr, "recording: %s\n", qUtf8Printable(line));
+    });
+    require(status == 0, "the history could not be recorded");
     return true;
 }
 
@@ -112,6 +127,7 @@ SoakedHelper::SoakedHelper()
     const bool copied = QFile::copy(QStringLiteral(QUINDLE_TEST_DATA "/archives/two-records.binary"),
                                     savedHistoryFile(m_folder.path()));
     require(copied, "the saved history could not be put in place");
+    recordOldDay();
     m_userDefaults.suite(QStringLiteral("group.fernhollow.Quindle"))
         ->setObject(QStringLiteral("autoUpload"), true);
     m_preferences = std::make_unique<ApplicationPreferences>(m_platform);
@@ -135,6 +151,24 @@ Platform SoakedHelper::platform()
                                        .runLoop = &m_runLoop,
                                        .statusBar = &m_statusBar,
                                        .urlSession = &m_urlSession});
+}
+
+QString SoakedHelper::history() const
+{
+    return historyFile(m_folder.path());
+}
+
+/// One sample a minute, long enough ago to become one an hour.
+void SoakedHelper::recordOldDay()
+{
+    constexpr qint64 age = 50 * 24 * hour;
+    const qint64 begin = m_clock.now().toSecsSinceEpoch() - age;
+    std::vector<Sample> samples;
+    for (qint64 moment = begin; moment < begin + 24 * hour; moment += minute)
+        samples.push_back(
+            {moment, static_cast<double>(moment / minute % 100), -10, SampleState::Discharging});
+    SampleStore store(history());
+    require(store.append(samples).isGood(), "the old history could not be put in place");
 }
 
 void SoakedHelper::passTenSeconds()
@@ -217,7 +251,8 @@ void SoakedHelper::toggleUnits()
 
 void SoakedHelper::readHistory()
 {
-    require(m_delegate->getSavedDataArray().size() == 2, "the saved history was not read");
+    // Each battery's snapshot of each day comes to the two that were there.
+    require(m_delegate->getSavedDataArray().size() > 2, "the saved history was not read");
 }
 
 int SoakedHelper::changeSetting()

@@ -29,16 +29,24 @@ public:
     std::optional<QByteArray> contents(const QString& /*url*/) override { return std::nullopt; }
 };
 
-/// Counts what it is given to record, and refuses what is no sample.
-class CountingRecorder : public TextReceiver
+/// Does what the application's program would do, within the process: nothing of it may stay behind.
+class Recorder : public TextReceiver
 {
 public:
+    explicit Recorder(const Platform& platform)
+        : m_platform(platform)
+    {
+    }
+
     int starts = 0;
-    int samples = 0;
+    int samples = 0; ///< that it was given
 
     bool isInstalled() const override { return true; }
     bool isRunning() override { return false; }
     bool handOver(const QByteArray& text) override;
+
+private:
+    const Platform& m_platform;
 };
 
 /// The real status item, off every bus.
@@ -72,10 +80,16 @@ public:
 
     int gatesOpened() const { return m_gatesOpened; }
     int posts() const { return m_urlSession.posts; }
-    const CountingRecorder& recorder() const { return m_recorder; }
+    const Recorder& recorder() const { return m_recorder; }
+
+    qint64 now() const { return m_clock.now().toSecsSinceEpoch(); }
+
+    /// The file of the recorded history.
+    QString history() const;
 
 private:
     Platform platform();
+    void recordOldDay();
     void changeBattery();
     void swapBattery();
     void sleepForAnHour();
@@ -100,7 +114,7 @@ private:
     MainInterface m_interface;
     std::unique_ptr<ApplicationPreferences> m_preferences;
     std::unique_ptr<HelperAppDelegate> m_delegate;
-    CountingRecorder m_recorder;
+    Recorder m_recorder{m_platform};
     std::unique_ptr<SampleKeeper> m_keeper;
     std::unique_ptr<BatteryPopup> m_popup;
 };
