@@ -23,6 +23,12 @@ QStringList ancestry(const QString& name)
                                       : QStringList{name, root};
 }
 
+QByteArray bytesOf(const quint32* numbers, std::size_t count)
+{
+    return QByteArray(reinterpret_cast<const char*>(numbers),
+                      static_cast<qsizetype>(count * sizeof *numbers));
+}
+
 /// Most often it is one text, which two lists share.
 bool isSameText(const QString& left, const QString& right)
 {
@@ -113,8 +119,7 @@ KeyedArchiver::Reference KeyedArchiver::keepDate(const QDateTime& date)
 
 KeyedArchiver::Reference KeyedArchiver::keepList(const QVariantList& list)
 {
-    const Node items = m_list.addArray(referencesTo(list));
-    return keep(instance("NSArray", {{name("NS.objects"), items}}));
+    return keepContainer("NSArray", std::nullopt, referencesTo(list));
 }
 
 KeyedArchiver::Reference KeyedArchiver::keepMap(const QVariantMap& map)
@@ -124,8 +129,25 @@ KeyedArchiver::Reference KeyedArchiver::keepMap(const QVariantMap& map)
     values.reserve(static_cast<std::size_t>(map.size()));
     for (const QVariant& value : map)
         values.push_back(referenceTo(keepValue(value)));
-    return keep(
-        instance("NSDictionary", {{name("NS.keys"), keys}, {name("NS.objects"), m_list.addArray(values)}}));
+    return keepContainer("NSDictionary", keys, values);
+}
+
+/// With a list of keys, or without.
+KeyedArchiver::Reference KeyedArchiver::keepContainer(const char* className, std::optional<Node> keys,
+                                                      const Nodes& items)
+{
+    // No list of keys is the first node.
+    const Node list = keys.value_or(0);
+    QByteArray contents = bytesOf(items.data(), items.size());
+    contents += bytesOf(&list, 1);
+    Reference& known = m_containers[contents];
+    if (known != 0)
+        return known;
+    BinaryListWriter::Entries entries;
+    if (keys)
+        entries.emplace_back(name("NS.keys"), *keys);
+    entries.emplace_back(name("NS.objects"), m_list.addArray(items));
+    return known = keep(instance(className, std::move(entries)));
 }
 
 /// Compared key by key, which costs less than looking each of them up.

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
+#include <QByteArray>
 #include <QHash>
 #include <QStringList>
 #include <QVariant>
@@ -10,8 +12,9 @@
 
 namespace quindle {
 
-/// Writes one keyed archive as the platform's encoder does. Used for one archive and thrown away. Equal
-/// texts, numbers and lists of keys are written once: the records of a history differ in a few numbers only.
+/// Writes one keyed archive as the platform's encoder does. Used for one archive and thrown away. What is
+/// equal is written once: the records of a history differ in a few numbers only, and what an archive of a few
+/// bytes unfolds to does not fill the disk when it is written again.
 class KeyedArchiver
 {
 public:
@@ -41,6 +44,7 @@ private:
     Reference keepDate(const QDateTime& date);
     Reference keepList(const QVariantList& list);
     Reference keepMap(const QVariantMap& map);
+    Reference keepContainer(const char* className, std::optional<Node> keys, const Nodes& items);
     Reference classNamed(const char* literal);
 
     Node keyList(const QVariantMap& map);
@@ -56,6 +60,7 @@ private:
     std::vector<KeyList> m_keyLists;  ///< few, since records have the same keys
     QHash<const char*, Node> m_names; ///< by literal, like the classes
     QHash<const char*, Reference> m_classes;
+    QHash<QByteArray, Reference> m_containers;   ///< by the bytes of their items and list of keys
     QHash<const QChar*, KnownText> m_knownTexts; ///< by where they lie while the records live
 };
 

@@ -135,4 +135,25 @@ TEST(KeyedArchiver, WhatIsEqualIsWrittenOnce)
     EXPECT_EQ(readBack(records), records);
 }
 
+// An archive of a few bytes can unfold to a lot; imported, it must not fill the disk.
+TEST(KeyedArchiver, WhatIsSharedStaysSmall)
+{
+    QVariantList list{qint64{1}};
+    for (int level = 0; level < 5; ++level)
+        list = QVariantList(10, QVariant(list));
+    const QVariantList records{recordOf(list)};
+    EXPECT_LT(keyedArchive(records).size(), 2'000);
+    EXPECT_EQ(readBack(records), records);
+}
+
+// Equal lists of items make no equal objects when the keys differ, or when there are none.
+TEST(KeyedArchiver, EqualItemsInUnlikeContainers)
+{
+    const QVariantList items{qint64{1}, qint64{2}};
+    const QVariantMap first{{QStringLiteral("a"), qint64{1}}, {QStringLiteral("b"), qint64{2}}};
+    const QVariantMap second{{QStringLiteral("c"), qint64{1}}, {QStringLiteral("d"), qint64{2}}};
+    const QVariantList records{recordOf(items), recordOf(first), recordOf(second), recordOf(items)};
+    EXPECT_EQ(readBack(records), records);
+}
+
 } // namespace
