@@ -49,13 +49,15 @@ struct ReferenceLine
     QString label;
 };
 
-/// Where a series goes if it goes on as before, and between which values that lies at the end.
+/// Where a series goes if it goes on as before, and between which values its points will lie.
 struct ChartProjection
 {
     ChartPoint from;
     ChartPoint to;
-    double low = 0;
-    double high = 0;
+    double lowStart = 0;
+    double highStart = 0;
+    double lowEnd = 0;
+    double highEnd = 0;
     ChartInk ink = ChartInk::Wear;
 };
 

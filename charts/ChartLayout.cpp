@@ -91,8 +91,8 @@ AxisSpan valuesSeen(const ChartContent& content, AxisSpan seen)
     for (const ReferenceLine& line : content.lines)
         span.add(line.value);
     if (content.projection && seen.to > static_cast<double>(content.projection->from.moment)) {
-        span.add(content.projection->low);
-        span.add(content.projection->high);
+        span.add(content.projection->lowEnd);
+        span.add(content.projection->highEnd);
     }
     return span.withRoom();
 }

@@ -7,16 +7,14 @@
 #include <QPolygonF>
 
 #include "charts/DateTexts.h"
-#include "charts/Decimation.h"
+#include "charts/SeriesPainter.h"
 #include "widgets/PaletteMix.h"
 
 namespace quindle {
 
 namespace {
 
-constexpr double seriesWidth = 0.1; // of a line of text, as the others
 constexpr double dotRadius = 0.2;
-constexpr double quietShare = 0.5;
 constexpr double shadeShare = 0.11;
 constexpr float selectionAlpha = 0.2F;
 constexpr float bandAlpha = 0.15F;
@@ -119,50 +117,17 @@ void paintProjection(QPainter& painter, const ChartProjection& projection, const
 {
     const QColor ink = inkColour(look, projection.ink);
     const auto to = static_cast<double>(projection.to.moment);
-    const QPointF from = layout.at(static_cast<double>(projection.from.moment), projection.from.value);
     painter.setPen(Qt::NoPen);
     painter.setBrush(veiled(ink, bandAlpha));
-    painter.drawPolygon(QPolygonF({from, layout.at(to, projection.high), layout.at(to, projection.low)}));
+    const auto start = static_cast<double>(projection.from.moment);
+    painter.drawPolygon(
+        QPolygonF({layout.at(start, projection.lowStart), layout.at(start, projection.highStart),
+                   layout.at(to, projection.highEnd), layout.at(to, projection.lowEnd)}));
     painter.setBrush(Qt::NoBrush);
-    QPen dashed(ink, layout.line * seriesWidth * 0.7);
+    QPen dashed(ink, seriesWidth(layout) * 0.7);
     dashed.setDashPattern({4, 3});
     painter.setPen(dashed);
-    painter.drawLine(from, layout.at(to, projection.to.value));
-}
-
-QColor colourOf(const ChartSeries& series, const ChartLook& look)
-{
-    const QColor ink = inkColour(look, series.ink);
-    return series.isQuiet ? mixed(ink, look.background, quietShare) : ink;
-}
-
-/// In pieces, since the painter takes a line as one outline, whose cost grows with how often it meets itself.
-/// Without round joints, which cost more than the line and cannot be seen on one so thin.
-void paintLine(QPainter& painter, const QPolygonF& line, QPen pen)
-{
-    constexpr qsizetype piece = 4;
-    pen.setCapStyle(line.size() == 1 ? Qt::RoundCap : Qt::SquareCap);
-    pen.setJoinStyle(Qt::BevelJoin);
-    painter.setPen(pen);
-    if (line.size() == 1)
-        return painter.drawPoint(line.first());
-    for (qsizetype first = 0; first + 1 < line.size(); first += piece) {
-        const qsizetype count = std::min(piece + 1, line.size() - first);
-        painter.drawPolyline(line.constData() + first, static_cast<int>(count));
-    }
-}
-
-void paintSeries(QPainter& painter, const ChartSeries& series, const ChartLayout& layout,
-                 const ChartLook& look)
-{
-    const QPen pen(colourOf(series, look), layout.line * seriesWidth);
-    for (const auto& stretch : decimated(series, layout.time)) {
-        QPolygonF line;
-        line.reserve(static_cast<qsizetype>(stretch.size()));
-        for (const ChartPoint& point : stretch)
-            line.append(layout.at(static_cast<double>(point.moment), point.value));
-        paintLine(painter, line, pen);
-    }
+    painter.drawLine(layout.at(start, projection.from.value), layout.at(to, projection.to.value));
 }
 
 void paintDot(QPainter& painter, const QPointF& centre, double radius, const QColor& ink,
@@ -184,20 +149,22 @@ void paintEndDot(QPainter& painter, const ChartSeries& series, const ChartLayout
     const auto moment = static_cast<double>(series.points.back().moment);
     if (layout.time.values().contains(moment))
         paintDot(painter, layout.at(moment, series.points.back().value), layout.line * dotRadius,
-                 colourOf(series, look), look);
+                 seriesColour(series, look), look);
 }
 
 void paintLines(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
                 const ChartLook& look)
 {
     painter.save();
-    const double overlap = layout.line * seriesWidth;
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double overlap = seriesWidth(layout);
     painter.setClipRect(layout.plot.adjusted(0, -layout.line, overlap, overlap));
     if (content.projection)
         paintProjection(painter, *content.projection, layout, look);
     for (const ChartSeries& series : content.series)
         paintSeries(painter, series, layout, look);
     painter.restore();
+    painter.setRenderHint(QPainter::Antialiasing);
     for (const ChartSeries& series : content.series)
         paintEndDot(painter, series, layout, look);
 }
@@ -238,7 +205,9 @@ void paintCard(QPainter& painter, const QPointF& place, const ChartLayout& layou
 void paintChart(QPainter& painter, const ChartContent& content, const ChartLayout& layout,
                 const ChartLook& look)
 {
-    painter.setRenderHint(QPainter::Antialiasing);
+    // Rectangles with smooth edges cost many times as much as those on whole pixels, where these belong
+    // anyway.
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setFont(look.font);
     painter.setBrush(Qt::NoBrush);
     if (!hasPoints(content)) {
@@ -260,10 +229,12 @@ void paintReading(QPainter& painter, const ChartContent& content, const ChartLay
     constexpr double lineShare = 0.35;
     const ChartPoint& point = pointOf(content, reading);
     const QPointF place = layout.at(static_cast<double>(point.moment), point.value);
-    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setFont(look.font);
     fillColumn(painter, layout.plot, place.x() - 0.5, mixed(look.text, look.background, lineShare));
-    paintDot(painter, place, layout.line * dotRadius, colourOf(content.series[reading.series], look), look);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintDot(painter, place, layout.line * dotRadius, seriesColour(content.series[reading.series], look),
+             look);
     paintCard(painter, place, layout, look,
               {momentText(point.moment, content.readsTimes, locale), readingText(content, reading)});
 }

@@ -57,7 +57,8 @@ std::optional<WearPace> paceOf(const std::vector<TrendValue>& values, qint64 day
     return WearPace{.level = line->at(values.back().x),
                     .perYear = line->slope,
                     .steepest = line->lowestSlope,
-                    .flattest = line->highestSlope};
+                    .flattest = line->highestSlope,
+                    .scatter = line->scatter};
 }
 
 } // namespace

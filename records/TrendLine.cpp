@@ -114,6 +114,17 @@ void setInterval(TrendLine& line, std::vector<double>& slopes, double variance)
     line.highestSlope = ofRank(slopes, std::ceil((count + width) / 2));
 }
 
+/// From the median distance, which outliers do not move.
+double scatterOf(const std::vector<TrendValue>& values, const TrendLine& line)
+{
+    constexpr double deviations = 1.4826; // a normal deviation by the median distance
+    std::vector<double> distances;
+    distances.reserve(values.size());
+    for (const TrendValue& value : values)
+        distances.push_back(std::abs(value.y - line.at(value.x)));
+    return normalQuantile * deviations * trendMedian(std::move(distances));
+}
+
 } // namespace
 
 std::optional<TrendLine> trendLine(const std::vector<TrendValue>& values)
@@ -129,6 +140,7 @@ std::optional<TrendLine> trendLine(const std::vector<TrendValue>& values)
         intercepts.push_back(value.y - line.slope * value.x);
     line.intercept = trendMedian(std::move(intercepts));
     setInterval(line, slopes, kendallVariance(used) * correlationFactor(used, line));
+    line.scatter = scatterOf(values, line);
     return line;
 }
 

@@ -11,13 +11,15 @@ struct TrendValue
     double y = 0;
 };
 
-/// A straight line through values, and between which slopes it lies with a probability of 95 %.
+/// A straight line through values, between which slopes it lies with a probability of 95 %, and how far from
+/// it lie 95 % of the values, as far as they scatter normally.
 struct TrendLine
 {
     double slope = 0;
     double intercept = 0; ///< y where x is 0
     double lowestSlope = 0;
     double highestSlope = 0;
+    double scatter = 0;
 
     double at(double x) const { return intercept + slope * x; }
 };

@@ -27,15 +27,17 @@ std::optional<TrendProjection> projectionOf(const TrendEstimate& trend)
         return {};
     const WearPace& pace = *trend.pace;
     const double years = yearsAhead(trend);
-    const auto capacity = [&](double perYear) {
-        return std::max(0.0, pace.level + perYear * years) / 100 * trend.reference;
+    const auto capacity = [&](double perYear, double beside = 0) {
+        return std::max(0.0, pace.level + perYear * years + beside) / 100 * trend.reference;
     };
     return TrendProjection{.from = trend.lastMoment,
                            .to = trend.lastMoment + static_cast<qint64>(years * daysAYear * 86400),
                            .start = capacity(0),
                            .end = capacity(pace.perYear),
-                           .lowestEnd = capacity(pace.steepest),
-                           .highestEnd = capacity(pace.flattest)};
+                           .lowestStart = capacity(0, -pace.scatter),
+                           .highestStart = capacity(0, pace.scatter),
+                           .lowestEnd = capacity(pace.steepest, -pace.scatter),
+                           .highestEnd = capacity(pace.flattest, pace.scatter)};
 }
 
 } // namespace quindle

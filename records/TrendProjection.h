@@ -6,13 +6,16 @@
 
 namespace quindle {
 
-/// Where the trend leads, in mAh: from the line's last point to one end, and between which values that lies.
+/// Where the trend leads, in mAh: from the line's last point to one end, and between which values the
+/// readings will lie.
 struct TrendProjection
 {
     qint64 from = 0;
     qint64 to = 0;
     double start = 0;
     double end = 0;
+    double lowestStart = 0;
+    double highestStart = 0;
     double lowestEnd = 0;
     double highestEnd = 0;
 };

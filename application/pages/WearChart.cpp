@@ -86,8 +86,10 @@ void addTrend(ChartContent& content, const TrendEstimate& trend)
     if (const auto ahead = projectionOf(trend)) {
         content.projection = ChartProjection{.from = {ahead->from, ahead->start},
                                              .to = {ahead->to, ahead->end},
-                                             .low = ahead->lowestEnd,
-                                             .high = ahead->highestEnd,
+                                             .lowStart = ahead->lowestStart,
+                                             .highStart = ahead->highestStart,
+                                             .lowEnd = ahead->lowestEnd,
+                                             .highEnd = ahead->highestEnd,
                                              .ink = ChartInk::Wear};
     }
 }

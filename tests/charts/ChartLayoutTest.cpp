@@ -28,7 +28,7 @@ TEST(ChartLayout, ReachesOverReferenceLinesAndProjection)
 {
     ChartContent content = someContent();
     content.lines = {{200, QStringLiteral("Design")}};
-    content.projection = ChartProjection{{1000, 110}, {2000, 60}, -40, 80, ChartInk::Wear};
+    content.projection = ChartProjection{{1000, 110}, {2000, 60}, 105, 115, -40, 80, ChartInk::Wear};
     EXPECT_GT(valuesSeen(content, {0, 600}).to, 200);
     EXPECT_GT(valuesSeen(content, {0, 600}).from, -40) << "the projection is not seen";
     EXPECT_LT(valuesSeen(content, {0, 2000}).from, -40);

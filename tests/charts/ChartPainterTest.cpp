@@ -102,12 +102,28 @@ TEST(ChartPainter, ShadesNothingWhereItWouldBeABlur)
 TEST(ChartPainter, DrawsTheBandOfAProjection)
 {
     ChartContent content = level({{0, 80}, {500, 60}});
-    content.projection = ChartProjection{{500, 60}, {1000, 40}, 20, 60, ChartInk::Wear};
+    content.projection = ChartProjection{{500, 60}, {1000, 40}, 58, 62, 20, 60, ChartInk::Wear};
     const QImage image = picture(content);
     EXPECT_NE(colourAt(image, content, 950, 50), QColor(Qt::white));
     EXPECT_NE(colourAt(image, content, 950, 30), QColor(Qt::white));
     EXPECT_EQ(colourAt(image, content, 950, 70), QColor(Qt::white));
     EXPECT_EQ(colourAt(image, content, 600, 30), QColor(Qt::white));
+}
+
+TEST(ChartPainter, DrawsALineThatTurnsAllTheTimeAsItsMean)
+{
+    ChartContent content = level({});
+    for (qint64 moment = 0; moment <= 1000; ++moment) // about two for each pixel
+        content.series[0].points.push_back({moment, moment % 2 == 0 ? 20.0 : 80.0});
+    content.moments = {0, 1000};
+    const QImage image = picture(content);
+    bool hasMean = false;
+    for (double value = 40; value <= 60; ++value)
+        hasMean = hasMean || isInk(colourAt(image, content, 500, value));
+    EXPECT_TRUE(hasMean);
+    EXPECT_FALSE(isInk(colourAt(image, content, 500, 70))) << "light";
+    EXPECT_NE(colourAt(image, content, 500, 70), QColor(Qt::white));
+    EXPECT_EQ(colourAt(image, content, 500, 90), QColor(Qt::white));
 }
 
 TEST(ChartPainter, SaysWhyThereIsNothing)

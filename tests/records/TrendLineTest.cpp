@@ -65,6 +65,17 @@ TEST(TrendLine, TheIntervalHoldsTheTruthAsOftenAsItSays)
     EXPECT_LE(held, 199) << "or it says too little";
 }
 
+TEST(TrendLine, KnowsHowFarValuesScatter)
+{
+    EXPECT_NEAR(trendLine(noisyLine(3000, 0.5))->scatter, 1.96 * 0.5, 0.05)
+        << "of single values, not of groups";
+    EXPECT_NEAR(trendLine(noisyLine(100, 0))->scatter, 0, 1e-9);
+    std::vector<TrendValue> values = noisyLine(400, 0.5);
+    for (std::size_t index = 0; index < values.size(); index += 10)
+        values[index].y = 400;
+    EXPECT_NEAR(trendLine(values)->scatter, 1.96 * 0.5, 0.25);
+}
+
 TEST(TrendLine, TheIntervalGrowsWithNoiseAndShrinksWithTime)
 {
     const auto width = [](int count, double noise) {

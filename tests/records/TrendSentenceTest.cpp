@@ -73,7 +73,7 @@ TEST(TrendSentence, SaysNowWhereTheLineIsThereAndTheReadingIsNot)
 
 TEST(TrendSentence, OneIsNotPlural)
 {
-    TrendEstimate trend{.days = 1, .cycles = 1, .percent = 95, .pace = WearPace{95, -5, -6, -4}};
+    TrendEstimate trend{.days = 1, .cycles = 1, .percent = 95, .pace = WearPace{95, -5, -6, -4, 0}};
     EXPECT_TRUE(trendTexts(trend, 0, grouped).detail.endsWith(QStringLiteral("from 1 day and 1 cycle")));
 }
 
