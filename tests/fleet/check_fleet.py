@@ -3,6 +3,7 @@ Run by scripts/check-fleet, which installs what it needs."""
 
 import http.server
 import json
+import os
 import re
 import shutil
 import socket
@@ -28,15 +29,25 @@ def check(holds, what):
         sys.exit(f"check-fleet: {what}")
 
 
-def run(*command, given=None):
-    """Fails also for a program that says anything but that all is well."""
-    done = subprocess.run(command, input=given, capture_output=True, text=True, timeout=60)
+def run(*command, given=None, **options):
+    done = subprocess.run(command, input=given, capture_output=True, text=True, timeout=60, **options)
     check(done.returncode == 0, f"{command}: {done.stdout}{done.stderr}")
     return done
 
 
-def metrics_of(inspect, machine):
-    text = run(inspect, "--sysfs", str(SOURCE / "tests/data/sysfs" / machine), "--metrics").stdout
+def unit_command():
+    """What the package's unit has the shell do."""
+    return re.search("^ExecStart=/bin/sh -c '(.*)'$", (FILES / "quindle-metrics.service").read_text(), re.MULTILINE)[1]
+
+
+def metrics_of(inspect, machine, folder):
+    """In the folder, as the unit writes them there on that computer."""
+    folder.mkdir()
+    run("/bin/sh", "-c", unit_command(), cwd=folder,
+        env=os.environ | {"PATH": f"{Path(inspect).resolve().parent}:{os.environ['PATH']}",
+                          "QUINDLE_SYSFS": str(SOURCE / "tests/data/sysfs" / machine)})
+    check([path.name for path in folder.iterdir()] == ["quindle.prom"], f"{machine}: more than the one file is left")
+    text = (folder / "quindle.prom").read_text()
     done = run("promtool", "check", "metrics", given=text)
     check(not done.stdout + done.stderr, f"{machine}: {done.stdout}{done.stderr}")
     return text
@@ -67,11 +78,8 @@ class Processes:
             process.wait(20)
 
 
-def start_exporter(processes, root, machine, text):
+def start_exporter(processes, folder):
     """A node exporter with nothing but the textfile collector, as on a computer of its own."""
-    folder = root / machine
-    folder.mkdir()
-    (folder / "quindle.prom").write_text(text)
     port = free_port()
     processes.start("prometheus-node-exporter", "--collector.disable-defaults", "--collector.textfile",
                     f"--collector.textfile.directory={folder}", f"--web.listen-address=127.0.0.1:{port}")
@@ -118,6 +126,8 @@ def ask(address):
         with urllib.request.urlopen(address, timeout=5) as answer:
             return json.load(answer)["data"]
     except urllib.error.HTTPError as error:
+        if error.code == 503:
+            return None  # it still starts
         sys.exit(f"check-fleet: {address}: {error.read().decode()}")
     except OSError:
         return None  # not there yet
@@ -150,6 +160,8 @@ def check_live(api, texts):
              "the text is refused as OpenMetrics")
     errors = query(api, "node_textfile_scrape_error")
     check(len(errors) == len(texts) and all(sample["value"][1] == "0" for sample in errors), f"the collector refuses: {errors}")
+    ages = query(api, 'node_textfile_mtime_seconds{file=~".*/quindle[.]prom"}')
+    check(len(ages) == len(texts), f"the rule about old files looks for others: {ages}")
     worn = {machine for machine, text in texts.items() if (health_of(text) or 1) < 0.8}
     check(0 < len(worn) < len(texts), f"the computers are no trial of the rule: {worn}")
     wait_for(lambda: firing(api, "QuindleBatteryWorn") == worn, f"not just {worn} are reported")
@@ -183,9 +195,9 @@ def main(inspect):
     with tempfile.TemporaryDirectory(prefix="quindle-fleet-") as folder:
         root = Path(folder)
         check_files(root)
-        texts = {machine: metrics_of(inspect, machine) for machine in MACHINES}
+        texts = {machine: metrics_of(inspect, machine, root / machine) for machine in MACHINES}
         try:
-            ports = {machine: start_exporter(processes, root, machine, text) for machine, text in texts.items()}
+            ports = {machine: start_exporter(processes, root / machine) for machine in MACHINES}
             api = start_prometheus(processes, root, ports, serve_as_openmetrics(texts[MACHINES[0]]))
             worn = check_live(api, texts)
             panels = check_dashboard(api)
