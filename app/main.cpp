@@ -125,7 +125,7 @@ StartAnswer answerInTime(std::optional<SingleInstance>& instance)
     const StartDeadline deadline(patience,
                                  "the session bus or a folder does not answer, so whether another one "
                                  "runs is not known");
-    return instance.emplace().start();
+    return instance.emplace(helperInstance()).start();
 }
 
 int start(int argc, char** argv)

@@ -10,7 +10,8 @@ class Workspace
 public:
     virtual ~Workspace() = default;
 
-    /// Launches the application at exactly `path`: a program is run, a folder is opened.
+    /// Launches the application at exactly `path`: a program is run, in a folder the application that was
+    /// installed there; a folder without one is opened.
     /// Does not wait for it, and does not learn how it ends.
     /// A path that is not there and a failure are logged, once for each path, and otherwise silent.
     virtual void launchApplication(const QString& path) = 0;

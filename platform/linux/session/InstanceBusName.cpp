@@ -12,9 +12,6 @@ namespace quindle {
 
 namespace {
 
-const QString instanceName = QStringLiteral("com.fernhollow.Quindle-Helper");
-const QString instancePath = QStringLiteral("/com/fernhollow/Quindle_Helper");
-
 const QString tokenKey = QStringLiteral("activation-token");
 
 // Without queueing: a start that waits in line for the name would run later, unasked.
@@ -31,18 +28,17 @@ QDBusMessage busCall(const QString& method, const QVariantList& arguments)
     return call;
 }
 
-QDBusMessage requestName()
+QDBusMessage requestName(const InstanceName& name)
 {
-    return busCall(QStringLiteral("RequestName"), {instanceName, doNotQueue});
+    return busCall(QStringLiteral("RequestName"), {name.bus, doNotQueue});
 }
 
 /// Gives no reason where the owner has gone in the meantime.
-QDBusMessage activateOwner(const QDBusConnection& connection)
+QDBusMessage activateOwner(const QDBusConnection& connection, const InstanceName& name)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(instanceName, instancePath,
-                                                       QStringLiteral("org.freedesktop.Application"),
-                                                       QStringLiteral("Activate"));
-    // The bus must not start a third helper for the call.
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        name.bus, name.path, QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+    // The bus must not start a third process for the call.
     call.setAutoStartService(false);
     QVariantMap platformData;
     if (const QByteArray token = activationTokenOfProcess(); !token.isEmpty())
@@ -58,10 +54,10 @@ bool hasGone(const QDBusMessage& answer)
            answer.errorName() == QStringLiteral("org.freedesktop.DBus.Error.NameHasNoOwner");
 }
 
-QString silentOwner(const QDBusConnection& connection)
+QString silentOwner(const QDBusConnection& connection, const InstanceName& instance)
 {
     const QDBusMessage process =
-        connection.call(busCall(QStringLiteral("GetConnectionUnixProcessID"), {instanceName}));
+        connection.call(busCall(QStringLiteral("GetConnectionUnixProcessID"), {instance.bus}));
     const uint id = process.arguments().value(0).toUInt();
     const QString name = id == 0 ? QString() : QStringLiteral(", process %1,").arg(id);
     return QStringLiteral("another one%1 runs in this session but does not answer").arg(name);
@@ -84,8 +80,9 @@ void ApplicationAdaptor::Activate(const QVariantMap& platformData)
     QMetaObject::invokeMethod(this, activate, Qt::QueuedConnection);
 }
 
-InstanceBusName::InstanceBusName(QObject* parent)
+InstanceBusName::InstanceBusName(InstanceName name, QObject* parent)
     : QObject(parent)
+    , m_name(std::move(name))
     , m_link(QDBusConnection::SessionBus, QStringLiteral("quindle-instance"))
     , m_guard([this] { pauseAnswers(); })
 {
@@ -121,12 +118,12 @@ void InstanceBusName::offer(QDBusConnection& connection)
 void InstanceBusName::answerCalls(QDBusConnection& connection)
 {
     m_guard.setBus(connection);
-    connection.registerObject(instancePath, this, QDBusConnection::ExportAdaptors);
+    connection.registerObject(m_name.path, this, QDBusConnection::ExportAdaptors);
 }
 
 void InstanceBusName::pauseAnswers()
 {
-    m_link.connection().unregisterObject(instancePath);
+    m_link.connection().unregisterObject(m_name.path);
     QTimer::singleShot(BusLink::usualPause, this, [this] {
         QDBusConnection present = m_link.connection();
         answerCalls(present);
@@ -136,23 +133,23 @@ void InstanceBusName::pauseAnswers()
 std::optional<StartAnswer> InstanceBusName::startOn(const QDBusConnection& connection) const
 {
     for (;;) {
-        const QDBusMessage answer = connection.call(requestName());
+        const QDBusMessage answer = connection.call(requestName(m_name));
         if (answer.type() != QDBusMessage::ReplyMessage)
             return std::nullopt;
         if (answer.arguments().value(0).toUInt() != nameIsOthers)
             return StartAnswer{};
-        const QDBusMessage activated = activateOwner(connection);
+        const QDBusMessage activated = activateOwner(connection, m_name);
         if (activated.type() == QDBusMessage::ReplyMessage)
             return StartAnswer{StartAnswer::Outcome::AnotherWoken, {}};
         // The owner ended between the two calls; the name is free, or the next one's.
         if (!hasGone(activated))
-            return StartAnswer{StartAnswer::Outcome::GivenUp, silentOwner(connection)};
+            return StartAnswer{StartAnswer::Outcome::GivenUp, silentOwner(connection, m_name)};
     }
 }
 
 void InstanceBusName::takeLater(const QDBusConnection& connection)
 {
-    auto* taking = new QDBusPendingCallWatcher(connection.asyncCall(requestName()), this);
+    auto* taking = new QDBusPendingCallWatcher(connection.asyncCall(requestName(m_name)), this);
     connect(taking, &QDBusPendingCallWatcher::finished, this, [this, taking] {
         const QDBusPendingReply<uint> reply = *taking;
         taking->deleteLater();

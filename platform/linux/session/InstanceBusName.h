@@ -12,6 +12,7 @@
 
 #include "platform/linux/session/BacklogGuard.h"
 #include "platform/linux/session/BusLink.h"
+#include "platform/linux/session/InstanceName.h"
 #include "platform/linux/session/StartAnswer.h"
 
 namespace quindle {
@@ -43,9 +44,9 @@ class InstanceBusName : public QObject
     Q_OBJECT
 
 public:
-    explicit InstanceBusName(QObject* parent = nullptr);
+    explicit InstanceBusName(InstanceName name, QObject* parent = nullptr);
 
-    /// Takes the name, or asks its owner to open the battery view and waits up to four seconds for that.
+    /// Takes the name, or asks its owner to show itself and waits up to four seconds for that.
     /// Nothing where there is no bus, or one that gives no names: then the name is taken once there is.
     std::optional<StartAnswer> start();
 
@@ -63,6 +64,7 @@ private:
     void takeLater(const QDBusConnection& connection);
     std::optional<StartAnswer> startOn(const QDBusConnection& connection) const;
 
+    InstanceName m_name;
     BusLink m_link;
     BacklogGuard m_guard;
     bool m_isStarted = false;

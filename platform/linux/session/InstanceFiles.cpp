@@ -69,10 +69,10 @@ StartAnswer givenUp(const QString& fault)
 
 } // namespace
 
-std::vector<QString> instanceFileStems(const QString& name)
+std::vector<QString> instanceFileStems(const QString& program, const QString& name)
 {
     std::vector<QString> stems;
-    const QString file = QStringLiteral("/quindle-helper-");
+    const QString file = u'/' + program + u'-';
     if (const QString runtime = runtimeFolder(); !runtime.isEmpty())
         stems.push_back(runtime + file + name);
     if (const QString settings = settingsFolder(); !settings.isEmpty())

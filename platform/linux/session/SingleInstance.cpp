@@ -15,8 +15,9 @@ QString displayOfProcess()
 
 } // namespace
 
-SingleInstance::SingleInstance()
-    : m_files(instanceFileStems(displayOfProcess()))
+SingleInstance::SingleInstance(const InstanceName& name)
+    : m_busName(name)
+    , m_files(instanceFileStems(name.file, displayOfProcess()))
 {
 }
 

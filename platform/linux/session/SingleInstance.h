@@ -7,16 +7,16 @@
 
 namespace quindle {
 
-/// Makes sure that one helper runs for each session bus, because items are offered on a bus; where there is
-/// none, for each display. Main thread only.
+/// Makes sure that one process of a program runs for each session bus, because items are offered on a bus;
+/// where there is none, for each display. Main thread only.
 ///
 /// A name on the bus is given to one process only, can be taken by nobody outside the session, and needs no
 /// folder. The files are taken as well, as far as they can be, so that a start which finds no bus finds the
-/// helper that waits for one.
+/// one that waits for one.
 class SingleInstance
 {
 public:
-    SingleInstance();
+    explicit SingleInstance(const InstanceName& name);
 
     /// Whether this process is to run. Needs a QCoreApplication.
     StartAnswer start();
@@ -24,7 +24,7 @@ public:
     /// Sets what the request of another start does; requests arrive once the main loop runs.
     void setShowRequested(const std::function<void()>& showRequested);
 
-    /// Sets what happens when a bus appears that another helper is on already.
+    /// Sets what happens when a bus appears that another process is on already.
     void setTakenByAnother(std::function<void()> taken) { m_busName.setTakenByAnother(std::move(taken)); }
 
 private:

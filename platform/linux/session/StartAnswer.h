@@ -4,12 +4,12 @@
 
 namespace quindle {
 
-/// What a start is to do, so that one helper runs.
+/// What a start is to do, so that one process runs.
 struct StartAnswer
 {
     enum class Outcome {
         First,        ///< run
-        AnotherWoken, ///< another one runs and was asked to open its battery view: end
+        AnotherWoken, ///< another one runs and was asked to show itself: end
         GivenUp,      ///< end, and say why
     };
 

@@ -8,8 +8,10 @@ namespace quindle {
 
 // A thread and not an alarm: only a fatal signal, such as the end of the process, interrupts a call to a file
 // server that is away.
-StartDeadline::StartDeadline(std::chrono::seconds patience, const std::string& reason)
-    : m_line("quindle-helper: gave up: " + reason + '\n')
+StartDeadline::StartDeadline(std::chrono::seconds patience, const std::string& reason,
+                             const std::string& program, int status)
+    : m_line(program + ": gave up: " + reason + '\n')
+    , m_status(status)
     , m_waiting([this, patience] { wait(patience); })
 {
 }
@@ -31,7 +33,7 @@ void StartDeadline::wait(std::chrono::seconds patience)
         return;
     writeToStandardError(m_line.data(), m_line.size());
     // At once: destructors may wait for the very call that does not return.
-    ::_exit(1);
+    ::_exit(m_status);
 }
 
 } // namespace quindle

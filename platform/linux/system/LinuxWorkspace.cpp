@@ -23,6 +23,22 @@ QList<QByteArray> openCommand(const QByteArray& path, const QStringList& handler
     return gio.isEmpty() ? QList<QByteArray>() : QList<QByteArray>{gio, "open", path};
 }
 
+/// The program of the application that is installed in a folder; empty where none is.
+QByteArray applicationIn(const QByteArray& folder)
+{
+    return programPath(folder + "/Quindle.app/Contents/Linux/quindle", {});
+}
+
+/// What launches `path`: the program that it is, or that of the application in it; anything else the desktop
+/// opens.
+QList<QByteArray> launchCommand(const QByteArray& path, const QStringList& handlerFolders)
+{
+    if (!programPath(path, {}).isEmpty())
+        return {path};
+    const QByteArray application = applicationIn(path);
+    return application.isEmpty() ? openCommand(path, handlerFolders) : QList<QByteArray>{application};
+}
+
 } // namespace
 
 LinuxWorkspace::LinuxWorkspace(QStringList handlerFolders)
@@ -49,10 +65,7 @@ bool LinuxWorkspace::launch(const QString& path) const
     const auto target = std::filesystem::absolute(pathBytes(path).toStdString(), error);
     if (path.isEmpty() || error || !std::filesystem::exists(target, error))
         return false;
-    const QByteArray absolutePath = QByteArray::fromStdString(target);
-    const bool isProgram = !programPath(absolutePath, {}).isEmpty();
-    const QList<QByteArray> command =
-        isProgram ? QList<QByteArray>{absolutePath} : openCommand(absolutePath, m_handlerFolders);
+    const QList<QByteArray> command = launchCommand(QByteArray::fromStdString(target), m_handlerFolders);
     return !command.isEmpty() && startDetached(command);
 }
 

@@ -21,7 +21,7 @@ protected:
     {
         bus.start();
         qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
-        first.emplace();
+        first.emplace(helperInstance());
         first->setShowRequested([this] { shownWith = activationTokenOfProcess(); });
     }
 
@@ -57,6 +57,16 @@ TEST_F(InstanceBusNameTest, AnotherStartsTokenIsForItsWindowOnly)
     EXPECT_EQ(shownWith, QByteArray());
     activate({{key, 7}});
     EXPECT_EQ(shownWith, QByteArray("7"));
+}
+
+TEST_F(InstanceBusNameTest, EachProgramRunsOnce)
+{
+    InstanceBusName application(applicationInstance());
+    ASSERT_TRUE(first->start());
+    const auto answer = application.start();
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->outcome, StartAnswer::Outcome::First);
+    EXPECT_FALSE(shownWith) << "the helper was asked for the application";
 }
 
 } // namespace

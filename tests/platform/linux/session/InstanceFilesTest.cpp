@@ -200,11 +200,12 @@ TEST_F(InstanceFilesTest, PlacesAreTheUsersOwn)
     qputenv("XDG_RUNTIME_DIR", folder);
     const QString inSettings = QStringLiteral("/configuration/quindle/quindle-helper-") +
                                QSysInfo::machineHostName() + QStringLiteral("-_0");
-    EXPECT_EQ(instanceFileStems(name),
+    const QString program = QStringLiteral("quindle-helper");
+    EXPECT_EQ(instanceFileStems(program, name),
               (std::vector{m_folder.path() + QStringLiteral("/quindle-helper-_0"), inSettings}));
     for (const char* runtime : {"", "relative", "/nowhere"}) {
         qputenv("XDG_RUNTIME_DIR", runtime);
-        EXPECT_EQ(instanceFileStems(name), std::vector{inSettings}) << runtime;
+        EXPECT_EQ(instanceFileStems(program, name), std::vector{inSettings}) << runtime;
     }
 }
 

@@ -162,6 +162,16 @@ TEST_F(LinuxWorkspaceTest, GivesFoldersAndFilesToTheDesktop)
     EXPECT_EQ(written("xdg-note"), preferred.toUtf8() + '|' + folder.path().toUtf8() + '\n');
 }
 
+TEST_F(LinuxWorkspaceTest, RunsTheApplicationInAFolder)
+{
+    write("bin/gio", scriptThatNotes("gio-note"), true);
+    const QString program =
+        write("Quindle.app/Contents/Linux/quindle", scriptThatNotes("application-note"), true);
+    LinuxWorkspace({path("bin")}).launchApplication(folder.path());
+    EXPECT_EQ(written("application-note"), program.toUtf8() + "|\n");
+    EXPECT_FALSE(QFile::exists(path("gio-note")));
+}
+
 TEST_F(LinuxWorkspaceTest, OpensWhatHasANameThatIsNotUtf8)
 {
     const QByteArray odd = QFile::encodeName(path("odd")) + "\xff";

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+/// By which the one process that a session has of a program is known.
+struct InstanceName
+{
+    QString bus;  ///< its name on the session bus
+    QString path; ///< of the object that is asked there
+    QString file; ///< what the names of its files begin with
+};
+
+inline InstanceName helperInstance()
+{
+    return {QStringLiteral("com.fernhollow.Quindle-Helper"), QStringLiteral("/com/fernhollow/Quindle_Helper"),
+            QStringLiteral("quindle-helper")};
+}
+
+inline InstanceName applicationInstance()
+{
+    return {QStringLiteral("com.fernhollow.Quindle"), QStringLiteral("/com/fernhollow/Quindle"),
+            QStringLiteral("quindle-application")};
+}
+
+} // namespace quindle
