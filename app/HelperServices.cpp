@@ -9,6 +9,7 @@
 #include "platform/linux/session/LinuxRunLoop.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
 #include "platform/linux/system/LinuxBundle.h"
+#include "platform/linux/system/LinuxWorkspace.h"
 #include "platform/recorded/RecordedPlatform.h"
 #include "plist/PropertyList.h"
 #include "settings/SettingsTable.h"
@@ -103,7 +104,9 @@ public:
 
     Platform platform() override
     {
-        return m_recorded.platform().with({.runLoop = &m_runLoop,
+        // One that names no bundle stands in for this computer, and its application is installed here.
+        return m_recorded.platform().with({.workspace = m_recorded.computer.bundle() ? nullptr : &m_workspace,
+                                           .runLoop = &m_runLoop,
                                            .statusBar = &m_statusBar,
                                            .application = &m_application,
                                            .urlSession = &m_urlSession});
@@ -146,6 +149,7 @@ private:
     LinuxBundle m_programBundle;
     LinuxRunLoop m_runLoop;
     LinuxApplication m_application;
+    LinuxWorkspace m_workspace;
     RecordedPlatform m_recorded;
     MachineUrlSession m_urlSession;
     LinuxStatusBar m_statusBar;

@@ -1,6 +1,7 @@
 #include "windows/WindowsServices.h"
 
 #include "app/MachineSteps.h"
+#include "app/SilentServices.h"
 #include "platform/UserDefaults.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/system/LinuxBundle.h"
@@ -10,7 +11,6 @@
 #include "remote/WindowMessage.h"
 #include "windows/MirroredUserDefaults.h"
 #include "windows/SharedServices.h"
-#include "windows/SilentServices.h"
 
 namespace quindle {
 

@@ -4,12 +4,12 @@
 
 #include <QApplication>
 
+#include "app/SilentServices.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/windows/RecordingLink.h"
 #include "widgets/PlainLabel.h"
 #include "windows/HelperEnd.h"
-#include "windows/SilentServices.h"
 #include "windows/WindowsServices.h"
 
 using namespace quindle;
