@@ -23,11 +23,12 @@ std::vector<QRect> presentScreens()
 } // namespace
 
 FrameAutosave::FrameAutosave(QWidget& window, UserDefaults& defaults, QString name, bool placesWindows,
-                             std::chrono::milliseconds settleTime)
+                             std::chrono::milliseconds settleTime, Sizing sizing)
     : m_window(window)
     , m_defaults(defaults)
     , m_name(std::move(name))
     , m_placesWindows(placesWindows)
+    , m_sizing(sizing)
 {
     m_settled.setSingleShot(true);
     m_settled.setInterval(settleTime);
@@ -65,7 +66,8 @@ void FrameAutosave::placeAtRestored()
 bool FrameAutosave::eventFilter(QObject* watched, QEvent* event)
 {
     // Every step of a move arrives here; it is written once the window rests.
-    if (event->type() == QEvent::Move && m_window.isVisible())
+    const bool isResized = event->type() == QEvent::Resize && m_sizing == Sizing::ByUser;
+    if ((event->type() == QEvent::Move || isResized) && m_window.isVisible())
         m_settled.start();
     // Minimizing hides spontaneously, and says nothing about where the window belongs.
     if (event->type() == QEvent::Hide && !event->spontaneous())
@@ -85,6 +87,8 @@ void FrameAutosave::save()
 {
     m_settled.stop();
     WindowFrame frame{m_window.frameGeometry(), m_window.screen()->availableGeometry()};
+    if (m_sizing == Sizing::ByUser)
+        frame.frame.setSize(m_window.size());
     // There is no true position to store, so the one from another desktop is kept.
     if (!m_placesWindows) {
         const QSize size = frame.frame.size();

@@ -14,17 +14,22 @@ namespace quindle {
 
 class UserDefaults;
 
-/// Keeps a window's frame under a name: stored when the window has been moved and rests, and when it is
-/// hidden; never while it is moving.
+/// Keeps a window's frame under a name: stored when the window has been moved, or resized by the user, and
+/// rests, and when it is hidden; never while it is moving.
 class FrameAutosave : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Who gives the window its size: what is in it, or the user. Only then is the size stored without the
+    /// decorations, since a window is given it before it has any.
+    enum class Sizing { ByContent, ByUser };
+
     /// Where the desktop does not let a window have a position (`placesWindows` false), only the size counts;
     /// a position stored under another desktop stays. `settleTime`: how long a window that was moved rests.
     FrameAutosave(QWidget& window, UserDefaults& defaults, QString name, bool placesWindows,
-                  std::chrono::milliseconds settleTime = std::chrono::milliseconds(500));
+                  std::chrono::milliseconds settleTime = std::chrono::milliseconds(500),
+                  Sizing sizing = Sizing::ByContent);
 
     /// Stores what has not been stored yet.
     ~FrameAutosave() override;
@@ -47,6 +52,7 @@ private:
     UserDefaults& m_defaults;
     QString m_name;
     bool m_placesWindows;
+    Sizing m_sizing;
     std::optional<WindowFrame> m_restored;
     QTimer m_settled;
 };

@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <gtest/gtest.h>
 
+#include "tests/support/ComesTrue.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 
@@ -78,6 +79,16 @@ TEST_F(FrameAutosaveTest, IsStoredOnceWhenAMovedWindowRests)
     while (defaults.writes.isEmpty() && elapsed.elapsed() < 5000)
         QApplication::processEvents(QEventLoop::AllEvents, 5);
     EXPECT_TRUE(stored().startsWith(QStringLiteral("50 60 300 200 "))) << stored().toStdString();
+}
+
+TEST_F(FrameAutosaveTest, OneThatTheUserSizesIsStoredOnceItRests)
+{
+    const FrameAutosave kept(window, defaults, QStringLiteral("Name"), true, 1ms,
+                             FrameAutosave::Sizing::ByUser);
+    showAt({10, 20, 300, 200});
+    window.resize(500, 400);
+    EXPECT_TRUE(comesTrue([this] { return stored().contains(QStringLiteral(" 500 400 ")); }))
+        << stored().toStdString();
 }
 
 TEST_F(FrameAutosaveTest, IsStoredAtTheEnd)
