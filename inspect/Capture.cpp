@@ -38,14 +38,6 @@ void addRegistryEntry(QVariantMap& entries, IORegistry& registry, RegistryObject
     registry.release(object);
 }
 
-QVariantMap capturedRegistry(IORegistry& registry)
-{
-    QVariantMap entries;
-    addRegistryEntry(entries, registry, registry.serviceMatchingName(batteryEntry()), batteryEntry());
-    addRegistryEntry(entries, registry, registry.serviceMatchingClass(computerEntry()), computerEntry());
-    return entries;
-}
-
 void addPowerSources(QVariantMap& keys, PowerSources& powerSources)
 {
     if (const auto details = powerSources.externalAdapterDetails())
@@ -134,6 +126,14 @@ QVariantMap withoutUserName(QVariantMap bundle)
 }
 
 } // namespace
+
+QVariantMap capturedRegistry(IORegistry& registry)
+{
+    QVariantMap entries;
+    addRegistryEntry(entries, registry, registry.serviceMatchingName(batteryEntry()), batteryEntry());
+    addRegistryEntry(entries, registry, registry.serviceMatchingClass(computerEntry()), computerEntry());
+    return entries;
+}
 
 QVariantMap capturedKeys(const Platform& platform)
 {

@@ -5,7 +5,11 @@
 
 namespace quindle {
 
+class IORegistry;
 struct Platform;
+
+/// The registry entries of battery and computer, those that there are, by their names.
+QVariantMap capturedRegistry(IORegistry& registry);
 
 /// This computer as the keys of a machine file: registry, power sources, adapter, the system files the
 /// program reads, name, bundle, settings and the present moment, so that ages read the same later. Nothing is
