@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "application/pages/SampleTable.h"
 #include "charts/Gaps.h"
 #include "facts/ValueTexts.h"
+#include "samples/SampleLine.h"
 
 namespace quindle {
 
@@ -31,7 +31,7 @@ QString textOf(const Sample& sample)
     if (sample.power)
         text += besideEachOther() + wattsText(std::abs(*sample.power));
     if (sample.state != SampleState::Unknown)
-        text += besideEachOther() + sampleStateName(sample.state);
+        text += besideEachOther() + QString::fromLatin1(sampleStateName(sample.state));
     return text;
 }
 

@@ -4,6 +4,7 @@
 
 #include "common/NumberTexts.h"
 #include "records/CsvText.h"
+#include "samples/SampleLine.h"
 
 namespace quindle {
 
@@ -17,24 +18,9 @@ QByteArray sampleTable(const std::vector<Sample>& samples, AxisSpan moments)
         const QDateTime moment = QDateTime::fromSecsSinceEpoch(sample.moment, Qt::UTC);
         table += csvRecord({moment.toString(Qt::ISODate), fixedText(sample.charge, 2),
                             sample.power ? fixedText(*sample.power, 2) : QString(),
-                            sampleStateName(sample.state)});
+                            QString::fromLatin1(sampleStateName(sample.state))});
     }
     return table;
-}
-
-QString sampleStateName(SampleState state)
-{
-    switch (state) {
-    case SampleState::Discharging:
-        return QStringLiteral("discharging");
-    case SampleState::Charging:
-        return QStringLiteral("charging");
-    case SampleState::Full:
-        return QStringLiteral("full");
-    case SampleState::Unknown:
-        break;
-    }
-    return QStringLiteral("unknown");
 }
 
 } // namespace quindle

@@ -3,7 +3,6 @@
 #include <vector>
 
 #include <QByteArray>
-#include <QString>
 
 #include "charts/LinearScale.h"
 #include "samples/Sample.h"
@@ -14,8 +13,5 @@ namespace quindle {
 /// 8601, UTC), charge in percent, power in watts (negative while discharging; empty where it is not known)
 /// and state. Numbers have points in every locale.
 QByteArray sampleTable(const std::vector<Sample>& samples, AxisSpan moments);
-
-/// "charging"
-QString sampleStateName(SampleState state);
 
 } // namespace quindle
