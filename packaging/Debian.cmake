@@ -25,7 +25,8 @@ temperature.
 It works in StatusNotifierItem and XEmbed trays, on X11 and Wayland, combines
 several batteries, and sends nothing anywhere unless it is allowed to.
 .
-quindle-inspect prints the same in a terminal, as text or JSON.")
+quindle shows the same and everything else that the batteries report in a window;
+quindle-inspect prints it in a terminal, as text or JSON.")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_THREADS 1)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS

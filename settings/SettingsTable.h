@@ -67,6 +67,8 @@ inline constexpr Setting<QStringView> statusItemPresentation{u"statusItemPresent
 inline constexpr Setting<bool>        recordHistory{u"recordHistory", own, DefaultValues::recordHistory};
 inline constexpr Setting<qint64>      historyDays{u"historyDays", own, DefaultValues::number};
 inline constexpr Setting<QStringView> preferencesWindowFrame{u"PreferencesWindowFrameAutoSaveName", own, std::nullopt};
+inline constexpr Setting<QStringView> applicationWindowFrame{u"ApplicationWindowFrame", own, std::nullopt};
+inline constexpr Setting<QStringView> applicationPage{u"ApplicationPage", own, std::nullopt};
 // clang-format on
 
 } // namespace Keys

@@ -1,0 +1,158 @@
+#include "application/ApplicationCommandLine.h"
+
+#include "application/commands/ExportCommand.h"
+
+namespace quindle {
+
+namespace {
+
+using Call = ApplicationCommandLine::Call;
+
+/// The options as they were given, before they are weighed against each other.
+struct Given
+{
+    bool help = false;
+    bool version = false;
+    bool record = false;
+    bool withSerials = false;
+    std::optional<QString> format;
+    std::optional<QString> since;
+};
+
+struct Flag
+{
+    const char* name;
+    bool Given::*member;
+};
+
+constexpr Flag flags[] = {
+    {"--help", &Given::help},
+    {"-h", &Given::help},
+    {"--version", &Given::version},
+    {"--record", &Given::record},
+    {"--with-serials", &Given::withSerials},
+};
+
+struct Option
+{
+    const char* name;
+    std::optional<QString> Given::*member;
+};
+
+constexpr Option options[] = {
+    {"--export", &Given::format},
+    {"--since", &Given::since},
+};
+
+bool takeFlag(const QString& argument, Given& given)
+{
+    for (const Flag& flag : flags) {
+        if (argument != QLatin1String(flag.name))
+            continue;
+        given.*flag.member = true;
+        return true;
+    }
+    return false;
+}
+
+/// Takes "--name value" or "--name=value"; a value that is missing is an empty one.
+bool takeOption(const QStringList& arguments, qsizetype& index, Given& given)
+{
+    const QString& argument = arguments[index];
+    for (const Option& option : options) {
+        const QLatin1String name(option.name);
+        if (argument == name)
+            given.*option.member = index + 1 < arguments.size() ? arguments[++index] : QString();
+        else if (argument.startsWith(name + QStringLiteral("=")))
+            given.*option.member = argument.mid(name.size() + 1);
+        else
+            continue;
+        return true;
+    }
+    return false;
+}
+
+QString readArguments(const QStringList& arguments, Given& given)
+{
+    for (qsizetype index = 0; index < arguments.size(); ++index)
+        if (!takeFlag(arguments[index], given) && !takeOption(arguments, index, given))
+            return QStringLiteral("unknown argument \"%1\"").arg(arguments[index]);
+    return {};
+}
+
+QDate dateOf(const QString& text)
+{
+    return QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+}
+
+QString contradiction(const Given& given)
+{
+    if (given.record && given.format)
+        return QStringLiteral("--record and --export exclude each other");
+    if (given.format && !exportFormatNamed(*given.format))
+        return QStringLiteral("--export is csv or json");
+    if (!given.format && given.since)
+        return QStringLiteral("--since belongs to --export");
+    if (!given.format && given.withSerials)
+        return QStringLiteral("--with-serials belongs to --export");
+    if (given.since && !dateOf(*given.since).isValid())
+        return QStringLiteral("--since is a date, such as 2026-03-31");
+    return {};
+}
+
+Call callOf(const Given& given)
+{
+    // Before all others, which may be given besides; those exclude each other.
+    if (given.help)
+        return Call::Help;
+    if (given.version)
+        return Call::Version;
+    if (given.record)
+        return Call::Record;
+    return given.format ? Call::Export : Call::Window;
+}
+
+} // namespace
+
+ApplicationCommandLine parseApplicationCommandLine(const QStringList& arguments)
+{
+    Given given;
+    ApplicationCommandLine commandLine;
+    commandLine.fault = readArguments(arguments, given);
+    if (commandLine.fault.isEmpty())
+        commandLine.fault = contradiction(given);
+    commandLine.call = callOf(given);
+    if (given.format)
+        commandLine.format = exportFormatNamed(*given.format).value_or(ExportFormat::Csv);
+    if (given.since && dateOf(*given.since).isValid())
+        commandLine.since = dateOf(*given.since);
+    commandLine.withSerials = given.withSerials;
+    return commandLine;
+}
+
+QString applicationHelpText()
+{
+    return QStringLiteral(
+        "Usage: quindle [--record | --export csv|json [--since DATE] [--with-serials]]\n"
+        "\n"
+        "Shows the battery of this computer in a window. One runs in a session: a second start raises the\n"
+        "window of the first and ends.\n"
+        "\n"
+        "  --record          no window: add the samples on standard input to the history, and today's "
+        "snapshot if\n"
+        "                    there is none yet; the helper calls it\n"
+        "  --export FORMAT   no window: the saved snapshots on standard output, as csv or json\n"
+        "  --since DATE      with --export: only those of that day (2026-03-31) and later\n"
+        "  --with-serials    with --export: serial numbers too\n"
+        "  -h, --help        this text\n"
+        "  --version         the version\n"
+        "\n"
+        "Environment: QUINDLE_MACHINE, a recorded computer instead of this one; QUINDLE_SYSFS, a folder to "
+        "read\n"
+        "in place of /sys.\n"
+        "Exit status: 0; 64 for wrong usage, 65 for damaged input, 66 when there is no history, 69 when it "
+        "cannot\n"
+        "run here, 73 to 75 when something cannot be written.\n");
+}
+
+} // namespace quindle

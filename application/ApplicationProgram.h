@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QObject>
+
+#include "app/HelperAppDelegate.h"
+#include "application/ApplicationWindow.h"
+#include "application/pages/ApplicationBundle.h"
+#include "menubar/MainInterface.h"
+#include "platform/Platform.h"
+#include "preferences/panes/BoundSettings.h"
+#include "preferences/panes/GeneralPreferencesController.h"
+
+namespace quindle {
+
+class ApplicationPreferences;
+
+/// The application on its computer: models of its own, which are refreshed as the helper's are, and the
+/// window that shows them. Main thread only; needs a QApplication.
+class ApplicationProgram : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What is passed in must outlive it. `helperBundle` is the bundle that machine files name.
+    /// `placesWindows` as for ApplicationWindow.
+    ApplicationProgram(const Platform& platform, ApplicationPreferences& preferences, Bundle& helperBundle,
+                       bool placesWindows);
+    ~ApplicationProgram() override;
+
+    /// Shows the window, or brings it to the front.
+    void present();
+
+    HelperAppDelegate& delegate() { return m_delegate; }
+    ApplicationWindow& window() { return *m_window; }
+
+Q_SIGNALS:
+    /// The models may have other values.
+    void refreshed();
+
+private:
+    std::vector<ApplicationPage> pages();
+    void followBattery();
+    void showState();
+    void watch(bool isSeen);
+
+    Platform m_platform;
+    Bundle& m_helperBundle;
+    MainInterface m_interface;
+    HelperAppDelegate m_delegate;
+    BoundSettings m_settings;
+    ApplicationBundle m_paneBundle;
+    GeneralPreferencesController m_general;
+    std::unique_ptr<ApplicationWindow> m_window;
+    Punctuality m_watched;
+};
+
+} // namespace quindle

@@ -1,0 +1,201 @@
+#include "application/pages/DetailsPage.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "battery/QDBattery.h"
+#include "common/Paths.h"
+#include "inspect/Capture.h"
+#include "inspect/CaptureFile.h"
+#include "mac/QDMac.h"
+#include "platform/Bundle.h"
+#include "platform/Platform.h"
+#include "widgets/QuietLabel.h"
+
+namespace quindle {
+
+namespace {
+
+QVariantMap machineKeys(const Platform& platform, Bundle& helperBundle, bool withSerials)
+{
+    // A machine file is played by the helper's programs, so it names their bundle.
+    const QVariantMap keys = capturedKeys(platform.with({.bundle = &helperBundle}));
+    return withSerials ? keys : withoutIdentity(keys);
+}
+
+void setText(QTreeWidgetItem& item, int column, const QString& text)
+{
+    // Setting what is there already would draw the row again.
+    if (item.text(column) != text)
+        item.setText(column, text);
+}
+
+} // namespace
+
+DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& helperBundle, QWidget* parent)
+    : QWidget(parent)
+    , m_platform(platform)
+    , m_mac(mac)
+    , m_helperBundle(helperBundle)
+    , m_search(new QLineEdit(this))
+    , m_rows(new QTreeWidget(this))
+    , m_nothing(new QLabel(QStringLiteral("Nothing found"), this))
+    , m_told(new QuietLabel(this))
+    , m_withSerials(new QCheckBox(QStringLiteral("With serial &numbers"), this))
+{
+    setObjectName(QStringLiteral("detailsPage"));
+    setAccessibleName(QStringLiteral("Details"));
+    m_search->setPlaceholderText(QStringLiteral("Search"));
+    m_search->setAccessibleName(QStringLiteral("Search details"));
+    m_search->setClearButtonEnabled(true);
+    m_rows->setAccessibleName(QStringLiteral("Details"));
+    m_rows->setColumnCount(2);
+    m_rows->setHeaderHidden(true);
+    m_rows->setRootIsDecorated(false);
+    m_rows->setIndentation(0);
+    m_rows->setAlternatingRowColors(false);
+    m_rows->setFrameShape(QFrame::NoFrame);
+    m_rows->setTextElideMode(Qt::ElideMiddle);
+    m_nothing->setAlignment(Qt::AlignCenter);
+    auto* copyButton = new QPushButton(QStringLiteral("&Copy as Text"), this);
+    auto* saveButton = new QPushButton(QStringLiteral("&Save as Machine File..."), this);
+    saveButton->setToolTip(QStringLiteral("A file that the program can be run on in place of this computer, "
+                                          "for reports of defects"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_search);
+    layout->addWidget(m_rows, 1);
+    layout->addWidget(m_nothing, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(m_told, 1);
+    buttons->addWidget(m_withSerials);
+    buttons->addWidget(copyButton);
+    buttons->addWidget(saveButton);
+    layout->addLayout(buttons);
+    connect(m_search, &QLineEdit::textChanged, this, &DetailsPage::search);
+    connect(copyButton, &QPushButton::clicked, this, &DetailsPage::copy);
+    connect(saveButton, &QPushButton::clicked, this, &DetailsPage::askForFile);
+    auto* find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, m_search, [this] { m_search->setFocus(); });
+    fitToFont();
+}
+
+void DetailsPage::refresh()
+{
+    if (!isVisible())
+        return;
+    const QDBattery* battery = m_mac.Battery();
+    m_sections = detailSections({.sourceRows = battery ? battery->raw() : QVariantList(),
+                                 .registry = capturedRegistry(m_platform.registry)});
+    showFound();
+}
+
+void DetailsPage::search()
+{
+    // What was copied or saved is another thing than what is found now.
+    m_told->clear();
+    showFound();
+}
+
+// Items stay where the rows are the same, and with them what is selected and how far the list is scrolled.
+void DetailsPage::showFound()
+{
+    const std::vector<DetailSection> found = foundDetails(m_sections, m_search->text());
+    while (m_rows->topLevelItemCount() > static_cast<int>(found.size()))
+        delete m_rows->takeTopLevelItem(m_rows->topLevelItemCount() - 1);
+    for (std::size_t index = 0; index < found.size(); ++index)
+        showSection(static_cast<int>(index), found[index]);
+    m_rows->setVisible(!found.empty());
+    m_nothing->setVisible(found.empty());
+}
+
+void DetailsPage::showSection(int index, const DetailSection& section)
+{
+    if (index == m_rows->topLevelItemCount()) {
+        auto* item = new QTreeWidgetItem(m_rows);
+        item->setFlags(Qt::ItemIsEnabled);
+        item->setFirstColumnSpanned(true);
+        item->setExpanded(true);
+        QFont heading = font();
+        heading.setBold(true);
+        item->setFont(0, heading);
+        item->setTextAlignment(0, Qt::AlignLeft | Qt::AlignBottom);
+        item->setSizeHint(0, {0, fontMetrics().height() * (index == 0 ? 3 : 5) / 2});
+    }
+    QTreeWidgetItem& top = *m_rows->topLevelItem(index);
+    setText(top, 0, section.title);
+    while (top.childCount() > static_cast<int>(section.rows.size()))
+        delete top.takeChild(top.childCount() - 1);
+    for (int row = 0; row < static_cast<int>(section.rows.size()); ++row) {
+        if (row == top.childCount())
+            (new QTreeWidgetItem(&top))->setSizeHint(0, {0, fontMetrics().height() * 7 / 5});
+        const DetailRow& detail = section.rows[static_cast<std::size_t>(row)];
+        setText(*top.child(row), 0, detail.name);
+        setText(*top.child(row), 1, detail.value);
+        top.child(row)->setToolTip(1, detail.value.toHtmlEscaped());
+    }
+}
+
+void DetailsPage::copy()
+{
+    QGuiApplication::clipboard()->setText(detailsText(foundDetails(m_sections, m_search->text())));
+    m_told->setText(QStringLiteral("Copied"));
+}
+
+void DetailsPage::askForFile()
+{
+    auto* dialog = new QFileDialog(this, QStringLiteral("Save as Machine File"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilter(QStringLiteral("Machine files (*.plist)"));
+    dialog->setDefaultSuffix(QStringLiteral("plist"));
+    dialog->setDirectory(homeFolder());
+    dialog->selectFile(QStringLiteral("machine.plist"));
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this](const QString& path) { saveTo(pathText(QFile::encodeName(path))); });
+    dialog->open();
+}
+
+void DetailsPage::saveTo(const QString& path)
+{
+    const QString failure =
+        writeMachineFile(path, machineKeys(m_platform, m_helperBundle, m_withSerials->isChecked()));
+    m_told->setText(failure.isEmpty() ? QStringLiteral("Saved") : path + QStringLiteral(": ") + failure);
+}
+
+void DetailsPage::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        fitToFont();
+    QWidget::changeEvent(event);
+}
+
+void DetailsPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    refresh();
+}
+
+void DetailsPage::fitToFont()
+{
+    const int line = fontMetrics().height();
+    layout()->setContentsMargins(line * 3 / 2, line * 3 / 2, line * 3 / 2, line);
+    layout()->setSpacing(line * 3 / 4);
+    m_rows->setColumnWidth(0, line * 15);
+    m_told->setFont(quietFont(font()));
+}
+
+} // namespace quindle
+
+#include "moc_DetailsPage.cpp"

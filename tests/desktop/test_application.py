@@ -1,0 +1,195 @@
+#!/usr/bin/env python3
+"""The application's window in a real desktop, worked by mouse, keyboard and assistive technologies; beside a helper and
+without one."""
+
+import os
+import plistlib
+import subprocess
+import unittest
+
+from helper_case import HELPER, SUITE, wait_for
+from preferences_case import ACCESSIBILITY, BATTERY, PreferencesCase, nodes
+
+APPLICATION = os.environ.get("QUINDLE_APPLICATION", "")
+INSPECT = os.environ.get("QUINDLE_INSPECT", "")
+OWN = "com.fernhollow.Quindle-Helper"
+PAGES = ["Battery", "Details", "Settings"]
+NAMELESS_ALLOWED = {"filler", "panel", "layered pane", "scroll pane", "viewport", "scroll bar", "split pane", "unknown",
+                    "label", "table cell", "tree", "progress bar"}
+
+
+class ApplicationCase(PreferencesCase):
+    host = "xfce"
+
+    def setUp(self):
+        super().setUp()
+        self.environment = {"QUINDLE_SYSFS": str(self.system), "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+
+    def start_application(self, page="Battery", *arguments):
+        process = self.desktop.start(APPLICATION, *arguments, env=self.environment)
+        self.addCleanup(self.stop_application, process)
+        self.assertTrue(wait_for(self.shown, 10), "no window")
+        self.assertTrue(self.control("list item", page), "nothing in the window")
+        self.show_page(page)
+        return process
+
+    def stop_application(self, process):
+        if process.poll() is None:
+            process.terminate()
+            process.wait(5)
+
+    def shown(self):
+        return self.desktop.windows("^quindle$")
+
+    def is_active(self):
+        active = self.desktop.call("xdotool", "getactivewindow")
+        return active in self.shown()
+
+    def show_page(self, page):
+        self.assertTrue(wait_for(self.is_active, 5), "the window has no keyboard")
+        self.desktop.key(f"ctrl+{PAGES.index(page) + 1}")
+        self.assertTrue(wait_for(lambda: self.page() == page, 5), f"the page is {self.page()}")
+
+    # ---- an assistive technology
+
+    def accessibility(self, verb, *arguments):
+        return self.desktop.call("/usr/bin/python3", "-W", "ignore", ACCESSIBILITY, verb, "quindle", *arguments)
+
+    def page(self):
+        """The name of the page that is seen."""
+        seen = [node["name"] for node in nodes(self.tree()) if node["role"] not in ("list item", "frame", "list")]
+        return next((page for page in PAGES if page in seen), None)
+
+    def texts(self):
+        return [node["name"] for node in nodes(self.tree())]
+
+    def assert_text(self, text, seconds=12):
+        self.assertTrue(wait_for(lambda: any(text in found for found in self.texts()), seconds), self.texts())
+
+
+class Window(ApplicationCase):
+    def test_pages_by_mouse_keyboard_and_assistive_technology(self):
+        self.start_application()
+        self.assertEqual([node["name"] for node in nodes(self.tree()) if node["role"] == "list item"], PAGES)
+        self.click("list item", "Details")
+        self.assertTrue(wait_for(lambda: self.page() == "Details", 5))
+        self.desktop.key("Down")
+        self.assertTrue(wait_for(lambda: self.page() == "Settings", 5), "the list has the keyboard after a click")
+        self.desktop.key("ctrl+1")
+        self.assertTrue(wait_for(lambda: self.page() == "Battery", 5))
+
+    def test_every_control_has_a_name(self):
+        self.start_application()
+        for page in PAGES:
+            self.show_page(page)
+            for node in nodes(self.tree()):
+                if "focusable" in node["states"] and node["role"] not in NAMELESS_ALLOWED:
+                    self.assertNotEqual(node["name"], "", (page, node))
+
+    def test_comes_back_with_its_page(self):
+        process = self.start_application("Details")
+        self.desktop.key("ctrl+q")
+        self.assertEqual(process.wait(5), 0)
+        self.assertEqual(self.stored("ApplicationPage", OWN), "Details")
+        again = self.desktop.start(APPLICATION, env=self.environment)
+        self.addCleanup(self.stop_application, again)
+        self.assertTrue(wait_for(lambda: self.shown() and self.page() == "Details", 10))
+
+    def test_control_w_ends_it(self):
+        process = self.start_application()
+        self.desktop.key("ctrl+w")
+        self.assertEqual(process.wait(5), 0)
+        self.assertTrue(self.stored("ApplicationWindowFrame", OWN))
+
+    def test_a_second_start_raises_the_first(self):
+        self.start_application()
+        self.assertTrue(wait_for(self.is_active, 5))
+        self.desktop.call("xdotool", "windowminimize", self.shown()[0])
+        self.assertTrue(wait_for(lambda: not self.shown(), 5))
+        self.assertEqual(self.desktop.start(APPLICATION, env=self.environment).wait(10), 0)
+        self.assertTrue(wait_for(self.shown, 5), "it stays minimized")
+        self.assertEqual(len(self.shown()), 1)
+        self.assertTrue(wait_for(self.is_active, 5))
+
+    def test_the_battery_is_live(self):
+        self.start_application()
+        self.assert_text("66.0")
+        self.set_battery(charge_now=3000000)
+        self.assert_text("60.0")
+
+
+class Settings(ApplicationCase):
+    def test_a_setting_is_the_helpers(self):
+        self.start_helper()
+        self.start_application("Settings")
+        self.click("text", "Menu bar text")
+        self.type("%p% of it")
+        self.desktop.key("Return")
+        self.assert_title("66.0% of it")
+        self.assert_stored("customStatusBar", "%p% of it")
+
+    def test_what_the_helper_changes_is_shown(self):
+        self.start_application("Settings")
+        self.assert_checked("check box", "Show battery icon")
+        self.store(SUITE, {"customStatusBar": "%p%", "showIconsInMenuBar": 0})
+        self.announce()
+        self.assert_checked("check box", "Show battery icon", False)
+
+    def test_start_at_login(self):
+        self.start_application("Settings")
+        self.act("check box", "Start when I log in")
+        entry = self.config / "autostart" / f"{OWN}.desktop"
+        self.assertTrue(wait_for(entry.exists, 5))
+        self.assertIn(os.path.realpath(HELPER), entry.read_text().replace("\\\\", "\\"))
+        inspected = self.desktop.call(INSPECT, env={"QUINDLE_SYSFS": str(self.system)})
+        self.assertRegex(inspected, r"(?i)login")
+        self.act("check box", "Start when I log in")
+        self.assertTrue(wait_for(lambda: not entry.exists(), 5))
+
+
+class Details(ApplicationCase):
+    def rows(self):
+        return [node["name"] for node in nodes(self.tree()) if node["role"] == "table cell"]
+
+    def test_search(self):
+        self.start_application("Details")
+        self.assertTrue(wait_for(lambda: "BatteryHealth" in self.rows(), 5), self.rows())
+        self.desktop.key("ctrl+f")
+        self.desktop.call("xdotool", "type", "--delay", "20", "cycle")
+        self.assertTrue(wait_for(lambda: "CycleCount" in self.rows(), 5), self.rows())
+        self.assertNotIn("BatteryHealth", self.rows())
+        self.assertIn("12", self.rows())
+
+    def test_saved_as_a_machine_file(self):
+        self.start_application("Details")
+        path = self.desktop.root / "saved.plist"
+        self.act("push button", "Save as Machine File...")
+        self.assertTrue(wait_for(lambda: self.control("dialog", "Save as Machine File"), 10))
+        self.assertTrue(wait_for(self.is_active, 5))
+        self.type(str(path))
+        self.desktop.key("Return")
+        self.assertTrue(wait_for(path.exists, 10), "nothing was saved")
+        wait_for(lambda: self.control("label", "Saved"), 5)
+        keys = plistlib.loads(path.read_bytes())
+        self.assertEqual(keys["Registry"]["AppleSmartBattery"]["CycleCount"], int(BATTERY["cycle_count"]))
+        played = subprocess.run([INSPECT, "--machine", str(path), "--json"], capture_output=True, check=False)
+        self.assertEqual((played.returncode, played.stderr), (0, b""))
+
+
+class FromTheHelper(ApplicationCase):
+    def test_open_application(self):
+        self.environment.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON")
+        self.start_helper()
+        self.desktop.choose("Open Application")
+        self.assertTrue(wait_for(self.is_active, 10), "no window, or one behind the others")
+        window = self.shown()[0]
+        process = int(self.desktop.call("xdotool", "getwindowpid", window))
+        self.addCleanup(lambda: os.kill(process, 15))
+        self.desktop.call("xdotool", "windowminimize", window)
+        self.assertTrue(wait_for(lambda: not self.shown(), 5))
+        self.desktop.choose("Open Application")
+        self.assertTrue(wait_for(lambda: self.shown() == [window], 10), "the one that runs is not raised")
+
+
+if __name__ == "__main__":
+    unittest.main()
