@@ -1,13 +1,21 @@
 #include "application/ApplicationProgram.h"
 
+#include <cstdlib>
+
 #include "application/pages/BatteryPage.h"
 #include "application/pages/DetailsPage.h"
+#include "application/pages/HistoryPage.h"
 #include "application/pages/SettingsPage.h"
+#include "application/pages/SnapshotsPage.h"
 #include "battery/QDBattery.h"
 #include "facts/ValueTexts.h"
+#include "history/SavedHistory.h"
 #include "mac/QDMac.h"
+#include "platform/Host.h"
 #include "platform/RunLoop.h"
 #include "platform/UserDefaults.h"
+#include "records/CapacityPoints.h"
+#include "records/SampleStore.h"
 #include "settings/ApplicationPreferences.h"
 
 namespace quindle {
@@ -19,6 +27,18 @@ QString nameOf(const QDMac& mac)
 {
     const QString words = knownText(mac.LongModel());
     return words.isEmpty() ? knownText(mac.Model()) : words;
+}
+
+/// The file of the history; empty for a user without a home folder.
+QString pathIn(const Platform& platform, QString (*file)(const QString& folder))
+{
+    const QStringList folders = platform.userDirectories.applicationSupportDirectories();
+    return folders.isEmpty() ? QString() : file(folders.constFirst());
+}
+
+qint64 secondsNow(const Platform& platform)
+{
+    return platform.clock.now().toSecsSinceEpoch();
 }
 
 QString stateOf(const QDBattery* battery)
@@ -40,6 +60,8 @@ ApplicationProgram::ApplicationProgram(const Platform& platform, ApplicationPref
     , m_paneBundle(platform.bundle)
     , m_general(m_settings, m_delegate, platform.distributedNotificationCenter, m_paneBundle,
                 [this] { return m_delegate.dailyUploadText(); })
+    , m_snapshots(pathIn(platform, &savedHistoryFile))
+    , m_samples(pathIn(platform, &historyFile))
 {
     m_delegate.applicationDidFinishLaunching();
     connect(&m_delegate, &HelperAppDelegate::statusItemRefreshed, this, &ApplicationProgram::followBattery);
@@ -62,17 +84,60 @@ std::vector<ApplicationPage> ApplicationProgram::pages()
         connect(this, &ApplicationProgram::refreshed, page, &Page::refresh);
         return page;
     };
-    return {
-        {QStringLiteral("Battery"),
-         [this, kept](QWidget* parent) {
-             return kept(new BatteryPage(m_interface, m_platform.powerSources, parent));
-         }},
-        {QStringLiteral("Details"),
-         [this, kept](QWidget* parent) {
-             return kept(new DetailsPage(m_platform, m_delegate.myMac(), m_helperBundle, parent));
-         }},
-        {QStringLiteral("Settings"), [this](QWidget* parent) { return new SettingsPage(m_general, parent); }},
+    const auto battery = [this, kept](QWidget* parent) {
+        return kept(new BatteryPage(m_interface, m_platform.powerSources, parent));
     };
+    const auto history = [this](QWidget* parent) { return makeHistoryPage(parent); };
+    const auto snapshots = [this](QWidget* parent) { return makeSnapshotsPage(parent); };
+    const auto details = [this, kept](QWidget* parent) {
+        return kept(new DetailsPage(m_platform, m_delegate.myMac(), m_helperBundle, parent));
+    };
+    const auto settings = [this](QWidget* parent) {
+        return new SettingsPage(
+            m_general, m_platform.userDefaults.standard(), [this] { deleteHistory(); }, parent);
+    };
+    return {{QStringLiteral("Battery"), battery},
+            {QStringLiteral("History"), history},
+            {QStringLiteral("Snapshots"), snapshots},
+            {QStringLiteral("Details"), details},
+            {QStringLiteral("Settings"), settings}};
+}
+
+QWidget* ApplicationProgram::makeHistoryPage(QWidget* parent)
+{
+    auto* page = new HistoryPage(parent);
+    connect(page, &HistoryPage::samplesWanted, &m_samples, &SavedSamples::read);
+    connect(&m_samples, &SavedSamples::found, page, &HistoryPage::setSamples);
+    const auto showWear = [this, page] { page->setCapacities(capacityPoints(m_snapshots.records())); };
+    connect(&m_snapshots, &SavedSnapshots::changed, page, showWear);
+    // Nothing is recorded more often than once a minute.
+    const auto follow = [this, page, shown = secondsNow(m_platform)]() mutable {
+        const qint64 now = secondsNow(m_platform);
+        if (!page->isVisible() || std::abs(now - shown) < 60)
+            return;
+        shown = now;
+        m_snapshots.load();
+        page->setNow(now);
+    };
+    connect(this, &ApplicationProgram::refreshed, page, follow);
+    page->setNow(secondsNow(m_platform));
+    showWear();
+    m_snapshots.load();
+    return page;
+}
+
+QWidget* ApplicationProgram::makeSnapshotsPage(QWidget* parent)
+{
+    auto* page = new SnapshotsPage(
+        m_snapshots, [this] { return m_delegate.myMac().getDataForSaving(false); }, parent);
+    connect(this, &ApplicationProgram::refreshed, page, &SnapshotsPage::refresh);
+    return page;
+}
+
+void ApplicationProgram::deleteHistory()
+{
+    m_snapshots.removeAll();
+    m_samples.removeAll();
 }
 
 // At each refresh, because another battery is another object.

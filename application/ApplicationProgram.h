@@ -8,6 +8,8 @@
 #include "app/HelperAppDelegate.h"
 #include "application/ApplicationWindow.h"
 #include "application/pages/ApplicationBundle.h"
+#include "application/pages/SavedSamples.h"
+#include "application/pages/SavedSnapshots.h"
 #include "menubar/MainInterface.h"
 #include "platform/Platform.h"
 #include "preferences/panes/BoundSettings.h"
@@ -42,6 +44,9 @@ Q_SIGNALS:
 
 private:
     std::vector<ApplicationPage> pages();
+    QWidget* makeHistoryPage(QWidget* parent);
+    QWidget* makeSnapshotsPage(QWidget* parent);
+    void deleteHistory();
     void followBattery();
     void showState();
     void watch(bool isSeen);
@@ -53,6 +58,8 @@ private:
     BoundSettings m_settings;
     ApplicationBundle m_paneBundle;
     GeneralPreferencesController m_general;
+    SavedSnapshots m_snapshots;
+    SavedSamples m_samples;
     std::unique_ptr<ApplicationWindow> m_window;
     Punctuality m_watched;
 };

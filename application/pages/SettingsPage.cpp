@@ -2,19 +2,24 @@
 
 #include <QVBoxLayout>
 
+#include "application/pages/HistorySettingsView.h"
 #include "preferences/panes/GeneralPreferencesController.h"
 
 namespace quindle {
 
-SettingsPage::SettingsPage(GeneralPreferencesController& general, QWidget* parent)
+SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& own,
+                           std::function<void()> deleteHistory, QWidget* parent)
     : ScrollPage(parent)
     , m_general(general)
+    , m_history(new HistorySettingsView(own, std::move(deleteHistory), &content()))
 {
     setObjectName(QStringLiteral("settingsPage"));
     setAccessibleName(QStringLiteral("Settings"));
     auto* layout = new QVBoxLayout(&content());
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(&general.view());
+    layout->addWidget(m_history);
     layout->addStretch(1);
 }
 
@@ -27,6 +32,7 @@ SettingsPage::~SettingsPage()
 void SettingsPage::showEvent(QShowEvent* event)
 {
     m_general.viewWillAppear();
+    m_history->refresh();
     ScrollPage::showEvent(event);
 }
 

@@ -1,19 +1,25 @@
 #pragma once
 
+#include <functional>
+
 #include "application/pages/ScrollPage.h"
 
 namespace quindle {
 
 class GeneralPreferencesController;
+class HistorySettingsView;
+class UserDefaults;
 
-/// The page "Settings": the pane of the helper's everyday settings.
+/// The page "Settings": the pane of the helper's everyday settings, and what is recorded.
 class SettingsPage : public ScrollPage
 {
     Q_OBJECT
 
 public:
-    /// `general` must outlive it.
-    explicit SettingsPage(GeneralPreferencesController& general, QWidget* parent = nullptr);
+    /// `general` and `own`, the helper's own database, must outlive it. `deleteHistory` is called once the
+    /// user has confirmed it.
+    SettingsPage(GeneralPreferencesController& general, UserDefaults& own,
+                 std::function<void()> deleteHistory, QWidget* parent = nullptr);
     ~SettingsPage() override;
 
 protected:
@@ -21,6 +27,7 @@ protected:
 
 private:
     GeneralPreferencesController& m_general;
+    HistorySettingsView* m_history;
 };
 
 } // namespace quindle

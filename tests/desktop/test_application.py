@@ -13,7 +13,7 @@ from preferences_case import ACCESSIBILITY, BATTERY, PreferencesCase, nodes
 APPLICATION = os.environ.get("QUINDLE_APPLICATION", "")
 INSPECT = os.environ.get("QUINDLE_INSPECT", "")
 OWN = "com.fernhollow.Quindle-Helper"
-PAGES = ["Battery", "Details", "Settings"]
+PAGES = ["Battery", "History", "Snapshots", "Details", "Settings"]
 NAMELESS_ALLOWED = {"filler", "panel", "layered pane", "scroll pane", "viewport", "scroll bar", "split pane", "unknown",
                     "label", "table cell", "tree", "progress bar"}
 
@@ -57,8 +57,8 @@ class ApplicationCase(PreferencesCase):
 
     def page(self):
         """The name of the page that is seen."""
-        seen = [node["name"] for node in nodes(self.tree()) if node["role"] not in ("list item", "frame", "list")]
-        return next((page for page in PAGES if page in seen), None)
+        large = [node["name"] for node in nodes(self.tree()) if min(node["box"][2:]) > 200]
+        return next((page for page in PAGES if page in large), None)
 
     def texts(self):
         return [node["name"] for node in nodes(self.tree())]
@@ -73,8 +73,8 @@ class Window(ApplicationCase):
         self.assertEqual([node["name"] for node in nodes(self.tree()) if node["role"] == "list item"], PAGES)
         self.click("list item", "Details")
         self.assertTrue(wait_for(lambda: self.page() == "Details", 5))
-        self.desktop.key("Down")
-        self.assertTrue(wait_for(lambda: self.page() == "Settings", 5), "the list has the keyboard after a click")
+        self.desktop.key("Up")
+        self.assertTrue(wait_for(lambda: self.page() == "Snapshots", 5), "the list has the keyboard after a click")
         self.desktop.key("ctrl+1")
         self.assertTrue(wait_for(lambda: self.page() == "Battery", 5))
 

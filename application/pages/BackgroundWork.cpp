@@ -1,0 +1,21 @@
+#include "application/pages/BackgroundWork.h"
+
+namespace quindle {
+
+BackgroundWork::BackgroundWork()
+    : m_here(std::make_unique<QObject>())
+    , m_there(std::make_unique<QObject>())
+{
+    m_there->moveToThread(&m_thread);
+    m_thread.start();
+}
+
+BackgroundWork::~BackgroundWork()
+{
+    // Behind what waits already: a change that the user has asked for is not left undone.
+    QMetaObject::invokeMethod(
+        m_there.get(), [this] { m_thread.quit(); }, Qt::QueuedConnection);
+    m_thread.wait();
+}
+
+} // namespace quindle

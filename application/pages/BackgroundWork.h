@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include <QObject>
+#include <QThread>
+
+namespace quindle {
+
+/// A thread that does one piece of work after the other, so that a window does not wait for a large file.
+/// Work that was begun is finished before it is destroyed; what is done then is not told any more.
+class BackgroundWork
+{
+public:
+    BackgroundWork();
+    ~BackgroundWork();
+    BackgroundWork(const BackgroundWork&) = delete;
+    BackgroundWork& operator=(const BackgroundWork&) = delete;
+
+    /// Calls `work` there, and then `done` with its result in the thread of this object.
+    template <typename Work, typename Done>
+    void run(Work work, Done done)
+    {
+        const auto begin = [here = m_here.get(), work = std::move(work), done = std::move(done)] {
+            auto result = std::make_shared<decltype(work())>(work());
+            QMetaObject::invokeMethod(
+                here, [done, result] { done(std::move(*result)); }, Qt::QueuedConnection);
+        };
+        QMetaObject::invokeMethod(m_there.get(), begin, Qt::QueuedConnection);
+    }
+
+private:
+    QThread m_thread;
+    std::unique_ptr<QObject> m_here;
+    std::unique_ptr<QObject> m_there;
+};
+
+} // namespace quindle

@@ -1,0 +1,55 @@
+#include "application/pages/CompareDialog.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "application/pages/SnapshotRows.h"
+#include "widgets/PlainLabel.h"
+
+namespace quindle {
+
+namespace {
+
+void addCell(QGridLayout& grid, int row, int column, const QString& text, bool isQuiet)
+{
+    auto* label = new PlainLabel;
+    label->setText(text);
+    label->setQuiet(isQuiet);
+    label->setAlignment(column == 0 ? Qt::AlignLeft : Qt::AlignRight);
+    label->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    label->setMinimumWidth(label->sizeHint().width());
+    grid.addWidget(label, row, column);
+}
+
+} // namespace
+
+CompareDialog::CompareDialog(const QVariantMap& one, const QVariantMap& other, QWidget* parent)
+    : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("Compare Snapshots"));
+    const int line = fontMetrics().height();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(line, line, line, line);
+    layout->setSpacing(line);
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(line * 3 / 2);
+    grid->setVerticalSpacing(line / 2);
+    int row = 0;
+    for (const ComparedRow& compared : comparedSnapshots(one, other)) {
+        addCell(*grid, row, 0, compared.caption, true);
+        addCell(*grid, row, 1, compared.older, false);
+        addCell(*grid, row, 2, compared.newer, false);
+        addCell(*grid, row, 3, compared.difference, true);
+        ++row;
+    }
+    layout->addLayout(grid);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout->addWidget(buttons);
+}
+
+} // namespace quindle
+
+#include "moc_CompareDialog.cpp"

@@ -1,0 +1,108 @@
+#include "application/pages/HistorySettingsView.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "settings/HistorySettings.h"
+#include "widgets/BoundControls.h"
+#include "widgets/QuietLabel.h"
+
+namespace quindle {
+
+namespace {
+
+struct Span
+{
+    qint64 days;
+    const char* caption;
+};
+
+constexpr Span spans[] = {
+    {0, "For ever"}, {3650, "10 years"}, {1825, "5 years"}, {730, "2 years"},
+    {365, "1 year"}, {90, "90 days"},    {30, "30 days"},
+};
+
+} // namespace
+
+HistorySettingsView::HistorySettingsView(UserDefaults& own, std::function<void()> deleteAll, QWidget* parent)
+    : PaneView(parent)
+    , m_own(own)
+    , m_deleteAll(std::move(deleteAll))
+    , m_record(new BoundCheckBox(this))
+    , m_days(new QComboBox(this))
+{
+    m_record->setText(QStringLiteral("Record charge, po&wer and a daily snapshot"));
+    m_record->setAccessibleName(QStringLiteral("Record charge, power and a daily snapshot"));
+    m_days->setAccessibleName(QStringLiteral("Keep charge and power"));
+    for (const Span& span : spans)
+        m_days->addItem(QLatin1String(span.caption), span.days);
+    addRows();
+    fitToFont();
+    connect(m_record, &BoundCheckBox::switched, this, [this](bool on) { setRecordsHistory(m_own, on); });
+    connect(m_days, &QComboBox::activated, this,
+            [this](int index) { setHistoryDays(m_own, m_days->itemData(index).toLongLong()); });
+    refresh();
+}
+
+void HistorySettingsView::addRows()
+{
+    auto* grid = new QGridLayout(this);
+    const auto caption = [&](int row, const QString& text, QWidget* control) {
+        auto* label = new QLabel(text, this);
+        label->setBuddy(control);
+        grid->addWidget(label, row, 0, Qt::AlignRight | Qt::AlignTop);
+    };
+    caption(0, QStringLiteral("History"), m_record);
+    auto* recorded = new QVBoxLayout;
+    recorded->addWidget(m_record);
+    auto* explanation = new QuietLabel(this);
+    explanation->setText(QStringLiteral("It stays on this computer."));
+    recorded->addWidget(explanation);
+    grid->addLayout(recorded, 0, 1);
+    caption(1, QStringLiteral("&Keep"), m_days);
+    grid->addWidget(m_days, 1, 1, Qt::AlignLeft | Qt::AlignTop);
+    auto* deleteButton = new QPushButton(QStringLiteral("&Delete History..."), this);
+    connect(deleteButton, &QPushButton::clicked, this, &HistorySettingsView::askToDelete);
+    grid->addWidget(deleteButton, 2, 1, Qt::AlignLeft | Qt::AlignTop);
+}
+
+void HistorySettingsView::refresh()
+{
+    m_record->setShown(recordsHistory(m_own));
+    showDays(historyDays(m_own));
+}
+
+void HistorySettingsView::showDays(qint64 days)
+{
+    int index = m_days->findData(days);
+    // Any number may be stored by hand.
+    if (index < 0) {
+        m_days->addItem(QStringLiteral("%1 days").arg(days), days);
+        index = m_days->count() - 1;
+    }
+    m_days->setCurrentIndex(index);
+}
+
+void HistorySettingsView::askToDelete()
+{
+    auto* question =
+        new QMessageBox(QMessageBox::Warning, QStringLiteral("Delete History"),
+                        QStringLiteral("Delete all snapshots, and all recorded charge and power?"),
+                        QMessageBox::Cancel, this);
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    question->setInformativeText(QStringLiteral("This cannot be undone."));
+    const auto* confirm = question->addButton(QStringLiteral("&Delete"), QMessageBox::DestructiveRole);
+    question->setDefaultButton(QMessageBox::Cancel);
+    connect(question, &QMessageBox::buttonClicked, this, [this, confirm](const QAbstractButton* chosen) {
+        if (chosen == confirm)
+            m_deleteAll();
+    });
+    question->open();
+}
+
+} // namespace quindle
+
+#include "moc_HistorySettingsView.cpp"

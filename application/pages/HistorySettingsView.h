@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+
+#include "preferences/panes/PaneView.h"
+
+class QComboBox;
+class QLabel;
+
+namespace quindle {
+
+class BoundCheckBox;
+class UserDefaults;
+
+/// What is recorded, how long charge and power are kept, and deleting all of it.
+class HistorySettingsView : public PaneView
+{
+    Q_OBJECT
+
+public:
+    /// `own` is the helper's own database, which must outlive it. `deleteAll` is called once the user has
+    /// confirmed it.
+    HistorySettingsView(UserDefaults& own, std::function<void()> deleteAll, QWidget* parent = nullptr);
+
+    /// Shows the settings as they are stored.
+    void refresh();
+
+private:
+    void addRows();
+    void showDays(qint64 days);
+    void askToDelete();
+
+    UserDefaults& m_own;
+    std::function<void()> m_deleteAll;
+    BoundCheckBox* m_record;
+    QComboBox* m_days;
+};
+
+} // namespace quindle

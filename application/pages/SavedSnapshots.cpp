@@ -1,0 +1,131 @@
+#include "application/pages/SavedSnapshots.h"
+
+#include <QFileInfo>
+
+#include "common/FileContents.h"
+#include "common/Paths.h"
+#include "plist/KeyedArchive.h"
+
+namespace quindle {
+
+namespace {
+
+constexpr qint64 largestImport = qint64{1024} * 1024 * 1024; // bytes
+
+QString countedText(qsizetype count, const QString& done)
+{
+    return QStringLiteral("%1 %2 %3")
+        .arg(count)
+        .arg(count == 1 ? QStringLiteral("snapshot") : QStringLiteral("snapshots"), done);
+}
+
+/// Why it failed, else what became of a damaged file, else what was done.
+QString lineOf(const StoreOutcome& outcome, const QString& done)
+{
+    if (!outcome.isGood())
+        return outcome.fault;
+    return outcome.notice.isEmpty() ? done : outcome.notice;
+}
+
+QString importInto(SnapshotArchive& archive, const QString& path)
+{
+    const FileContents contents = fileContents(path, largestImport);
+    if (contents.error != 0)
+        return path + QStringLiteral(": it ") + readingFault(contents.error);
+    const ArchivedRecords others = recordsFromKeyedArchive(contents.bytes);
+    if (!others.fault.isEmpty())
+        return path + QStringLiteral(": ") + others.fault;
+    qsizetype added = 0;
+    const StoreOutcome outcome = archive.merge(others.records, &added);
+    return lineOf(outcome, countedText(added, QStringLiteral("imported")));
+}
+
+} // namespace
+
+SavedSnapshots::SavedSnapshots(const QString& path, QObject* parent)
+    : QObject(parent)
+    , m_path(path)
+{
+}
+
+void SavedSnapshots::load()
+{
+    const QFileInfo file(m_path);
+    if (isBusy() || (m_size >= 0 && file.lastModified() == m_modified && file.size() == m_size))
+        return;
+    m_modified = file.lastModified();
+    m_size = file.size();
+    run([](SnapshotArchive&) { return QString(); });
+}
+
+void SavedSnapshots::add(const QVariantMap& record)
+{
+    run([record](SnapshotArchive& archive) {
+        return lineOf(archive.append(record), countedText(1, QStringLiteral("saved")));
+    });
+}
+
+void SavedSnapshots::remove(const QVariantList& records)
+{
+    run([records](SnapshotArchive& archive) {
+        return lineOf(archive.remove(records), countedText(records.size(), QStringLiteral("deleted")));
+    });
+}
+
+void SavedSnapshots::merge(const QVariantList& records)
+{
+    run([records](SnapshotArchive& archive) {
+        qsizetype added = 0;
+        const StoreOutcome outcome = archive.merge(records, &added);
+        return lineOf(outcome, countedText(added, QStringLiteral("restored")));
+    });
+}
+
+void SavedSnapshots::importFrom(const QString& path)
+{
+    run([path](SnapshotArchive& archive) { return importInto(archive, path); });
+}
+
+void SavedSnapshots::removeAll()
+{
+    run([](SnapshotArchive& archive) {
+        return lineOf(archive.removeAll(), QStringLiteral("All snapshots deleted"));
+    });
+}
+
+void SavedSnapshots::run(const Change& change)
+{
+    if (m_path.isEmpty()) {
+        Q_EMIT told(QStringLiteral("There is no folder for snapshots: the user has no home folder"));
+        return;
+    }
+    setBusy(m_tasks + 1);
+    const auto work = [path = m_path, change] {
+        SnapshotArchive archive(path);
+        const QString line = change(archive);
+        ArchivedRecords archived = archive.read();
+        return Result{std::move(archived.records), line.isEmpty() ? archived.fault : line};
+    };
+    m_work.run(work, [this](const Result& result) { take(result); });
+}
+
+void SavedSnapshots::take(const Result& result)
+{
+    setBusy(m_tasks - 1);
+    m_records = result.records;
+    Q_EMIT changed();
+    if (!result.line.isEmpty())
+        Q_EMIT told(result.line);
+}
+
+void SavedSnapshots::setBusy(int tasks)
+{
+    const bool wasBusy = isBusy();
+    m_tasks = tasks;
+    if (wasBusy != isBusy())
+        Q_EMIT busyChanged();
+}
+
+} // namespace quindle
+
+#include "moc_SavedSnapshots.cpp"

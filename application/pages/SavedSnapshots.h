@@ -1,0 +1,73 @@
+#pragma once
+
+#include <functional>
+
+#include <QDateTime>
+#include <QObject>
+#include <QVariant>
+
+#include "application/pages/BackgroundWork.h"
+#include "records/SnapshotArchive.h"
+
+namespace quindle {
+
+/// The archive of snapshots as the pages see it: read and changed in the background, and read again when
+/// somebody else has changed the file. Main thread only.
+class SavedSnapshots : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// An empty path: there is no place for an archive, and nothing can be saved.
+    explicit SavedSnapshots(const QString& path, QObject* parent = nullptr);
+
+    /// As last read, in the archive's order.
+    const QVariantList& records() const { return m_records; }
+
+    /// Whether the archive is being read or changed.
+    bool isBusy() const { return m_tasks > 0; }
+
+    /// Reads the file where it has changed since it was last read, or was never read.
+    void load();
+
+    // Changes; each announces what has become of it, and reads the archive again.
+    void add(const QVariantMap& record);
+    void remove(const QVariantList& records);
+    void merge(const QVariantList& records);
+    /// Those of another archive.
+    void importFrom(const QString& path);
+    void removeAll();
+
+Q_SIGNALS:
+    /// `records` are others.
+    void changed();
+
+    /// `isBusy` is another.
+    void busyChanged();
+
+    /// One line for the user: what was done, or why it was not.
+    void told(const QString& line);
+
+private:
+    struct Result
+    {
+        QVariantList records;
+        QString line;
+    };
+
+    /// Changes the archive; what is to be said of it, empty for nothing.
+    using Change = std::function<QString(SnapshotArchive& archive)>;
+
+    void run(const Change& change);
+    void take(const Result& result);
+    void setBusy(int tasks);
+
+    QString m_path;
+    QVariantList m_records;
+    QDateTime m_modified; ///< of the file that was read last, as the size
+    qint64 m_size = -1;
+    int m_tasks = 0;
+    BackgroundWork m_work;
+};
+
+} // namespace quindle

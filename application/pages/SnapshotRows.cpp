@@ -1,0 +1,145 @@
+#include "application/pages/SnapshotRows.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QLocale>
+
+#include "common/NumberConversion.h"
+#include "common/NumberTexts.h"
+#include "facts/ValueTexts.h"
+
+namespace quindle {
+
+namespace {
+
+QVariant valueOf(const QVariantMap& record, const char* key)
+{
+    return record.value(QLatin1String(key));
+}
+
+qint64 numberOf(const QVariantMap& record, const char* key)
+{
+    return convertToInteger(valueOf(record, key)).value_or(0);
+}
+
+QDateTime dateOf(const QVariantMap& record)
+{
+    const QVariant value = valueOf(record, "Data.SnapshotDate");
+    return value.typeId() == QMetaType::QDateTime ? value.toDateTime() : QDateTime();
+}
+
+QString signedText(const QString& text, double difference)
+{
+    return difference > 0 ? u'+' + text : text;
+}
+
+ComparedRow comparedCounts(const QString& caption, qint64 older, qint64 newer, const QString& unit)
+{
+    const auto text = [&](qint64 count) {
+        const QString number = countText(count, FactPlace::View);
+        return number.isEmpty() ? missingValueText() : number + unit;
+    };
+    ComparedRow row{caption, text(older), text(newer), {}};
+    if (older > 0 && newer > 0 && older != newer)
+        row.difference = signedText(groupedText(newer - older, groupSeparator(FactPlace::View)) + unit,
+                                    double(newer - older));
+    return row;
+}
+
+ComparedRow comparedHealth(std::optional<double> older, std::optional<double> newer)
+{
+    const auto text = [](std::optional<double> health) {
+        return health ? percentText(*health) : missingValueText();
+    };
+    ComparedRow row{QStringLiteral("Health"), text(older), text(newer), {}};
+    if (older && newer && row.older != row.newer)
+        row.difference =
+            signedText(fixedText(*newer - *older, 1) + QStringLiteral(" points"), *newer - *older);
+    return row;
+}
+
+ComparedRow comparedDates(const QDateTime& older, const QDateTime& newer)
+{
+    ComparedRow row{QStringLiteral("Date"), snapshotDateText(older), snapshotDateText(newer), {}};
+    const qint64 days = older.isValid() && newer.isValid() ? older.daysTo(newer) : 0;
+    if (days > 0)
+        row.difference =
+            countText(days, FactPlace::View) + (days == 1 ? QStringLiteral(" day") : QStringLiteral(" days"));
+    return row;
+}
+
+ComparedRow comparedTexts(const QString& caption, const QVariantMap& older, const QVariantMap& newer,
+                          const char* key)
+{
+    const auto text = [key](const QVariantMap& record) {
+        const QString known = knownText(valueOf(record, key).toString());
+        return known.isEmpty() ? missingValueText() : known;
+    };
+    return {caption, text(older), text(newer), {}};
+}
+
+} // namespace
+
+SnapshotRow snapshotRow(const QVariantMap& record)
+{
+    SnapshotRow row;
+    row.date = dateOf(record).toLocalTime();
+    row.health = convertToDouble(valueOf(record, "Battery.StateOfHealth"));
+    // A battery without a design capacity has an endless health.
+    if (row.health && (!std::isfinite(*row.health) || *row.health <= 0))
+        row.health.reset();
+    row.fullCharge = numberOf(record, "Battery.FullChargeCapacity");
+    row.cycles = numberOf(record, "Battery.CycleCount");
+    row.computer = knownText(valueOf(record, "Mac.Model").toString());
+    return row;
+}
+
+QVariantList newestFirst(const QVariantList& records)
+{
+    std::vector<std::pair<qint64, QVariant>> dated;
+    dated.reserve(static_cast<std::size_t>(records.size()));
+    for (const QVariant& record : records) {
+        const QDateTime date = dateOf(record.toMap());
+        dated.emplace_back(date.isValid() ? date.toMSecsSinceEpoch() : std::numeric_limits<qint64>::min(),
+                           record);
+    }
+    std::stable_sort(dated.begin(), dated.end(),
+                     [](const auto& one, const auto& other) { return one.first > other.first; });
+    QVariantList sorted;
+    sorted.reserve(records.size());
+    for (auto& [moment, record] : dated)
+        sorted.append(std::move(record));
+    return sorted;
+}
+
+std::vector<ComparedRow> comparedSnapshots(const QVariantMap& one, const QVariantMap& other)
+{
+    const bool isInOrder = dateOf(one) <= dateOf(other);
+    const QVariantMap& older = isInOrder ? one : other;
+    const QVariantMap& newer = isInOrder ? other : one;
+    const SnapshotRow before = snapshotRow(older);
+    const SnapshotRow after = snapshotRow(newer);
+    return {
+        comparedDates(before.date, after.date),
+        comparedHealth(before.health, after.health),
+        comparedCounts(QStringLiteral("Full charge"), before.fullCharge, after.fullCharge,
+                       QStringLiteral(" mAh")),
+        comparedCounts(QStringLiteral("Design capacity"), numberOf(older, "Battery.DesignCapacity"),
+                       numberOf(newer, "Battery.DesignCapacity"), QStringLiteral(" mAh")),
+        comparedCounts(QStringLiteral("Cycles"), before.cycles, after.cycles, {}),
+        comparedTexts(QStringLiteral("Battery"), older, newer, "Battery.DeviceName"),
+        comparedTexts(QStringLiteral("Computer"), older, newer, "Mac.Model"),
+    };
+}
+
+QString snapshotDateText(const QDateTime& date)
+{
+    if (!date.isValid())
+        return missingValueText();
+    const QLocale locale;
+    return locale.toString(date.date(), QStringLiteral("d MMMM yyyy")) + u' ' +
+           locale.toString(date.time(), QLocale::ShortFormat);
+}
+
+} // namespace quindle

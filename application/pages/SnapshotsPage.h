@@ -1,0 +1,79 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include <QVariant>
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QTableView;
+class QTimer;
+
+namespace quindle {
+
+class LinkButton;
+class SavedSnapshots;
+class SnapshotTable;
+
+/// The page "Snapshots": the records of the archive as a list, the newest first; saved, deleted with a way
+/// back, compared, imported and exported.
+class SnapshotsPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The record of this moment; nothing without a battery.
+    using MakeSnapshot = std::function<std::optional<QVariantMap>()>;
+
+    /// `snapshots` must outlive it.
+    SnapshotsPage(SavedSnapshots& snapshots, MakeSnapshot makeSnapshot, QWidget* parent = nullptr);
+
+    /// Reads the archive again where it has changed; for every refresh of the models. Does nothing while the
+    /// page is not seen.
+    void refresh();
+
+    /// Writes the records to a file, as JSON where its name ends so, else as CSV.
+    void exportTo(const QString& path, bool withSerialNumbers);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QPushButton* button(const QString& text, void (SnapshotsPage::*action)());
+    void connectSnapshots();
+    void showRecords();
+    void showBusy();
+    void updateButtons();
+    QVariantList selectedRecords() const;
+    void saveNow();
+    void deleteSelected();
+    void undo();
+    void compare();
+    void askForImport();
+    void askForExport();
+    void tell(const QString& line);
+    void fitToFont();
+
+    SavedSnapshots& m_snapshots;
+    MakeSnapshot m_makeSnapshot;
+    SnapshotTable* m_table;
+    QTableView* m_view;
+    QLabel* m_count;
+    QLabel* m_nothing;
+    QLabel* m_told;
+    LinkButton* m_undo;
+    QProgressBar* m_progress;
+    QTimer* m_slow;
+    QPushButton* m_save;
+    QPushButton* m_compare;
+    QPushButton* m_delete;
+    QPushButton* m_import;
+    QPushButton* m_export;
+    QVariantList m_deleted;
+};
+
+} // namespace quindle

@@ -1,0 +1,247 @@
+// The pages of the recorded history in the application, on files of their own.
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
+#include <gtest/gtest.h>
+
+#include "application/ApplicationProgram.h"
+#include "application/pages/CompareDialog.h"
+#include "application/pages/HistoryPage.h"
+#include "application/pages/SnapshotsPage.h"
+#include "settings/ApplicationPreferences.h"
+#include "tests/records/TemporaryHistory.h"
+#include "tests/support/ComesTrue.h"
+#include "tests/support/FakePlatform.h"
+#include "widgets/LinkButton.h"
+
+using namespace quindle;
+
+namespace {
+
+QString latin(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
+struct HistoryPagesTest : TemporaryHistory
+{
+    HistoryPagesTest()
+    {
+        computer.setComputer(latin("MacBookAir6,2"), latin("C02MN1TXF5YW"));
+        computer.battery() = {{latin("CurrentCapacity"), qint64{66}},
+                              {latin("MaxCapacity"), qint64{4000}},
+                              {latin("DesignCapacity"), qint64{5000}},
+                              {latin("CycleCount"), qint64{42}},
+                              {latin("BatterySerialNumber"), latin("D86SECRET")}};
+        computer.userDirectories.applicationSupport = {folder()};
+    }
+
+    void show(const char* page)
+    {
+        if (!program) {
+            preferences = std::make_unique<ApplicationPreferences>(computer.platform);
+            program =
+                std::make_unique<ApplicationProgram>(computer.platform, *preferences, computer.bundle, true);
+            program->present();
+        }
+        program->window().showPage(latin(page));
+        QApplication::processEvents();
+    }
+
+    template <typename Control>
+    Control* control(const char* text)
+    {
+        for (Control* candidate : program->window().findChildren<Control*>())
+            if (candidate->accessibleName() == latin(text) ||
+                candidate->property("text").toString().remove(u'&') == latin(text))
+                return candidate;
+        return nullptr;
+    }
+
+    bool says(const char* text)
+    {
+        for (const QLabel* label : program->window().findChildren<QLabel*>())
+            if (label->isVisible() && label->text() == latin(text))
+                return true;
+        return false;
+    }
+
+    QTableView* table() { return program->window().findChild<QTableView*>(); }
+    QString cell(int row, int column) { return table()->model()->index(row, column).data().toString(); }
+
+    bool hasRows(int count)
+    {
+        return comesTrue([&] { return table()->model()->rowCount() == count; });
+    }
+
+    void store(int count)
+    {
+        SnapshotArchive archived(archive());
+        for (int number = 0; number < count; ++number)
+            archived.append(recordAt(1420000000 + number * 86400, 4000 - number));
+    }
+
+    qsizetype storedCount() const { return SnapshotArchive(archive()).read().records.size(); }
+
+    FakePlatform computer;
+    std::unique_ptr<ApplicationPreferences> preferences;
+    std::unique_ptr<ApplicationProgram> program;
+};
+
+TEST_F(HistoryPagesTest, SnapshotsAreListedTheNewestFirst)
+{
+    store(3);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(3));
+    EXPECT_TRUE(says("3 snapshots"));
+    EXPECT_EQ(cell(0, 2), latin("3,998 mAh"));
+    EXPECT_EQ(cell(2, 2), latin("4,000 mAh"));
+}
+
+TEST_F(HistoryPagesTest, WithoutAnyThePageSaysSo)
+{
+    show("Snapshots");
+    EXPECT_TRUE(comesTrue([this] { return says("No snapshots yet"); }));
+    EXPECT_FALSE(control<QPushButton>("Export...")->isEnabled());
+}
+
+TEST_F(HistoryPagesTest, OneIsSavedNow)
+{
+    show("Snapshots");
+    control<QPushButton>("Save Now")->click();
+    ASSERT_TRUE(hasRows(1));
+    EXPECT_EQ(cell(0, 3), latin("42"));
+    EXPECT_EQ(cell(0, 4), latin("MacBookAir6,2"));
+    EXPECT_TRUE(comesTrue([this] { return says("1 snapshot saved"); }));
+    EXPECT_EQ(storedCount(), 1);
+}
+
+TEST_F(HistoryPagesTest, DeletedOnesComeBack)
+{
+    store(4);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(4));
+    EXPECT_FALSE(control<QPushButton>("Delete")->isEnabled());
+    table()->selectRow(1);
+    control<QPushButton>("Delete")->click();
+    ASSERT_TRUE(hasRows(3));
+    EXPECT_EQ(storedCount(), 3);
+    auto* undo = control<LinkButton>("Undo deleting");
+    ASSERT_TRUE(undo->isVisible());
+    undo->click();
+    ASSERT_TRUE(hasRows(4));
+    EXPECT_EQ(cell(1, 2), latin("3,998 mAh"));
+    EXPECT_FALSE(undo->isVisible());
+}
+
+TEST_F(HistoryPagesTest, TwoAreCompared)
+{
+    store(3);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(3));
+    auto* compare = control<QPushButton>("Compare");
+    table()->selectRow(0);
+    EXPECT_FALSE(compare->isEnabled()) << "one alone";
+    table()->selectAll();
+    EXPECT_FALSE(compare->isEnabled()) << "three";
+    table()->clearSelection();
+    table()->setSelectionMode(QAbstractItemView::MultiSelection);
+    table()->selectRow(0);
+    table()->selectRow(2);
+    ASSERT_TRUE(compare->isEnabled());
+    compare->click();
+    auto* dialog = program->window().findChild<CompareDialog*>();
+    ASSERT_TRUE(dialog);
+    EXPECT_TRUE(says("4,000 mAh"));
+    EXPECT_TRUE(says("-2 mAh"));
+}
+
+TEST_F(HistoryPagesTest, ExportedWithSerialNumbersOnlyWhereTheyAreAskedFor)
+{
+    show("Snapshots");
+    control<QPushButton>("Save Now")->click();
+    ASSERT_TRUE(hasRows(1));
+    auto* page = program->window().findChild<SnapshotsPage*>();
+    const QString json = m_root.filePath(latin("out.json"));
+    page->exportTo(json, false);
+    EXPECT_TRUE(bytesOf(json).startsWith('['));
+    EXPECT_FALSE(bytesOf(json).contains("D86SECRET"));
+    page->exportTo(json, true);
+    EXPECT_TRUE(bytesOf(json).contains("D86SECRET"));
+    const QString csv = m_root.filePath(latin("out.csv"));
+    page->exportTo(csv, false);
+    EXPECT_EQ(bytesOf(csv).count("\r\n"), 2);
+    EXPECT_TRUE(says("Exported"));
+    page->exportTo(latin("/proc/nowhere/out.csv"), false);
+    EXPECT_FALSE(says("Exported"));
+}
+
+TEST_F(HistoryPagesTest, HistoryShowsWhatIsRecorded)
+{
+    const qint64 now = computer.clock.time.toSecsSinceEpoch();
+    SampleStore store(database());
+    ASSERT_TRUE(store.append({sampleAt(now - 3600, 80), sampleAt(now - 1800, 70)}).isGood());
+    SnapshotArchive archived(archive());
+    for (int day = 0; day < 100; ++day)
+        archived.append(recordAt(now - (100 - day) * 86400, 4000 - day));
+    show("History");
+    auto* page = program->window().findChild<HistoryPage*>();
+    ASSERT_TRUE(page);
+    const auto* sentence = page->findChild<QLabel*>(latin("trendSentence"));
+    ASSERT_TRUE(sentence);
+    EXPECT_TRUE(comesTrue([&] { return sentence->text().startsWith(latin("At this pace")); }))
+        << sentence->text().toStdString();
+}
+
+TEST_F(HistoryPagesTest, RecordingIsSwitchedAndLimited)
+{
+    show("Settings");
+    auto* record = control<QCheckBox>("Record charge, power and a daily snapshot");
+    ASSERT_TRUE(record);
+    EXPECT_TRUE(record->isChecked());
+    record->click();
+    EXPECT_EQ(computer.userDefaults.standardDefaults.values.value(latin("recordHistory")), QVariant(false));
+    auto* days = control<QComboBox>("Keep charge and power");
+    EXPECT_EQ(days->currentData().toLongLong(), 0);
+    const int year = days->findData(365);
+    days->setCurrentIndex(year);
+    Q_EMIT days->activated(year);
+    EXPECT_EQ(computer.userDefaults.standardDefaults.values.value(latin("historyDays")),
+              QVariant(qint64{365}));
+}
+
+TEST_F(HistoryPagesTest, AnOddNumberOfDaysIsShownAsItIs)
+{
+    computer.userDefaults.standardDefaults.values.insert(latin("historyDays"), qint64{77});
+    show("Settings");
+    EXPECT_EQ(control<QComboBox>("Keep charge and power")->currentText(), latin("77 days"));
+}
+
+TEST_F(HistoryPagesTest, AllIsDeletedOnceThatIsConfirmed)
+{
+    store(2);
+    ASSERT_TRUE(SampleStore(database()).append({sampleAt(1000)}).isGood());
+    show("Settings");
+    const auto answer = [this](const char* text) {
+        control<QPushButton>("Delete History...")->click();
+        auto* question = program->window().findChild<QMessageBox*>();
+        ASSERT_TRUE(question);
+        for (QAbstractButton* button : question->buttons())
+            if (button->text().remove(u'&') == latin(text))
+                button->click();
+        ASSERT_TRUE(comesTrue([this] { return !program->window().findChild<QMessageBox*>(); }));
+    };
+    answer("Cancel");
+    EXPECT_EQ(storedCount(), 2);
+    answer("Delete");
+    EXPECT_TRUE(comesTrue([this] { return storedCount() == 0; }));
+    EXPECT_TRUE(comesTrue([this] { return SampleStore(database()).samplesBetween(0, 2000).empty(); }));
+}
+
+} // namespace

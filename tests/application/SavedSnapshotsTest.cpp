@@ -1,0 +1,129 @@
+#include "application/pages/SavedSnapshots.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/records/TemporaryHistory.h"
+#include "tests/support/ComesTrue.h"
+
+using namespace quindle;
+
+namespace {
+
+struct SavedSnapshotsTest : TemporaryHistory
+{
+    SavedSnapshotsTest()
+    {
+        QObject::connect(&snapshots, &SavedSnapshots::told, &snapshots,
+                         [this](const QString& line) { lines.append(line); });
+    }
+
+    void wait()
+    {
+        EXPECT_TRUE(comesTrue([this] { return !snapshots.isBusy(); }));
+    }
+
+    QVariantList stored() const { return SnapshotArchive(archive()).read().records; }
+
+    SavedSnapshots snapshots{archive()};
+    QStringList lines;
+};
+
+TEST_F(SavedSnapshotsTest, AreReadWhenTheyAreAskedFor)
+{
+    SnapshotArchive(archive()).append(recordAt(1000));
+    EXPECT_TRUE(snapshots.records().isEmpty());
+    snapshots.load();
+    EXPECT_TRUE(snapshots.isBusy());
+    wait();
+    EXPECT_EQ(snapshots.records().size(), 1);
+    EXPECT_EQ(lines, QStringList());
+}
+
+TEST_F(SavedSnapshotsTest, AreReadAgainOnlyWhenTheFileHasChanged)
+{
+    SnapshotArchive(archive()).append(recordAt(1000));
+    snapshots.load();
+    wait();
+    snapshots.load();
+    EXPECT_FALSE(snapshots.isBusy()) << "nothing has changed";
+    SnapshotArchive(archive()).append(recordAt(2000));
+    snapshots.load();
+    wait();
+    EXPECT_EQ(snapshots.records().size(), 2) << "saved by another process";
+}
+
+TEST_F(SavedSnapshotsTest, ChangesReachTheArchive)
+{
+    snapshots.add(recordAt(1000));
+    wait();
+    snapshots.add(recordAt(2000));
+    wait();
+    EXPECT_EQ(stored().size(), 2);
+    const QVariantList first{snapshots.records().first()};
+    snapshots.remove(first);
+    wait();
+    EXPECT_EQ(stored().size(), 1);
+    EXPECT_EQ(snapshots.records(), stored());
+    snapshots.merge(first);
+    wait();
+    EXPECT_EQ(stored().size(), 2);
+    EXPECT_EQ(lines,
+              (QStringList{QStringLiteral("1 snapshot saved"), QStringLiteral("1 snapshot saved"),
+                           QStringLiteral("1 snapshot deleted"), QStringLiteral("1 snapshot restored")}));
+    snapshots.removeAll();
+    wait();
+    EXPECT_TRUE(stored().isEmpty());
+    EXPECT_TRUE(snapshots.records().isEmpty());
+}
+
+TEST_F(SavedSnapshotsTest, AnotherArchiveIsImportedOnce)
+{
+    const QString other = m_root.filePath(QStringLiteral("other.qndarchive"));
+    for (const qint64 moment : {1000, 2000, 3000})
+        SnapshotArchive(other).append(recordAt(moment));
+    snapshots.add(recordAt(1000));
+    wait();
+    lines.clear();
+    for (int time = 0; time < 2; ++time) {
+        snapshots.importFrom(other);
+        wait();
+    }
+    EXPECT_EQ(stored().size(), 3);
+    EXPECT_EQ(lines,
+              (QStringList{QStringLiteral("2 snapshots imported"), QStringLiteral("0 snapshots imported")}));
+}
+
+TEST_F(SavedSnapshotsTest, WhatIsNoArchiveIsNamed)
+{
+    const QString other = m_root.filePath(QStringLiteral("other"));
+    snapshots.importFrom(other);
+    wait();
+    write(other, "no archive");
+    snapshots.importFrom(other);
+    wait();
+    ASSERT_EQ(lines.size(), 2);
+    for (const QString& line : lines)
+        EXPECT_TRUE(line.startsWith(other + QStringLiteral(": "))) << line.toStdString();
+    EXPECT_FALSE(QFile::exists(archive()));
+}
+
+TEST_F(SavedSnapshotsTest, ADamagedArchiveIsNamed)
+{
+    write(archive(), "damaged");
+    snapshots.load();
+    wait();
+    ASSERT_EQ(lines.size(), 1);
+    EXPECT_TRUE(lines[0].startsWith(archive())) << lines[0].toStdString();
+}
+
+TEST_F(SavedSnapshotsTest, WithoutAPlaceNothingIsSaved)
+{
+    SavedSnapshots none({});
+    QStringList told;
+    QObject::connect(&none, &SavedSnapshots::told, &none, [&](const QString& line) { told.append(line); });
+    none.add(recordAt(1000));
+    EXPECT_EQ(told.size(), 1);
+    EXPECT_FALSE(none.isBusy());
+}
+
+} // namespace
