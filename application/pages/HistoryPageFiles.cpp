@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QImage>
+#include <QLayout>
 #include <QPainter>
 #include <QSaveFile>
 #include <QStyle>
