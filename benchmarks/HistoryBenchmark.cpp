@@ -34,6 +34,10 @@ QVariantList snapshots(int count)
         QVariantMap record = invented[number % invented.size()].toMap();
         record.insert(QStringLiteral("Data.SnapshotDate"),
                       QDateTime::fromSecsSinceEpoch(end + (number - count) * secondsOfHour, Qt::UTC));
+        // Unlike any other, so that it is not written and read as one of them.
+        QVariantMap raw = record.value(QStringLiteral("Data.Raw")).toMap();
+        raw.insert(QStringLiteral("UpdateTime"), qint64{number});
+        record.insert(QStringLiteral("Data.Raw"), raw);
         records.append(record);
     }
     return records;
