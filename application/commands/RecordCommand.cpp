@@ -5,6 +5,7 @@
 
 #include "application/commands/SampleInput.h"
 #include "common/DateFromText.h"
+#include "common/Digests.h"
 #include "history/SavedHistory.h"
 #include "mac/QDMac.h"
 #include "platform/Host.h"
@@ -24,10 +25,11 @@ namespace {
 const char* const dailyNote = "daily";
 const char* const snapshotNote = "snapshot";
 
-/// Battery and day of a snapshot, in local time.
+/// Stands for battery and day of a snapshot, in local time. Says neither: notes stay when the user deletes
+/// all that was recorded.
 QByteArray snapshotMark(const QVariantMap& snapshot, const QDateTime& date)
 {
-    return (dayText(date) + u' ' + snapshotBattery(snapshot)).toUtf8();
+    return sha1Hex(dayText(date) + u' ' + snapshotBattery(snapshot)).toLatin1();
 }
 
 /// One call of the command.
@@ -51,8 +53,7 @@ public:
             take(m_store.append(samples.samples()));
         if (samples.damagedLines() == 0)
             return;
-        m_report(
-            QStringLiteral("standard input: %1 of its lines are no samples").arg(samples.damagedLines()));
+        m_report(QStringLiteral("standard input: lines that are no samples: %1").arg(samples.damagedLines()));
         fail(EX_DATAERR);
     }
 
@@ -117,7 +118,7 @@ private:
     SampleStore m_store;
     SnapshotArchive m_archive;
     const CommandReport& m_report;
-    qint64 m_now; ///< seconds since 1970
+    qint64 m_now;       ///< seconds since 1970
     QStringList m_told; ///< faults
     int m_exitCode = EX_OK;
 };

@@ -116,6 +116,19 @@ TEST_F(RecordCommandTest, ASnapshotThatWasDeletedTodayDoesNotComeBack)
     EXPECT_EQ(snapshots(), QVariantList());
 }
 
+TEST_F(RecordCommandTest, NothingNamesTheBatteryWhenAllIsDeleted)
+{
+    record(sampleLine(sampleAt(now())));
+    const QByteArray battery = snapshots()[0].toMap().value(text("Battery.BatteryID")).toByteArray();
+    ASSERT_FALSE(battery.isEmpty());
+    EXPECT_TRUE(SnapshotArchive(archive()).removeAll().isGood());
+    EXPECT_TRUE(SampleStore(database()).removeAll().isGood());
+    for (const QString& name : files())
+        EXPECT_FALSE(bytesOf(folder() + u'/' + name).contains(battery)) << name.toStdString();
+    record();
+    EXPECT_EQ(snapshots(), QVariantList()); // today's stays deleted
+}
+
 TEST_F(RecordCommandTest, ABatteryWhoseDriverIsNotReadyIsLeftForLater)
 {
     computer.battery().insert(text("MaxCapacity"), 0);
