@@ -48,14 +48,15 @@ TEST_F(HistoryProcessTest, AKillLeavesWholeBatchesOfSamples)
     std::mt19937 random(20261122);
     const int rounds = countFrom("QUINDLE_KILLS", 60);
     qint64 next = beginning;
-    for (int round = 0; round < rounds; ++round) {
+    // On a busy machine more rounds than asked for may pass until something is written.
+    for (int round = 0; round < rounds || next == beginning; ++round) {
         killSomewhere(
             [&] {
                 SampleStore store(database());
                 for (qint64 moment = next;; moment += batch)
                     store.append(batchFrom(moment));
             },
-            random, 20'000);
+            random, 20'000 + round * 100);
         StoreOutcome outcome;
         const std::vector<Sample> added = SampleStore(database()).samplesBetween(next, always, &outcome);
         ASSERT_EQ(outcome.fault, QString()) << round;
@@ -67,7 +68,6 @@ TEST_F(HistoryProcessTest, AKillLeavesWholeBatchesOfSamples)
     EXPECT_TRUE(store.append(batchFrom(next)).isGood());
     EXPECT_EQ(store.thin(beginning).notice, QString()); // which reads all of the file
     EXPECT_EQ(store.samplesBetween(0, always).size(), static_cast<std::size_t>(next + batch - beginning));
-    EXPECT_GT(next, beginning);
 }
 
 TEST_F(HistoryProcessTest, AKillLeavesAWholeArchive)
@@ -75,14 +75,14 @@ TEST_F(HistoryProcessTest, AKillLeavesAWholeArchive)
     std::mt19937 random(20261122);
     const int rounds = countFrom("QUINDLE_KILLS", 60);
     qsizetype before = 0;
-    for (int round = 0; round < rounds; ++round) {
+    for (int round = 0; round < rounds || before == 0; ++round) {
         killSomewhere(
             [&] {
                 SnapshotArchive own(archive());
                 for (qint64 number = before;; ++number)
                     own.append(recordAt(beginning + number));
             },
-            random, 60'000);
+            random, 60'000 + round * 100);
         const ArchivedRecords read = SnapshotArchive(archive()).read();
         ASSERT_EQ(read.fault, QString()) << round;
         ASSERT_GE(read.records.size(), before) << round;
@@ -90,7 +90,6 @@ TEST_F(HistoryProcessTest, AKillLeavesAWholeArchive)
             ASSERT_EQ(read.records[number], recordAt(beginning + number)) << round;
         before = read.records.size();
     }
-    EXPECT_GT(before, 0);
     EXPECT_TRUE(SnapshotArchive(archive()).append(recordAt(beginning + before)).isGood());
     EXPECT_EQ(files(), QStringList{QStringLiteral("QuindleData.qndarchive")});
 }
