@@ -1,9 +1,12 @@
 """What the battery did reaches the program that records it, whichever way the helper ends, and only where it is to."""
 
+import contextlib
 import datetime
 import plistlib
 import shutil
 import signal
+import sqlite3
+import stat
 import unittest
 from pathlib import Path
 
@@ -23,9 +26,9 @@ mv "$out" "$QUINDLE_TEST_RECORDED/$(date +%s%N)"
 """
 
 
-def charge(percent):
+def charge(percent, **more):
     return {"AppleSmartBattery": {"CurrentCapacity": percent, "MaxCapacity": 100, "IsCharging": False,
-                                  "ExternalConnected": False, "Voltage": 12000, "Amperage": -1000}}
+                                  "ExternalConnected": False, "Voltage": 12000, "Amperage": -1000, **more}}
 
 
 class Recording(StartCase):
@@ -143,6 +146,38 @@ class Recording(StartCase):
         lines = [line for line in errors.splitlines() if "records the history" in line]
         self.assertEqual(len(lines), 1, errors)
         self.assertIn("cannot be started", lines[0])
+
+
+class RealApplication(StartCase):
+    """The helper and the program of its own bundle's application, together."""
+
+    def test_what_the_helper_saw_is_in_the_history(self):
+        machine = {"Bundle": {"Path": "/x", "Info": {"CFBundleVersion": "1"}}, "PowerSources": [], "Now": NOON,
+                   "ApplicationSupport": ["support"],
+                   "Defaults": {"standard": {"recordHistory": True}, SUITE: {"customStatusBar": "%p"}},
+                   "Registry": charge(50, BatterySerialNumber="D86ABCDEFGH", ManufactureDate=17506, DeviceName="bq20z451",
+                                      Manufacturer="SMP", DesignCapacity=110, CycleCount=7)}
+        path = self.root / "machine.plist"
+        path.write_bytes(plistlib.dumps(machine))
+        session = self.bus()
+        process = self.start(session, QUINDLE_MACHINE=str(path), TZ="UTC")
+        self.assert_titles(session, ["50.0"])
+        process.terminate()
+        status, errors = self.result(process)
+        self.assertEqual((status, errors.count("record")), (0, 0), errors)
+        history, archive = self.root / "support/history.sqlite", self.root / "support/QuindleData.qndarchive"
+        self.assertTrue(wait_for(lambda: archive.exists() and self.samples_in(history), 15), list(self.root.rglob("*")))
+        self.assertEqual(self.samples_in(history), [(1772366400, 50.0, -12.0)])
+        for file in (history, archive):
+            self.assertEqual(stat.S_IMODE(file.stat().st_mode), 0o600, file)
+
+    @staticmethod
+    def samples_in(history):
+        try:
+            with contextlib.closing(sqlite3.connect(f"file:{history}?mode=ro", uri=True)) as database:
+                return database.execute("SELECT moment, charge, power FROM samples").fetchall()
+        except sqlite3.OperationalError:
+            return []
 
 
 if __name__ == "__main__":
