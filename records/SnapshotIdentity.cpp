@@ -15,12 +15,4 @@ QString snapshotBattery(const QVariant& record)
     return record.toMap().value(QStringLiteral("Battery.BatteryID")).toString();
 }
 
-bool isSameSnapshot(const QVariant& left, const QVariant& right)
-{
-    const auto date = snapshotDate(left);
-    if (date != snapshotDate(right))
-        return false;
-    return date ? snapshotBattery(left) == snapshotBattery(right) : left == right;
-}
-
 } // namespace quindle

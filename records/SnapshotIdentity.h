@@ -16,7 +16,4 @@ std::optional<QDateTime> snapshotDate(const QVariant& record);
 /// Which battery it is of; empty when it does not say.
 QString snapshotBattery(const QVariant& record);
 
-/// Whether both are of one battery at one moment; without a date, whether they are equal.
-bool isSameSnapshot(const QVariant& left, const QVariant& right);
-
 } // namespace quindle
