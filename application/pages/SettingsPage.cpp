@@ -4,6 +4,7 @@
 
 #include "application/pages/HistorySettingsView.h"
 #include "preferences/panes/GeneralPreferencesController.h"
+#include "preferences/panes/PaneView.h"
 
 namespace quindle {
 
@@ -15,6 +16,11 @@ SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& 
 {
     setObjectName(QStringLiteral("settingsPage"));
     setAccessibleName(QStringLiteral("Settings"));
+    // Both, so that their captions stand in one column.
+    for (PaneView* pane : {qobject_cast<PaneView*>(&general.view()), static_cast<PaneView*>(m_history)}) {
+        pane->setCompact(true);
+        pane->fitToFont();
+    }
     auto* layout = new QVBoxLayout(&content());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

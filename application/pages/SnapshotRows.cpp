@@ -138,8 +138,10 @@ QString snapshotDateText(const QDateTime& date)
     if (!date.isValid())
         return missingValueText();
     const QLocale locale;
-    return locale.toString(date.date(), QStringLiteral("d MMMM yyyy")) + u' ' +
-           locale.toString(date.time(), QLocale::ShortFormat);
+    // Some locales have seconds in their short form too.
+    const QString time = locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
+    return locale.toString(date.date(), QStringLiteral("d MMM yyyy")) + u' ' +
+           locale.toString(date.time(), time);
 }
 
 } // namespace quindle

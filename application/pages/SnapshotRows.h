@@ -38,7 +38,7 @@ struct ComparedRow
 /// What two records say, the older one first, whichever way they are given.
 std::vector<ComparedRow> comparedSnapshots(const QVariantMap& one, const QVariantMap& other);
 
-/// As the list writes it: "14 September 2025 09:30" in the user's language.
+/// As the list writes it: "14 Sep 2025 09:30" in the user's language.
 QString snapshotDateText(const QDateTime& date);
 
 } // namespace quindle

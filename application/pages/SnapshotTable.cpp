@@ -1,5 +1,7 @@
 #include "application/pages/SnapshotTable.h"
 
+#include <QPixmap>
+
 #include "application/pages/SnapshotRows.h"
 #include "facts/ValueTexts.h"
 
@@ -35,6 +37,14 @@ bool isFigure(int column)
            column == SnapshotTable::Cycles;
 }
 
+/// Keeps a text at its column's beginning away from the figure at the end of the one before.
+QVariant gap()
+{
+    QPixmap empty(12, 1);
+    empty.fill(Qt::transparent);
+    return empty;
+}
+
 } // namespace
 
 void SnapshotTable::setRecords(const QVariantList& records)
@@ -60,7 +70,7 @@ QVariant SnapshotTable::data(const QModelIndex& index, int role) const
         return cellText(snapshotRow(record(index.row())), index.column());
     if (role == Qt::TextAlignmentRole)
         return int((isFigure(index.column()) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    return {};
+    return role == Qt::DecorationRole && index.column() == Computer ? gap() : QVariant();
 }
 
 QVariant SnapshotTable::headerData(int section, Qt::Orientation orientation, int role) const
@@ -69,6 +79,8 @@ QVariant SnapshotTable::headerData(int section, Qt::Orientation orientation, int
         return {};
     if (role == Qt::TextAlignmentRole)
         return int((isFigure(section) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    if (role == Qt::DecorationRole && section == Computer)
+        return gap();
     if (role != Qt::DisplayRole)
         return {};
     constexpr const char* captions[columns] = {"Date", "Health", "Full charge", "Cycles", "Computer"};

@@ -296,8 +296,10 @@ void SnapshotsPage::fitToFont()
     layout()->setSpacing(line / 2);
     m_progress->setMaximumSize(line * 6, line / 2);
     m_view->verticalHeader()->setDefaultSectionSize(line * 8 / 5);
+    // The smallest window has room for all; the last column takes what is left.
+    constexpr double lines[SnapshotTable::columns] = {7.5, 4, 5.3, 3.7, 4};
     for (int column = 0; column < SnapshotTable::columns; ++column)
-        m_view->setColumnWidth(column, line * (column == SnapshotTable::Date ? 11 : 6));
+        m_view->setColumnWidth(column, qRound(line * lines[column]));
     for (QWidget* quiet :
          {static_cast<QWidget*>(m_count), static_cast<QWidget*>(m_told), static_cast<QWidget*>(m_undo)})
         quiet->setFont(quietFont(font()));

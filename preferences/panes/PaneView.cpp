@@ -34,12 +34,12 @@ void PaneView::fitToFont()
     if (!grid)
         return;
     const int line = fontMetrics().height();
-    const int margin = line * 3 / 2;
+    const int margin = m_isCompact ? line : line * 3 / 2;
     grid->setContentsMargins(margin, margin, margin, margin);
     grid->setHorizontalSpacing(line);
     grid->setVerticalSpacing(line);
-    grid->setColumnMinimumWidth(0, line * 8);
-    grid->setColumnMinimumWidth(1, line * 19);
+    grid->setColumnMinimumWidth(0, line * (m_isCompact ? 6 : 8));
+    grid->setColumnMinimumWidth(1, m_isCompact ? 0 : line * 19);
     grid->setColumnStretch(1, 1);
     for (QBoxLayout* box : grid->findChildren<QBoxLayout*>())
         box->setSpacing(box->direction() == QBoxLayout::TopToBottom ? line / 3 : line / 2);

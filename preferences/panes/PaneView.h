@@ -13,6 +13,10 @@ class PaneView : public QWidget
 public:
     explicit PaneView(QWidget* parent = nullptr);
 
+    /// Whether it takes no more room than its controls need: for a place that is not as wide as a window of
+    /// the preferences. Before `fitToFont`.
+    void setCompact(bool isCompact) { m_isCompact = isCompact; }
+
     /// To be called once after the interface file has been loaded; later changes of the font are followed.
     void fitToFont();
 
@@ -21,6 +25,8 @@ protected:
 
 private:
     void alignCaptions();
+
+    bool m_isCompact = false;
 };
 
 } // namespace quindle

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTemporaryDir>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
@@ -232,6 +233,20 @@ TEST_F(ApplicationProgramTest, StartAtLoginIsSwitchedHereAndNotInTheHelper)
     login->click();
     EXPECT_EQ(computer.loginItems.enabled.at(latin("com.fernhollow.Quindle-Helper")), true);
     EXPECT_TRUE(seen().filter(latin("can only be disabled")).isEmpty());
+}
+
+TEST_F(ApplicationProgramTest, EveryPageFitsIntoTheSmallestWindow)
+{
+    program().window().resize(640, 420);
+    for (const char* page : {"Battery", "History", "Snapshots", "Details", "Settings"}) {
+        show(page);
+        EXPECT_EQ(program().window().size(), QSize(640, 420)) << page;
+        for (const QScrollArea* area : program().window().findChildren<QScrollArea*>()) {
+            if (area->isVisible()) {
+                EXPECT_LE(area->widget()->minimumSizeHint().width(), area->viewport()->width()) << page;
+            }
+        }
+    }
 }
 
 TEST_F(ApplicationProgramTest, SettingsShowTheLoginItemOfTheHelper)

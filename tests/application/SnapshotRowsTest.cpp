@@ -38,6 +38,13 @@ TEST(SnapshotRowsTest, ValuesOfARecord)
     EXPECT_EQ(row.computer, QStringLiteral("ThinkPad T14"));
 }
 
+TEST(SnapshotRowsTest, DatesHaveNoSeconds)
+{
+    const QDateTime date(QDate(2026, 12, 9), QTime(7, 47, 24));
+    EXPECT_EQ(snapshotDateText(date), QStringLiteral("9 Dec 2026 07:47"));
+    EXPECT_EQ(snapshotDateText({}), QStringLiteral("–"));
+}
+
 TEST(SnapshotRowsTest, WhatIsNotKnownIsNothing)
 {
     const SnapshotRow row =
