@@ -5,7 +5,9 @@ without one."""
 import os
 import plistlib
 import subprocess
+import time
 import unittest
+from pathlib import Path
 
 from helper_case import HELPER, SUITE, wait_for
 from preferences_case import ACCESSIBILITY, BATTERY, PreferencesCase, nodes
@@ -174,6 +176,67 @@ class Details(ApplicationCase):
         self.assertEqual(keys["Registry"]["AppleSmartBattery"]["CycleCount"], int(BATTERY["cycle_count"]))
         played = subprocess.run([INSPECT, "--machine", str(path), "--json"], capture_output=True, check=False)
         self.assertEqual((played.returncode, played.stderr), (0, b""))
+
+
+class History(ApplicationCase):
+    SAMPLES = 180
+
+    def setUp(self):
+        super().setUp()
+        # The desktop is that of the case before, with its history.
+        for file in (Path(self.desktop.env["XDG_DATA_HOME"]) / "quindle").glob("history.sqlite*"):
+            file.unlink()
+        now = int(time.time())
+        lines = [f"{now - 60 * age} {60 + age / 10:.1f} -9.5 discharging" for age in range(self.SAMPLES, 0, -1)]
+        samples = self.desktop.root / "samples"
+        samples.write_text("\n".join(lines) + "\n")
+        self.desktop.call("sh", "-c", f'"$0" --record < "{samples}"', APPLICATION, env=self.environment)
+        self.start_application("History")
+        self.chart = self.control("chart", "Charge, last 24 hours")
+        self.assertTrue(self.chart, self.texts())
+
+    def described(self):
+        return self.control("chart", "Charge, last 24 hours")["description"]
+
+    def assert_described(self, condition):
+        self.assertTrue(wait_for(lambda: condition(self.described()), 5), self.described())
+
+    def test_read_and_zoomed_by_mouse_and_keyboard(self):
+        self.assert_text("Not enough history yet (needs 60 days)")
+        self.assert_described(lambda text: "\u2013" in text and "discharging" not in text)
+        whole = self.described()
+        x, y, width, height = self.chart["box"]
+        right = x + width - 12
+        self.desktop.call("xdotool", "mousemove", str(right), str(y + height // 2))
+        self.assert_described(lambda text: "9.5 W \u00b7 discharging; " in text)
+        self.desktop.click(right, y + height // 2)
+        self.desktop.key("Home")
+        self.assert_described(lambda text: "78.0 %" in text)
+        self.desktop.key("Right")
+        self.assert_described(lambda text: "discharging" in text and "78.0 %" not in text)
+        self.desktop.key("plus")
+        self.assert_described(lambda text: not text.endswith(whole))
+        self.desktop.key("0")
+        self.assert_described(lambda text: text.endswith(whole))
+
+    def test_another_range(self):
+        self.act("radio button", "Week")
+        self.assertTrue(self.control("chart", "Charge, last 7 days"))
+        self.act("radio button", "Power")
+        self.assertTrue(self.control("chart", "Power, last 7 days"))
+
+    def test_exported(self):
+        path = self.desktop.root / "table.csv"
+        self.act("push button", "Export...")
+        self.assertTrue(wait_for(lambda: self.control("dialog", "Export"), 10))
+        self.assertTrue(wait_for(self.is_active, 5))
+        self.type(str(path))
+        self.desktop.key("Return")
+        self.assertTrue(wait_for(path.exists, 10), "nothing was saved")
+        lines = path.read_bytes().split(b"\r\n")
+        self.assertEqual(lines[0], b"Moment,Charge,Power,State")
+        self.assertEqual(len(lines), self.SAMPLES + 2)
+        self.assertTrue(lines[1].endswith(b",78.00,-9.50,discharging"), lines[1])
 
 
 class FromTheHelper(ApplicationCase):
