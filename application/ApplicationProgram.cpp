@@ -94,7 +94,8 @@ std::vector<ApplicationPage> ApplicationProgram::pages()
     };
     const auto settings = [this](QWidget* parent) {
         return new SettingsPage(
-            m_general, m_platform.userDefaults.standard(), [this] { deleteHistory(); }, parent);
+            m_general, m_platform.userDefaults.standard(), m_platform.distributedNotificationCenter,
+            [this] { deleteHistory(); }, parent);
     };
     return {{QStringLiteral("Battery"), battery},
             {QStringLiteral("History"), history},

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "platform/NotificationCenter.h"
 #include "settings/HistorySettings.h"
 #include "widgets/BoundControls.h"
 #include "widgets/QuietLabel.h"
@@ -27,9 +28,11 @@ constexpr Span spans[] = {
 
 } // namespace
 
-HistorySettingsView::HistorySettingsView(UserDefaults& own, std::function<void()> deleteAll, QWidget* parent)
+HistorySettingsView::HistorySettingsView(UserDefaults& own, DistributedNotificationCenter& center,
+                                         std::function<void()> deleteAll, QWidget* parent)
     : PaneView(parent)
     , m_own(own)
+    , m_center(center)
     , m_deleteAll(std::move(deleteAll))
     , m_record(new BoundCheckBox(this))
     , m_days(new QComboBox(this))
@@ -41,9 +44,14 @@ HistorySettingsView::HistorySettingsView(UserDefaults& own, std::function<void()
         m_days->addItem(QLatin1String(span.caption), span.days);
     addRows();
     fitToFont();
-    connect(m_record, &BoundCheckBox::switched, this, [this](bool on) { setRecordsHistory(m_own, on); });
-    connect(m_days, &QComboBox::activated, this,
-            [this](int index) { setHistoryDays(m_own, m_days->itemData(index).toLongLong()); });
+    connect(m_record, &BoundCheckBox::switched, this, [this](bool on) {
+        setRecordsHistory(m_own, on);
+        announceChange();
+    });
+    connect(m_days, &QComboBox::activated, this, [this](int index) {
+        setHistoryDays(m_own, m_days->itemData(index).toLongLong());
+        announceChange();
+    });
     refresh();
 }
 
@@ -84,6 +92,11 @@ void HistorySettingsView::showDays(qint64 days)
         index = m_days->count() - 1;
     }
     m_days->setCurrentIndex(index);
+}
+
+void HistorySettingsView::announceChange()
+{
+    m_center.post(QStringLiteral("SettingsChangedNotification"));
 }
 
 void HistorySettingsView::askToDelete()

@@ -9,10 +9,11 @@
 namespace quindle {
 
 SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& own,
-                           std::function<void()> deleteHistory, QWidget* parent)
+                           DistributedNotificationCenter& center, std::function<void()> deleteHistory,
+                           QWidget* parent)
     : ScrollPage(parent)
     , m_general(general)
-    , m_history(new HistorySettingsView(own, std::move(deleteHistory), &content()))
+    , m_history(new HistorySettingsView(own, center, std::move(deleteHistory), &content()))
 {
     setObjectName(QStringLiteral("settingsPage"));
     setAccessibleName(QStringLiteral("Settings"));

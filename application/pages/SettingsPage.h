@@ -6,6 +6,7 @@
 
 namespace quindle {
 
+class DistributedNotificationCenter;
 class GeneralPreferencesController;
 class HistorySettingsView;
 class UserDefaults;
@@ -16,10 +17,11 @@ class SettingsPage : public ScrollPage
     Q_OBJECT
 
 public:
-    /// `general` and `own`, the helper's own database, must outlive it. `deleteHistory` is called once the
-    /// user has confirmed it.
+    /// `own` is the helper's own database, `center` where changes are announced; both and `general` must
+    /// outlive it. `deleteHistory` is called once the user has confirmed it.
     SettingsPage(GeneralPreferencesController& general, UserDefaults& own,
-                 std::function<void()> deleteHistory, QWidget* parent = nullptr);
+                 DistributedNotificationCenter& center, std::function<void()> deleteHistory,
+                 QWidget* parent = nullptr);
     ~SettingsPage() override;
 
 protected:

@@ -207,6 +207,9 @@ TEST_F(HistoryPagesTest, RecordingIsSwitchedAndLimited)
     EXPECT_TRUE(record->isChecked());
     record->click();
     EXPECT_EQ(computer.userDefaults.standardDefaults.values.value(latin("recordHistory")), QVariant(false));
+    EXPECT_EQ(computer.distributedNotificationCenter.posted,
+              QStringList{latin("SettingsChangedNotification")})
+        << "the helper looks at it when it is told, or an hour later";
     auto* days = control<QComboBox>("Keep charge and power");
     EXPECT_EQ(days->currentData().toLongLong(), 0);
     const int year = days->findData(365);

@@ -239,6 +239,24 @@ class History(ApplicationCase):
         self.assertTrue(lines[1].endswith(b",78.00,-9.50,discharging"), lines[1])
 
 
+class Snapshots(ApplicationCase):
+    def test_saved_deleted_and_brought_back(self):
+        self.start_application("Snapshots")
+        self.assert_text("No snapshots yet")
+        self.act("push button", "Save Now")
+        self.assert_text("1 snapshot saved")
+        archive = Path(self.desktop.env["XDG_DATA_HOME"]) / "quindle/QuindleData.qndarchive"
+        self.addCleanup(archive.unlink)
+        self.assertEqual(archive.stat().st_mode & 0o777, 0o600)
+        self.click("table cell", "5,000 mAh")
+        self.desktop.key("Delete")
+        self.assert_text("1 snapshot deleted")
+        self.assert_text("No snapshots yet")
+        self.desktop.key("ctrl+z")
+        self.assert_text("1 snapshot restored")
+        self.assertTrue(self.control("table cell", "5,000 mAh"))
+
+
 class FromTheHelper(ApplicationCase):
     def test_open_application(self):
         self.environment.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON")
