@@ -7,7 +7,7 @@ function(quindle_library name)
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE ${ARG_PRIVATE_USES})
     quindle_counts_coverage(${name})
-    quindle_compiles_together(${name})
+    quindle_compiles_together(${name} 12)
 endfunction()
 
 # Of the libraries only: which of their own lines the tests run means nothing.
@@ -20,15 +20,15 @@ endfunction()
 
 # Most of a cold build's time goes into reading Qt's headers once for each small file, so the files of a library are
 # compiled a few at a time. Each file as itself: QUINDLE_FILE_BY_FILE, and scripts/check-files in CI.
-function(quindle_compiles_together name)
+function(quindle_compiles_together name at_a_time)
     if(NOT QUINDLE_FILE_BY_FILE)
-        set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
+        set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${at_a_time})
         # Meant for headers, which a source file looks like here.
         target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
     endif()
 endfunction()
 
-# What every test reads. The tests of a folder repeat each other's names, so they are not compiled together.
+# What every test reads.
 function(quindle_precompiles_for_tests name)
     quindle_debugs_by_lines(${name})
     if(NOT QUINDLE_FILE_BY_FILE)

@@ -1,15 +1,14 @@
 #include "battery/BatteryFigures.h"
 
 #include <cmath>
-#include <limits>
 
 #include <gtest/gtest.h>
+
+#include "tests/support/NotFinite.h"
 
 using namespace quindle;
 
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 TEST(BatteryFigures, PercentageIsNeitherRoundedNorBounded)
 {

@@ -11,7 +11,7 @@ using namespace quindle;
 
 namespace {
 
-struct Row
+struct TextRow
 {
     QVariant value;
     const char* json;
@@ -20,7 +20,7 @@ struct Row
 TEST(JsonText, Values)
 {
     const QDateTime moment(QDate(2014, 3, 2), QTime(0, 0, 0, 999), QTimeZone::utc());
-    const Row rows[] = {
+    const TextRow rows[] = {
         {QVariant(), "null"},
         {QVariant(true), "true"},
         {QVariant(false), "false"},
@@ -45,7 +45,7 @@ TEST(JsonText, Values)
         {QVariantMap{{QStringLiteral("b"), 1}, {QStringLiteral("a\""), QVariantMap()}},
          "{\"a\\\"\":{},\"b\":1}"},
     };
-    for (const Row& row : rows)
+    for (const TextRow& row : rows)
         EXPECT_EQ(jsonText(row.value).toStdString(), row.json);
 }
 

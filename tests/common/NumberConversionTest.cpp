@@ -4,13 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "common/NumberConversion.h"
+#include "tests/support/NotFinite.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
 
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 QVariant integer(qint64 number)
 {

@@ -6,14 +6,12 @@
 
 #include <QLocale>
 
+#include "tests/support/NotFinite.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
 
 namespace {
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 TEST(ValueTexts, FiguresHaveOneDecimal)
 {

@@ -35,7 +35,7 @@ BarState charging()
     return state;
 }
 
-struct Row
+struct LineRow
 {
     const char* what;
     BarFormat format;
@@ -43,7 +43,7 @@ struct Row
     const char* line;
 };
 
-const Row rows[] = {
+const LineRow lineRows[] = {
     {"text", BarFormat::Text, discharging(64, "good"), "64.0%"},
     {"text without battery", BarFormat::Text, noBattery(), ""},
     {"text that would break the line", BarFormat::Text, discharging(64, "good", "a\nb\tc\u2028d\x1b[1m"),
@@ -85,7 +85,7 @@ const Row rows[] = {
 
 TEST(BarLines, Table)
 {
-    for (const Row& row : rows)
+    for (const LineRow& row : lineRows)
         EXPECT_EQ(QString::fromUtf8(barLine(row.format, row.state)), QString::fromUtf8(row.line)) << row.what;
 }
 

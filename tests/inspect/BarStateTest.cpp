@@ -11,7 +11,7 @@ using namespace quindle;
 
 namespace {
 
-struct Row
+struct StateRow
 {
     qint64 charge; ///< of 100 mAh
     bool isCharging;
@@ -23,7 +23,7 @@ struct Row
     const char* colourClass;
 };
 
-constexpr Row rows[] = {
+constexpr StateRow stateRows[] = {
     {64, false, false, false, "64.0%", "#bat24", "discharging", "good"},
     {40, false, false, false, "40.0%", "#bat24", "discharging", "good"},
     {39, false, false, false, "39.0%", "#bat14", "discharging", "warning"},
@@ -39,7 +39,7 @@ constexpr Row rows[] = {
 
 TEST(BarState, Table)
 {
-    for (const Row& row : rows) {
+    for (const StateRow& row : stateRows) {
         SCOPED_TRACE(testing::Message() << row.charge << ' ' << row.state);
         Helper helper;
         helper.setBattery(row.charge);
@@ -59,7 +59,7 @@ TEST(BarState, Table)
 
 TEST(BarState, ShowsTheIconThatTheTrayShows)
 {
-    for (const Row& row : rows) {
+    for (const StateRow& row : stateRows) {
         Helper helper;
         helper.setShared("showIconsInMenuBar", 1);
         helper.setBattery(row.charge);

@@ -10,7 +10,7 @@ namespace {
 
 using Call = CommandLine::Call;
 
-struct Row
+struct ArgumentRow
 {
     const char* arguments; ///< parted by blanks
     const char* machineVariable;
@@ -20,7 +20,7 @@ struct Row
     const char* sysfsDirectory;
 };
 
-constexpr Row rows[] = {
+constexpr ArgumentRow argumentRows[] = {
     {"", "", "", Call::Report, "", ""},
     {"--json", "", "", Call::Json, "", ""},
     {"--demo", "", "", Call::Report, "", ""},
@@ -47,7 +47,7 @@ constexpr Row rows[] = {
     {"--sysfs s", "em", "es", Call::Report, "", "s"},
 };
 
-CommandLine parse(const Row& row)
+CommandLine parse(const ArgumentRow& row)
 {
     return parseCommandLine(
         QString::fromLatin1(row.arguments).split(u' ', Qt::SkipEmptyParts),
@@ -56,7 +56,7 @@ CommandLine parse(const Row& row)
 
 TEST(CommandLine, RightUsage)
 {
-    for (const Row& row : rows) {
+    for (const ArgumentRow& row : argumentRows) {
         const CommandLine line = parse(row);
         EXPECT_EQ(line.fault, QString()) << row.arguments;
         EXPECT_EQ(line.call, row.call) << row.arguments;

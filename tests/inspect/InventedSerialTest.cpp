@@ -49,7 +49,7 @@ TEST(InventedSerial, SharesNothingWithTheOtherSerial)
     EXPECT_FALSE(sharesRun(invented, second));
 }
 
-struct Row
+struct SerialRow
 {
     QVariant value;
     QVariant clean;
@@ -61,7 +61,7 @@ TEST(InventedSerial, IsReplacedWhereverItOccurs)
                                           {QStringLiteral("12345"), QStringLiteral("67890")},
                                           {QStringLiteral("q"), QStringLiteral("Z")}};
     const auto text = [](const char* latin) { return QVariant(QString::fromLatin1(latin)); };
-    const Row rows[] = {
+    const SerialRow rows[] = {
         {text("ABCDEF"), text("UVWXYZ")},
         {text("x ABCDEF, ABCDEF"), text("x UVWXYZ, UVWXYZ")},
         {text("BCDE"), text("VWXY")},
@@ -79,7 +79,7 @@ TEST(InventedSerial, IsReplacedWhereverItOccurs)
         {QVariantMap{{QStringLiteral("keyABCDEF"), text("BCDEF")}},
          QVariantMap{{QStringLiteral("keyUVWXYZ"), text("VWXYZ")}}},
     };
-    for (const Row& row : rows)
+    for (const SerialRow& row : rows)
         EXPECT_EQ(withoutSerials(row.value, serials), row.clean);
 }
 

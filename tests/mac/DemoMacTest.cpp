@@ -7,26 +7,22 @@
 #include "mac/SerialNumberDecoding.h"
 #include "tests/mac/ForbiddenPlatform.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 
 using namespace quindle;
 
 namespace {
 
-QString text(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
 TEST(DemoMode, ShowsItsValuesAndTouchesNothing)
 {
     ForbiddenPlatform computer;
     const auto mac = QDMac::initWithDemoMode(computer.platform, true);
-    EXPECT_EQ(mac->OSXVersion(), text("El Capitan"));
-    EXPECT_EQ(mac->Model(), text("MacBookAir4,2"));
-    EXPECT_EQ(mac->Type(), text("MacBook Air"));
-    EXPECT_EQ(mac->Name(), text("Demo Computer"));
-    EXPECT_EQ(mac->LongModel(), text("(13-inch, Late 2013)"));
-    EXPECT_EQ(mac->Serial(), text("C02MN1TXF5YW"));
+    EXPECT_EQ(mac->OSXVersion(), u("El Capitan"));
+    EXPECT_EQ(mac->Model(), u("MacBookAir4,2"));
+    EXPECT_EQ(mac->Type(), u("MacBook Air"));
+    EXPECT_EQ(mac->Name(), u("Demo Computer"));
+    EXPECT_EQ(mac->LongModel(), u("(13-inch, Late 2013)"));
+    EXPECT_EQ(mac->Serial(), u("C02MN1TXF5YW"));
     EXPECT_EQ(mac->ManufactureDate().date(), QDate(2014, 5, 12));
     EXPECT_EQ(buildDate(*mac->Serial())->date(), mac->ManufactureDate().date());
     EXPECT_FALSE(mac->followBattery());
@@ -41,14 +37,14 @@ TEST(DemoMode, TheBatteryIsThere)
     const std::pair<const char*, QVariant> values[] = {
         {"FullChargeCapacity", 4865},
         {"CycleCount", 293},
-        {"BatteryHealth", text("Good")},
+        {"BatteryHealth", u("Good")},
         {"StateOfCharge", 61.0},
         {"StateOfHealth", 89.0},
-        {"Temperature", text("78.5 °F")},
-        {"StateText", text("Discharging with")},
+        {"Temperature", u("78.5 °F")},
+        {"StateText", u("Discharging with")},
         {"WattThroughput", 4.61},
         {"CurrentCapacity", 2967},
-        {"TimeRemaining", text("4:41")},
+        {"TimeRemaining", u("4:41")},
     };
     for (const auto& [name, value] : values)
         EXPECT_EQ(battery->property(name), value) << name;

@@ -8,7 +8,7 @@ using namespace quindle;
 
 namespace {
 
-struct Row
+struct FragmentRow
 {
     const char* text;
     const char* name;
@@ -16,7 +16,7 @@ struct Row
 
 TEST(MachineType, Table)
 {
-    constexpr Row rows[] = {
+    constexpr FragmentRow rows[] = {
         {"MacBookPro14,1", "MacBook Pro"},
         {"MacBookAir7,2", "MacBook Air"},
         {"XMacBookAirY", "MacBook Air"},
@@ -30,7 +30,7 @@ TEST(MachineType, Table)
         {"MacMini", ""},
         {"", ""},
     };
-    for (const Row& row : rows)
+    for (const FragmentRow& row : rows)
         EXPECT_EQ(machineType(QString::fromLatin1(row.text)), QString::fromLatin1(row.name)) << row.text;
 }
 

@@ -9,7 +9,7 @@ using namespace quindle;
 
 namespace {
 
-struct Row
+struct VersionRow
 {
     const char* text;
     const char* name;
@@ -17,7 +17,7 @@ struct Row
 
 TEST(OSXVersionName, Table)
 {
-    constexpr Row rows[] = {
+    constexpr VersionRow rows[] = {
         {"10.14.6", "OS X"},
         {"10.13", "OS X"},
         {"10.12.6", "macOS Sierra"},
@@ -35,7 +35,7 @@ TEST(OSXVersionName, Table)
         {"110.12", "macOS Sierra"},
         {"", "OS X"},
     };
-    for (const Row& row : rows)
+    for (const VersionRow& row : rows)
         EXPECT_EQ(osxVersionName(QString::fromLatin1(row.text)), QString::fromLatin1(row.name)) << row.text;
 }
 

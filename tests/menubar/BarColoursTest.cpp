@@ -1,15 +1,13 @@
 #include "menubar/BarColours.h"
 
-#include <limits>
-
 #include <gtest/gtest.h>
+
+#include "tests/support/NotFinite.h"
 
 using namespace quindle;
 
 namespace {
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr auto green = std::optional(BarColour::Green);
 constexpr auto yellow = std::optional(BarColour::Yellow);
 constexpr auto red = std::optional(BarColour::Red);

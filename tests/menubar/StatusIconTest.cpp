@@ -1,17 +1,13 @@
 #include "menubar/StatusIcon.h"
 
-#include <limits>
-
 #include <gtest/gtest.h>
 
+#include "tests/support/NotFinite.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
 
 namespace {
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 struct Case
 {

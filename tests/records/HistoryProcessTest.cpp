@@ -12,7 +12,7 @@ using namespace quindle;
 namespace {
 
 constexpr qint64 beginning = 1'700'000'000;
-constexpr qint64 always = std::numeric_limits<qint64>::max();
+constexpr qint64 forEver = std::numeric_limits<qint64>::max();
 constexpr qint64 batch = 7;
 
 using HistoryProcessTest = TemporaryHistory;
@@ -58,7 +58,7 @@ TEST_F(HistoryProcessTest, AKillLeavesWholeBatchesOfSamples)
             },
             random, 20'000 + round * 100);
         StoreOutcome outcome;
-        const std::vector<Sample> added = SampleStore(database()).samplesBetween(next, always, &outcome);
+        const std::vector<Sample> added = SampleStore(database()).samplesBetween(next, forEver, &outcome);
         ASSERT_EQ(outcome.fault, QString()) << round;
         ASSERT_EQ(added.size() % batch, 0U) << round;
         next += static_cast<qint64>(added.size());
@@ -67,7 +67,7 @@ TEST_F(HistoryProcessTest, AKillLeavesWholeBatchesOfSamples)
     SampleStore store(database());
     EXPECT_TRUE(store.append(batchFrom(next)).isGood());
     EXPECT_EQ(store.thin(beginning).notice, QString()); // which reads all of the file
-    EXPECT_EQ(store.samplesBetween(0, always).size(), static_cast<std::size_t>(next + batch - beginning));
+    EXPECT_EQ(store.samplesBetween(0, forEver).size(), static_cast<std::size_t>(next + batch - beginning));
 }
 
 TEST_F(HistoryProcessTest, AKillLeavesAWholeArchive)
@@ -112,7 +112,7 @@ TEST_F(HistoryProcessTest, TwoWritersLoseNothing)
         }));
     for (const pid_t writer : writers)
         EXPECT_EQ(statusOf(writer), 0);
-    EXPECT_EQ(SampleStore(database()).samplesBetween(0, always).size(), 2U * static_cast<unsigned>(samples));
+    EXPECT_EQ(SampleStore(database()).samplesBetween(0, forEver).size(), 2U * static_cast<unsigned>(samples));
     EXPECT_EQ(SnapshotArchive(archive()).read().records.size(), 2 * records);
 }
 
@@ -129,7 +129,7 @@ TEST_F(HistoryProcessTest, SeveralFirstWritersMakeOneFile)
             }));
         for (const pid_t writer : writers)
             EXPECT_EQ(statusOf(writer), 0);
-        EXPECT_EQ(SampleStore(database()).samplesBetween(0, always).size(), 6U);
+        EXPECT_EQ(SampleStore(database()).samplesBetween(0, forEver).size(), 6U);
     }
 }
 
@@ -144,7 +144,7 @@ TEST_F(HistoryProcessTest, SeveralFindOneDamagedFile)
         }));
     for (const pid_t writer : writers)
         EXPECT_EQ(statusOf(writer), 0);
-    EXPECT_EQ(SampleStore(database()).samplesBetween(0, always).size(), 6U);
+    EXPECT_EQ(SampleStore(database()).samplesBetween(0, forEver).size(), 6U);
     EXPECT_EQ(files().filter(QStringLiteral("damaged")).size(), 1);
 }
 

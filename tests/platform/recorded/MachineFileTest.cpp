@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "plist/PropertyList.h"
+#include "tests/platform/recorded/Keys.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -28,11 +29,6 @@ std::string refusalOf(const QVariantMap& keys)
     const MachineResult result = check(keys);
     const auto* refusal = std::get_if<MachineRefusal>(&result);
     return refusal ? refusal->line.toStdString() : "accepted";
-}
-
-QVariantMap one(const char* key, const QVariant& value)
-{
-    return {{QString::fromLatin1(key), value}};
 }
 
 QVariantMap inStep(const QVariantMap& keys)

@@ -3,21 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "platform/UserDefaults.h"
+#include "tests/platform/recorded/Keys.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
 
 namespace {
-
-QVariantMap one(const char* key, const QVariant& value)
-{
-    return {{QString::fromLatin1(key), value}};
-}
-
-QString latin(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QVariantMap fullKeys()
 {

@@ -2,21 +2,12 @@
 
 #include "platform/recorded/OverlaidUserDefaults.h"
 #include "platform/recorded/RecordedPlatform.h"
+#include "tests/platform/recorded/Keys.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
 
 namespace {
-
-QVariantMap one(const char* key, const QVariant& value)
-{
-    return {{QString::fromLatin1(key), value}};
-}
-
-QString latin(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 class ProgramBundle : public Bundle
 {

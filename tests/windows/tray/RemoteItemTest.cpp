@@ -12,15 +12,11 @@
 #include "platform/linux/statusitem/StatusPictures.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 #include "windows/tray/HelperListener.h"
 
 namespace quindle {
 namespace {
-
-QString u(const char* text)
-{
-    return QString::fromUtf8(text);
-}
 
 /// The helper's own objects on one end of a connection, and their host on the other.
 class RemoteItemTest : public testing::Test

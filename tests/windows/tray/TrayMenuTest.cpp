@@ -4,14 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 
 namespace quindle {
 namespace {
-
-QString u(const char* text)
-{
-    return QString::fromUtf8(text);
-}
 
 QDBusVariant child(int id, const QVariantMap& properties, const QList<QDBusVariant>& children = {})
 {

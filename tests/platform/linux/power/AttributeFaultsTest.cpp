@@ -9,6 +9,7 @@
 
 #include "platform/linux/power/PowerSampler.h"
 #include "tests/platform/linux/power/Patience.h"
+#include "tests/platform/linux/power/RegistryKeys.h"
 #include "tests/platform/linux/power/SupplyTree.h"
 #include "tests/support/QtPrinters.h"
 
@@ -17,8 +18,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString chargeKey = QStringLiteral("CurrentCapacity");
-const QString cyclesKey = QStringLiteral("CycleCount");
 const QString voltageKey = QStringLiteral("Voltage");
 
 const SupplyTree::Texts discharging = {{"type", "Battery"},        {"status", "Discharging"},

@@ -7,13 +7,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-using Direction = TimeEstimator::Direction;
-
 /// One that has watched a battery with a falling current for so long.
-TimeEstimator watched(std::chrono::seconds time, std::optional<double> current, Direction direction)
+TimeEstimator watched(std::chrono::seconds time, std::optional<double> current,
+                      TimeEstimator::Direction direction)
 {
     TimeEstimator estimator;
-    estimator.setState(direction == Direction::Charging, direction);
+    estimator.setState(direction == TimeEstimator::Direction::Charging, direction);
     for (auto now = 100s; now <= 100s + time; now += 5s) {
         const double gone = std::chrono::duration<double>(now - 100s).count();
         estimator.addSample(
@@ -24,7 +23,9 @@ TimeEstimator watched(std::chrono::seconds time, std::optional<double> current, 
 
 TEST(EstimatorText, AnotherOneGoesOnFromThere)
 {
-    for (const Direction direction : {Direction::Charging, Direction::Discharging, Direction::Idle}) {
+    for (const TimeEstimator::Direction direction :
+         {TimeEstimator::Direction::Charging, TimeEstimator::Direction::Discharging,
+          TimeEstimator::Direction::Idle}) {
         for (const std::optional<double> current : {std::optional(1234.5), std::optional<double>()}) {
             TimeEstimator first = watched(300s, current, direction);
             TimeEstimator second;
@@ -32,20 +33,20 @@ TEST(EstimatorText, AnotherOneGoesOnFromThere)
             ASSERT_TRUE(memory);
             second.setMemory(*memory);
             for (TimeEstimator* estimator : {&first, &second}) {
-                estimator->setState(direction == Direction::Charging, direction);
+                estimator->setState(direction == TimeEstimator::Direction::Charging, direction);
                 estimator->addSample({405s, 2899, 5000.5, current});
             }
             EXPECT_EQ(first.minutesUntilEmpty(), second.minutesUntilEmpty());
             EXPECT_EQ(first.minutesUntilFull(), second.minutesUntilFull());
         }
     }
-    const TimeEstimator discharging = watched(300s, 1000, Direction::Discharging);
+    const TimeEstimator discharging = watched(300s, 1000, TimeEstimator::Direction::Discharging);
     EXPECT_TRUE(discharging.minutesUntilEmpty()) << "nothing was compared";
 }
 
 TEST(EstimatorText, IsShortHoweverLongItWatched)
 {
-    EXPECT_LT(estimatorText(watched(600s, 1000, Direction::Charging).memory()).size(), 2000);
+    EXPECT_LT(estimatorText(watched(600s, 1000, TimeEstimator::Direction::Charging).memory()).size(), 2000);
 }
 
 TEST(EstimatorText, OneThatKnowsNothingSaysNothing)

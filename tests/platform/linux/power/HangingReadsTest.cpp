@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/power/PowerSampler.h"
+#include "tests/platform/linux/power/RegistryKeys.h"
 #include "tests/platform/linux/power/SupplyTree.h"
 #include "tests/support/QtPrinters.h"
 
@@ -20,9 +21,6 @@ using namespace quindle;
 using namespace std::chrono_literals;
 
 namespace {
-
-const QString chargeKey = QStringLiteral("CurrentCapacity");
-const QString cyclesKey = QStringLiteral("CycleCount");
 
 /// Reads files, but for those that hang until they are let go.
 class Driver

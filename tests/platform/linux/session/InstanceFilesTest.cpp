@@ -19,17 +19,17 @@ namespace {
 
 using Outcome = StartAnswer::Outcome;
 
-const QString name = QStringLiteral("_0");
+const QString instanceName = QStringLiteral("_0");
 
 class InstanceFilesTest : public testing::Test
 {
 protected:
-    QString stem(const QString& display = name) const
+    QString stem(const QString& display = instanceName) const
     {
         return m_folder.path() + QStringLiteral("/quindle-helper-") + display;
     }
 
-    std::unique_ptr<QProcess> start(const QString& display = name) const
+    std::unique_ptr<QProcess> start(const QString& display = instanceName) const
     {
         auto process = std::make_unique<QProcess>();
         process->start(QStringLiteral(QUINDLE_INSTANCE_PEER), {stem(display)});
@@ -200,12 +200,20 @@ TEST_F(InstanceFilesTest, PlacesAreTheUsersOwn)
     qputenv("XDG_RUNTIME_DIR", folder);
     const QString inSettings = QStringLiteral("/configuration/quindle/quindle-helper-") +
                                QSysInfo::machineHostName() + QStringLiteral("-_0");
+<<<<<<< HEAD
     const QString program = QStringLiteral("quindle-helper");
     EXPECT_EQ(instanceFileStems(program, name),
               (std::vector{m_folder.path() + QStringLiteral("/quindle-helper-_0"), inSettings}));
     for (const char* runtime : {"", "relative", "/nowhere"}) {
         qputenv("XDG_RUNTIME_DIR", runtime);
         EXPECT_EQ(instanceFileStems(program, name), std::vector{inSettings}) << runtime;
+=======
+    EXPECT_EQ(instanceFileStems(instanceName),
+              (std::vector{m_folder.path() + QStringLiteral("/quindle-helper-_0"), inSettings}));
+    for (const char* runtime : {"", "relative", "/nowhere"}) {
+        qputenv("XDG_RUNTIME_DIR", runtime);
+        EXPECT_EQ(instanceFileStems(instanceName), std::vector{inSettings}) << runtime;
+>>>>>>> 86d995c (tests: compile the files of a folder four at a time)
     }
 }
 

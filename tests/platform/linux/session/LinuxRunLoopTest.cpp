@@ -7,23 +7,13 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/session/LinuxRunLoop.h"
+#include "tests/support/ComesTrue.h"
 
 using namespace quindle;
 
 namespace {
 
-// Runs the event loop until `done`, at most for a few seconds.
-template <typename Condition>
-bool runUntil(Condition done)
-{
-    QElapsedTimer watch;
-    watch.start();
-    while (!done() && watch.elapsed() < 5000)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
-    return done();
-}
-
-void runFor(int milliseconds)
+void runLoopFor(int milliseconds)
 {
     QEventLoop loop;
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
@@ -37,7 +27,7 @@ TEST(LinuxRunLoop, FiresAgainAndAgain)
     QElapsedTimer watch;
     watch.start();
     runLoop.scheduleRepeatingTimer(0.02, 0, [&] { ++fired; });
-    EXPECT_TRUE(runUntil([&] { return fired >= 3; }));
+    EXPECT_TRUE(comesTrue([&] { return fired >= 3; }));
     EXPECT_GE(watch.nsecsElapsed(), 60'000'000);
 }
 
@@ -51,7 +41,7 @@ TEST(LinuxRunLoop, TolerantTimerWaitsForTheOther)
     runLoop.scheduleRepeatingTimer(0.05, 0.05, [&] { fired += 'a'; });
     runLoop.scheduleRepeatingTimer(0.1, 0, [&] { fired += 'b'; });
     runs = true;
-    EXPECT_TRUE(runUntil([&] { return fired.size() >= 2; }));
+    EXPECT_TRUE(comesTrue([&] { return fired.size() >= 2; }));
     EXPECT_EQ(fired, "ab");
 }
 
@@ -64,7 +54,7 @@ TEST(LinuxRunLoop, InvalidatedTimerIsSilent)
     runLoop.scheduleRepeatingTimer(0.01, 0, [&] { ++other; });
     timer->invalidate();
     timer->invalidate();
-    EXPECT_TRUE(runUntil([&] { return other >= 3; }));
+    EXPECT_TRUE(comesTrue([&] { return other >= 3; }));
     EXPECT_EQ(fired, 0);
 }
 
@@ -81,7 +71,7 @@ TEST(LinuxRunLoop, TimersChangeInsideACallback)
         runLoop.scheduleRepeatingTimer(0.01, 0, [&] { fired += '3'; });
     });
     second = runLoop.scheduleRepeatingTimer(0.02, 0.02, [&] { fired += '2'; });
-    EXPECT_TRUE(runUntil([&] { return fired.size() >= 3; }));
+    EXPECT_TRUE(comesTrue([&] { return fired.size() >= 3; }));
     EXPECT_EQ(fired.substr(0, 3), "133"); // a slow machine makes up for more ticks at once
 }
 
@@ -94,11 +84,11 @@ TEST(LinuxRunLoop, TicksGoOnInALoopInsideACallback)
     runLoop.scheduleRepeatingTimer(0.01, 0, [&] {
         if (std::exchange(entered, true))
             return;
-        runFor(100);
+        runLoopFor(100);
         duringCallback = other;
     });
     runLoop.scheduleRepeatingTimer(0.01, 0, [&] { ++other; });
-    EXPECT_TRUE(runUntil([&] { return duringCallback > 0; }));
+    EXPECT_TRUE(comesTrue([&] { return duringCallback > 0; }));
     EXPECT_GE(duringCallback, 2);
 }
 
@@ -109,8 +99,8 @@ TEST(LinuxRunLoop, MissedTicksArePassedOver)
     int fired = 0;
     runLoop.scheduleRepeatingTimer(0.01, 0, [&] { ++fired; });
     now = 10;
-    EXPECT_TRUE(runUntil([&] { return fired == 1; }));
-    runFor(50);
+    EXPECT_TRUE(comesTrue([&] { return fired == 1; }));
+    runLoopFor(50);
     EXPECT_EQ(fired, 1);
 }
 
@@ -125,13 +115,13 @@ TEST(LinuxRunLoop, TicksComeOnTimeWhileSomebodyWantsThem)
     Punctuality wanted = runLoop.keepPunctual();
     const Punctuality copy = wanted;
     wanted = runLoop.keepPunctual();
-    EXPECT_TRUE(runUntil([&] { return fired == "a"; })); // at once
+    EXPECT_TRUE(comesTrue([&] { return fired == "a"; })); // at once
     now = 2000;
     wanted.reset();
-    EXPECT_TRUE(runUntil([&] { return fired == "aab"; }));
+    EXPECT_TRUE(comesTrue([&] { return fired == "aab"; }));
     now = 3500;
     wanted = runLoop.keepPunctual();
-    EXPECT_TRUE(runUntil([&] { return fired == "aaba"; }));
+    EXPECT_TRUE(comesTrue([&] { return fired == "aaba"; }));
 }
 
 TEST(LinuxRunLoop, TicksMayBeLateAgainWhenNobodyWantsThemOnTime)
@@ -144,7 +134,7 @@ TEST(LinuxRunLoop, TicksMayBeLateAgainWhenNobodyWantsThemOnTime)
     runLoop.keepPunctual();
     now = 1500;
     runLoop.keepPunctual().reset();
-    runFor(20);
+    runLoopFor(20);
     EXPECT_EQ(fired, 0);
 }
 
@@ -167,7 +157,7 @@ TEST(LinuxRunLoop, LettingGoOfTimerOrLoopIsSafe)
         timer = runLoop.scheduleRepeatingTimer(0.005, 0, [&] { ++fired; });
     }
     timer->invalidate();
-    runFor(30);
+    runLoopFor(30);
     EXPECT_EQ(fired, 0);
 }
 

@@ -1,4 +1,5 @@
 #include "tests/platform/linux/statusitem/FakeTrayHost.h"
+#include "tests/support/Texts.h"
 
 #include <array>
 
@@ -10,11 +11,6 @@
 namespace quindle {
 
 namespace {
-
-QString u(const char* text)
-{
-    return QString::fromUtf8(text);
-}
 
 QString watcherName()
 {

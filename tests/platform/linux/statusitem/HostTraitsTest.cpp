@@ -7,7 +7,7 @@ namespace {
 
 using Shape = HostShape;
 
-struct Case
+struct HostCase
 {
     const char* name;
     const char* program;
@@ -20,13 +20,13 @@ struct Case
     bool writesLabelInIconsPlace = false;
 };
 
-class HostTraitsTable : public testing::TestWithParam<Case>
+class HostTraitsTable : public testing::TestWithParam<HostCase>
 {
 };
 
 TEST_P(HostTraitsTable, isKnownByProcessThenDesktop)
 {
-    const Case& c = GetParam();
+    const HostCase& c = GetParam();
     const HostTraits traits = hostTraits({QString::fromUtf8(c.program), QString::fromUtf8(c.commandLine)},
                                          QString::fromUtf8(c.desktop));
     EXPECT_EQ(traits.shape, c.shape);
@@ -39,33 +39,33 @@ TEST_P(HostTraitsTable, isKnownByProcessThenDesktop)
 INSTANTIATE_TEST_SUITE_P(
     Hosts, HostTraitsTable,
     testing::Values(
-        Case{"gnome", "gnome-shell", "/usr/bin/gnome-shell", "GNOME", Shape::Label, false, false, true},
-        Case{"mateTray", "notification-area-applet", "", "MATE", Shape::Wide, false, false, false, true},
-        Case{"mateSecondTray", "mate-panel", "mate-panel", "MATE", Shape::Label},
-        Case{"indicators", "ayatana-indicator-application-service", "", "MATE", Shape::Label, true},
-        Case{"xfce", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsystray.so 1", "XFCE",
-             Shape::Square},
-        Case{"xfceSecondTray", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsntray.so 1", "XFCE",
-             Shape::Square},
-        Case{"lxqt", "lxqt-panel", "", "LXQt", Shape::Square, false, true},
-        Case{"plasma", "kded5", "", "KDE", Shape::Square, false, false, true},
-        Case{"plasma6", "kded6", "", "KDE", Shape::Square, false, false, true},
-        Case{"waybar", "waybar", "", "sway", Shape::Wide},
-        Case{"swaybar", "swaybar", "", "sway", Shape::Square},
-        Case{"cinnamon", "xapp-sn-watcher", "", "X-Cinnamon", Shape::Wide},
-        Case{"processBeforeDesktop", "waybar", "", "GNOME", Shape::Wide},
-        Case{"unreadableProgramReadableArguments", "", "/usr/bin/waybar -c x", "", Shape::Wide},
-        Case{"hiddenProcessOnGnome", "", "", "ubuntu:GNOME", Shape::Label, false, false, true},
-        Case{"hiddenProcessOnBudgie", "", "", "Budgie:GNOME", Shape::Square},
-        Case{"hiddenProcessOnCinnamon", "", "", "X-Cinnamon", Shape::Wide},
-        Case{"hiddenProcessOnLxqt", "", "", "LXQt", Shape::Square, false, true},
-        Case{"hiddenProcessOnMate", "", "", "MATE", Shape::Wide, false, false, false, true},
-        Case{"hiddenProcessOnPlasma", "", "", "KDE", Shape::Square, false, false, true},
-        Case{"hiddenProcessOnSway", "", "", "sway", Shape::Square},
-        Case{"unknownProgramKnownDesktop", "some-watcher", "some-watcher", "GNOME", Shape::Label, false,
-             false, true},
-        Case{"allUnknown", "some-watcher", "some-watcher", "Other", Shape::Square},
-        Case{"nothing", "", "", "", Shape::Square}),
+        HostCase{"gnome", "gnome-shell", "/usr/bin/gnome-shell", "GNOME", Shape::Label, false, false, true},
+        HostCase{"mateTray", "notification-area-applet", "", "MATE", Shape::Wide, false, false, false, true},
+        HostCase{"mateSecondTray", "mate-panel", "mate-panel", "MATE", Shape::Label},
+        HostCase{"indicators", "ayatana-indicator-application-service", "", "MATE", Shape::Label, true},
+        HostCase{"xfce", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsystray.so 1", "XFCE",
+                 Shape::Square},
+        HostCase{"xfceSecondTray", "wrapper-2.0", "/usr/lib/xfce4/panel/wrapper-2.0 libsntray.so 1", "XFCE",
+                 Shape::Square},
+        HostCase{"lxqt", "lxqt-panel", "", "LXQt", Shape::Square, false, true},
+        HostCase{"plasma", "kded5", "", "KDE", Shape::Square, false, false, true},
+        HostCase{"plasma6", "kded6", "", "KDE", Shape::Square, false, false, true},
+        HostCase{"waybar", "waybar", "", "sway", Shape::Wide},
+        HostCase{"swaybar", "swaybar", "", "sway", Shape::Square},
+        HostCase{"cinnamon", "xapp-sn-watcher", "", "X-Cinnamon", Shape::Wide},
+        HostCase{"processBeforeDesktop", "waybar", "", "GNOME", Shape::Wide},
+        HostCase{"unreadableProgramReadableArguments", "", "/usr/bin/waybar -c x", "", Shape::Wide},
+        HostCase{"hiddenProcessOnGnome", "", "", "ubuntu:GNOME", Shape::Label, false, false, true},
+        HostCase{"hiddenProcessOnBudgie", "", "", "Budgie:GNOME", Shape::Square},
+        HostCase{"hiddenProcessOnCinnamon", "", "", "X-Cinnamon", Shape::Wide},
+        HostCase{"hiddenProcessOnLxqt", "", "", "LXQt", Shape::Square, false, true},
+        HostCase{"hiddenProcessOnMate", "", "", "MATE", Shape::Wide, false, false, false, true},
+        HostCase{"hiddenProcessOnPlasma", "", "", "KDE", Shape::Square, false, false, true},
+        HostCase{"hiddenProcessOnSway", "", "", "sway", Shape::Square},
+        HostCase{"unknownProgramKnownDesktop", "some-watcher", "some-watcher", "GNOME", Shape::Label, false,
+                 false, true},
+        HostCase{"allUnknown", "some-watcher", "some-watcher", "Other", Shape::Square},
+        HostCase{"nothing", "", "", "", Shape::Square}),
     [](const auto& row) { return row.param.name; });
 
 TEST(HostTraits, choiceOverridesTheShape)

@@ -14,6 +14,7 @@
 #include "tests/platform/linux/statusitem/FakeTrayHost.h"
 #include "tests/platform/linux/statusitem/PrivateBus.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 
 namespace quindle {
 namespace {
@@ -22,11 +23,6 @@ constexpr auto itemPath = "/StatusNotifierItem";
 constexpr auto itemInterface = "org.kde.StatusNotifierItem";
 constexpr auto menuObject = "/MenuBar";
 constexpr auto menuInterface = "com.canonical.dbusmenu";
-
-QString u(const char* text)
-{
-    return QString::fromUtf8(text);
-}
 
 template <typename Type>
 Type demarshalled(const QVariant& value)

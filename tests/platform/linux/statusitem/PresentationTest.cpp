@@ -3,40 +3,36 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 
 namespace quindle {
 namespace {
 
-using Kind = Picture::Kind;
-
-QString u(const char* text)
-{
-    return QString::fromUtf8(text);
-}
+using PictureKind = Picture::Kind;
 
 constexpr HostTraits labelHost{HostShape::Label};
 constexpr HostTraits wideHost{HostShape::Wide};
 constexpr HostTraits squareHost{HostShape::Square};
 
-struct Case
+struct PictureCase
 {
     const char* name;
     HostShape shape;
     const char* title;
     const char* image;
     const char* fallback;
-    Kind kind;
+    PictureKind kind;
     const char* drawnImage;
     const char* drawnText;
 };
 
-class PictureTable : public testing::TestWithParam<Case>
+class PictureTable : public testing::TestWithParam<PictureCase>
 {
 };
 
 TEST_P(PictureTable, isNeverEmptyUnlessTheHostWritesTheTitle)
 {
-    const Case& c = GetParam();
+    const PictureCase& c = GetParam();
     const ItemContents contents{u(c.title), u(c.image), u(c.fallback), {}, 12.0};
     const Picture picture = present(contents, {c.shape}).picture;
     EXPECT_EQ(picture.kind, c.kind);
@@ -47,21 +43,26 @@ TEST_P(PictureTable, isNeverEmptyUnlessTheHostWritesTheTitle)
 INSTANTIATE_TEST_SUITE_P(
     Pictures, PictureTable,
     testing::Values(
-        Case{"labelWithIcon", HostShape::Label, "87.0%", "#bat34", "87", Kind::Icon, "#bat34", ""},
-        Case{"labelWithoutIcon", HostShape::Label, "87.0%", "", "87", Kind::Transparent, "", ""},
-        Case{"labelWithoutAnything", HostShape::Label, "", "", "", Kind::Icon, "AppIconBW", ""},
-        Case{"labelWithoutTitle", HostShape::Label, "", "", "87", Kind::Text, "", "87"},
-        Case{"labelBlankTitle", HostShape::Label, " \n ", "", "", Kind::Icon, "AppIconBW", ""},
-        Case{"wideWithIcon", HostShape::Wide, "87.0%", "#bat34", "87", Kind::Wide, "#bat34", "87.0%"},
-        Case{"wideWithoutIcon", HostShape::Wide, "87.0%", "", "87", Kind::Wide, "", "87.0%"},
-        Case{"wideIconOnly", HostShape::Wide, "", "#bat34", "87", Kind::Icon, "#bat34", ""},
-        Case{"wideWithoutAnything", HostShape::Wide, "", "", "", Kind::Icon, "AppIconBW", ""},
-        Case{"wideLines", HostShape::Wide, "a\nb\t\n", "", "", Kind::Wide, "", "a b"},
-        Case{"squareWithIcon", HostShape::Square, "87.0%", "#bat34", "87", Kind::Icon, "#bat34", ""},
-        Case{"squareWithoutIcon", HostShape::Square, "87.0%", "", "87", Kind::Text, "", "87"},
-        Case{"squareFull", HostShape::Square, "100.0%", "", "100", Kind::Text, "", "100"},
-        Case{"squareTooLong", HostShape::Square, "x", "", "-inf", Kind::Icon, "AppIconBW", ""},
-        Case{"squareWithoutFallback", HostShape::Square, "87.0%", "", "", Kind::Icon, "AppIconBW", ""}),
+        PictureCase{"labelWithIcon", HostShape::Label, "87.0%", "#bat34", "87", PictureKind::Icon, "#bat34",
+                    ""},
+        PictureCase{"labelWithoutIcon", HostShape::Label, "87.0%", "", "87", PictureKind::Transparent, "",
+                    ""},
+        PictureCase{"labelWithoutAnything", HostShape::Label, "", "", "", PictureKind::Icon, "AppIconBW", ""},
+        PictureCase{"labelWithoutTitle", HostShape::Label, "", "", "87", PictureKind::Text, "", "87"},
+        PictureCase{"labelBlankTitle", HostShape::Label, " \n ", "", "", PictureKind::Icon, "AppIconBW", ""},
+        PictureCase{"wideWithIcon", HostShape::Wide, "87.0%", "#bat34", "87", PictureKind::Wide, "#bat34",
+                    "87.0%"},
+        PictureCase{"wideWithoutIcon", HostShape::Wide, "87.0%", "", "87", PictureKind::Wide, "", "87.0%"},
+        PictureCase{"wideIconOnly", HostShape::Wide, "", "#bat34", "87", PictureKind::Icon, "#bat34", ""},
+        PictureCase{"wideWithoutAnything", HostShape::Wide, "", "", "", PictureKind::Icon, "AppIconBW", ""},
+        PictureCase{"wideLines", HostShape::Wide, "a\nb\t\n", "", "", PictureKind::Wide, "", "a b"},
+        PictureCase{"squareWithIcon", HostShape::Square, "87.0%", "#bat34", "87", PictureKind::Icon, "#bat34",
+                    ""},
+        PictureCase{"squareWithoutIcon", HostShape::Square, "87.0%", "", "87", PictureKind::Text, "", "87"},
+        PictureCase{"squareFull", HostShape::Square, "100.0%", "", "100", PictureKind::Text, "", "100"},
+        PictureCase{"squareTooLong", HostShape::Square, "x", "", "-inf", PictureKind::Icon, "AppIconBW", ""},
+        PictureCase{"squareWithoutFallback", HostShape::Square, "87.0%", "", "", PictureKind::Icon,
+                    "AppIconBW", ""}),
     [](const auto& row) { return row.param.name; });
 
 TEST(Presentation, textsOfAnOrdinaryTitle)

@@ -3,14 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 
 namespace quindle {
 namespace {
-
-QString u(const char* text)
-{
-    return QString::fromUtf8(text);
-}
 
 TEST(BusText, carriesEverythingButNul)
 {

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+inline const QString chargeKey = QStringLiteral("CurrentCapacity");
+inline const QString cyclesKey = QStringLiteral("CycleCount");
+
+} // namespace quindle
