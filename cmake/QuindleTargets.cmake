@@ -8,6 +8,7 @@ function(quindle_library name)
     target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE ${ARG_PRIVATE_USES})
     quindle_counts_coverage(${name})
     quindle_compiles_together(${name} 12)
+    quindle_reads_precompiled(${name} ${ARG_USES})
 endfunction()
 
 # Of the libraries only: which of their own lines the tests run means nothing.
@@ -26,6 +27,31 @@ function(quindle_compiles_together name at_a_time)
         # Meant for headers, which a source file looks like here.
         target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
     endif()
+endfunction()
+
+# What most files of all libraries read, compiled once. Another time for those with widgets, since Qt's headers ask which of
+# its libraries are used.
+function(quindle_reads_precompiled name)
+    if(QUINDLE_FILE_BY_FILE)
+        return()
+    endif()
+    set(headers quindle_precompiled)
+    if("Qt6::Widgets" IN_LIST ARGN)
+        set(headers quindle_precompiled_widgets)
+    endif()
+    target_precompile_headers(${name} REUSE_FROM ${headers})
+    # g++ does not know any more which of these lines are the standard library's own, and doubts them too.
+    target_compile_options(${name} PRIVATE
+        "$<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized;-Wno-stringop-overread>")
+endfunction()
+
+# quindle_precompile(NAME LIBRARY header...)
+function(quindle_precompile name library)
+    add_library(${name} OBJECT ${CMAKE_SOURCE_DIR}/cmake/Precompiled.cpp)
+    target_link_libraries(${name} PRIVATE ${library})
+    quindle_counts_coverage(${name})
+    target_precompile_headers(${name} PRIVATE <algorithm> <array> <functional> <memory> <optional> <utility> <vector>
+        <QByteArray> <QDateTime> <QLoggingCategory> <QObject> <QStringList> <QVariantMap> ${ARGN})
 endfunction()
 
 # What every test reads.

@@ -200,20 +200,12 @@ TEST_F(InstanceFilesTest, PlacesAreTheUsersOwn)
     qputenv("XDG_RUNTIME_DIR", folder);
     const QString inSettings = QStringLiteral("/configuration/quindle/quindle-helper-") +
                                QSysInfo::machineHostName() + QStringLiteral("-_0");
-<<<<<<< HEAD
     const QString program = QStringLiteral("quindle-helper");
-    EXPECT_EQ(instanceFileStems(program, name),
+    EXPECT_EQ(instanceFileStems(program, instanceName),
               (std::vector{m_folder.path() + QStringLiteral("/quindle-helper-_0"), inSettings}));
     for (const char* runtime : {"", "relative", "/nowhere"}) {
         qputenv("XDG_RUNTIME_DIR", runtime);
-        EXPECT_EQ(instanceFileStems(program, name), std::vector{inSettings}) << runtime;
-=======
-    EXPECT_EQ(instanceFileStems(instanceName),
-              (std::vector{m_folder.path() + QStringLiteral("/quindle-helper-_0"), inSettings}));
-    for (const char* runtime : {"", "relative", "/nowhere"}) {
-        qputenv("XDG_RUNTIME_DIR", runtime);
-        EXPECT_EQ(instanceFileStems(instanceName), std::vector{inSettings}) << runtime;
->>>>>>> 86d995c (tests: compile the files of a folder four at a time)
+        EXPECT_EQ(instanceFileStems(program, instanceName), std::vector{inSettings}) << runtime;
     }
 }
 
