@@ -47,7 +47,9 @@ endfunction()
 
 # quindle_precompile(NAME LIBRARY header...)
 function(quindle_precompile name library)
-    add_library(${name} OBJECT ${CMAKE_SOURCE_DIR}/cmake/Precompiled.cpp)
+    # CMake compiles headers for a target only if it has a source file.
+    file(CONFIGURE OUTPUT ${name}.cpp CONTENT "// Nothing\n")
+    add_library(${name} OBJECT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
     target_link_libraries(${name} PRIVATE ${library})
     quindle_counts_coverage(${name})
     target_precompile_headers(${name} PRIVATE <algorithm> <array> <functional> <memory> <optional> <utility> <vector>

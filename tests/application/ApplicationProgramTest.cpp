@@ -17,6 +17,7 @@
 #include "tests/support/ComesTrue.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 #include "view/FactRow.h"
 #include "widgets/BoundControls.h"
 #include "widgets/PlainLabel.h"
@@ -24,11 +25,6 @@
 using namespace quindle;
 
 namespace {
-
-QString latin(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 struct ApplicationProgramTest : testing::Test
 {

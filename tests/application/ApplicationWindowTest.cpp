@@ -10,16 +10,12 @@
 #include "tests/support/ComesTrue.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 #include "widgets/PlainLabel.h"
 
 using namespace quindle;
 
 namespace {
-
-QString latin(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 struct ApplicationWindowTest : testing::Test
 {

@@ -18,16 +18,12 @@
 #include "tests/records/TemporaryHistory.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/Texts.h"
 #include "widgets/LinkButton.h"
 
 using namespace quindle;
 
 namespace {
-
-QString latin(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 struct HistoryPagesTest : TemporaryHistory
 {

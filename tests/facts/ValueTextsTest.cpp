@@ -24,7 +24,7 @@ TEST(ValueTexts, FiguresHaveOneDecimal)
 
 TEST(ValueTexts, WhatIsNotFiniteIsNotKnown)
 {
-    for (const double number : {nan, infinity, -infinity}) {
+    for (const double number : {notANumber, infinity, -infinity}) {
         EXPECT_EQ(figureText(number), QString());
         EXPECT_EQ(percentText(number), QString());
         EXPECT_EQ(wattsText(number), QString());

@@ -16,8 +16,18 @@ constexpr std::optional<BarColour> unchanged;
 TEST(ChargeBarColour, Bands)
 {
     const std::pair<double, std::optional<BarColour>> cases[]{
-        {40, green}, {60, green}, {100, green}, {infinity, green}, {39.9, yellow},         {20, yellow},
-        {19.9, red}, {0, red},    {-0.0, red},  {-5, unchanged},   {-infinity, unchanged}, {nan, unchanged},
+        {40, green},
+        {60, green},
+        {100, green},
+        {infinity, green},
+        {39.9, yellow},
+        {20, yellow},
+        {19.9, red},
+        {0, red},
+        {-0.0, red},
+        {-5, unchanged},
+        {-infinity, unchanged},
+        {notANumber, unchanged},
     };
     for (const auto& [charge, colour] : cases)
         EXPECT_EQ(chargeBarColour(charge), colour) << charge;
@@ -33,11 +43,24 @@ struct HealthCase
 TEST(HealthBarColour, TestsTheChargeBelow80)
 {
     const HealthCase cases[]{
-        {95, 30, green},     {80, 10, green},       {80, nan, green},   {infinity, -1, green},
-        {70, 70, yellow},    {70, 61, yellow},      {70, 79.9, yellow}, {70, 60, red},
-        {70, 30, red},       {70, 80, red},         {70, 100, red},     {79.9, 0, red},
-        {70, -1, unchanged}, {70, nan, unchanged},  {nan, 70, yellow},  {nan, 10, red},
-        {70, infinity, red}, {nan, nan, unchanged},
+        {95, 30, green},
+        {80, 10, green},
+        {80, notANumber, green},
+        {infinity, -1, green},
+        {70, 70, yellow},
+        {70, 61, yellow},
+        {70, 79.9, yellow},
+        {70, 60, red},
+        {70, 30, red},
+        {70, 80, red},
+        {70, 100, red},
+        {79.9, 0, red},
+        {70, -1, unchanged},
+        {70, notANumber, unchanged},
+        {notANumber, 70, yellow},
+        {notANumber, 10, red},
+        {70, infinity, red},
+        {notANumber, notANumber, unchanged},
     };
     for (const HealthCase& row : cases)
         EXPECT_EQ(healthBarColour(row.health, row.charge), row.colour) << row.health << ' ' << row.charge;

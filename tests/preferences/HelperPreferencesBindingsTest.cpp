@@ -9,14 +9,13 @@
 #include "tests/preferences/Input.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 #include "widgets/BoundControls.h"
 #include "widgets/RadioMatrix.h"
 
 namespace quindle {
 
 namespace {
-
-using test::latin;
 
 class HelperPreferencesBindingsTest : public testing::Test, protected test::MenuBarFixture
 {

@@ -7,14 +7,13 @@
 #include "preferences/panes/ParameterPopover.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 #include "widgets/BoundControls.h"
 #include "widgets/RadioMatrix.h"
 
 namespace quindle {
 
 namespace {
-
-using test::latin;
 
 class HelperPreferencesTest : public testing::Test, protected test::MenuBarFixture
 {

@@ -9,6 +9,7 @@
 #include "preferences/panes/HelperPreferences.h"
 #include "preferences/panes/HelperPreferencesWindow.h"
 #include "tests/preferences/SettingsFixture.h"
+#include "tests/support/Texts.h"
 
 namespace quindle::test {
 
@@ -57,10 +58,5 @@ struct MenuBarFixture : SettingsFixture
         return *control(group).findChildren<QAbstractButton*>().at(tag);
     }
 };
-
-inline QString latin(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 } // namespace quindle::test

@@ -8,13 +8,12 @@
 #include "preferences/panes/SettingsBinder.h"
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 #include "widgets/RadioMatrix.h"
 
 namespace quindle {
 
 namespace {
-
-using test::latin;
 
 class MenuBarPaneTest : public testing::Test, protected test::SettingsFixture
 {

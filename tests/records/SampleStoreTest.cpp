@@ -13,7 +13,7 @@ using namespace quindle;
 
 namespace {
 
-constexpr qint64 moment = 1'700'000'000;
+constexpr qint64 firstMoment = 1'700'000'000;
 constexpr qint64 always = std::numeric_limits<qint64>::max();
 
 using SampleStoreTest = TemporaryHistory;
@@ -21,17 +21,17 @@ using Samples = std::vector<Sample>;
 
 TEST_F(SampleStoreTest, SamplesComeBackAsTheyWere)
 {
-    const Samples samples{{moment, 80.25, -12.5, SampleState::Discharging},
-                          {moment + 60, 79, std::nullopt, SampleState::Unknown},
-                          {moment + 120, 100, 0.0, SampleState::Full},
-                          {moment + 180, 0, 45.5, SampleState::Charging}};
+    const Samples samples{{firstMoment, 80.25, -12.5, SampleState::Discharging},
+                          {firstMoment + 60, 79, std::nullopt, SampleState::Unknown},
+                          {firstMoment + 120, 100, 0.0, SampleState::Full},
+                          {firstMoment + 180, 0, 45.5, SampleState::Charging}};
     EXPECT_EQ(SampleStore(database()).append(samples).fault, QString());
     SampleStore store(database());
     EXPECT_EQ(store.samplesBetween(0, always), samples);
-    EXPECT_EQ(store.samplesBetween(moment + 60, moment + 120),
+    EXPECT_EQ(store.samplesBetween(firstMoment + 60, firstMoment + 120),
               Samples(samples.begin() + 1, samples.begin() + 3));
-    EXPECT_EQ(store.firstMoment(), moment);
-    EXPECT_EQ(store.lastMoment(), moment + 180);
+    EXPECT_EQ(store.firstMoment(), firstMoment);
+    EXPECT_EQ(store.lastMoment(), firstMoment + 180);
 }
 
 TEST_F(SampleStoreTest, ReadingMakesNoFile)
@@ -49,7 +49,7 @@ TEST_F(SampleStoreTest, AReaderSeesWhatAnotherWrites)
     SampleStore reader(database());
     EXPECT_TRUE(reader.samplesBetween(0, always).empty());
     for (qint64 number = 1; number < 4; ++number) {
-        SampleStore(database()).append({sampleAt(moment + number)});
+        SampleStore(database()).append({sampleAt(firstMoment + number)});
         EXPECT_EQ(reader.samplesBetween(0, always).size(), static_cast<std::size_t>(number));
     }
     QFile::remove(database());
@@ -59,17 +59,18 @@ TEST_F(SampleStoreTest, AReaderSeesWhatAnotherWrites)
 TEST_F(SampleStoreTest, SortedAndOneOfEachMoment)
 {
     SampleStore store(database());
-    store.append({sampleAt(moment + 60, 49), sampleAt(moment, 50)});
-    EXPECT_TRUE(store.append({sampleAt(moment, 10), sampleAt(moment + 30, 48)}).isGood());
-    EXPECT_EQ(store.samplesBetween(0, always),
-              (Samples{sampleAt(moment, 50), sampleAt(moment + 30, 48), sampleAt(moment + 60, 49)}));
+    store.append({sampleAt(firstMoment + 60, 49), sampleAt(firstMoment, 50)});
+    EXPECT_TRUE(store.append({sampleAt(firstMoment, 10), sampleAt(firstMoment + 30, 48)}).isGood());
+    EXPECT_EQ(
+        store.samplesBetween(0, always),
+        (Samples{sampleAt(firstMoment, 50), sampleAt(firstMoment + 30, 48), sampleAt(firstMoment + 60, 49)}));
 }
 
 TEST_F(SampleStoreTest, TheOtherServicesSamplesAreMarked)
 {
     SampleStore store(database());
-    store.append({sampleAt(moment)}, SampleSource::UPower);
-    store.append({sampleAt(moment + 60)});
+    store.append({sampleAt(firstMoment)}, SampleSource::UPower);
+    store.append({sampleAt(firstMoment + 60)});
     const auto stored = store.storedBetween(0, always);
     ASSERT_EQ(stored.size(), 2U);
     EXPECT_EQ(stored[0].source, SampleSource::UPower);
@@ -80,7 +81,7 @@ TEST_F(SampleStoreTest, NobodyElseMayRead)
 {
     const mode_t former = ::umask(0);
     SampleStore store(database());
-    store.append({sampleAt(moment)});
+    store.append({sampleAt(firstMoment)});
     ::umask(former);
     EXPECT_EQ(modeOf(folder()), 0700U);
     const QStringList expected{QStringLiteral("history.sqlite"), QStringLiteral("history.sqlite-shm"),
@@ -92,38 +93,38 @@ TEST_F(SampleStoreTest, NobodyElseMayRead)
 
 TEST_F(SampleStoreTest, AFileThatOthersMayReadIsClosedToThem)
 {
-    SampleStore(database()).append({sampleAt(moment)});
+    SampleStore(database()).append({sampleAt(firstMoment)});
     ::chmod(QFile::encodeName(database()).constData(), 0644);
-    SampleStore(database()).append({sampleAt(moment + 1)});
+    SampleStore(database()).append({sampleAt(firstMoment + 1)});
     EXPECT_EQ(modeOf(database()), 0600U);
 }
 
 TEST_F(SampleStoreTest, OldSamplesAreThinnedInTheFile)
 {
     Samples samples;
-    for (qint64 old = moment - 400 * secondsOfDay; old <= moment; old += 900)
+    for (qint64 old = firstMoment - 400 * secondsOfDay; old <= firstMoment; old += 900)
         samples.push_back(sampleAt(old, static_cast<double>(old / 900 % 101)));
     SampleStore store(database());
     store.append(samples);
     const auto before = store.storedBetween(0, always);
-    EXPECT_TRUE(store.thin(moment).isGood());
+    EXPECT_TRUE(store.thin(firstMoment).isGood());
     const auto after = store.storedBetween(0, always);
-    EXPECT_EQ(after, thinned(before, moment));
+    EXPECT_EQ(after, thinned(before, firstMoment));
     EXPECT_LT(after.size(), before.size() / 3);
-    EXPECT_TRUE(store.thin(moment).isGood());
+    EXPECT_TRUE(store.thin(firstMoment).isGood());
     EXPECT_EQ(store.storedBetween(0, always), after);
     // One that comes late joins the value of its hour.
-    store.append({sampleAt(moment - 40 * secondsOfDay + 7)});
-    EXPECT_TRUE(store.thin(moment).isGood());
+    store.append({sampleAt(firstMoment - 40 * secondsOfDay + 7)});
+    EXPECT_TRUE(store.thin(firstMoment).isGood());
     EXPECT_EQ(store.storedBetween(0, always).size(), after.size());
 }
 
 TEST_F(SampleStoreTest, TheLimitOfAge)
 {
     SampleStore store(database());
-    store.append({sampleAt(moment - 1), sampleAt(moment), sampleAt(moment + 1)});
-    EXPECT_TRUE(store.removeBefore(moment).isGood());
-    EXPECT_EQ(store.samplesBetween(0, always), (Samples{sampleAt(moment), sampleAt(moment + 1)}));
+    store.append({sampleAt(firstMoment - 1), sampleAt(firstMoment), sampleAt(firstMoment + 1)});
+    EXPECT_TRUE(store.removeBefore(firstMoment).isGood());
+    EXPECT_EQ(store.samplesBetween(0, always), (Samples{sampleAt(firstMoment), sampleAt(firstMoment + 1)}));
 }
 
 TEST_F(SampleStoreTest, WhatIsRemovedLeavesNoTrace)
@@ -134,7 +135,7 @@ TEST_F(SampleStoreTest, WhatIsRemovedLeavesNoTrace)
     std::memcpy(&charge, &bits, sizeof charge);
     write(folder() + QStringLiteral("/history.sqlite.damaged-20260101-000000"), "damaged");
     SampleStore store(database());
-    store.append({sampleAt(moment, charge)});
+    store.append({sampleAt(firstMoment, charge)});
     store.setNote("daily", "1");
     ASSERT_TRUE(bytesOf(database() + QStringLiteral("-wal")).contains(trace));
     EXPECT_TRUE(store.removeAll().isGood());
@@ -166,7 +167,7 @@ protected:
         SampleStore store(database());
         Samples samples;
         for (qint64 number = 0; number < 5000; ++number)
-            samples.push_back(sampleAt(moment + number));
+            samples.push_back(sampleAt(firstMoment + number));
         store.append(samples);
     }
 
@@ -195,7 +196,7 @@ TEST_P(DamagedSampleStore, IsSetAsideAndNamed)
 {
     damage(GetParam());
     SampleStore store(database());
-    StoreOutcome outcome = store.thin(moment);
+    StoreOutcome outcome = store.thin(firstMoment);
     EXPECT_EQ(outcome.fault, QString());
     const QStringList left = files().filter(QStringLiteral("damaged"));
     ASSERT_EQ(left.size(), 1);
@@ -203,18 +204,18 @@ TEST_P(DamagedSampleStore, IsSetAsideAndNamed)
     EXPECT_EQ(outcome.notice, database() + QStringLiteral(" is damaged, set aside as ") + aside);
     EXPECT_EQ(bytesOf(aside), m_damaged);
     EXPECT_EQ(modeOf(aside), 0600U);
-    EXPECT_TRUE(store.append({sampleAt(moment)}).isGood());
-    EXPECT_EQ(store.samplesBetween(0, always), Samples{sampleAt(moment)});
+    EXPECT_TRUE(store.append({sampleAt(firstMoment)}).isGood());
+    EXPECT_EQ(store.samplesBetween(0, always), Samples{sampleAt(firstMoment)});
 }
 
 TEST_P(DamagedSampleStore, IsNeverTakenForAnEmptyOne)
 {
     damage(GetParam());
     SampleStore store(database());
-    const StoreOutcome outcome = store.append({sampleAt(moment - 10)});
+    const StoreOutcome outcome = store.append({sampleAt(firstMoment - 10)});
     EXPECT_EQ(outcome.fault, QString());
     // Damage far from what was written shows at the day's work.
-    const StoreOutcome later = store.thin(moment);
+    const StoreOutcome later = store.thin(firstMoment);
     EXPECT_EQ(outcome.notice.isEmpty() + later.notice.isEmpty(), 1);
     EXPECT_EQ(files().filter(QStringLiteral("damaged")).size(), 1);
 }
@@ -226,7 +227,7 @@ TEST_F(SampleStoreTest, TwoDamagedOnesOfOneSecondAreBothKept)
 {
     for (int number = 0; number < 3; ++number) {
         write(database(), "damaged " + QByteArray::number(number));
-        EXPECT_FALSE(SampleStore(database()).append({sampleAt(moment)}).notice.isEmpty());
+        EXPECT_FALSE(SampleStore(database()).append({sampleAt(firstMoment)}).notice.isEmpty());
         QFile::remove(database());
     }
     EXPECT_EQ(files().filter(QStringLiteral("damaged")).size(), 3);
@@ -234,13 +235,13 @@ TEST_F(SampleStoreTest, TwoDamagedOnesOfOneSecondAreBothKept)
 
 TEST_F(SampleStoreTest, ANewerVersionsFileStaysAsItIs)
 {
-    SampleStore(database()).append({sampleAt(moment)});
+    SampleStore(database()).append({sampleAt(firstMoment)});
     Database file;
     ASSERT_TRUE(file.open(QFile::encodeName(database()), 1000) && file.run("PRAGMA user_version = 2"));
     file.close();
     const QByteArray before = bytesOf(database());
     SampleStore store(database());
-    const StoreOutcome outcome = store.append({sampleAt(moment + 1)});
+    const StoreOutcome outcome = store.append({sampleAt(firstMoment + 1)});
     EXPECT_EQ(outcome.fault,
               QStringLiteral("cannot write %1: it is of a newer version of Quindle").arg(database()));
     StoreOutcome looked;
@@ -253,7 +254,7 @@ TEST_F(SampleStoreTest, ANewerVersionsFileStaysAsItIs)
 TEST_F(SampleStoreTest, WhatIsNoFileIsNamed)
 {
     QDir().mkpath(database());
-    EXPECT_EQ(SampleStore(database()).append({sampleAt(moment)}).fault,
+    EXPECT_EQ(SampleStore(database()).append({sampleAt(firstMoment)}).fault,
               QStringLiteral("cannot write %1: it is not an ordinary file").arg(database()));
     QDir().rmdir(database());
     ASSERT_EQ(::mkfifo(QFile::encodeName(database()).constData(), 0600), 0);
@@ -265,7 +266,7 @@ TEST_F(SampleStoreTest, WhatIsNoFileIsNamed)
 TEST_F(SampleStoreTest, AFolderThatCannotBeMadeIsNamed)
 {
     write(folder(), "a file");
-    const StoreOutcome outcome = SampleStore(database()).append({sampleAt(moment)});
+    const StoreOutcome outcome = SampleStore(database()).append({sampleAt(firstMoment)});
     EXPECT_EQ(outcome.fault, QStringLiteral("cannot write %1: Not a directory").arg(database()));
     EXPECT_EQ(outcome.error, ENOTDIR);
 }
@@ -273,18 +274,18 @@ TEST_F(SampleStoreTest, AFolderThatCannotBeMadeIsNamed)
 TEST_F(SampleStoreTest, AFullDiskChangesNothing)
 {
     SampleStore store(database());
-    store.append({sampleAt(moment)});
+    store.append({sampleAt(firstMoment)});
     rlimit former = {};
     ::getrlimit(RLIMIT_FSIZE, &former);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     const rlimit small = {1024, former.rlim_max};
     ::setrlimit(RLIMIT_FSIZE, &small);
-    const StoreOutcome outcome = store.append({sampleAt(moment + 1)});
+    const StoreOutcome outcome = store.append({sampleAt(firstMoment + 1)});
     ::setrlimit(RLIMIT_FSIZE, &former);
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(outcome.fault, QStringLiteral("cannot write %1: File too large").arg(database()));
-    EXPECT_EQ(store.samplesBetween(0, always), Samples{sampleAt(moment)});
-    EXPECT_TRUE(store.append({sampleAt(moment + 2)}).isGood());
+    EXPECT_EQ(store.samplesBetween(0, always), Samples{sampleAt(firstMoment)});
+    EXPECT_TRUE(store.append({sampleAt(firstMoment + 2)}).isGood());
     EXPECT_EQ(files().filter(QStringLiteral("damaged")), QStringList());
 }
 
@@ -297,7 +298,7 @@ TEST_F(SampleStoreTest, AReadOnlyFolderIsNamed)
     const pid_t writer = forked([&] {
         if (::geteuid() == 0 && ::setresuid(65534, 65534, 65534) != 0)
             ::_exit(2);
-        const StoreOutcome outcome = SampleStore(database()).append({sampleAt(moment)});
+        const StoreOutcome outcome = SampleStore(database()).append({sampleAt(firstMoment)});
         ::_exit(outcome.fault == QStringLiteral("cannot write %1: Permission denied").arg(database()) ? 0
                                                                                                       : 1);
     });

@@ -10,4 +10,9 @@ inline QString u(const char* text)
     return QString::fromUtf8(text);
 }
 
+inline QString latin(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
 } // namespace quindle

@@ -2,12 +2,9 @@
 
 #include <QVariantMap>
 
-namespace quindle {
+#include "tests/support/Texts.h"
 
-inline QString latin(const char* text)
-{
-    return QString::fromLatin1(text);
-}
+namespace quindle {
 
 /// A dictionary of one key.
 inline QVariantMap one(const char* key, const QVariant& value)

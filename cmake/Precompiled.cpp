@@ -1,1 +1,0 @@
-// Nothing: CMake compiles headers for a target only if it has a source file.
