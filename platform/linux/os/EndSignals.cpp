@@ -1,5 +1,7 @@
 #include "platform/linux/os/EndSignals.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <ctime>
 #include <mutex>
@@ -58,11 +60,23 @@ sigset_t signalsToEndBy()
     return signals;
 }
 
-timespec timeOf(std::chrono::milliseconds duration)
+timespec timeOf(std::chrono::nanoseconds duration)
 {
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(duration);
-    const std::chrono::nanoseconds rest = duration - seconds;
-    return {.tv_sec = seconds.count(), .tv_nsec = rest.count()};
+    return {.tv_sec = seconds.count(), .tv_nsec = (duration - seconds).count()};
+}
+
+/// Waits for another of the signals. A process that is stopped and goes on meanwhile, or is looked at by a
+/// debugger, is woken without one.
+void waitForNext(const sigset_t& signals, std::chrono::milliseconds longest)
+{
+    const auto deadline = std::chrono::steady_clock::now() + longest;
+    int number = -1;
+    do {
+        const auto left = deadline - std::chrono::steady_clock::now();
+        const timespec time = timeOf(std::max(left, std::chrono::nanoseconds(0)));
+        number = ::sigtimedwait(&signals, nullptr, &time);
+    } while (number < 0 && errno == EINTR);
 }
 
 [[noreturn]] void endBy(int number, const sigset_t& signals)
@@ -86,8 +100,7 @@ EndSignals::EndSignals(std::chrono::milliseconds patience, std::function<void()>
         if (::sigwait(&signals, &number) != 0)
             return;
         wish->fulfil();
-        const timespec longest = timeOf(patience);
-        ::sigtimedwait(&signals, nullptr, &longest);
+        waitForNext(signals, patience);
         endBy(number, signals);
     };
     if (!startThread(wait))

@@ -50,6 +50,28 @@ TEST(EndSignalsDeathTest, EndAProcessThatHangs)
         testing::KilledBySignal(SIGTERM), "");
 }
 
+// Stopped and continued, as by a terminal's job control, while it ends in its own way.
+TEST(EndSignalsDeathTest, LetAStoppedProcessEndInItsOwnWay)
+{
+    EXPECT_EXIT(
+        {
+            const EndSignals signals(hours, [] {
+                const pid_t child = ::fork();
+                if (child == 0) {
+                    ::usleep(50'000);
+                    ::kill(::getppid(), SIGCONT);
+                    ::_exit(0);
+                }
+                ::kill(::getpid(), SIGSTOP);
+                ::usleep(100'000);
+                std::_Exit(inItsOwnWay);
+            });
+            signalOneself(SIGTERM);
+            QCoreApplication::exec();
+        },
+        testing::ExitedWithCode(inItsOwnWay), "");
+}
+
 TEST(EndSignalsDeathTest, EndItAtOnceTheSecondTime)
 {
     EXPECT_EXIT(
