@@ -17,6 +17,7 @@ from helper_case import HELPER, Desktop, HelperCase, charge_step, machine, wait_
 from preferences_case import ACCESSIBILITY, PreferencesCase, nodes
 
 OPENINGS = int(os.environ.get("QUINDLE_VIEW_OPENINGS", "40"))
+# The sanitizers' allocator does, so that memory grows without a leak; those they report themselves.
 KEEPS_FREED_MEMORY = os.environ.get("QUINDLE_KEEPS_FREED_MEMORY") == "1"
 
 
@@ -199,7 +200,6 @@ class Windows(WindowsCase):
         tree = self.desktop.call("/usr/bin/python3", "-W", "ignore", ACCESSIBILITY, "tree", "quindle-helper")
         return [node["name"] for node in nodes(json.loads(tree or "[]"))]
 
-    @unittest.skipIf(KEEPS_FREED_MEMORY, "the sanitizers' allocator keeps what is freed")
     def test_many_openings_leave_the_helper_s_memory_flat(self):
         self.replace('exec "$real" "$@"')
         process = self.start_own()
@@ -217,7 +217,8 @@ class Windows(WindowsCase):
         print(f"\n  {OPENINGS} openings: memory {memory} -> {memory_after} kB, files {files} -> {files_after}", file=sys.stderr)
         self.assertEqual(files_after, files)
         # Heaps settle late on a busy machine: 64 kB were seen once. Three kilobytes left by each opening would be more.
-        self.assertLess(memory_after - memory, 120, "kB")
+        if not KEEPS_FREED_MEMORY:
+            self.assertLess(memory_after - memory, 120, "kB")
 
 
 class WithoutADisplay(FaultCase):
