@@ -1,44 +1,20 @@
 #include "app/HelperCommandLine.h"
 
-#include <algorithm>
-#include <iterator>
+#include "common/CommandLineOptions.h"
 
 namespace quindle {
 
-namespace {
-
-struct NamedCall
-{
-    QStringView name;
-    HelperCommandLine::Call call;
-};
-
-constexpr NamedCall namedCalls[] = {
-    {u"--help", HelperCommandLine::Call::Help},
-    {u"-h", HelperCommandLine::Call::Help},
-    {u"--version", HelperCommandLine::Call::Version},
-};
-
-const NamedCall* callNamed(const QString& argument)
-{
-    const auto* found = std::find_if(std::begin(namedCalls), std::end(namedCalls),
-                                     [&](const NamedCall& named) { return argument == named.name; });
-    return found == std::end(namedCalls) ? nullptr : found;
-}
-
-} // namespace
-
 HelperCommandLine parseHelperCommandLine(const QStringList& arguments)
 {
-    HelperCommandLine commandLine;
-    for (const QString& argument : arguments) {
-        const NamedCall* named = callNamed(argument);
-        if (!named)
-            return {commandLine.call, QStringLiteral("unknown argument \"%1\"").arg(argument)};
-        if (commandLine.call == HelperCommandLine::Call::Run)
-            commandLine.call = named->call;
-    }
-    return commandLine;
+    using Call = HelperCommandLine::Call;
+    bool help = false;
+    bool version = false;
+    const CommandLineOption options[] = {{"--help", &help}, {"-h", &help}, {"--version", &version}};
+    const QString fault = readCommandLine(arguments, options, OptionValues::Any);
+    // Whatever was noted, the first argument was.
+    if (version && arguments.constFirst() == QStringLiteral("--version"))
+        return {Call::Version, fault};
+    return {help ? Call::Help : Call::Run, fault};
 }
 
 QString helperHelpText()

@@ -1,6 +1,7 @@
 #include "application/ApplicationCommandLine.h"
 
 #include "application/commands/ExportCommand.h"
+#include "common/CommandLineOptions.h"
 
 namespace quindle {
 
@@ -19,65 +20,19 @@ struct Given
     std::optional<QString> since;
 };
 
-struct Flag
-{
-    const char* name;
-    bool Given::*member;
-};
-
-constexpr Flag flags[] = {
-    {"--help", &Given::help},
-    {"-h", &Given::help},
-    {"--version", &Given::version},
-    {"--record", &Given::record},
-    {"--with-serials", &Given::withSerials},
-};
-
-struct Option
-{
-    const char* name;
-    std::optional<QString> Given::*member;
-};
-
-constexpr Option options[] = {
-    {"--export", &Given::format},
-    {"--since", &Given::since},
-};
-
-bool takeFlag(const QString& argument, Given& given)
-{
-    for (const Flag& flag : flags) {
-        if (argument != QLatin1String(flag.name))
-            continue;
-        given.*flag.member = true;
-        return true;
-    }
-    return false;
-}
-
-/// Takes "--name value" or "--name=value"; a value that is missing is an empty one.
-bool takeOption(const QStringList& arguments, qsizetype& index, Given& given)
-{
-    const QString& argument = arguments[index];
-    for (const Option& option : options) {
-        const QLatin1String name(option.name);
-        if (argument == name)
-            given.*option.member = index + 1 < arguments.size() ? arguments[++index] : QString();
-        else if (argument.startsWith(name + QStringLiteral("=")))
-            given.*option.member = argument.mid(name.size() + 1);
-        else
-            continue;
-        return true;
-    }
-    return false;
-}
-
+/// A value that is missing is an empty one, which is then none of those that the option may have.
 QString readArguments(const QStringList& arguments, Given& given)
 {
-    for (qsizetype index = 0; index < arguments.size(); ++index)
-        if (!takeFlag(arguments[index], given) && !takeOption(arguments, index, given))
-            return QStringLiteral("unknown argument \"%1\"").arg(arguments[index]);
-    return {};
+    const CommandLineOption options[] = {
+        {"--help", &given.help},
+        {"-h", &given.help},
+        {"--version", &given.version},
+        {"--record", &given.record},
+        {"--with-serials", &given.withSerials},
+        {"--export", &given.format},
+        {"--since", &given.since},
+    };
+    return readCommandLine(arguments, options, OptionValues::Any);
 }
 
 QDate dateOf(const QString& text)

@@ -1,5 +1,7 @@
 #include "inspect/CommandLine.h"
 
+#include "common/CommandLineOptions.h"
+
 namespace quindle {
 
 namespace {
@@ -20,81 +22,16 @@ struct Given
     std::optional<QString> sysfs;
 };
 
-struct Flag
-{
-    const char* name;
-    bool Given::*member;
-};
-
-// clang-format off
-constexpr Flag flags[] = {
-    {"--help", &Given::help},
-    {"-h", &Given::help},
-    {"--version", &Given::version},
-    {"--json", &Given::json},
-    {"--metrics", &Given::metrics},
-    {"--with-serials", &Given::withSerials},
-    {"--demo", &Given::demo},
-    {"--follow", &Given::follow},
-};
-// clang-format on
-
-struct Option
-{
-    const char* name;
-    std::optional<QString> Given::*member;
-};
-
-constexpr Option options[] = {
-    {"--capture", &Given::capture},
-    {"--format", &Given::format},
-    {"--machine", &Given::machine},
-    {"--sysfs", &Given::sysfs},
-};
-
-bool takeFlag(const QString& argument, Given& given)
-{
-    for (const Flag& flag : flags) {
-        if (argument != QLatin1String(flag.name))
-            continue;
-        given.*flag.member = true;
-        return true;
-    }
-    return false;
-}
-
-/// Takes "--name value" or "--name=value". True when the argument is such an option; `fault` names a missing
-/// value.
-bool takeOption(const QStringList& arguments, qsizetype& index, Given& given, QString& fault)
-{
-    const QString& argument = arguments[index];
-    for (const Option& option : options) {
-        const QLatin1String name(option.name);
-        // "--capture --json" lacks the file's name; one that begins with a dash is given as
-        // "--capture=-name".
-        if (argument == name && index + 1 < arguments.size() && !arguments[index + 1].startsWith(u'-'))
-            given.*option.member = arguments[++index];
-        else if (argument.startsWith(name + QStringLiteral("=")))
-            given.*option.member = argument.mid(name.size() + 1);
-        else if (argument != name)
-            continue;
-        // An empty value too: "--machine=" would look at this computer without a word.
-        if (!(given.*option.member) || (given.*option.member)->isEmpty())
-            fault = QStringLiteral("%1 needs a value").arg(name);
-        return true;
-    }
-    return false;
-}
-
 QString readArguments(const QStringList& arguments, Given& given)
 {
-    QString fault;
-    for (qsizetype index = 0; index < arguments.size() && fault.isEmpty(); ++index) {
-        if (takeFlag(arguments[index], given) || takeOption(arguments, index, given, fault))
-            continue;
-        fault = QStringLiteral("unknown argument \"%1\"").arg(arguments[index]);
-    }
-    return fault;
+    const CommandLineOption options[] = {
+        {"--help", &given.help},     {"-h", &given.help},           {"--version", &given.version},
+        {"--json", &given.json},     {"--metrics", &given.metrics}, {"--with-serials", &given.withSerials},
+        {"--demo", &given.demo},     {"--follow", &given.follow},   {"--capture", &given.capture},
+        {"--format", &given.format}, {"--machine", &given.machine}, {"--sysfs", &given.sysfs},
+    };
+    // "--capture --json" lacks the file's name.
+    return readCommandLine(arguments, options, OptionValues::NotEmpty);
 }
 
 QString contradiction(const Given& given)

@@ -38,6 +38,7 @@ constexpr ArgumentRow argumentRows[] = {
     {"--machine m", "", "", Call::Report, "m", ""},
     {"--machine=m --json", "", "", Call::Json, "m", ""},
     {"--machine a --machine b", "", "", Call::Report, "b", ""},
+    {"--machine a --machine --json", "", "", Call::Json, "a", ""},
     {"--sysfs s", "", "", Call::Report, "", "s"},
     {"--machine m --sysfs s", "", "", Call::Report, "m", ""},
     {"", "em", "", Call::Report, "em", ""},

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <variant>
+
+#include <QString>
+#include <QStringList>
+
+namespace quindle {
+
+/// A row of a program's table of options, with the place where it is noted that it was given. A flag stands
+/// alone; any other option has a value, as "name value" or "name=value". Of several the last value counts.
+struct CommandLineOption
+{
+    const char* name; ///< in ASCII, with its dashes
+    std::variant<bool*, std::optional<QString>*> place;
+};
+
+/// What a program accepts as the value of an option.
+enum class OptionValues {
+    Any,     ///< whatever follows, an option too; at the end of the line an empty text
+    NotEmpty ///< what begins with a dash is the next option, unless it is given as "name=-value"
+};
+
+/// Notes what the arguments (without the program's name) say, up to the first that is wrong.
+/// @return why that one is wrong, one line; empty when none is
+QString readCommandLine(const QStringList& arguments, std::span<const CommandLineOption> options,
+                        OptionValues values);
+
+} // namespace quindle
