@@ -16,6 +16,7 @@ struct Given
     bool withSerials = false;
     bool demo = false;
     bool follow = false;
+    bool asMac = false;
     std::optional<QString> capture;
     std::optional<QString> format;
     std::optional<QString> machine;
@@ -29,6 +30,7 @@ QString readArguments(const QStringList& arguments, Given& given)
         {"--json", &given.json},     {"--metrics", &given.metrics}, {"--with-serials", &given.withSerials},
         {"--demo", &given.demo},     {"--follow", &given.follow},   {"--capture", &given.capture},
         {"--format", &given.format}, {"--machine", &given.machine}, {"--sysfs", &given.sysfs},
+        {"--as-mac", &given.asMac},
     };
     // "--capture --json" lacks the file's name.
     return readCommandLine(arguments, options, OptionValues::NotEmpty);
@@ -97,7 +99,11 @@ CommandLine parseCommandLine(const QStringList& arguments, const InspectEnvironm
     commandLine.captureFile = given.capture.value_or(QString());
     commandLine.withSerials = given.withSerials;
     commandLine.demo = given.demo;
+    commandLine.asMac = given.asMac;
     chooseComputer(given, environment, commandLine);
+    // Another computer's registry has no such layouts, and this one's back end has put them right already.
+    if (commandLine.fault.isEmpty() && given.asMac && commandLine.machineFile.isEmpty())
+        commandLine.fault = QStringLiteral("--as-mac belongs to --machine");
     return commandLine;
 }
 
@@ -106,7 +112,7 @@ QString helpText()
     return QStringLiteral(
         "Usage: quindle-inspect [--json | --metrics | --capture FILE [--with-serials] | --follow [--format "
         "FORMAT]]\n"
-        "                       [--demo] [--machine FILE | --sysfs DIR]\n"
+        "                       [--demo] [--machine FILE [--as-mac] | --sysfs DIR]\n"
         "\n"
         "Prints what Quindle Helper knows of this computer and its battery, and what it would show.\n"
         "Sends nothing over the network, changes no settings and shows no window.\n"
@@ -124,6 +130,8 @@ QString helpText()
         "  --format FORMAT   with --follow: text, json (an object a line), i3bar or waybar\n"
         "  --demo            the demonstration computer\n"
         "  --machine FILE    a recorded computer instead of this one (environment: QUINDLE_MACHINE)\n"
+        "  --as-mac          with --machine: its registry is a Mac's as that Mac has it, such as a Mac's "
+        "capture\n"
         "  --sysfs DIR       read DIR in place of /sys (environment: QUINDLE_SYSFS)\n"
         "  -h, --help        this text\n"
         "  --version         the version\n"

@@ -63,9 +63,10 @@ Computer::Computer(Machine machine, const CommandLine& commandLine)
     // Settings for reading only: a damaged file is reported, and left for the helper to set aside.
     , m_linux(commandLine.sysfsDirectory, SettingsAccess::ReadOnly)
     , m_recorded(m_machine.keys, m_linux.bundle(), m_machine.file)
+    , m_macRegistry(m_recorded.registry)
     , m_settings(isRecorded(commandLine) ? static_cast<UserDefaultsDatabases&>(m_recorded.userDefaults)
                                          : m_linux.userDefaults())
-    , m_platform(isRecorded(commandLine) ? recordedComputer(isFollowed(commandLine))
+    , m_platform(isRecorded(commandLine) ? recordedComputer(commandLine)
                                          : thisComputer(isFollowed(commandLine)))
 {
 }
@@ -93,11 +94,17 @@ Platform Computer::thisComputer(bool isFollowed)
                           .powerEvents = &events.powerEvents});
 }
 
-Platform Computer::recordedComputer(bool isFollowed)
+Platform Computer::recordedComputer(const CommandLine& commandLine)
 {
-    const Platform recorded = m_recorded.platform();
-    // Steps happen in their time then, for which a true loop is needed.
-    return isFollowed ? recorded.with({.runLoop = &m_linux.runLoop()}) : recorded;
+    // Steps of one that is followed happen in their time, for which a true loop is needed.
+    return m_recorded.platform().with({.registry = commandLine.asMac ? &m_macRegistry : nullptr,
+                                       .runLoop = isFollowed(commandLine) ? &m_linux.runLoop() : nullptr});
+}
+
+Platform Computer::platformToCapture()
+{
+    return &m_platform.registry == &m_macRegistry ? m_platform.with({.registry = &m_recorded.registry})
+                                                  : m_platform;
 }
 
 void Computer::playInTime(HelperAppDelegate& delegate)

@@ -8,6 +8,7 @@
 
 #include "platform/Platform.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/macos/LaidOutRegistry.h"
 #include "platform/recorded/MachineFile.h"
 #include "platform/recorded/OverlaidUserDefaults.h"
 #include "platform/recorded/RecordedPlatform.h"
@@ -30,6 +31,10 @@ public:
 
     const Platform& platform() const { return m_platform; }
 
+    /// The same with the registry as it is: what is captured is for a back end to read, and to be mended
+    /// with.
+    Platform platformToCapture();
+
     /// Plays a recorded computer's later states in their time; does nothing for this computer.
     void playInTime(HelperAppDelegate& delegate);
 
@@ -46,11 +51,12 @@ private:
     Computer(Machine machine, const CommandLine& commandLine);
 
     Platform thisComputer(bool isFollowed);
-    Platform recordedComputer(bool isFollowed);
+    Platform recordedComputer(const CommandLine& commandLine);
 
     Machine m_machine;
     LinuxPlatform m_linux;
     RecordedPlatform m_recorded;
+    LaidOutRegistry m_macRegistry;
     OverlaidUserDefaultsDatabases m_settings;
     Platform m_platform;
 };

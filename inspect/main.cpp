@@ -89,7 +89,7 @@ int capture(Computer& computer, const CommandLine& commandLine)
 {
     // The demonstration is a model without a registry behind it, so its keys are made from the model.
     QVariantMap keys = commandLine.demo ? keysFromModel(Inspection(computer, true).mac())
-                                        : capturedKeys(computer.platform());
+                                        : capturedKeys(computer.platformToCapture());
     if (!commandLine.withSerials)
         keys = withoutIdentity(keys);
     const QString failure = writeMachineFile(commandLine.captureFile, keys);

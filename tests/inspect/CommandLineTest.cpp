@@ -36,6 +36,8 @@ constexpr ArgumentRow argumentRows[] = {
     {"-h", "", "", Call::Help, "", ""},
     {"--version", "", "", Call::Version, "", ""},
     {"--machine m", "", "", Call::Report, "m", ""},
+    {"--machine m --as-mac", "", "", Call::Report, "m", ""},
+    {"--as-mac --follow", "em", "", Call::Follow, "em", ""},
     {"--machine=m --json", "", "", Call::Json, "m", ""},
     {"--machine a --machine b", "", "", Call::Report, "b", ""},
     {"--machine a --machine --json", "", "", Call::Json, "a", ""},
@@ -72,6 +74,13 @@ TEST(CommandLine, OptionsOfACapture)
     EXPECT_EQ(line.captureFile, QStringLiteral("out"));
     EXPECT_TRUE(line.withSerials);
     EXPECT_TRUE(line.demo);
+}
+
+TEST(CommandLine, AMacsMachineFile)
+{
+    EXPECT_FALSE(parse({"--json --machine m", "", "", Call::Json, "", ""}).asMac);
+    EXPECT_TRUE(parse({"--as-mac --json --machine m", "", "", Call::Json, "", ""}).asMac);
+    EXPECT_TRUE(parse({"--json --as-mac", "m", "", Call::Json, "", ""}).asMac);
 }
 
 TEST(CommandLine, FormatOfFollowing)
@@ -118,7 +127,11 @@ TEST(CommandLine, WrongUsage)
                                   "--metrics --json",
                                   "--metrics --follow",
                                   "--metrics --capture out",
-                                  "--metrics=1"}) {
+                                  "--metrics=1",
+                                  "--as-mac",
+                                  "--as-mac --json",
+                                  "--as-mac --sysfs s",
+                                  "--as-mac=1 --machine m"}) {
         const CommandLine line = parse({arguments, "", "", Call::Report, "", ""});
         EXPECT_FALSE(line.fault.isEmpty()) << arguments;
         EXPECT_FALSE(line.fault.contains(u'\n')) << arguments;

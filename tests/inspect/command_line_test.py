@@ -169,6 +169,23 @@ class CommandLine(unittest.TestCase):
             for text in ("nan", "inf", "0.0 °C", "Cycles", "0.0 W", "0.00 W", "Health", "Built", "Manufactured"):
                 self.assertNotIn(text, report, battery)
 
+    def test_a_macs_registry_in_every_form(self):
+        battery = {"CurrentCapacity": 50, "MaxCapacity": 100, "AppleRawMaxCapacity": 4000, "DesignCapacity": 5000}
+        self.report_of(battery)
+        call = ["--machine", self.machine, "--as-mac"]
+        self.assertIn("50.0 % (2000 mAh of 4000 mAh)", self.run_program(*call).stdout)
+        self.assertEqual(json.loads(self.run_program("--json", *call).stdout)["battery"]["FullChargeCapacity"], 4000)
+        self.assertIn("quindle_battery_health_ratio 0.8\n", self.run_program("--metrics", *call).stdout)
+        followed = subprocess.Popen([PROGRAM, "--follow", *call], stdout=subprocess.PIPE, text=True,
+                                    env={"PATH": os.environ["PATH"], "HOME": self.folder})
+        self.assertEqual(followed.stdout.readline(), "50.0%\n")
+        followed.kill()
+        followed.communicate()
+        # What is captured is for the back end to read once more.
+        self.assertEqual(self.run_program("--capture", self.path("again.plist"), *call).returncode, 0)
+        with open(self.path("again.plist"), "rb") as file:
+            self.assertEqual(plistlib.load(file)["Registry"]["AppleSmartBattery"], battery)
+
     def test_report_dates_no_computer_by_a_serial_that_does_not_decode(self):
         expert = {"model": b"x\0", "IOPlatformSerialNumber": "PFQQABCDEFG"}
         report = self.report_of(Registry={"IOPlatformExpertDevice": expert})

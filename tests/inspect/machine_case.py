@@ -32,6 +32,7 @@ class Case:
     expected: object
     environment: dict = field(default_factory=dict)
     files: dict = field(default_factory=dict)  # beside the machine file: path -> bytes
+    arguments: tuple = ()  # besides those that name the machine file and ask for JSON
 
 
 ABORT = "abort"
@@ -71,10 +72,10 @@ def machine_bytes(values):
     return values if isinstance(values, bytes) else plistlib.dumps(values)
 
 
-def run(program, path, environment):
+def run(program, path, environment, arguments=()):
     clean = {"PATH": os.environ["PATH"], "TZ": "UTC", "LC_ALL": "C.UTF-8"}
     clean.update(environment)
-    return subprocess.run([program, "--json", "--machine", path], env=clean, capture_output=True, timeout=60)
+    return subprocess.run([program, "--json", "--machine", path, *arguments], env=clean, capture_output=True, timeout=60)
 
 
 def value_at(state, path):
@@ -137,7 +138,7 @@ def check(program, case):
             with open(os.path.join(folder, name), "wb") as file:
                 file.write(content)
         environment = {key: value.replace("{folder}", folder) for key, value in case.environment.items()}
-        result = run(program, path, environment)
+        result = run(program, path, environment, case.arguments)
         if isinstance(case.expected, tuple):
             return refusal_differences(result, path, case.expected[1])
         return differences(result, case.expected)
