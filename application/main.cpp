@@ -26,6 +26,7 @@
 #include "platform/linux/session/SingleInstance.h"
 #include "platform/linux/session/StartDeadline.h"
 #include "platform/linux/upower/UPowerHistory.h"
+#include "platform/linux/windows/ToolkitStart.h"
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
@@ -70,12 +71,14 @@ public:
         QApplication::setApplicationName(QStringLiteral("quindle"));
         QApplication::setApplicationDisplayName(QStringLiteral("Quindle"));
         QApplication::setDesktopFileName(QStringLiteral("quindle"));
+        m_start.end();
     }
 
 private:
     std::array<char, 8> m_name{"quindle"};
     std::array<char*, 2> m_arguments{m_name.data(), nullptr};
     int m_count = 1;
+    ToolkitStart m_start;
     QApplication m_application{m_count, m_arguments.data()};
 };
 

@@ -13,6 +13,7 @@
 #include "platform/linux/link/SocketLink.h"
 #include "platform/linux/os/CoreDumps.h"
 #include "platform/linux/os/StandardError.h"
+#include "platform/linux/windows/ToolkitStart.h"
 #include "platform/recorded/MachineFile.h"
 #include "remote/WindowMessage.h"
 #include "widgets/AccessiblePopups.h"
@@ -55,12 +56,14 @@ public:
         // The helper says when to end.
         QApplication::setQuitOnLastWindowClosed(false);
         leaveStartToHelper(m_application);
+        m_start.end();
     }
 
 private:
     std::array<char, 15> m_name{"quindle-helper"};
     std::array<char*, 2> m_arguments{m_name.data(), nullptr};
     int m_count = 1;
+    ToolkitStart m_start;
     QApplication m_application{m_count, m_arguments.data()};
 };
 

@@ -43,6 +43,14 @@ class CommandLine(unittest.TestCase):
         status, _, errors = self.answer()
         self.assertEqual((status, errors), (os.EX_UNAVAILABLE, "quindle: there is no display to show a window on\n"))
 
+    def test_a_display_that_is_not_there(self):
+        for env, named in (({"DISPLAY": ":9999"}, '":9999"'), ({"WAYLAND_DISPLAY": "wayland-77"}, '"wayland-77"'),
+                           ({"WAYLAND_DISPLAY": "wayland-77", "DISPLAY": ":9999"}, '"wayland-77" or ":9999"')):
+            env["XDG_RUNTIME_DIR"] = self.folder
+            status, _, errors = self.answer(**env)
+            self.assertEqual((status, errors),
+                             (os.EX_UNAVAILABLE, f"quindle: no window can be shown on the display {named}\n"))
+
     def test_a_refused_machine_file_is_named(self):
         path = os.path.join(self.folder, "machine.plist")
         with open(path, "w", encoding="ascii") as file:

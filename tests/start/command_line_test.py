@@ -3,6 +3,7 @@
 import os
 import subprocess
 import unittest
+from pathlib import Path
 
 from start_case import HELPER, StartCase
 
@@ -37,6 +38,13 @@ class CommandLine(StartCase):
             done = subprocess.run([HELPER, "--help"], env=self.environment(), stdout=full, stderr=subprocess.PIPE,
                                   timeout=30, check=False)
         self.assertEqual((done.returncode, done.stderr.count(b"\n")), (2, 1))
+
+    def test_windows_without_the_display_they_were_started_for(self):
+        done = subprocess.run([Path(HELPER).with_name("quindle-windows"), "--tray"], stdin=subprocess.DEVNULL,
+                              env=self.environment(QT_QPA_PLATFORM=None, DISPLAY=":9999"), capture_output=True,
+                              text=True, timeout=30, check=False)
+        self.assertEqual((done.returncode, done.stderr),
+                         (os.EX_UNAVAILABLE, 'quindle-windows: no window can be shown on the display ":9999"\n'))
 
     def test_a_pipe_for_a_machine_file_is_refused_at_once(self):
         os.mkfifo(self.root / "pipe")
