@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 #include <limits>
 
 #include <QtEndian>
@@ -25,6 +26,7 @@ struct Marker
 
 // Always this wide: containers are written before it is known how many nodes there will be.
 constexpr int nodeWidth = 4;
+static_assert(sizeof(BinaryListWriter::Node) == nodeWidth);
 
 bool hasOnlyAscii(const QString& text)
 {
@@ -92,8 +94,10 @@ BinaryListWriter::Node BinaryListWriter::addText(const QString& text)
     const Node node = begin();
     const bool isNarrow = hasOnlyAscii(text);
     putCount(isNarrow ? Marker::ascii : Marker::wideText, text.size());
-    for (const QChar c : text)
-        put(c.unicode(), isNarrow ? 1 : 2);
+    if (isNarrow)
+        m_bytes += text.toLatin1();
+    else
+        qToBigEndian<char16_t>(text.constData(), text.size(), grow(text.size() * 2));
     return *m_texts.insert(text, node);
 }
 
@@ -110,20 +114,25 @@ BinaryListWriter::Node BinaryListWriter::addReference(quint32 number)
 BinaryListWriter::Node BinaryListWriter::addArray(const std::vector<Node>& items)
 {
     const Node node = begin();
-    putCount(Marker::array, static_cast<qsizetype>(items.size()));
-    for (const Node item : items)
-        put(item, nodeWidth);
+    const auto count = static_cast<qsizetype>(items.size());
+    putCount(Marker::array, count);
+    qToBigEndian<Node>(items.data(), count, grow(count * nodeWidth));
     return node;
 }
 
 BinaryListWriter::Node BinaryListWriter::addDictionary(const Entries& entries)
 {
     const Node node = begin();
-    putCount(Marker::dictionary, static_cast<qsizetype>(entries.size()));
-    for (const auto& [key, value] : entries)
-        put(key, nodeWidth);
-    for (const auto& [key, value] : entries)
-        put(value, nodeWidth);
+    const auto count = static_cast<qsizetype>(entries.size());
+    putCount(Marker::dictionary, count);
+    char* keys = grow(count * 2 * nodeWidth);
+    char* values = keys + count * nodeWidth;
+    for (const auto& [key, value] : entries) {
+        qToBigEndian(key, keys);
+        qToBigEndian(value, values);
+        keys += nodeWidth;
+        values += nodeWidth;
+    }
     return node;
 }
 
@@ -131,6 +140,7 @@ QByteArray BinaryListWriter::finish(Node root)
 {
     const auto table = static_cast<quint64>(m_bytes.size());
     const int offsetWidth = 1 << widthPower(table);
+    m_bytes.reserve(m_bytes.size() + static_cast<qsizetype>(m_offsets.size()) * offsetWidth + 32);
     for (const quint64 offset : m_offsets)
         put(offset, offsetWidth);
     m_bytes += QByteArray(6, '\0') + static_cast<char>(offsetWidth) + static_cast<char>(nodeWidth);
@@ -146,11 +156,21 @@ BinaryListWriter::Node BinaryListWriter::begin()
     return static_cast<Node>(m_offsets.size() - 1);
 }
 
+/// Room for so many bytes at the end. Numbers are written into it at once: appended one by one they took half
+/// of the time that an archive does.
+char* BinaryListWriter::grow(qsizetype size)
+{
+    const qsizetype end = m_bytes.size();
+    m_bytes.resize(end + size);
+    return m_bytes.data() + end;
+}
+
 /// The last bytes of a number, the highest first.
 void BinaryListWriter::put(quint64 number, int width)
 {
     const quint64 bigEndian = qToBigEndian(number);
-    m_bytes.append(reinterpret_cast<const char*>(&bigEndian) + (8 - width), width);
+    std::memcpy(grow(width), reinterpret_cast<const char*>(&bigEndian) + (8 - width),
+                static_cast<std::size_t>(width));
 }
 
 /// A count of 15 and more stands behind the marker, as an integer of its own.

@@ -31,6 +31,7 @@ public:
 
 private:
     Node begin();
+    char* grow(qsizetype size);
     void put(quint64 number, int width);
     void putCount(int marker, qsizetype count);
     void putNumber(int marker, quint64 number);

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QLatin1StringView>
 #include <QVariant>
+#include <QtEndian>
 
 namespace quindle {
 
@@ -93,6 +94,11 @@ private:
     quint64 number(quint64 start, quint64 width) const
     {
         const auto* bytes = reinterpret_cast<const uchar*>(m_bytes.constData()) + start;
+        // The widths of nearly all numbers; byte by byte they take a tenth of the time of reading an archive.
+        if (width == 4)
+            return qFromBigEndian<quint32>(bytes);
+        if (width == 2)
+            return qFromBigEndian<quint16>(bytes);
         quint64 value = 0;
         for (quint64 index = 0; index < width; ++index)
             value = value << 8 | bytes[index];

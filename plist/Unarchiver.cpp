@@ -181,13 +181,12 @@ bool Unarchiver::readArray(const Element& element, int level, Object& object)
 
 bool Unarchiver::readDictionary(const Element& element, int level, Object& object)
 {
-    const auto keyReferences = references(element, "NS.keys", "NS.key.");
+    const KeyList* keys = keysOf(element, level + 1);
+    if (!keys)
+        return false;
     const auto values = references(element, "NS.objects", "NS.object.");
     // With different lengths there is no knowing which value belongs to which key.
-    if (!keyReferences || !values || keyReferences->size() != values->size())
-        return false;
-    const KeyList* keys = keyList(*keyReferences, level + 1);
-    if (!keys)
+    if (!values || keys->sorted.size() != values->size())
         return false;
     object.extent.weight += keys->weight;
     std::map<QString, QVariant> map;
@@ -196,11 +195,31 @@ bool Unarchiver::readDictionary(const Element& element, int level, Object& objec
         if (!this->object((*values)[key.index], level + 1, value) || !put(value, object.extent))
             return false;
         // In sorted order, so each entry goes to the end without a search.
-        map.insert_or_assign(map.end(), key.text, std::move(value.value));
+        if (key.isRepeated)
+            map.rbegin()->second = std::move(value.value);
+        else
+            map.emplace_hint(map.end(), key.text, std::move(value.value));
     }
     object.value = QVariantMap(std::move(map));
     object.hasNumberKeys = keys->hasNumbers;
     return true;
+}
+
+/// Nothing when they are damaged.
+const Unarchiver::KeyList* Unarchiver::keysOf(const Element& dictionary, int level)
+{
+    const Element list = find(dictionary, "NS.keys");
+    if (list.kind == Kind::Array) {
+        // Most records share the list itself, which is known by its place without a look at its items.
+        const auto known = m_keysAt.constFind(list.start);
+        if (known != m_keysAt.cend())
+            return spend(list.count) ? *known : nullptr;
+    }
+    const auto references = this->references(dictionary, "NS.keys", "NS.key.");
+    const KeyList* keys = references ? keyList(*references, level) : nullptr;
+    if (keys && list.kind == Kind::Array)
+        m_keysAt.insert(list.start, keys);
+    return keys;
 }
 
 /// Nothing when one of the references leads to what can be no key.
@@ -218,6 +237,8 @@ const Unarchiver::KeyList* Unarchiver::keyList(const References& references, int
     // Stable, so that of equal keys the last one in the file stays the last.
     std::stable_sort(list.sorted.begin(), list.sorted.end(),
                      [](const Key& left, const Key& right) { return left.text < right.text; });
+    for (std::size_t index = 1; index < list.sorted.size(); ++index)
+        list.sorted[index].isRepeated = list.sorted[index].text == list.sorted[index - 1].text;
     return &m_keyLists.emplace(references, std::move(list)).first->second;
 }
 

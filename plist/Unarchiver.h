@@ -42,7 +42,8 @@ private:
     struct Key
     {
         QString text;
-        quint64 index = 0; ///< of its value
+        quint64 index = 0;       ///< of its value
+        bool isRepeated = false; ///< the one before it is equal
     };
 
     /// Keys of a dictionary in the order in which a map holds them, of equal ones the last one last. Records
@@ -61,6 +62,7 @@ private:
     bool readContainer(const Element& element, ArchivedClass archived, int level, Object& object);
     bool readArray(const Element& element, int level, Object& object);
     bool readDictionary(const Element& element, int level, Object& object);
+    const KeyList* keysOf(const Element& dictionary, int level);
     const KeyList* keyList(const References& references, int level);
     bool readKey(quint64 reference, int level, KeyList& list);
     bool readText(const Element& element, Object& object);
@@ -88,6 +90,7 @@ private:
     std::vector<quint32> m_positions; ///< in m_read, by reference; or one of the two marks
     std::deque<Object> m_read;        ///< all but plain numbers, which are as cheap to read again
     std::map<References, KeyList> m_keyLists;
+    QHash<quint64, const KeyList*> m_keysAt; ///< by where they lie in the file
     QHash<quint64, ArchivedClass> m_classes; ///< by reference
     QString m_fault;
 };
