@@ -9,6 +9,7 @@
 
 #include "common/NumberConversion.h"
 #include "common/NumberTexts.h"
+#include "common/RealFromText.h"
 
 namespace quindle {
 
@@ -22,14 +23,12 @@ QString realDescription(double number)
         return shortestText(number);
     std::array<char, 32> buffer{};
     qsizetype length = 0;
-    double readBack = 0;
     // 15 digits give 0.1 as "0.1"; 17 always read back.
     for (int precision = 15; precision <= 17; ++precision) {
         const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                            std::chars_format::general, precision);
         length = written.ptr - buffer.data();
-        std::from_chars(buffer.data(), written.ptr, readBack);
-        if (readBack == number)
+        if (realFromText(QByteArrayView(buffer.data(), length)) == number)
             break;
     }
     return QString::fromLatin1(buffer.data(), length);

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <bit>
-#include <charconv>
 #include <optional>
 
 #include <QDateTime>
 #include <QXmlStreamReader>
 #include <QtEndian>
 
+#include "common/RealFromText.h"
 #include "plist/PropertyListDate.h"
 #include "plist/PropertyListLimits.h"
 
@@ -78,16 +78,11 @@ Object integerObject(const QString& text)
 
 Object realObject(const QString& text)
 {
-    // from_chars knows no plus sign, and unlike the C functions no locale.
-    const QByteArray bytes = (text.startsWith(u'+') ? text.mid(1) : text).toUtf8();
-    const char* const end = bytes.constData() + bytes.size();
-    double number = 0;
-    const auto [stop, error] = std::from_chars(bytes.constData(), end, number);
-    if (stop != end || error == std::errc::invalid_argument)
+    // Writers of property lists put a plus too.
+    const auto number = realFromText((text.startsWith(u'+') ? text.mid(1) : text).toUtf8());
+    if (!number)
         return std::nullopt;
-    if (error != std::errc())
-        number = text.toDouble(); // beyond the range of a double: infinite or 0
-    return realMarker + eightBytes(std::bit_cast<quint64>(number));
+    return realMarker + eightBytes(std::bit_cast<quint64>(*number));
 }
 
 Object dateObject(const QString& text)
