@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include "common/Paths.h"
+
 namespace quindle {
 
 void fatalError(QStringView message)
@@ -15,7 +17,8 @@ void fatalError(QStringView message)
     std::replace_if(
         line.begin(), line.end(), [](QChar c) { return c < u' '; }, u' ');
     // Straight to standard error: whatever handles log messages may be what is broken.
-    std::fprintf(stderr, "quindle: fatal: %s\n", line.toUtf8().constData());
+    // As paths: the file that is named may have a name that is no UTF-8.
+    std::fprintf(stderr, "quindle: fatal: %s\n", pathBytes(line).constData());
     std::abort();
 }
 

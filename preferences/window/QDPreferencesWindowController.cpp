@@ -56,7 +56,20 @@ QDPreferencesWindowController::~QDPreferencesWindowController()
 void QDPreferencesWindowController::setViewControllers(PreferencesPanes viewControllers)
 {
     m_viewControllers = std::move(viewControllers);
+    forgetPaneThatHasGone();
     rebuildToolbar();
+}
+
+void QDPreferencesWindowController::forgetPaneThatHasGone()
+{
+    const auto& panes = m_viewControllers;
+    if (std::find(panes.begin(), panes.end(), m_shownViewController) != panes.end())
+        return;
+    // Its owner may be about to destroy it.
+    removeShownView();
+    m_shownViewController = nullptr;
+    if (isOnScreen(m_window.get()) && !panes.empty())
+        showPane(*panes.front());
 }
 
 void QDPreferencesWindowController::setTitleAppearsTransparent(bool transparent)

@@ -101,6 +101,7 @@ public:
 
 private:
     void setFlag(bool& flag, bool value);
+    void forgetPaneThatHasGone();
     void rebuildToolbar();
     void selectControlOf(const QDPreferencesWindowControllerProtocol* pane);
     void selectFirstControl();

@@ -226,6 +226,24 @@ TEST_F(QDPreferencesWindowControllerTest, ASinglePaneHasNoToolbarUnlessItIsWante
     EXPECT_EQ(toolbar()->actions().size(), 2);
 }
 
+TEST_F(QDPreferencesWindowControllerTest, APaneThatIsTakenAwayIsForgotten)
+{
+    show();
+    controller->setViewControllers({&menuBar, &update});
+    QApplication::processEvents();
+    expectShown(menuBar);
+    EXPECT_EQ(toolbar()->selectedItemIdentifier(), QStringLiteral("menu bar"));
+    controller->dismissPreferencesWindow();
+    controller->setViewControllers({&update});
+    EXPECT_EQ(controller->shownViewController(), nullptr);
+    show();
+    expectShown(update);
+    EXPECT_EQ(menuBar.appeared, 1);
+    controller->setViewControllers({});
+    EXPECT_EQ(controller->shownViewController(), nullptr);
+    EXPECT_EQ(update.view().parentWidget(), nullptr);
+}
+
 TEST_F(QDPreferencesWindowControllerTest, EachFlagRebuildsTheToolbar)
 {
     using Setter = void (QDPreferencesWindowController::*)(bool);

@@ -12,7 +12,6 @@ using Memory = TimeEstimator::Memory;
 using Sample = TimeEstimator::Sample;
 using std::chrono::milliseconds;
 
-constexpr std::chrono::seconds lastMinute(60);
 constexpr int allDigits = 17; // reads back to the same double, so both processes estimate the same
 constexpr qsizetype wordsOfState = 2;
 constexpr qsizetype wordsOfSample = 4;
@@ -88,7 +87,7 @@ QByteArray estimatorText(const TimeEstimator::Memory& memory)
     QByteArray text = stateLine(memory) + lineOf(memory.samples.front());
     const milliseconds end = memory.samples.back().time;
     for (auto sample = memory.samples.begin() + 1; sample != memory.samples.end(); ++sample)
-        if (end - sample->time <= lastMinute)
+        if (end - sample->time <= TimeEstimator::currentWindow)
             text += lineOf(*sample);
     return text;
 }

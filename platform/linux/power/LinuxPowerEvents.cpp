@@ -44,7 +44,7 @@ LinuxPowerEvents::~LinuxPowerEvents() = default;
 void LinuxPowerEvents::setObserver(std::function<void()> observer)
 {
     m_observer = std::move(observer);
-    if (m_monitor)
+    if (m_notifier)
         return;
     if (!open()) {
         // No reason to give up: the timers refresh all the same.

@@ -14,8 +14,6 @@ constexpr milliseconds sampleInterval = 1s;
 /// A current just after a plug or unplug is not the one that stays.
 constexpr milliseconds shortestWatch = 20s;
 
-constexpr milliseconds currentWindow = 60s;
-
 /// Charges move in steps, often of a whole percent, so their change shows only over a longer time.
 constexpr milliseconds chargeWindow = 10min;
 

@@ -13,6 +13,9 @@ namespace quindle {
 class TimeEstimator
 {
 public:
+    /// How far back the current is averaged.
+    static constexpr std::chrono::seconds currentWindow{60};
+
     enum class Direction {
         Idle,
         Charging,
