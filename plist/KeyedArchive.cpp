@@ -35,12 +35,12 @@ constexpr std::array namedClasses{
 
 } // namespace
 
-ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes)
+ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes, const ReadingProgress& progress)
 {
     const PropertyListGraph graph(bytes);
     Unarchiver unarchiver(graph);
     ArchivedRecords result;
-    if (!unarchiver.readRecords(result.records))
+    if (!unarchiver.readRecords(result.records, progress))
         // Never both: what was read before a fault is not used.
         result = {{}, unarchiver.fault()};
     return result;

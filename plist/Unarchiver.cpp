@@ -23,6 +23,29 @@ bool isPlainNumber(PropertyListGraph::Kind kind)
            kind == PropertyListGraph::Kind::Real;
 }
 
+class Percent
+{
+public:
+    Percent(std::size_t all, const ReadingProgress& progress)
+        : m_all(all)
+        , m_progress(progress)
+    {
+    }
+
+    void advance()
+    {
+        const auto percent = static_cast<int>(++m_done * 100 / m_all);
+        if (percent != std::exchange(m_told, percent) && m_progress)
+            m_progress(percent);
+    }
+
+private:
+    std::size_t m_all;
+    std::size_t m_done = 0;
+    int m_told = 0;
+    const ReadingProgress& m_progress;
+};
+
 const char* const damagedObject = "an object is damaged";
 const char* const tooDeep = "its objects are nested too deep";
 
@@ -34,7 +57,7 @@ Unarchiver::Unarchiver(const PropertyListGraph& graph)
 {
 }
 
-bool Unarchiver::readRecords(QVariantList& records)
+bool Unarchiver::readRecords(QVariantList& records, const ReadingProgress& progress)
 {
     Element root;
     if (!findRoot(root))
@@ -49,6 +72,7 @@ bool Unarchiver::readRecords(QVariantList& records)
     Extent extent{.height = 1};
     // Safe to reserve: the references were counted against the file's size.
     records.reserve(static_cast<qsizetype>(elements->size()));
+    Percent percent(elements->size(), progress);
     for (const quint64 reference : *elements) {
         Object record;
         if (!object(reference, 2, record) || !put(record, extent))
@@ -56,6 +80,7 @@ bool Unarchiver::readRecords(QVariantList& records)
         if (record.value.typeId() != QMetaType::QVariantMap || record.hasNumberKeys)
             return fail("an element is no dictionary with text keys");
         records.append(std::move(record.value));
+        percent.advance();
     }
     return true;
 }

@@ -23,7 +23,7 @@ public:
     explicit Unarchiver(const PropertyListGraph& graph);
 
     /// False, with `fault` set, when the root is no array of dictionaries with text keys.
-    bool readRecords(QVariantList& records);
+    bool readRecords(QVariantList& records, const ReadingProgress& progress = {});
 
     const QString& fault() const { return m_fault; }
 

@@ -24,7 +24,7 @@ struct Found
     int error = 0; ///< of reading; errno's value
 };
 
-Found recordsIn(const QByteArray& file)
+Found recordsIn(const QByteArray& file, const ReadingProgress& progress = {})
 {
     constexpr qint64 largestFile =
         qint64{1024} * 1024 * 1024; // bytes; a century of records takes a fifth of it
@@ -35,7 +35,7 @@ Found recordsIn(const QByteArray& file)
     if (contents.error != 0)
         return {.archived = {{}, QStringLiteral("it ") + readingFault(contents.error)},
                 .error = contents.error};
-    return {.archived = recordsFromKeyedArchive(contents.bytes), .error = 0};
+    return {.archived = recordsFromKeyedArchive(contents.bytes, progress), .error = 0};
 }
 
 std::optional<FileLock> lockOnArchive(const QByteArray& file)
@@ -51,9 +51,9 @@ SnapshotArchive::SnapshotArchive(const QString& path)
 {
 }
 
-ArchivedRecords SnapshotArchive::read() const
+ArchivedRecords SnapshotArchive::read(const ReadingProgress& progress) const
 {
-    ArchivedRecords archived = recordsIn(m_file).archived;
+    ArchivedRecords archived = recordsIn(m_file, progress).archived;
     if (!archived.fault.isEmpty())
         archived.fault = m_path + QStringLiteral(": ") + archived.fault;
     return archived;

@@ -24,7 +24,7 @@ public:
     const QString& path() const { return m_path; }
 
     /// The records in the archive's order; none where there is no file. `fault` names file and reason.
-    ArchivedRecords read() const;
+    ArchivedRecords read(const ReadingProgress& progress = {}) const;
 
     StoreOutcome change(const Change& change);
 

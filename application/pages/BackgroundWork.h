@@ -31,6 +31,12 @@ public:
         QMetaObject::invokeMethod(m_there.get(), begin, Qt::QueuedConnection);
     }
 
+    /// From the work: calls `what` in the thread of this object.
+    void tell(const std::function<void()>& what)
+    {
+        QMetaObject::invokeMethod(m_here.get(), what, Qt::QueuedConnection);
+    }
+
 private:
     QThread m_thread;
     std::unique_ptr<QObject> m_here;

@@ -100,10 +100,13 @@ void SavedSnapshots::run(const Change& change)
         return;
     }
     setBusy(m_tasks + 1);
-    const auto work = [path = m_path, change] {
+    const auto tellProgress = [this](int percent) {
+        m_work.tell([this, percent] { Q_EMIT progressed(percent); });
+    };
+    const auto work = [path = m_path, change, tellProgress] {
         SnapshotArchive archive(path);
         const QString line = change(archive);
-        ArchivedRecords archived = archive.read();
+        ArchivedRecords archived = archive.read(tellProgress);
         return Result{std::move(archived.records), line.isEmpty() ? archived.fault : line};
     };
     m_work.run(work, [this](const Result& result) { take(result); });

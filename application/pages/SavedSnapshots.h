@@ -45,6 +45,9 @@ Q_SIGNALS:
     /// `isBusy` is another.
     void busyChanged();
 
+    /// How much of the archive is read.
+    void progressed(int percent);
+
     /// One line for the user: what was done, or why it was not.
     void told(const QString& line);
 

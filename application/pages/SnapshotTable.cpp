@@ -14,27 +14,28 @@ QString orMissing(const QString& text)
     return text.isEmpty() ? missingValueText() : text;
 }
 
-QString cellText(const SnapshotRow& row, int column)
+QString cellText(const SnapshotRow& row, SnapshotColumn column)
 {
     switch (column) {
-    case SnapshotTable::Date:
+    case SnapshotColumn::Date:
         return snapshotDateText(row.date);
-    case SnapshotTable::Health:
+    case SnapshotColumn::Health:
         return row.health ? percentText(*row.health) : missingValueText();
-    case SnapshotTable::FullCharge:
+    case SnapshotColumn::FullCharge:
         return row.fullCharge > 0 ? countText(row.fullCharge, FactPlace::View) + QStringLiteral(" mAh")
                                   : missingValueText();
-    case SnapshotTable::Cycles:
+    case SnapshotColumn::Cycles:
         return orMissing(countText(row.cycles, FactPlace::View));
-    default:
-        return orMissing(row.computer);
+    case SnapshotColumn::Computer:
+        break;
     }
+    return orMissing(row.computer);
 }
 
-bool isFigure(int column)
+bool isFigure(SnapshotColumn column)
 {
-    return column == SnapshotTable::Health || column == SnapshotTable::FullCharge ||
-           column == SnapshotTable::Cycles;
+    return column == SnapshotColumn::Health || column == SnapshotColumn::FullCharge ||
+           column == SnapshotColumn::Cycles;
 }
 
 /// Keeps a text at its column's beginning away from the figure at the end of the one before.
@@ -51,6 +52,8 @@ void SnapshotTable::setRecords(const QVariantList& records)
 {
     beginResetModel();
     m_records = newestFirst(records);
+    if (m_column != SnapshotColumn::Date || m_order != Qt::DescendingOrder)
+        inChosenOrder();
     endResetModel();
 }
 
@@ -61,30 +64,63 @@ int SnapshotTable::rowCount(const QModelIndex& parent) const
 
 int SnapshotTable::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : columns;
+    return parent.isValid() ? 0 : snapshotColumns;
 }
 
 QVariant SnapshotTable::data(const QModelIndex& index, int role) const
 {
+    const auto column = static_cast<SnapshotColumn>(index.column());
     if (role == Qt::DisplayRole)
-        return cellText(snapshotRow(record(index.row())), index.column());
+        return cellText(snapshotRow(record(index.row())), column);
     if (role == Qt::TextAlignmentRole)
-        return int((isFigure(index.column()) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    return role == Qt::DecorationRole && index.column() == Computer ? gap() : QVariant();
+        return int((isFigure(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return role == Qt::DecorationRole && column == SnapshotColumn::Computer ? gap() : QVariant();
 }
 
 QVariant SnapshotTable::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal)
         return {};
+    const auto column = static_cast<SnapshotColumn>(section);
     if (role == Qt::TextAlignmentRole)
-        return int((isFigure(section) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    if (role == Qt::DecorationRole && section == Computer)
+        return int((isFigure(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    if (role == Qt::DecorationRole && column == SnapshotColumn::Computer)
         return gap();
+    if (role == Qt::InitialSortOrderRole && column == SnapshotColumn::Date)
+        return int(Qt::DescendingOrder);
     if (role != Qt::DisplayRole)
         return {};
-    constexpr const char* captions[columns] = {"Date", "Health", "Full charge", "Cycles", "Computer"};
+    constexpr const char* captions[snapshotColumns] = {"Date", "Health", "Full charge", "Cycles", "Computer"};
     return QLatin1String(captions[section]);
+}
+
+void SnapshotTable::sort(int column, Qt::SortOrder order)
+{
+    m_column = static_cast<SnapshotColumn>(column);
+    m_order = order;
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const std::vector<int> former = inChosenOrder();
+    std::vector<int> places(former.size());
+    for (std::size_t place = 0; place < former.size(); ++place)
+        places[static_cast<std::size_t>(former[place])] = static_cast<int>(place);
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    for (const QModelIndex& index : before)
+        after.append(createIndex(places[static_cast<std::size_t>(index.row())], index.column()));
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+/// Sorts the records; where each of them was before.
+std::vector<int> SnapshotTable::inChosenOrder()
+{
+    std::vector<int> order = snapshotOrder(m_records, m_column, m_order);
+    QVariantList sorted;
+    sorted.reserve(m_records.size());
+    for (const int index : order)
+        sorted.append(m_records[index]);
+    m_records = std::move(sorted);
+    return order;
 }
 
 } // namespace quindle

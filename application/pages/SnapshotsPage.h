@@ -7,19 +7,17 @@
 #include <QWidget>
 
 class QLabel;
-class QProgressBar;
 class QPushButton;
-class QTableView;
-class QTimer;
 
 namespace quindle {
 
 class LinkButton;
+class LoadingBar;
 class SavedSnapshots;
-class SnapshotTable;
+class SnapshotView;
 
-/// The page "Snapshots": the records of the archive as a list, the newest first; saved, deleted with a way
-/// back, compared, imported and exported.
+/// The page "Snapshots": the records of the archive as a list, the newest first or as one sorts them; saved,
+/// deleted with a way back, compared, imported and exported.
 class SnapshotsPage : public QWidget
 {
     Q_OBJECT
@@ -44,11 +42,11 @@ protected:
 
 private:
     QPushButton* button(const QString& text, void (SnapshotsPage::*action)());
+    void layOut();
     void connectSnapshots();
     void showRecords();
     void showBusy();
     void updateButtons();
-    QVariantList selectedRecords() const;
     void saveNow();
     void deleteSelected();
     void undo();
@@ -60,14 +58,12 @@ private:
 
     SavedSnapshots& m_snapshots;
     MakeSnapshot m_makeSnapshot;
-    SnapshotTable* m_table;
-    QTableView* m_view;
+    SnapshotView* m_view;
     QLabel* m_count;
     QLabel* m_nothing;
     QLabel* m_told;
     LinkButton* m_undo;
-    QProgressBar* m_progress;
-    QTimer* m_slow;
+    LoadingBar* m_progress;
     QPushButton* m_save;
     QPushButton* m_compare;
     QPushButton* m_delete;

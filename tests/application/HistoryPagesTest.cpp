@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -15,6 +16,7 @@
 #include "application/pages/HistoryPage.h"
 #include "application/pages/SnapshotsPage.h"
 #include "settings/ApplicationPreferences.h"
+#include "tests/preferences/Input.h"
 #include "tests/records/TemporaryHistory.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/FakePlatform.h"
@@ -98,6 +100,44 @@ TEST_F(HistoryPagesTest, SnapshotsAreListedTheNewestFirst)
     EXPECT_TRUE(says("3 snapshots"));
     EXPECT_EQ(cell(0, 2), latin("3,998 mAh"));
     EXPECT_EQ(cell(2, 2), latin("4,000 mAh"));
+}
+
+TEST_F(HistoryPagesTest, SnapshotsAreSortedByTheirCaptionsAndStaySelected)
+{
+    store(3);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(3));
+    table()->selectRow(0);
+    QHeaderView* captions = table()->horizontalHeader();
+    const QPoint fullCharge(captions->sectionViewportPosition(2) + 5, captions->height() / 2);
+    test::clickAt(*captions->viewport(), fullCharge);
+    EXPECT_EQ(cell(0, 2), latin("3,998 mAh"));
+    test::clickAt(*captions->viewport(), fullCharge);
+    EXPECT_EQ(cell(0, 2), latin("4,000 mAh"));
+    const auto selected = table()->selectionModel()->selectedRows();
+    ASSERT_EQ(selected.size(), 1);
+    EXPECT_EQ(cell(selected[0].row(), 2), latin("3,998 mAh"));
+    SnapshotArchive(archive()).append(recordAt(1430000000, 4100));
+    computer.runLoop.advance(10);
+    ASSERT_TRUE(hasRows(4));
+    EXPECT_EQ(cell(0, 2), latin("4,100 mAh")) << "in the same order once there are others";
+}
+
+TEST_F(HistoryPagesTest, CaptionsAreReachedByTheKeyboard)
+{
+    store(3);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(3));
+    QHeaderView* captions = table()->horizontalHeader();
+    EXPECT_TRUE(captions->focusPolicy() & Qt::TabFocus);
+    for (const int key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right})
+        test::pressKey(*captions, key);
+    EXPECT_EQ(captions->accessibleName(), latin("Sort by Full charge"));
+    test::pressKey(*captions, Qt::Key_Space);
+    EXPECT_EQ(cell(0, 2), latin("3,998 mAh"));
+    test::pressKey(*captions, Qt::Key_Return);
+    EXPECT_EQ(cell(0, 2), latin("4,000 mAh"));
+    EXPECT_EQ(captions->accessibleDescription(), latin("Sorted by Full charge, descending"));
 }
 
 TEST_F(HistoryPagesTest, WithoutAnyThePageSaysSo)

@@ -1,5 +1,7 @@
 #include "application/pages/SavedSnapshots.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "tests/records/TemporaryHistory.h"
@@ -50,6 +52,24 @@ TEST_F(SavedSnapshotsTest, AreReadAgainOnlyWhenTheFileHasChanged)
     snapshots.load();
     wait();
     EXPECT_EQ(snapshots.records().size(), 2) << "saved by another process";
+}
+
+TEST_F(SavedSnapshotsTest, SaysHowFarTheReadingIs)
+{
+    QVariantList records;
+    for (int number = 0; number < 200; ++number)
+        records.append(recordAt(1000 + number));
+    SnapshotArchive(archive()).merge(records);
+    std::vector<int> percents;
+    QObject::connect(&snapshots, &SavedSnapshots::progressed, &snapshots, [&](int percent) {
+        EXPECT_TRUE(snapshots.isBusy());
+        percents.push_back(percent);
+    });
+    snapshots.load();
+    wait();
+    ASSERT_EQ(percents.size(), 100U) << "each number once";
+    EXPECT_TRUE(std::is_sorted(percents.begin(), percents.end()));
+    EXPECT_EQ(percents.back(), 100);
 }
 
 TEST_F(SavedSnapshotsTest, ChangesReachTheArchive)

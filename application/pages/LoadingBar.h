@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QProgressBar>
+#include <QTimer>
+
+namespace quindle {
+
+/// How far a reading is, shown only where it takes its time.
+class LoadingBar : public QProgressBar
+{
+    Q_OBJECT
+
+public:
+    explicit LoadingBar(const QString& name, QWidget* parent = nullptr);
+
+    /// Begins with no figure.
+    void setBusy(bool isBusy);
+
+private:
+    QTimer m_slow;
+};
+
+} // namespace quindle

@@ -1,0 +1,81 @@
+#include "application/pages/SnapshotFiles.h"
+
+#include <QCheckBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QSaveFile>
+
+#include "common/Paths.h"
+#include "records/SnapshotExport.h"
+
+namespace quindle {
+
+namespace {
+
+QFileDialog* dialogFor(QWidget* parent, const QString& title, const QStringList& filters)
+{
+    auto* dialog = new QFileDialog(parent, title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setNameFilters(filters);
+    dialog->setDirectory(QFile::decodeName(pathBytes(homeFolder())));
+    return dialog;
+}
+
+QString pathOf(const QString& selected)
+{
+    return pathText(QFile::encodeName(selected));
+}
+
+} // namespace
+
+void askForArchive(QWidget* parent, const std::function<void(const QString& path)>& chosen)
+{
+    auto* dialog =
+        dialogFor(parent, QStringLiteral("Import Snapshots"),
+                  {QStringLiteral("Archives of snapshots (*.qndarchive)"), QStringLiteral("All files (*)")});
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    QObject::connect(dialog, &QFileDialog::fileSelected, parent,
+                     [chosen](const QString& path) { chosen(pathOf(path)); });
+    dialog->open();
+}
+
+void askForExportFile(QWidget* parent,
+                      const std::function<void(const QString& path, bool withSerialNumbers)>& chosen)
+{
+    auto* dialog = dialogFor(parent, QStringLiteral("Export Snapshots"),
+                             {QStringLiteral("Table (*.csv)"), QStringLiteral("JSON (*.json)")});
+    // The toolkit's own, which has room for one more choice.
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("csv"));
+    dialog->selectFile(QStringLiteral("snapshots.csv"));
+    auto* withSerials = new QCheckBox(QStringLiteral("With serial &numbers"), dialog);
+    if (auto* grid = qobject_cast<QGridLayout*>(dialog->layout()))
+        grid->addWidget(withSerials, grid->rowCount(), 0, 1, grid->columnCount());
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
+        dialog->setDefaultSuffix(filter.contains(QStringLiteral(".json")) ? QStringLiteral("json")
+                                                                          : QStringLiteral("csv"));
+    });
+    QObject::connect(dialog, &QFileDialog::fileSelected, parent, [chosen, withSerials](const QString& path) {
+        chosen(pathOf(path), withSerials->isChecked());
+    });
+    dialog->open();
+}
+
+QString exportToFile(const QString& path, const QVariantList& records, bool withSerialNumbers)
+{
+    ExportOptions options;
+    options.format =
+        path.endsWith(QStringLiteral(".json"), Qt::CaseInsensitive) ? ExportFormat::Json : ExportFormat::Csv;
+    options.identity = withSerialNumbers ? ExportedIdentity::Included : ExportedIdentity::LeftOut;
+    QSaveFile file(QFile::decodeName(pathBytes(path)));
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly) &&
+        exportSnapshots(records, options,
+                        [&file](const QByteArray& bytes) { return file.write(bytes) == bytes.size(); }) &&
+        file.commit();
+    return isWritten ? QString() : path + QStringLiteral(": ") + file.errorString();
+}
+
+} // namespace quindle

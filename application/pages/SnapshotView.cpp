@@ -1,0 +1,67 @@
+#include "application/pages/SnapshotView.h"
+
+#include <QEvent>
+#include <QHeaderView>
+
+#include "application/pages/SnapshotTable.h"
+#include "application/pages/SortHeader.h"
+
+namespace quindle {
+
+SnapshotView::SnapshotView(QWidget* parent)
+    : QTableView(parent)
+    , m_table(new SnapshotTable(this))
+{
+    setAccessibleName(QStringLiteral("Snapshots"));
+    setHorizontalHeader(new SortHeader(this));
+    setModel(m_table);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setFrameShape(QFrame::NoFrame);
+    setShowGrid(false);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    horizontalHeader()->setSortIndicator(static_cast<int>(SnapshotColumn::Date), Qt::DescendingOrder);
+    setSortingEnabled(true);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &SnapshotView::selectedChanged);
+    fitToFont();
+}
+
+void SnapshotView::setRecords(const QVariantList& records)
+{
+    m_table->setRecords(records);
+}
+
+QVariantList SnapshotView::selectedRecords() const
+{
+    QVariantList records;
+    for (const QModelIndex& index : selectionModel()->selectedRows())
+        records.append(m_table->record(index.row()));
+    return records;
+}
+
+qsizetype SnapshotView::selectedCount() const
+{
+    return selectionModel()->selectedRows().size();
+}
+
+void SnapshotView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        fitToFont();
+    QTableView::changeEvent(event);
+}
+
+void SnapshotView::fitToFont()
+{
+    const int line = fontMetrics().height();
+    verticalHeader()->setDefaultSectionSize(line * 8 / 5);
+    // The smallest window has room for all; the last column takes what is left.
+    constexpr double lines[snapshotColumns] = {7.5, 4, 5.3, 3.7, 4};
+    for (int column = 0; column < snapshotColumns; ++column)
+        setColumnWidth(column, qRound(line * lines[column]));
+}
+
+} // namespace quindle
+
+#include "moc_SnapshotView.cpp"

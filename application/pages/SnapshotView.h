@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QTableView>
+#include <QVariant>
+
+namespace quindle {
+
+class SnapshotTable;
+
+/// The list of snapshots: rows that can be selected, the newest first until another order is chosen by the
+/// captions. What is selected stays so when it is sorted.
+class SnapshotView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit SnapshotView(QWidget* parent = nullptr);
+
+    void setRecords(const QVariantList& records);
+
+    QVariantList selectedRecords() const;
+
+    /// How many rows are selected.
+    qsizetype selectedCount() const;
+
+Q_SIGNALS:
+    void selectedChanged();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void fitToFont();
+
+    SnapshotTable* m_table;
+};
+
+} // namespace quindle
