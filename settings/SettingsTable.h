@@ -20,7 +20,7 @@ template <typename Type>
 struct Setting
 {
     QStringView key;
-    SettingsDatabase database;
+    SettingsDatabase database = SettingsDatabase::Own;
     std::optional<Type> missing; ///< nothing: absent
 
     /// The key as databases take it.
