@@ -35,6 +35,7 @@ std::optional<double> batteryPower(const QDBattery& battery)
 std::optional<Sample> batterySample(const QDBattery& battery, qint64 moment)
 {
     const double charge = battery.StateOfCharge();
+    // Without a full charge there is no percentage, and nothing to record.
     if (!std::isfinite(charge))
         return std::nullopt;
     return Sample{.moment = moment,

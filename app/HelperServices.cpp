@@ -51,6 +51,7 @@ public:
     QString windowsProgram() const override { return windowsProgramOf(m_linux.bundle()); }
     QString recordingProgram() const override
     {
+        // Another tree than /sys is another computer, whose history does not belong into this one's.
         return m_isOther ? QString() : mainApplicationProgram(m_linux.bundle().path());
     }
     QByteArray memory() const override { return m_linux.powerMemory(); }
@@ -123,6 +124,7 @@ public:
     QString recordingProgram() const override
     {
         const QVariantMap settings = m_recorded.computer.database(QStringLiteral("standard"));
+        // By what the machine file says itself: recording is on by default only on a real computer.
         const bool isAskedFor = convertToBoolean(settings.value(Keys::recordHistory.name())).value_or(false);
         return isAskedFor ? mainApplicationProgram(m_programBundle.path()) : QString();
     }

@@ -47,6 +47,7 @@ RemoteControllers::RemoteControllers(const Platform& platform, MainInterface& in
 {
     m_notifications.setForward(
         [this](const QString& name) { m_process.tell({.kind = Kind::Announced, .text = name.toUtf8()}); });
+    // Nobody looks at windows that have gone.
     m_process.setGone([this] { watch(false); });
 }
 
@@ -67,6 +68,7 @@ DelegateControllers RemoteControllers::make(HelperAppDelegate& delegate)
     m_interface.statusMenu().setViewToggler(asks(Kind::ToggleView));
     m_process.setReceiver([this](const WindowMessage& message) { handle(message); });
     connect(&delegate, &HelperAppDelegate::statusItemRefreshed, this, &RemoteControllers::followModels);
+    // Messages are about the delegate, and the process may live a little longer.
     connect(&delegate, &QObject::destroyed, this, [this] { m_process.setReceiver({}); });
     return {.batteryPopover = nullptr,
             .preferencesWindow = std::make_unique<RemoteWindow>(asks(Kind::ShowMenuBarText)),

@@ -60,6 +60,7 @@ void SampleKeeper::takeTurn()
     if (!m_isOn || !m_delegate.myMac().Battery())
         return;
     const bool isNewDay = m_platform.clock.now().toLocalTime().date() != m_lastDay;
+    // Once a day even without samples: the program saves the day's snapshot too.
     if ((isNewDay || !m_samples.isEmpty()) && isRecorderFree())
         handOver();
 }

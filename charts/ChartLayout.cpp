@@ -26,6 +26,7 @@ public:
         if (!(m_span.from <= m_span.to))
             return {0, 1};
         const double length = m_span.length();
+        // A line that is level, and one of zeros, get an axis too.
         const double room =
             length > 0 ? length * roomBeside : std::max(1.0, std::abs(m_span.from) * roomBeside);
         return {m_span.from - room, m_span.to + room};
@@ -84,6 +85,7 @@ AxisSpan valuesSeen(const ChartContent& content, AxisSpan seen)
         span.add(0);
     for (const ChartSeries& series : content.series) {
         for (const ChartPoint& point : series.points) {
+            // What lies outside must not flatten what is seen.
             if (seen.contains(static_cast<double>(point.moment)))
                 span.add(point.value);
         }
@@ -104,6 +106,7 @@ double chartOverhang(double line)
 
 QRectF cardBeside(const QPointF& point, const QSizeF& card, double distance, const QRectF& plot)
 {
+    // Behind and above the point, where neither the pointer nor the line to the left is hidden.
     const bool fitsBehind = point.x() + distance + card.width() <= plot.right();
     const bool fitsAbove = point.y() - distance - card.height() >= plot.top();
     const double left = fitsBehind ? point.x() + distance : point.x() - distance - card.width();

@@ -15,6 +15,7 @@ constexpr double gridShare = 0.09;
 
 QColor visible(const QColor& colour, const QColor& text, const QColor& background)
 {
+    // Towards the text, which can be read on any background.
     for (double share = 0; share < 1; share += 0.1) {
         const QColor moved = mixed(text, colour, share);
         if (contrast(moved, background) >= visibleContrast)

@@ -61,6 +61,7 @@ void paintValueTicks(QPainter& painter, const ChartContent& content, const Chart
     for (const double value : layout.valueTicks.values) {
         const double y = layout.value.pixel(value);
         fillRow(painter, layout.plot, y, look.grid);
+        // The box ends at the axis and is as wide as any text may be.
         painter.drawText(QRectF(right - 1000, y - layout.line, 1000, layout.line * 2),
                          Qt::AlignRight | Qt::AlignVCenter,
                          tickText(content, value, layout.valueTicks.decimals));
@@ -92,6 +93,7 @@ void paintReferenceLines(QPainter& painter, const ChartContent& content, const C
     dotted.setDashPattern({2, 3});
     painter.setPen(dotted);
     for (const ReferenceLine& line : content.lines) {
+        // A pen covers half a pixel on each side.
         const double y = std::round(layout.value.pixel(line.value)) + 0.5;
         painter.drawLine(QPointF(layout.plot.left(), y), QPointF(layout.plot.right(), y));
     }
@@ -134,6 +136,7 @@ void paintDot(QPainter& painter, const QPointF& centre, double radius, const QCo
               const ChartLook& look)
 {
     painter.setPen(Qt::NoPen);
+    // A rim parts the dot from the line below it.
     painter.setBrush(look.background);
     painter.drawEllipse(centre, radius * 1.5, radius * 1.5);
     painter.setBrush(ink);
@@ -158,6 +161,7 @@ void paintLines(QPainter& painter, const ChartContent& content, const ChartLayou
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const double overlap = seriesWidth(layout);
+    // With room for half a line's width at the edges.
     painter.setClipRect(layout.plot.adjusted(0, -layout.line, overlap, overlap));
     if (content.projection)
         paintProjection(painter, *content.projection, layout, look);

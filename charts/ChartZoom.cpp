@@ -7,6 +7,7 @@ namespace quindle {
 AxisSpan keptInside(AxisSpan wanted, AxisSpan whole, double shortest)
 {
     const double length = std::max(wanted.length(), shortest);
+    // Written so that a span that is not a number counts as too long.
     if (!(length < whole.length()))
         return whole;
     const double middle = (wanted.from + wanted.to) / 2;
@@ -21,6 +22,7 @@ AxisSpan zoomed(AxisSpan seen, double anchor, double factor)
 
 AxisSpan movedTo(AxisSpan seen, double value)
 {
+    // Not at the very edge, where what comes next could not be seen.
     const double margin = seen.length() / 10;
     double shift = 0;
     if (value < seen.from)

@@ -7,12 +7,14 @@ namespace quindle {
 
 QString clockText(QTime time, const QLocale& locale)
 {
+    // Some locales have them in their short format.
     static const QRegularExpression seconds(QStringLiteral("[:.]s+"));
     return locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(seconds));
 }
 
 QString dayText(QDate day, const QLocale& locale)
 {
+    // No format of the locale is a day without its year.
     const QString order = locale.dateFormat(QLocale::ShortFormat);
     const bool dayFirst = order.indexOf(u'd') < order.indexOf(u'M');
     return locale.toString(day, dayFirst ? QStringLiteral("d MMM") : QStringLiteral("MMM d"));

@@ -53,6 +53,7 @@ std::vector<ChartPoint> decimatedRun(PointIterator first, PointIterator end, con
             points.add(point);
         points.appendTo(kept);
     }
+    // A line ends where it does, and not at the last column's lowest or highest point.
     const ChartPoint last = *std::prev(end);
     if (kept.back() != last)
         kept.push_back(last);
@@ -73,6 +74,7 @@ std::vector<ChartPoint> decimatedStretch(PointIterator first, PointIterator end,
         from == end || (to == first && time.values().to < static_cast<double>(to->moment));
     if (liesOutside)
         return {};
+    // The neighbours outside, so that lines run on to the edges.
     if (from != first)
         --from;
     if (to != end)

@@ -47,6 +47,7 @@ void paintStretches(QPainter& painter, const ChartSeries& series, const ChartLay
 void paintColumns(QPainter& painter, const std::vector<PointColumn>& columns, const ChartLayout& layout,
                   const QPen& pen, const QColor& light)
 {
+    // Smooth edges would leave seams between the columns.
     painter.setRenderHint(QPainter::Antialiasing, false);
     for (const PointColumn& column : columns) {
         const double top = layout.value.pixel(column.high);
@@ -57,6 +58,7 @@ void paintColumns(QPainter& painter, const std::vector<PointColumn>& columns, co
     QPolygonF line;
     double end = -INFINITY;
     for (const PointColumn& column : columns) {
+        // An empty column is a gap, which no line crosses.
         if (!line.isEmpty() && column.from > end + 1) {
             paintLine(painter, line, pen);
             line.clear();

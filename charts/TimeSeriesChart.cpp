@@ -44,6 +44,7 @@ TimeSeriesChart::TimeSeriesChart(const QString& name, QWidget* parent)
 
 void TimeSeriesChart::setContent(ChartContent content)
 {
+    // New samples come every minute; what somebody has zoomed to stays.
     const bool keepsZoom =
         isZoomed() && m_seen.from >= content.moments.from && m_seen.to <= content.moments.to;
     const auto readMoment =
@@ -51,6 +52,7 @@ void TimeSeriesChart::setContent(ChartContent content)
     m_content = std::move(content);
     if (!keepsZoom)
         m_seen = m_content.moments;
+    // The same point by its moment: its place in the list may be another one.
     m_reading = readMoment ? readingNear(m_content, *readMoment, 0) : std::nullopt;
     describe();
     update();

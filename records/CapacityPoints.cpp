@@ -22,6 +22,7 @@ std::optional<CapacityPoint> capacityPoint(const QVariantMap& record)
 {
     const auto date = snapshotDate(record);
     const double fullCharge = numberAt(record, "Battery.FullChargeCapacity");
+    // Such a record has no place in a chart.
     if (!date || fullCharge <= 0)
         return std::nullopt;
     return CapacityPoint{
@@ -43,6 +44,7 @@ std::vector<CapacityPoint> capacityPoints(const QVariantList& records)
     for (const QVariant& record : records)
         if (const auto point = capacityPoint(record.toMap()))
             points.push_back(*point);
+    // Archives that were merged are in the order of their files.
     std::stable_sort(points.begin(), points.end(), [](const CapacityPoint& left, const CapacityPoint& right) {
         return left.moment < right.moment;
     });

@@ -13,6 +13,7 @@ QString csvField(const QString& text)
     });
     if (isPlain)
         return text;
+    // RFC 4180: a quotation mark inside is doubled.
     return u'"' + QString(text).replace(u'"', QStringLiteral("\"\"")) + u'"';
 }
 

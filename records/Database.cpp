@@ -24,6 +24,7 @@ void Statement::bind(int index, double value)
 
 void Statement::bind(int index, const QByteArray& text)
 {
+    // Not copied: whoever binds a text keeps it until the statement has run.
     sqlite3_bind_text(m_statement.get(), index, text.constData(), static_cast<int>(text.size()),
                       SQLITE_STATIC);
 }
@@ -81,6 +82,7 @@ void Statement::Finalize::operator()(sqlite3_stmt* statement) const
 bool Database::open(const QByteArray& path, int patience)
 {
     sqlite3* database = nullptr;
+    // Without locks of its own: a connection belongs to one thread.
     const int result =
         sqlite3_open_v2(path.constData(), &database,
                         SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
@@ -131,6 +133,7 @@ DatabaseFault Database::fault() const
 
 void Database::Close::operator()(sqlite3* database) const
 {
+    // With a statement left it closes when that goes.
     sqlite3_close_v2(database);
 }
 

@@ -36,6 +36,7 @@ int makePrivate(const QByteArray& path)
     if (!S_ISREG(found.st_mode))
         return EINVAL;
     if ((found.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+        // A copy that somebody put back may be readable for everybody.
         ::chmod(path.constData(), 0600);
     return 0;
 }
@@ -47,6 +48,7 @@ QString reasonOf(int error)
 
 bool isSound(Database& database)
 {
+    // The first fault is enough.
     Statement check = database.statement("PRAGMA quick_check(1)");
     return check.step() && check.text(0) == "ok";
 }
@@ -114,6 +116,7 @@ StoreOutcome SampleFile::tryToChange(const Work& work)
 StoreOutcome SampleFile::tryToLook(const Work& work)
 {
     const StoreOutcome opened = openToRead();
+    // Without a file there is nothing to see, which is no fault.
     if (!opened.isGood() || !m_database.isOpen() || work(m_database))
         return opened;
     return refusal(m_database, false);

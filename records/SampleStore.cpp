@@ -10,6 +10,7 @@ namespace {
 
 bool insert(Database& database, const std::vector<StoredSample>& samples)
 {
+    // The first at a moment stays: what is taken over from elsewhere comes later, after a crash twice.
     Statement statement = database.statement("INSERT OR IGNORE INTO samples VALUES (?, ?, ?, ?, ?, ?)");
     for (const StoredSample& stored : samples) {
         const Sample& sample = stored.sample;
@@ -158,9 +159,11 @@ std::optional<qint64> SampleStore::moment(const char* sql)
 
 StoreOutcome SampleStore::thin(qint64 now)
 {
+    // Values made of damaged rows would look sound for ever.
     const StoreOutcome checked = m_file.check();
     if (!checked.isGood() || !checked.notice.isEmpty())
         return checked;
+    // The oldest first: what becomes a value of a day need not become values of hours before.
     return m_file.change([now](Database& database) {
         return thinBefore(database, dailyBefore(now), secondsOfDay, now) &&
                thinBefore(database, hourlyBefore(now), secondsOfHour, now);
@@ -179,6 +182,7 @@ StoreOutcome SampleStore::removeAll()
     // Deleted rows stay readable in the file until it is written anew, and in the journal until that is cut
     // off.
     const StoreOutcome removed = m_file.look([](Database& database) {
+        // In no transaction: within one a file cannot be written anew.
         return database.run("DELETE FROM samples") && database.run("VACUUM") &&
                database.run("PRAGMA wal_checkpoint(TRUNCATE)");
     });

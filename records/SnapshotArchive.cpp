@@ -71,6 +71,7 @@ StoreOutcome SnapshotArchive::change(const Change& change)
     if (found.error != 0)
         return readingFaultOf(m_path, found.error, found.archived.fault);
     const auto records = change(found.archived.records);
+    // Nothing to change: the file stays as it is, to the byte.
     if (!records)
         return {};
     StoreOutcome outcome;
@@ -119,6 +120,7 @@ StoreOutcome SnapshotArchive::removeAll()
 {
     const auto lock = lockOnArchive(m_file);
     if (!lock)
+        // Without the folder there is no archive either.
         return errno == ENOENT || errno == ENOTDIR ? StoreOutcome() : writingFault(m_path, errno);
     removeLeftovers(m_file);
     if (::unlink(m_file.constData()) != 0 && errno != ENOENT)

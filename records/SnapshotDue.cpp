@@ -13,6 +13,7 @@ bool isSnapshotDue(const QVariantList& records, const QVariantMap& snapshot)
         return false;
     const QDate today = date->toLocalTime().date();
     const QString battery = snapshotBattery(snapshot);
+    // From the end, where one of today would be.
     return std::none_of(records.crbegin(), records.crend(), [&](const QVariant& record) {
         const auto other = snapshotDate(record);
         return other && snapshotBattery(record) == battery && other->toLocalTime().date() == today;

@@ -43,8 +43,10 @@ void WindowsProcess::request(WindowMessage request)
 
 bool WindowsProcess::ask(WindowMessage request)
 {
+    // A new process has no view that could be closed.
     if (m_heard == 0 && request.kind == Kind::ToggleView)
         request.kind = Kind::OpenView;
+    // From the first unanswered request on.
     if (m_heard == m_requests)
         m_waitingSince = m_now();
     ++m_requests;
@@ -107,6 +109,7 @@ void WindowsProcess::hear(quint32 requests)
 {
     m_heard = requests;
     m_waitingSince = m_now();
+    // It works: the next failure is a new one, and said again.
     m_logged.fill(false);
 }
 

@@ -23,6 +23,7 @@ long long hundredths(double percent)
 bool hasPowerChanged(const std::optional<double>& last, const std::optional<double>& next)
 {
     if (!last || !next)
+        // To have become known, or not known, is a change.
         return last.has_value() != next.has_value();
     return std::abs(*next - *last) >= std::max(leastWatts, std::abs(*last) * leastShare);
 }
@@ -32,6 +33,7 @@ bool hasPowerChanged(const std::optional<double>& last, const std::optional<doub
 SampleFate sampleFate(const Sample& last, const Sample& next)
 {
     const bool hasOtherState = next.state != last.state;
+    // One sample a minute, with the state that it ended in.
     if (next.moment / secondsOfMinute == last.moment / secondsOfMinute)
         return hasOtherState ? SampleFate::Replaces : SampleFate::Ignored;
     const bool hasOtherCharge = std::abs(hundredths(next.charge) - hundredths(last.charge)) >= leastCharge;
@@ -50,6 +52,7 @@ void SampleBuffer::add(const Sample& sample)
         return;
     }
     if (m_samples.size() == most)
+        // What cannot be handed over for so long is lost from its beginning: the newest counts.
         m_samples.pop_front();
     m_samples.push_back(sample);
 }

@@ -35,6 +35,7 @@ QByteArray shortDecimal(double value)
         text.chop(1);
     if (text.endsWith('.'))
         text.chop(1);
+    // A small negative figure is rounded to it.
     return text == "-0" ? QByteArray("0") : text;
 }
 
@@ -71,6 +72,7 @@ std::array<QByteArrayView, 4> wordsOf(QByteArrayView line)
     for (std::size_t index = 0; index + 1 < words.size(); ++index) {
         const qsizetype end = line.indexOf(' ');
         if (end < 0)
+            // Fewer words: the last one, a state's name, stays empty.
             return {};
         words.at(index) = line.first(end);
         line = line.sliced(end + 1);
@@ -110,6 +112,7 @@ std::optional<Sample> sampleFromLine(QByteArrayView line)
     const auto charge = decimalFrom(words[1]);
     const auto power = decimalFrom(words[2]);
     const auto state = sampleStateNamed(words[3]);
+    // The lines come from another process, which may be of another version.
     const bool isCharge = charge && *charge >= 0 && *charge <= fullCharge;
     if (!moment || !isCharge || !state || (!power && words[2] != notKnown))
         return std::nullopt;

@@ -94,6 +94,7 @@ void BatteryPopup::toggle(const std::optional<QPoint>& pointer)
 
 bool BatteryPopup::isSameClick(const QPoint& pointer) const
 {
+    // By time and place: nothing links the press that closed it with the tray's click.
     return m_sinceClosedOutside.isValid() &&
            m_sinceClosedOutside.elapsed() < QApplication::doubleClickInterval() &&
            (pointer - m_closedAt).manhattanLength() < QApplication::startDragDistance();

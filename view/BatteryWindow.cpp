@@ -30,6 +30,7 @@ constexpr double borderShare = 0.25; // seen on a desktop of the window's own co
 QScreen* screenAt(const QPoint& point)
 {
     QScreen* screen = QGuiApplication::screenAt(point);
+    // A tray may report a place between the screens.
     return screen ? screen : QGuiApplication::primaryScreen();
 }
 
@@ -114,6 +115,7 @@ void BatteryWindow::followModels()
     const QDMac* mac = m_interface.macObjectController().content();
     if (!mac)
         return;
+    // Models say that they have changed more often than the helper refreshes.
     connect(mac, &QDMac::changed, this, &BatteryWindow::updateFacts, Qt::UniqueConnection);
     if (const QDBattery* battery = mac->Battery())
         connect(battery, &QDBattery::changed, this, &BatteryWindow::updateFacts, Qt::UniqueConnection);

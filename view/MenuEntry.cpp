@@ -52,6 +52,7 @@ void MenuEntry::paintEvent(QPaintEvent*)
     const ViewMetrics metrics(*this);
     QPainter painter(this);
     const QColor background = backgroundOf(*this);
+    // Also while the window is not active, as a popup is not everywhere.
     const QColor text = palette().color(QPalette::Active, foregroundRole());
     const int inset = metrics.margin / 3;
     if (hasFocus()) {

@@ -8,6 +8,7 @@ namespace quindle {
 QPoint pointerPlace(const QPoint& nativePoint, const std::vector<ScaledScreen>& screens)
 {
     for (const auto& [geometry, scale] : screens) {
+        // Screens keep their native corner, and are scaled from there.
         const QPoint corner = geometry.topLeft();
         const QPointF within = QPointF(nativePoint - corner) / scale;
         const QPoint place = corner + QPoint(static_cast<int>(within.x()), static_cast<int>(within.y()));

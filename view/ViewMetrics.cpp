@@ -23,6 +23,7 @@ ViewMetrics::ViewMetrics(const QWidget& widget)
 {
     const QFont& font = widget.font();
     const int line = widget.fontMetrics().height();
+    // All in lines of text, so that the view keeps its proportions at any size of font.
     width = line * 17;
     margin = qRound(line * 0.85);
     groupGap = qRound(line * 0.8);

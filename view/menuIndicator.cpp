@@ -78,6 +78,7 @@ QColor menuIndicator::baseColor(bool onDark)
 
 QSize menuIndicator::sizeHint() const
 {
+    // Thin bars of small fonts would lose their round ends.
     const int thickness = std::max(4, qRound(fontMetrics().height() * 0.42));
     return {12 * fontMetrics().height(), thickness};
 }

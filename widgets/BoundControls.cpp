@@ -48,6 +48,7 @@ BoundCheckBox::BoundCheckBox(QWidget* parent)
 
 void BoundCheckBox::setShown(bool checked)
 {
+    // What is filled in is stored already.
     const QScopedValueRollback filling(m_isFilling, true);
     setChecked(checked);
 }

@@ -16,6 +16,7 @@ constexpr double readableContrast = 4.5;
 
 double linear(double channel)
 {
+    // As sRGB defines it, and the guidelines use it.
     return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
 }
 

@@ -27,6 +27,7 @@ void PlainButton::setLabel(const QString& label)
 void PlainButton::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        // As in a menu; the toolkit's buttons take the space bar only.
         click();
     else
         QAbstractButton::keyPressEvent(event);

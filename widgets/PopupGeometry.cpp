@@ -18,6 +18,7 @@ QRect popupGeometry(const QPoint& anchor, const QSize& size, const QRect& availa
 {
     const QRect room = available.adjusted(gap, gap, -gap, -gap);
     const QSize fitting = size.boundedTo(room.size());
+    // Away from the panel, which is at the nearer edge.
     const bool inLowerHalf = anchor.y() > available.center().y();
     const int x = anchor.x() - fitting.width() / 2;
     const int y = inLowerHalf ? anchor.y() - gap - fitting.height() : anchor.y() + gap;

@@ -51,6 +51,7 @@ HelperControllers::HelperControllers(const Platform& platform, ApplicationPrefer
 
 DelegateControllers HelperControllers::make(HelperAppDelegate& delegate)
 {
+    // Windows refresh the item through the helper, which has it.
     SharedTitle& title = m_title.emplace(m_helper, delegate);
     auto menuBarText = HelperPreferences::initWithWindow(nullptr, m_settings, title);
     auto general = std::make_unique<GeneralPreferencesController>(

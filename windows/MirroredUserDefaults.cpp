@@ -16,6 +16,7 @@ MirroredUserDefaults::MirroredUserDefaults(UserDefaults& below, QString name, He
 
 void MirroredUserDefaults::setObject(const QString& key, const QVariant& value)
 {
+    // By type too: a boolean and a 1 compare equal.
     if (m_below.object(key) == value && m_below.object(key).typeId() == value.typeId())
         return;
     m_below.setObject(key, value);

@@ -26,6 +26,7 @@ HelpersRunLoop::HelpersRunLoop(HelperEnd& helper)
 std::shared_ptr<Timer> HelpersRunLoop::scheduleRepeatingTimer(double /*interval*/, double /*tolerance*/,
                                                               std::function<void()> /*fire*/)
 {
+    // Never fired: the windows refresh when the helper does.
     return std::make_shared<IdleTimer>();
 }
 

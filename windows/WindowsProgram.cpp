@@ -28,6 +28,7 @@ WindowsProgram::WindowsProgram(WindowsServices& services, HelperEnd& helper)
     , m_delegate(m_platform, ApplicationPreferences::sharedInstance(), m_interface, &QDMac::init,
                  [this](HelperAppDelegate& owner) { return m_controllers.make(owner); })
 {
+    // The helper repeats the click on its own models, so that both processes show the same.
     m_interface.setClickObserver(
         [this](FactClick click) { m_helper.tell(Kind::Clicked, static_cast<quint32>(click)); });
     m_delegate.applicationDidFinishLaunching();

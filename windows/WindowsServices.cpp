@@ -100,6 +100,7 @@ public:
 
     void begin(const WindowMessage& request) override
     {
+        // A recorded computer's states and settings live in memory, so a new process has to be told them.
         for (; m_entered < request.number && m_entered < m_steps.size(); ++m_entered)
             m_recorded.computer.enter(m_steps[m_entered]);
         const QVariantMap databases = propertyListFromBytes(request.data).value_or(QVariant()).toMap();

@@ -145,6 +145,7 @@ void GeneralPreferencesController::setMenuBarText()
 
 void GeneralPreferencesController::resetCustomMenuBarText()
 {
+    // By hand: a text that is being typed is not replaced by what is stored.
     m_ui->customMenuBarTextField->setText(defaultTitleTemplate());
     m_settings.setCustomStatusBar(defaultTitleTemplate());
     announceChange();
@@ -164,6 +165,7 @@ void GeneralPreferencesController::setAutoUpload()
 
 void GeneralPreferencesController::setAutoStart()
 {
+    // Not announced: it is an entry of the session, which everybody asks for anew, and no setting.
     m_settings.setStartsAtLogin(m_ui->launchAtStartupCheckbox->isChecked());
 }
 
@@ -173,6 +175,7 @@ void GeneralPreferencesController::showParameterPopover(const QWidget& sender)
     if (!m_parameterPopover) {
         m_parameterPopover = new ParameterPopover(m_title, *field, m_view.get());
         m_parameterPopover->setObjectName(QStringLiteral("parameterPopover"));
+        // At once: the field keeps the keyboard, so nothing else would commit it.
         connect(m_parameterPopover, &ParameterPopover::inserted, field, &BoundLineEdit::commit);
     }
     m_parameterPopover->showRelativeTo(sender);

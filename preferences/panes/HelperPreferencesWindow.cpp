@@ -41,11 +41,13 @@ void HelperPreferencesWindow::mousePressEvent(QMouseEvent* event)
 
 void HelperPreferencesWindow::startMove()
 {
+    // By the window manager: under Wayland no window moves itself.
     windowHandle()->startSystemMove();
 }
 
 void HelperPreferencesWindow::closeEvent(QCloseEvent* event)
 {
+    // A text that is being typed is committed when its field loses the focus.
     if (QWidget* focused = focusWidget())
         focused->clearFocus();
     QWidget::closeEvent(event);

@@ -33,6 +33,7 @@ void PaneView::fitToFont()
     auto* grid = qobject_cast<QGridLayout*>(layout());
     if (!grid)
         return;
+    // All distances are in lines of text, so that they suit any font.
     const int line = fontMetrics().height();
     const int margin = m_isCompact ? line : line * 3 / 2;
     grid->setContentsMargins(margin, margin, margin, margin);

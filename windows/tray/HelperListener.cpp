@@ -68,6 +68,7 @@ void HelperListener::removeFiles()
 void HelperListener::accept(const QDBusConnection& connection)
 {
     removeFiles();
+    // The first connection is the helper's; nobody else is let in.
     if (const auto connected = std::exchange(m_connected, {}))
         connected(connection);
 }

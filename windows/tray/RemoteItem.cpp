@@ -103,6 +103,7 @@ void RemoteItem::call(const QDBusMessage& message, const Answered& answered)
     auto* pending = new QDBusPendingCallWatcher(m_helper.asyncCall(message), this);
     connect(pending, &QDBusPendingCallWatcher::finished, this, [answered](QDBusPendingCallWatcher* finished) {
         finished->deleteLater();
+        // A helper that has just ended says so by closing the connection.
         if (!finished->isError())
             answered(finished->reply().arguments());
     });

@@ -24,11 +24,13 @@ TrayIcon::~TrayIcon() = default;
 void TrayIcon::showPixmaps(const QList<NotifierPixmap>& pixmaps)
 {
     m_icon.setIcon(iconOf(pixmaps));
+    // Only with a picture, or the tray would show an empty place.
     m_icon.show();
 }
 
 void TrayIcon::handleClick(QSystemTrayIcon::ActivationReason reason)
 {
+    // Now: the menu's rows come later, when the pointer may be elsewhere.
     const QPoint place = QCursor::pos();
     if (reason == QSystemTrayIcon::Context)
         m_item.askForMenu([this, place](const MenuNode& menu) { openMenu(menu, place); });

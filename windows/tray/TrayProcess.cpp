@@ -28,6 +28,7 @@ int run()
     });
     if (listener.address().isEmpty())
         return 1;
+    // The helper reads it from a pipe.
     std::puts(listener.address().toLatin1().constData());
     std::fflush(stdout);
     QTimer::singleShot(patience, qApp, [&icon] {

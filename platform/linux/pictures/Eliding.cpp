@@ -30,11 +30,13 @@ QString elidedTo(const QString& text, double mostWidth, const std::function<doub
     if (text.size() <= mostUnits && width(text) <= mostWidth)
         return text;
     const std::vector<qsizetype> ends = endsIn(text.left(mostUnits));
+    // Cut between whole characters: half an emoji would be another one.
     const auto beginning = [&](std::size_t characters) {
         return (characters == 0 ? QString() : text.left(ends[characters - 1])) + ellipsis;
     };
     std::size_t fits = 0;
     std::size_t tooLong = ends.size() + 1;
+    // By halves, since each width that is asked for costs a layout.
     while (fits + 1 < tooLong) {
         const std::size_t middle = (fits + tooLong) / 2;
         if (width(beginning(middle)) <= mostWidth)

@@ -159,10 +159,12 @@ std::optional<FontFile> FontChoice::font(const QString& family, char32_t charact
     if (!m_config)
         return std::nullopt;
     const PatternPtr pattern = patternFor(family, character);
+    // The user's rules first (another family, another hinting), then what they leave open.
     FcConfigSubstitute(m_config.get(), pattern.get(), FcMatchPattern);
     FcDefaultSubstitute(pattern.get());
     FcResult result = FcResultNoMatch;
     const PatternPtr match(FcFontMatch(m_config.get(), pattern.get(), &result));
+    // The best match for a character need not have it.
     if (!match || (character != 0 && !hasCharacter(match.get(), character)))
         return std::nullopt;
     FontFile font = fontOf(match.get());
@@ -178,6 +180,7 @@ QString familyOfFontName(const QString& name)
     const qsizetype comma = words.join(u' ').indexOf(u',');
     if (comma >= 0)
         return words.join(u' ').left(comma).trimmed();
+    // One word always stays: a family may itself be called "Black".
     while (words.size() > 1 && isStyleWord(words.last()))
         words.removeLast();
     return words.join(u' ');

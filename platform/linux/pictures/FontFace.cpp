@@ -81,6 +81,7 @@ FontFace::FontFace(std::shared_ptr<FT_LibraryRec_> library, FT_FaceRec_* face, c
     , m_file(file)
     , m_loadFlags(flagsOf(file, face))
 {
+    // The table that a font names first may be another one, of symbols.
     FT_Select_Charmap(m_face, FT_ENCODING_UNICODE);
     useVariations(file.variations);
 }
@@ -100,10 +101,12 @@ void FontFace::useVariations(const QByteArray& variations)
         values.push_back(axes->axis[i].def);
     for (const QByteArray& one : variations.split(',')) {
         const QByteArray tag = one.left(4);
+        // Such as "wght=600".
         if (one.size() < 6 || one[4] != '=')
             continue;
         for (FT_UInt i = 0; i < axes->num_axis; ++i) {
             const FT_Var_Axis& axis = axes->axis[i];
+            // An axis is numbered by its four letters.
             if (tag == QByteArray::fromHex(QByteArray::number(static_cast<qulonglong>(axis.tag), 16)))
                 values[i] = std::clamp(static_cast<FT_Fixed>(one.mid(5).toDouble() * perUnit), axis.minimum,
                                        std::max(axis.minimum, axis.maximum));
@@ -122,6 +125,7 @@ bool FontFace::setPixelSize(int pixels)
     const bool isDone = FT_IS_SCALABLE(m_face)
                             ? FT_Set_Pixel_Sizes(m_face, 0, static_cast<FT_UInt>(pixels)) == 0
                             : selectBitmaps(pixels);
+    // In no size a face loads nothing, instead of glyphs of the size before.
     m_pixelSize = isDone ? pixels : 0;
     return isDone;
 }
@@ -169,6 +173,7 @@ bool FontFace::hasFractions() const
 
 int FontFace::measuringFlags() const
 {
+    // Hinting moves edges to whole pixels, and widths with them.
     return (hasFractions() ? FT_LOAD_NO_HINTING : m_loadFlags & ~FT_LOAD_NO_BITMAP) | FT_LOAD_COLOR;
 }
 
@@ -177,9 +182,11 @@ double FontFace::advanceOf(std::uint32_t glyph)
     const FT_GlyphSlot slot = load(glyph, m_loadFlags);
     if (!slot)
         return 0.0;
+    // The exact advance is that of the outline as designed: emboldening widens it, and bitmaps have none.
     const bool isExact = hasFractions() && FT_IS_SCALABLE(m_face) && !m_file.isEmboldened;
     const double advance = isExact ? static_cast<double>(slot->linearHoriAdvance) / perUnit
                                    : m_bitmapScale * static_cast<double>(slot->advance.x) / unitsPerPixel;
+    // A broken font must not push what follows out of the picture.
     return std::clamp(hasFractions() ? advance : std::round(advance), 0.0, widest * m_pixelSize);
 }
 
@@ -188,6 +195,7 @@ double FontFace::kerningOf(std::uint32_t left, std::uint32_t right)
     if (m_pixelSize == 0 || !FT_IS_SCALABLE(m_face))
         return 0.0;
     double pixels = 0.0;
+    // A font that has both tables means the newer one, which the library does not read.
     if (hasPairTable(m_face)) {
         if (!m_kerning)
             m_kerning = std::make_unique<PairKerning>(
@@ -204,6 +212,7 @@ double FontFace::capHeight()
 {
     const auto* os2 = static_cast<const TT_OS2*>(FT_Get_Sfnt_Table(m_face, FT_SFNT_OS2));
     double height = -boxOf(glyphOf(U'H')).top();
+    // Earlier versions of the table lack the field; 0xffff stands for no table.
     if (os2 && os2->version >= 2 && os2->version != 0xffff && os2->sCapHeight > 0 && FT_IS_SCALABLE(m_face))
         height =
             static_cast<double>(FT_MulFix(os2->sCapHeight, m_face->size->metrics.y_scale)) / unitsPerPixel;
@@ -220,6 +229,7 @@ QRectF FontFace::boxOf(std::uint32_t glyph)
     const FT_Glyph_Metrics& box = slot->metrics;
     const QRectF found(pixels(box.horiBearingX), -pixels(box.horiBearingY), pixels(box.width),
                        pixels(box.height));
+    // Pictures are made as large as this box.
     const double reach = widest * m_pixelSize;
     return found & QRectF(-reach, -reach, 2 * reach, 2 * reach);
 }
@@ -247,6 +257,7 @@ std::optional<DrawnGlyph> FontFace::draw(std::uint32_t glyph, double fraction)
 
 QRectF FontFace::addOutline(std::uint32_t glyph, QPointF pen, std::vector<OutlineStep>& steps)
 {
+    // Not hinted: that is for one size in pixels, and a drawing is shown in any.
     const FT_GlyphSlot slot = load(glyph, FT_LOAD_NO_HINTING | FT_LOAD_NO_BITMAP);
     if (!slot || slot->format != FT_GLYPH_FORMAT_OUTLINE)
         return {};

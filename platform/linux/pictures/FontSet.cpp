@@ -41,6 +41,7 @@ void FontSet::findFamily()
         Font font{file.value_or(FontFile()), {}, !file};
         const bool isUsable = opened(font) != nullptr;
         m_fonts.clear();
+        // Kept even if it cannot be used, or each title would look for a font again.
         m_fonts.push_back(std::move(font));
         if (isUsable)
             return;
@@ -75,6 +76,7 @@ bool FontSet::has(std::size_t font, char32_t character, int pixelSize)
 
 std::size_t FontSet::fontFor(char32_t character, int pixelSize)
 {
+    // The family first, so that the letters of a title look alike.
     if (has(familyFont, character, pixelSize))
         return familyFont;
     const auto known = m_fallbacks.find(character);
@@ -91,6 +93,7 @@ std::size_t FontSet::fallbackFor(char32_t character, int pixelSize)
 {
     const auto file = chosen(m_family, character);
     const std::size_t font = file ? numberOf(*file) : familyFont;
+    // What no font has becomes the family's own sign for a missing glyph.
     return has(font, character, pixelSize) ? font : familyFont;
 }
 

@@ -38,8 +38,10 @@ Pixels picture(const FT_Bitmap& bitmap)
         for (int x = 0; x < pixels.width; ++x) {
             if (bitmap.pixel_mode == FT_PIXEL_MODE_BGRA) {
                 const unsigned char* at = row + 4 * x;
+                // The library has multiplied the colours by alpha.
                 *to++ = (opaqueColour(at[2], at[1], at[0]) & 0xffffffU) | std::uint32_t{at[3]} << 24U;
             } else {
+                // White times its coverage is the same in all four channels.
                 *to++ = std::uint32_t{coverageIn(bitmap, row, x)} * 0x01010101U;
             }
         }
@@ -114,6 +116,7 @@ DrawnGlyph glyphOfBitmap(const FT_GlyphSlotRec_& slot, double scale)
                      static_cast<int>(std::lround(slot.bitmap_top * scale)),
                      {},
                      {}};
+    // A space has no pixels, and a broken font may have any number.
     if (!bitmap.buffer || !isKnownKind(bitmap) || bitmap.width > largestBitmap || bitmap.rows > largestBitmap)
         return glyph;
     Pixels pixels = picture(bitmap);

@@ -17,6 +17,7 @@ struct Writer
 
     QPointF at(const FT_Vector& point) const
     {
+        // Outlines count upwards, drawings downwards.
         return pen + QPointF(static_cast<double>(point.x), -static_cast<double>(point.y)) / unitsPerPixel;
     }
 
@@ -35,6 +36,7 @@ Writer& writer(void* user)
 int moveTo(const FT_Vector* to, void* user)
 {
     Writer& w = writer(user);
+    // Nothing says that a contour has ended but the next one, or the end.
     if (std::exchange(w.isOpen, true))
         w.add('Z', {});
     return w.add('M', {w.at(*to)});

@@ -79,6 +79,7 @@ const Mask* fittingMask(const std::vector<Mask>& masks, int size)
 {
     const Mask* best = nullptr;
     for (const Mask& mask : masks) {
+        // The largest that fits, else the smallest.
         const bool isBetter = !best || (best->width > size ? mask.width < best->width
                                                            : mask.width <= size && mask.width > best->width);
         if (isBetter)
@@ -106,6 +107,7 @@ const std::vector<Mask>& IconMasks::masks(const QString& name)
     m_masks = m_missing.contains(name) ? std::vector<Mask>() : masksOf(fileContents(path, mostBytes).bytes);
     m_name = name;
     if (m_masks.empty() && !m_missing.contains(name)) {
+        // Neither looked for nor logged again: the item asks at every change.
         m_missing.append(name);
         qCWarning(logMasks) << "no usable picture in" << path;
     }

@@ -70,6 +70,7 @@ TextLine Lettering::plainLine(std::u32string_view text, int pixelSize)
     std::optional<Character> last;
     for (const char32_t c : text) {
         const Character next = character(c, pixelSize);
+        // A font knows only its own glyphs.
         if (last && last->font == next.font)
             line.advance += kerning(*last, next, pixelSize);
         line.glyphs.push_back({next.font, next.glyph, {line.advance, 0.0}});
@@ -90,6 +91,7 @@ std::optional<TextLine> Lettering::shapedLine(std::u32string_view text, int pixe
     TextLine line{pixelSize, 0.0, {}};
     for (const ShapedGlyph& shaped : *glyphs) {
         const std::size_t font = m_fonts.numberOf(shaped.face);
+        // Emoji are laid out in the size in which their font has them.
         const double scale = m_fonts.face(font, pixelSize)->bitmapScale();
         const QPointF pen(line.advance + shaped.right * scale, -shaped.up * scale);
         line.glyphs.push_back({font, shaped.glyph, pen});

@@ -51,15 +51,18 @@ int lastNotAfter(int count, std::uint16_t glyph, const FirstGlyph& firstGlyph)
 PairKerning::PairKerning(TableReader table)
     : m_table(std::move(table))
 {
+    // Behind the version, the table begins with the offsets of three lists.
     const std::uint32_t scripts = m_table(4);
     const std::uint32_t features = m_table(6);
     const std::uint32_t lookups = m_table(8);
     const std::uint32_t language = languageOf(scripts);
     if (m_table(0) != 1 || language == 0)
         return;
+    // A language names its features by their places in the list, which has a tag and an offset for each.
     for (std::uint32_t i = 0; i < m_table(language + 4); ++i) {
         const std::uint32_t record = features + 2 + 6 * m_table(language + 6 + 2 * i);
         const std::uint32_t tag = std::uint32_t{m_table(record)} << 16U | m_table(record + 2);
+        // Other features are for marks, or for the user to choose.
         if (tag != tagOf("kern"))
             continue;
         const std::uint32_t feature = features + m_table(record + 4);
@@ -83,8 +86,10 @@ std::uint32_t PairKerning::tagged(std::uint32_t list, std::uint32_t tag) const
 
 std::uint32_t PairKerning::languageOf(std::uint32_t scripts) const
 {
+    // Titles are digits and Latin letters for the most part.
     for (const std::uint32_t tag : {tagOf("latn"), tagOf("DFLT")}) {
         const std::uint32_t script = tagged(scripts, tag);
+        // Of a script the default language, where it has one.
         if (script != 0 && m_table(script) != 0)
             return script + m_table(script);
     }
@@ -98,6 +103,7 @@ void PairKerning::addLookup(std::uint32_t lookup)
     for (std::uint32_t i = 0; i < count; ++i) {
         std::uint32_t subtable = lookup + m_table(lookup + 6 + 2 * i);
         std::uint16_t type = m_table(lookup);
+        // A subtable too far away for 16 bits is reached through one that holds its type and 32 bits.
         if (type == extension) {
             type = m_table(subtable + 2);
             subtable += std::uint32_t{m_table(subtable + 4)} << 16U | m_table(subtable + 6);
@@ -110,6 +116,7 @@ void PairKerning::addLookup(std::uint32_t lookup)
 int PairKerning::between(std::uint32_t left, std::uint32_t right) const
 {
     constexpr std::uint32_t most = std::numeric_limits<std::uint16_t>::max();
+    // The table numbers glyphs in 16 bits.
     if (left > most || right > most)
         return 0;
     const Pair pair{static_cast<std::uint16_t>(left), static_cast<std::uint16_t>(right)};
@@ -118,6 +125,7 @@ int PairKerning::between(std::uint32_t left, std::uint32_t right) const
     std::size_t done = none;
     for (const Subtable& subtable : m_subtables) {
         int units = 0;
+        // Of a lookup's subtables only the first that knows the pair counts.
         if (subtable.lookup == done || !adjust(subtable.offset, pair, units))
             continue;
         sum += units;
@@ -169,6 +177,7 @@ int PairKerning::advanceIn(std::uint32_t record, std::uint16_t format) const
 {
     if ((format & xAdvance) == 0)
         return 0;
+    // A value has a field for each bit of its format, in order; those before the advance are passed over.
     return static_cast<std::int16_t>(m_table(record + bytesOf(format & (xAdvance - 1U))));
 }
 
@@ -177,6 +186,7 @@ std::int64_t PairKerning::coverageIndex(std::uint32_t coverage, std::uint16_t gl
     const bool hasRanges = m_table(coverage) == 2;
     if (!hasRanges && m_table(coverage) != 1)
         return -1;
+    // Either single glyphs, or ranges: the first glyph, the last one, and the index of the first.
     const std::uint32_t size = hasRanges ? 6 : 2;
     const int found = lastNotAfter(m_table(coverage + 2), glyph,
                                    [&](std::uint32_t n) { return m_table(coverage + 4 + n * size); });
@@ -191,6 +201,7 @@ std::int64_t PairKerning::coverageIndex(std::uint32_t coverage, std::uint16_t gl
 
 std::uint16_t PairKerning::classOf(std::uint32_t classes, std::uint16_t glyph) const
 {
+    // Either a class for each glyph from a first one on, or ranges with a class each. In no class is class 0.
     if (m_table(classes) == 1) {
         const int place = glyph - m_table(classes + 2);
         const bool isListed = place >= 0 && place < m_table(classes + 4);

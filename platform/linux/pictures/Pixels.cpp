@@ -92,6 +92,7 @@ Argb colourAt(const Pixels& pixels, int x, int y)
     const std::uint32_t alpha = alphaOf(pixel);
     if (alpha == 0)
         return 0;
+    // Rounding may have left a channel a little above its alpha.
     const auto whole = [alpha](std::uint32_t channel) {
         return std::min<std::uint32_t>(255U, (channel * 255U + alpha / 2U) / alpha);
     };
@@ -128,6 +129,7 @@ Mask roundedRectangle(int width, int height, int inset, double radius)
     for (int y = 0; y < corner; ++y) {
         for (int x = 0; x < corner; ++x) {
             const std::uint8_t coverage = coverageInCircle(round - x, round - y, round);
+            // One corner, mirrored into the three others.
             for (const int row : {inset + y, last - y}) {
                 mask.coverage[placeOf(mask, x, row)] = coverage;
                 mask.coverage[placeOf(mask, width - 1 - x, row)] = coverage;

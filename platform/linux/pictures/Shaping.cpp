@@ -81,6 +81,7 @@ Shaping::~Shaping() = default;
 std::optional<std::vector<ShapedGlyph>> Shaping::shape(std::u32string_view text,
                                                        const std::vector<FontRun>& runs, int loadFlags)
 {
+    // Only now: most titles never need it, and it loads several libraries.
     if (!m_library && !m_isMissing) {
         m_library = std::make_unique<Library>();
         m_isMissing = !m_library->load(m_name);

@@ -62,6 +62,7 @@ bool isRightToLeft(char32_t c)
 /// Of the emoji that are made of several characters: what joins, tints or pairs them.
 bool joinsEmoji(char32_t c)
 {
+    // Beside the joiner: skin tones, the letters of flags, the frame of a key.
     return c == zeroWidthJoiner || (c >= 0x1f3fb && c <= 0x1f3ff) || (c >= 0x1f1e6 && c <= 0x1f1ff) ||
            c == 0x20e3;
 }
@@ -94,9 +95,11 @@ bool needsShaping(std::u32string_view text)
 
 std::u32string drawnCharacters(const QString& text)
 {
+    // An accented letter in one piece is a glyph of most fonts; in two pieces it needs shaping.
     const QString composed = text.left(mostUnits).normalized(QString::NormalizationForm_C);
     std::u32string characters = composed.toStdU32String();
     std::erase_if(characters, [](char32_t c) { return QChar::category(c) == QChar::Other_Control; });
+    // They say how letters join. Where none do, they would be drawn as boxes.
     if (!needsShaping(std::u32string_view(characters)))
         std::erase_if(characters, isInvisible);
     return characters;

@@ -30,6 +30,7 @@ QByteArray textDrawing(const std::vector<OutlineStep>& outline, const QRectF& bo
                       coordinates((point - box.center()) * scale + QPointF(side / 2, side / 2));
         data += step.command + points;
     }
+    // Hosts replace the colour of this class by that of their panel's text.
     return R"(<svg xmlns="http://www.w3.org/2000/svg" width="22" height="22" viewBox="0 0 22 22">
   <style id="current-color-scheme" type="text/css">.ColorScheme-Text {color: #232629}</style>
   <path class="ColorScheme-Text" fill="currentColor" d=")" +

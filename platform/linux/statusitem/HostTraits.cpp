@@ -75,12 +75,14 @@ HostTraits hostTraits(const HostProcess& process, const QString& currentDesktop)
 {
     if (const HostTraits* traits = findIn(programs, process.program))
         return *traits;
+    // A program may be started under another name than its file's.
     if (const HostTraits* traits = findIn(programs, firstArgumentName(process.commandLine)))
         return *traits;
     for (const QString& desktop : currentDesktop.split(QLatin1Char(':'))) {
         if (const HostTraits* traits = findIn(desktops, desktop))
             return *traits;
     }
+    // An icon is right everywhere; a title may not be.
     return squareHost;
 }
 

@@ -42,6 +42,7 @@ InterfaceFont::~InterfaceFont() = default;
 
 void InterfaceFont::setBus(const QDBusConnection& bus)
 {
+    // An answer of the bus before would be about another session.
     m_question.reset();
     m_bus = bus;
     m_isAsked = false;
@@ -57,6 +58,7 @@ void InterfaceFont::need()
     if (std::exchange(m_isAsked, true))
         return;
     const QByteArray fontName = xsettingsFontName(m_display);
+    // On X11 the settings manager has what the panel itself writes in.
     if (!fontName.isEmpty())
         take(QString::fromUtf8(fontName));
     else if (m_bus.isConnected())
@@ -71,6 +73,7 @@ void InterfaceFont::askPortal()
     QDBusMessage question =
         QDBusMessage::createMethodCall(portalService, portalPath, portalInterface, QStringLiteral("Read"));
     question << fontSetting.at(0) << fontSetting.at(1);
+    // A portal that does not run is not worth starting for a font.
     question.setAutoStartService(false);
     m_question = std::make_unique<QDBusPendingCallWatcher>(m_bus.asyncCall(question));
     connect(m_question.get(), &QDBusPendingCallWatcher::finished, this, [this] {

@@ -87,6 +87,7 @@ std::vector<int> menuOrder(const StatusMenu* menu, bool commandsFirst)
         return kindOf(id) == StatusMenu::Kind::OpenView || kindOf(id) == StatusMenu::Kind::Action;
     };
     const auto firstCommand = std::find_if(ids.begin(), ids.end(), isCommand);
+    // They are first already, or there are none.
     if (firstCommand == ids.begin() || firstCommand == ids.end())
         return ids;
     const auto afterCommands = std::rotate(ids.begin() + 1, firstCommand, ids.end());

@@ -27,6 +27,7 @@ Picture squarePicture(const ItemContents& contents)
     if (!contents.imageName.isEmpty())
         return iconPicture(contents.imageName);
     const QString text = contents.fallbackText.trimmed();
+    // A square has room for "100".
     if (text.isEmpty() || text.size() > squareTextLength)
         return iconPicture(lastResortImage());
     return {Picture::Kind::Text, {}, text, 0.0, 0};
@@ -39,6 +40,7 @@ Picture pictureFor(const ItemContents& contents, HostShape shape)
         return squarePicture(contents);
     if (shape == HostShape::Wide)
         return {Picture::Kind::Wide, contents.imageName, line, contents.fontSize, 0};
+    // The host writes the title beside it, and without a picture would show its own for missing ones.
     if (contents.imageName.isEmpty())
         return {Picture::Kind::Transparent, {}, {}, 0.0, 0};
     return iconPicture(contents.imageName);
@@ -63,6 +65,7 @@ QString toolTipTitle(const Presentation& presented, const ItemContents& contents
     if (host.showsToolTipTitleOnly)
         return literalPanelToolTip(presented.plainToolTip);
     const QString cut = toolTipCut(contents.title);
+    // Escaped twice, the marks themselves would be seen.
     return host.escapesToolTipTitle ? cut : escapedMarkup(cut);
 }
 

@@ -173,6 +173,7 @@ std::vector<Pixels> StatusPictures::images(const Picture& picture)
 
 QString StatusPictures::file(const Picture& picture)
 {
+    // All that the picture depends on, so that another one has another name.
     const QString name = plainName(picture.imageName + picture.text + picture.fontFamily) +
                          QString::number(picture.ink, 16) + QStringLiteral(".png");
     return writtenPicture(name, [&] { return pngOf(image(picture, squareSizes.back())); });
@@ -244,6 +245,7 @@ Pixels StatusPictures::icon(const Picture& picture, int size)
 Pixels StatusPictures::squareText(const Picture& picture, int size)
 {
     Pixels pixels = ground(picture, size, size);
+    // How large letters are is known only once they are laid out.
     const QRectF trial = m_lettering.inkOf(m_lettering.line(picture.text, trialSize));
     const TextLine line = m_lettering.line(picture.text, fittingSize(trial, size));
     const QRectF ink = m_lettering.inkOf(line);
