@@ -62,6 +62,7 @@ struct LinuxPlatform::Services
         using Loop = QAbstractEventDispatcher;
         const auto expire = [this] { sampler.expire(); };
         QObject::connect(Loop::instance(), &Loop::aboutToBlock, &turns, expire);
+        sampler.setLateObserver([this] { powerEvents.announce(); });
         QObject::connect(Loop::instance(), &Loop::awake, &turns, expire);
     }
 

@@ -57,6 +57,12 @@ void LinuxPowerEvents::setObserver(std::function<void()> observer)
                      [this] { readEvents(); });
 }
 
+void LinuxPowerEvents::announce() const
+{
+    if (m_observer)
+        m_observer();
+}
+
 bool LinuxPowerEvents::open()
 {
     m_udev.reset(udev_new());

@@ -22,6 +22,9 @@ public:
 
     void setObserver(std::function<void()> observer) override;
 
+    /// As if the kernel had announced a change, but for `beforeObserver`.
+    void announce() const;
+
 private:
     struct Release
     {

@@ -38,6 +38,14 @@ void PowerSampler::lookAgain()
 void PowerSampler::take(std::chrono::milliseconds now)
 {
     auto sample = std::make_shared<PowerSample>();
+void PowerSampler::setLateObserver(std::function<void()> arrived)
+{
+    m_reader.setLateObserver([this, arrived = std::move(arrived)] {
+        expire();
+        arrived();
+    });
+}
+
     sample->power = systemPowerFrom(m_memory.complete(m_reader.read(looksAgain(now)), now));
     // With each sample, so that no plug or unplug is missed.
     const SystemTimes times = m_times.follow(sample->power, now);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -41,6 +42,10 @@ public:
     /// The same, and has it look for files that have come or gone: a supply's driver has said something. It
     /// does so every half minute besides.
     void lookAgain();
+
+    /// Has `arrived` called from the main loop when a reading that took too long for its sample is there: the
+    /// next sample has it.
+    void setLateObserver(std::function<void()> arrived);
 
     /// What estimates the times; see EstimatorText.h.
     TimeEstimator& estimator() { return m_times.estimator(); }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <thread>
+#include <utility>
 
 #include "platform/linux/os/DetachedThread.h"
 
@@ -24,6 +25,7 @@ bool ReadingThread::request(bool looksAgain)
         m_isBusy = true;
         // An answer that nobody took is of an older moment.
         m_answer.reset();
+        m_bell.reset();
         m_hasAnswer = false;
     }
     // The thread keeps this object alive: it may hang in a file long after the reader has gone.
@@ -61,6 +63,15 @@ std::optional<ReadingThread::Answer> ReadingThread::take(Clock::time_point deadl
     m_answered.wait_until(lock, deadline, [this] { return m_answer.has_value(); });
     m_hasAnswer = false;
     return std::exchange(m_answer, std::nullopt);
+}
+
+void ReadingThread::ringWhenAnswered(std::shared_ptr<LateBell> bell)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (m_answer)
+        bell->ring();
+    else if (m_isBusy)
+        m_bell = std::move(bell);
 }
 
 bool ReadingThread::abandonIfStuck(std::chrono::milliseconds longest)
@@ -112,6 +123,8 @@ void ReadingThread::answer(std::optional<SupplyReadings> readings)
         m_answer = {std::move(readings), Clock::now() - m_requestedAt};
         m_isBusy = false;
         m_hasAnswer = true;
+        if (const auto bell = std::exchange(m_bell, nullptr))
+            bell->ring();
     }
     m_answered.notify_one();
 }

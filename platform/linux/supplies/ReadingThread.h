@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/linux/supplies/LateBell.h"
 #include "platform/linux/supplies/SlowFiles.h"
 #include "platform/linux/supplies/SupplyFolder.h"
 
@@ -39,6 +40,9 @@ public:
     /// The answer to the last request, once; waits for it until `deadline`.
     std::optional<Answer> take(Clock::time_point deadline);
 
+    /// Rings once when the answer to the last request is there.
+    void ringWhenAnswered(std::shared_ptr<LateBell> bell);
+
     /// Leaves the thread to itself if it has been at one file for that long, and adds the file to the slow
     /// ones.
     bool abandonIfStuck(std::chrono::milliseconds longest);
@@ -64,6 +68,7 @@ private:
     std::string m_path; ///< the file that is being read; empty between two
     Clock::time_point m_begun;
     std::shared_ptr<SlowFile> m_stuckFile; ///< since the thread is left to itself
+    std::shared_ptr<LateBell> m_bell;
     bool m_isBusy = false;
     bool m_isEnded = false;
     std::atomic<bool> m_hasAnswer = false; ///< as m_answer, to be looked at without the mutex

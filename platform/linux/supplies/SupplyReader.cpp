@@ -1,6 +1,7 @@
 #include "platform/linux/supplies/SupplyReader.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/linux/supplies/ReadingThread.h"
 
@@ -18,6 +19,7 @@ SupplyReader::SupplyReader(std::string folder, SupplyFolder::Scope scope, ReadFu
 
 SupplyReader::~SupplyReader()
 {
+    m_bell->silence();
     if (m_thread)
         m_thread->end();
 }
@@ -26,6 +28,10 @@ std::optional<SupplyReadings> SupplyReader::read(bool looksAgain)
 {
     // Remembered: while a reading hangs no new one begins that could look.
     m_looksAgain = m_looksAgain || looksAgain;
+    if (std::exchange(m_hasArrived, false))
+        return takeArrived();
+    if (m_wasLate && Clock::now() < m_restsUntil)
+        return std::nullopt;
     if (std::optional<SupplyReadings> late = takeLate())
         return late;
     const auto deadline = Clock::now() + patience();
@@ -42,8 +48,36 @@ std::optional<SupplyReadings> SupplyReader::read(bool looksAgain)
         else if (Clock::now() >= deadline)
             break;
     }
+    return giveUp();
+}
+
+std::nullopt_t SupplyReader::giveUp()
+{
     m_wasLate = true;
+    if (m_thread)
+        m_thread->ringWhenAnswered(m_bell);
     return std::nullopt;
+}
+
+void SupplyReader::setLateObserver(std::function<void()> arrived)
+{
+    m_bell->setCall([this, arrived = std::move(arrived)] {
+        m_hasArrived = true;
+        arrived();
+    });
+}
+
+/// What the bell has rung for. Whoever it woke may ask twice, and the next reading is likely to be late too:
+/// it must not ring at once again.
+std::optional<SupplyReadings> SupplyReader::takeArrived()
+{
+    constexpr std::chrono::seconds rest(1);
+    auto answer = m_thread ? m_thread->take(Clock::now()) : std::nullopt;
+    if (!answer)
+        return std::nullopt;
+    m_restsUntil = Clock::now() + rest;
+    m_wasLate = answer->duration >= m_patience.later;
+    return accept(std::move(answer->readings));
 }
 
 /// What was not there in time the last time, unless the next reading can be waited for again.

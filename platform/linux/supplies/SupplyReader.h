@@ -1,10 +1,12 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
+#include "platform/linux/supplies/LateBell.h"
 #include "platform/linux/supplies/SlowFiles.h"
 #include "platform/linux/supplies/SupplyFolder.h"
 
@@ -36,11 +38,17 @@ public:
     /// When that happens again and again the reading that was asked for before is given without waiting.
     std::optional<SupplyReadings> read(bool looksAgain);
 
+    /// Has `arrived` called from the main loop once a reading that was given up is there after all: the next
+    /// `read` gives it.
+    void setLateObserver(std::function<void()> arrived);
+
 private:
     using Clock = std::chrono::steady_clock;
 
     std::chrono::milliseconds patience() const;
     std::optional<SupplyReadings> takeLate();
+    std::optional<SupplyReadings> takeArrived();
+    std::nullopt_t giveUp();
     std::optional<SupplyReadings> accept(std::optional<SupplyReadings> readings);
     bool request();
 
@@ -54,6 +62,9 @@ private:
     bool m_looksAgain = false;
     bool m_hasAnswered = false;
     bool m_wasLate = false;
+    bool m_hasArrived = false;      ///< a late reading, and nobody has asked since
+    Clock::time_point m_restsUntil; ///< before that no reading begins, after a late one
+    const std::shared_ptr<LateBell> m_bell = std::make_shared<LateBell>();
 };
 
 } // namespace quindle

@@ -9,12 +9,14 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "platform/linux/power/PowerSampler.h"
 #include "tests/platform/linux/power/RegistryKeys.h"
 #include "tests/platform/linux/power/SupplyTree.h"
+#include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -189,6 +191,33 @@ TEST_F(HangingReadsTest, ASlowFileIsReadApartAndShowsAtTheRefreshAfter)
         driver->letGo();
         EXPECT_TRUE(comesToSay(cyclesKey, QVariant(qint64{std::stoi(cycles)}))) << cycles;
     }
+}
+
+TEST_F(HangingReadsTest, AReadingThatWasGivenUpShowsAsSoonAsItIsThere)
+{
+    ReadingPatience hasty{.withFile = 1h, .first = 1h, .later = 20ms};
+    PowerSampler slow(
+        tree.path(), [driver = driver](auto... arguments) { return driver->read(arguments...); },
+        [this] { return now; }, hasty);
+    ASSERT_EQ(slow.sample()->batteryEntry.value(cyclesKey), qint64{7});
+    std::vector<QVariant> shown;
+    slow.setLateObserver([&] {
+        // Twice, as events are answered.
+        for (int times = 0; times < 2; ++times) {
+            slow.expire();
+            shown.push_back(slow.sample()->batteryEntry.value(cyclesKey));
+        }
+    });
+    driver->hangAt("cycle_count");
+    tree.write("BAT0", "cycle_count", "8");
+    slow.expire();
+    ASSERT_EQ(slow.sample()->batteryEntry.value(cyclesKey), qint64{7});
+    std::this_thread::sleep_for(20ms);
+    driver->letGo();
+    EXPECT_TRUE(comesTrue([&] { return !shown.empty(); }));
+    QCoreApplication::processEvents();
+    // Nor has the second question begun a reading that would be late in its turn.
+    EXPECT_EQ(shown, std::vector<QVariant>({qint64{8}, qint64{8}}));
 }
 
 /// Too slow to be read with the others ever again.
