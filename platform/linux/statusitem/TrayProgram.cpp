@@ -3,6 +3,8 @@
 #include <utility>
 
 #include <QCoreApplication>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QLoggingCategory>
 #include <QProcess>
 #include <QTimer>
@@ -16,7 +18,7 @@ namespace {
 Q_LOGGING_CATEGORY(logTray, "quindle.statusitem.tray", QtWarningMsg)
 
 /// Time for a program without a connection to end itself.
-constexpr std::chrono::seconds patience(5);
+constexpr std::chrono::seconds timeToEnd(5);
 
 QProcessEnvironment environment()
 {
@@ -35,17 +37,20 @@ void leaveAlone(QProcess* process)
     process->disconnect();
     process->setParent(QCoreApplication::instance());
     QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
-    QTimer::singleShot(patience, process, &QProcess::kill);
+    QTimer::singleShot(timeToEnd, process, &QProcess::kill);
 }
 
 } // namespace
 
 TrayProgram::TrayProgram(QString program, std::function<void(const QDBusConnection&)> connected,
-                         MonotonicClock clock)
+                         MonotonicClock clock, std::chrono::milliseconds patience)
     : m_program(std::move(program))
     , m_connected(std::move(connected))
     , m_clock(std::move(clock))
 {
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(patience);
+    m_patience.callOnTimeout(this, &TrayProgram::giveUp);
 }
 
 TrayProgram::~TrayProgram()
@@ -75,6 +80,7 @@ void TrayProgram::start()
     m_process->setProcessEnvironment(environment());
     m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process->setStandardInputFile(QProcess::nullDevice());
+    m_patience.start();
     m_process->start(m_program, {QStringLiteral("--tray")});
 }
 
@@ -85,10 +91,31 @@ void TrayProgram::connectToIt()
     const QString address = QString::fromLatin1(m_process->readLine()).trimmed();
     m_process->closeReadChannel(QProcess::StandardOutput);
     const auto peer = QDBusConnection::connectToPeer(address, peerName);
-    if (peer.isConnected())
-        m_connected(peer);
-    else
+    if (!peer.isConnected()) {
         m_process->kill();
+        return;
+    }
+    m_connected(peer);
+    waitForAnswer(peer);
+}
+
+/// A socket takes connections also for a program that has stopped.
+void TrayProgram::waitForAnswer(const QDBusConnection& peer)
+{
+    const QDBusMessage ping = QDBusMessage::createMethodCall(
+        QString(), QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+    auto* answer = new QDBusPendingCallWatcher(peer.asyncCall(ping), m_process);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* finished) {
+        if (!finished->isError())
+            m_patience.stop();
+    });
+}
+
+/// Its display's server may hang before it has a window, for instance.
+void TrayProgram::giveUp()
+{
+    log(QStringLiteral("%1 does not answer: it is ended, and started again later").arg(m_program));
+    m_process->kill();
 }
 
 void TrayProgram::disconnectFromIt()
@@ -105,6 +132,7 @@ void TrayProgram::handleFailedStart()
 
 void TrayProgram::handleEnd()
 {
+    m_patience.stop();
     std::exchange(m_process, nullptr)->deleteLater();
     disconnectFromIt();
     m_failures = failuresAfter(m_failures, m_clock() - m_started);

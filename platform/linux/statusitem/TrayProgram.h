@@ -6,6 +6,7 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include "platform/linux/os/MonotonicClock.h"
 
@@ -22,13 +23,17 @@ class TrayProgram final : public QObject
 
 public:
     /// `program` is an absolute path. `connected` is called with the connection to it, and when it has gone
-    /// with one that is not connected. Main thread only.
+    /// with one that is not connected. One that has not answered over it within the patience is ended, and
+    /// started again later. Main thread only.
     TrayProgram(QString program, std::function<void(const QDBusConnection&)> connected,
-                MonotonicClock clock = timeSinceBoot);
+                MonotonicClock clock = timeSinceBoot,
+                std::chrono::milliseconds patience = std::chrono::seconds(10));
     ~TrayProgram() override;
 
     /// Whether it should be started: it does not run, and has not failed a moment ago.
     bool isWanted() const;
+
+    bool isRunning() const { return m_process != nullptr; }
 
     /// Starts it if it is wanted. That it fails is logged once, and again only after it has stayed.
     void start();
@@ -39,6 +44,8 @@ Q_SIGNALS:
 
 private:
     void connectToIt();
+    void waitForAnswer(const QDBusConnection& peer);
+    void giveUp();
     void disconnectFromIt();
     void handleFailedStart();
     void handleEnd();
@@ -51,6 +58,7 @@ private:
     std::chrono::milliseconds m_pauseEnds{};
     int m_failures = 0;
     bool m_isLogged = false;
+    QTimer m_patience;             ///< while it has not answered
     QProcess* m_process = nullptr; ///< null while it does not run
 };
 

@@ -1,9 +1,15 @@
 #include "platform/linux/statusitem/TrayProgram.h"
 
+#include <string>
+#include <sys/socket.h>
+#include <sys/un.h>
+
 #include <QCoreApplication>
+#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "platform/linux/os/FileDescriptor.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"
 
@@ -35,8 +41,8 @@ protected:
     {
         tray = std::make_unique<TrayProgram>(
             QString::fromUtf8(program),
-            [this](const QDBusConnection& peer) { isConnected = peer.isConnected(); },
-            [this] { return now; });
+            [this](const QDBusConnection& peer) { isConnected = peer.isConnected(); }, [this] { return now; },
+            patience);
         QObject::connect(tray.get(), &TrayProgram::wanted, tray.get(), [this] { ++wanted; });
     }
 
@@ -62,6 +68,7 @@ protected:
 
     QTemporaryDir runtime;
     std::chrono::milliseconds now{1h};
+    std::chrono::milliseconds patience{1h};
     std::unique_ptr<TrayProgram> tray;
     bool isConnected = false;
     int wanted = 0;
@@ -107,6 +114,45 @@ TEST_F(TrayProgramTest, OneThatIsMissingIsNamedOnce)
     }
     EXPECT_EQ(warnings, 1);
     EXPECT_FALSE(isConnected);
+}
+
+/// A program in the test's folder, with mode 0755.
+QString script(const QTemporaryDir& folder, const QByteArray& commands)
+{
+    QFile file(folder.filePath(QStringLiteral("program")));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\n" + commands);
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return file.fileName();
+}
+
+TEST_F(TrayProgramTest, OneThatSaysNothingIsGivenUpAndStartedLater)
+{
+    patience = 50ms;
+    make(script(runtime, "exec sleep 1000\n").toUtf8().constData());
+    for (int times = 0; times < 3; ++times) {
+        runFor(50ms);
+        EXPECT_FALSE(isConnected);
+        now += 10min;
+    }
+    EXPECT_EQ(warnings, 1);
+}
+
+TEST_F(TrayProgramTest, OneThatListensButDoesNotAnswerIsGivenUp)
+{
+    // Its socket takes a connection, and nobody reads from it.
+    const QByteArray path = runtime.filePath(QStringLiteral("socket")).toUtf8();
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    path.toStdString().copy(address.sun_path, sizeof address.sun_path - 1);
+    const FileDescriptor deaf(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    ASSERT_EQ(::bind(deaf.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    ASSERT_EQ(::listen(deaf.get(), 1), 0);
+    patience = 50ms;
+    make(script(runtime, "echo unix:path=" + path + "\nexec sleep 1000\n").toUtf8().constData());
+    runFor(50ms);
+    EXPECT_FALSE(isConnected);
+    EXPECT_EQ(warnings, 1);
 }
 
 } // namespace
