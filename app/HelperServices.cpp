@@ -43,6 +43,7 @@ public:
         , m_linux(systemRoot)
         , m_statusBar(m_linux.runLoop(), surroundings(m_linux.bundle(), m_linux.userDefaults()))
     {
+        m_linux.restWhileNothingChanges([this] { return !m_statusBar.looksForTray(); });
     }
 
     Platform platform() override { return m_linux.services(m_statusBar); }

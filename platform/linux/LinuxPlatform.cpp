@@ -4,6 +4,7 @@
 
 #include "common/Paths.h"
 #include "platform/NotificationCenter.h"
+#include "platform/linux/ComputerStillness.h"
 #include "platform/linux/login/LinuxLoginItems.h"
 #include "platform/linux/network/LinuxUrlSession.h"
 #include "platform/linux/os/UserFolders.h"
@@ -48,8 +49,9 @@ LinuxRegistry::Folders firmwareFolders(const QString& systemRoot)
 struct LinuxPlatform::Services
 {
     Services(const QString& systemRoot, SettingsAccess settingsAccess)
-        : sampler(supplyFolder(systemRoot))
-        , peripherals(supplyFolder(systemRoot), bluetoothOf(systemRoot))
+        : supplies(supplyFolder(systemRoot))
+        , sampler(supplies)
+        , peripherals(supplies, bluetoothOf(systemRoot))
         , registry(sampler, firmwareFolders(systemRoot))
         , powerSources(sampler, &peripherals)
         , userDefaults(settingsFolder(), settingsAccess)
@@ -60,9 +62,9 @@ struct LinuxPlatform::Services
     {
         // A sample is of one turn of the main loop.
         using Loop = QAbstractEventDispatcher;
+        sampler.setLateObserver([this] { powerEvents.announce(); });
         const auto expire = [this] { sampler.expire(); };
         QObject::connect(Loop::instance(), &Loop::aboutToBlock, &turns, expire);
-        sampler.setLateObserver([this] { powerEvents.announce(); });
         QObject::connect(Loop::instance(), &Loop::awake, &turns, expire);
     }
 
@@ -74,6 +76,7 @@ struct LinuxPlatform::Services
         return [this] { return bluetooth.latest(); };
     }
 
+    std::string supplies;
     PowerSampler sampler;
     BluetoothBatteries bluetooth;
     PeripheralBatteries peripherals;
@@ -113,6 +116,18 @@ void LinuxPlatform::setPowerMemory(const QByteArray& memory)
 {
     if (const auto remembered = estimatorMemoryFrom(memory))
         m_services->sampler.estimator().setMemory(*remembered);
+}
+
+void LinuxPlatform::restWhileNothingChanges(std::function<bool()> mayRest)
+{
+    Services& own = *m_services;
+    // The thread that looks may hang in it for longer than this object lives.
+    const auto stillness =
+        std::make_shared<ComputerStillness>(own.supplies, pathBytes(settingsFolder()).toStdString());
+    own.sampler.setStillMoments([stillness] { return stillness->takeMoments(); });
+    own.runLoop.restWhen([&own, mayRest = std::move(mayRest)] { return own.sampler.isSteady() && mayRest(); },
+                         {.begin = [stillness] { return stillness->begin(); },
+                          .isStill = [stillness] { return stillness->isStill(); }});
 }
 
 Bundle& LinuxPlatform::bundle() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QString>
@@ -22,6 +23,9 @@ public:
     /// there is anything. And going on from there.
     QByteArray powerMemory() const;
     void setPowerMemory(const QByteArray& memory);
+
+    /// Has the run loop leave out refreshes that would find nothing new, while `mayRest` allows it.
+    void restWhileNothingChanges(std::function<bool()> mayRest);
 
     Bundle& bundle() const;
     RunLoop& runLoop();

@@ -59,4 +59,14 @@ SystemTimes BatteryTimes::follow(const SystemPower& power, std::chrono::millisec
     return times;
 }
 
+std::optional<std::chrono::seconds> BatteryTimes::steadyAfter(const SystemPower& power)
+{
+    // Nothing is estimated; a pause, so that figures that change now and then do not count as steady.
+    if (directionOf(power) == Direction::Idle)
+        return std::chrono::seconds(20);
+    if (combinedChargeRate(power.batteries))
+        return std::chrono::seconds(60); // as far back as the average goes
+    return std::nullopt;
+}
+
 } // namespace quindle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 
 #include "platform/linux/power/SystemPower.h"
@@ -24,6 +25,10 @@ class BatteryTimes
 public:
     /// The times at that moment. To be called for every sample, so that no plug or unplug is missed.
     SystemTimes follow(const SystemPower& power, std::chrono::milliseconds now);
+
+    /// How long after the last change the times stay what they are as long as the supplies do. Nothing where
+    /// they never do: an estimate from charges alone moves on with the clock.
+    static std::optional<std::chrono::seconds> steadyAfter(const SystemPower& power);
 
     TimeEstimator& estimator() { return m_estimator; }
 

@@ -1,5 +1,8 @@
 #include "platform/linux/power/PowerSampler.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "platform/linux/power/PowerSourceDescription.h"
 #include "platform/linux/power/RegistryValues.h"
 
@@ -35,9 +38,6 @@ void PowerSampler::lookAgain()
     expire();
 }
 
-void PowerSampler::take(std::chrono::milliseconds now)
-{
-    auto sample = std::make_shared<PowerSample>();
 void PowerSampler::setLateObserver(std::function<void()> arrived)
 {
     m_reader.setLateObserver([this, arrived = std::move(arrived)] {
@@ -46,14 +46,50 @@ void PowerSampler::setLateObserver(std::function<void()> arrived)
     });
 }
 
-    sample->power = systemPowerFrom(m_memory.complete(m_reader.read(looksAgain(now)), now));
+void PowerSampler::take(std::chrono::milliseconds now)
+{
+    countStillMoments();
+    auto sample = std::make_shared<PowerSample>();
+    SupplyReadings readings = m_memory.complete(m_reader.read(looksAgain(now)), now);
+    sample->power = systemPowerFrom(readings);
     // With each sample, so that no plug or unplug is missed.
     const SystemTimes times = m_times.follow(sample->power, now);
     sample->batteryEntry = registryEntry(sample->power, times);
     sample->sources = sourceDescriptions(sample->power, times);
+    compare(readings, *sample, now);
+    m_lastReadings = std::move(readings);
     m_sample = std::move(sample);
     m_takenAt = now;
     m_isExpired = false;
+}
+
+void PowerSampler::countStillMoments()
+{
+    if (!m_takeStillMoments)
+        return;
+    for (const std::chrono::milliseconds moment : m_takeStillMoments())
+        if (m_sample && moment > m_takenAt) {
+            m_memory.confirm(moment);
+            m_times.follow(m_sample->power, moment);
+        }
+}
+
+void PowerSampler::compare(const SupplyReadings& readings, const PowerSample& sample,
+                           std::chrono::milliseconds now)
+{
+    const bool isWhole = std::all_of(readings.begin(), readings.end(),
+                                     [](const SupplyReading& reading) { return reading.failed.none(); });
+    if (!isWhole)
+        m_sameSince.reset();
+    else if (!m_sameSince || !m_sample || readings != m_lastReadings ||
+             sample.batteryEntry != m_sample->batteryEntry || sample.sources != m_sample->sources)
+        m_sameSince = now;
+}
+
+bool PowerSampler::isSteady() const
+{
+    const auto steadyAfter = m_sameSince ? BatteryTimes::steadyAfter(m_sample->power) : std::nullopt;
+    return steadyAfter && m_takenAt - *m_sameSince >= *steadyAfter;
 }
 
 bool PowerSampler::looksAgain(std::chrono::milliseconds now)

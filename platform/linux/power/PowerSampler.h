@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -47,11 +48,24 @@ public:
     /// next sample has it.
     void setLateObserver(std::function<void()> arrived);
 
+    /// Whether samples have been the same for a while, and the next one will be while the supplies say what
+    /// they say now. Not while an attribute could not be read.
+    bool isSteady() const;
+
+    /// Somebody else has seen that the supplies had not changed at these moments of the sampler's clock, in
+    /// their order: the next sample counts them as if they had been sampled. Asked for then.
+    void setStillMoments(std::function<std::vector<std::chrono::milliseconds>()> take)
+    {
+        m_takeStillMoments = std::move(take);
+    }
+
     /// What estimates the times; see EstimatorText.h.
     TimeEstimator& estimator() { return m_times.estimator(); }
 
 private:
     void take(std::chrono::milliseconds now);
+    void countStillMoments();
+    void compare(const SupplyReadings& readings, const PowerSample& sample, std::chrono::milliseconds now);
     bool looksAgain(std::chrono::milliseconds now);
 
     MonotonicClock m_now;
@@ -62,6 +76,9 @@ private:
     std::chrono::milliseconds m_takenAt{};
     std::optional<std::chrono::milliseconds> m_lookedAt;
     bool m_isExpired = true;
+    std::function<std::vector<std::chrono::milliseconds>()> m_takeStillMoments;
+    SupplyReadings m_lastReadings;
+    std::optional<std::chrono::milliseconds> m_sameSince; ///< nothing while a reading is incomplete
 };
 
 } // namespace quindle

@@ -17,6 +17,8 @@ namespace {
 // followed by another.
 constexpr double longestSleep = 86400.0;
 
+constexpr double longestRest = 60.0;
+
 double steadySeconds()
 {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
@@ -33,17 +35,22 @@ public:
     int add(double interval, double tolerance, std::shared_ptr<std::function<void()>> fire);
     void remove(int number);
     void addPunctuality(int change);
+    void restWhen(std::function<bool()> mayRest, RestingTicks::Watch watch);
 
 private:
     void wakeUp();
+    void rest(bool wasPrepared);
     void fireIfScheduled(int number);
     void armTimer();
+    void armTimerAt(double moment);
 
     SteadyClock m_clock;
     TimerSchedule m_schedule;
     std::map<int, std::shared_ptr<std::function<void()>>> m_actions;
     int m_punctualities = 0;
     QTimer m_timer;
+    std::function<bool()> m_mayRest;
+    std::unique_ptr<RestingTicks> m_rest;
 };
 
 class LinuxRunLoop::ScheduledTimer : public Timer
@@ -97,13 +104,45 @@ void LinuxRunLoop::Wheel::addPunctuality(int change)
     armTimer();
 }
 
+void LinuxRunLoop::Wheel::restWhen(std::function<bool()> mayRest, RestingTicks::Watch watch)
+{
+    m_mayRest = std::move(mayRest);
+    m_rest = std::make_unique<RestingTicks>(std::move(watch), [this] { wakeUp(); });
+}
+
 void LinuxRunLoop::Wheel::wakeUp()
 {
+    // Before the ticks: what changes between the watch's begin and them they find, later changes the watch.
+    const bool wasPrepared = m_rest && m_rest->isPrepared();
     const std::vector<int> due = m_schedule.takeDue(m_clock());
     // Before firing: an action may run a loop of its own, in which the next ticks are due as usual.
     armTimer();
     for (const int number : due)
         fireIfScheduled(number);
+    if (m_rest)
+        rest(wasPrepared);
+}
+
+/// The watch looks at all of the next ticks but the last two: at the one before the last the loop wakes by
+/// itself, and if it rests again, the watch goes on at the last.
+void LinuxRunLoop::Wheel::rest(bool wasPrepared)
+{
+    constexpr std::size_t ownTicks = 2;
+    std::vector<double> ticks = m_schedule.restfulWakeUps(longestRest);
+    if (ticks.size() <= ownTicks || !m_mayRest()) {
+        m_rest->forget();
+        return;
+    }
+    if (!wasPrepared) {
+        m_rest->prepare();
+        return;
+    }
+    std::vector<RestingTicks::Clock::time_point> moments;
+    for (const double tick : ticks)
+        moments.push_back(RestingTicks::Clock::now() + std::chrono::round<RestingTicks::Clock::duration>(
+                                                           std::chrono::duration<double>(tick - m_clock())));
+    m_rest->rest({moments.begin(), moments.end() - ownTicks}, moments.back());
+    armTimerAt(ticks[ticks.size() - ownTicks]);
 }
 
 void LinuxRunLoop::Wheel::fireIfScheduled(int number)
@@ -118,12 +157,17 @@ void LinuxRunLoop::Wheel::fireIfScheduled(int number)
 
 void LinuxRunLoop::Wheel::armTimer()
 {
-    const auto next = m_schedule.nextWakeUp();
-    if (!next) {
+    if (m_rest)
+        m_rest->end();
+    if (const auto next = m_schedule.nextWakeUp())
+        armTimerAt(*next);
+    else
         m_timer.stop();
-        return;
-    }
-    const double delay = std::clamp(*next - m_clock(), 0.0, longestSleep);
+}
+
+void LinuxRunLoop::Wheel::armTimerAt(double moment)
+{
+    const double delay = std::clamp(moment - m_clock(), 0.0, longestSleep);
     // Rounded up: a wake-up just before the tick would find nothing due.
     m_timer.start(static_cast<int>(std::ceil(delay * 1000)));
 }
@@ -145,6 +189,11 @@ std::shared_ptr<Timer> LinuxRunLoop::scheduleRepeatingTimer(double interval, dou
 {
     auto action = std::make_shared<std::function<void()>>(std::move(fire));
     return std::make_shared<ScheduledTimer>(m_wheel, m_wheel->add(interval, tolerance, std::move(action)));
+}
+
+void LinuxRunLoop::restWhen(std::function<bool()> mayRest, RestingTicks::Watch watch)
+{
+    m_wheel->restWhen(std::move(mayRest), std::move(watch));
 }
 
 Punctuality LinuxRunLoop::keepPunctual()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/RunLoop.h"
+#include "platform/linux/session/RestingTicks.h"
 
 namespace quindle {
 
@@ -25,6 +26,11 @@ public:
                                                   std::function<void()> fire) override;
 
     Punctuality keepPunctual() override;
+
+    /// Leaves out ticks that would find nothing new, for a minute at most: while `mayRest`, asked after each
+    /// tick, says that they only depend on what `watch` looks at. Only where no timer is quicker than a
+    /// refresh, and nobody wants ticks on time.
+    void restWhen(std::function<bool()> mayRest, RestingTicks::Watch watch);
 
 private:
     class Wheel;

@@ -10,6 +10,7 @@ namespace {
 
 constexpr double microsecondsInSecond = 1e6;
 constexpr double shortestInterval = 0.0001;
+constexpr double quickestRefresh = 5;
 constexpr double longestInterval = 1e9; // further than any clock runs, and sums of it are no overflow
 
 } // namespace
@@ -43,6 +44,24 @@ std::optional<double> TimerSchedule::nextWakeUp() const
         if (entry.planned <= limit)
             latest = std::max(latest, entry.planned);
     return static_cast<double>(latest) / microsecondsInSecond;
+}
+
+std::vector<double> TimerSchedule::restfulWakeUps(double seconds) const
+{
+    const bool isQuick =
+        std::any_of(m_entries.begin(), m_entries.end(), [](const std::pair<const int, Entry>& entry) {
+            return entry.second.interval < microseconds(quickestRefresh);
+        });
+    std::vector<double> wakeUps;
+    if (m_isPunctual || isQuick)
+        return wakeUps;
+    TimerSchedule later = *this;
+    for (auto next = later.nextWakeUp(); next && (wakeUps.empty() || *next <= wakeUps.front() + seconds);
+         next = later.nextWakeUp()) {
+        wakeUps.push_back(*next);
+        later.takeDue(*next);
+    }
+    return wakeUps;
 }
 
 std::vector<int> TimerSchedule::takeDue(double now)

@@ -34,6 +34,11 @@ public:
     /// punctual.
     std::optional<double> nextWakeUp() const;
 
+    /// The next wake-ups as long as nobody changes anything, as many as come within `seconds` of the first
+    /// one. None while a tick would be missed by somebody: the schedule is punctual, or a timer is quicker
+    /// than a refresh, every 5 seconds.
+    std::vector<double> restfulWakeUps(double seconds) const;
+
     /// The timers whose planned tick is not after `now`, in the order of these ticks, then of their numbers.
     /// Their next ticks are then the first ones after `now`: what was missed is passed over.
     std::vector<int> takeDue(double now);

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "platform/Image.h"
+#include "platform/RunLoop.h"
 #include "platform/StatusMenu.h"
 #include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/session/BusLink.h"
@@ -261,6 +262,8 @@ void LinuxStatusItem::makeTray()
                                         [this] { useActivationToken(); });
     m_tray->setMenu(m_menu);
     connect(m_tray.get(), &TrayItem::wanted, this, &LinuxStatusItem::scheduleFlush);
+    // The next refresh looks for a tray, so it must not be left out.
+    m_runLoop.keepPunctual();
 }
 
 /// The tray's panel may start after the item, so each refresh asks until there is one.
@@ -268,6 +271,11 @@ void LinuxStatusItem::lookForTray()
 {
     if (lookAtPanel().isThere)
         m_tray->start();
+}
+
+bool LinuxStatusItem::looksForTray() const
+{
+    return m_tray && !m_tray->isRunning();
 }
 
 NotifierItemAdaptor::Requests LinuxStatusItem::requests()
@@ -301,6 +309,11 @@ LinuxStatusBar::LinuxStatusBar(RunLoop& runLoop, StatusItemSurroundings surround
 {
 }
 
+bool LinuxStatusBar::looksForTray() const
+{
+    return m_last && m_last->looksForTray();
+}
+
 std::unique_ptr<StatusItem> LinuxStatusBar::statusItemWithLength(double /*length*/)
 {
     const QString name = QStringLiteral("quindle-status-item-%1").arg(++m_items);
@@ -308,6 +321,7 @@ std::unique_ptr<StatusItem> LinuxStatusBar::statusItemWithLength(double /*length
     auto item = std::make_unique<LinuxStatusItem>(none, m_runLoop, m_surroundings);
     auto* link = new BusLink(QDBusConnection::SessionBus, name, BusLink::usualPause, item.get());
     QObject::connect(item.get(), &LinuxStatusItem::busAbused, link, &BusLink::drop);
+    m_last = item.get();
     link->open([item = item.get()](const QDBusConnection& bus) { item->setBus(bus); },
                [item = item.get(), none] { item->setBus(none); });
     return item;

@@ -7,6 +7,7 @@
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include "platform/StatusBar.h"
@@ -62,6 +63,9 @@ public:
     void setFallbackText(const QString& text) override;
     void setToolTipText(const QString& text) override;
     void setMenu(StatusMenu* menu) override;
+
+    /// Whether each refresh asks whether an X11 tray has come.
+    bool looksForTray() const;
 
 Q_SIGNALS:
     /// A peer calls the item without end and does not wait for the answers. The item is off the bus; its
@@ -137,9 +141,13 @@ public:
     /// Hosts decide on the width, so the length has no effect here.
     std::unique_ptr<StatusItem> statusItemWithLength(double length) override;
 
+    /// Whether the item that was made last looks for a tray at each refresh.
+    bool looksForTray() const;
+
 private:
     RunLoop& m_runLoop;
     StatusItemSurroundings m_surroundings;
+    QPointer<LinuxStatusItem> m_last;
     int m_items = 0;
 };
 

@@ -31,6 +31,8 @@ public:
     /// Whether the program should be started, if there is a tray.
     bool isWanted() const { return m_program.isWanted(); }
 
+    bool isRunning() const { return m_program.isRunning(); }
+
     /// Starts the program; there must be a tray.
     void start() { m_program.start(); }
 

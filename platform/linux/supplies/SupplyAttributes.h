@@ -79,12 +79,17 @@ public:
 
     void set(Attribute attribute, std::string_view text);
 
+    /// Whether all of them are the same, and were set in the same order.
+    bool operator==(const SupplyAttributes&) const = default;
+
 private:
     struct Place
     {
         bool isKnown = false;
         std::uint32_t begin = 0;
         std::uint32_t size = 0;
+
+        bool operator==(const Place&) const = default;
     };
 
     std::string m_texts; ///< all of them, one behind the other

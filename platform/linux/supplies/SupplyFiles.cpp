@@ -5,7 +5,9 @@
 #include <cerrno>
 
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 namespace quindle {
@@ -28,6 +30,14 @@ FileDescriptor openRegularFile(int folder, const char* path)
         return descriptor;
     errno = ENOENT;
     return {};
+}
+
+bool isOfKernel(int folder)
+{
+    struct statfs status
+    {
+    };
+    return fstatfs(folder, &status) == 0 && status.f_type == SYSFS_MAGIC;
 }
 
 bool isAccident(ssize_t result)

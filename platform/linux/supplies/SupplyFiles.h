@@ -22,6 +22,10 @@ ssize_t readDescriptor(int descriptor, const char* attribute, char* buffer, std:
 /// none and errno; ENOENT for what is no regular file.
 FileDescriptor openRegularFile(int folder, const char* path);
 
+/// Whether the folder is one of the kernel's. It announces no changes, and its uevents are always of the same
+/// moment as its other files.
+bool isOfKernel(int folder);
+
 /// Hears of every file before and after it is touched, on the thread that does.
 class ReadSteps
 {

@@ -3,24 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 
-#include <linux/magic.h>
-#include <sys/vfs.h>
-
 namespace quindle {
-
-namespace {
-
-/// The kernel's own folder announces no changes, and its uevents are always of the same moment as its other
-/// files.
-bool isOfKernel(int folder)
-{
-    struct statfs status
-    {
-    };
-    return fstatfs(folder, &status) == 0 && status.f_type == SYSFS_MAGIC;
-}
-
-} // namespace
 
 SupplyFolder::SupplyFolder(std::string path, Scope scope, KnownKinds kinds, ReadFunction read,
                            ReadSteps& steps)

@@ -29,6 +29,12 @@ SupplyReadings SupplyMemory::complete(std::optional<SupplyReadings> readings, st
     return complete;
 }
 
+void SupplyMemory::confirm(std::chrono::milliseconds now)
+{
+    for (auto& [name, known] : m_known)
+        known.readAt.fill(now);
+}
+
 /// Every supply with every attribute failed.
 SupplyReadings SupplyMemory::lastReadings() const
 {

@@ -19,6 +19,9 @@ public:
     /// clock that only runs forward.
     SupplyReadings complete(std::optional<SupplyReadings> readings, std::chrono::milliseconds now);
 
+    /// Everything is known to have been at `now` as it was read last, though nobody read it.
+    void confirm(std::chrono::milliseconds now);
+
 private:
     struct Known
     {

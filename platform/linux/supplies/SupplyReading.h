@@ -31,6 +31,8 @@ struct SupplyReading
     SupplyKind kind = SupplyKind::Other;
     SupplyAttributes attributes;
     AttributeSet failed; ///< went wrong on the way to the device; what they were before may stand in
+
+    bool operator==(const SupplyReading&) const = default;
 };
 
 /// All supplies of one moment, by name.

@@ -1,3 +1,4 @@
+#include <atomic>
 #include <string>
 
 #include <QCoreApplication>
@@ -136,6 +137,80 @@ TEST(LinuxRunLoop, TicksMayBeLateAgainWhenNobodyWantsThemOnTime)
     runLoop.keepPunctual().reset();
     runLoopFor(20);
     EXPECT_EQ(fired, 0);
+}
+
+QElapsedTimer startedWatch()
+{
+    QElapsedTimer watch;
+    watch.start();
+    return watch;
+}
+
+/// Ticks every 10 seconds, each but a moment away: the clock leaps when one has taken place.
+struct RestingLoopTest : testing::Test
+{
+    RestingLoopTest()
+    {
+        timer = runLoop.scheduleRepeatingTimer(10, 0, [this] {
+            ++fired;
+            leapTo(10 * (fired + (isStill ? looks.load() : 0)) + 9.98);
+        });
+        runLoop.restWhen([this] { return mayRest; }, {.begin = [] { return true; },
+                                                      .isStill =
+                                                          [this] {
+                                                              ++looks;
+                                                              return isStill.load();
+                                                          }});
+        leapTo(9.98);
+    }
+
+    // The thread must not look any more when this ends.
+    ~RestingLoopTest() override { runLoop.keepPunctual(); }
+
+    void leapTo(double moment)
+    {
+        base = moment;
+        watch.restart();
+        runLoop.keepPunctual(); // counts the time to the next tick anew
+    }
+
+    std::atomic<int> looks = 0;
+    std::atomic<bool> isStill = true;
+    int fired = 0;
+    bool mayRest = true;
+    double base = 0;
+    QElapsedTimer watch = startedWatch();
+    LinuxRunLoop runLoop{[this] { return base + static_cast<double>(watch.nsecsElapsed()) / 1e9; }};
+    std::shared_ptr<Timer> timer;
+};
+
+TEST_F(RestingLoopTest, ATickThatWouldFindNothingNewIsLeftOut)
+{
+    EXPECT_TRUE(comesTrue([&] { return looks == 1; }));
+    EXPECT_GE(fired, 2); // one that began to watch, and one that saw that nothing had changed until then
+    const int before = fired;
+    runLoopFor(60);
+    EXPECT_EQ(fired, before);
+}
+
+TEST_F(RestingLoopTest, OneThatFindsSomethingTakesPlace)
+{
+    isStill = false;
+    EXPECT_TRUE(comesTrue([&] { return looks >= 2 && fired >= 4; }));
+}
+
+TEST_F(RestingLoopTest, NoneIsLeftOutWhereItMayNot)
+{
+    mayRest = false;
+    EXPECT_TRUE(comesTrue([&] { return fired == 5; }));
+    EXPECT_EQ(looks, 0);
+}
+
+TEST_F(RestingLoopTest, SomebodyWhoWantsTicksOnTimeGetsThem)
+{
+    const Punctuality wanted = runLoop.keepPunctual();
+    EXPECT_TRUE(comesTrue([&] { return fired == 5; }));
+    EXPECT_EQ(looks, 0);
 }
 
 TEST(LinuxRunLoop, AWishMayOutliveTheLoop)

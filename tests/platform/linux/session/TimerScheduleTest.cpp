@@ -107,6 +107,25 @@ TEST(TimerSchedule, PunctualTimersUseNoTolerance)
     EXPECT_DOUBLE_EQ(*schedule.nextWakeUp(), 110);
 }
 
+TEST(TimerSchedule, TellsTheWakeUpsAheadWhereTicksMayBeLeftOut)
+{
+    TimerSchedule schedule;
+    schedule.add(0, 5, 5);
+    schedule.add(2, 10, 0);
+    EXPECT_EQ(schedule.restfulWakeUps(30), std::vector<double>({5, 12, 22, 32}));
+    schedule.takeDue(5);
+    EXPECT_EQ(schedule.restfulWakeUps(30), std::vector<double>({12, 22, 32, 42}));
+    EXPECT_DOUBLE_EQ(*schedule.nextWakeUp(), 12); // it was not told for nothing
+    schedule.setPunctual(true);
+    EXPECT_TRUE(schedule.restfulWakeUps(30).empty());
+    schedule.setPunctual(false);
+    const int quick = schedule.add(0, 0.5, 0);
+    EXPECT_TRUE(schedule.restfulWakeUps(30).empty());
+    schedule.remove(quick);
+    EXPECT_EQ(schedule.restfulWakeUps(10).size(), 2U);
+    EXPECT_TRUE(TimerSchedule().restfulWakeUps(30).empty());
+}
+
 TEST(TimerSchedule, ATickThatWasPutOffComesAtOnceWhenPunctual)
 {
     TimerSchedule schedule;
