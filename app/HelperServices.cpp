@@ -1,10 +1,13 @@
 #include "app/HelperServices.h"
 
+#include <QCoreApplication>
+
 #include "app/MachineSteps.h"
 #include "common/NumberConversion.h"
 #include "platform/UserDefaults.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/network/LinuxUrlSession.h"
+#include "platform/linux/os/StandardError.h"
 #include "platform/linux/session/LinuxApplication.h"
 #include "platform/linux/session/LinuxRunLoop.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
@@ -32,7 +35,12 @@ StatusItemSurroundings surroundings(const Bundle& programBundle, UserDefaultsDat
                 [&databases] {
                     return databases.standard().object(Keys::statusItemPresentation.name()).toString();
                 },
-            .trayProgram = windowsProgramOf(programBundle)};
+            .trayProgram = windowsProgramOf(programBundle),
+            .displayReset =
+                [] {
+                    printToStandardError("quindle-helper: the display has gone");
+                    QCoreApplication::quit();
+                }};
 }
 
 class ThisComputer : public HelperServices

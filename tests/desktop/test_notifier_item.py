@@ -80,14 +80,29 @@ class NotifierItem(HelperCase):
         self.assertNotIn("100 %", seen)
         self.assertLessEqual(seen.count("member=NewTitle"), 3)
 
+    def assert_in_panel(self, colour):
+        shown = wait_for(lambda: colour in self.desktop.call(
+            "sh", "-c", "import -silent -window root -crop 28x28+0+0 -depth 8 -format %c histogram:info:-"), 5)
+        self.assertTrue(shown, f"nothing in the panel has the colour {colour}")
+
     def test_the_icon_has_the_colour_of_the_panel_s_text(self):
         panel = self.desktop.panel_text_colour()
         self.assertRegex(panel, "^#[0-9A-F]{6}$", "this panel publishes its colours")
         self.start(machine(95))
         self.assert_title("95.0%")
-        shown = wait_for(lambda: panel in self.desktop.call(
-            "sh", "-c", "import -silent -window root -crop 28x28+0+0 -depth 8 -format %c histogram:info:-"), 5)
-        self.assertTrue(shown, f"nothing in the panel has the colour {panel}")
+        self.assert_in_panel(panel)
+
+    def test_other_colours_of_the_panel_are_seen_when_the_menu_opens(self):
+        self.start(machine(95))
+        self.assert_title("95.0%")
+        time.sleep(5)  # the colours were asked for after the registration, and once more three seconds later
+        self.desktop.call("sh", "-c", "for id in $(xwininfo -root -tree | grep -o '0x[0-9a-f]*' | sort -u); do "
+                                      "xprop -id $id _NET_SYSTEM_TRAY_COLORS | grep -q = && "
+                                      "xprop -id $id -f _NET_SYSTEM_TRAY_COLORS 32c -set _NET_SYSTEM_TRAY_COLORS "
+                                      "65535,257,514,0,0,0,0,0,0,0,0,0; done")
+        self.assertEqual(self.desktop.panel_text_colour(), "#FF0102")
+        self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.AboutToShow", "0")
+        self.assert_in_panel("#FF0102")
 
     def test_click_opens_the_view_and_escape_closes_it(self):
         self.start(machine(66))

@@ -138,6 +138,20 @@ class TrayProgram(TrayCase):
         self.assertEqual(log.count(f"{contents}/Linux/quindle-windows"), 1, log)
 
 
+class ResetServer(TrayCase):
+    def test_the_helper_ends_with_its_desktop_though_the_display_s_socket_stays(self):
+        helper = self.start(machine(66))
+        self.assert_icon()
+        time.sleep(0.5)
+        server = next(pid for pid in self.desktop._own_processes() if "Xvfb" in self.desktop._command_line(pid))
+        socket = Path("/tmp/.X11-unix/X" + self.desktop.env["DISPLAY"].lstrip(":"))
+        inode = socket.stat().st_ino
+        os.kill(server, signal.SIGHUP)
+        self.assertEqual(helper.wait(20), 0)
+        self.assertEqual(socket.stat().st_ino, inode)
+        self.assertIn("the display has gone", self.desktop.log_path.read_text(errors="replace"))
+
+
 class TrayAndWatcher(TrayCase):
     def test_the_tray_program_ends_with_a_watcher_and_comes_back_without(self):
         helper = self.start(machine(66))

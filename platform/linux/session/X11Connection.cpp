@@ -43,11 +43,26 @@ bool X11Connection::isOpen() const
     return xcb_connection_has_error(m_connection) == 0;
 }
 
+bool X11Connection::hasAtom(const QByteArray& name) const
+{
+    return existingAtom(name) != XCB_ATOM_NONE;
+}
+
+void X11Connection::makeAtom(const QByteArray& name) const
+{
+    atom(name, true);
+}
+
 /// An atom that some program has made; none if no program has.
 std::uint32_t X11Connection::existingAtom(const QByteArray& name) const
 {
+    return atom(name, false);
+}
+
+std::uint32_t X11Connection::atom(const QByteArray& name, bool makesIt) const
+{
     const auto cookie =
-        xcb_intern_atom(m_connection, 1, static_cast<uint16_t>(name.size()), name.constData());
+        xcb_intern_atom(m_connection, makesIt ? 0 : 1, static_cast<uint16_t>(name.size()), name.constData());
     const ReplyPtr<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr));
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }

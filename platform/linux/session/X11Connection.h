@@ -24,6 +24,12 @@ public:
     /// False without a display, or where it refuses; ask nothing then.
     bool isOpen() const;
 
+    /// Whether some program has made an atom of that name since the server was started or reset.
+    bool hasAtom(const QByteArray& name) const;
+
+    /// Makes an atom, which stays until the server ends or is reset.
+    void makeAtom(const QByteArray& name) const;
+
     /// The window that owns the display's selection of that name, to which the number of the screen is
     /// appended ("_NET_SYSTEM_TRAY_S" is "_NET_SYSTEM_TRAY_S0"); 0 where nobody does.
     std::uint32_t selectionOwner(const QByteArray& name) const;
@@ -36,6 +42,7 @@ public:
     std::optional<QPoint> pointer() const;
 
 private:
+    std::uint32_t atom(const QByteArray& name, bool makesIt) const;
     std::uint32_t existingAtom(const QByteArray& name) const;
 
     int m_screen = 0;

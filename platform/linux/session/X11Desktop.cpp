@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include <QByteArray>
+#include <QRandomGenerator>
 
 #include "platform/linux/session/X11Connection.h"
 #include "platform/linux/session/X11Display.h"
@@ -29,7 +30,8 @@ X11Tray trayOf(const X11Connection& connection)
     const std::uint32_t tray = connection.selectionOwner("_NET_SYSTEM_TRAY_S");
     if (tray == 0)
         return {};
-    return {true, textColourOf(connection.property(tray, "_NET_SYSTEM_TRAY_COLORS", 32))};
+    return {.isThere = true,
+            .textColour = textColourOf(connection.property(tray, "_NET_SYSTEM_TRAY_COLORS", 32))};
 }
 
 bool hasCompositingManager(const X11Connection& connection)
@@ -44,9 +46,25 @@ std::optional<QPoint> pointerOf(const X11Connection& connection)
 
 } // namespace
 
-X11Tray x11Tray(X11Display& display)
+ServerMark::ServerMark()
+    : m_name("_QUINDLE_SERVER_" + QByteArray::number(QRandomGenerator::global()->generate64(), 16))
 {
-    return display.ask(trayOf).value_or(X11Tray{});
+}
+
+X11Tray x11Tray(X11Display& display, ServerMark& mark)
+{
+    const auto question = [name = mark.name(), isSet = mark.isSet()](const X11Connection& connection) {
+        X11Tray tray = trayOf(connection);
+        if (tray.isThere && !isSet)
+            connection.makeAtom(name);
+        tray.isMarked = connection.hasAtom(name);
+        tray.wasReset = isSet && !tray.isMarked;
+        return tray;
+    };
+    const X11Tray tray = display.ask(question).value_or(X11Tray{});
+    if (tray.isMarked)
+        mark.set();
+    return tray;
 }
 
 bool hasCompositor(X11Display& display)

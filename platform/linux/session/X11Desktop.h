@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include <QByteArray>
 #include <QPoint>
 
 #include "platform/linux/os/Colour.h"
@@ -14,12 +15,32 @@ class X11Display;
 struct X11Tray
 {
     bool isThere = false;
-    Argb textColour = 0; ///< from _NET_SYSTEM_TRAY_COLORS; transparent where it does not set that
+    Argb textColour = 0;   ///< from _NET_SYSTEM_TRAY_COLORS; transparent where it does not set that
+    bool isMarked = false; ///< the server; see ServerMark
+    bool wasReset = false; ///< since it was marked
 
     friend bool operator==(const X11Tray&, const X11Tray&) = default;
 };
 
-X11Tray x11Tray(X11Display& display);
+/// By which a server is known again. One that is reset loses all its clients, and so the desktop that was
+/// shown there, but keeps its socket.
+class ServerMark
+{
+public:
+    ServerMark();
+
+    const QByteArray& name() const { return m_name; }
+    bool isSet() const { return m_isSet; }
+    void set() { m_isSet = true; }
+
+private:
+    QByteArray m_name; ///< of an atom, which nobody else makes
+    bool m_isSet = false;
+};
+
+/// Sets the mark once there is a tray: a server without any client is reset after each connection of a
+/// moment.
+X11Tray x11Tray(X11Display& display, ServerMark& mark);
 
 /// Whether windows may be translucent: a compositing manager runs on the X11 screen. False elsewhere.
 bool hasCompositor(X11Display& display);

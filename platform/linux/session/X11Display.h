@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <type_traits>
 
 #include <QByteArray>
 
@@ -35,9 +36,10 @@ public:
 
     /// What `question` answers on an open connection. Nothing where there is no display, or no answer in
     /// time; while an answer is owed, no further question is asked. `question` runs on another thread.
-    template <typename Answer>
-    std::optional<Answer> ask(Answer (*question)(const X11Connection&))
+    template <typename Question>
+    auto ask(Question question) -> std::optional<std::invoke_result_t<Question, const X11Connection&>>
     {
+        using Answer = std::invoke_result_t<Question, const X11Connection&>;
         const auto answer = std::make_shared<std::optional<Answer>>();
         const auto visit = [answer, question](const X11Connection& connection) {
             *answer = question(connection);

@@ -25,6 +25,8 @@ Q_LOGGING_CATEGORY(logItem, "quindle.statusitem", QtWarningMsg)
 
 // Nobody tells of a panel's new colours, and each question is a connection of its own.
 constexpr std::chrono::minutes panelLooksTheSame(10);
+// However often menus are opened.
+constexpr std::chrono::seconds panelWasJustSeen(2);
 
 } // namespace
 
@@ -45,7 +47,8 @@ LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, RunLoop& runLoop,
     m_labelledItem = new LabelledItemAdaptor(&m_itemObject, m_announced, m_pictures, requests());
     m_itemWithoutLabel =
         new NotifierItemAdaptor(&m_itemObjectWithoutLabel, m_announced, m_pictures, requests());
-    m_menuAdaptor = new MenuAdaptor(&m_menuObject, [this] { useActivationToken(); });
+    m_menuAdaptor = new MenuAdaptor(
+        &m_menuObject, [this] { useActivationToken(); }, [this] { lookAtPanelSoon(); });
     m_notifierItem = m_labelledItem;
     m_font.setBus(m_bus);
     connect(&m_font, &InterfaceFont::changed, this, [this] {
@@ -229,7 +232,9 @@ void LinuxStatusItem::watcherFound(const HostProcess& process)
 
 X11Tray LinuxStatusItem::lookAtPanel()
 {
-    const X11Tray tray = x11Tray(m_display);
+    const X11Tray tray = x11Tray(m_display, m_serverMark);
+    if (tray.wasReset)
+        m_surroundings.displayReset();
     m_panelSeen = timeSinceBoot();
     m_wanted.textColour = tray.textColour;
     m_font.forgetAnswer();
@@ -241,6 +246,14 @@ void LinuxStatusItem::lookAtPanelAgain()
     lookAtPanel();
     if (m_flushed != m_wanted)
         scheduleFlush();
+}
+
+/// Somebody is at the panel, and may have chosen other colours for it.
+void LinuxStatusItem::lookAtPanelSoon()
+{
+    // Afterwards: the host waits for the answer to its call.
+    if (timeSinceBoot() - m_panelSeen > panelWasJustSeen)
+        QMetaObject::invokeMethod(this, &LinuxStatusItem::lookAtPanelAgain, Qt::QueuedConnection);
 }
 
 void LinuxStatusItem::watcherLost()

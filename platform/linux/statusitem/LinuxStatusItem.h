@@ -13,6 +13,7 @@
 #include "platform/StatusBar.h"
 #include "platform/linux/os/Colour.h"
 #include "platform/linux/session/BacklogGuard.h"
+#include "platform/linux/session/X11Desktop.h"
 #include "platform/linux/session/X11Display.h"
 #include "platform/linux/statusitem/HostTraits.h"
 #include "platform/linux/statusitem/InterfaceFont.h"
@@ -26,7 +27,6 @@ class MenuAdaptor;
 class RunLoop;
 class TrayItem;
 class WatcherLink;
-struct X11Tray;
 
 /// What a status item finds around it.
 struct StatusItemSurroundings
@@ -36,6 +36,8 @@ struct StatusItemSurroundings
     std::function<QString()> presentationChoice; ///< "label", "wide", "icon"; anything else: by the host
     std::chrono::milliseconds registrationCheck{3000};
     QString trayProgram{}; ///< what holds the icon in an X11 tray; its path
+    /// The X server has been reset, and with it ended the desktop that the item was shown on.
+    std::function<void()> displayReset = [] {};
 };
 
 /// The status item as a status notifier item, or in an X11 tray where no watcher of such items is on the bus.
@@ -87,6 +89,7 @@ private:
     void lookForTray();
     X11Tray lookAtPanel();
     void lookAtPanelAgain();
+    void lookAtPanelSoon();
     void toggleView();
     void useActivationToken();
 
@@ -108,6 +111,7 @@ private:
     StatusItemSurroundings m_surroundings;
     StatusPictures m_pictures;
     X11Display m_display;
+    ServerMark m_serverMark;
     InterfaceFont m_font{m_display, m_runLoop};
     std::chrono::milliseconds m_panelSeen{0}; ///< since the computer's start
     std::shared_ptr<Image> m_image;

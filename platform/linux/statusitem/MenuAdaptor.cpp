@@ -10,6 +10,8 @@ namespace quindle {
 
 namespace {
 
+constexpr int wholeMenu = 0;
+
 std::vector<QVariantMap> allRowProperties(const StatusMenu* menu, const MenuForm& form)
 {
     std::vector<QVariantMap> all;
@@ -22,9 +24,10 @@ std::vector<QVariantMap> allRowProperties(const StatusMenu* menu, const MenuForm
 
 } // namespace
 
-MenuAdaptor::MenuAdaptor(QObject* object, std::function<void()> aboutToChoose)
+MenuAdaptor::MenuAdaptor(QObject* object, std::function<void()> aboutToChoose, std::function<void()> opening)
     : QDBusAbstractAdaptor(object)
     , m_aboutToChoose(std::move(aboutToChoose))
+    , m_opening(std::move(opening))
 {
     registerMenuTypes();
 }
@@ -123,8 +126,10 @@ QList<int> MenuAdaptor::EventGroup(const QList<MenuEvent>& events)
 }
 
 // Nothing is made on demand: the rows are always up to date.
-bool MenuAdaptor::AboutToShow(int /*id*/)
+bool MenuAdaptor::AboutToShow(int id)
 {
+    if (id == wholeMenu)
+        m_opening();
     return false;
 }
 
@@ -133,6 +138,8 @@ QList<int> MenuAdaptor::AboutToShowGroup(const QList<int>& ids, QList<int>& idEr
     for (const int id : ids) {
         if (!isMenuId(m_menu, id))
             idErrors.append(id);
+        else if (id == wholeMenu)
+            m_opening();
     }
     return {};
 }

@@ -26,8 +26,10 @@ class MenuAdaptor final : public QDBusAbstractAdaptor
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath)
 
 public:
-    /// `aboutToChoose` is called before a row's action, so that its window may come to the front.
-    MenuAdaptor(QObject* object, std::function<void()> aboutToChoose);
+    /// `aboutToChoose` is called before a row's action, so that its window may come to the front; `opening`
+    /// before a host shows the menu.
+    MenuAdaptor(
+        QObject* object, std::function<void()> aboutToChoose, std::function<void()> opening = [] {});
 
     /// The menu to show, null for an empty one. Rows that are added later show at the host's next question.
     void setMenu(StatusMenu* menu);
@@ -67,6 +69,7 @@ private:
     StatusMenu* m_menu = nullptr;
     MenuForm m_form;
     std::function<void()> m_aboutToChoose;
+    std::function<void()> m_opening;
     std::vector<QVariantMap> m_announced; ///< of each row; the row with id n at n - 1
     uint m_revision = 0;
 };
