@@ -33,6 +33,11 @@ inline constexpr bool flag = false;
 inline constexpr qint64 number = 0;
 inline constexpr QStringView customStatusBar = u"%p%";
 inline constexpr bool recordHistory = true; // on by default: what is recorded stays on the computer
+inline constexpr bool warns = true;
+inline constexpr qint64 lowPercent = 20;
+inline constexpr qint64 veryLowPercent = 10;
+inline constexpr qint64 nearlyEmptyPercent = 5;
+inline constexpr qint64 fullPercent = 100;
 
 } // namespace DefaultValues
 
@@ -66,6 +71,22 @@ inline constexpr Setting<qint64>      autoUploadBatteryData{u"autoUploadBatteryD
 inline constexpr Setting<QStringView> statusItemPresentation{u"statusItemPresentation", own, std::nullopt};
 inline constexpr Setting<bool>        recordHistory{u"recordHistory", own, DefaultValues::recordHistory};
 inline constexpr Setting<qint64>      historyDays{u"historyDays", own, DefaultValues::number};
+inline constexpr Setting<QStringView> warnings{u"warnings", own, std::nullopt};
+inline constexpr Setting<bool>        warnLow{u"warnLow", own, DefaultValues::warns};
+inline constexpr Setting<qint64>      warnLowPercent{u"warnLowPercent", own, DefaultValues::lowPercent};
+inline constexpr Setting<QStringView> warnLowCommand{u"warnLowCommand", own, std::nullopt};
+inline constexpr Setting<bool>        warnVeryLow{u"warnVeryLow", own, DefaultValues::warns};
+inline constexpr Setting<qint64>      warnVeryLowPercent{u"warnVeryLowPercent", own, DefaultValues::veryLowPercent};
+inline constexpr Setting<QStringView> warnVeryLowCommand{u"warnVeryLowCommand", own, std::nullopt};
+inline constexpr Setting<bool>        warnNearlyEmpty{u"warnNearlyEmpty", own, DefaultValues::warns};
+inline constexpr Setting<qint64>      warnNearlyEmptyPercent{u"warnNearlyEmptyPercent", own, DefaultValues::nearlyEmptyPercent};
+inline constexpr Setting<QStringView> warnNearlyEmptyCommand{u"warnNearlyEmptyCommand", own, std::nullopt};
+inline constexpr Setting<bool>        warnFull{u"warnFull", own, DefaultValues::warns};
+inline constexpr Setting<qint64>      warnFullPercent{u"warnFullPercent", own, DefaultValues::fullPercent};
+inline constexpr Setting<QStringView> warnFullCommand{u"warnFullCommand", own, std::nullopt};
+inline constexpr Setting<bool>        warnLimit{u"warnLimit", own, DefaultValues::warns};
+inline constexpr Setting<qint64>      warnLimitPercent{u"warnLimitPercent", own, DefaultValues::number};
+inline constexpr Setting<QStringView> warnLimitCommand{u"warnLimitCommand", own, std::nullopt};
 inline constexpr Setting<QStringView> preferencesWindowFrame{u"PreferencesWindowFrameAutoSaveName", own, std::nullopt};
 inline constexpr Setting<QStringView> applicationWindowFrame{u"ApplicationWindowFrame", own, std::nullopt};
 inline constexpr Setting<QStringView> applicationPage{u"ApplicationPage", own, std::nullopt};
