@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+namespace quindle {
+
+/// What the desktop tells the user in a window of its own.
+struct Notification
+{
+    enum class Urgency {
+        Low,
+        Normal,
+        Critical, ///< stays until it is closed
+    };
+
+    QString title;
+    QString text;
+    QString iconName; ///< of the desktop's theme
+    Urgency urgency = Urgency::Normal;
+
+    friend bool operator==(const Notification&, const Notification&) = default;
+};
+
+/// The one notification that this program shows. Nothing waits for the desktop. Main thread only.
+class Notifier
+{
+public:
+    virtual ~Notifier() = default;
+
+    /// Shows it in place of the one before.
+    /// Where nothing shows notifications one line is logged, once.
+    virtual void show(const Notification& notification) = 0;
+
+    /// Takes back what is shown; does nothing otherwise.
+    virtual void withdraw() = 0;
+};
+
+} // namespace quindle

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+
+#include "settings/WarningSettings.h"
+
+namespace quindle {
+
+struct BatteryReading;
+
+/// Whether a level is one of those that come while the battery is discharged.
+constexpr bool isOfDischarge(WarningLevel level)
+{
+    return level <= WarningLevel::NearlyEmpty;
+}
+
+/// Whether this reading is at that level. `steadyMinutes` are those until empty, where that is known well.
+bool isReached(WarningLevel level, const LevelSettings& settings, const BatteryReading& reading,
+               std::optional<int> steadyMinutes);
+
+/// Whether this reading is so far from the level (3 points) that the level may be told of again.
+bool isLeft(WarningLevel level, const LevelSettings& settings, const BatteryReading& reading,
+            std::optional<int> steadyMinutes);
+
+/// The minutes that a warning of that level gives in place of the percentage: a steady estimate that is no
+/// longer than the level's percentage in minutes. Else nothing.
+std::optional<int> minutesToTell(WarningLevel level, const LevelSettings& settings,
+                                 std::optional<int> steadyMinutes);
+
+/// Whether a warning stays on the screen until somebody closes it.
+bool isCritical(WarningLevel level, double percent);
+
+} // namespace quindle

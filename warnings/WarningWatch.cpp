@@ -1,0 +1,174 @@
+#include "warnings/WarningWatch.h"
+
+#include "warnings/WarningRules.h"
+
+namespace quindle {
+
+namespace {
+
+using Kind = WarningAction::Kind;
+
+// Two refreshes of one change come within milliseconds, and know no more than one does.
+constexpr qint64 secondsToAgree = 5;
+constexpr qint64 quietSeconds = 60;
+constexpr qint64 longestPause = 60; // seconds between two refreshes of a computer that is awake
+
+/// Since when it has been so, if it is so.
+void keepSince(std::optional<qint64>& since, bool isSo, qint64 moment)
+{
+    if (!isSo)
+        since.reset();
+    else if (!since)
+        since = moment;
+}
+
+} // namespace
+
+std::vector<WarningAction> WarningWatch::take(const BatteryReading& reading, const WarningSettings& settings)
+{
+    const bool hasSlept =
+        !m_lastMoment || reading.moment < *m_lastMoment || reading.moment - *m_lastMoment > longestPause;
+    if (hasSlept)
+        wake(reading.moment);
+    m_lastMoment = reading.moment;
+    std::vector<WarningAction> actions;
+    if (reading.battery != m_battery) {
+        actions = loseBattery();
+        meetBattery(reading.battery);
+    }
+    follow(reading, settings);
+    if (isOutdated(reading)) {
+        m_shown.reset();
+        actions.push_back({.kind = Kind::Withdraw});
+    }
+    if (const auto level = levelToTell(reading, settings))
+        tell(*level, reading, settings, actions);
+    return actions;
+}
+
+void WarningWatch::wake(qint64 moment)
+{
+    m_lastMoment = moment;
+    m_quietUntil = moment + quietSeconds;
+    m_recent.forget();
+    for (Level& level : m_levels) {
+        level.reachedSince.reset();
+        level.leftSince.reset();
+    }
+}
+
+std::vector<WarningAction> WarningWatch::loseBattery()
+{
+    m_battery.clear();
+    m_needsAttention = false;
+    if (!m_shown)
+        return {};
+    m_shown.reset();
+    return {{.kind = Kind::Withdraw}};
+}
+
+/// What the battery before was at says nothing about this one. One that is full already when it is first
+/// seen is no news.
+void WarningWatch::meetBattery(const QString& battery)
+{
+    m_battery = battery;
+    m_recent.forget();
+    for (const WarningLevel level : warningLevels)
+        (*this)[level] = {.isTold = !isOfDischarge(level)};
+}
+
+void WarningWatch::follow(const BatteryReading& reading, const WarningSettings& settings)
+{
+    m_recent.add(reading);
+    for (const WarningLevel level : warningLevels)
+        followLevel(level, settings[level], reading);
+    followAttention(reading);
+}
+
+void WarningWatch::followLevel(WarningLevel level, const LevelSettings& settings,
+                               const BatteryReading& reading)
+{
+    Level& known = (*this)[level];
+    const auto minutes = m_recent.steadyMinutes();
+    keepSince(known.reachedSince, isReached(level, settings, reading, minutes), reading.moment);
+    keepSince(known.leftSince, isLeft(level, settings, reading, minutes), reading.moment);
+    if (isConfirmed(known.leftSince, reading.moment))
+        rearm(level, reading);
+}
+
+/// Estimates of the time come and go with the load, so a level that one has reached stays told until the
+/// battery is charged.
+void WarningWatch::rearm(WarningLevel level, const BatteryReading& reading)
+{
+    Level& known = (*this)[level];
+    if (known.isToldByTime && isDischarging(reading))
+        return;
+    known.isTold = false;
+    known.isToldByTime = false;
+}
+
+void WarningWatch::followAttention(const BatteryReading& reading)
+{
+    const Level& veryLow = (*this)[WarningLevel::VeryLow];
+    if (!isDischarging(reading) || isConfirmed(veryLow.leftSince, reading.moment))
+        m_needsAttention = false;
+    else if (isConfirmed(veryLow.reachedSince, reading.moment))
+        m_needsAttention = true;
+}
+
+/// One odd reading says nothing, nor does any while the charge jumps.
+bool WarningWatch::isConfirmed(const std::optional<qint64>& since, qint64 moment) const
+{
+    return since && moment - *since >= secondsToAgree && !m_recent.hasJumped();
+}
+
+/// Whether what is shown does not hold any more: another state than its level's, or the level is left.
+bool WarningWatch::isOutdated(const BatteryReading& reading)
+{
+    return m_shown && (isOfDischarge(*m_shown) != isDischarging(reading) || !(*this)[*m_shown].isTold);
+}
+
+std::optional<WarningLevel> WarningWatch::levelToTell(const BatteryReading& reading,
+                                                      const WarningSettings& settings)
+{
+    const bool isQuiet = reading.moment < m_quietUntil;
+    std::optional<WarningLevel> found;
+    for (const WarningLevel level : warningLevels) {
+        const Level& known = (*this)[level];
+        const bool isNews =
+            !known.isTold && isConfirmed(known.reachedSince, reading.moment) && !hasToldMoreUrgent(level);
+        if (isNews && settings[level].isOn && (!isQuiet || level == WarningLevel::NearlyEmpty))
+            found = level;
+    }
+    return found;
+}
+
+bool WarningWatch::hasToldMoreUrgent(WarningLevel level)
+{
+    for (const WarningLevel other : warningLevels)
+        if (isOfDischarge(other) && other > level && (*this)[other].isTold)
+            return true;
+    return false;
+}
+
+void WarningWatch::tell(WarningLevel level, const BatteryReading& reading, const WarningSettings& settings,
+                        std::vector<WarningAction>& actions)
+{
+    const auto minutes = minutesToTell(level, settings[level], m_recent.steadyMinutes());
+    Level& known = (*this)[level];
+    known.isTold = true;
+    known.isToldByTime = isOfDischarge(level) && reading.percent > settings[level].percent;
+    WarningAction action{.kind = m_shown ? Kind::Replace : Kind::Show,
+                         .level = level,
+                         .percent = reading.percent,
+                         .state = reading.state,
+                         .minutes = minutes};
+    m_shown = level;
+    actions.push_back(action);
+    if (settings[level].command.isEmpty())
+        return;
+    action.kind = Kind::Run;
+    actions.push_back(action);
+}
+
+} // namespace quindle
