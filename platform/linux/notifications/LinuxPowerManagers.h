@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+#include "platform/PowerManagers.h"
+#include "platform/linux/notifications/PresentBus.h"
+
+namespace quindle {
+
+/// Power managers are known by their names on the session bus. They are looked for when somebody asks, so
+/// that nobody's coming and going wakes this process.
+class LinuxPowerManagers final : public QObject, public PowerManagers
+{
+    Q_OBJECT
+
+public:
+    LinuxPowerManagers();
+
+    void ask(std::function<void(const QString& desktop)> answered) override;
+
+private:
+    PresentBus m_bus;
+};
+
+/// The desktop whose power manager is among the names on a session bus; empty for none.
+QString desktopThatWarns(const QStringList& busNames);
+
+} // namespace quindle

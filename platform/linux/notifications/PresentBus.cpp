@@ -1,0 +1,34 @@
+#include "platform/linux/notifications/PresentBus.h"
+
+#include <utility>
+
+#include "platform/linux/session/BusLink.h"
+
+namespace quindle {
+
+PresentBus::PresentBus(QString ownName)
+    : m_ownName(std::move(ownName))
+    , m_own(QString())
+{
+}
+
+PresentBus::~PresentBus()
+{
+    m_own = QDBusConnection(QString());
+    QDBusConnection::disconnectFromBus(m_ownName);
+}
+
+QDBusConnection PresentBus::connection()
+{
+    if (m_own.isConnected())
+        return m_own;
+    const QDBusConnection shared = QDBusConnection::sessionBus();
+    if (shared.isConnected())
+        return shared;
+    QDBusConnection::disconnectFromBus(m_ownName);
+    // By address: asked by type, the library may start a bus of its own where there is none.
+    m_own = QDBusConnection::connectToBus(busAddress(QDBusConnection::SessionBus), m_ownName);
+    return m_own;
+}
+
+} // namespace quindle
