@@ -42,6 +42,10 @@ public:
     /// The menu that hangs from the item; null for none.
     /// The caller keeps it alive as long as the item.
     virtual void setMenu(StatusMenu* menu) = 0;
+
+    /// Whether the item asks to be looked at; false at first.
+    /// Does nothing where items cannot.
+    virtual void setNeedsAttention(bool /*needed*/) {}
 };
 
 /// The length that lets an item be as wide as its contents.

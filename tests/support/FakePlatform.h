@@ -172,6 +172,7 @@ struct StatusItemRecord
     std::vector<double> fontSizesSet;
     QStringList toolTipsSet;
     QStringList fallbackTextsSet;
+    std::vector<bool> attentionSet;
     StatusMenu* menu = nullptr;
 };
 
@@ -191,6 +192,7 @@ public:
     void setFallbackText(const QString& text) override { m_record->fallbackTextsSet.append(text); }
     void setToolTipText(const QString& text) override { m_record->toolTipsSet.append(text); }
     void setMenu(StatusMenu* menu) override { m_record->menu = menu; }
+    void setNeedsAttention(bool needed) override { m_record->attentionSet.push_back(needed); }
 
 private:
     std::shared_ptr<StatusItemRecord> m_record;

@@ -151,6 +151,12 @@ void LinuxStatusItem::setToolTipText(const QString& text)
     scheduleFlush();
 }
 
+void LinuxStatusItem::setNeedsAttention(bool needed)
+{
+    m_wanted.contents.needsAttention = needed;
+    scheduleFlush();
+}
+
 void LinuxStatusItem::setMenu(StatusMenu* menu)
 {
     if (menu == m_menu)

@@ -65,6 +65,7 @@ public:
     void setFallbackText(const QString& text) override;
     void setToolTipText(const QString& text) override;
     void setMenu(StatusMenu* menu) override;
+    void setNeedsAttention(bool needed) override;
 
     /// Whether each refresh asks whether an X11 tray has come.
     bool looksForTray() const;

@@ -23,10 +23,22 @@ void NotifierItemAdaptor::announce(const Presentation& last)
         Q_EMIT NewTitle();
     if (m_announced.picture != last.picture || m_announced.carrier != last.carrier)
         Q_EMIT NewIcon();
+    announceAttention(last);
     if (m_announced.toolTipTitle != last.toolTipTitle || m_announced.toolTipBody != last.toolTipBody)
         Q_EMIT NewToolTip();
     if (m_announced.label != last.label || m_announced.labelGuide != last.labelGuide)
         Q_EMIT XAyatanaNewLabel(m_announced.label, m_announced.labelGuide);
+}
+
+/// The icon first, so that it is there when the host shows it.
+void NotifierItemAdaptor::announceAttention(const Presentation& last)
+{
+    const bool isNew = m_announced.needsAttention != last.needsAttention;
+    const bool isOther = m_announced.picture != last.picture || m_announced.carrier != last.carrier;
+    if (isNew || (m_announced.needsAttention && isOther))
+        Q_EMIT NewAttentionIcon();
+    if (isNew)
+        Q_EMIT NewStatus(status());
 }
 
 QString NotifierItemAdaptor::category() const
@@ -46,7 +58,7 @@ QString NotifierItemAdaptor::title() const
 
 QString NotifierItemAdaptor::status() const
 {
-    return QStringLiteral("Active");
+    return m_announced.needsAttention ? QStringLiteral("NeedsAttention") : QStringLiteral("Active");
 }
 
 int NotifierItemAdaptor::windowId() const
@@ -79,10 +91,33 @@ QList<NotifierPixmap> NotifierItemAdaptor::iconPixmap() const
     // Some hosts prefer pixels to a name, and would not colour these.
     if (m_announced.carrier == Carrier::Drawing && !m_pictures.drawing(m_announced.picture).isEmpty())
         return {};
+    return pixmapsOf(m_announced.picture);
+}
+
+QList<NotifierPixmap> NotifierItemAdaptor::pixmapsOf(const Picture& picture) const
+{
     QList<NotifierPixmap> pixmaps;
-    for (const Pixels& image : m_pictures.images(m_announced.picture))
+    for (const Pixels& image : m_pictures.images(picture))
         pixmaps.append(notifierPixmap(image));
     return pixmaps;
+}
+
+// A drawing would get the panel's colour, so hosts of drawings get a file of pixels.
+QString NotifierItemAdaptor::attentionIconName() const
+{
+    if (!m_announced.needsAttention)
+        return {};
+    if (m_announced.picture.kind == Picture::Kind::Transparent)
+        return m_pictures.transparentFile();
+    return m_announced.carrier == Carrier::Pixels ? QString()
+                                                  : m_pictures.file(attentionPicture(m_announced));
+}
+
+QList<NotifierPixmap> NotifierItemAdaptor::attentionIconPixmap() const
+{
+    if (!m_announced.needsAttention || !attentionIconName().isEmpty())
+        return {};
+    return pixmapsOf(attentionPicture(m_announced));
 }
 
 QList<NotifierPixmap> NotifierItemAdaptor::noPixmap() const

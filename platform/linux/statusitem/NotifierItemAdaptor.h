@@ -11,6 +11,7 @@
 
 namespace quindle {
 
+struct Picture;
 struct Presentation;
 class StatusPictures;
 
@@ -30,8 +31,8 @@ class NotifierItemAdaptor : public QDBusAbstractAdaptor
     Q_PROPERTY(QList<quindle::NotifierPixmap> IconPixmap READ iconPixmap)
     Q_PROPERTY(QString OverlayIconName READ noText)
     Q_PROPERTY(QList<quindle::NotifierPixmap> OverlayIconPixmap READ noPixmap)
-    Q_PROPERTY(QString AttentionIconName READ noText)
-    Q_PROPERTY(QList<quindle::NotifierPixmap> AttentionIconPixmap READ noPixmap)
+    Q_PROPERTY(QString AttentionIconName READ attentionIconName)
+    Q_PROPERTY(QList<quindle::NotifierPixmap> AttentionIconPixmap READ attentionIconPixmap)
     Q_PROPERTY(QString AttentionMovieName READ noText)
     Q_PROPERTY(quindle::NotifierToolTip ToolTip READ toolTip)
     Q_PROPERTY(bool ItemIsMenu READ itemIsMenu)
@@ -61,6 +62,8 @@ public:
     QString iconName() const;
     QList<NotifierPixmap> iconPixmap() const;
     QList<NotifierPixmap> noPixmap() const;
+    QString attentionIconName() const;
+    QList<NotifierPixmap> attentionIconPixmap() const;
     NotifierToolTip toolTip() const;
     bool itemIsMenu() const;
     QDBusObjectPath menu() const;
@@ -87,6 +90,9 @@ protected:
     const Presentation& presentation() const;
 
 private:
+    void announceAttention(const Presentation& last);
+    QList<NotifierPixmap> pixmapsOf(const Picture& picture) const;
+
     const Presentation& m_announced;
     StatusPictures& m_pictures;
     Requests m_requests;

@@ -91,7 +91,15 @@ Presentation present(const ItemContents& contents, const HostTraits& host, const
         presented.picture.fontFamily = fontFamily;
     presented.picture.isUnscaled = host.neverScales;
     presented.carrier = carrierOf(presented.picture, host);
+    presented.needsAttention = contents.needsAttention;
     return presented;
+}
+
+Picture attentionPicture(const Presentation& presentation)
+{
+    Picture picture = presentation.picture;
+    picture.isAlarming = true;
+    return picture;
 }
 
 } // namespace quindle

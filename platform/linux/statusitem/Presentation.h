@@ -15,6 +15,7 @@ struct ItemContents
     QString fallbackText;
     QString toolTipText;
     double fontSize = 12.0; ///< points in a bar 22 points high
+    bool needsAttention = false;
 
     friend bool operator==(const ItemContents&, const ItemContents&) = default;
 };
@@ -38,6 +39,7 @@ struct Picture
     bool isUnscaled = false;   ///< the host shows one of its sizes as it is
     bool inAllHeights = false; ///< a wide one is wanted as high as icons are, not high and to be scaled
     QString fontFamily{};      ///< of text; empty for the system's usual one
+    bool isAlarming = false;   ///< drawn in red
 
     friend bool operator==(const Picture&, const Picture&) = default;
 };
@@ -60,6 +62,7 @@ struct Presentation
     QString labelGuide; ///< a text as wide as the label gets usually
     Picture picture;
     Carrier carrier = Carrier::Pixels;
+    bool needsAttention = false;
 
     friend bool operator==(const Presentation&, const Presentation&) = default;
 };
@@ -68,5 +71,9 @@ struct Presentation
 /// one line and cut with an ellipsis; the picture is never empty unless the host writes the title. The family
 /// is the one that the desktop writes in, empty while that is unknown.
 Presentation present(const ItemContents& contents, const HostTraits& host, const QString& fontFamily = {});
+
+/// What a host shows in place of the picture while the item needs attention, if it shows such a one: the same
+/// in red, so that nothing is lost.
+Picture attentionPicture(const Presentation& presentation);
 
 } // namespace quindle

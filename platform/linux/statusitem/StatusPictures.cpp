@@ -41,6 +41,8 @@ constexpr double panelPixelsPerPoint = 13.0 / 12.0;
 
 constexpr Argb onPlate = 0xffffffff;
 constexpr Argb plateColour = 0xbe181a1e;
+constexpr Argb redOnDark = 0xffff6e61;
+constexpr Argb redOnLight = 0xffc01c28;
 
 std::span<const int> sizesOf(const Picture& picture)
 {
@@ -55,9 +57,18 @@ QString symbolic()
     return QStringLiteral("-symbolic.svg");
 }
 
+/// Whether a colour is one that dark panels write in.
+bool isLight(Argb colour)
+{
+    constexpr unsigned half = 3 * 128;
+    return redOf(colour) + greenOf(colour) + blueOf(colour) >= half;
+}
+
 /// The colour that the picture is drawn in.
 Argb inkOf(const Picture& picture)
 {
+    if (picture.isAlarming)
+        return isKnown(picture.ink) && !isLight(picture.ink) ? redOnLight : redOnDark;
     return isKnown(picture.ink) ? picture.ink : onPlate;
 }
 
@@ -175,7 +186,8 @@ QString StatusPictures::file(const Picture& picture)
 {
     // All that the picture depends on, so that another one has another name.
     const QString name = plainName(picture.imageName + picture.text + picture.fontFamily) +
-                         QString::number(picture.ink, 16) + QStringLiteral(".png");
+                         QString::number(picture.ink, 16) +
+                         (picture.isAlarming ? QStringLiteral("-alarming.png") : QStringLiteral(".png"));
     return writtenPicture(name, [&] { return pngOf(image(picture, squareSizes.back())); });
 }
 

@@ -32,6 +32,7 @@ FakeTrayHost::FakeTrayHost(QDBusConnection bus)
     const std::array signals{
         Row{"org.kde.StatusNotifierItem", "NewTitle"},
         Row{"org.kde.StatusNotifierItem", "NewIcon"},
+        Row{"org.kde.StatusNotifierItem", "NewAttentionIcon"},
         Row{"org.kde.StatusNotifierItem", "NewToolTip"},
         Row{"org.kde.StatusNotifierItem", "NewStatus"},
         Row{"org.kde.StatusNotifierItem", "XAyatanaNewLabel"},

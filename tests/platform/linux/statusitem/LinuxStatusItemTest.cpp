@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDeadlineTimer>
+#include <QFile>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -185,6 +186,41 @@ TEST_F(LinuxStatusItemTest, imageChange)
     settle();
     EXPECT_EQ(host.takeSignals(), QStringList{u("NewIcon")});
     EXPECT_EQ(pixmaps("IconPixmap").size(), 3) << "a square host gets the number";
+}
+
+TEST_F(LinuxStatusItemTest, attentionIsToldWithAPictureOfItsOwn)
+{
+    makeRegisteredItem();
+    EXPECT_EQ(host.itemProperty("Status"), u("Active"));
+    EXPECT_EQ(pixmaps("AttentionIconPixmap").size(), 0);
+    item->setNeedsAttention(true);
+    settle();
+    EXPECT_EQ(host.takeSignals(), (QStringList{u("NewAttentionIcon"), u("NewStatus")}));
+    EXPECT_EQ(host.itemProperty("Status"), u("NeedsAttention"));
+    EXPECT_EQ(host.itemProperty("AttentionIconName"), QString());
+    ASSERT_EQ(pixmaps("AttentionIconPixmap").size(), 3);
+    EXPECT_NE(pixmaps("AttentionIconPixmap").at(0).pixels, pixmaps("IconPixmap").at(0).pixels);
+    item->setImage(std::make_shared<Image>(u("#bat24")));
+    settle();
+    EXPECT_EQ(host.takeSignals(), (QStringList{u("NewIcon"), u("NewAttentionIcon")}));
+    item->setNeedsAttention(false);
+    settle();
+    EXPECT_EQ(host.takeSignals(), (QStringList{u("NewAttentionIcon"), u("NewStatus")}));
+    EXPECT_EQ(host.itemProperty("Status"), u("Active"));
+    EXPECT_EQ(pixmaps("AttentionIconPixmap").size(), 0);
+}
+
+TEST_F(LinuxStatusItemTest, hostOfDrawingsGetsTheAttentionIconInItsColours)
+{
+    currentDesktop = u("KDE");
+    makeRegisteredItem();
+    item->setNeedsAttention(true);
+    settle();
+    const QString file = host.itemProperty("AttentionIconName").toString();
+    EXPECT_TRUE(file.endsWith(u("-alarming.png"))) << file.toStdString();
+    EXPECT_TRUE(QFile::remove(file));
+    EXPECT_EQ(pixmaps("AttentionIconPixmap").size(), 0);
+    EXPECT_EQ(host.itemProperty("IconName"), u(QUINDLE_RESOURCES "/icons/#bat34-symbolic.svg"));
 }
 
 TEST_F(LinuxStatusItemTest, labelHostWithoutImageGetsATransparentFile)

@@ -171,6 +171,22 @@ TEST_F(StatusPicturesTest, aKnownTextColourNeedsNoPlate)
     QFile::remove(pictures.file(iconPicture(names()[4])));
 }
 
+TEST_F(StatusPicturesTest, anAlarmingPictureIsRedOnEveryPanel)
+{
+    const auto isRed = [](const QColor& colour) { return colour.red() > colour.blue() + 90; };
+    for (const Argb ink : {Argb{0}, opaqueColour(0x20, 0x20, 0x20), opaqueColour(0xee, 0xee, 0xee)}) {
+        Picture alarming = iconPicture(names()[4]);
+        alarming.ink = ink;
+        alarming.isAlarming = true;
+        const QImage image = drawn(alarming, 44);
+        int red = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                red += image.pixelColor(x, y).alpha() > 200 && isRed(image.pixelColor(x, y)) ? 1 : 0;
+        EXPECT_GT(red, 100) << ink;
+    }
+}
+
 TEST_F(StatusPicturesTest, imageWithoutFileGivesNothing)
 {
     EXPECT_TRUE(drawn(iconPicture(QStringLiteral("none")), 22).isNull());
