@@ -63,6 +63,7 @@ public:
         // Another tree than /sys is another computer, whose history does not belong into this one's.
         return m_isOther ? QString() : mainApplicationProgram(m_linux.bundle().path());
     }
+    bool mayRunCommands() const override { return true; }
     QByteArray memory() const override { return m_linux.powerMemory(); }
     quint32 statesEntered() const override { return 0; }
     void store(const QString& /*database*/, const QByteArray& /*values*/) override {}
@@ -137,6 +138,8 @@ public:
         const bool isAskedFor = convertToBoolean(settings.value(Keys::recordHistory.name())).value_or(false);
         return isAskedFor ? mainApplicationProgram(m_programBundle.path()) : QString();
     }
+
+    bool mayRunCommands() const override { return false; }
 
     QByteArray memory() const override
     {

@@ -28,6 +28,10 @@ public:
     /// file itself stores that its history is recorded.
     virtual QString recordingProgram() const = 0;
 
+    /// Whether commands in the settings are the user's own: a recorded computer's file may be somebody
+    /// else's.
+    virtual bool mayRunCommands() const = 0;
+
     /// Plays a recorded computer's later states in their time; does nothing for this computer.
     virtual void play(HelperAppDelegate& delegate) = 0;
 

@@ -15,12 +15,16 @@
 #include "app/RemoteControllers.h"
 #include "app/SampleKeeper.h"
 #include "app/SharedNotifications.h"
+#include "app/WarningKeeper.h"
 #include "common/Paths.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/UserDefaults.h"
+#include "platform/linux/link/LinuxCommandRunner.h"
 #include "platform/linux/link/LinuxProgramStarter.h"
 #include "platform/linux/link/LinuxTextReceiver.h"
+#include "platform/linux/notifications/LinuxNotifier.h"
+#include "platform/linux/notifications/LinuxPowerManagers.h"
 #include "platform/linux/os/CoreDumps.h"
 #include "platform/linux/os/EndSignals.h"
 #include "platform/linux/os/MonotonicClock.h"
@@ -95,9 +99,15 @@ int run(QCoreApplication& application, HelperServices& services, SingleInstance&
                                [&controllers](HelperAppDelegate& owner) { return controllers.make(owner); });
     LinuxTextReceiver recorder({pathBytes(services.recordingProgram()), "--record"});
     SampleKeeper samples(platform, delegate, recorder);
+    LinuxNotifier notifier;
+    LinuxPowerManagers powerManagers;
+    LinuxCommandRunner commands;
+    const WarningKeeper warnings(platform, delegate,
+                                 {notifier, powerManagers, services.mayRunCommands() ? &commands : nullptr});
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      &HelperAppDelegate::applicationWillTerminate);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &samples, &SampleKeeper::finish);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &notifier, &LinuxNotifier::finish);
     instance.setTakenByAnother([&application] {
         fail(QStringLiteral("another helper is on the session bus that has come up"), 0);
         application.quit();

@@ -7,7 +7,7 @@ runtime_packages="libqt6svg6 fonts-dejavu-core qt6-wayland libraqm0"
 desktop_packages="python3 xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme fonts-noto-core imagemagick x11-utils
     x11-xserver-utils xdotool libglib2.0-bin"
 test_packages="libgtest-dev libgmock-dev mold python3 python3-dbus python3-gi python3-dbusmock umockdev gir1.2-umockdev-1.0
-    waybar sway grim xcompmgr hsetroot dex lxqt-session at-spi2-core gir1.2-atspi-2.0
+    dunst waybar sway grim xcompmgr hsetroot dex lxqt-session at-spi2-core gir1.2-atspi-2.0
     binutils openssl desktop-file-utils appstream man-db"
 fleet_packages="prometheus prometheus-node-exporter python3"
 fuzz_packages="clang"
