@@ -46,17 +46,17 @@ def main():
     faults, sources = [], 0
     for folder in folders:
         for source in sorted((root / folder).glob("*")):
-            if source.suffix in (".h", ".cpp"):
+            if source.suffix in (".h", ".cpp", ".mm"):
                 sources += 1
                 faults += faults_of(source, root, rules, folders)
         for source in sorted((root / folder).glob("*/*")):
             nested = source.relative_to(root).parent.as_posix()
-            if nested not in folders and source.suffix in (".h", ".cpp"):
+            if nested not in folders and source.suffix in (".h", ".cpp", ".mm"):
                 sources += 1
                 faults += faults_of(source, root, rules, folders)
     for source in sorted((root).glob("*/**/*")):
         name = source.relative_to(root).as_posix()
-        if source.suffix in (".h", ".cpp") and name.split("/")[0] not in NOT_LAYERED and not folder_of(name, folders):
+        if source.suffix in (".h", ".cpp", ".mm") and name.split("/")[0] not in NOT_LAYERED and not folder_of(name, folders):
             faults.append(f"{name}: stands in no room of layers.txt")
     print("\n".join(faults) or f"{sources} files follow the layers")
     return 1 if faults or not sources else 0

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "platform/TextReceiver.h"
+
+namespace quindle {
+
+/// A program that gets each text as a file that has no name any more, so that however long it is nobody
+/// waits.
+class MacTextReceiver : public TextReceiver
+{
+public:
+    MacTextReceiver(QString program, QStringList arguments);
+
+    bool isInstalled() const override;
+    bool isRunning() override;
+    bool handOver(const QByteArray& text) override;
+
+private:
+    QString m_program;
+    QStringList m_arguments;
+    qint64 m_last = 0; ///< its process number; 0 before the first
+};
+
+} // namespace quindle
