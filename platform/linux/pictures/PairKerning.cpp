@@ -17,9 +17,10 @@ constexpr std::uint32_t tagOf(const char (&letters)[5])
     return tag;
 }
 
-// Fonts have a handful of each; a broken one may claim any number.
+// Fonts have a handful of each; a broken one may claim any number, and each subtable is searched for every
+// pair of a title.
 constexpr std::uint32_t mostLookups = 64;
-constexpr std::uint32_t mostSubtables = 256;
+constexpr std::size_t mostSubtables = 128; ///< of all lookups
 
 constexpr std::uint16_t pairAdjustment = 2;
 constexpr std::uint16_t extension = 9;
@@ -99,8 +100,8 @@ std::uint32_t PairKerning::languageOf(std::uint32_t scripts) const
 void PairKerning::addLookup(std::uint32_t lookup)
 {
     const std::size_t number = m_subtables.empty() ? 0 : m_subtables.back().lookup + 1;
-    const std::uint32_t count = std::min<std::uint32_t>(m_table(lookup + 4), mostSubtables);
-    for (std::uint32_t i = 0; i < count; ++i) {
+    const std::uint32_t count = m_table(lookup + 4);
+    for (std::uint32_t i = 0; i < count && m_subtables.size() < mostSubtables; ++i) {
         std::uint32_t subtable = lookup + m_table(lookup + 6 + 2 * i);
         std::uint16_t type = m_table(lookup);
         // A subtable too far away for 16 bits is reached through one that holds its type and 32 bits.

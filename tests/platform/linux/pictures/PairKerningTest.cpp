@@ -51,6 +51,37 @@ const Words classes = Words{2, 28, 4, 0, 38, 48, 2, 3, 0, 0, 0, 0, 11, -22} + //
                       Words{1, 5, 2, 1, 1} +                                  // left classes
                       Words{2, 1, 7, 8, 2};                                   // right classes
 
+/// Glyph 1 as the last of as many as there can be.
+Words longCoverage()
+{
+    Words coverage{1, 32000};
+    for (int glyph = 0; glyph < 32000; ++glyph)
+        coverage.push_back(glyph == 31999 ? 1 : 0);
+    return coverage;
+}
+
+TEST(PairKerning, ATableOfAllThatItCanHoldIsNotSearchedWithoutEnd)
+{
+    // 64 times the same lookup, which has 256 times the same subtable.
+    Words table = Words{1, 0, 10, 30, 172} + Words{1, tag("la"), tag("tn"), 8, 4, 0, 0, 0xffff, 1, 0} +
+                  Words{1, tag("ke"), tag("rn"), 8, 0, 64};
+    table.insert(table.end(), 65, 0);
+    table = table + Words{1, 4} + Words{2, 0, 256};
+    table.insert(table.end(), 256, 518);
+    table = table + Words{1, 14, 5, 0, 1, 12, 14} + longCoverage();
+    long reads = 0;
+    const TableReader read = reader(table);
+    const PairKerning kerning([&](std::uint32_t offset) {
+        ++reads;
+        return read(offset);
+    });
+    EXPECT_LT(reads, 2000);
+    reads = 0;
+    EXPECT_EQ(kerning.between(1, 2), 0);
+    EXPECT_GT(reads, 1000); // it was searched
+    EXPECT_LT(reads, 5000);
+}
+
 TEST(PairKerning, PairsByThemselves)
 {
     const PairKerning kerning(reader(beginning("latn", "kern", 2) + pairs));
