@@ -25,9 +25,13 @@ QString shortestText(double number)
 {
     if (!std::isfinite(number))
         return notFiniteText(number);
+    // Without an exponent as long as people would: 100000.0 and not "1e+05", which is shorter.
+    const double size = std::abs(number);
+    const bool isPlain = number == 0 || (size >= 1e-4 && size < 1e16);
     Buffer buffer{};
-    // to_chars looks at no locale, and gives the shortest text that reads back the same.
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
+    // to_chars looks at no locale, and gives the fewest digits that read back the same.
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                      isPlain ? std::chars_format::fixed : std::chars_format::scientific);
     const auto text = QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
     const bool looksReal = text.contains(u'.') || text.contains(u'e');
     return looksReal ? text : text + QStringLiteral(".0");

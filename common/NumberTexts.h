@@ -6,7 +6,8 @@
 namespace quindle {
 
 /// The shortest decimal text that reads back to the same double; a whole value keeps ".0", so does a negative
-/// zero ("-0.0"). "nan" (without a sign, whatever the bits say), "inf" and "-inf" when not finite.
+/// zero ("-0.0"). With an exponent below 0.0001 and from 1e16 on only. "nan" (without a sign, whatever the
+/// bits say), "inf" and "-inf" when not finite.
 QString shortestText(double number);
 
 /// As the C formats "%.0f" and "%.1f" write it (exact ties go to the even digit, unlike Qt's own formats);

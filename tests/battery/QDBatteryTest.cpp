@@ -83,6 +83,28 @@ TEST_F(QDBatteryTest, OpensOnceAndClosesAndOpensAgain)
     EXPECT_EQ(battery.open(), kIOReturnSuccess);
 }
 
+constexpr std::pair<const char*, qint64 (QDBattery::*)() const> integerGetters[] = {
+    {"ManufactureDate", &QDBattery::manufactureDate},
+    {"CurrentCapacity", &QDBattery::currentCapacity},
+    {"MaxCapacity", &QDBattery::maxCapactiy},
+    {"DesignCapacity", &QDBattery::designCapacity},
+    {"CycleCount", &QDBattery::cycleCount},
+    {"Voltage", &QDBattery::voltage},
+    {"Amperage", &QDBattery::amperage},
+    {"InstantAmperage", &QDBattery::instantAmperage},
+    {"DesignCycleCount9C", &QDBattery::designCycleCount},
+    {"TimeRemaining", &QDBattery::timeRemaining},
+    {"AvgTimeToEmpty", &QDBattery::avgTimeToEmpty},
+    {"AvgTimeToFull", &QDBattery::avgTimeToFull},
+    {"InstantTimeToEmpty", &QDBattery::instantTimeToEmpty},
+    {"PermanentFailureStatus", &QDBattery::permanentFailure},
+};
+constexpr std::pair<const char*, bool (QDBattery::*)() const> booleanGetters[] = {
+    {"ExternalConnected", &QDBattery::isACPowered},
+    {"IsCharging", &QDBattery::isCharging},
+    {"FullyCharged", &QDBattery::isCharged},
+};
+
 TEST_F(QDBatteryTest, NothingIsReadWithoutABattery)
 {
     EXPECT_EQ(battery.open(), kIOReturnNotFound);
@@ -91,9 +113,10 @@ TEST_F(QDBatteryTest, NothingIsReadWithoutABattery)
     EXPECT_EQ(battery.deviceName(), std::nullopt);
     EXPECT_EQ(battery.manufacturer_unsafe(), std::nullopt);
     EXPECT_EQ(battery.manufacturer(false), std::nullopt);
-    EXPECT_EQ(battery.maxCapactiy(), 0);
-    EXPECT_EQ(battery.permanentFailure(), 0);
-    EXPECT_FALSE(battery.isACPowered());
+    for (const auto& [key, getter] : integerGetters)
+        EXPECT_EQ((battery.*getter)(), 0) << key;
+    for (const auto& [key, getter] : booleanGetters)
+        EXPECT_FALSE((battery.*getter)()) << key;
     EXPECT_TRUE(battery.getRawData().isEmpty());
     EXPECT_TRUE(std::isnan(battery.charge()));
     EXPECT_EQ(battery.avgTimeToEmptyFormatted(), text("0:00"));
@@ -102,34 +125,13 @@ TEST_F(QDBatteryTest, NothingIsReadWithoutABattery)
 
 TEST_F(QDBatteryTest, EachGetterHasItsKey)
 {
-    constexpr std::pair<const char*, qint64 (QDBattery::*)() const> integers[] = {
-        {"ManufactureDate", &QDBattery::manufactureDate},
-        {"CurrentCapacity", &QDBattery::currentCapacity},
-        {"MaxCapacity", &QDBattery::maxCapactiy},
-        {"DesignCapacity", &QDBattery::designCapacity},
-        {"CycleCount", &QDBattery::cycleCount},
-        {"Voltage", &QDBattery::voltage},
-        {"Amperage", &QDBattery::amperage},
-        {"InstantAmperage", &QDBattery::instantAmperage},
-        {"DesignCycleCount9C", &QDBattery::designCycleCount},
-        {"TimeRemaining", &QDBattery::timeRemaining},
-        {"AvgTimeToEmpty", &QDBattery::avgTimeToEmpty},
-        {"AvgTimeToFull", &QDBattery::avgTimeToFull},
-        {"InstantTimeToEmpty", &QDBattery::instantTimeToEmpty},
-        {"PermanentFailureStatus", &QDBattery::permanentFailure},
-    };
-    constexpr std::pair<const char*, bool (QDBattery::*)() const> booleans[] = {
-        {"ExternalConnected", &QDBattery::isACPowered},
-        {"IsCharging", &QDBattery::isCharging},
-        {"FullyCharged", &QDBattery::isCharged},
-    };
     computer.battery();
     battery.open();
-    for (const auto& [key, getter] : integers) {
+    for (const auto& [key, getter] : integerGetters) {
         computer.battery() = {{text(key), 125}};
         EXPECT_EQ((battery.*getter)(), 125) << key;
     }
-    for (const auto& [key, getter] : booleans) {
+    for (const auto& [key, getter] : booleanGetters) {
         computer.battery() = {{text(key), true}};
         EXPECT_TRUE((battery.*getter)()) << key;
     }
@@ -229,6 +231,10 @@ TEST_F(QDBatteryTest, TogglesItsUnitsAndStoresThem)
     battery.toggleTemperatureMode();
     EXPECT_EQ(battery.Temperature(), text("85.9 °F"));
     EXPECT_EQ(settings.values.value(text("QDBatteryTemperatureMode")), QVariant(1));
+    QDBattery afterARestart(computer.platform, QString());
+    afterARestart.open();
+    afterARestart.updateData();
+    EXPECT_EQ(afterARestart.Temperature(), text("85.9 °F"));
     settings.values.insert(text("QDBatteryTemperatureMode"), 2);
     battery.loadSettings();
     battery.toggleTemperatureMode();
@@ -250,6 +256,8 @@ TEST_F(QDBatteryTest, IsNamedBySerialNumberAndPackedDate)
     refresh();
     EXPECT_EQ(battery.Manufacturer(), text("Simplo"));
     EXPECT_EQ(battery.ManufacturerRaw(), text("SMP"));
+    EXPECT_EQ(battery.manufacturer(false), text("Simplo"));
+    EXPECT_EQ(battery.manufacturer(true), text("SMP"));
     EXPECT_EQ(battery.BatteryID(), text("cfcd208495d565ef66e7dff9f98764da")); // of "0"
     set("BatterySerialNumber", text("9G3310DDWAQ"));
     set("ManufactureDate", 17506);

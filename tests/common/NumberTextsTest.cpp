@@ -16,6 +16,16 @@ TEST(ShortestText, KeepsPointAndSign)
     EXPECT_EQ(shortestText(-0.0), QStringLiteral("-0.0"));
     EXPECT_EQ(shortestText(2.5), QStringLiteral("2.5"));
     EXPECT_EQ(shortestText(85.9), QStringLiteral("85.9"));
+}
+
+TEST(ShortestText, HasAnExponentOnlyWhereItIsHardToReadWithout)
+{
+    EXPECT_EQ(shortestText(100000.0), QStringLiteral("100000.0"));
+    EXPECT_EQ(shortestText(-3000000.0), QStringLiteral("-3000000.0"));
+    EXPECT_EQ(shortestText(0.0001), QStringLiteral("0.0001"));
+    EXPECT_EQ(shortestText(0.00001), QStringLiteral("1e-05"));
+    EXPECT_EQ(shortestText(9999999999999998.0), QStringLiteral("9999999999999998.0"));
+    EXPECT_EQ(shortestText(1e16), QStringLiteral("1e+16"));
     EXPECT_EQ(shortestText(1e300), QStringLiteral("1e+300"));
 }
 

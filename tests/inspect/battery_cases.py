@@ -126,8 +126,11 @@ TEMPERATURES = [
                  suite={"temperatureSettingIndex": 1, "customStatusBar": "%t"}),
          [(0, "battery/Temperature", "303.1 K"), (0, "statusItem/title", "85.9")]),
     Case("toggled from Celsius",
-         machine(battery=pack(), steps=[{"Actions": ["battery.toggleTemperatureMode"] * 3}]),
-         [(1, "battery/Temperature", "85.9 °F"), (1, "defaults/standard/QDBatteryTemperatureMode", 1)]),
+         machine(battery=pack(), steps=[{"Actions": ["battery.toggleTemperatureMode"]}] * 3),
+         [item for step, unit, mode in ((1, "85.9 °F", 1), (2, "30.0 °C", 0), (3, "85.9 °F", 1))
+          for item in ((step, "battery/Temperature", unit),
+                       (step, "defaults/standard/QDBatteryTemperatureMode", mode))]),
+    Case("hotter than any battery", kelvin(1002731.5, 0), launch(("Temperature", "100000.0 °C"))),
     Case("toggled from Kelvin it stays and is stored",
          machine(battery=pack(), standard={"QDBatteryTemperatureMode": 2},
                  steps=[{"Remove": ["Defaults/standard/QDBatteryTemperatureMode"]},
