@@ -1,6 +1,9 @@
 #include "app/MachineSteps.h"
 
+#include <algorithm>
 #include <chrono>
+#include <cmath>
+#include <functional>
 
 #include <QTimer>
 
@@ -65,17 +68,29 @@ void play(MachineAction action, RecordedPlatform& recorded, const Platform& plat
     }
 }
 
+/// A timer counts milliseconds in 32 bits; a file may say any number of seconds.
+void after(double seconds, QObject& context, const std::function<void()>& action)
+{
+    constexpr double longestWait = 86400;
+    const double wait = std::min(seconds, longestWait);
+    const auto next = [rest = seconds - wait, &context, action] {
+        if (rest > 0)
+            after(rest, context, action);
+        else
+            action();
+    };
+    QTimer::singleShot(std::chrono::milliseconds(std::llround(wait * 1000)), &context, next);
+}
+
 void playFrom(std::size_t index, const std::vector<MachineStep>& steps, RecordedPlatform& recorded,
               const Platform& platform, HelperAppDelegate& delegate,
               const std::function<void(std::size_t)>& entered)
 {
     if (index >= steps.size())
         return;
-    // Counted from the step before and not from the start, as the file says it.
-    const auto wait = std::chrono::duration_cast<std::chrono::milliseconds>(
-        std::chrono::duration<double>(steps[index].after));
-    // The delegate is the context: with it the play ends, and no timer refers to what has gone.
-    QTimer::singleShot(wait, &delegate, [index, &steps, &recorded, &platform, &delegate, entered] {
+    // Counted from the step before and not from the start, as the file says it. The delegate is the context:
+    // with it the play ends, and no timer refers to what has gone.
+    after(steps[index].after, delegate, [index, &steps, &recorded, &platform, &delegate, entered] {
         if (entered)
             entered(index + 1);
         playStep(steps[index], recorded, platform, delegate);
@@ -91,7 +106,8 @@ void playStep(const MachineStep& step, RecordedPlatform& recorded, const Platfor
     recorded.computer.enter(step);
     for (const MachineAction action : step.actions)
         play(action, recorded, platform, delegate);
-    if (QDBattery* battery = delegate.myMac().Battery())
+    QDBattery* battery = delegate.myMac().Battery();
+    if (battery && battery->updateTimer()) // the demonstration battery has none, and reads no registry
         battery->updateData();
     delegate.updateStatusBarTitle();
 }

@@ -206,6 +206,22 @@ class CommandLine(unittest.TestCase):
         self.assertEqual(state["mac"]["Name"], "Demo Computer")
         self.assertEqual(state["statusItem"]["title"], "61.0%")
 
+    def test_a_step_leaves_the_demonstration_battery_alone(self):
+        machine = self.path("steps.plist")
+        with open(machine, "wb") as file:
+            plistlib.dump({**MACHINE, "Steps": [{}]}, file)
+        first, second = map(json.loads, self.run_program("--demo", "--json", "--machine", machine).stdout.splitlines())
+        self.assertEqual(second["battery"], first["battery"])
+        self.assertEqual(second["statusItem"]["title"], "61.0%")
+
+    def test_a_line_is_printed_before_the_next_step_ends_the_program(self):
+        machine = self.path("aborts.plist")
+        with open(machine, "wb") as file:
+            plistlib.dump({**MACHINE, "Steps": [{"Registry": {"AppleSmartBattery": {"CycleCount": "many"}}}]}, file)
+        result = self.run_program("--json", "--machine", machine)
+        self.assertLess(result.returncode, 0)
+        self.assertEqual(json.loads(result.stdout.splitlines()[0])["statusItem"]["title"], "50.0%")
+
     def test_demonstration_computer_captured(self):
         target = self.path("demo.plist")
         machine = ["--machine", self.machine]

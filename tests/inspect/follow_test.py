@@ -84,6 +84,14 @@ class Follow(unittest.TestCase):
         self.assertEqual(self.lines(process, 3), ["64.0%", "30.0%", "31.0%"])
         self.assert_silent(process, 0.5)
 
+    def test_a_step_of_months_later_waits(self):
+        for seconds in (3_000_000, 4_294_968, 1e30):  # around what a timer counts in milliseconds
+            process = self.follow({**MACHINE, "Steps": [{**MACHINE["Steps"][0], "After": seconds}]})
+            self.assertEqual(self.lines(process, 1), ["64.0%"])
+            self.assert_silent(process, 0.5)
+            process.kill()
+            self.assertEqual(process.stderr.read(), b"")
+
     def test_json(self):
         process = self.follow(MACHINE, "--format", "json")
         states = [json.loads(line) for line in self.lines(process, 4)]
