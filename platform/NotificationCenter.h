@@ -15,12 +15,12 @@ public:
     using Observer = std::function<void()>;
 
     /// How often one observer is called for one post at most, however often it was added.
-    static constexpr int mostRegistrations = 16;
+    static constexpr int mostRegistrations = 32;
 
     /// Adds an observer for `name`. inherited: duplicates are kept.
     /// It cannot be removed, so what it refers to must outlive this object; adding it again makes it be
     /// called once more for each post.
-    /// From the 17th time on it is not added, and one line is logged: the helper registers again at every
+    /// From the 33rd time on it is not added, and one line is logged: the helper registers again at every
     /// refresh once a day has passed without an upload.
     /// Callables of one type count as one observer.
     void addObserver(const QString& name, Observer observer);

@@ -47,7 +47,7 @@ TEST_F(ObserversWithoutEndTest, AThousandRefreshesPastTheDayAreBounded)
     platform.clock.advance(86401);
     for (int refresh = 0; refresh < 1000; ++refresh)
         delegate->updateStatusBarTitle();
-    EXPECT_EQ(refreshesForOneChange(), 16 * 16);
+    EXPECT_EQ(refreshesForOneChange(), 32 * 32);
 }
 
 TEST(NotificationCenterTest, AnObserverTooManyIsLoggedOnceAndOthersAreAdded)
@@ -65,11 +65,11 @@ TEST(NotificationCenterTest, AnObserverTooManyIsLoggedOnceAndOthersAreAdded)
     center.addObserver(QStringLiteral("b"), observer);
     center.post(QStringLiteral("a"));
     qInstallMessageHandler(former);
-    EXPECT_EQ(one, 16);
+    EXPECT_EQ(one, 32);
     EXPECT_EQ(other, 1);
     EXPECT_EQ(lines, 1);
     center.post(QStringLiteral("b"));
-    EXPECT_EQ(one, 17);
+    EXPECT_EQ(one, 33);
 }
 
 } // namespace
