@@ -86,9 +86,10 @@ HelperAppDelegate::~HelperAppDelegate()
         m_statusBarUpdateTimer->invalidate();
 }
 
-void HelperAppDelegate::applicationDidFinishLaunching()
+void HelperAppDelegate::applicationDidFinishLaunching(Program program)
 {
-    transferSharedDefaults();
+    if (program == Program::Helper)
+        transferSharedDefaults();
     setVersionItem();
     registerWakeSleepNotification();
     loadSettings();

@@ -42,8 +42,12 @@ public:
                       const MacFactory& makeMac, const ControllerFactory& makeControllers);
     ~HelperAppDelegate() override;
 
+    /// Whose launch it is: programs that show the helper's models beside it leave its own copies of shared
+    /// settings alone.
+    enum class Program { Helper, Companion };
+
     /// The launch sequence. A bundle without version information, and a missing outlet, are fatal.
-    void applicationDidFinishLaunching();
+    void applicationDidFinishLaunching(Program program = Program::Helper);
 
     /// Does nothing: nothing is saved at the end.
     static void applicationWillTerminate();

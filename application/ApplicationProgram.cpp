@@ -63,7 +63,7 @@ ApplicationProgram::ApplicationProgram(const Platform& platform, ApplicationPref
     , m_snapshots(pathIn(platform, &savedHistoryFile))
     , m_samples(pathIn(platform, &historyFile))
 {
-    m_delegate.applicationDidFinishLaunching();
+    m_delegate.applicationDidFinishLaunching(HelperAppDelegate::Program::Companion);
     connect(&m_delegate, &HelperAppDelegate::statusItemRefreshed, this, &ApplicationProgram::followBattery);
     connect(&m_delegate, &HelperAppDelegate::statusItemRefreshed, this, &ApplicationProgram::refreshed);
     connect(&m_delegate.myMac(), &QDMac::changed, this, &ApplicationProgram::refreshed);

@@ -31,7 +31,7 @@ WindowsProgram::WindowsProgram(WindowsServices& services, HelperEnd& helper)
     // The helper repeats the click on its own models, so that both processes show the same.
     m_interface.setClickObserver(
         [this](FactClick click) { m_helper.tell(Kind::Clicked, static_cast<quint32>(click)); });
-    m_delegate.applicationDidFinishLaunching();
+    m_delegate.applicationDidFinishLaunching(HelperAppDelegate::Program::Companion);
 }
 
 void WindowsProgram::handle(const WindowMessage& message)

@@ -53,10 +53,11 @@ struct IncompleteInterface : MainInterface
     MainOutlets outlets() override { return connected; }
 };
 
-void launchWith(const std::function<void(MainOutlets&)>& disconnect)
+void launchWith(const std::function<void(MainOutlets&)>& disconnect, bool hasBattery = true)
 {
     FakePlatform platform;
-    platform.battery()[QStringLiteral("MaxCapacity")] = qint64{100};
+    if (hasBattery)
+        platform.battery()[QStringLiteral("MaxCapacity")] = qint64{100};
     IncompleteInterface interface;
     disconnect(interface.connected);
     ApplicationPreferences preferences(platform.platform);
@@ -68,6 +69,8 @@ TEST(MissingOutlet, IsFatalAtLaunch)
 {
     launchWith([](MainOutlets&) {});
     EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.menuView = nullptr; }), "outlet");
+    const auto withoutNoBatteryView = [](MainOutlets& outlets) { outlets.noBatteryView = nullptr; };
+    EXPECT_DEATH(launchWith(withoutNoBatteryView, false), "outlet");
     EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.macObjectController = nullptr; }), "outlet");
     EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.stateOfChargeProgress = nullptr; }), "outlet");
     EXPECT_DEATH(launchWith([](MainOutlets& outlets) { outlets.stateOfHealthProgress = nullptr; }), "outlet");
@@ -399,6 +402,26 @@ TEST_F(HelperAppDelegateTest, ShowsWhatTheDailyUploadWouldSend)
     const auto upload = delegate->currentDailyUpload();
     ASSERT_TRUE(upload);
     EXPECT_EQ(shown.toJson(QJsonDocument::Compact).toBase64(), upload->body);
+    EXPECT_TRUE(platform.urlSession.posted.isEmpty());
+}
+
+TEST_F(HelperAppDelegateTest, NothingIsSentWithoutABattery)
+{
+    platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
+    launch();
+    delegate->uploadDailyMacDataToQNDOnline();
+    delegate->uploadDailyMacDataToQNDOnline_old();
+    EXPECT_TRUE(platform.urlSession.posted.isEmpty());
+}
+
+TEST_F(HelperAppDelegateTest, NothingIsSentWithoutWhatIdentifiesTheComputer)
+{
+    setBattery(50);
+    setRegistry("BatterySerialNumber", QStringLiteral("D86ABCDE"));
+    platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
+    launch();
+    delegate->uploadDailyMacDataToQNDOnline();
+    delegate->uploadDailyMacDataToQNDOnline_old();
     EXPECT_TRUE(platform.urlSession.posted.isEmpty());
 }
 

@@ -55,6 +55,17 @@ TEST_F(StatusItemRefreshTest, TheTitleIsSetThreeTimes)
               QStringList({QStringLiteral("100 %"), QStringLiteral("87.0%"), QStringLiteral("87.0%")}));
 }
 
+TEST_F(StatusItemRefreshTest, AnEmptyTemplateLeavesTheIconAlone)
+{
+    setBattery(87);
+    setShared("customStatusBar", QString());
+    setShared("showIconsInMenuBar", 1);
+    launch();
+    EXPECT_EQ(title(), QString());
+    EXPECT_EQ(record().titlesSet.constLast(), QString());
+    EXPECT_NE(delegate->statusItem().image(), nullptr);
+}
+
 TEST_F(StatusItemRefreshTest, OnlyOneShowsTheIcon)
 {
     setBattery(87);

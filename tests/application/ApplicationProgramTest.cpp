@@ -103,6 +103,13 @@ TEST_F(ApplicationProgramTest, TheBatteryIsShownAndFollowed)
     EXPECT_TRUE(seen().contains(latin("64.0"))) << "without waiting for a timer";
 }
 
+TEST_F(ApplicationProgramTest, LeavesTheHelpersCopiesOfSettingsAlone)
+{
+    computer.userDefaults.suiteDefaults.values = {{latin("runInBackground"), true}};
+    program();
+    EXPECT_FALSE(computer.userDefaults.standardDefaults.values.contains(latin("runInBackground")));
+}
+
 TEST_F(ApplicationProgramTest, TimersAreOnTimeWhileTheWindowIsSeen)
 {
     program();

@@ -68,6 +68,7 @@ struct WindowsProgramTest : testing::Test
                               {QStringLiteral("Temperature"), qint64{3031}},
                               {QStringLiteral("IsCharging"), false},
                               {QStringLiteral("ExternalConnected"), false}};
+        computer.userDefaults.suiteDefaults.values = {{QStringLiteral("runInBackground"), true}};
         program = std::make_unique<WindowsProgram>(services, helper);
     }
 
@@ -117,6 +118,11 @@ TEST_F(WindowsProgramTest, ShowsWhatItIsAskedFor)
     const QStringList both = shownWindow().split(u' '); // the toolkit gives them in no order
     EXPECT_EQ(both.size(), 2);
     EXPECT_TRUE(both.contains(QStringLiteral("preferencesWindow"))) << "beside it";
+}
+
+TEST_F(WindowsProgramTest, LeavesTheHelpersCopiesOfSettingsAlone)
+{
+    EXPECT_TRUE(computer.userDefaults.standardDefaults.values.isEmpty());
 }
 
 TEST_F(WindowsProgramTest, SaysWhatItHasDone)
