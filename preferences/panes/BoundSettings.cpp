@@ -157,7 +157,16 @@ void BoundSettings::reload()
     // Once: an observer cannot be removed, and twice would reload twice.
     if (!std::exchange(m_isObserving, true))
         observeAnnouncements();
-    m_startsAtLogin = StartupLaunch_pref::isAppLoginItem(m_loginItems, m_bundle.path());
+    m_startsAtLogin = m_isLoginItem = StartupLaunch_pref::isAppLoginItem(m_loginItems, m_bundle.path());
+    Q_EMIT changed();
+}
+
+void BoundSettings::followAnnouncement()
+{
+    // Only what somebody else changed: a switch that the session did not accept stays as the user left it.
+    if (const bool is = StartupLaunch_pref::isAppLoginItem(m_loginItems, m_bundle.path());
+        std::exchange(m_isLoginItem, is) != is)
+        m_startsAtLogin = is;
     Q_EMIT changed();
 }
 
@@ -166,7 +175,7 @@ void BoundSettings::observeAnnouncements()
     // An observer stays for as long as the process, which may be longer than the settings do.
     m_distributedCenter.addObserver(QStringLiteral("SettingsChangedNotification"), [self = QPointer(this)] {
         if (self)
-            self->reload();
+            self->followAnnouncement();
     });
 }
 

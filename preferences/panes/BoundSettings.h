@@ -78,7 +78,8 @@ public:
     void setStatusItemPresentation(qint64 value);
 
     /// Reads the login items again and has every bound control read its setting again; for each time a window
-    /// is shown. After the first call it also happens whenever a change of the settings is announced.
+    /// is shown. After the first call the controls also do so whenever a change of the settings is announced,
+    /// and the login items count where they have changed since.
     void reload();
 
 Q_SIGNALS:
@@ -87,6 +88,7 @@ Q_SIGNALS:
 
 private:
     void observeAnnouncements();
+    void followAnnouncement();
 
     ApplicationPreferences& m_preferences;
     UserDefaults& m_standardDefaults;
@@ -94,6 +96,7 @@ private:
     const Bundle& m_bundle;
     DistributedNotificationCenter& m_distributedCenter;
     bool m_startsAtLogin = false;
+    bool m_isLoginItem = false; ///< when the list was last read
     bool m_isObserving = false;
 };
 

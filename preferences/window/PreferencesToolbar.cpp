@@ -84,11 +84,20 @@ void PreferencesToolbar::addPane(const ToolbarItem& item)
     // Its text comes later: which letter is marked depends on all titles.
     QAction* action = addAction(QString());
     action->setCheckable(true);
-    action->setToolTip(item.toolTip.value_or(QString()));
     m_panes->addAction(action);
+    if (item.toolTip)
+        action->setToolTip(*item.toolTip);
+    else
+        widgetForAction(action)->installEventFilter(this);
     // The buttons of a tool bar take no focus, and the panes must be reachable by Tab.
     widgetForAction(action)->setFocusPolicy(Qt::StrongFocus);
     connect(action, &QAction::triggered, this, [this, action] { Q_EMIT itemClicked(action->objectName()); });
+}
+
+/// An action without a tool tip would show its title as one.
+bool PreferencesToolbar::eventFilter(QObject* watched, QEvent* event)
+{
+    return event->type() == QEvent::ToolTip || QToolBar::eventFilter(watched, event);
 }
 
 void PreferencesToolbar::addFlexibleSpace()

@@ -46,6 +46,7 @@ Q_SIGNALS:
     void segmentClicked();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

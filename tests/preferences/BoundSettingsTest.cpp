@@ -108,6 +108,19 @@ TEST_F(BoundSettingsTest, LooksAgainAtAnnouncedChangesOnceItWasShown)
     EXPECT_FALSE(settings.startsAtLogin());
 }
 
+TEST_F(BoundSettingsTest, KeepsTheLoginSwitchWhenAnotherSettingIsAnnounced)
+{
+    settings.reload();
+    settings.setStartsAtLogin(true); // which these login items do not accept
+    computer.distributedNotificationCenter.post(QStringLiteral("SettingsChangedNotification"));
+    EXPECT_TRUE(settings.startsAtLogin());
+    loginItems.urls.append(helperUrl());
+    computer.distributedNotificationCenter.post(QStringLiteral("SettingsChangedNotification"));
+    settings.setStartsAtLogin(false);
+    computer.distributedNotificationCenter.post(QStringLiteral("SettingsChangedNotification"));
+    EXPECT_FALSE(settings.startsAtLogin());
+}
+
 TEST(BoundSettingsWithoutSuiteTest, ReadsDefaultsAndStoresNothing)
 {
     test::SettingsFixture on(false);

@@ -3,8 +3,10 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPixmap>
 #include <QToolButton>
+#include <QToolTip>
 #include <gtest/gtest.h>
 
 #include "tests/preferences/TestPane.h"
@@ -66,6 +68,20 @@ TEST_F(PreferencesToolbarTest, HasAnItemForEachPane)
     EXPECT_TRUE(bar->autosavesConfiguration());
     EXPECT_NE(bar->contextMenuPolicy(), Qt::PreventContextMenu);
     EXPECT_EQ(bar->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+}
+
+TEST_F(PreferencesToolbarTest, APaneWithoutAToolTipShowsNone)
+{
+    update.toolTip = QStringLiteral("Once a day");
+    const auto bar = toolbar();
+    const auto shown = [&bar](int item) {
+        QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), QPoint(1, 1));
+        QApplication::sendEvent(bar->widgetForAction(bar->actions().at(item)), &event);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(shown(0), QString());
+    EXPECT_EQ(shown(1), QStringLiteral("Once a day"));
+    QToolTip::hideText();
 }
 
 TEST_F(PreferencesToolbarTest, OrHasTheSegmentedControl)
