@@ -1,5 +1,7 @@
 #include "inspect/NeutralPath.h"
 
+#include <QDir>
+
 namespace quindle {
 
 namespace {
@@ -21,12 +23,14 @@ QString withoutName(const QString& path, qsizetype begin)
 
 QString neutralPath(const QString& path, const QString& home)
 {
-    // The home folder first: it may be anywhere. "/", as some system accounts have it, names nobody.
-    if (home.size() > 1 && (path == home || path.startsWith(home + u'/')))
-        return QStringLiteral("/home/user") + path.mid(home.size());
-    for (const QStringView folder : foldersOfUsers)
-        if (path.startsWith(folder))
-            return withoutName(path, folder.size());
+    // The home folder first: it may be anywhere, and HOME may end with a slash. "/", as some system accounts
+    // have it, names nobody.
+    const QString folder = QDir::cleanPath(home);
+    if (folder.size() > 1 && (path == folder || path.startsWith(folder + u'/')))
+        return QStringLiteral("/home/user") + path.mid(folder.size());
+    for (const QStringView users : foldersOfUsers)
+        if (path.startsWith(users))
+            return withoutName(path, users.size());
     return path;
 }
 

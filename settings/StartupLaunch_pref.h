@@ -18,6 +18,7 @@ public:
     static bool isAppLoginItem(LoginItems& items, const QString& bundlePath);
 
     /// Puts an item for the helper at the front of the list unless there is one, or takes it out.
+    /// inherited: a named entry point that nothing calls.
     static void setLaunchOnLogin(LoginItems& items, const QString& bundlePath, bool enable);
 };
 

@@ -18,6 +18,9 @@ TEST(NeutralPath, HoldsNoUsersName)
     } rows[] = {
         {"/srv/jane/q.app", "/srv/jane", "/home/user/q.app"},
         {"/srv/jane", "/srv/jane", "/home/user"},
+        {"/srv/jane/q.app", "/srv/jane/", "/home/user/q.app"},
+        {"/srv/jane/q.app", "/srv//jane", "/home/user/q.app"},
+        {"/home/local/ACME/jane/q.app", "/home/local/ACME/jane", "/home/user/q.app"},
         {"/srv/janet/q.app", "/srv/jane", "/srv/janet/q.app"},
         {"/home/jane/q.app", "/home/jane", "/home/user/q.app"},
         {"/home/jane/q.app", "/root", "/home/user/q.app"},
