@@ -71,6 +71,13 @@ class CommandLine(unittest.TestCase):
         return {"QUINDLE_SYSFS": f"{self.folder}/sys", "XDG_DATA_HOME": f"{self.folder}/data",
                 "XDG_CONFIG_HOME": f"{self.folder}/config"}
 
+    def test_a_data_folder_whose_name_is_not_utf_8(self):
+        folder = os.path.join(os.fsencode(self.folder), b"data-\xff")
+        lines = "1767225600 66.5 -10.25 discharging\n"
+        self.assertEqual(self.answer("--record", given=lines, **{**self.computer(), "XDG_DATA_HOME": folder}),
+                         (os.EX_OK, "", ""))
+        self.assertIn(b"history.sqlite", os.listdir(os.path.join(folder, b"quindle")))
+
     def test_recorded_and_exported_without_a_display(self):
         computer = self.computer()
         self.assertEqual(self.answer("--export", "csv", **computer)[0], os.EX_NOINPUT)

@@ -29,13 +29,13 @@ BATTERY = {"type": "Battery", "present": "1", "status": "Discharging", "charge_n
 class Hardware:
     """Supplies in a folder that programs started with `env` take for /sys."""
 
-    def __init__(self):
+    def __init__(self, has_battery=True):
         self.testbed = UMockdev.Testbed.new()
         self.root = self.testbed.get_root_dir()
         os.unsetenv("UMOCKDEV_DIR")
         self.env = {"LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": self.root}
         self.adapter = self.add("AC", {"type": "Mains", "online": "0"})
-        self.battery = self.add("BAT0", BATTERY)
+        self.battery = self.add("BAT0", BATTERY) if has_battery else None
 
     def add(self, name, attributes):
         pairs = [text for pair in attributes.items() for text in pair]
@@ -199,6 +199,29 @@ class PowerEvents(HelperCase):
         self.assertGreaterEqual(len(titles) - 1, seconds, "the storm kept it from refreshing")
         last = f"{(600 + sent) / 6000 * 100:.1f}%"  # in mAh, as the program divides: 4599 shows 76.6, not 76.7
         self.assert_shows_at_once(lambda: last in self.value("Title"), f"the last charge, {last}, ")
+
+
+class LateBattery(HelperCase):
+    """A driver that comes after the helper."""
+
+    def test_a_battery_shows_at_once(self):
+        hardware = Hardware(has_battery=False)
+        process = self.desktop.start(HELPER, env=hardware.env)
+        self.addCleanup(self.stop, process)
+        self.assertTrue(wait_for(self.desktop.registered_items, 10))
+        bus = dbus.bus.BusConnection(self.desktop.env["DBUS_SESSION_BUS_ADDRESS"])
+        self.addCleanup(bus.close)
+        item = bus.get_object(self.desktop.item_name(), ITEM)
+
+        def title():
+            return str(item.Get(ITEM_INTERFACE, "Title", dbus_interface="org.freedesktop.DBus.Properties"))
+
+        self.assertNotIn("50.0%", title())
+        battery = hardware.add("BAT0", BATTERY)
+        hardware.announce(battery, "add")
+        announced = time.monotonic()
+        self.assertTrue(wait_for(lambda: "50.0%" in title(), 12, 0.002), title())
+        self.assertLess(time.monotonic() - announced, AT_ONCE)
 
 
 if __name__ == "__main__":

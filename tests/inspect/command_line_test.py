@@ -206,6 +206,17 @@ class CommandLine(unittest.TestCase):
         self.assertEqual(state["mac"]["Name"], "Demo Computer")
         self.assertEqual(state["statusItem"]["title"], "61.0%")
 
+    def test_a_saved_history_outside_is_an_ordinary_file_or_nothing(self):
+        os.makedirs(self.path("inside"))
+        os.makedirs(self.path("outside"))
+        os.mkfifo(self.path("fifo"))
+        os.symlink(self.path("fifo"), self.path("outside/QuindleData.qndarchive"))
+        machine = self.path("inside/machine.plist")
+        with open(machine, "wb") as file:
+            plistlib.dump({**MACHINE, "ApplicationSupport": ["../outside"]}, file)
+        state = json.loads(self.run_program("--json", "--machine", machine).stdout.splitlines()[0])
+        self.assertEqual(state["savedRecords"], [])
+
     def test_a_step_leaves_the_demonstration_battery_alone(self):
         machine = self.path("steps.plist")
         with open(machine, "wb") as file:

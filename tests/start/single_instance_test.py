@@ -6,11 +6,12 @@ import signal
 import subprocess
 import time
 import unittest
+from pathlib import Path
 
 import dbus
 import dbus.bus
 
-from start_case import StartCase, wait_for
+from start_case import HELPER, StartCase, wait_for
 
 NAME = "com.fernhollow.Quindle-Helper"
 OTHER_USER = 65534
@@ -114,6 +115,26 @@ class OnABus(StartCase):
         self.start(other, DISPLAY=":77")
         self.assert_titles(other, ["50.0%"])
         self.assertEqual(self.session.titles(), ["50.0%"])
+
+    def test_answers_to_arguments_leave_the_first_alone(self):
+        first = self.first()
+        monitor = subprocess.Popen(["dbus-monitor", "--address", self.session.address], stdout=subprocess.PIPE, text=True)
+        self.addCleanup(monitor.kill)
+        self.assertTrue(monitor.stdout.readline())  # it listens
+        for argument, status in (("--help", 0), ("--version", 0), ("--bogus", 2)):
+            done = subprocess.run([HELPER, argument], env=self.environment(DBUS_SESSION_BUS_ADDRESS=self.session.address),
+                                  stdin=subprocess.DEVNULL, capture_output=True, timeout=30, check=False)
+            self.assertEqual(done.returncode, status)
+        bus = dbus.bus.BusConnection(self.session.address)  # which the monitor hears, after all that was said before
+        self.addCleanup(bus.close)
+        bus.get_object("org.freedesktop.DBus", "/").GetId(dbus_interface="org.freedesktop.DBus")
+        time.sleep(0.2)
+        monitor.terminate()
+        said = monitor.communicate()[0]
+        self.assertIn("member=GetId", said)
+        self.assertNotIn(NAME, said)
+        children = Path(f"/proc/{first.pid}/task/{first.pid}/children").read_text(encoding="ascii")
+        self.assertEqual(children, "")
 
     def test_anybody_in_the_session_may_ask_for_the_view(self):
         self.first()
