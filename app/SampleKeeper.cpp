@@ -37,9 +37,11 @@ SampleKeeper::SampleKeeper(const Platform& platform, HelperAppDelegate& delegate
 {
     lookAgain();
     connect(&delegate, &HelperAppDelegate::statusItemRefreshed, this, &SampleKeeper::takeSample);
-    platform.workspaceNotifications.addWillSleepObserver([this] { handOverBeforeSleep(); });
+    platform.workspaceNotifications.addWillSleepObserver([this] { handOverNow(); });
     platform.distributedNotificationCenter.addObserver(QStringLiteral("SettingsChangedNotification"),
                                                        [this] { lookAgain(); });
+    platform.distributedNotificationCenter.addObserver(samplesWantedNotification(),
+                                                       [this] { handOverNow(); });
 }
 
 void SampleKeeper::takeSample()
@@ -73,8 +75,11 @@ void SampleKeeper::lookAgain()
         m_samples.clear();
 }
 
-void SampleKeeper::handOverBeforeSleep()
+// Also when others ask for it: as there is at most one sample a minute, no more can be made of it.
+void SampleKeeper::handOverNow()
 {
+    if (m_samples.isEmpty())
+        return;
     lookAgain();
     if (!m_samples.isEmpty() && isRecorderFree())
         handOver();

@@ -12,15 +12,19 @@
 #include "history/SavedHistory.h"
 #include "mac/QDMac.h"
 #include "platform/Host.h"
+#include "platform/NotificationCenter.h"
 #include "platform/RunLoop.h"
 #include "platform/UserDefaults.h"
 #include "records/CapacityPoints.h"
 #include "records/SampleStore.h"
 #include "settings/ApplicationPreferences.h"
+#include "settings/HistorySettings.h"
 
 namespace quindle {
 
 namespace {
+
+constexpr qint64 timeBetweenAsking = 600; // seconds
 
 /// What people call the computer: the model's words, else its identifier.
 QString nameOf(const QDMac& mac)
@@ -107,8 +111,7 @@ std::vector<ApplicationPage> ApplicationProgram::pages()
 QWidget* ApplicationProgram::makeHistoryPage(QWidget* parent)
 {
     auto* page = new HistoryPage(parent);
-    connect(page, &HistoryPage::samplesWanted, &m_samples, &SavedSamples::read);
-    connect(&m_samples, &SavedSamples::found, page, &HistoryPage::setSamples);
+    connectSamples(*page);
     const auto showWear = [this, page] { page->setCapacities(capacityPoints(m_snapshots.records())); };
     connect(&m_snapshots, &SavedSnapshots::changed, page, showWear);
     // Nothing is recorded more often than once a minute.
@@ -119,12 +122,41 @@ QWidget* ApplicationProgram::makeHistoryPage(QWidget* parent)
         shown = now;
         m_snapshots.load();
         page->setNow(now);
+        if (std::abs(now - m_asked) >= timeBetweenAsking)
+            askForSamples();
     };
     connect(this, &ApplicationProgram::refreshed, page, follow);
     page->setNow(secondsNow(m_platform));
     showWear();
     m_snapshots.load();
     return page;
+}
+
+void ApplicationProgram::connectSamples(HistoryPage& page)
+{
+    connect(&page, &HistoryPage::samplesWanted, &m_samples, &SavedSamples::read);
+    connect(&m_samples, &SavedSamples::found, &page, &HistoryPage::setSamples);
+    connect(&m_samples, &SavedSamples::changed, &page,
+            [this, &page] { page.setNow(secondsNow(m_platform)); });
+    connect(&page, &HistoryPage::settingsWanted, this,
+            [this] { m_window->showPage(QStringLiteral("Settings")); });
+    connect(&page, &HistoryPage::shown, this, [this, &page] {
+        page.setRecording(recordsHistory(m_platform.userDefaults.standard()));
+        askForSamples();
+    });
+}
+
+// A helper that runs has up to an hour of them in memory; what it hands over is seen by the file.
+void ApplicationProgram::askForSamples()
+{
+    m_asked = secondsNow(m_platform);
+    m_platform.distributedNotificationCenter.post(samplesWantedNotification());
+}
+
+void ApplicationProgram::takeOverFirstWeek(const std::function<std::unique_ptr<PowerHistory>()>& service)
+{
+    if (recordsHistory(m_platform.userDefaults.standard()))
+        m_samples.takeOver(service, secondsNow(m_platform));
 }
 
 QWidget* ApplicationProgram::makeSnapshotsPage(QWidget* parent)

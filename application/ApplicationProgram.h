@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -18,6 +19,8 @@
 namespace quindle {
 
 class ApplicationPreferences;
+class HistoryPage;
+class PowerHistory;
 
 /// The application on its computer: models of its own, which are refreshed as the helper's are, and the
 /// window that shows them. Main thread only; needs a QApplication.
@@ -35,6 +38,10 @@ public:
     /// Shows the window, or brings it to the front.
     void present();
 
+    /// Fills the first week of the history with what another service has recorded, where recording is on and
+    /// that was not done yet. `service` is called in the background.
+    void takeOverFirstWeek(const std::function<std::unique_ptr<PowerHistory>()>& service);
+
     HelperAppDelegate& delegate() { return m_delegate; }
     ApplicationWindow& window() { return *m_window; }
 
@@ -45,6 +52,8 @@ Q_SIGNALS:
 private:
     std::vector<ApplicationPage> pages();
     QWidget* makeHistoryPage(QWidget* parent);
+    void connectSamples(HistoryPage& page);
+    void askForSamples();
     QWidget* makeSnapshotsPage(QWidget* parent);
     void deleteHistory();
     void followBattery();
@@ -62,6 +71,7 @@ private:
     SavedSamples m_samples;
     std::unique_ptr<ApplicationWindow> m_window;
     Punctuality m_watched;
+    qint64 m_asked = 0; ///< when the helper was last asked for its samples
 };
 
 } // namespace quindle

@@ -16,6 +16,7 @@
 #include "preferences/window/FrameAutosave.h"
 #include "settings/SettingsTable.h"
 #include "widgets/CloseKey.h"
+#include "widgets/ControlColours.h"
 #include "widgets/PaletteMix.h"
 
 namespace quindle {
@@ -112,6 +113,7 @@ void ApplicationWindow::showChosen(int index)
     if (!m_made[place]) {
         m_made[place] = m_pages[place].make(m_stack);
         m_stack->addWidget(m_made[place]);
+        makeBoxesVisible(*m_made[place], palette());
     }
     m_stack->setCurrentWidget(m_made[place]);
     // What is shown first is what was stored.
@@ -174,7 +176,11 @@ void ApplicationWindow::applyColours()
     QPalette line = palette();
     line.setColor(QPalette::Window, mixed(palette().color(QPalette::WindowText), side, lineShare));
     m_line->setPalette(line);
+    QPalette content;
+    content.setColor(QPalette::PlaceholderText, hintColour(palette()));
+    m_stack->setPalette(content);
     m_stack->setBackgroundRole(contentRole(palette()));
+    makeBoxesVisible(*m_stack, palette());
 }
 
 } // namespace quindle

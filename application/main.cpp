@@ -88,6 +88,11 @@ std::unique_ptr<ApplicationServices> servicesOf(const std::optional<Machine>& ma
                    : ApplicationServices::ofThisComputer(pathText(qgetenv("QUINDLE_SYSFS")));
 }
 
+bool isThisComputer(const std::optional<Machine>& machine)
+{
+    return !machine && qEnvironmentVariableIsEmpty("QUINDLE_SYSFS");
+}
+
 StartAnswer answerInTime(std::optional<SingleInstance>& instance)
 {
     const StartDeadline deadline(patience,
@@ -97,7 +102,7 @@ StartAnswer answerInTime(std::optional<SingleInstance>& instance)
     return instance.emplace(applicationInstance()).start();
 }
 
-int run(ApplicationServices& services, SingleInstance& instance)
+int run(ApplicationServices& services, SingleInstance& instance, bool isThisComputer)
 {
     const Platform platform = services.platform();
     // A desktop of this kind places windows itself.
@@ -107,6 +112,10 @@ int run(ApplicationServices& services, SingleInstance& instance)
     instance.setShowRequested([&program] { program.present(); });
     services.play(program.delegate());
     program.present();
+    // The other services of this computer know nothing of one that was recorded.
+    if (isThisComputer)
+        program.takeOverFirstWeek(
+            [] { return std::make_unique<UPowerHistory>(QDBusConnection::systemBus()); });
     return QApplication::exec();
 }
 
@@ -121,7 +130,7 @@ int showWindow(const std::optional<Machine>& machine)
     if (answer.outcome != StartAnswer::Outcome::First)
         return answer.fault.isEmpty() ? EX_OK : fail(answer.fault, EX_UNAVAILABLE);
     const auto services = servicesOf(machine);
-    return run(*services, *instance);
+    return run(*services, *instance, isThisComputer(machine));
 }
 
 void report(const QString& line)
@@ -167,9 +176,9 @@ int runCommand(const ApplicationCommandLine& commandLine, const std::optional<Ma
     const QCoreApplication application(count, arguments.data());
     const auto services = servicesOf(machine);
     const Platform platform = services->platform();
-    const bool isThisComputer = !machine && qEnvironmentVariableIsEmpty("QUINDLE_SYSFS");
-    return commandLine.call == ApplicationCommandLine::Call::Record ? record(platform, isThisComputer)
-                                                                    : exportTo(platform, commandLine);
+    return commandLine.call == ApplicationCommandLine::Call::Record
+               ? record(platform, isThisComputer(machine))
+               : exportTo(platform, commandLine);
 }
 
 int start(const ApplicationCommandLine& commandLine)

@@ -18,6 +18,11 @@ void setRecordsHistory(UserDefaults& own, bool records)
     own.setObject(Keys::recordHistory.name(), records);
 }
 
+QString samplesWantedNotification()
+{
+    return QStringLiteral("SamplesWantedNotification");
+}
+
 qint64 historyDays(const UserDefaults& own)
 {
     return std::max(qint64{0}, own.integer(Keys::historyDays.name()));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 namespace quindle {
 
@@ -12,6 +12,10 @@ class UserDefaults;
 /// Whether charge, power and a daily snapshot are recorded; true unless false is stored.
 bool recordsHistory(const UserDefaults& own);
 void setRecordsHistory(UserDefaults& own, bool records);
+
+/// The notification between processes by which whoever shows the history asks for the samples that the helper
+/// has in memory.
+QString samplesWantedNotification();
 
 /// For how many days samples are kept; 0, also for less than that, means for ever.
 qint64 historyDays(const UserDefaults& own);

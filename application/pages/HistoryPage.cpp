@@ -15,6 +15,7 @@
 #include "facts/ValueTexts.h"
 #include "records/TrendSentence.h"
 #include "view/ViewMetrics.h"
+#include "widgets/LinkButton.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/QuietLabel.h"
 #include "widgets/SegmentedControl.h"
@@ -60,6 +61,8 @@ HistoryPage::HistoryPage(QWidget* parent)
     , m_sampleHeading(addLabel(false, QStringLiteral("sampleHeading")))
     , m_legend(addLabel(true, QStringLiteral("sampleLegend")))
     , m_told(addLabel(true, QStringLiteral("told")))
+    , m_notice(addLabel(true, QStringLiteral("recordingIsOff")))
+    , m_toSettings(new LinkButton(&content()))
     , m_ranges(new SegmentedControl(historyRangeTitles(), &content()))
     , m_quantities(new SegmentedControl({QStringLiteral("&Charge"), QStringLiteral("&Power")}, &content()))
     , m_wearChart(new TimeSeriesChart(QStringLiteral("Full charge, whole history"), &content()))
@@ -74,6 +77,7 @@ HistoryPage::HistoryPage(QWidget* parent)
     column->addWidget(m_wearChart, 3);
     makeSampleHead(*column);
     column->addWidget(m_sampleChart, 2);
+    makeNotice(*column);
     makeFoot(*column);
     fitToFont();
     showTrend();
@@ -147,15 +151,35 @@ void HistoryPage::makeFoot(QVBoxLayout& column)
     foot->addWidget(m_tableButton);
 }
 
+void HistoryPage::makeNotice(QVBoxLayout& column)
+{
+    m_notice->setText(QStringLiteral("Recording is off, so nothing is added."));
+    m_toSettings->setText(QStringLiteral("Settings"));
+    m_toSettings->setAccessibleName(QStringLiteral("Settings of recording"));
+    connect(m_toSettings, &LinkButton::clicked, this, &HistoryPage::settingsWanted);
+    QHBoxLayout* row = addRow(column);
+    row->addWidget(m_notice);
+    row->addWidget(m_toSettings);
+    row->addStretch(1);
+    setRecording(true);
+}
+
+void HistoryPage::setRecording(bool isOn)
+{
+    m_notice->setVisible(!isOn);
+    m_toSettings->setVisible(!isOn);
+}
+
 void HistoryPage::setCapacities(std::vector<CapacityPoint> capacities)
 {
     m_capacities = std::move(capacities);
     showTrend();
 }
 
-void HistoryPage::setSamples(std::vector<Sample> samples)
+void HistoryPage::setSamples(std::vector<Sample> samples, qint64 ownSince)
 {
     m_samples = std::move(samples);
+    m_ownSince = ownSince;
     showSamples();
 }
 
@@ -201,7 +225,7 @@ void HistoryPage::showSamples()
         m_quantity == SampleQuantity::Charge ? QStringLiteral("Charge, ") : QStringLiteral("Power, ");
     m_sampleHeading->setText(quantity + historyRangeText(m_range));
     m_sampleChart->setAccessibleName(m_sampleHeading->text());
-    m_sampleChart->setContent(sampleChart(m_samples, m_quantity, shownMoments()));
+    m_sampleChart->setContent(sampleChart(m_samples, m_quantity, shownMoments(), m_ownSince));
     m_tableButton->setEnabled(!m_samples.empty());
     m_pictureButton->setEnabled(!m_capacities.empty() || !m_samples.empty());
     showLegend();
@@ -213,6 +237,8 @@ void HistoryPage::showLegend()
     const QString unit = m_quantity == SampleQuantity::Charge ? QStringLiteral("%") : QStringLiteral("W");
     QString legend = isShaded ? QStringLiteral("charging shaded") : QString();
     legend = joined(legend, besideEachOther(), QStringLiteral("asleep left open"));
+    if (!m_samples.empty() && m_samples.front().moment < m_ownSince)
+        legend = joined(QStringLiteral("pale from UPower"), besideEachOther(), legend);
     if (isThinned(m_range))
         legend = joined(QStringLiteral("older values are means"), besideEachOther(), legend);
     m_legend->setVisible(hasPoints(m_sampleChart->content()));
@@ -224,6 +250,12 @@ void HistoryPage::changeEvent(QEvent* event)
     if (event->type() == QEvent::FontChange)
         fitToFont();
     ScrollPage::changeEvent(event);
+}
+
+void HistoryPage::showEvent(QShowEvent* event)
+{
+    ScrollPage::showEvent(event);
+    Q_EMIT shown();
 }
 
 void HistoryPage::fitToFont()
@@ -240,8 +272,9 @@ void HistoryPage::fitToFont()
     m_figureRow->setSpacing(line / 2);
     m_figure->setFont(metrics.large);
     m_sign->setFont(metrics.medium);
-    for (PlainLabel* label : {m_detail, m_wearCaption, m_legend, m_told})
+    for (PlainLabel* label : {m_detail, m_wearCaption, m_legend, m_told, m_notice})
         label->setFont(metrics.small);
+    m_toSettings->setFont(metrics.small);
     QFont bold = font();
     bold.setWeight(QFont::DemiBold);
     for (PlainLabel* label : {m_heading, m_sampleHeading})

@@ -16,6 +16,7 @@ class QVBoxLayout;
 
 namespace quindle {
 
+class LinkButton;
 class PlainLabel;
 class SegmentedControl;
 class TimeSeriesChart;
@@ -32,8 +33,12 @@ public:
     /// By moment.
     void setCapacities(std::vector<CapacityPoint> capacities);
 
-    /// Those that samplesWanted() asked for last, by moment.
-    void setSamples(std::vector<Sample> samples);
+    /// Those that samplesWanted() asked for last, by moment; before the moment `ownSince` from another
+    /// service's history.
+    void setSamples(std::vector<Sample> samples, qint64 ownSince = 0);
+
+    /// Whether anything is added to the history; where not, the page says so.
+    void setRecording(bool isOn);
 
     /// Seconds since 1970. Asks for the samples of the shown range anew.
     void setNow(qint64 now);
@@ -54,14 +59,21 @@ Q_SIGNALS:
     /// The range was chosen, or what is now has moved on.
     void samplesWanted(qint64 from, qint64 to);
 
+    void shown();
+
+    /// The user wants to switch recording on.
+    void settingsWanted();
+
 protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     QHBoxLayout* addRow(QVBoxLayout& column);
     void makeHead(QVBoxLayout& column);
     void makeSampleHead(QVBoxLayout& column);
     void makeFoot(QVBoxLayout& column);
+    void makeNotice(QVBoxLayout& column);
     PlainLabel* addLabel(bool isQuiet, const QString& name);
     void fitToFont();
     void showTrend();
@@ -77,6 +89,7 @@ private:
 
     std::vector<CapacityPoint> m_capacities;
     std::vector<Sample> m_samples;
+    qint64 m_ownSince = 0;
     qint64 m_now = 0;
     HistoryRange m_range = HistoryRange::Day;
     SampleQuantity m_quantity = SampleQuantity::Charge;
@@ -90,6 +103,8 @@ private:
     PlainLabel* m_sampleHeading;
     PlainLabel* m_legend;
     PlainLabel* m_told;
+    PlainLabel* m_notice;
+    LinkButton* m_toSettings;
     SegmentedControl* m_ranges;
     SegmentedControl* m_quantities;
     TimeSeriesChart* m_wearChart;

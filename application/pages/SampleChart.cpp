@@ -90,7 +90,8 @@ std::vector<ShadedSpan> chargingSpans(const std::vector<Sample>& samples,
     return spans;
 }
 
-ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quantity, AxisSpan moments)
+ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quantity, AxisSpan moments,
+                         qint64 ownSince)
 {
     ChartContent content;
     content.moments = moments;
@@ -103,10 +104,20 @@ ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quan
     std::vector<Sample> shown;
     std::copy_if(samples.begin(), samples.end(), std::back_inserter(shown),
                  [quantity](const Sample& sample) { return hasQuantity(sample, quantity); });
-    content.series.push_back(seriesOf(shown, quantity, moments.to));
-    content.shaded = chargingSpans(shown, content.series.front().gaps);
-    content.readingText = [shown = std::move(shown)](const ChartReading& reading) {
-        return textOf(shown[reading.point]);
+    content.shaded = chargingSpans(shown, gapsOf(shown));
+    const auto own = std::find_if(shown.begin(), shown.end(),
+                                  [ownSince](const Sample& sample) { return sample.moment >= ownSince; });
+    if (own != shown.begin()) {
+        content.series.push_back(seriesOf({shown.begin(), own}, quantity, INFINITY));
+        content.series.back().isQuiet = true;
+    }
+    const std::size_t first = content.series.size();
+    const auto before = static_cast<std::size_t>(own - shown.begin());
+    content.series.push_back(seriesOf({own, shown.end()}, quantity, moments.to));
+    content.readingText = [shown = std::move(shown), first, before](const ChartReading& reading) {
+        return reading.series < first
+                   ? joined(textOf(shown[reading.point]), besideEachOther(), QStringLiteral("from UPower"))
+                   : textOf(shown[before + reading.point]);
     };
     return content;
 }

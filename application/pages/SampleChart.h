@@ -11,7 +11,10 @@ enum class SampleQuantity { Charge, Power };
 
 /// Charge or power over `moments`, charging shaded. Power has no sign: which way it flows says the shade.
 /// `samples` by moment. A sample of the last ten minutes before the end is marked as what is now.
-ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quantity, AxisSpan moments);
+/// Those before the moment `ownSince` come from another service's history and are a series of their own,
+/// which is quiet.
+ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quantity, AxisSpan moments,
+                         qint64 ownSince = 0);
 
 /// The samples after which the line is left open (see gapsBetween). No pause is one while the battery rests,
 /// neither charged nor discharged and as full as before: then there is nothing to record.

@@ -1,35 +1,96 @@
 #include "application/pages/SavedSamples.h"
 
+#include <QFile>
+#include <QFileInfo>
+
+#include "common/Paths.h"
+#include "platform/PowerHistory.h"
+#include "records/FirstWeek.h"
 #include "records/SampleStore.h"
 
 namespace quindle {
+
+namespace {
+
+struct FoundSamples
+{
+    std::vector<Sample> samples;
+    qint64 ownSince = 0;
+    StoreOutcome outcome;
+};
+
+FoundSamples samplesIn(const QString& path, qint64 from, qint64 to)
+{
+    FoundSamples found;
+    const auto stored = SampleStore(path).storedBetween(from, to, &found.outcome);
+    found.samples.reserve(stored.size());
+    for (const StoredSample& each : stored) {
+        found.samples.push_back(each.sample);
+        if (each.source == SampleSource::UPower)
+            found.ownSince = each.sample.moment + 1;
+    }
+    return found;
+}
+
+} // namespace
 
 SavedSamples::SavedSamples(const QString& path, QObject* parent)
     : QObject(parent)
     , m_path(path)
 {
+    // A writer changes the file several times.
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(200);
+    connect(&m_settling, &QTimer::timeout, this, &SavedSamples::changed);
+    const auto settle = [this] { m_settling.start(); };
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, settle);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, settle);
 }
 
 void SavedSamples::read(qint64 from, qint64 to)
 {
-    struct Result
-    {
-        std::vector<Sample> samples;
-        StoreOutcome outcome;
-    };
     const int asked = ++m_asked;
     if (m_path.isEmpty())
         return;
-    const auto work = [path = m_path, from, to] {
-        Result result;
-        result.samples = SampleStore(path).samplesBetween(from, to, &result.outcome);
-        return result;
-    };
-    m_work.run(work, [this, asked](const Result& result) {
+    watch();
+    const auto work = [path = m_path, from, to] { return samplesIn(path, from, to); };
+    m_work.run(work, [this, asked](const FoundSamples& result) {
         if (!result.outcome.isGood())
             Q_EMIT told(result.outcome.fault);
         if (asked == m_asked)
-            Q_EMIT found(result.samples);
+            Q_EMIT found(result.samples, result.ownSince);
+    });
+}
+
+/// The file, which reading does not change; its folder only until it is there, since reading makes files
+/// beside it.
+void SavedSamples::watch()
+{
+    const QString file = QFile::decodeName(pathBytes(m_path));
+    const QFileInfo found(file);
+    const QString wanted = found.exists() ? file : found.path();
+    const QStringList watched = m_watcher.files() + m_watcher.directories();
+    if (watched == QStringList(wanted))
+        return;
+    if (!watched.isEmpty())
+        m_watcher.removePaths(watched);
+    if (QFileInfo::exists(wanted))
+        m_watcher.addPath(wanted);
+}
+
+void SavedSamples::takeOver(const std::function<std::unique_ptr<PowerHistory>()>& service, qint64 now)
+{
+    if (m_path.isEmpty())
+        return;
+    const auto work = [path = m_path, service, now] {
+        SampleStore store(path);
+        return takeOverFirstWeek(store, *service(), now);
+    };
+    m_work.run(work, [this](const StoreOutcome& outcome) {
+        if (outcome.isGood())
+            Q_EMIT changed();
+        else
+            Q_EMIT told(outcome.fault);
     });
 }
 

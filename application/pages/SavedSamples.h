@@ -1,13 +1,19 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <vector>
 
+#include <QFileSystemWatcher>
 #include <QObject>
+#include <QTimer>
 
 #include "application/pages/BackgroundWork.h"
 #include "samples/Sample.h"
 
 namespace quindle {
+
+class PowerHistory;
 
 /// The recorded samples as the pages see them, read in the background. Main thread only.
 class SavedSamples : public QObject
@@ -23,14 +29,26 @@ public:
 
     void removeAll();
 
+    /// Takes over what another service has recorded before, where that was not done yet (see
+    /// records/FirstWeek.h); `service` is called in the background. `now` is in seconds since 1970.
+    void takeOver(const std::function<std::unique_ptr<PowerHistory>()>& service, qint64 now);
+
 Q_SIGNALS:
-    void found(const std::vector<quindle::Sample>& samples);
+    /// Those before the moment `ownSince` come from another service's history.
+    void found(const std::vector<quindle::Sample>& samples, qint64 ownSince);
+
+    /// Others were recorded since the last ones were read.
+    void changed();
 
     /// One line for the user: why something could not be done.
     void told(const QString& line);
 
 private:
+    void watch();
+
     QString m_path;
+    QFileSystemWatcher m_watcher;
+    QTimer m_settling;
     int m_asked = 0;
     BackgroundWork m_work;
 };

@@ -112,6 +112,24 @@ TEST_F(SampleKeeperTest, HandsOverBeforeSleep)
     EXPECT_EQ(recorder.texts.size(), 1);
 }
 
+TEST_F(SampleKeeperTest, HandsOverWhenTheHistoryIsLookedAt)
+{
+    start();
+    const auto ask = [this] {
+        platform.distributedNotificationCenter.post(QStringLiteral("SamplesWantedNotification"));
+    };
+    ask();
+    EXPECT_EQ(recorder.attempts, 0) << "there is none";
+    pass(60, 50);
+    ask();
+    ask();
+    EXPECT_EQ(recorder.texts, Texts{"1420167905 50 - discharging\n"});
+    pass(60, 49);
+    record(false);
+    ask();
+    EXPECT_EQ(recorder.attempts, 1) << "nothing is recorded any more";
+}
+
 TEST_F(SampleKeeperTest, HandsOverAtTheEnd)
 {
     start();

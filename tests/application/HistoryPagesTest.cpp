@@ -15,6 +15,8 @@
 #include "application/pages/CompareDialog.h"
 #include "application/pages/HistoryPage.h"
 #include "application/pages/SnapshotsPage.h"
+#include "charts/TimeSeriesChart.h"
+#include "platform/PowerHistory.h"
 #include "settings/ApplicationPreferences.h"
 #include "tests/preferences/Input.h"
 #include "tests/records/TemporaryHistory.h"
@@ -233,6 +235,70 @@ TEST_F(HistoryPagesTest, HistoryShowsWhatIsRecorded)
     ASSERT_TRUE(sentence);
     EXPECT_TRUE(comesTrue([&] { return sentence->text().startsWith(latin("At this pace")); }))
         << sentence->text().toStdString();
+}
+
+TEST_F(HistoryPagesTest, TheHelperIsAskedForItsSamplesAndTheyAreDrawn)
+{
+    const qint64 now = computer.clock.time.toSecsSinceEpoch();
+    ASSERT_TRUE(
+        SampleStore(database()).append({sampleAt(now - 7200, 80), sampleAt(now - 3700, 70)}).isGood());
+    QStringList& posted = computer.distributedNotificationCenter.posted;
+    show("Battery");
+    EXPECT_EQ(posted, QStringList());
+    show("History");
+    EXPECT_EQ(posted, QStringList{latin("SamplesWantedNotification")});
+    auto* page = program->window().findChild<HistoryPage*>();
+    std::vector<TimeSeriesChart*> charts;
+    for (auto* chart : page->findChildren<TimeSeriesChart*>())
+        if (chart->accessibleName().startsWith(latin("Charge")))
+            charts.push_back(chart);
+    ASSERT_EQ(charts.size(), 1U);
+    const auto drawn = [&] { return charts[0]->content().series.back().points.size(); };
+    ASSERT_TRUE(comesTrue([&] { return drawn() == 2; }));
+    // What the helper hands over is stored by another process.
+    EXPECT_EQ(statusOf(forked([&] { SampleStore(database()).append({sampleAt(now - 60, 65)}); })), 0);
+    EXPECT_TRUE(comesTrue([&] { return drawn() == 3; }));
+}
+
+TEST_F(HistoryPagesTest, WhereRecordingIsOffThePageSaysSoAndLeadsToTheSwitch)
+{
+    show("History");
+    EXPECT_FALSE(says("Recording is off, so nothing is added."));
+    show("Battery");
+    computer.userDefaults.standardDefaults.values.insert(latin("recordHistory"), false);
+    show("History");
+    EXPECT_TRUE(says("Recording is off, so nothing is added."));
+    control<LinkButton>("Settings of recording")->click();
+    EXPECT_EQ(program->window().shownPage(), latin("Settings"));
+}
+
+TEST_F(HistoryPagesTest, UPowersWeekIsTakenOverByTheWindowToo)
+{
+    struct Week : PowerHistory
+    {
+        qint64 now = 0;
+
+        std::optional<RecordedPower> lastWeek() override
+        {
+            return RecordedPower{.charge = {{now - 7200, 80, PowerHistoryPoint::State::Discharging}},
+                                 .rate = {}};
+        }
+    };
+    const qint64 now = computer.clock.time.toSecsSinceEpoch();
+    const auto service = [now] {
+        auto week = std::make_unique<Week>();
+        week->now = now;
+        return week;
+    };
+    computer.userDefaults.standardDefaults.values.insert(latin("recordHistory"), false);
+    show("History");
+    program->takeOverFirstWeek(service);
+    computer.userDefaults.standardDefaults.values.insert(latin("recordHistory"), true);
+    EXPECT_FALSE(QFile::exists(database())) << "nothing is recorded";
+    program->takeOverFirstWeek(service);
+    EXPECT_TRUE(comesTrue([&] { return SampleStore(database()).firstMoment() == now - 7200; }));
+    const auto* legend = program->window().findChild<QLabel*>(latin("sampleLegend"));
+    EXPECT_TRUE(comesTrue([&] { return legend->text().contains(latin("pale from UPower")); }));
 }
 
 TEST_F(HistoryPagesTest, RecordingIsSwitchedAndLimited)

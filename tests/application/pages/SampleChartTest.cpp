@@ -51,6 +51,24 @@ TEST(SampleChart, ChargeHasAFixedAxis)
     EXPECT_EQ(chart.readingText({0, 0}), QStringLiteral(u"49.8 % \u00B7 12.4 W \u00B7 discharging"));
 }
 
+TEST(SampleChart, WhatUPowerHasRecordedIsMarked)
+{
+    const auto samples = samplesOf({{10, SampleState::Charging, 0.2}, {20, SampleState::Discharging, -0.2}});
+    const ChartContent chart = sampleChart(samples, SampleQuantity::Charge, day, start + 600);
+    ASSERT_EQ(chart.series.size(), 2U);
+    EXPECT_TRUE(chart.series[0].isQuiet);
+    EXPECT_FALSE(chart.series[1].isQuiet);
+    EXPECT_EQ(chart.series[0].points.size(), 10U);
+    EXPECT_EQ(chart.series[1].points.front().moment, start + 600);
+    EXPECT_EQ(chart.readingText({0, 0}),
+              QStringLiteral(u"50.2 % \u00B7 30.0 W \u00B7 charging \u00B7 from UPower"));
+    EXPECT_EQ(chart.readingText({1, 0}), QStringLiteral(u"51.8 % \u00B7 12.4 W \u00B7 discharging"));
+    EXPECT_EQ(chart.shaded.size(), 1U);
+    const ChartContent all = sampleChart(samples, SampleQuantity::Charge, day, start + 86400);
+    ASSERT_EQ(all.series.size(), 2U) << "all of it";
+    EXPECT_TRUE(all.series[1].points.empty());
+}
+
 TEST(SampleChart, PowerHasNoSignAndLeavesOutWhatIsNotKnown)
 {
     auto samples = samplesOf({{3, SampleState::Discharging, -0.2}, {3, SampleState::Charging, 0.5}});
