@@ -90,7 +90,7 @@ StoreOutcome SampleFile::withNewIfDamaged(const Attempt& attempt)
     StoreOutcome outcome = attempt();
     if (!m_isDamaged)
         return outcome;
-    const StoreOutcome aside = setAside();
+    StoreOutcome aside = setAside();
     if (!aside.isGood())
         return aside;
     outcome = attempt();
@@ -100,7 +100,7 @@ StoreOutcome SampleFile::withNewIfDamaged(const Attempt& attempt)
 
 StoreOutcome SampleFile::tryToChange(const Work& work)
 {
-    if (const StoreOutcome opened = openToWrite(); !opened.isGood()) {
+    if (StoreOutcome opened = openToWrite(); !opened.isGood()) {
         m_database.close(); // with what it may have begun
         return opened;
     }
@@ -108,14 +108,14 @@ StoreOutcome SampleFile::tryToChange(const Work& work)
     if (m_database.run("BEGIN IMMEDIATE") && work(m_database) && m_database.run("COMMIT"))
         return {};
     // Before the rollback, which takes the reason's place.
-    const StoreOutcome fault = refusal(m_database, true);
+    StoreOutcome fault = refusal(m_database, true);
     m_database.run("ROLLBACK");
     return fault;
 }
 
 StoreOutcome SampleFile::tryToLook(const Work& work)
 {
-    const StoreOutcome opened = openToRead();
+    StoreOutcome opened = openToRead();
     // Without a file there is nothing to see, which is no fault.
     if (!opened.isGood() || !m_database.isOpen() || work(m_database))
         return opened;

@@ -160,7 +160,7 @@ std::optional<qint64> SampleStore::moment(const char* sql)
 StoreOutcome SampleStore::thin(qint64 now)
 {
     // Values made of damaged rows would look sound for ever.
-    const StoreOutcome checked = m_file.check();
+    StoreOutcome checked = m_file.check();
     if (!checked.isGood() || !checked.notice.isEmpty())
         return checked;
     // The oldest first: what becomes a value of a day need not become values of hours before.

@@ -19,7 +19,7 @@ namespace {
 
 struct Column
 {
-    const char* key;
+    const char* key = nullptr;
     bool isIdentity = false;
 };
 

@@ -68,6 +68,7 @@ double kendallTerm(double count)
 double kendallVariance(const std::vector<TrendValue>& values)
 {
     std::vector<double> sorted;
+    sorted.reserve(values.size());
     for (const TrendValue& value : values)
         sorted.push_back(value.y);
     std::sort(sorted.begin(), sorted.end());
@@ -136,6 +137,7 @@ std::optional<TrendLine> trendLine(const std::vector<TrendValue>& values)
     TrendLine line;
     line.slope = trendMedian(slopes);
     std::vector<double> intercepts;
+    intercepts.reserve(used.size());
     for (const TrendValue& value : used)
         intercepts.push_back(value.y - line.slope * value.x);
     line.intercept = trendMedian(std::move(intercepts));

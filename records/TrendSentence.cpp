@@ -43,7 +43,7 @@ QString countOf(qint64 count, const QString& unit, const std::function<QString(q
 /// "from 1,044 days and 293 cycles"
 QString basisText(const TrendEstimate& trend, const std::function<QString(qint64)>& countText)
 {
-    const QString days = QStringLiteral("from ") + countOf(trend.days, QStringLiteral("day"), countText);
+    QString days = QStringLiteral("from ") + countOf(trend.days, QStringLiteral("day"), countText);
     if (trend.cycles <= 0)
         return days;
     return days + QStringLiteral(" and ") + countOf(trend.cycles, QStringLiteral("cycle"), countText);

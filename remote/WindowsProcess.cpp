@@ -29,7 +29,7 @@ WindowsProcess::WindowsProcess(ProgramStarter& starter, SteadyClock now)
 
 WindowsProcess::~WindowsProcess() = default;
 
-void WindowsProcess::request(WindowMessage request)
+void WindowsProcess::request(const WindowMessage& request)
 {
     endIfItHangs();
     if (m_program && ask(request))

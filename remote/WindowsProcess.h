@@ -40,7 +40,7 @@ public:
     /// Asks for a window, starting the program where it does not run. A program that has left a request
     /// undone for too long, or takes none, is ended and another one started. While nothing can be open yet,
     /// toggling the view opens it, so that an impatient second click does not close what has not been seen.
-    void request(WindowMessage request);
+    void request(const WindowMessage& request);
 
     /// The same for what only matters to a program that runs.
     void tell(const WindowMessage& message);

@@ -16,7 +16,7 @@ constexpr QByteArrayView notKnown("-");
 
 struct StateName
 {
-    SampleState state;
+    SampleState state = SampleState::Unknown;
     QByteArrayView name;
 };
 

@@ -1,12 +1,10 @@
 #include "app/HelperAppDelegate.h"
 
 #include <QIcon>
-#include <QJsonDocument>
 
 #include <gtest/gtest.h>
 
 #include "battery/QDBattery.h"
-#include "history/DailyUpload.h"
 #include "platform/Image.h"
 #include "tests/app/LaunchedHelper.h"
 #include "tests/support/QtPrinters.h"
@@ -245,41 +243,6 @@ TEST_F(HelperAppDelegateTest, AnnouncedSettingsChangeRefreshesAndUpdateDoesNothi
     EXPECT_EQ(record().titlesSet.size(), 3);
 }
 
-TEST_F(HelperAppDelegateTest, GateOpensAfterMoreThanADayAndRegistersObserversAgain)
-{
-    setBattery(50);
-    setShared("autoUpload", true);
-    launch();
-    const QDateTime launched = delegate->lastDailyUploadToOnlineService();
-    platform.clock.advance(86400.0);
-    delegate->checkForAutoSaveData();
-    EXPECT_EQ(delegate->lastDailyUploadToOnlineService(), launched);
-    platform.clock.advance(0.001);
-    delegate->checkForAutoSaveData();
-    EXPECT_EQ(delegate->lastDailyUploadToOnlineService(), platform.clock.now());
-    record().titlesSet.clear();
-    platform.distributedNotificationCenter.post(QStringLiteral("SettingsChangedNotification"));
-    EXPECT_EQ(record().titlesSet.size(), 4 * 3); // two distributed observers, each heard by two local ones
-}
-
-TEST_F(HelperAppDelegateTest, GateStaysOpenWithoutPermission)
-{
-    launch();
-    const QDateTime launched = delegate->lastDailyUploadToOnlineService();
-    platform.clock.advance(5 * 86400.0);
-    delegate->checkForAutoSaveData();
-    EXPECT_EQ(delegate->lastDailyUploadToOnlineService(), launched);
-}
-
-TEST_F(HelperAppDelegateTest, GateRunsWithoutABatteryToo)
-{
-    setShared("autoUpload", true);
-    launch();
-    platform.clock.advance(86401.0);
-    delegate->updateStatusBarTitle();
-    EXPECT_EQ(delegate->lastDailyUploadToOnlineService(), platform.clock.now());
-}
-
 TEST_F(HelperAppDelegateTest, OpensTheFolderThatHoldsTheMainApplication)
 {
     make();
@@ -383,54 +346,6 @@ TEST_F(HelperAppDelegateTest, RunsWithoutWindows)
     delegate->openMenuBarText();
     EXPECT_EQ(delegate->batteryPopover(), nullptr);
     EXPECT_EQ(platform.application.activated, 2);
-}
-
-TEST_F(HelperAppDelegateTest, ShowsWhatTheDailyUploadWouldSend)
-{
-    setBattery(50);
-    setRegistry("BatterySerialNumber", QStringLiteral("D86ABCDE"));
-    platform.registry.entries[QStringLiteral("IOPlatformExpertDevice")] = {
-        {QStringLiteral("model"), QByteArray("NotListed1,1")}};
-    launch();
-    EXPECT_EQ(delegate->dailyUploadText(), QString()) << "no host";
-    platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
-    const QString text = delegate->dailyUploadText();
-    EXPECT_TRUE(
-        text.startsWith(QStringLiteral("POST https://stats.example/qndonline/upload_mac_db_pro.php\n\n[\n")))
-        << text.toStdString();
-    const auto shown = QJsonDocument::fromJson(text.section(QStringLiteral("\n\n"), 1).toUtf8());
-    const auto upload = delegate->currentDailyUpload();
-    ASSERT_TRUE(upload);
-    EXPECT_EQ(shown.toJson(QJsonDocument::Compact).toBase64(), upload->body);
-    EXPECT_TRUE(platform.urlSession.posted.isEmpty());
-}
-
-TEST_F(HelperAppDelegateTest, NothingIsSentWithoutABattery)
-{
-    platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
-    launch();
-    delegate->uploadDailyMacDataToQNDOnline();
-    delegate->uploadDailyMacDataToQNDOnline_old();
-    EXPECT_TRUE(platform.urlSession.posted.isEmpty());
-}
-
-TEST_F(HelperAppDelegateTest, NothingIsSentWithoutWhatIdentifiesTheComputer)
-{
-    setBattery(50);
-    setRegistry("BatterySerialNumber", QStringLiteral("D86ABCDE"));
-    platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
-    launch();
-    delegate->uploadDailyMacDataToQNDOnline();
-    delegate->uploadDailyMacDataToQNDOnline_old();
-    EXPECT_TRUE(platform.urlSession.posted.isEmpty());
-}
-
-TEST_F(HelperAppDelegateTest, WithoutABatteryTheDailyUploadHasNothingToShow)
-{
-    platform.bundle.info->insert(QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example"));
-    launch();
-    EXPECT_EQ(delegate->dailyUploadText(),
-              QStringLiteral("Nothing would be sent now: a value that names the battery is missing."));
 }
 
 TEST_F(HelperAppDelegateTest, EmptyBodiesDoNothing)

@@ -1,13 +1,12 @@
 #include "records/SampleStore.h"
 
-#include <csignal>
 #include <cstring>
 #include <limits>
-#include <sys/resource.h>
 
 #include "records/Database.h"
 #include "records/Thinning.h"
 #include "tests/records/TemporaryHistory.h"
+#include "tests/support/FullDisk.h"
 
 using namespace quindle;
 
@@ -275,14 +274,10 @@ TEST_F(SampleStoreTest, AFullDiskChangesNothing)
 {
     SampleStore store(database());
     store.append({sampleAt(firstMoment)});
-    rlimit former = {};
-    ::getrlimit(RLIMIT_FSIZE, &former);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small = {1024, former.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    const StoreOutcome outcome = store.append({sampleAt(firstMoment + 1)});
-    ::setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, handler);
+    const StoreOutcome outcome = [&] {
+        const FullDisk disk(1024);
+        return store.append({sampleAt(firstMoment + 1)});
+    }();
     EXPECT_EQ(outcome.fault, QStringLiteral("cannot write %1: File too large").arg(database()));
     EXPECT_EQ(store.samplesBetween(0, always), Samples{sampleAt(firstMoment)});
     EXPECT_TRUE(store.append({sampleAt(firstMoment + 2)}).isGood());

@@ -1,10 +1,8 @@
 #include "records/SnapshotArchive.h"
 
-#include <csignal>
-#include <sys/resource.h>
-
 #include "history/SavedHistory.h"
 #include "tests/records/TemporaryHistory.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TestData.h"
 
 using namespace quindle;
@@ -144,14 +142,10 @@ TEST_F(SnapshotArchiveTest, AFullDiskChangesNothing)
     SnapshotArchive own(archive());
     own.append(recordAt(noon));
     const QByteArray before = bytesOf(archive());
-    rlimit former = {};
-    ::getrlimit(RLIMIT_FSIZE, &former);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small = {64, former.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    const StoreOutcome outcome = own.append(recordAt(noon + day));
-    ::setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, handler);
+    const StoreOutcome outcome = [&] {
+        const FullDisk disk(64);
+        return own.append(recordAt(noon + day));
+    }();
     EXPECT_EQ(outcome.fault, QStringLiteral("cannot write %1: File too large").arg(archive()));
     EXPECT_EQ(bytesOf(archive()), before);
     EXPECT_EQ(files(), QStringList{QStringLiteral("QuindleData.qndarchive")});

@@ -1,131 +1,22 @@
 #include "view/BatteryPopup.h"
 
-#include <algorithm>
 #include <set>
 
-#include <gtest/gtest.h>
-
-#include <QAccessible>
-#include <QApplication>
 #include <QImage>
-#include <QKeyEvent>
-#include <QLayout>
-#include <QMouseEvent>
 #include <QPointer>
 
-#include "menubar/MainInterface.h"
-#include "platform/Workspace.h"
-#include "tests/facts/FactComputer.h"
 #include "tests/support/QtPrinters.h"
-#include "view/BatteryView.h"
+#include "tests/view/PopupFixture.h"
 #include "view/BatteryWindow.h"
-#include "view/FactRow.h"
 #include "view/MenuEntry.h"
-#include "view/menuIndicator.h"
-#include "widgets/PlainLabel.h"
-#include "widgets/PlainText.h"
 #include "widgets/SwitchField.h"
 
 using namespace quindle;
 
 namespace {
 
-class RecordingActions : public StatusMenuActions
+class BatteryPopupTest : public test::PopupFixture
 {
-public:
-    void openApplication() override { calls.append(QStringLiteral("application")); }
-    void openPreferences() override { calls.append(QStringLiteral("preferences")); }
-    void openMenuBarText() override { calls.append(QStringLiteral("menu bar text")); }
-    void quitApp() override { calls.append(QStringLiteral("quit")); }
-
-    QStringList calls;
-};
-
-class InventedDesktop : public Application
-{
-public:
-    void terminate() override {}
-    void activateIgnoringOtherApplications() override {}
-    bool showsTranslucentWindows() const override { return translucent; }
-
-    bool translucent = false;
-};
-
-void press(QWidget* widget, Qt::Key key)
-{
-    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
-    QApplication::sendEvent(widget, &down);
-    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier);
-    QApplication::sendEvent(widget, &up);
-}
-
-void pressMouse(QWidget* widget, const QPointF& at)
-{
-    QMouseEvent event(QEvent::MouseButtonPress, at, widget->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
-
-struct BatteryPopupTest : testing::Test, test::FactComputer
-{
-    BatteryPopupTest()
-    {
-        interface.setPowerSources(&platform.powerSources);
-        interface.setActions(&actions);
-        make();
-    }
-
-    /// Makes the computer anew from what has been changed of it.
-    void make()
-    {
-        test::FactComputer::make();
-        interface.macObjectController().addObject(mac.get());
-    }
-
-    ~BatteryPopupTest() override
-    {
-        popup.close();
-        deleteClosed();
-    }
-
-    static void deleteClosed() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
-    static QWidget* window()
-    {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            if (widget->objectName() == QStringLiteral("batteryWindow"))
-                return widget;
-        }
-        return nullptr;
-    }
-
-    QWidget* open()
-    {
-        popup.open();
-        return window();
-    }
-
-    template <class Widget>
-    Widget* find(const char* name)
-    {
-        return window()->findChild<Widget*>(QString::fromLatin1(name));
-    }
-
-    FactRow* row(FactId id)
-    {
-        for (FactRow* row : window()->findChildren<FactRow*>()) {
-            if (row->fact().id == id && !row->fact().caption.isEmpty())
-                return row;
-        }
-        return nullptr;
-    }
-
-    QString textOf(FactRow* row) { return row->caption() + u'|' + row->text(); }
-
-    RecordingActions actions;
-    MainInterface interface;
-    InventedDesktop desktop;
-    BatteryPopup popup{interface, desktop, platform.runLoop};
 };
 
 TEST_F(BatteryPopupTest, NothingExistsWhileClosed)
@@ -174,143 +65,6 @@ TEST_F(BatteryPopupTest, TheMenuOpensAndNeverCloses)
     EXPECT_TRUE(popup.isOpen()) << "it is no click on the item";
 }
 
-TEST_F(BatteryPopupTest, ShowsWhatTheModelsKnow)
-{
-    open();
-    const std::pair<const char*, const char16_t*> named[]{
-        {"chargeRow", u"Charge|4,000 of 6,000 mAh"},
-        {"healthRow", u"Health|83.9 % · Good"},
-        {"cyclesRow", u"1,293 cycles|6,000 of 7,150 mAh"},
-    };
-    for (const auto& [name, text] : named) {
-        EXPECT_TRUE(find<FactRow>(name)->isVisible()) << name;
-        EXPECT_EQ(textOf(find<FactRow>(name)), QString::fromUtf16(text));
-    }
-    EXPECT_EQ(find<PlainLabel>("figureLabel")->text(), QStringLiteral("66.7"));
-    EXPECT_EQ(find<PlainLabel>("stateLabel")->text(), QStringLiteral("Discharging..."));
-    EXPECT_DOUBLE_EQ(find<menuIndicator>("stateOfChargeProgress")->percent(), battery().StateOfCharge());
-    EXPECT_DOUBLE_EQ(find<menuIndicator>("stateOfHealthProgress")->percent(), battery().StateOfHealth());
-}
-
-// A new fact needs no more than its line in the table.
-TEST_F(BatteryPopupTest, EveryFactOfAGroupIsARow)
-{
-    addDevices();
-    open();
-    int rows = 0;
-    for (const Fact& fact : factsFor(FactPlace::View, sources())) {
-        if (fact.group == FactGroup::Summary || !fact.shown)
-            continue;
-        const QList<FactRow*> all = window()->findChildren<FactRow*>();
-        const auto found =
-            std::find_if(all.begin(), all.end(), [&fact](FactRow* r) { return r->fact() == fact; });
-        ASSERT_NE(found, all.end()) << fact.caption.toStdString();
-        EXPECT_TRUE((*found)->isVisible()) << fact.caption.toStdString();
-        EXPECT_EQ(textOf(*found), fact.caption + u'|' + factText(fact, FactPlace::View));
-        ++rows;
-    }
-    EXPECT_GE(rows, 16);
-}
-
-TEST_F(BatteryPopupTest, LiveWhileOpen)
-{
-    open();
-    plugIn();
-    setBattery("CurrentCapacity", 4200);
-    battery().updateData();
-    EXPECT_EQ(find<PlainLabel>("stateLabel")->text(), QStringLiteral("Charging..."));
-    EXPECT_EQ(row(FactId::Adapter)->text(), QStringLiteral(u"Connected \u00B7 60 Watts"));
-    EXPECT_EQ(textOf(row(FactId::Time)), QStringLiteral("Calculating...|"));
-    EXPECT_DOUBLE_EQ(find<menuIndicator>("stateOfChargeProgress")->percent(), 70);
-}
-
-TEST_F(BatteryPopupTest, RowsWithNothingToTellAreHidden)
-{
-    for (const char* key : {"Manufacturer", "DeviceName", "BatterySerialNumber", "Temperature",
-                            "ManufactureDate", "CycleCount"})
-        setBattery(key, {});
-    holdBack(); // no state
-    platform.systemFiles.files.clear();
-    platform.setComputer(QStringLiteral("MacBookAir6,2"), QString());
-    make();
-    open();
-    for (const FactId id :
-         {FactId::MadeBy, FactId::BatterySerial, FactId::Time, FactId::System, FactId::Temperature,
-          FactId::BatteryAge, FactId::ComputerAge, FactId::ChargeLimit})
-        EXPECT_TRUE(!row(id) || row(id)->isHidden()) << static_cast<int>(id);
-    EXPECT_EQ(textOf(find<FactRow>("cyclesRow")), QStringLiteral("|6,000 of 7,150 mAh"));
-    EXPECT_TRUE(find<QWidget>("devicesList")->isHidden());
-}
-
-TEST_F(BatteryPopupTest, WithoutADesignCapacityItSaysSo)
-{
-    platform.setComputer(QStringLiteral("20Y70037MH"), QStringLiteral("PF123456"));
-    setBattery("DesignCapacity", {});
-    make();
-    open();
-    EXPECT_EQ(textOf(find<FactRow>("healthRow")), QStringLiteral(u"Health|No design capacity \u00B7 Good"));
-    EXPECT_EQ(textOf(find<FactRow>("cyclesRow")), QStringLiteral("1,293 cycles|"));
-    EXPECT_TRUE(find<menuIndicator>("stateOfHealthProgress")->isHidden());
-}
-
-TEST_F(BatteryPopupTest, WithoutAFullChargeThereIsADashAndAnEmptyBar)
-{
-    setBattery("MaxCapacity", 0);
-    setBattery("CurrentCapacity", 0);
-    make();
-    open();
-    EXPECT_EQ(find<PlainLabel>("figureLabel")->text(), QStringLiteral(u"\u2013"));
-    EXPECT_EQ(find<menuIndicator>("stateOfChargeProgress")->percent(), 0);
-    EXPECT_EQ(textOf(find<FactRow>("chargeRow")), QStringLiteral(u"Charge|\u2013"));
-    EXPECT_TRUE(find<menuIndicator>("stateOfHealthProgress")->isHidden());
-}
-
-TEST_F(BatteryPopupTest, ChargeLimitAndDevicesComeAndGo)
-{
-    open();
-    addDevices();
-    interface.updateFacts(QString());
-    EXPECT_EQ(textOf(row(FactId::ChargeLimit)), QStringLiteral("Charge limit|80 %"));
-    EXPECT_TRUE(row(FactId::ChargeLimit)->isVisible());
-    EXPECT_TRUE(find<QWidget>("devicesList")->isVisible());
-    EXPECT_EQ(textOf(row(FactId::Peripheral)), QStringLiteral("Marathon Mouse M705|85 %"));
-    platform.powerSources.limit.reset();
-    platform.powerSources.devices.clear();
-    interface.updateFacts(QString());
-    EXPECT_TRUE(row(FactId::ChargeLimit)->isHidden());
-    EXPECT_TRUE(find<QWidget>("devicesList")->isHidden());
-}
-
-TEST_F(BatteryPopupTest, FollowsABatteryThatGoesAndComesBack)
-{
-    open();
-    const QPointer<QWidget> first = find<QWidget>("menuView");
-    const std::unique_ptr<QDMac> withBattery = std::move(mac);
-    removeBattery();
-    make();
-    interface.updateFacts(QString());
-    deleteClosed();
-    EXPECT_TRUE(first.isNull());
-    EXPECT_EQ(find<PlainLabel>("noBatteryLabel")->text(), QStringLiteral("No battery"));
-    interface.macObjectController().addObject(withBattery.get());
-    interface.updateFacts(QString());
-    EXPECT_TRUE(find<QWidget>("menuView")->isVisible());
-    EXPECT_EQ(find<PlainLabel>("figureLabel")->text(), QStringLiteral("66.7"));
-}
-
-TEST_F(BatteryPopupTest, ToolTipsExplain)
-{
-    open();
-    EXPECT_EQ(row(FactId::BatteryAge)->toolTip(), QStringLiteral("<p>Manufactured 2014-03-02</p>"));
-    EXPECT_EQ(row(FactId::Model)->toolTip(), QStringLiteral("<p>MacBookAir6,2</p>"));
-    const QString ofCycles = find<FactRow>("cyclesRow")->toolTip();
-    EXPECT_TRUE(ofCycles.contains(QDBattery::CycleCount_Desc())) << ofCycles.toStdString();
-    EXPECT_TRUE(ofCycles.contains(QStringLiteral("7,300 mAh: "))) << ofCycles.toStdString();
-    mac->setProperty("LongModel", QStringLiteral("x"));
-    mac->setProperty("Model", QStringLiteral("<b>A&B</b>"));
-    EXPECT_EQ(row(FactId::Model)->toolTip(), QStringLiteral("<p>&lt;b&gt;A&amp;B&lt;/b&gt;</p>"));
-}
-
 TEST_F(BatteryPopupTest, GrowsAndShrinksWithItsRows)
 {
     const int before = open()->height();
@@ -333,47 +87,6 @@ TEST_F(BatteryPopupTest, IsAsHighAsItsRowsAtOnce)
     popup.close();
     deleteClosed();
     EXPECT_EQ(open()->height(), withoutHealth);
-}
-
-TEST_F(BatteryPopupTest, NoBattery)
-{
-    removeBattery();
-    make();
-    open();
-    EXPECT_EQ(window()->findChild<BatteryView*>(), nullptr);
-    EXPECT_TRUE(find<QWidget>("noBatteryView"));
-    EXPECT_EQ(find<PlainLabel>("noBatteryLabel")->text(), QStringLiteral("No battery"));
-    EXPECT_EQ(textOf(row(FactId::Computer)), QStringLiteral("Demo Computer|MacBook Air"));
-}
-
-TEST_F(BatteryPopupTest, ClicksSwitchUnits)
-{
-    open();
-    struct Switch
-    {
-        FactId id;
-        const char16_t* text;
-        const char16_t* explained;
-    };
-    const Switch switches[]{
-        {FactId::BatteryAge, u"10 months", u"Manufactured 2014-03-02\nClick to switch the unit"},
-        {FactId::Temperature, u"85.9 \u00B0F", u"Click to switch the unit"},
-        {FactId::ComputerAge, u"7 months", u"Built 2014-05-12\nClick to switch the unit"},
-    };
-    for (const auto& [id, text, explained] : switches) {
-        auto* field = row(id)->findChild<SwitchField*>();
-        ASSERT_TRUE(field);
-        const QString explanation = QString::fromUtf16(explained);
-        EXPECT_EQ(field->toolTip(), literalToolTip(explanation));
-        EXPECT_EQ(field->accessibleDescription(), explanation);
-        EXPECT_EQ(field->focusPolicy(), Qt::StrongFocus);
-        press(field, Qt::Key_Return);
-        EXPECT_EQ(row(id)->findChild<SwitchField*>(), field) << "it keeps the keyboard";
-        EXPECT_EQ(row(id)->text(), QString::fromUtf16(text));
-        EXPECT_EQ(field->label(), QString::fromUtf16(text));
-        EXPECT_EQ(field->accessibleName(), row(id)->caption() + u' ' + QString::fromUtf16(text));
-        EXPECT_EQ(QAccessible::queryAccessibleInterface(field)->role(), QAccessible::PushButton);
-    }
 }
 
 TEST_F(BatteryPopupTest, EntriesUnderTheView)
@@ -483,35 +196,6 @@ TEST_F(BatteryPopupTest, PlainWindowHasAFixedSize)
     press(plain, Qt::Key_Escape);
     deleteClosed();
     EXPECT_TRUE(guard.isNull());
-}
-
-// Nothing but background may touch the margins of the view, whichever way the language runs.
-TEST_F(BatteryPopupTest, NothingIsClippedInEitherDirection)
-{
-    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-        QApplication::setLayoutDirection(direction);
-        open();
-        QApplication::processEvents();
-        auto* view = find<QWidget>("menuView");
-        for (const QWidget* child : view->findChildren<QWidget*>()) {
-            if (!child->isVisible())
-                continue;
-            const QRect place(child->mapTo(view, QPoint()), child->size());
-            EXPECT_TRUE(view->contentsRect().contains(place)) << child->objectName().toStdString();
-        }
-        const QImage image = view->grab().toImage();
-        const QColor background = image.pixelColor(1, 1);
-        const int edge = view->layout()->contentsMargins().left() / 2;
-        for (int y = 0; y < image.height(); ++y) {
-            ASSERT_EQ(image.pixelColor(edge, y), background) << y;
-            ASSERT_EQ(image.pixelColor(image.width() - 1 - edge, y), background) << y;
-        }
-        const bool captionIsLeft = row(FactId::BatteryAge)->findChild<PlainLabel*>()->x() == 0;
-        EXPECT_EQ(captionIsLeft, direction == Qt::LeftToRight);
-        popup.close();
-        deleteClosed();
-    }
-    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 } // namespace

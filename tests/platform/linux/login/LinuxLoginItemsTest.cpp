@@ -1,105 +1,29 @@
 #include "platform/linux/login/LinuxLoginItems.h"
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "common/Paths.h"
 #include "platform/linux/login/AutostartEntry.h"
-#include "platform/linux/os/FileLock.h"
 #include "platform/linux/os/FileReplacement.h"
-#include "settings/StartupLaunch_pref.h"
 #include "tests/platform/LoginItemsContract.h"
-#include "tests/platform/linux/login/AutostartFolder.h"
+#include "tests/platform/linux/login/LoginItemsFixture.h"
 
 namespace quindle {
 
 namespace {
 
-constexpr const char* own = "com.fernhollow.Quindle-Helper.desktop";
-const QString identifier = QStringLiteral("com.fernhollow.Quindle-Helper");
-const QByteArray helperLine = "Exec=quindle-helper";
-
-/// For as long as it lives the process has not the rights of root.
-class Unprivileged
+class LinuxLoginItemsTest : public LoginItemsFixture
 {
-public:
-    Unprivileged() { EXPECT_EQ(::geteuid() == 0 ? ::seteuid(65534) : 0, 0); }
-    ~Unprivileged() { EXPECT_EQ(::seteuid(::getuid()), 0); }
-    Unprivileged(const Unprivileged&) = delete;
-    Unprivileged& operator=(const Unprivileged&) = delete;
-};
-
-/// For as long as it lives no file can be made longer than so many bytes, as on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-        : m_formerAction(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limited{bytes, m_former.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limited);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_former);
-        std::signal(SIGXFSZ, m_formerAction);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_former = {};
-    void (*m_formerAction)(int);
-};
-
-class LinuxLoginItemsTest : public testing::Test
-{
-protected:
-    LinuxLoginItemsTest()
-    {
-        QFile::link(folder.program(), folder.path(QStringLiteral("bin/quindle-helper")));
-        messages().clear();
-        m_former = qInstallMessageHandler(
-            [](QtMsgType, const QMessageLogContext&, const QString& text) { messages().append(text); });
-    }
-    ~LinuxLoginItemsTest() override { qInstallMessageHandler(m_former); }
-
-    static QStringList& messages()
-    {
-        static QStringList list;
-        return list;
-    }
-
-    bool isLoginItem() { return StartupLaunch_pref::isAppLoginItem(items, folder.bundle()); }
-    void launchOnLogin(bool enable) { StartupLaunch_pref::setLaunchOnLogin(items, folder.bundle(), enable); }
-
-    QStringList urls()
-    {
-        QStringList urls;
-        const auto list = items.snapshot();
-        for (const LoginItems::Item item : list.value())
-            urls.append(items.resolve(item).value_or(QString()));
-        return urls;
-    }
-
-    AutostartFolder folder;
-    LinuxLoginItems items{folder.places()};
-
-private:
-    QtMessageHandler m_former = nullptr;
 };
 
 TEST_F(LinuxLoginItemsTest, EntersOneEntryThatOnlyTheUserReads)
 {
     for (int time = 0; time < 2; ++time) {
         launchOnLogin(true);
-        EXPECT_EQ(folder.entryNames(), QStringList(QLatin1String(own)));
+        EXPECT_EQ(folder.entryNames(), QStringList(QLatin1String(ownEntry)));
         EXPECT_TRUE(isLoginItem());
     }
-    EXPECT_TRUE(folder.entry(own).contains("Exec=\"" + QFile::encodeName(folder.program()) + "\"\n"));
+    EXPECT_TRUE(folder.entry(ownEntry).contains("Exec=\"" + QFile::encodeName(folder.program()) + "\"\n"));
     for (int time = 0; time < 2; ++time) {
         launchOnLogin(false);
         EXPECT_TRUE(folder.entryNames().isEmpty());
@@ -160,37 +84,10 @@ TEST_F(LinuxLoginItemsTest, EntriesOfOthersStayByteForByte)
     launchOnLogin(true);
     EXPECT_TRUE(isLoginItem());
     launchOnLogin(false);
-    items.setEnabled(identifier, true);
-    items.setEnabled(identifier, false);
+    items.setEnabled(helperIdentifier, true);
+    items.setEnabled(helperIdentifier, false);
     EXPECT_EQ(everything(), before);
     EXPECT_TRUE(messages().isEmpty());
-}
-
-TEST_F(LinuxLoginItemsTest, WhatCannotBeReadIsPassedOver)
-{
-    QDir().mkpath(folder.entries() + QStringLiteral("/folder.desktop"));
-    ASSERT_EQ(
-        ::mkfifo(QFile::encodeName(folder.entries() + QStringLiteral("/pipe.desktop")).constData(), 0600), 0);
-    QFile::link(QStringLiteral("/nonexistent"), folder.entries() + QStringLiteral("/dangling.desktop"));
-    QFile::link(QStringLiteral("round.desktop"), folder.entries() + QStringLiteral("/round.desktop"));
-    QFile::link(QStringLiteral("/dev/zero"), folder.entries() + QStringLiteral("/device.desktop"));
-    EXPECT_EQ(urls(), QStringList(QList<QString>(5)));
-    launchOnLogin(true);
-    EXPECT_TRUE(isLoginItem());
-    launchOnLogin(false);
-    EXPECT_EQ(folder.entryNames().size(), 5);
-    EXPECT_TRUE(messages().isEmpty());
-}
-
-TEST_F(LinuxLoginItemsTest, AFileWithoutTheRightToReadItIsPassedOver)
-{
-    folder.addEntry("a.desktop", helperLine);
-    const QString path = folder.entries() + QStringLiteral("/a.desktop");
-    ASSERT_EQ(::chmod(QFile::encodeName(folder.path({})).constData(), 0755), 0);
-    EXPECT_TRUE(isLoginItem());
-    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0), 0);
-    const Unprivileged rights;
-    EXPECT_FALSE(isLoginItem());
 }
 
 TEST_F(LinuxLoginItemsTest, OwnEntryThatStartsNothingIsReplaced)
@@ -199,9 +96,9 @@ TEST_F(LinuxLoginItemsTest, OwnEntryThatStartsNothingIsReplaced)
                                     QByteArray("Exec=/old/place/quindle-helper"), QByteArray("Exec=other"),
                                     helperLine + "\nX-GNOME-Autostart-enabled=false"}) {
         for (const bool byIdentifier : {false, true}) {
-            folder.addEntry(own, lines);
+            folder.addEntry(ownEntry, lines);
             EXPECT_FALSE(isLoginItem()) << lines.toStdString();
-            byIdentifier ? items.setEnabled(identifier, true) : launchOnLogin(true);
+            byIdentifier ? items.setEnabled(helperIdentifier, true) : launchOnLogin(true);
             EXPECT_TRUE(isLoginItem()) << lines.toStdString();
             EXPECT_EQ(folder.entryNames().size(), 1);
         }
@@ -210,11 +107,11 @@ TEST_F(LinuxLoginItemsTest, OwnEntryThatStartsNothingIsReplaced)
 
 TEST_F(LinuxLoginItemsTest, AHiddenEntryStaysHiddenWhenDisabled)
 {
-    folder.addEntry(own, helperLine + "\nHidden=true");
-    const QByteArray before = folder.entry(own);
+    folder.addEntry(ownEntry, helperLine + "\nHidden=true");
+    const QByteArray before = folder.entry(ownEntry);
     launchOnLogin(false);
-    items.setEnabled(identifier, false);
-    EXPECT_EQ(folder.entry(own), before);
+    items.setEnabled(helperIdentifier, false);
+    EXPECT_EQ(folder.entry(ownEntry), before);
 }
 
 TEST_F(LinuxLoginItemsTest, AnEntryOfAnotherNameThatStartsTheHelperIsTheItem)
@@ -223,7 +120,7 @@ TEST_F(LinuxLoginItemsTest, AnEntryOfAnotherNameThatStartsTheHelperIsTheItem)
     folder.addEntry("c.desktop", "Exec=other");
     EXPECT_TRUE(isLoginItem());
     launchOnLogin(true);
-    items.setEnabled(identifier, true);
+    items.setEnabled(helperIdentifier, true);
     EXPECT_EQ(folder.entryNames().size(), 2);
     launchOnLogin(false);
     EXPECT_EQ(folder.entryNames(), QStringList(QStringLiteral("c.desktop")));
@@ -234,14 +131,14 @@ TEST_F(LinuxLoginItemsTest, DisablingLeavesNone)
     launchOnLogin(true);
     folder.addEntry("battery.desktop", helperLine);
     folder.addEntry("c.desktop", "Exec=other");
-    items.setEnabled(identifier, false);
+    items.setEnabled(helperIdentifier, false);
     EXPECT_EQ(folder.entryNames(), QStringList(QStringLiteral("c.desktop")));
 }
 
 TEST_F(LinuxLoginItemsTest, DisablingTakesOutTheNamedEntryOfAnotherInstallation)
 {
-    folder.addEntry(own, "Exec=other");
-    items.setEnabled(identifier, false);
+    folder.addEntry(ownEntry, "Exec=other");
+    items.setEnabled(helperIdentifier, false);
     EXPECT_TRUE(folder.entryNames().isEmpty());
 }
 
@@ -249,72 +146,12 @@ TEST_F(LinuxLoginItemsTest, AnEntryThatIsALinkIsReplacedAndNotFollowed)
 {
     const QString shared = folder.path(QStringLiteral("shared.desktop"));
     AutostartFolder::write(shared, "[Desktop Entry]\nExec=other\n");
-    QFile::link(shared, folder.entries() + u'/' + QLatin1String(own));
+    QFile::link(shared, folder.entries() + u'/' + QLatin1String(ownEntry));
     launchOnLogin(true);
     EXPECT_TRUE(isLoginItem());
     launchOnLogin(false);
     EXPECT_TRUE(folder.entryNames().isEmpty());
     EXPECT_EQ(QFileInfo(shared).size(), 27);
-}
-
-TEST_F(LinuxLoginItemsTest, AFileInPlaceOfTheFolderChangesNothingAndIsToldOnce)
-{
-    ASSERT_TRUE(QDir(folder.entries()).removeRecursively());
-    AutostartFolder::write(folder.entries(), "file");
-    EXPECT_EQ(items.snapshot(), std::nullopt);
-    launchOnLogin(true);
-    EXPECT_TRUE(messages().isEmpty());
-    for (int time = 0; time < 3; ++time)
-        items.setEnabled(identifier, true);
-    items.setEnabled(identifier, false);
-    EXPECT_EQ(messages().size(), 1);
-    EXPECT_EQ(QFileInfo(folder.entries()).size(), 4);
-}
-
-TEST_F(LinuxLoginItemsTest, AReadOnlyFolderChangesNothingAndIsToldOnce)
-{
-    folder.addEntry("battery.desktop", helperLine);
-    for (const QString& path : {folder.path({}), folder.entries()})
-        ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0555), 0);
-    ASSERT_EQ(::chmod(QFile::encodeName(folder.configuration()).constData(), 0777), 0);
-    {
-        const Unprivileged rights;
-        EXPECT_TRUE(isLoginItem());
-        for (int time = 0; time < 3; ++time)
-            launchOnLogin(false);
-        EXPECT_TRUE(isLoginItem());
-        EXPECT_EQ(messages().size(), 1);
-        for (int time = 0; time < 3; ++time)
-            items.insertBeforeFirst(fileUrl(folder.bundle()));
-    }
-    EXPECT_EQ(messages().size(), 1); // the same reason
-    EXPECT_EQ(folder.entryNames(), QStringList(QStringLiteral("battery.desktop")));
-    ::chmod(QFile::encodeName(folder.path({})).constData(), 0700);
-    ::chmod(QFile::encodeName(folder.entries()).constData(), 0700);
-}
-
-TEST_F(LinuxLoginItemsTest, AFullDiskLeavesWhatIsThere)
-{
-    folder.addEntry(own, "Exec=other");
-    const QByteArray before = folder.entry(own);
-    {
-        const FullDisk disk(20);
-        launchOnLogin(true);
-        launchOnLogin(true);
-    }
-    EXPECT_EQ(folder.entry(own), before);
-    EXPECT_EQ(folder.entryNames().size(), 1);
-    EXPECT_EQ(messages().size(), 1);
-    launchOnLogin(true);
-    EXPECT_TRUE(isLoginItem());
-}
-
-TEST_F(LinuxLoginItemsTest, WhatAKilledWriterLeftIsCleared)
-{
-    AutostartFolder::write(
-        folder.entries() + QStringLiteral("/.") + QLatin1String(own) + QStringLiteral(".new-abcdef"), "x");
-    launchOnLogin(true);
-    EXPECT_EQ(folder.entryNames(), QStringList(QLatin1String(own)));
 }
 
 TEST_F(LinuxLoginItemsTest, AProgramThatIsNotThereIsNotEntered)
@@ -334,40 +171,6 @@ TEST_F(LinuxLoginItemsTest, NamesThatAreNoneAreRefused)
     EXPECT_TRUE(folder.entryNames().isEmpty());
 }
 
-TEST_F(LinuxLoginItemsTest, AUserWithoutFolderHasNoList)
-{
-    LoginItemPlaces nowhere = folder.places();
-    nowhere.entries.clear();
-    LinuxLoginItems list(nowhere);
-    EXPECT_EQ(list.snapshot(), std::nullopt);
-    list.setEnabled(identifier, true);
-    list.setEnabled(identifier, false);
-    StartupLaunch_pref::setLaunchOnLogin(list, folder.bundle(), true);
-    EXPECT_FALSE(StartupLaunch_pref::isAppLoginItem(list, folder.bundle()));
-}
-
-TEST_F(LinuxLoginItemsTest, OpenedForReadingOnlyChangesNothing)
-{
-    folder.addEntry("battery.desktop", helperLine);
-    LinuxLoginItems list(folder.places(), SettingsAccess::ReadOnly);
-    EXPECT_TRUE(StartupLaunch_pref::isAppLoginItem(list, folder.bundle()));
-    list.setEnabled(identifier, false);
-    list.insertBeforeFirst(fileUrl(folder.bundle()));
-    list.remove(list.snapshot()->front());
-    EXPECT_EQ(folder.entryNames(), QStringList(QStringLiteral("battery.desktop")));
-    EXPECT_FALSE(QFileInfo::exists(folder.places().lock));
-}
-
-TEST_F(LinuxLoginItemsTest, AnotherWriterIsNotWaitedForWithoutEnd)
-{
-    QDir().mkpath(QFileInfo(folder.places().lock).path());
-    const auto other = FileLock::take(QFile::encodeName(folder.places().lock), std::chrono::milliseconds(0));
-    ASSERT_TRUE(other);
-    launchOnLogin(true);
-    EXPECT_FALSE(isLoginItem());
-    EXPECT_EQ(messages().size(), 1);
-}
-
 TEST_F(LinuxLoginItemsTest, AProgramAtAPathThatNotAllSessionsReadIsStartedThroughALink)
 {
     for (const QByteArray name : {"100%", "a\xff"}) {
@@ -380,8 +183,8 @@ TEST_F(LinuxLoginItemsTest, AProgramAtAPathThatNotAllSessionsReadIsStartedThroug
         LinuxLoginItems odd(places);
         StartupLaunch_pref::setLaunchOnLogin(odd, places.bundle, true);
         const QByteArray link = QFile::encodeName(places.link);
-        EXPECT_TRUE(folder.entry(own).contains("\nExec=\"" + link + "\"\n"))
-            << folder.entry(own).toStdString();
+        EXPECT_TRUE(folder.entry(ownEntry).contains("\nExec=\"" + link + "\"\n"))
+            << folder.entry(ownEntry).toStdString();
         EXPECT_EQ(linkTarget(link), bundle + "/Contents/Linux/quindle-helper");
         EXPECT_EQ(odd.resolve(odd.snapshot()->front()), folder.bundleUrl());
         StartupLaunch_pref::setLaunchOnLogin(odd, folder.bundle(), false);
@@ -400,13 +203,13 @@ TEST_F(LinuxLoginItemsTest, AProgramThatNotAllSessionsStartIsToldInOneLine)
     LoginItemPlaces places = folder.places();
     places.bundle = bundle;
     LinuxLoginItems throughLink(places);
-    throughLink.setEnabled(identifier, true);
+    throughLink.setEnabled(helperIdentifier, true);
     EXPECT_EQ(messages(), QStringList());
     places.link = folder.path(QStringLiteral("c=d/quindle-helper"));
     LinuxLoginItems direct(places);
-    direct.setEnabled(identifier, false);
-    direct.setEnabled(identifier, true);
-    EXPECT_EQ(folder.entryNames(), QStringList{QLatin1String(own)});
+    direct.setEnabled(helperIdentifier, false);
+    direct.setEnabled(helperIdentifier, true);
+    EXPECT_EQ(folder.entryNames(), QStringList{QLatin1String(ownEntry)});
     EXPECT_EQ(messages().size(), 1);
     EXPECT_TRUE(messages().value(0).contains(bundleProgram(bundle)));
 }

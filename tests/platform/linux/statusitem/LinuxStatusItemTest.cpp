@@ -1,105 +1,16 @@
 #include "platform/linux/statusitem/LinuxStatusItem.h"
 
-#include <QCoreApplication>
-#include <QDBusArgument>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "platform/Image.h"
-#include "platform/StatusMenu.h"
-#include "platform/linux/session/LinuxRunLoop.h"
-#include "platform/linux/statusitem/MenuTypes.h"
-#include "platform/linux/statusitem/NotifierTypes.h"
-#include "tests/platform/linux/statusitem/FakeTrayHost.h"
-#include "tests/platform/linux/statusitem/PrivateBus.h"
+#include "tests/platform/linux/statusitem/StatusItemFixture.h"
 #include "tests/support/QtPrinters.h"
-#include "tests/support/Texts.h"
 
 namespace quindle {
 namespace {
 
-constexpr auto itemPath = "/StatusNotifierItem";
-constexpr auto itemInterface = "org.kde.StatusNotifierItem";
-constexpr auto menuObject = "/MenuBar";
-constexpr auto menuInterface = "com.canonical.dbusmenu";
-
-template <typename Type>
-Type demarshalled(const QVariant& value)
+class LinuxStatusItemTest : public StatusItemFixture
 {
-    Type result;
-    value.value<QDBusArgument>() >> result;
-    return result;
-}
-
-/// Lets the main loop run until it is so; false after ten seconds.
-template <typename Condition>
-bool comesTrue(Condition condition)
-{
-    const QDeadlineTimer deadline(10000);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-    return condition();
-}
-
-class LinuxStatusItemTest : public testing::Test
-{
-protected:
-    LinuxStatusItemTest()
-    {
-        menu.addRow({StatusMenu::Kind::Fact, u("87.0%"), true, true, {}});
-        menu.addRow({StatusMenu::Kind::OpenView, u("Show Battery..."), true, true, {}});
-        menu.addRow({StatusMenu::Kind::Separator, {}, true, true, {}});
-        menu.addRow({StatusMenu::Kind::Action, u("Quit_all"), true, true, [this] { ++chosen; }});
-        menu.setViewOpener([this] { ++opened; });
-        menu.setViewToggler([this] { ++toggled; });
-    }
-
-    void makeItem(std::chrono::milliseconds registrationCheck = std::chrono::milliseconds(3000))
-    {
-        item = std::make_unique<LinuxStatusItem>(
-            bus.connect(), runLoop,
-            StatusItemSurroundings{QStringLiteral(QUINDLE_RESOURCES), currentDesktop,
-                                   [this] { return choice; }, registrationCheck});
-        item->setTitle(u("87.0%"));
-        item->setFallbackText(u("87"));
-        item->setToolTipText(u("R&D"));
-        item->setImage(std::make_shared<Image>(u("#bat34")));
-        item->setMenu(&menu);
-    }
-
-    void makeRegisteredItem()
-    {
-        ASSERT_TRUE(host.appear());
-        makeItem();
-        ASSERT_TRUE(comesTrue([this] { return host.registrations() == 1; }));
-        settle();
-        host.takeSignals();
-    }
-
-    /// When the answer is there, everything that was sent before it is there as well.
-    void settle()
-    {
-        QCoreApplication::processEvents();
-        host.itemProperty("Status");
-    }
-
-    QList<NotifierPixmap> pixmaps(const char* name)
-    {
-        return demarshalled<QList<NotifierPixmap>>(host.itemProperty(name));
-    }
-
-    LinuxRunLoop runLoop;
-    PrivateBus bus;
-    FakeTrayHost host{bus.connect()};
-    StatusMenu menu;
-    QString choice;
-    QString currentDesktop;
-    int opened = 0;
-    int toggled = 0;
-    int chosen = 0;
-    std::unique_ptr<LinuxStatusItem> item;
 };
 
 TEST_F(LinuxStatusItemTest, registersByPathOnItsConnection)
@@ -360,89 +271,6 @@ TEST_F(LinuxStatusItemTest, activationTokenIsThereWhenTheViewIsToggled)
     host.call(itemPath, itemInterface, "Activate", {0, 0});
     EXPECT_TRUE(comesTrue([&token] { return token == u("token-1"); }));
     qunsetenv("XDG_ACTIVATION_TOKEN");
-}
-
-TEST_F(LinuxStatusItemTest, menuLayoutOverTheBus)
-{
-    makeRegisteredItem();
-    EXPECT_EQ(host.property(menuObject, menuInterface, "Version"), 3U);
-    const auto answer = host.call(menuObject, menuInterface, "GetLayout", {0, 1, QStringList()});
-    const auto root = demarshalled<MenuNode>(answer.arguments().value(1));
-    ASSERT_EQ(root.children.size(), 4);
-    const auto last = demarshalled<MenuNode>(root.children.at(3).variant());
-    EXPECT_EQ(last.id, 4);
-    EXPECT_EQ(last.properties.value(u("label")), u("Quit__all"));
-
-    const auto group = host.call(menuObject, menuInterface, "GetGroupProperties",
-                                 {QVariant::fromValue(QList<int>{1, 9}), QStringList{u("label")}});
-    const auto rows = demarshalled<QList<MenuRowProperties>>(group.arguments().value(0));
-    ASSERT_EQ(rows.size(), 1);
-    EXPECT_EQ(rows.at(0).properties.value(u("label")), u("87.0%"));
-}
-
-TEST_F(LinuxStatusItemTest, commandsAreAboveTheFactsWhereTallMenusAreCut)
-{
-    menu.addRow({StatusMenu::Kind::Fact, u("last"), true, true, {}});
-    currentDesktop = u("GNOME");
-    makeRegisteredItem();
-    const auto answer = host.call(menuObject, menuInterface, "GetLayout", {0, 1, QStringList()});
-    const auto root = demarshalled<MenuNode>(answer.arguments().value(1));
-    ASSERT_EQ(root.children.size(), 5);
-    EXPECT_EQ(demarshalled<MenuNode>(root.children.at(1).variant()).id, 2);
-}
-
-TEST_F(LinuxStatusItemTest, menuClicks)
-{
-    makeRegisteredItem();
-    const QVariant none = QVariant::fromValue(QDBusVariant(0));
-    host.call(menuObject, menuInterface, "Event", {4, u("hovered"), none, 0U});
-    host.call(menuObject, menuInterface, "Event", {4, u("clicked"), none, 0U});
-    EXPECT_TRUE(comesTrue([this] { return chosen == 1; }));
-
-    const QList<MenuEvent> events{{0, u("closed"), QDBusVariant(0), 0},
-                                  {2, u("clicked"), QDBusVariant(0), 0},
-                                  {9, u("clicked"), QDBusVariant(0), 0}};
-    const auto answer = host.call(menuObject, menuInterface, "EventGroup", {QVariant::fromValue(events)});
-    EXPECT_TRUE(comesTrue([this] { return opened == 1; }));
-    EXPECT_EQ(qdbus_cast<QList<int>>(answer.arguments().value(0)), QList<int>{9});
-    EXPECT_EQ(chosen, 1);
-    EXPECT_EQ(toggled, 0);
-}
-
-TEST_F(LinuxStatusItemTest, menuNeedsNoUpdateBeforeItIsShown)
-{
-    makeRegisteredItem();
-    EXPECT_EQ(host.call(menuObject, menuInterface, "AboutToShow", {0}).arguments(), QVariantList{false});
-    const auto answer =
-        host.call(menuObject, menuInterface, "AboutToShowGroup", {QVariant::fromValue(QList<int>{0, 9})});
-    EXPECT_EQ(qdbus_cast<QList<int>>(answer.arguments().value(0)), QList<int>());
-    EXPECT_EQ(qdbus_cast<QList<int>>(answer.arguments().value(1)), QList<int>{9});
-}
-
-TEST_F(LinuxStatusItemTest, changedRowsAreToldOnceAndWithoutANewLayout)
-{
-    makeRegisteredItem();
-    menu.setText(1, u("100 %"));
-    menu.setText(1, u("86.9%"));
-    menu.setVisible(2, false);
-    settle();
-    const auto messages = host.lastMessages();
-    ASSERT_EQ(host.takeSignals(), QStringList{u("ItemsPropertiesUpdated")});
-    const auto rows = demarshalled<QList<MenuRowProperties>>(messages.at(0).arguments().value(0));
-    ASSERT_EQ(rows.size(), 2);
-    EXPECT_EQ(rows.at(0).id, 1);
-    EXPECT_EQ(rows.at(0).properties.value(u("label")), u("86.9%"));
-    EXPECT_EQ(rows.at(1).id, 2);
-    EXPECT_EQ(rows.at(1).properties.value(u("visible")), false);
-}
-
-TEST_F(LinuxStatusItemTest, menuMayOutliveTheItem)
-{
-    makeRegisteredItem();
-    item.reset();
-    menu.setText(1, u("86.9%"));
-    QCoreApplication::processEvents();
-    EXPECT_EQ(menu.rows().at(0).text, u("86.9%"));
 }
 
 TEST(LinuxStatusItemWithoutBus, keepsItsValues)
