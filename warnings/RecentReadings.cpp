@@ -23,6 +23,7 @@ void RecentReadings::add(const BatteryReading& reading)
 {
     std::erase_if(m_readings,
                   [&](const Entry& entry) { return reading.moment - entry.moment > keptSeconds; });
+    // Within the minute too: no driver decides how much is kept.
     if (m_readings.size() >= mostReadings)
         m_readings.erase(m_readings.begin());
     m_readings.push_back(
@@ -43,6 +44,7 @@ std::optional<int> RecentReadings::steadyMinutes() const
         return std::nullopt;
     const auto byMinutes = [](const Entry& a, const Entry& b) { return *a.minutes < *b.minutes; };
     const auto [least, most] = std::minmax_element(m_readings.begin(), m_readings.end(), byMinutes);
+    // Minutes are whole: near empty a change of one would be more than a quarter.
     const int allowed = std::max(steadyMinutesAtLeast, *most->minutes / steadyPart);
     return *most->minutes - *least->minutes <= allowed ? m_readings.back().minutes : std::nullopt;
 }

@@ -39,6 +39,7 @@ bool isReached(WarningLevel level, const LevelSettings& settings, const BatteryR
                std::optional<int> steadyMinutes)
 {
     const auto percent = percentOf(level, settings, reading);
+    // A battery that charges at 8 % is no news, and neither is one that falls from full.
     if (!percent || isOfDischarge(level) != isDischarging(reading))
         return false;
     switch (level) {
@@ -64,6 +65,7 @@ bool isLeft(WarningLevel level, const LevelSettings& settings, const BatteryRead
 std::optional<int> minutesToTell(WarningLevel level, const LevelSettings& settings,
                                  std::optional<int> steadyMinutes)
 {
+    // The same number is a percentage and minutes, so a level may be reached by either.
     const bool isShorter = steadyMinutes && *steadyMinutes <= settings.percent;
     return isOfDischarge(level) && isShorter ? steadyMinutes : std::nullopt;
 }

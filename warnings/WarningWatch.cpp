@@ -26,6 +26,7 @@ void keepSince(std::optional<qint64>& since, bool isSo, qint64 moment)
 
 std::vector<WarningAction> WarningWatch::take(const BatteryReading& reading, const WarningSettings& settings)
 {
+    // Without a word from the login manager too, which not every system has.
     const bool hasSlept =
         !m_lastMoment || reading.moment < *m_lastMoment || reading.moment - *m_lastMoment > longestPause;
     if (hasSlept)

@@ -36,7 +36,7 @@ Punctuality HelpersRunLoop::keepPunctual()
         return watched;
     m_helper.tell(Kind::Watched, 1);
     // Of one watch after the other, only the last one's end is an end.
-    const Punctuality watched(this, [this](void*) { m_helper.tell(Kind::Watched, 0); });
+    Punctuality watched(this, [this](void*) { m_helper.tell(Kind::Watched, 0); });
     m_watched = watched;
     return watched;
 }

@@ -41,6 +41,7 @@ Fact factWithId(const std::vector<Fact>& facts, FactId id)
 QString wordsOfHealth(const Fact& health)
 {
     const QString figure = health.percent ? percentText(*health.percent) : QString();
+    // Without a design capacity it is a sentence, which stays whole.
     if (figure.isEmpty() || !health.value.startsWith(figure))
         return health.value;
     const QString behind = health.value.mid(figure.size());

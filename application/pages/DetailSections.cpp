@@ -19,6 +19,7 @@ void addRows(std::vector<DetailRow>& rows, const QString& prefix, const QVariant
         const QString name = prefix + value.key();
         if (value->typeId() == QMetaType::QVariantMap && depth < deepest)
             addRows(rows, name + u'.', value->toMap(), depth + 1);
+        // Not 1 and 0, which would look like figures.
         else if (value->typeId() == QMetaType::Bool)
             rows.push_back({name, value->toBool() ? QStringLiteral("Yes") : QStringLiteral("No")});
         else

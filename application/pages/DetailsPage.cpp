@@ -124,6 +124,7 @@ void DetailsPage::showSection(int index, const DetailSection& section)
 {
     if (index == m_rows->topLevelItemCount()) {
         auto* item = new QTreeWidgetItem(m_rows);
+        // A heading cannot be selected: it is nothing to copy.
         item->setFlags(Qt::ItemIsEnabled);
         item->setFirstColumnSpanned(true);
         item->setExpanded(true);
@@ -143,6 +144,7 @@ void DetailsPage::showSection(int index, const DetailSection& section)
         const DetailRow& detail = section.rows[static_cast<std::size_t>(row)];
         setText(*top.child(row), 0, detail.name);
         setText(*top.child(row), 1, detail.value);
+        // Long values are cut in the middle; unescaped they could be taken for markup.
         top.child(row)->setToolTip(1, detail.value.toHtmlEscaped());
     }
 }
@@ -160,6 +162,7 @@ void DetailsPage::askForFile()
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setNameFilter(QStringLiteral("Machine files (*.plist)"));
     dialog->setDefaultSuffix(QStringLiteral("plist"));
+    // Not the folder that it was started in, which nobody chose.
     dialog->setDirectory(homeFolder());
     dialog->selectFile(QStringLiteral("machine.plist"));
     connect(dialog, &QFileDialog::fileSelected, this,

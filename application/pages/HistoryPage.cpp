@@ -105,6 +105,7 @@ void HistoryPage::makeHead(QVBoxLayout& column)
     m_sign->setText(QStringLiteral("%"));
     m_wearCaption->setText(QStringLiteral("Full charge, mAh"));
     for (PlainLabel* whole : {m_figure, m_sign})
+        // The figure is never cut; the words beside it give way.
         whole->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_ranges->setAccessibleName(QStringLiteral("Range"));
     m_ranges->selectSegmentWithTag(static_cast<int>(m_range));
@@ -193,6 +194,7 @@ void HistoryPage::setNow(qint64 now)
 void HistoryPage::chooseRange()
 {
     m_range = static_cast<HistoryRange>(m_ranges->selectedTag());
+    // What was zoomed to belongs to the range before.
     m_sampleChart->showAll();
     Q_EMIT samplesWanted(historyRangeStart(m_range, m_now), m_now);
 }
@@ -213,6 +215,7 @@ void HistoryPage::showTrend()
 
 AxisSpan HistoryPage::shownMoments() const
 {
+    // A history of a week in a chart of all time would be a line at its edge.
     const bool beginsWithFirst = m_range == HistoryRange::All && !m_samples.empty();
     const qint64 start = beginsWithFirst ? m_samples.front().moment
                                          : historyRangeStart(std::min(m_range, HistoryRange::Year), m_now);
@@ -233,6 +236,7 @@ void HistoryPage::showSamples()
 
 void HistoryPage::showLegend()
 {
+    // By what is seen: zoomed in far enough, longer ranges are shaded too.
     const bool isShaded = m_sampleChart->seen().length() <= m_sampleChart->content().shadedUpTo;
     const QString unit = m_quantity == SampleQuantity::Charge ? QStringLiteral("%") : QStringLiteral("W");
     QString legend = isShaded ? QStringLiteral("charging shaded") : QString();

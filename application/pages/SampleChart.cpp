@@ -64,6 +64,7 @@ std::vector<std::size_t> gapsOf(const std::vector<Sample>& samples)
     for (const Sample& sample : samples)
         points.push_back({sample.moment, sample.charge});
     std::vector<std::size_t> gaps = gapsBetween(points);
+    // A battery that rests gives no new samples for hours; that is no gap.
     std::erase_if(gaps, [&](std::size_t gap) { return isRest(samples[gap], samples[gap + 1]); });
     return gaps;
 }
@@ -99,6 +100,7 @@ ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quan
     content.shadedUpTo = daysOfShade * 86400;
     content.emptyText = QStringLiteral("Nothing was recorded in this time.");
     if (quantity == SampleQuantity::Charge)
+        // Always the whole scale, so that two days can be compared.
         content.values = AxisSpan{0, 100};
     content.valuesIncludeZero = true;
     std::vector<Sample> shown;
@@ -107,6 +109,7 @@ ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quan
     content.shaded = chargingSpans(shown, gapsOf(shown));
     const auto own = std::find_if(shown.begin(), shown.end(),
                                   [ownSince](const Sample& sample) { return sample.moment >= ownSince; });
+    // A series of its own: it is pale, and a reading says where it is from.
     if (own != shown.begin()) {
         content.series.push_back(seriesOf({shown.begin(), own}, quantity, INFINITY));
         content.series.back().isQuiet = true;

@@ -27,6 +27,7 @@ FoundSamples samplesIn(const QString& path, qint64 from, qint64 to)
     for (const StoredSample& each : stored) {
         found.samples.push_back(each.sample);
         if (each.source == SampleSource::UPower)
+            // In order of time: after the last one of UPower's all are the helper's.
             found.ownSince = each.sample.moment + 1;
     }
     return found;
@@ -57,6 +58,7 @@ void SavedSamples::read(qint64 from, qint64 to)
     m_work.run(work, [this, asked](const FoundSamples& result) {
         if (!result.outcome.isGood())
             Q_EMIT told(result.outcome.fault);
+        // Otherwise another range was chosen meanwhile, whose answer comes too.
         if (asked == m_asked)
             Q_EMIT found(result.samples, result.ownSince);
     });

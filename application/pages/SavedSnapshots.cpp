@@ -51,6 +51,7 @@ SavedSnapshots::SavedSnapshots(const QString& path, QObject* parent)
 void SavedSnapshots::load()
 {
     const QFileInfo file(m_path);
+    // A century of records takes seconds to read, so only a changed file is read again.
     if (isBusy() || (m_size >= 0 && file.lastModified() == m_modified && file.size() == m_size))
         return;
     m_modified = file.lastModified();
@@ -99,6 +100,7 @@ void SavedSnapshots::run(const Change& change)
         Q_EMIT told(QStringLiteral("There is no folder for snapshots: the user has no home folder"));
         return;
     }
+    // Counted, since the next change may be asked for before this one is done.
     setBusy(m_tasks + 1);
     const auto tellProgress = [this](int percent) {
         m_work.tell([this, percent] { Q_EMIT progressed(percent); });

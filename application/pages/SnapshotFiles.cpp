@@ -54,6 +54,7 @@ void askForExportFile(QWidget* parent,
     if (auto* grid = qobject_cast<QGridLayout*>(dialog->layout()))
         grid->addWidget(withSerials, grid->rowCount(), 0, 1, grid->columnCount());
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
+        // A name without one gets that of the kind that is chosen.
         dialog->setDefaultSuffix(filter.contains(QStringLiteral(".json")) ? QStringLiteral("json")
                                                                           : QStringLiteral("csv"));
     });
@@ -70,6 +71,7 @@ QString exportToFile(const QString& path, const QVariantList& records, bool with
         path.endsWith(QStringLiteral(".json"), Qt::CaseInsensitive) ? ExportFormat::Json : ExportFormat::Csv;
     options.identity = withSerialNumbers ? ExportedIdentity::Included : ExportedIdentity::LeftOut;
     QSaveFile file(QFile::decodeName(pathBytes(path)));
+    // Beside the file and then in its place: an export that fails leaves the one before.
     const bool isWritten =
         file.open(QIODevice::WriteOnly) &&
         exportSnapshots(records, options,

@@ -71,6 +71,7 @@ void addBatteries(ChartContent& content, const std::vector<CapacityPoint>& point
         addBattery(content, texts, own);
     }
     for (std::size_t older = 0; older + 1 < content.series.size(); ++older)
+        // The newest battery is the one in the computer.
         content.series[older].isQuiet = true;
     content.readingText = [texts = std::move(texts)](const ChartReading& reading) {
         return texts[reading.series][reading.point];
@@ -99,6 +100,7 @@ AxisSpan momentsOf(const ChartContent& content, const std::vector<CapacityPoint>
     const qint64 last =
         std::max(points.back().moment, content.projection ? content.projection->to.moment : 0);
     const AxisSpan span{static_cast<double>(points.front().moment), static_cast<double>(last)};
+    // Two points of the first days would otherwise be as far apart as years.
     const double room = std::max(span.length() * roomShare, (leastDays * daySeconds - span.length()) / 2);
     return {span.from - room, span.to + room};
 }
@@ -115,6 +117,7 @@ ChartContent wearChart(const std::vector<CapacityPoint>& points, const std::opti
     };
     std::vector<CapacityPoint> known;
     std::copy_if(points.begin(), points.end(), std::back_inserter(known), [](const CapacityPoint& point) {
+        // Archives may come from elsewhere, and hold anything.
         return std::isfinite(point.fullChargeCapacity) && point.fullChargeCapacity > 0;
     });
     if (known.empty())

@@ -52,6 +52,7 @@ bool SocketLink::send(const QByteArray& message)
 {
     if (message.isEmpty() || message.size() > longestMessage || m_isGone)
         return false;
+    // What waits goes first, or messages would overtake each other.
     const Outcome outcome = m_waiting.empty() ? sendNow(message) : Outcome::NoRoom;
     if (outcome != Outcome::NoRoom || m_waiting.size() >= mostWaiting)
         return outcome == Outcome::Sent;
@@ -106,6 +107,7 @@ void SocketLink::receive()
     if (count > message.size())
         return;
     message.truncate(count);
+    // A copy: the receiver may be replaced while it runs.
     const auto received = m_received;
     received(message);
 }
@@ -115,6 +117,7 @@ void SocketLink::close()
     m_isGone = true;
     m_readable.setEnabled(false);
     m_writable.setEnabled(false);
+    // Once, whoever notices first that the other end has gone.
     if (const auto closed = std::exchange(m_closed, {}))
         closed();
 }

@@ -130,6 +130,7 @@ void RestingTicks::Looks::waitForMoment(Lock& lock)
 
 void RestingTicks::Looks::look(Lock& lock)
 {
+    // Looking may take long, and the main loop goes on meanwhile.
     const int rest = m_rests;
     m_moments.pop_front();
     m_isLooking = true;
@@ -168,6 +169,7 @@ void RestingTicks::Looks::unset()
 void RestingTicks::Looks::begin()
 {
     const std::scoped_lock lock(m_mutex);
+    // A look that is under way prepares it too.
     if (m_isLooking || m_state == State::Prepared)
         return;
     m_state = State::Asked;
@@ -188,6 +190,7 @@ void RestingTicks::Looks::rest(std::deque<Clock::time_point> moments, Clock::tim
     m_moments = std::move(moments);
     m_next = next;
     set(onceAt(m_moments.front() + m_patience));
+    // Only for a moment before the one that it sleeps until: being woken costs as much as looking.
     if (m_moments.front() + almost < m_sleepsUntil)
         m_changed.notify_one();
 }

@@ -79,6 +79,7 @@ QDBusMessage UPowerHistory::answer(const QString& path, const QString& interface
     constexpr int patience = 2000; // milliseconds
     QDBusMessage call = QDBusMessage::createMethodCall(service(), path, interface, method);
     call.setArguments(arguments);
+    // A service that does not run has recorded nothing.
     call.setAutoStartService(false);
     return m_bus.call(call, QDBus::Block, patience);
 }
@@ -93,6 +94,7 @@ std::optional<QString> UPowerHistory::onlyBattery()
     QStringList batteries;
     for (const auto& device : qdbus_cast<QList<QDBusObjectPath>>(devices.arguments().constFirst())) {
         const auto isBattery = isSystemBattery(device.path());
+        // Which one it is must be certain: a week of another battery could not be told from this one's.
         if (!isBattery)
             return std::nullopt;
         if (*isBattery)
@@ -121,6 +123,7 @@ std::optional<std::vector<PowerHistoryPoint>> UPowerHistory::history(const QStri
     constexpr uint points = 7 * 24 * 60; // at most one a minute, as samples are
     const QDBusMessage found =
         answer(device, deviceInterface(), QStringLiteral("GetHistory"), {type, week, points});
+    // Asked before anything is taken out: the wrong type would end in undefined values.
     if (found.signature() != u"a(udu)")
         return std::nullopt;
     const auto list = found.arguments().constFirst().value<QDBusArgument>();
