@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """The helper as a StatusNotifierItem in a real panel."""
 
+import os
 import re
+import signal
 import time
 import unittest
 
@@ -103,6 +105,22 @@ class NotifierItem(HelperCase):
         self.assertEqual(self.desktop.panel_text_colour(), "#FF0102")
         self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.AboutToShow", "0")
         self.assert_in_panel("#FF0102")
+
+    def test_a_server_that_hangs_for_a_moment_leaves_the_colours_as_they_were(self):
+        panel = self.desktop.panel_text_colour()
+        self.start(machine(95))
+        self.assert_title("95.0%")
+        time.sleep(5)
+        self.assert_in_panel(panel)
+        server = next(pid for pid in self.desktop._own_processes() if "Xvfb" in self.desktop._command_line(pid))
+        os.kill(server, signal.SIGSTOP)
+        try:
+            self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.AboutToShow", "0")
+            time.sleep(1)
+        finally:
+            os.kill(server, signal.SIGCONT)
+        time.sleep(1)
+        self.assert_in_panel(panel)
 
     def test_click_opens_the_view_and_escape_closes_it(self):
         self.start(machine(66))

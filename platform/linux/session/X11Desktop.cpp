@@ -55,6 +55,7 @@ X11Tray x11Tray(X11Display& display, ServerMark& mark)
 {
     const auto question = [name = mark.name(), isSet = mark.isSet()](const X11Connection& connection) {
         X11Tray tray = trayOf(connection);
+        tray.isAnswered = true;
         if (tray.isThere && !isSet)
             connection.makeAtom(name);
         tray.isMarked = connection.hasAtom(name);

@@ -14,6 +14,7 @@ class X11Display;
 /// The X11 tray, in which windows are shown as icons.
 struct X11Tray
 {
+    bool isAnswered = false; ///< false: the server was too slow, and nothing is known
     bool isThere = false;
     Argb textColour = 0;   ///< from _NET_SYSTEM_TRAY_COLORS; transparent where it does not set that
     bool isMarked = false; ///< the server; see ServerMark

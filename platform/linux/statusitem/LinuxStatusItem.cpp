@@ -241,8 +241,11 @@ X11Tray LinuxStatusItem::lookAtPanel()
     const X11Tray tray = x11Tray(m_display, m_serverMark);
     if (tray.wasReset)
         m_surroundings.displayReset();
-    m_panelSeen = timeSinceBoot();
-    m_wanted.textColour = tray.textColour;
+    // On a busy computer the colours stay what they were, and are asked for again with the next change.
+    if (tray.isAnswered || !m_display.hasName()) {
+        m_panelSeen = timeSinceBoot();
+        m_wanted.textColour = tray.textColour;
+    }
     m_font.forgetAnswer();
     return tray;
 }
