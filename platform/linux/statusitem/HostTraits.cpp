@@ -9,15 +9,20 @@ namespace quindle {
 namespace {
 
 constexpr HostTraits labelHost{.shape = HostShape::Label};
+constexpr HostTraits squashingLabelHost{.shape = HostShape::Label, .squaresOnly = true};
 constexpr HostTraits labelHostWithFiles{.shape = HostShape::Label, .needsIconFile = true};
 constexpr HostTraits wideHost{.shape = HostShape::Wide};
 constexpr HostTraits squareHost{.shape = HostShape::Square};
-constexpr HostTraits xfceHost{.shape = HostShape::Square, .escapesToolTipTitle = true};
-constexpr HostTraits lxqtHost{.shape = HostShape::Square, .showsToolTipTitleOnly = true};
+constexpr HostTraits budgieHost{.shape = HostShape::Square, .squaresOnly = true};
+constexpr HostTraits xfceHost{.shape = HostShape::Square, .escapesToolTipTitle = true, .squaresOnly = true};
+constexpr HostTraits lxqtHost{.shape = HostShape::Square, .showsToolTipTitleOnly = true, .squaresOnly = true};
 constexpr HostTraits mateHost{.shape = HostShape::Wide, .takesLabel = false, .labelHidesIcon = true};
-constexpr HostTraits gnomeHost{
-    .shape = HostShape::Label, .coloursDrawings = true, .drawsSmall = true, .cutsTallMenus = true};
-constexpr HostTraits plasmaHost{.shape = HostShape::Square, .coloursDrawings = true};
+constexpr HostTraits gnomeHost{.shape = HostShape::Label,
+                               .coloursDrawings = true,
+                               .drawsSmall = true,
+                               .squaresOnly = true,
+                               .cutsTallMenus = true};
+constexpr HostTraits plasmaHost{.shape = HostShape::Square, .coloursDrawings = true, .squaresOnly = true};
 
 struct ProgramRow
 {
@@ -27,14 +32,14 @@ struct ProgramRow
 
 constexpr std::array programs{
     ProgramRow{u"ayatana-indicator-application-service", labelHostWithFiles},
-    ProgramRow{u"budgie-panel", squareHost},
+    ProgramRow{u"budgie-panel", budgieHost},
     ProgramRow{u"cinnamon", wideHost},
     ProgramRow{u"gnome-shell", gnomeHost},
     ProgramRow{u"indicator-application-service", labelHostWithFiles},
     ProgramRow{u"kded5", plasmaHost},
     ProgramRow{u"kded6", plasmaHost},
     ProgramRow{u"lxqt-panel", lxqtHost},
-    ProgramRow{u"mate-panel", labelHost},
+    ProgramRow{u"mate-panel", squashingLabelHost},
     ProgramRow{u"notification-area-applet", mateHost},
     ProgramRow{u"plasmashell", plasmaHost},
     ProgramRow{u"swaybar", squareHost},
@@ -45,7 +50,7 @@ constexpr std::array programs{
 };
 
 constexpr std::array desktops{
-    ProgramRow{u"Budgie", squareHost},   //
+    ProgramRow{u"Budgie", budgieHost},   //
     ProgramRow{u"GNOME", gnomeHost},     //
     ProgramRow{u"KDE", plasmaHost},      //
     ProgramRow{u"LXQt", lxqtHost},       //
@@ -91,8 +96,9 @@ HostTraits withChoice(HostTraits traits, const QString& choice)
     if (choice == QLatin1String("label") && !traits.labelHidesIcon) {
         traits.shape = HostShape::Label;
     } else if (choice == QLatin1String("wide") && !traits.needsIconFile) {
-        // A host with labels would show the title twice.
-        traits.shape = HostShape::Wide;
+        // As much text as there is room for. A host with labels would show a wide picture's twice.
+        traits.shape = traits.squaresOnly ? HostShape::Square : HostShape::Wide;
+        traits.showsNumber = traits.squaresOnly;
         traits.takesLabel = false;
     } else if (choice == QLatin1String("icon")) {
         traits.shape = HostShape::Square;

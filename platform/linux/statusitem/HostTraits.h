@@ -26,6 +26,8 @@ struct HostTraits
     bool labelHidesIcon =
         false; ///< even an empty label does; a wide picture is shown if icon-high ones are there
     bool drawsSmall = false;    ///< a drawing gets 16 pixels, which are too few for one made on 22
+    bool squaresOnly = false;   ///< a wide picture is made so low that its text is a smudge
+    bool showsNumber = false;   ///< the charge as a number is preferred to the icon
     bool neverScales = false;   ///< it needs a picture of each size that it may have room for
     bool cutsTallMenus = false; ///< the last rows of a menu higher than the screen cannot be reached
     Argb textColour = 0;        ///< what its panel writes in; transparent while that is unknown

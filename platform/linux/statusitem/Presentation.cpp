@@ -22,23 +22,22 @@ Picture iconPicture(const QString& imageName)
     return {Picture::Kind::Icon, imageName, {}, 0.0, 0};
 }
 
-Picture squarePicture(const ItemContents& contents)
+Picture squarePicture(const ItemContents& contents, bool showsNumber)
 {
-    if (!contents.imageName.isEmpty())
-        return iconPicture(contents.imageName);
     const QString text = contents.fallbackText.trimmed();
     // A square has room for "100".
-    if (text.isEmpty() || text.size() > squareTextLength)
-        return iconPicture(lastResortImage());
-    return {Picture::Kind::Text, {}, text, 0.0, 0};
+    const bool hasNumber = !text.isEmpty() && text.size() <= squareTextLength;
+    if (!contents.imageName.isEmpty() && !(showsNumber && hasNumber))
+        return iconPicture(contents.imageName);
+    return hasNumber ? Picture{Picture::Kind::Text, {}, text, 0.0, 0} : iconPicture(lastResortImage());
 }
 
-Picture pictureFor(const ItemContents& contents, HostShape shape)
+Picture pictureFor(const ItemContents& contents, const HostTraits& host)
 {
     const QString line = elided(singleLine(contents.title).trimmed(), drawnLength);
-    if (line.isEmpty() || shape == HostShape::Square)
-        return squarePicture(contents);
-    if (shape == HostShape::Wide)
+    if (line.isEmpty() || host.shape == HostShape::Square)
+        return squarePicture(contents, host.showsNumber);
+    if (host.shape == HostShape::Wide)
         return {Picture::Kind::Wide, contents.imageName, line, contents.fontSize, 0};
     // The host writes the title beside it, and without a picture would show its own for missing ones.
     if (contents.imageName.isEmpty())
@@ -83,7 +82,7 @@ Presentation present(const ItemContents& contents, const HostTraits& host, const
         presented.label = elided(singleLine(contents.title), labelLength);
     if (!presented.label.isEmpty())
         presented.labelGuide = QStringLiteral("100.0%");
-    presented.picture = pictureFor(contents, host.shape);
+    presented.picture = pictureFor(contents, host);
     presented.picture.ink = host.textColour;
     presented.picture.inAllHeights = host.labelHidesIcon;
     presented.picture.isSmall = host.drawsSmall;

@@ -107,5 +107,25 @@ TEST(HostTraits, OnlyGnomeShowsDrawingsInSixteenPixels)
     EXPECT_FALSE(hostTraits({}, {}).drawsSmall);
 }
 
+TEST(HostTraits, AWidePictureBecomesANumberWhereItWouldBeASmudge)
+{
+    for (const char* program :
+         {"wrapper-2.0", "lxqt-panel", "kded5", "gnome-shell", "budgie-panel", "mate-panel"}) {
+        const HostTraits host =
+            withChoice(hostTraits({QString::fromLatin1(program), {}}, {}), QStringLiteral("wide"));
+        EXPECT_EQ(host.shape, HostShape::Square) << program;
+        EXPECT_TRUE(host.showsNumber) << program;
+        EXPECT_FALSE(host.takesLabel) << program;
+    }
+    for (const char* program : {"waybar", "notification-area-applet", "xapp-sn-watcher", "somebody-new"}) {
+        const HostTraits host =
+            withChoice(hostTraits({QString::fromLatin1(program), {}}, {}), QStringLiteral("wide"));
+        EXPECT_EQ(host.shape, HostShape::Wide) << program;
+        EXPECT_FALSE(host.showsNumber) << program;
+    }
+    EXPECT_FALSE(
+        withChoice(hostTraits({QStringLiteral("lxqt-panel"), {}}, {}), QStringLiteral("icon")).showsNumber);
+}
+
 } // namespace
 } // namespace quindle

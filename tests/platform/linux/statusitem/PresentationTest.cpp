@@ -65,6 +65,17 @@ INSTANTIATE_TEST_SUITE_P(
                     "AppIconBW", ""}),
     [](const auto& row) { return row.param.name; });
 
+TEST(Presentation, ANumberStandsForAWidePictureWherePicturesAreSquare)
+{
+    HostTraits host = squareHost;
+    host.showsNumber = true;
+    const ItemContents known{u("87.0% 1:35"), u("#bat34"), u("87"), {}, 12.0};
+    EXPECT_EQ(present(known, host).picture.kind, PictureKind::Text);
+    EXPECT_EQ(present(known, host).picture.text, u("87"));
+    const ItemContents unknown{u(""), u("#nobat"), u(""), {}, 12.0};
+    EXPECT_EQ(present(unknown, host).picture.imageName, u("#nobat"));
+}
+
 TEST(Presentation, textsOfAnOrdinaryTitle)
 {
     const Presentation presented = present({u("87.0%"), {}, u("87"), u("Charging"), 12.0}, squareHost);
