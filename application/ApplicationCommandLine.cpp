@@ -16,6 +16,7 @@ struct Given
     bool version = false;
     bool record = false;
     bool withSerials = false;
+    bool samples = false;
     std::optional<QString> format;
     std::optional<QString> since;
 };
@@ -29,6 +30,7 @@ QString readArguments(const QStringList& arguments, Given& given)
         {"--version", &given.version},
         {"--record", &given.record},
         {"--with-serials", &given.withSerials},
+        {"--samples", &given.samples},
         {"--export", &given.format},
         {"--since", &given.since},
     };
@@ -50,6 +52,10 @@ QString contradiction(const Given& given)
         return QStringLiteral("--since belongs to --export");
     if (!given.format && given.withSerials)
         return QStringLiteral("--with-serials belongs to --export");
+    if (!given.format && given.samples)
+        return QStringLiteral("--samples belongs to --export");
+    if (given.samples && given.withSerials)
+        return QStringLiteral("--samples have no serial numbers");
     if (given.since && !dateOf(*given.since).isValid())
         return QStringLiteral("--since is a date, such as 2026-03-31");
     return {};
@@ -82,13 +88,14 @@ ApplicationCommandLine parseApplicationCommandLine(const QStringList& arguments)
     if (given.since && dateOf(*given.since).isValid())
         commandLine.since = dateOf(*given.since);
     commandLine.withSerials = given.withSerials;
+    commandLine.samples = given.samples;
     return commandLine;
 }
 
 QString applicationHelpText()
 {
     return QStringLiteral(
-        "Usage: quindle [--record | --export csv|json [--since DATE] [--with-serials]]\n"
+        "Usage: quindle [--record | --export csv|json [--since DATE] [--samples | --with-serials]]\n"
         "\n"
         "Shows the battery of this computer in a window. One runs in a session: a second start raises the\n"
         "window of the first and ends.\n"
@@ -98,6 +105,7 @@ QString applicationHelpText()
         "                    there is none yet; the helper calls it\n"
         "  --export FORMAT   no window: the saved snapshots on standard output, as csv or json\n"
         "  --since DATE      with --export: only those of that day (2026-03-31) and later\n"
+        "  --samples         with --export: the recorded charge and power in place of the snapshots\n"
         "  --with-serials    with --export: serial numbers too\n"
         "  -h, --help        this text\n"
         "  --version         the version\n"

@@ -16,10 +16,11 @@ struct ApplicationCommandLine
     enum class Call { Window, Record, Export, Help, Version };
 
     Call call = Call::Window;
-    ExportFormat format = ExportFormat::Csv; ///< of Export, as the two below
+    ExportFormat format = ExportFormat::Csv; ///< of Export, as the three below
     std::optional<QDate> since;
     bool withSerials = false;
-    QString fault; ///< why the call is wrong usage, one line; empty when it is right
+    bool samples = false; ///< and not the snapshots
+    QString fault;        ///< why the call is wrong usage, one line; empty when it is right
 };
 
 /// Reads the arguments (without the program's name). `--help` and `--version` win over the other calls.

@@ -165,7 +165,8 @@ int exportTo(const Platform& platform, const ApplicationCommandLine& commandLine
     QFile output;
     if (!output.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered))
         return fail(QStringLiteral("cannot write to standard output: ") + output.errorString(), EX_IOERR);
-    return exportHistory(platform, options, output, &report);
+    return commandLine.samples ? exportSamples(platform, options, output, &report)
+                               : exportHistory(platform, options, output, &report);
 }
 
 int runCommand(const ApplicationCommandLine& commandLine, const std::optional<Machine>& machine)

@@ -1,10 +1,14 @@
 #include "application/commands/ExportCommand.h"
 
+#include <limits>
+
 #include <QFileInfo>
 #include <sysexits.h>
 
 #include "history/SavedHistory.h"
 #include "platform/Host.h"
+#include "records/SampleExport.h"
+#include "records/SampleStore.h"
 #include "records/SnapshotArchive.h"
 
 namespace quindle {
@@ -46,6 +50,27 @@ bool write(const QVariantList& records, const ExportOptions& options, QIODevice&
            writer.flush();
 }
 
+/// The file of the history, where there is one; else it is reported why not, and empty.
+QString existingPath(const Platform& platform, QString (*file)(const QString& folder), const char* missing,
+                     const CommandReport& report)
+{
+    const QStringList folders = platform.userDirectories.applicationSupportDirectories();
+    const QString path = folders.isEmpty() ? QString() : file(folders.constFirst());
+    if (!path.isEmpty() && QFileInfo::exists(path))
+        return path;
+    report(path.isEmpty() ? QStringLiteral("there is no folder for the history")
+                          : path + QStringLiteral(": ") + QString::fromLatin1(missing));
+    return {};
+}
+
+int endOf(bool isWritten, const QIODevice& output, const CommandReport& report)
+{
+    if (isWritten)
+        return EX_OK;
+    report(QStringLiteral("cannot write to standard output: ") + output.errorString());
+    return EX_IOERR;
+}
+
 } // namespace
 
 std::optional<ExportFormat> exportFormatNamed(const QString& name)
@@ -60,22 +85,33 @@ std::optional<ExportFormat> exportFormatNamed(const QString& name)
 int exportHistory(const Platform& platform, const ExportOptions& options, QIODevice& output,
                   const CommandReport& report)
 {
-    const QStringList folders = platform.userDirectories.applicationSupportDirectories();
-    const QString path = folders.isEmpty() ? QString() : savedHistoryFile(folders.constFirst());
-    if (path.isEmpty() || !QFileInfo::exists(path)) {
-        report((path.isEmpty() ? QStringLiteral("there is no folder for the history")
-                               : path + QStringLiteral(": no snapshot has been saved yet")));
+    const QString path = existingPath(platform, &savedHistoryFile, "no snapshot has been saved yet", report);
+    if (path.isEmpty())
         return EX_NOINPUT;
-    }
     const ArchivedRecords archived = SnapshotArchive(path).read();
     if (!archived.fault.isEmpty()) {
         report(archived.fault);
         return EX_DATAERR;
     }
-    if (write(archived.records, options, output))
-        return EX_OK;
-    report(QStringLiteral("cannot write to standard output: ") + output.errorString());
-    return EX_IOERR;
+    return endOf(write(archived.records, options, output), output, report);
+}
+
+int exportSamples(const Platform& platform, const ExportOptions& options, QIODevice& output,
+                  const CommandReport& report)
+{
+    const QString path = existingPath(platform, &historyFile, "nothing has been recorded yet", report);
+    if (path.isEmpty())
+        return EX_NOINPUT;
+    const qint64 from = options.since ? options.since->toSecsSinceEpoch() : 0;
+    StoreOutcome outcome;
+    const auto samples = SampleStore(path).samplesBetween(from, std::numeric_limits<qint64>::max(), &outcome);
+    for (const QString& line : {outcome.notice, outcome.fault})
+        if (!line.isEmpty())
+            report(line);
+    if (!outcome.isGood() || !outcome.notice.isEmpty())
+        return EX_DATAERR;
+    const QByteArray text = samplesText(samples, options.format);
+    return endOf(output.write(text) == text.size(), output, report);
 }
 
 } // namespace quindle

@@ -21,4 +21,8 @@ std::optional<ExportFormat> exportFormatNamed(const QString& name);
 int exportHistory(const Platform& platform, const ExportOptions& options, QIODevice& output,
                   const CommandReport& report);
 
+/// The same for the recorded samples of charge and power, from `options.since` on.
+int exportSamples(const Platform& platform, const ExportOptions& options, QIODevice& output,
+                  const CommandReport& report);
+
 } // namespace quindle

@@ -1,5 +1,7 @@
 // What the history page saves: a picture of itself, and the numbers that it shows.
+#include <algorithm>
 #include <functional>
+#include <iterator>
 
 #include <QDir>
 #include <QFile>
@@ -12,11 +14,11 @@
 #include <QSvgGenerator>
 
 #include "application/pages/HistoryPage.h"
-#include "application/pages/SampleTable.h"
 #include "charts/ChartLook.h"
 #include "charts/ChartPainter.h"
 #include "charts/TimeSeriesChart.h"
 #include "common/Paths.h"
+#include "records/SampleExport.h"
 #include "widgets/PaletteMix.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/PlainText.h"
@@ -134,7 +136,11 @@ bool HistoryPage::writeDrawing(QIODevice& file) const
 
 void HistoryPage::saveTable(const QString& path)
 {
-    const QByteArray table = sampleTable(m_samples, m_sampleChart->seen());
+    const AxisSpan seen = m_sampleChart->seen();
+    std::vector<Sample> samples;
+    std::copy_if(m_samples.begin(), m_samples.end(), std::back_inserter(samples),
+                 [&seen](const Sample& sample) { return seen.contains(static_cast<double>(sample.moment)); });
+    const QByteArray table = samplesText(samples, ExportFormat::Csv);
     tell(path, written(path, [&table](QIODevice& file) { return file.write(table) == table.size(); }));
 }
 

@@ -59,12 +59,20 @@ TEST(ApplicationCommandLineTest, WhatDoesNotGoTogetherIsSaid)
         {"--since 2026-01-01", "--since belongs to --export"},
         {"--with-serials", "--with-serials belongs to --export"},
         {"--record --with-serials", "--with-serials belongs to --export"},
+        {"--samples", "--samples belongs to --export"},
+        {"--export csv --samples --with-serials", "--samples have no serial numbers"},
         {"--export csv --since", "--since is a date, such as 2026-03-31"},
         {"--export csv --since 2026-02-30", "--since is a date, such as 2026-03-31"},
         {"--export csv --since yesterday", "--since is a date, such as 2026-03-31"},
     };
     for (const auto& [arguments, fault] : cases)
         EXPECT_EQ(parsed(arguments).fault, QString::fromLatin1(fault)) << arguments;
+}
+
+TEST(ApplicationCommandLineTest, SamplesAreExportedWhereTheyAreAskedFor)
+{
+    EXPECT_FALSE(parsed("--export csv").samples);
+    EXPECT_TRUE(parsed("--export csv --samples").samples);
 }
 
 TEST(ApplicationCommandLineTest, HelpAndVersionWin)
@@ -83,7 +91,7 @@ TEST(ApplicationCommandLineTest, NothingElse)
 TEST(ApplicationCommandLineTest, HelpNamesEveryOption)
 {
     for (const char* option :
-         {"--help", "-h", "--version", "--record", "--export", "--since", "--with-serials"})
+         {"--help", "-h", "--version", "--record", "--export", "--since", "--samples", "--with-serials"})
         EXPECT_TRUE(applicationHelpText().contains(QLatin1String(option))) << option;
 }
 

@@ -70,6 +70,35 @@ TEST_F(ExportCommandTest, AFullDiskBehindTheOutputIsNoticed)
     EXPECT_EQ(lines[0], QStringLiteral("cannot write to standard output: No space left on device"));
 }
 
+TEST_F(ExportCommandTest, SamplesFromADayOn)
+{
+    const auto samples = [this](const ExportOptions& options) {
+        QBuffer buffer(&written);
+        buffer.open(QIODevice::WriteOnly | QIODevice::Truncate);
+        return exportSamples(computer.platform, options, buffer, report());
+    };
+    EXPECT_EQ(samples({}), EX_NOINPUT);
+    EXPECT_EQ(lines, QStringList{database() + QStringLiteral(": nothing has been recorded yet")});
+    SampleStore(database()).append({sampleAt(1000, 60), sampleAt(2000, 59)});
+    EXPECT_EQ(samples({}), EX_OK);
+    EXPECT_EQ(written.count("\r\n"), 3);
+    EXPECT_EQ(samples({.since = QDateTime::fromSecsSinceEpoch(1500)}), EX_OK);
+    EXPECT_EQ(written, "Moment,Charge,Power,State\r\n1970-01-01T00:33:20Z,59.00,-8.50,discharging\r\n");
+    EXPECT_EQ(samples({.format = ExportFormat::Json}), EX_OK);
+    EXPECT_TRUE(written.startsWith("[\n{"));
+}
+
+TEST_F(ExportCommandTest, ADamagedDatabaseIsNoEmptyTable)
+{
+    write(database(), QByteArray("no database ").repeated(1000));
+    QBuffer buffer(&written);
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_EQ(exportSamples(computer.platform, {}, buffer, report()), EX_DATAERR);
+    EXPECT_EQ(written, QByteArray());
+    ASSERT_EQ(lines.size(), 1);
+    EXPECT_TRUE(lines[0].contains(database()));
+}
+
 TEST(ExportFormats, ByTheirNames)
 {
     EXPECT_EQ(exportFormatNamed(QStringLiteral("csv")), ExportFormat::Csv);

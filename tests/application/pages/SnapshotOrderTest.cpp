@@ -11,17 +11,17 @@ namespace {
 
 using Order = std::vector<int>;
 
-QVariantMap record(qint64 day, const QVariant& health, qint64 cycles, const char* computer)
+QVariantMap record(qint64 dayNumber, const QVariant& health, qint64 cycles, const char* computer)
 {
     QVariantMap made{{latin("Battery.CycleCount"), cycles}, {latin("Mac.Model"), latin(computer)}};
-    if (day > 0)
-        made.insert(latin("Data.SnapshotDate"), QDateTime::fromSecsSinceEpoch(day * 86400, Qt::UTC));
+    if (dayNumber > 0)
+        made.insert(latin("Data.SnapshotDate"), QDateTime::fromSecsSinceEpoch(dayNumber * 86400, Qt::UTC));
     if (health.isValid())
         made.insert(latin("Battery.StateOfHealth"), health);
     return made;
 }
 
-const QVariantList records{
+const QVariantList unsorted{
     record(3, 91.5, 20, "beta"),
     record(0, {}, 10, "Alpha"),
     record(1, 99.0, 20, ""),
@@ -44,8 +44,8 @@ TEST(SnapshotOrder, EachColumnInBothDirections)
              Case{SnapshotColumn::FullCharge, {0, 1, 2, 3}, {0, 1, 2, 3}},
              Case{SnapshotColumn::Computer, {1, 3, 0, 2}, {0, 1, 3, 2}},
          }) {
-        EXPECT_EQ(snapshotOrder(records, each.column, Qt::AscendingOrder), each.ascending);
-        EXPECT_EQ(snapshotOrder(records, each.column, Qt::DescendingOrder), each.descending);
+        EXPECT_EQ(snapshotOrder(unsorted, each.column, Qt::AscendingOrder), each.ascending);
+        EXPECT_EQ(snapshotOrder(unsorted, each.column, Qt::DescendingOrder), each.descending);
     }
 }
 
