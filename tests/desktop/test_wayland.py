@@ -6,26 +6,25 @@ import os
 import plistlib
 import unittest
 
-from helper_case import HelperCase, machine, wait_for
+from helper_case import Desktop, HelperCase, machine, wait_for
 
 APPLICATION = os.environ.get("QUINDLE_APPLICATION", "")
 OWN = "com.fernhollow.Quindle-Helper.plist"
+
+
+def application_nodes(tree):
+    """The windows of these programs in the compositor's tree."""
+    own = [tree] if "quindle" in (tree.get("app_id") or "") else []
+    for node in tree.get("nodes", []) + tree.get("floating_nodes", []):
+        own += application_nodes(node)
+    return own
 
 
 class Wayland(HelperCase):
     host = "waybar"
 
     def tree_windows(self):
-        found = []
-
-        def walk(node):
-            if node.get("app_id"):
-                found.append(node)
-            for child in node.get("nodes", []) + node.get("floating_nodes", []):
-                walk(child)
-
-        walk(json.loads(self.desktop.call("swaymsg", "-t", "get_tree") or "{}"))
-        return [node for node in found if "quindle" in node["app_id"]]
+        return application_nodes(json.loads(self.desktop.call("swaymsg", "-t", "get_tree") or "{}"))
 
     def test_title_and_view(self):
         self.start(machine(66))
@@ -42,28 +41,35 @@ class Wayland(HelperCase):
         self.assertEqual(second.wait(5), 0)
         self.assertTrue(wait_for(self.tree_windows, 5))
 
-    def stored_page(self):
-        for path in self.desktop.root.rglob(OWN):
-            try:
-                return plistlib.loads(path.read_bytes()).get("ApplicationPage")
-            except (OSError, plistlib.InvalidFileException):
-                return None
-        return None
 
-    def test_the_application(self):
-        system = self.desktop.root / "application/sys/class/power_supply/BAT0"
-        system.mkdir(parents=True)
-        for name, value in (("type", "Battery"), ("present", 1), ("status", "Discharging"), ("charge_now", 3000000),
-                            ("charge_full", 6000000), ("charge_full_design", 6500000), ("voltage_now", 12000000)):
-            (system / name).write_text(f"{value}\n")
-        process = self.desktop.start(APPLICATION, env={"QUINDLE_SYSFS": str(system.parents[2])})
-        self.addCleanup(process.kill)
-        window = wait_for(self.tree_windows, 10)
-        self.assertEqual([node["app_id"] for node in window], ["quindle"])
-        self.assertTrue(window[0]["visible"])
-        # No keyboard is at hand here: a compositor of its own has none to type with.
-        self.desktop.call("swaymsg", "kill")
-        self.assertEqual(process.wait(10), 0)
+class ApplicationInWayland(unittest.TestCase):
+    """The application's window under a compositor that has mouse and keyboard."""
+
+    def test_is_mapped_and_changes_its_pages(self):
+        with Desktop("waybar", pointer=True) as desktop:
+            system = desktop.root / "sys"
+            supply = system / "class/power_supply/BAT0"
+            supply.mkdir(parents=True)
+            for name, value in (("type", "Battery"), ("present", 1), ("status", "Discharging"), ("charge_now", 3000000),
+                                ("charge_full", 6000000), ("charge_full_design", 6500000), ("voltage_now", 12000000)):
+                (supply / name).write_text(f"{value}\n")
+            process = desktop.start(APPLICATION, env={"QUINDLE_SYSFS": str(system)})
+            self.assertTrue(wait_for(lambda: self.is_focused(desktop), 15), "no window has the keyboard")
+            # A key that the compositor has not passed on yet is pressed again.
+            self.assertTrue(wait_for(lambda: desktop.key("ctrl+3") or self.stored_page(desktop) == "Snapshots", 15))
+            desktop.key("ctrl+q")
+            self.assertEqual(process.wait(10), 0)
+
+    @staticmethod
+    def is_focused(desktop):
+        tree = json.loads(desktop.call("swaymsg", "-t", "get_tree") or "{}")
+        return any(node["app_id"] == "quindle" and node["focused"] and node["visible"] for node in application_nodes(tree))
+
+    @staticmethod
+    def stored_page(desktop):
+        for path in desktop.root.rglob(OWN):
+            return plistlib.loads(path.read_bytes()).get("ApplicationPage")
+        return None
 
 
 if __name__ == "__main__":
