@@ -21,8 +21,10 @@ constexpr std::size_t mostReadings = 128;
 
 void RecentReadings::add(const BatteryReading& reading)
 {
-    std::erase_if(m_readings,
-                  [&](const Entry& entry) { return reading.moment - entry.moment > keptSeconds; });
+    // The last one before the minute holds at its beginning: a refresh that would find nothing new is left
+    // out.
+    while (m_readings.size() > 1 && reading.moment - m_readings[1].moment >= keptSeconds)
+        m_readings.erase(m_readings.begin());
     // Within the minute too: no driver decides how much is kept.
     if (m_readings.size() >= mostReadings)
         m_readings.erase(m_readings.begin());

@@ -9,7 +9,7 @@ namespace quindle {
 
 struct BatteryReading;
 
-/// The readings of the last minute, for what a single one cannot tell.
+/// The readings of the last minute, for what a single one cannot tell. A reading holds until the next one.
 class RecentReadings
 {
 public:

@@ -11,7 +11,9 @@ using Kind = WarningAction::Kind;
 // Two refreshes of one change come within milliseconds, and know no more than one does.
 constexpr qint64 secondsToAgree = 5;
 constexpr qint64 quietSeconds = 60;
-constexpr qint64 longestPause = 60; // seconds between two refreshes of a computer that is awake
+// Seconds between two refreshes of a computer that is awake; those that find nothing new are left out for a
+// minute at most.
+constexpr qint64 longestPause = 150;
 
 /// Since when it has been so, if it is so.
 void keepSince(std::optional<qint64>& since, bool isSo, qint64 moment)

@@ -35,8 +35,8 @@ struct WarningAction
 class WarningWatch
 {
 public:
-    /// What a reading leads to, in order. Readings that are further apart than a minute, or run backwards,
-    /// count as a wake in between.
+    /// What a reading leads to, in order. Readings that are minutes apart, or run backwards, count as a
+    /// wake in between.
     std::vector<WarningAction> take(const BatteryReading& reading, const WarningSettings& settings);
 
     /// The computer has woken at that moment, in seconds since 1970.

@@ -36,12 +36,29 @@ TEST_F(RecentReadingsTest, AJumpIsMoreThanFifteenPointsInAMinute)
     EXPECT_TRUE(recent.hasJumped());
 }
 
-TEST_F(RecentReadingsTest, AnOlderReadingDoesNotCount)
+TEST_F(RecentReadingsTest, AReadingHoldsUntilTheNext)
 {
     add(50);
-    moment += 51;
+    moment += 90;
     add(30);
-    EXPECT_FALSE(recent.hasJumped());
+    EXPECT_TRUE(recent.hasJumped());
+    for (int reading = 0; reading < 5; ++reading) {
+        add(30);
+        EXPECT_TRUE(recent.hasJumped());
+    }
+    add(30);
+    EXPECT_FALSE(recent.hasJumped()) << "it is a minute ago";
+}
+
+TEST_F(RecentReadingsTest, ATimeIsSteadyWhereReadingsAreSeldom)
+{
+    add(50, 20);
+    moment += 60;
+    add(50, 20);
+    EXPECT_EQ(recent.steadyMinutes(), 20);
+    moment += 60;
+    add(50, 10);
+    EXPECT_EQ(recent.steadyMinutes(), std::nullopt);
 }
 
 TEST_F(RecentReadingsTest, AJumpUpwardsIsOneToo)

@@ -42,6 +42,13 @@ struct WarningStream
         take(percent - reading.percent);
     }
 
+    /// One reading, so much later, of what is the same since.
+    void readAfter(qint64 seconds)
+    {
+        reading.moment += seconds;
+        take(0);
+    }
+
     void sleep(double seconds, double to)
     {
         reading.moment += static_cast<qint64>(seconds);

@@ -162,6 +162,23 @@ TEST_F(WarningWatchTest, APauseIsASleepThatNobodyTold)
     EXPECT_EQ(lines().size(), 1);
 }
 
+// Refreshes that would find nothing new are left out.
+TEST_F(WarningWatchTest, ReadingsAMinuteApartAreBelieved)
+{
+    begin(60);
+    reading.minutesToEmpty = 15;
+    for (int time = 0; time < 4; ++time)
+        readAfter(70);
+    expect("08:05:30 show Battery low: About 15 minutes left\n");
+    reading.percent = 9;
+    reading.minutesToEmpty.reset();
+    readAfter(70);
+    expectNothing();
+    readAfter(70);
+    readAfter(70);
+    expect("08:09:00 replace Battery very low: 9% left\n");
+}
+
 TEST_F(WarningWatchTest, AClockThatIsSetBackEndsNothing)
 {
     begin(22);
