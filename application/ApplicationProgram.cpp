@@ -55,9 +55,10 @@ QString stateOf(const QDBattery* battery)
 } // namespace
 
 ApplicationProgram::ApplicationProgram(const Platform& platform, ApplicationPreferences& preferences,
-                                       Bundle& helperBundle, bool placesWindows)
+                                       Bundle& helperBundle, bool placesWindows, PowerManagers* powerManagers)
     : m_platform(platform)
     , m_helperBundle(helperBundle)
+    , m_powerManagers(powerManagers)
     , m_delegate(m_platform, preferences, m_interface, &QDMac::init, noControllers)
     , m_settings(preferences, platform.userDefaults.standard(), platform.loginItems, platform.bundle,
                  platform.distributedNotificationCenter)
@@ -99,7 +100,7 @@ std::vector<ApplicationPage> ApplicationProgram::pages()
     const auto settings = [this](QWidget* parent) {
         return new SettingsPage(
             m_general, m_platform.userDefaults.standard(), m_platform.distributedNotificationCenter,
-            [this] { deleteHistory(); }, parent);
+            m_powerManagers, [this] { deleteHistory(); }, parent);
     };
     return {{QStringLiteral("Battery"), battery},
             {QStringLiteral("History"), history},

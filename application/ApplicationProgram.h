@@ -21,6 +21,7 @@ namespace quindle {
 class ApplicationPreferences;
 class HistoryPage;
 class PowerHistory;
+class PowerManagers;
 
 /// The application on its computer: models of its own, which are refreshed as the helper's are, and the
 /// window that shows them. Main thread only; needs a QApplication.
@@ -30,9 +31,9 @@ class ApplicationProgram : public QObject
 
 public:
     /// What is passed in must outlive it. `helperBundle` is the bundle that machine files name.
-    /// `placesWindows` as for ApplicationWindow.
+    /// `placesWindows` as for ApplicationWindow. Without `powerManagers` nobody else is known to warn.
     ApplicationProgram(const Platform& platform, ApplicationPreferences& preferences, Bundle& helperBundle,
-                       bool placesWindows);
+                       bool placesWindows, PowerManagers* powerManagers = nullptr);
     ~ApplicationProgram() override;
 
     /// Shows the window, or brings it to the front.
@@ -62,6 +63,7 @@ private:
 
     Platform m_platform;
     Bundle& m_helperBundle;
+    PowerManagers* m_powerManagers;
     MainInterface m_interface;
     HelperAppDelegate m_delegate;
     BoundSettings m_settings;

@@ -21,6 +21,7 @@
 #include "application/commands/RecordCommand.h"
 #include "common/Paths.h"
 #include "platform/PowerHistory.h"
+#include "platform/linux/notifications/LinuxPowerManagers.h"
 #include "platform/linux/os/CoreDumps.h"
 #include "platform/linux/os/StandardError.h"
 #include "platform/linux/session/SingleInstance.h"
@@ -107,8 +108,9 @@ int run(ApplicationServices& services, SingleInstance& instance, bool isThisComp
     const Platform platform = services.platform();
     // A desktop of this kind places windows itself.
     const bool isWayland = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    LinuxPowerManagers powerManagers;
     ApplicationProgram program(platform, ApplicationPreferences::sharedInstance(&platform),
-                               services.helperBundle(), !isWayland);
+                               services.helperBundle(), !isWayland, &powerManagers);
     instance.setShowRequested([&program] { program.present(); });
     services.play(program.delegate());
     program.present();

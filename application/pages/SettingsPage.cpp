@@ -3,22 +3,25 @@
 #include <QVBoxLayout>
 
 #include "application/pages/HistorySettingsView.h"
+#include "application/pages/WarningSettingsView.h"
 #include "preferences/panes/GeneralPreferencesController.h"
 #include "preferences/panes/PaneView.h"
 
 namespace quindle {
 
 SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& own,
-                           DistributedNotificationCenter& center, std::function<void()> deleteHistory,
-                           QWidget* parent)
+                           DistributedNotificationCenter& center, PowerManagers* powerManagers,
+                           std::function<void()> deleteHistory, QWidget* parent)
     : ScrollPage(parent)
     , m_general(general)
+    , m_warnings(new WarningSettingsView(own, center, powerManagers, &content()))
     , m_history(new HistorySettingsView(own, center, std::move(deleteHistory), &content()))
 {
     setObjectName(QStringLiteral("settingsPage"));
     setAccessibleName(QStringLiteral("Settings"));
-    // Both, so that their captions stand in one column.
-    for (PaneView* pane : {qobject_cast<PaneView*>(&general.view()), static_cast<PaneView*>(m_history)}) {
+    // All, so that their captions stand in one column.
+    for (PaneView* pane : {qobject_cast<PaneView*>(&general.view()), static_cast<PaneView*>(m_warnings),
+                           static_cast<PaneView*>(m_history)}) {
         pane->setCompact(true);
         pane->fitToFont();
     }
@@ -26,6 +29,7 @@ SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& 
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(&general.view());
+    layout->addWidget(m_warnings);
     layout->addWidget(m_history);
     layout->addStretch(1);
 }
@@ -39,6 +43,7 @@ SettingsPage::~SettingsPage()
 void SettingsPage::showEvent(QShowEvent* event)
 {
     m_general.viewWillAppear();
+    m_warnings->refresh();
     m_history->refresh();
     ScrollPage::showEvent(event);
 }

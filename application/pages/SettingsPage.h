@@ -9,19 +9,23 @@ namespace quindle {
 class DistributedNotificationCenter;
 class GeneralPreferencesController;
 class HistorySettingsView;
+class PowerManagers;
 class UserDefaults;
+class WarningSettingsView;
 
-/// The page "Settings": the pane of the helper's everyday settings, and what is recorded.
+/// The page "Settings": the pane of the helper's everyday settings, the warnings, and what is
+/// recorded.
 class SettingsPage : public ScrollPage
 {
     Q_OBJECT
 
 public:
     /// `own` is the helper's own database, `center` where changes are announced; both and `general` must
-    /// outlive it. `deleteHistory` is called once the user has confirmed it.
+    /// outlive it, and so must `powerManagers`, which may be null. `deleteHistory` is called once the user
+    /// has confirmed it.
     SettingsPage(GeneralPreferencesController& general, UserDefaults& own,
-                 DistributedNotificationCenter& center, std::function<void()> deleteHistory,
-                 QWidget* parent = nullptr);
+                 DistributedNotificationCenter& center, PowerManagers* powerManagers,
+                 std::function<void()> deleteHistory, QWidget* parent = nullptr);
     ~SettingsPage() override;
 
 protected:
@@ -29,6 +33,7 @@ protected:
 
 private:
     GeneralPreferencesController& m_general;
+    WarningSettingsView* m_warnings;
     HistorySettingsView* m_history;
 };
 

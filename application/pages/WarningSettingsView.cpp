@@ -1,0 +1,189 @@
+#include "application/pages/WarningSettingsView.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include "platform/NotificationCenter.h"
+#include "platform/PowerManagers.h"
+#include "platform/UserDefaults.h"
+#include "widgets/BoundControls.h"
+#include "widgets/QuietLabel.h"
+
+namespace quindle {
+
+namespace {
+
+struct LevelCaptions
+{
+    const char* caption;
+    const char* percent; ///< for assistive technologies, as the next
+    const char* command;
+};
+
+// In the order of the levels.
+constexpr std::array<LevelCaptions, warningLevels.size()> captions{{
+    {"Battery low", "Percentage for battery low", "Command for battery low"},
+    {"Very low", "Percentage for very low", "Command for very low"},
+    {"Nearly empty", "Percentage for nearly empty", "Command for nearly empty"},
+    {"Full", "Percentage for full", "Command for full"},
+    {"Charge limit", "Percentage for the charge limit", "Command for the charge limit"},
+}};
+
+struct Choice
+{
+    WarningsChoice choice;
+    const char* caption;
+};
+
+constexpr std::array choices{
+    Choice{WarningsChoice::Automatic, "Unless the desktop warns"},
+    Choice{WarningsChoice::On, "Always"},
+    Choice{WarningsChoice::Off, "Never"},
+};
+
+QString warnsItself(const QString& desktop)
+{
+    return QStringLiteral("%1's power manager warns on this desktop.").arg(desktop);
+}
+
+} // namespace
+
+WarningSettingsView::WarningSettingsView(UserDefaults& own, DistributedNotificationCenter& center,
+                                         PowerManagers* powerManagers, QWidget* parent)
+    : PaneView(parent)
+    , m_own(own)
+    , m_center(center)
+    , m_powerManagers(powerManagers)
+    , m_choice(new QComboBox(this))
+    , m_explanation(new QuietLabel(this))
+{
+    m_choice->setAccessibleName(QStringLiteral("Warn"));
+    for (const Choice& choice : choices)
+        m_choice->addItem(QLatin1String(choice.caption), static_cast<int>(choice.choice));
+    m_explanation->setWordWrap(true);
+    addRows();
+    fitToFont();
+    connect(m_choice, &QComboBox::activated, this, [this](int index) {
+        setWarningsChoice(m_own, static_cast<WarningsChoice>(m_choice->itemData(index).toInt()));
+        announceChange();
+    });
+    for (const WarningLevel level : warningLevels)
+        connectRow(level);
+    showLevels();
+}
+
+void WarningSettingsView::addRows()
+{
+    auto* grid = new QGridLayout(this);
+    auto* caption = new QLabel(QStringLiteral("Warnings"), this);
+    caption->setBuddy(m_choice);
+    grid->addWidget(caption, 0, 0, Qt::AlignRight | Qt::AlignTop);
+    auto* choice = new QVBoxLayout;
+    choice->addWidget(m_choice, 0, Qt::AlignLeft);
+    choice->addWidget(m_explanation);
+    grid->addLayout(choice, 0, 1);
+    auto* levels = new QGridLayout;
+    levels->setColumnStretch(2, 1);
+    levels->setVerticalSpacing(fontMetrics().height() / 3);
+    levels->setHorizontalSpacing(fontMetrics().height() / 2);
+    auto* commands = new QuietLabel(this);
+    commands->setText(QStringLiteral("Command to run then"));
+    levels->addWidget(commands, 0, 2);
+    for (const WarningLevel level : warningLevels)
+        addLevel(level, *levels);
+    grid->addLayout(levels, 1, 1);
+}
+
+void WarningSettingsView::addLevel(WarningLevel level, QGridLayout& grid)
+{
+    const LevelCaptions& texts = captions[indexOf(level)];
+    Row& row = m_rows[indexOf(level)];
+    row = {.isOn = new BoundCheckBox(this), .percent = percentOf(level), .command = new BoundLineEdit(this)};
+    row.isOn->setText(QLatin1String(texts.caption));
+    row.percent->setAccessibleName(QLatin1String(texts.percent));
+    row.command->setAccessibleName(QLatin1String(texts.command));
+    row.command->setToolTip(
+        QStringLiteral("A program to run then, with the level, the percentage and the state as arguments"));
+    const int line = static_cast<int>(indexOf(level)) + 1;
+    grid.addWidget(row.isOn, line, 0);
+    grid.addWidget(row.percent, line, 1);
+    grid.addWidget(row.command, line, 2);
+}
+
+QSpinBox* WarningSettingsView::percentOf(WarningLevel level)
+{
+    auto* percent = new QSpinBox(this);
+    const PercentRange range = percentRange(level);
+    percent->setRange(range.least, range.most);
+    percent->setSuffix(QStringLiteral("%"));
+    // What is being typed is no percentage yet.
+    percent->setKeyboardTracking(false);
+    if (range.least == 0) {
+        percent->setSpecialValueText(QStringLiteral("Auto"));
+        percent->setToolTip(QStringLiteral("Auto: the limit that the computer reports"));
+    }
+    return percent;
+}
+
+void WarningSettingsView::connectRow(WarningLevel level)
+{
+    const Row& row = m_rows[indexOf(level)];
+    connect(row.isOn, &BoundCheckBox::switched, this, [this, level](bool on) {
+        setWarningOn(m_own, level, on);
+        announceChange();
+    });
+    connect(row.percent, &QSpinBox::valueChanged, this, [this, level](int percent) {
+        setWarningPercent(m_own, level, percent);
+        announceChange();
+    });
+    connect(row.command, &BoundLineEdit::committed, this, [this, level, command = row.command] {
+        setWarningCommand(m_own, level, command->text());
+        command->setBoundText(command->text());
+        announceChange();
+    });
+}
+
+void WarningSettingsView::refresh()
+{
+    showLevels();
+    if (!m_powerManagers) {
+        explain({});
+        return;
+    }
+    m_powerManagers->ask([view = QPointer(this)](const QString& desktop) {
+        if (view)
+            view->explain(desktop);
+    });
+}
+
+void WarningSettingsView::showLevels()
+{
+    m_choice->setCurrentIndex(m_choice->findData(static_cast<int>(warningsChoice(m_own))));
+    const WarningSettings settings = warningSettings(m_own);
+    for (const WarningLevel level : warningLevels) {
+        const Row& row = m_rows[indexOf(level)];
+        row.isOn->setShown(settings[level].isOn);
+        const QSignalBlocker filling(row.percent);
+        row.percent->setValue(settings[level].percent);
+        row.command->setBoundText(settings[level].command);
+    }
+}
+
+void WarningSettingsView::explain(const QString& desktop)
+{
+    m_explanation->setText(desktop.isEmpty() ? QStringLiteral("No power manager warns on this desktop.")
+                                             : warnsItself(desktop));
+}
+
+void WarningSettingsView::announceChange()
+{
+    m_center.post(QStringLiteral("SettingsChangedNotification"));
+}
+
+} // namespace quindle
+
+#include "moc_WarningSettingsView.cpp"
