@@ -80,16 +80,17 @@ void PowerSampler::compare(const SupplyReadings& readings, const PowerSample& sa
     const bool isWhole = std::all_of(readings.begin(), readings.end(),
                                      [](const SupplyReading& reading) { return reading.failed.none(); });
     if (!isWhole)
-        m_sameSince.reset();
-    else if (!m_sameSince || !m_sample || readings != m_lastReadings ||
-             sample.batteryEntry != m_sample->batteryEntry || sample.sources != m_sample->sources)
-        m_sameSince = now;
+        m_stillSince.reset();
+    else if (!m_stillSince || readings != m_lastReadings)
+        m_stillSince = now;
+    m_isAsBefore =
+        m_sample && sample.batteryEntry == m_sample->batteryEntry && sample.sources == m_sample->sources;
 }
 
 bool PowerSampler::isSteady() const
 {
-    const auto steadyAfter = m_sameSince ? BatteryTimes::steadyAfter(m_sample->power) : std::nullopt;
-    return steadyAfter && m_takenAt - *m_sameSince >= *steadyAfter;
+    const auto steadyAfter = m_stillSince ? BatteryTimes::steadyAfter(m_sample->power) : std::nullopt;
+    return steadyAfter && m_isAsBefore && m_takenAt - *m_stillSince >= *steadyAfter;
 }
 
 bool PowerSampler::looksAgain(std::chrono::milliseconds now)

@@ -78,7 +78,8 @@ private:
     bool m_isExpired = true;
     std::function<std::vector<std::chrono::milliseconds>()> m_takeStillMoments;
     SupplyReadings m_lastReadings;
-    std::optional<std::chrono::milliseconds> m_sameSince; ///< nothing while a reading is incomplete
+    std::optional<std::chrono::milliseconds> m_stillSince; ///< the readings; nothing while one is incomplete
+    bool m_isAsBefore = false;                             ///< the last sample, with all that was made of it
 };
 
 } // namespace quindle

@@ -59,7 +59,7 @@ struct SteadyPowerTest : testing::Test
 TEST_F(SteadyPowerTest, WhenNothingHasChangedAsLongAsEstimatesLookBack)
 {
     sample(steady);
-    pass(70s); // the estimate came 20 s after the first sample
+    pass(50s);
     EXPECT_FALSE(steady.isSteady());
     pass(10s);
     EXPECT_TRUE(steady.isSteady());
