@@ -6,7 +6,7 @@
 #include "application/pages/DetailsPage.h"
 #include "application/pages/HistoryPage.h"
 #include "application/pages/SettingsPage.h"
-#include "application/pages/SnapshotsPage.h"
+#include "application/snapshots/SnapshotsPage.h"
 #include "battery/QDBattery.h"
 #include "facts/ValueTexts.h"
 #include "history/SavedHistory.h"

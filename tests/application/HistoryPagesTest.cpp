@@ -12,9 +12,9 @@
 #include <gtest/gtest.h>
 
 #include "application/ApplicationProgram.h"
-#include "application/pages/CompareDialog.h"
 #include "application/pages/HistoryPage.h"
-#include "application/pages/SnapshotsPage.h"
+#include "application/snapshots/CompareDialog.h"
+#include "application/snapshots/SnapshotsPage.h"
 #include "charts/TimeSeriesChart.h"
 #include "platform/PowerHistory.h"
 #include "settings/ApplicationPreferences.h"

@@ -1,4 +1,4 @@
-#include "application/pages/SavedSnapshots.h"
+#include "application/saved/SavedSnapshots.h"
 
 #include <algorithm>
 

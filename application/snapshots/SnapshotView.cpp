@@ -1,10 +1,10 @@
-#include "application/pages/SnapshotView.h"
+#include "application/snapshots/SnapshotView.h"
 
 #include <QEvent>
 #include <QHeaderView>
 
-#include "application/pages/SnapshotTable.h"
-#include "application/pages/SortHeader.h"
+#include "application/snapshots/SnapshotTable.h"
+#include "application/snapshots/SortHeader.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "application/pages/SavedSamples.h"
+#include "application/saved/SavedSamples.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "application/pages/SortHeader.h"
+#include "application/snapshots/SortHeader.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "application/pages/SnapshotFiles.h"
+#include "application/snapshots/SnapshotFiles.h"
 
 #include <QCheckBox>
 #include <QFile>

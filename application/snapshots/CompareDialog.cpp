@@ -1,11 +1,11 @@
-#include "application/pages/CompareDialog.h"
+#include "application/snapshots/CompareDialog.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "application/pages/SnapshotRows.h"
+#include "application/snapshots/SnapshotRows.h"
 #include "widgets/PlainLabel.h"
 
 namespace quindle {

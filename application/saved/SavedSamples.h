@@ -8,7 +8,7 @@
 #include <QObject>
 #include <QTimer>
 
-#include "application/pages/BackgroundWork.h"
+#include "application/saved/BackgroundWork.h"
 #include "samples/Sample.h"
 
 namespace quindle {

@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QVariant>
 
-#include "application/pages/BackgroundWork.h"
+#include "application/saved/BackgroundWork.h"
 #include "records/SnapshotArchive.h"
 
 namespace quindle {

@@ -1,4 +1,4 @@
-#include "application/pages/BackgroundWork.h"
+#include "application/saved/BackgroundWork.h"
 
 namespace quindle {
 

@@ -1,8 +1,8 @@
-#include "application/pages/SnapshotTable.h"
+#include "application/snapshots/SnapshotTable.h"
 
 #include <QPixmap>
 
-#include "application/pages/SnapshotRows.h"
+#include "application/snapshots/SnapshotRows.h"
 #include "facts/ValueTexts.h"
 
 namespace quindle {

@@ -5,7 +5,7 @@
 #include <QAbstractTableModel>
 #include <QVariant>
 
-#include "application/pages/SnapshotOrder.h"
+#include "application/snapshots/SnapshotOrder.h"
 
 namespace quindle {
 

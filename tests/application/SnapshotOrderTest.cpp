@@ -1,4 +1,4 @@
-#include "application/pages/SnapshotOrder.h"
+#include "application/snapshots/SnapshotOrder.h"
 
 #include <QDateTime>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "application/pages/SnapshotsPage.h"
+#include "application/snapshots/SnapshotsPage.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -7,11 +7,11 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include "application/pages/CompareDialog.h"
-#include "application/pages/LoadingBar.h"
-#include "application/pages/SavedSnapshots.h"
-#include "application/pages/SnapshotFiles.h"
-#include "application/pages/SnapshotView.h"
+#include "application/saved/SavedSnapshots.h"
+#include "application/snapshots/CompareDialog.h"
+#include "application/snapshots/LoadingBar.h"
+#include "application/snapshots/SnapshotFiles.h"
+#include "application/snapshots/SnapshotView.h"
 #include "facts/ValueTexts.h"
 #include "widgets/LinkButton.h"
 #include "widgets/QuietLabel.h"

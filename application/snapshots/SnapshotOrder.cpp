@@ -1,4 +1,4 @@
-#include "application/pages/SnapshotOrder.h"
+#include "application/snapshots/SnapshotOrder.h"
 
 #include <algorithm>
 #include <numeric>
@@ -6,7 +6,7 @@
 
 #include <QString>
 
-#include "application/pages/SnapshotRows.h"
+#include "application/snapshots/SnapshotRows.h"
 
 namespace quindle {
 

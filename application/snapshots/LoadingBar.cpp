@@ -1,4 +1,4 @@
-#include "application/pages/LoadingBar.h"
+#include "application/snapshots/LoadingBar.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "application/pages/SnapshotRows.h"
+#include "application/snapshots/SnapshotRows.h"
 
 #include <algorithm>
 #include <cmath>
