@@ -43,7 +43,7 @@ const char* argumentOf(SampleState state)
     case SampleState::Unknown:
         break;
     }
-    return "plugged-in";
+    return "plugged";
 }
 
 int wholePercent(double percent)

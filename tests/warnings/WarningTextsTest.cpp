@@ -59,7 +59,7 @@ TEST(WarningTextsTest, NameLevelChargeAndStateToCommands)
               latin("nearly-empty 10 discharging"));
     EXPECT_EQ(words(WarningLevel::Full, SampleState::Full), latin("full 10 full"));
     EXPECT_EQ(words(WarningLevel::LimitReached, SampleState::Charging), latin("limit 10 charging"));
-    EXPECT_EQ(words(WarningLevel::LimitReached, SampleState::Unknown), latin("limit 10 plugged-in"));
+    EXPECT_EQ(words(WarningLevel::LimitReached, SampleState::Unknown), latin("limit 10 plugged"));
 }
 
 } // namespace
