@@ -63,12 +63,14 @@ void WarningKeeper::follow()
         carryOut(m_watch.loseBattery());
     } else if (const BatteryReading reading = readingOf(*battery); std::isfinite(reading.percent)) {
         // Not at each refresh: it asks the file system.
-        if (std::exchange(m_percentSeen, static_cast<int>(reading.percent)) != m_percentSeen)
+        const int percent = static_cast<int>(reading.percent);
+        if (std::exchange(m_percentSeen, percent) != percent)
             lookAgain();
         carryOut(m_watch.take(reading, m_settings));
     }
-    if (std::exchange(m_needsAttention, m_watch.needsAttention()) != m_needsAttention)
-        m_delegate.statusItem().setNeedsAttention(m_needsAttention);
+    const bool needsAttention = m_watch.needsAttention();
+    if (std::exchange(m_needsAttention, needsAttention) != needsAttention)
+        m_delegate.statusItem().setNeedsAttention(needsAttention);
 }
 
 BatteryReading WarningKeeper::readingOf(const QDBattery& battery) const
@@ -90,7 +92,8 @@ void WarningKeeper::lookAgain()
 {
     const UserDefaults& own = m_platform.userDefaults.standard();
     m_settings = warningSettings(own);
-    if (std::exchange(m_choice, warningsChoice(own)) != m_choice)
+    const WarningsChoice choice = warningsChoice(own);
+    if (std::exchange(m_choice, choice) != choice)
         beginAnew();
 }
 
