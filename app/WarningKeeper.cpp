@@ -32,6 +32,7 @@ constexpr qint64 unknownTime = 65535;
 std::optional<int> minutesToEmpty(const QDBattery& battery)
 {
     const qint64 minutes = battery.avgTimeToEmpty();
+    // A missing time reads as 0.
     if (minutes <= 0 || minutes >= unknownTime)
         return std::nullopt;
     return static_cast<int>(minutes);
@@ -153,6 +154,7 @@ void WarningKeeper::runCommand(const WarningAction& action)
     const QString& command = m_settings[action.level].command;
     if (m_services.commands->run(command, commandArguments(action)))
         m_commandHasFailed = false;
+    // Once, until it works again: the same command fails at each level.
     else if (!std::exchange(m_commandHasFailed, true))
         qCWarning(warningLog).noquote()
             << QStringLiteral("the command for a warning cannot be run: %1").arg(command);

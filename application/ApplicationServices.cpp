@@ -63,6 +63,7 @@ public:
     Platform platform() override
     {
         ServiceOverrides overrides = m_common.overrides();
+        // States follow each other in time, as on a real computer.
         overrides.runLoop = &m_runLoop;
         return m_recorded.platform().with(overrides);
     }

@@ -110,6 +110,7 @@ void ApplicationWindow::showChosen(int index)
     const bool isFirst = m_shown < 0;
     m_shown = index;
     const auto place = static_cast<std::size_t>(index);
+    // Most pages are never looked at, and some read files.
     if (!m_made[place]) {
         m_made[place] = m_pages[place].make(m_stack);
         m_stack->addWidget(m_made[place]);
@@ -129,8 +130,10 @@ void ApplicationWindow::setComputer(const QString& name, const QString& state)
 void ApplicationWindow::present()
 {
     if (isMinimized())
+        // Not to its usual size: it may have been as large as the screen.
         setWindowState(windowState() & ~Qt::WindowMinimized);
     if (!isVisible())
+        // Opened again, the arrow keys choose a page.
         m_sidebar->list().setFocus();
     show();
     raise();

@@ -25,6 +25,7 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override
     {
+        // As wide as the list: names are short, and a width would make it scroll.
         return {0, option.fontMetrics.height() * 2};
     }
 
@@ -51,6 +52,7 @@ private:
     static void paintPlate(QPainter& painter, const QStyleOptionViewItem& option, bool isChosen)
     {
         const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
+        // A line in a window that is not in front would promise keys that go elsewhere.
         const bool hasKeyboard =
             option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Active);
         if (!isChosen && !isHovered && !hasKeyboard)

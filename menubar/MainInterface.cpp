@@ -72,6 +72,7 @@ void MainInterface::addEntries()
 {
     const auto entry = [this](const QString& text, void (StatusMenuActions::*action)()) {
         const auto chosen = [this, action] {
+            // The rows are there before the delegate, and may outlive it.
             if (m_actions)
                 (m_actions->*action)();
         };

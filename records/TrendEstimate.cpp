@@ -38,6 +38,7 @@ std::vector<TrendValue> dailyValues(const std::vector<CapacityPoint>& points, do
         const TrendValue value{static_cast<double>(point.moment - points.front().moment) / secondsAYear,
                                point.fullChargeCapacity / reference * 100};
         const qint64 day = point.moment / secondsADay;
+        // One a day: a day with many snapshots weighs no more than the others.
         if (!values.empty() && day == formerDay)
             values.back() = value;
         else

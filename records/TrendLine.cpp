@@ -94,6 +94,7 @@ double correlationFactor(const std::vector<TrendValue>& values, const TrendLine&
         squares += rest * rest;
         former = rest;
     }
+    // Values that are wholly alike would leave no interval at all.
     const double correlation = squares > 0 ? std::clamp(products / squares, 0.0, mostCorrelation) : 0;
     return (1 + correlation) / (1 - correlation);
 }
@@ -130,12 +131,14 @@ double scatterOf(const std::vector<TrendValue>& values, const TrendLine& line)
 
 std::optional<TrendLine> trendLine(const std::vector<TrendValue>& values)
 {
+    // Every two values are compared, so there must not be too many.
     const std::vector<TrendValue> used = groupMedians(values);
     std::vector<double> slopes = pairSlopes(used);
     if (slopes.empty())
         return {};
     TrendLine line;
     line.slope = trendMedian(slopes);
+    // A median again, so that no outlier lifts the line.
     std::vector<double> intercepts;
     intercepts.reserve(used.size());
     for (const TrendValue& value : used)

@@ -14,6 +14,7 @@ constexpr double yearsBehindGoal = 1.0 / 6;
 double yearsAhead(const TrendEstimate& trend)
 {
     const double most = std::max(1.0, static_cast<double>(trend.days) / daysAYear / 2);
+    // There is no goal ahead any more.
     if (trend.pace->level <= goalPercent)
         return leastYears;
     return std::clamp(yearsUntil(*trend.pace, goalPercent).latest + yearsBehindGoal, leastYears, most);

@@ -64,6 +64,7 @@ std::vector<Sample> samplesFromHistory(const RecordedPower& recorded, qint64 end
     const Points rates = usable(recorded.rate);
     std::vector<Sample> samples;
     for (const Point& charge : usable(recorded.charge)) {
+        // From `end` on there are samples of our own.
         if (charge.moment >= end || charge.value > 100)
             continue;
         samples.push_back({.moment = charge.moment,

@@ -28,6 +28,7 @@ public:
     {
         constexpr qsizetype enough = qsizetype{64} * 1024;
         m_bytes += bytes;
+        // A call of the system for each record would take longer than making it.
         return m_bytes.size() < enough || flush();
     }
 
@@ -89,6 +90,7 @@ int exportHistory(const Platform& platform, const ExportOptions& options, QIODev
     if (path.isEmpty())
         return EX_NOINPUT;
     const ArchivedRecords archived = SnapshotArchive(path).read();
+    // Half an archive would look like a whole one.
     if (!archived.fault.isEmpty()) {
         report(archived.fault);
         return EX_DATAERR;
@@ -108,6 +110,7 @@ int exportSamples(const Platform& platform, const ExportOptions& options, QIODev
     for (const QString& line : {outcome.notice, outcome.fault})
         if (!line.isEmpty())
             report(line);
+    // A notice says that the file was damaged, so nothing of it is left to export.
     if (!outcome.isGood() || !outcome.notice.isEmpty())
         return EX_DATAERR;
     const QByteArray text = samplesText(samples, options.format);

@@ -42,6 +42,7 @@ SettingsPage::~SettingsPage()
 
 void SettingsPage::showEvent(QShowEvent* event)
 {
+    // Others may have changed the settings while the page was not seen.
     m_general.viewWillAppear();
     m_warnings->refresh();
     m_history->refresh();

@@ -142,6 +142,7 @@ void WarningSettingsView::connectRow(WarningLevel level)
     });
     connect(row.command, &BoundLineEdit::committed, this, [this, level, command = row.command] {
         setWarningCommand(m_own, level, command->text());
+        // What is stored now is no change when the field loses the focus.
         command->setBoundText(command->text());
         announceChange();
     });
@@ -154,6 +155,7 @@ void WarningSettingsView::refresh()
         explain({});
         return;
     }
+    // The answer may come after the page has been closed.
     m_powerManagers->ask([view = QPointer(this)](const QString& desktop) {
         if (view)
             view->explain(desktop);
@@ -167,6 +169,7 @@ void WarningSettingsView::showLevels()
     for (const WarningLevel level : warningLevels) {
         const Row& row = m_rows[indexOf(level)];
         row.isOn->setShown(settings[level].isOn);
+        // What is filled in is stored already.
         const QSignalBlocker filling(row.percent);
         row.percent->setValue(settings[level].percent);
         row.command->setBoundText(settings[level].command);

@@ -114,6 +114,7 @@ QByteArray LinuxPlatform::powerMemory() const
 
 void LinuxPlatform::setPowerMemory(const QByteArray& memory)
 {
+    // From another process: what it does not say well is not believed.
     if (const auto remembered = estimatorMemoryFrom(memory))
         m_services->sampler.estimator().setMemory(*remembered);
 }

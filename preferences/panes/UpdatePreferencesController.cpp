@@ -20,7 +20,7 @@ QIcon iconFromFile(const QString& path)
 {
     if (path.isValidUtf16())
         return QIcon(path);
-    constexpr qint64 mostBytes = 1024 * 1024;
+    constexpr qint64 mostBytes = qint64{1024} * 1024;
     constexpr QSize size(128, 128);
     QBuffer drawing;
     drawing.setData(fileContents(path, mostBytes).bytes);

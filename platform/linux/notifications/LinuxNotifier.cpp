@@ -77,6 +77,7 @@ void LinuxNotifier::withdraw()
 void LinuxNotifier::finish()
 {
     m_wanted.reset();
+    // Waited for: after the end nobody could take it away any more.
     if (m_place != Place::Nowhere)
         m_bus.connection().call(withdrawalCall(), QDBus::Block, patienceAtEnd);
     forget();
@@ -87,6 +88,7 @@ void LinuxNotifier::doNext()
     if (m_isCalling || !std::exchange(m_hasNews, false))
         return;
     if (m_wanted)
+        // Where the last one is, so that a newer one takes its place.
         showIn(m_place == Place::Portal ? Place::Portal : Place::Service);
     else if (m_place != Place::Nowhere)
         call(withdrawalCall(), &LinuxNotifier::hearWithdrawal);
@@ -105,6 +107,7 @@ void LinuxNotifier::showIn(Place place)
 
 QDBusMessage LinuxNotifier::showCall() const
 {
+    // Most servers take a warning away after seconds, which nobody may have seen.
     const bool staysShown = m_wanted->urgency == Notification::Urgency::Critical;
     QDBusMessage message = serviceCall(m_server.isEmpty() ? serviceName : m_server, QStringLiteral("Notify"));
     message << QStringLiteral("Quindle") << m_number << m_wanted->iconName << m_wanted->title
@@ -141,6 +144,7 @@ void LinuxNotifier::hearService(const QDBusMessage& answer)
 {
     if (isAnswer(answer) && answer.signature() == QStringLiteral("u")) {
         m_place = Place::Service;
+        // By its own name: another server knows nothing of the number.
         m_server = answer.service();
         m_number = answer.arguments().constFirst().toUInt();
         m_hasReported = false;

@@ -54,6 +54,7 @@ void LinuxPowerManagers::ask(std::function<void(const QString& desktop)> answere
         const QDBusPendingReply<QStringList> names = *answer;
         answered(names.isValid() ? desktopThatWarns(names.value()) : QString());
     };
+    // Later all the same, so that whoever asks is never answered while asking.
     if (answer->isFinished())
         QMetaObject::invokeMethod(this, hear, Qt::QueuedConnection);
     else
