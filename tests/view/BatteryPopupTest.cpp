@@ -48,7 +48,7 @@ TEST_F(BatteryPopupTest, TimersArePunctualWhileItIsOpen)
     popup.open(); // the first window is still there until the loop has turned
     deleteClosed();
     EXPECT_TRUE(platform.runLoop.isPunctual());
-    press(window(), Qt::Key_Escape);
+    test::press(window(), Qt::Key_Escape);
     deleteClosed();
     EXPECT_FALSE(platform.runLoop.isPunctual());
 }
@@ -59,7 +59,7 @@ TEST_F(BatteryPopupTest, TheMenuOpensAndNeverCloses)
         interface.statusMenu().openView();
         EXPECT_TRUE(popup.isOpen());
     }
-    pressMouse(window(), {-50, -50});
+    test::pressMouse(window(), {-50, -50});
     EXPECT_FALSE(popup.isOpen());
     interface.statusMenu().openView();
     EXPECT_TRUE(popup.isOpen()) << "it is no click on the item";
@@ -110,7 +110,7 @@ TEST_F(BatteryPopupTest, ChoosingClosesAndActs)
 
 TEST_F(BatteryPopupTest, EscapeCloses)
 {
-    press(open(), Qt::Key_Escape);
+    test::press(open(), Qt::Key_Escape);
     EXPECT_FALSE(popup.isOpen());
 }
 
@@ -120,7 +120,7 @@ TEST_F(BatteryPopupTest, ArrowsReachEverything)
     std::set<QWidget*> reached;
     for (int i = 0; i < 12; ++i) {
         QWidget* at = opened->focusWidget() ? opened->focusWidget() : opened;
-        press(at, Qt::Key_Down);
+        test::press(at, Qt::Key_Down);
         reached.insert(opened->focusWidget());
     }
     for (const SwitchField* field : opened->findChildren<SwitchField*>())
@@ -146,7 +146,7 @@ TEST_F(BatteryPopupTest, TheKeyboardGoesFromTheFactsDownToTheEntries)
 
 TEST_F(BatteryPopupTest, TheClickThatClosedItDoesNotOpenItAgain)
 {
-    pressMouse(open(), {-50, -50});
+    test::pressMouse(open(), {-50, -50});
     EXPECT_FALSE(popup.isOpen());
     interface.statusMenu().toggleView();
     EXPECT_FALSE(popup.isOpen());
@@ -193,7 +193,7 @@ TEST_F(BatteryPopupTest, PlainWindowHasAFixedSize)
     EXPECT_EQ(plain->minimumSize(), plain->maximumSize());
     EXPECT_EQ(plain->size(), plain->maximumSize());
     EXPECT_EQ(plain->windowType(), Qt::Window);
-    press(plain, Qt::Key_Escape);
+    test::press(plain, Qt::Key_Escape);
     deleteClosed();
     EXPECT_TRUE(guard.isNull());
 }

@@ -191,7 +191,7 @@ TEST_F(BatteryViewTest, ClicksSwitchUnits)
         EXPECT_EQ(field->toolTip(), literalToolTip(explanation));
         EXPECT_EQ(field->accessibleDescription(), explanation);
         EXPECT_EQ(field->focusPolicy(), Qt::StrongFocus);
-        press(field, Qt::Key_Return);
+        test::press(field, Qt::Key_Return);
         EXPECT_EQ(row(id)->findChild<SwitchField*>(), field) << "it keeps the keyboard";
         EXPECT_EQ(row(id)->text(), QString::fromUtf16(text));
         EXPECT_EQ(field->label(), QString::fromUtf16(text));
