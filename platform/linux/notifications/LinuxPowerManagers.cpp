@@ -16,7 +16,7 @@ constexpr int patience = 5000; // milliseconds
 struct KnownManager
 {
     QLatin1StringView busName;
-    const char* desktop;
+    const char* desktop = nullptr;
 };
 
 // The names that only the manager itself takes. org.freedesktop.PowerManagement is none of them: programs

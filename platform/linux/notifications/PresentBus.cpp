@@ -22,7 +22,7 @@ QDBusConnection PresentBus::connection()
 {
     if (m_own.isConnected())
         return m_own;
-    const QDBusConnection shared = QDBusConnection::sessionBus();
+    QDBusConnection shared = QDBusConnection::sessionBus();
     if (shared.isConnected())
         return shared;
     QDBusConnection::disconnectFromBus(m_ownName);
