@@ -78,6 +78,14 @@ QString factText(const Fact& fact, FactPlace place)
     return fact.detail.isEmpty() ? fact.value : fact.value + QStringLiteral(" (") + fact.detail + u')';
 }
 
+const Fact& factWithId(const std::vector<Fact>& facts, FactId id)
+{
+    static const Fact none;
+    const auto found =
+        std::find_if(facts.begin(), facts.end(), [id](const Fact& fact) { return fact.id == id; });
+    return found == facts.end() ? none : *found;
+}
+
 QString toolTipText(const FactSources& sources)
 {
     if (!batteryOf(sources))

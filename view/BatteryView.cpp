@@ -1,9 +1,8 @@
 #include "view/BatteryView.h"
 
-#include <algorithm>
-
 #include <QEvent>
 
+#include "facts/Facts.h"
 #include "facts/ValueTexts.h"
 #include "menubar/MainInterface.h"
 #include "ui_BatteryView.h"
@@ -11,18 +10,6 @@
 #include "widgets/PlainText.h"
 
 namespace quindle {
-
-namespace {
-
-const Fact& factWithId(const std::vector<Fact>& facts, FactId id)
-{
-    static const Fact none;
-    const auto found =
-        std::find_if(facts.begin(), facts.end(), [id](const Fact& fact) { return fact.id == id; });
-    return found == facts.end() ? none : *found;
-}
-
-} // namespace
 
 BatteryView::BatteryView(MainInterface& interface, QWidget* parent)
     : FactsView(parent)

@@ -30,13 +30,6 @@ constexpr double healthScale = 2.2;
 constexpr int linesForTwoColumns = 44;
 constexpr int widestColumn = 30; // lines
 
-Fact factWithId(const std::vector<Fact>& facts, FactId id)
-{
-    const auto found =
-        std::find_if(facts.begin(), facts.end(), [id](const Fact& fact) { return fact.id == id; });
-    return found == facts.end() ? Fact() : *found;
-}
-
 /// What stands beside the percentage, which the figure gives already.
 QString wordsOfHealth(const Fact& health)
 {
@@ -146,9 +139,9 @@ void BatteryPage::showAll(const std::vector<Fact>& facts)
     m_noBattery->setVisible(!hasBattery);
     for (QWidget* part : {m_charge.box, m_health.box})
         part->setVisible(hasBattery);
-    const Fact charge = factWithId(facts, FactId::Charge);
-    const Fact health = factWithId(facts, FactId::Health);
-    const Fact cycles = factWithId(facts, FactId::Cycles);
+    const Fact& charge = factWithId(facts, FactId::Charge);
+    const Fact& health = factWithId(facts, FactId::Health);
+    const Fact& cycles = factWithId(facts, FactId::Cycles);
     show(m_charge, charge, factWithId(facts, FactId::State).value, {},
          charge.detail.isEmpty() ? missingValueText() : charge.detail);
     show(m_health, health, wordsOfHealth(health), cycles.value, health.detail);

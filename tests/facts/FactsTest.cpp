@@ -6,6 +6,7 @@
 
 #include "tests/facts/FactComputer.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 
 using namespace quindle;
 
@@ -185,6 +186,16 @@ TEST_F(FactsTest, TheReportIsTheSameInEveryLocale)
     EXPECT_EQ(shown(FactPlace::Report), here);
     EXPECT_EQ(fact(FactId::Cycles).value, QStringLiteral(u"1\u202F293 cycles"));
     QLocale::setDefault(QLocale::c());
+}
+
+TEST(FactWithId, IsOneWithoutATextWhereThereIsNone)
+{
+    std::vector<Fact> facts(2);
+    facts[1].id = FactId::Health;
+    facts[1].value = u("2");
+    EXPECT_EQ(factWithId(facts, FactId::Health).value, u("2"));
+    EXPECT_FALSE(factWithId(facts, FactId::State).shown);
+    EXPECT_EQ(factWithId(facts, FactId::State).value, QString());
 }
 
 } // namespace
