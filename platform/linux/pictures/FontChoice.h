@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
-struct _FcConfig;
+struct _FcConfig; // NOLINT(bugprone-reserved-identifier): the library's name
 
 namespace quindle {
 

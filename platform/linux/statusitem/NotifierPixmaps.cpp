@@ -9,7 +9,7 @@ namespace quindle {
 NotifierPixmap notifierPixmap(const Pixels& picture)
 {
     NotifierPixmap pixmap{picture.width, picture.height, {}};
-    pixmap.pixels.resize(static_cast<qsizetype>(4 * picture.data.size()));
+    pixmap.pixels.resize(4 * static_cast<qsizetype>(picture.data.size()));
     char* to = pixmap.pixels.data();
     for (int y = 0; y < picture.height; ++y) {
         for (int x = 0; x < picture.width; ++x, to += 4)

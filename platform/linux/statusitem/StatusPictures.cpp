@@ -128,7 +128,7 @@ bool isThere(const QString& path)
 
 QByteArray contentsOf(const QString& path)
 {
-    constexpr qint64 mostBytes = 1024 * 1024; // a drawing has a thousandth of that
+    constexpr qint64 mostBytes = qint64{1024} * 1024; // a drawing has a thousandth of that
     return fileContents(path, mostBytes).bytes;
 }
 
