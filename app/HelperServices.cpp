@@ -23,7 +23,7 @@ namespace {
 
 QString windowsProgramOf(const Bundle& programBundle)
 {
-    return programBundle.path() + QStringLiteral("/Contents/Linux/quindle-windows");
+    return programInBundle(programBundle.path(), QStringLiteral("quindle-windows"));
 }
 
 /// The tray around the item. The user's own choice of its form is asked for each time it is shown anew.

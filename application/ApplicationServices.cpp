@@ -14,7 +14,7 @@ namespace {
 
 QString helperProgramOf(const Bundle& bundle)
 {
-    return helperBundlePath(bundle.path()) + QStringLiteral("/Contents/Linux/quindle-helper");
+    return programInBundle(helperBundlePath(bundle.path()), QStringLiteral("quindle-helper"));
 }
 
 /// The network too: models are looked up, and snapshots sent, by the helper alone.

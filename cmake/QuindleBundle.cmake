@@ -9,6 +9,11 @@ set(QUINDLE_BUNDLE "${QUINDLE_APPLICATION}/Contents/Resources/Quindle-Helper.app
 set(QUINDLE_BUNDLE_CONTENTS "${CMAKE_BINARY_DIR}/${QUINDLE_BUNDLE}/Contents")
 set(QUINDLE_INSTALL_CONTENTS "lib/${QUINDLE_BUNDLE}/Contents")
 
+set(QUINDLE_PROGRAM_FOLDER Linux)
+if(APPLE)
+    set(QUINDLE_PROGRAM_FOLDER MacOS)
+endif()
+
 # quindle_program(NAME [INTERNAL] [MAIN]): puts the program into the helper's bundle, with MAIN into the application's,
 # and a link to it into bin when installed. One that is INTERNAL is started by the others only.
 function(quindle_program name)
@@ -20,13 +25,13 @@ function(quindle_program name)
         set(installed "${QUINDLE_INSTALL_APPLICATION_CONTENTS}")
     endif()
     quindle_compiles_together(${name} 12)
-    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${built}/Linux")
-    install(TARGETS ${name} RUNTIME DESTINATION "${installed}/Linux")
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${built}/${QUINDLE_PROGRAM_FOLDER}")
+    install(TARGETS ${name} RUNTIME DESTINATION "${installed}/${QUINDLE_PROGRAM_FOLDER}")
     if(ARG_INTERNAL)
         return()
     endif()
     install(CODE "
         set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/bin\")
         file(MAKE_DIRECTORY \"\${bin}\")
-        file(CREATE_LINK \"../${installed}/Linux/${name}\" \"\${bin}/${name}\" SYMBOLIC)")
+        file(CREATE_LINK \"../${installed}/${QUINDLE_PROGRAM_FOLDER}/${name}\" \"\${bin}/${name}\" SYMBOLIC)")
 endfunction()

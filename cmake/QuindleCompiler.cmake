@@ -33,7 +33,11 @@ add_compile_definitions(
 )
 
 # Libraries that nothing of a program calls are not loaded: they cost start-up time and memory.
-add_link_options(-Wl,--as-needed)
+if(APPLE)
+    add_link_options(-Wl,-dead_strip_dylibs)
+else()
+    add_link_options(-Wl,--as-needed)
+endif()
 
 include(QuindleHardening)
 

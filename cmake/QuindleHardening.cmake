@@ -26,6 +26,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_G
 endif()
 add_compile_options("$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:SHELL:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=${level}>")
 
+# These are of ELF. A Mac's linker has its own ways, and the hardened runtime comes with the signature.
+if(APPLE)
+    return()
+endif()
+
 add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
 
 # A program is noted to be fit for shadow stacks (SHSTK) and checked jumps (IBT) where each of its object files is, the

@@ -92,18 +92,22 @@ bool isSuiteUnavailable(UserDefaultsDatabases& userDefaults)
     return userDefaults.suite(groupDatabaseName()) == nullptr;
 }
 
-std::vector<SerialPair> inventedSerials(const QVariantMap& registry)
+std::vector<SerialPair> inventedSerials(const QVariantMap& registry, CapturedRegistry kind)
 {
     const auto text = [&](const QString& entry, const QString& key) {
         return registry.value(entry).toMap().value(key).toString();
     };
     const QString computer = text(computerEntry(), QStringLiteral("IOPlatformSerialNumber"));
     const QString battery = text(batteryEntry(), QStringLiteral("BatterySerialNumber"));
-    // Each invented serial has to differ from both, or it would give part of the other away.
-    const QStringList both{computer, battery};
+    // Where Apple silicon keeps it.
+    const QString another =
+        kind == CapturedRegistry::OfAMac ? text(batteryEntry(), QStringLiteral("Serial")) : QString();
+    // Each invented serial has to differ from all, or it would give part of another away.
+    const QStringList all{computer, battery, another};
     // The computer's keeps the characters that date it: its age is part of what is reported.
-    return {{computer, inventedSerial(computer, true, both)},
-            {battery, inventedSerial(battery, false, both)}};
+    return {{computer, inventedSerial(computer, true, all)},
+            {battery, inventedSerial(battery, false, all)},
+            {another, inventedSerial(another, false, all)}};
 }
 
 QVariantMap withoutModelCache(QVariantMap databases)
@@ -154,7 +158,7 @@ QVariantMap capturedKeys(const Platform& platform)
     return keys;
 }
 
-QVariantMap withoutIdentity(const QVariantMap& keys)
+QVariantMap withoutIdentity(const QVariantMap& keys, CapturedRegistry kind)
 {
     QVariantMap clean = keys;
     const auto edit = [&clean](const QString& key, QVariantMap (*change)(QVariantMap)) {
@@ -168,7 +172,8 @@ QVariantMap withoutIdentity(const QVariantMap& keys)
         clean.insert(QStringLiteral("LoginItems"),
                      helperLoginItem(clean.value(QStringLiteral("Bundle")).toMap()));
     clean.insert(QStringLiteral("HostName"), QStringLiteral("Computer"));
-    const std::vector<SerialPair> serials = inventedSerials(keys.value(QStringLiteral("Registry")).toMap());
+    const std::vector<SerialPair> serials =
+        inventedSerials(keys.value(QStringLiteral("Registry")).toMap(), kind);
     // Last, in all that is left: a serial number may stand in any text. Only the format's own keys stay,
     // whatever the serials are.
     for (QVariant& value : clean)

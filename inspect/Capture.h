@@ -16,9 +16,12 @@ QVariantMap capturedRegistry(IORegistry& registry);
 /// changed.
 QVariantMap capturedKeys(const Platform& platform);
 
+/// A Mac with Apple silicon has its battery's serial under a key of another name.
+enum class CapturedRegistry { Other, OfAMac };
+
 /// The same without anything that identifies the computer's owner: both serials are invented ones wherever
 /// they occur, the name is "Computer", the model cache (its keys are parts of serials) is gone, and so is the
 /// user's name in the bundle's path.
-QVariantMap withoutIdentity(const QVariantMap& keys);
+QVariantMap withoutIdentity(const QVariantMap& keys, CapturedRegistry kind = CapturedRegistry::Other);
 
 } // namespace quindle

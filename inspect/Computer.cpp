@@ -60,12 +60,11 @@ std::variant<std::unique_ptr<Computer>, MachineRefusal> Computer::open(const Com
 
 Computer::Computer(Machine machine, const CommandLine& commandLine)
     : m_machine(std::move(machine))
-    // Settings for reading only: a damaged file is reported, and left for the helper to set aside.
-    , m_linux(commandLine.sysfsDirectory, SettingsAccess::ReadOnly)
-    , m_recorded(m_machine.keys, m_linux.bundle(), m_machine.file)
+    , m_own(commandLine.sysfsDirectory)
+    , m_recorded(m_machine.keys, m_own.bundle(), m_machine.file)
     , m_macRegistry(m_recorded.registry)
     , m_settings(isRecorded(commandLine) ? static_cast<UserDefaultsDatabases&>(m_recorded.userDefaults)
-                                         : m_linux.userDefaults())
+                                         : m_own.userDefaults())
     , m_platform(isRecorded(commandLine) ? recordedComputer(commandLine)
                                          : thisComputer(isFollowed(commandLine)))
 {
@@ -73,24 +72,24 @@ Computer::Computer(Machine machine, const CommandLine& commandLine)
 
 Platform Computer::thisComputer(bool isFollowed)
 {
-    const Platform linux = m_linux.services(m_recorded.statusBar);
+    const Platform own = m_own.services(m_recorded.statusBar);
     const Platform recorded = m_recorded.platform();
     // Only who follows is there long enough to hear of changes.
-    const Platform& events = isFollowed ? linux : recorded;
+    const Platform& events = isFollowed ? own : recorded;
     const Platform& bus = hasSessionBus() ? events : recorded;
     // What would show, send or launch something stays recorded; settings are overlaid.
-    return recorded.with({.registry = &linux.registry,
-                          .powerSources = &linux.powerSources,
+    return recorded.with({.registry = &own.registry,
+                          .powerSources = &own.powerSources,
                           .userDefaults = &m_settings,
                           .distributedNotificationCenter = &bus.distributedNotificationCenter,
                           .workspaceNotifications = &events.workspaceNotifications,
-                          .bundle = &linux.bundle,
-                          .clock = &linux.clock,
-                          .host = &linux.host,
-                          .systemFiles = &linux.systemFiles,
+                          .bundle = &own.bundle,
+                          .clock = &own.clock,
+                          .host = &own.host,
+                          .systemFiles = &own.systemFiles,
                           .runLoop = &events.runLoop,
-                          .userDirectories = &linux.userDirectories,
-                          .loginItems = &linux.loginItems,
+                          .userDirectories = &own.userDirectories,
+                          .loginItems = &own.loginItems,
                           .powerEvents = &events.powerEvents});
 }
 
@@ -98,13 +97,25 @@ Platform Computer::recordedComputer(const CommandLine& commandLine)
 {
     // Steps of one that is followed happen in their time, for which a true loop is needed.
     return m_recorded.platform().with({.registry = commandLine.asMac ? &m_macRegistry : nullptr,
-                                       .runLoop = isFollowed(commandLine) ? &m_linux.runLoop() : nullptr});
+                                       .runLoop = isFollowed(commandLine) ? &m_own.runLoop() : nullptr});
+}
+
+IORegistry* Computer::macRegistryAsItIs()
+{
+    if (&m_platform.registry == &m_macRegistry)
+        return &m_recorded.registry;
+    const bool isOwn = &m_platform.registry != &m_recorded.registry;
+    return isOwn ? m_own.registryAsItIs() : nullptr;
+}
+
+bool Computer::isMac()
+{
+    return macRegistryAsItIs() != nullptr;
 }
 
 Platform Computer::platformToCapture()
 {
-    return &m_platform.registry == &m_macRegistry ? m_platform.with({.registry = &m_recorded.registry})
-                                                  : m_platform;
+    return m_platform.with({.registry = macRegistryAsItIs()});
 }
 
 void Computer::playInTime(HelperAppDelegate& delegate)

@@ -6,8 +6,8 @@
 
 #include <QString>
 
+#include "inspect/OwnComputer.h"
 #include "platform/Platform.h"
-#include "platform/linux/LinuxPlatform.h"
 #include "platform/macos/LaidOutRegistry.h"
 #include "platform/recorded/MachineFile.h"
 #include "platform/recorded/OverlaidUserDefaults.h"
@@ -31,6 +31,9 @@ public:
 
     const Platform& platform() const { return m_platform; }
 
+    /// Whether the registry is read as a Mac's.
+    bool isMac();
+
     /// The same with the registry as it is: what is captured is for a back end to read, and to be mended
     /// with.
     Platform platformToCapture();
@@ -51,10 +54,13 @@ private:
     Computer(Machine machine, const CommandLine& commandLine);
 
     Platform thisComputer(bool isFollowed);
+    /// That of a Mac before it is laid out; null where it is read as it is.
+    IORegistry* macRegistryAsItIs();
+
     Platform recordedComputer(const CommandLine& commandLine);
 
     Machine m_machine;
-    LinuxPlatform m_linux;
+    OwnComputer m_own;
     RecordedPlatform m_recorded;
     LaidOutRegistry m_macRegistry;
     OverlaidUserDefaultsDatabases m_settings;

@@ -14,9 +14,8 @@
 #include "inspect/Follower.h"
 #include "inspect/Inspection.h"
 #include "inspect/Metrics.h"
+#include "inspect/OwnComputer.h"
 #include "inspect/TextReport.h"
-#include "platform/linux/os/CoreDumps.h"
-#include "platform/linux/os/EndOfProcess.h"
 
 namespace {
 
@@ -72,7 +71,7 @@ void quitLater()
 /// Runs until the program is ended or nobody reads any more; neither is an error.
 int follow(Computer& computer, const CommandLine& commandLine)
 {
-    const EndOfProcess endOfProcess(&quitLater);
+    const std::shared_ptr<void> end = whenToEnd(&quitLater);
     const Follower follower(computer, commandLine.demo, commandLine.format, [](const QByteArray& lines) {
         print(lines);
         if (!std::ferror(stdout))
@@ -91,7 +90,7 @@ int capture(Computer& computer, const CommandLine& commandLine)
     QVariantMap keys = commandLine.demo ? keysFromModel(Inspection(computer, true).mac())
                                         : capturedKeys(computer.platformToCapture());
     if (!commandLine.withSerials)
-        keys = withoutIdentity(keys);
+        keys = withoutIdentity(keys, computer.isMac() ? CapturedRegistry::OfAMac : CapturedRegistry::Other);
     const QString failure = writeMachineFile(commandLine.captureFile, keys);
     return failure.isEmpty() ? 0 : refuse(commandLine.captureFile + QStringLiteral(": ") + failure);
 }
@@ -136,7 +135,7 @@ int answer(const CommandLine& commandLine)
 int main(int argc, char** argv)
 {
     // First of all: serial numbers are read soon.
-    keepMemoryOutOfCoreDumps();
+    keepOutOfCoreDumps();
     const QCoreApplication application(argc, argv);
     const CommandLine commandLine =
         parseCommandLine(argumentTexts(argc, argv), {.machineFile = pathText(qgetenv("QUINDLE_MACHINE")),

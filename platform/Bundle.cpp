@@ -4,6 +4,15 @@
 
 namespace quindle {
 
+QString programInBundle(const QString& bundlePath, const QString& program)
+{
+#ifdef Q_OS_MACOS
+    return bundlePath + QStringLiteral("/Contents/MacOS/") + program;
+#else
+    return bundlePath + QStringLiteral("/Contents/Linux/") + program;
+#endif
+}
+
 QString helperBundlePath(const QString& runningBundlePath)
 {
     // The main application asks with its own bundle, which carries the helper among its resources.
@@ -19,7 +28,7 @@ QString mainApplicationProgram(const QString& helperBundlePath)
     QString path = helperBundlePath;
     for (int component = 0; component < componentsToMainBundle; ++component)
         path = pathWithoutLastComponent(path);
-    return path.isEmpty() ? path : path + QStringLiteral("/Contents/Linux/quindle");
+    return path.isEmpty() ? path : programInBundle(path, QStringLiteral("quindle"));
 }
 
 } // namespace quindle

@@ -43,6 +43,9 @@ struct InstallationSource
     QString package; ///< of a package: its name; otherwise empty
 };
 
+/// A program of a bundle; whether it is there is not checked.
+QString programInBundle(const QString& bundlePath, const QString& program);
+
 /// The path of the helper's bundle, seen from the running one: itself where its path contains
 /// "Quindle-Helper", otherwise the one among the resources of the main application that it then is. Whether
 /// a bundle is there is not checked.

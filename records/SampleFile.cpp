@@ -204,15 +204,15 @@ StoreOutcome SampleFile::setAside()
 bool SampleFile::isOpen() const
 {
     struct stat found = {};
-    return m_database.isOpen() && ::stat(m_file.constData(), &found) == 0 && found.st_dev == m_device &&
-           found.st_ino == m_number;
+    return m_database.isOpen() && ::stat(m_file.constData(), &found) == 0 &&
+           static_cast<quint64>(found.st_dev) == m_device && found.st_ino == m_number;
 }
 
 void SampleFile::rememberFile()
 {
     struct stat found = {};
     ::stat(m_file.constData(), &found);
-    m_device = found.st_dev;
+    m_device = static_cast<quint64>(found.st_dev); // of another type on each system
     m_number = found.st_ino;
 }
 

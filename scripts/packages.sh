@@ -11,6 +11,7 @@ test_packages="libgtest-dev libgmock-dev mold python3 python3-dbus python3-gi py
     binutils openssl desktop-file-utils appstream man-db"
 fleet_packages="prometheus prometheus-node-exporter python3"
 fuzz_packages="clang"
+macos_packages="clang-14 lld-14 llvm-14 libc++1-14 libc++abi1-14 python3"
 tidy_packages="clang-tidy"
 package_packages="git dpkg-dev file lintian python3 binutils"
 package_check_packages="debootstrap"

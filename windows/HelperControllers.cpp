@@ -38,11 +38,11 @@ std::unique_ptr<QDPreferencesWindowController> preferencesController(const Platf
 } // namespace
 
 HelperControllers::HelperControllers(const Platform& platform, ApplicationPreferences& preferences,
-                                     MainInterface& interface, HelperEnd& helper,
+                                     MainInterface& interface, TitleOf titleOf,
                                      std::function<InstallationSource()> installationSource)
     : m_platform(platform)
     , m_interface(interface)
-    , m_helper(helper)
+    , m_titleOf(std::move(titleOf))
     , m_settings(preferences, platform.userDefaults.standard(), platform.loginItems, platform.bundle,
                  platform.distributedNotificationCenter)
     , m_updateController(platform.bundle, std::move(installationSource))
@@ -52,7 +52,7 @@ HelperControllers::HelperControllers(const Platform& platform, ApplicationPrefer
 DelegateControllers HelperControllers::make(HelperAppDelegate& delegate)
 {
     // Windows refresh the item through the helper, which has it.
-    SharedTitle& title = m_title.emplace(m_helper, delegate);
+    StatusBarTitle& title = m_titleOf(delegate);
     auto menuBarText = HelperPreferences::initWithWindow(nullptr, m_settings, title);
     auto general = std::make_unique<GeneralPreferencesController>(
         m_settings, title, m_platform.distributedNotificationCenter, m_platform.bundle,

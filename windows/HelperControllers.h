@@ -1,17 +1,17 @@
 #pragma once
 
-#include <optional>
+#include <functional>
 
 #include "app/DelegateControllers.h"
 #include "preferences/panes/BoundSettings.h"
 #include "preferences/panes/UpdatePreferencesController.h"
-#include "windows/SharedServices.h"
 
 namespace quindle {
 
 class ApplicationPreferences;
-class HelperEnd;
+class HelperAppDelegate;
 class MainInterface;
+class StatusBarTitle;
 struct Platform;
 
 /// Makes the controllers of the helper's windows, and holds what they share. None of them makes a widget,
@@ -20,9 +20,12 @@ struct Platform;
 class HelperControllers
 {
 public:
+    /// The title that the preferences refresh, of the delegate that the controllers are made for.
+    using TitleOf = std::function<StatusBarTitle&(HelperAppDelegate& delegate)>;
+
     /// All must outlive it. `installationSource` as for UpdatePreferencesController.
     HelperControllers(const Platform& platform, ApplicationPreferences& preferences, MainInterface& interface,
-                      HelperEnd& helper, std::function<InstallationSource()> installationSource);
+                      TitleOf titleOf, std::function<InstallationSource()> installationSource);
 
     /// A ControllerFactory.
     DelegateControllers make(HelperAppDelegate& delegate);
@@ -30,9 +33,8 @@ public:
 private:
     const Platform& m_platform;
     MainInterface& m_interface;
-    HelperEnd& m_helper;
+    TitleOf m_titleOf;
     BoundSettings m_settings;
-    std::optional<SharedTitle> m_title;
     UpdatePreferencesController m_updateController;
 };
 

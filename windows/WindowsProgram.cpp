@@ -23,8 +23,10 @@ WindowsProgram::WindowsProgram(WindowsServices& services, HelperEnd& helper)
     : m_services(services)
     , m_helper(helper)
     , m_platform(services.platform())
-    , m_controllers(m_platform, ApplicationPreferences::sharedInstance(&m_platform), m_interface, helper,
-                    [this] { return installationSource(m_platform.bundle.path()); })
+    , m_controllers(
+          m_platform, ApplicationPreferences::sharedInstance(&m_platform), m_interface,
+          [this](HelperAppDelegate& owner) -> StatusBarTitle& { return m_title.emplace(m_helper, owner); },
+          [this] { return installationSource(m_platform.bundle.path()); })
     , m_delegate(m_platform, ApplicationPreferences::sharedInstance(), m_interface, &QDMac::init,
                  [this](HelperAppDelegate& owner) { return m_controllers.make(owner); })
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "app/HelperAppDelegate.h"
 #include "menubar/MainInterface.h"
 #include "platform/Platform.h"
@@ -36,6 +38,7 @@ private:
     HelperEnd& m_helper;
     Platform m_platform;
     MainInterface m_interface;
+    std::optional<SharedTitle> m_title;
     HelperControllers m_controllers;
     HelperAppDelegate m_delegate;
     quint32 m_requests = 0;

@@ -22,7 +22,11 @@ std::unique_ptr<DefaultsCalls> suiteDefaults(const QString& name);
 std::unique_ptr<NotificationCalls> systemNotifications();
 std::unique_ptr<WorkspaceNotifications> systemSleepNotifications();
 std::unique_ptr<TimerCalls> systemTimers();
-std::unique_ptr<LoginCalls> systemLoginItem();
+
+/// Whether the helper is started at login, asked by itself, and by the application that carries it.
+std::unique_ptr<LoginCalls> ownLoginItem();
+std::unique_ptr<LoginCalls> loginItemNamed(const QString& identifier);
+
 std::unique_ptr<OpenCalls> systemWorkspace();
 std::unique_ptr<HttpCalls> systemHttp();
 

@@ -10,23 +10,36 @@ namespace {
 class SystemLoginItem : public LoginCalls
 {
 public:
-    bool isOn() override { return [SMAppService mainAppService].status == SMAppServiceStatusEnabled; }
+    explicit SystemLoginItem(SMAppService* service)
+        : m_service(service)
+    {
+    }
+
+    bool isOn() override { return m_service.status == SMAppServiceStatusEnabled; }
 
     QString setOn(bool isOn) override
     {
         NSError* error = nil;
-        SMAppService* const service = [SMAppService mainAppService];
         const BOOL done =
-            isOn ? [service registerAndReturnError:&error] : [service unregisterAndReturnError:&error];
+            isOn ? [m_service registerAndReturnError:&error] : [m_service unregisterAndReturnError:&error];
         return done ? QString() : plainText(error.localizedDescription);
     }
+
+private:
+    SMAppService* m_service;
 };
 
 } // namespace
 
-std::unique_ptr<LoginCalls> systemLoginItem()
+std::unique_ptr<LoginCalls> ownLoginItem()
 {
-    return std::make_unique<SystemLoginItem>();
+    return std::make_unique<SystemLoginItem>([SMAppService mainAppService]);
+}
+
+std::unique_ptr<LoginCalls> loginItemNamed(const QString& identifier)
+{
+    return std::make_unique<SystemLoginItem>(
+        [SMAppService loginItemServiceWithIdentifier:cocoaText(identifier)]);
 }
 
 } // namespace quindle

@@ -186,6 +186,17 @@ class CommandLine(unittest.TestCase):
         with open(self.path("again.plist"), "rb") as file:
             self.assertEqual(plistlib.load(file)["Registry"]["AppleSmartBattery"], battery)
 
+    def test_capture_of_a_mac_hides_the_serial_of_apple_silicon(self):
+        battery = {"Serial": "F8Y0417B2QW1LRXA3", "BatteryData": {"Serial": "F8Y0417B2QW1LRXA3"}, "Voltage": 12000}
+        self.report_of(battery)
+        self.assertEqual(self.run_program("--capture", self.path("mac.plist"), "--machine", self.machine, "--as-mac").returncode, 0)
+        with open(self.path("mac.plist"), "rb") as file:
+            captured = plistlib.load(file)["Registry"]["AppleSmartBattery"]
+        self.assertNotIn("F8Y0417B2QW1LRXA3", repr(captured))
+        self.assertEqual(len(captured["Serial"]), 17)
+        self.assertEqual(captured["BatteryData"]["Serial"], captured["Serial"])
+        self.assertEqual(captured["Voltage"], 12000)
+
     def test_report_dates_no_computer_by_a_serial_that_does_not_decode(self):
         expert = {"model": b"x\0", "IOPlatformSerialNumber": "PFQQABCDEFG"}
         report = self.report_of(Registry={"IOPlatformExpertDevice": expert})

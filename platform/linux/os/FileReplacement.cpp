@@ -160,9 +160,15 @@ void removeLeftovers(const QByteArray& path)
 
 int renameWithoutReplacing(const QByteArray& path, const QByteArray& newPath)
 {
-    if (::renameat2(AT_FDCWD, path.constData(), AT_FDCWD, newPath.constData(), RENAME_NOREPLACE) == 0)
+#ifdef Q_OS_MACOS
+    const int result = ::renamex_np(path.constData(), newPath.constData(), RENAME_EXCL);
+#else
+    const int result =
+        ::renameat2(AT_FDCWD, path.constData(), AT_FDCWD, newPath.constData(), RENAME_NOREPLACE);
+#endif
+    if (result == 0)
         return 0;
-    if (errno != EINVAL && errno != ENOSYS)
+    if (errno != EINVAL && errno != ENOSYS && errno != ENOTSUP)
         return errno;
     // Some file systems cannot promise it; a look before is the best there.
     struct stat found = {};

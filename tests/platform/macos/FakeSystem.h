@@ -27,7 +27,11 @@ public:
     }
     quint32 findClass(const QString& className) override { return findName(className); }
     QVariant property(quint32 entry, const QString& key) override { return properties(entry).value(key); }
-    QVariantMap properties(quint32 entry) override { return entries[m_names.at(entry)]; }
+    QVariantMap properties(quint32 entry) override
+    {
+        const auto found = entries.find(m_names.at(entry));
+        return found == entries.end() ? QVariantMap() : found->second;
+    }
     IOStatus release(quint32 entry) override
     {
         --held.at(entry);
