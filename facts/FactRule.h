@@ -40,11 +40,11 @@ constexpr FactCaptions inViewAndReport(const char16_t* caption)
 template <class Source>
 struct FactRule
 {
-    FactId id;
-    FactGroup group;
-    int rank;
+    FactId id = FactId::Charge;
+    FactGroup group = FactGroup::Summary;
+    int rank = 0;
     FactCaptions captions;
-    FactText (*text)(const Source&);
+    FactText (*text)(const Source&) = nullptr;
     FactClick click = FactClick::Nothing;
 
     const char16_t* caption(FactPlace place) const
