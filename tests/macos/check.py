@@ -79,10 +79,14 @@ class Failure(Exception):
     """One line for the person who ran it."""
 
 
-def run(command, what):
+class NotFetched(Failure):
+    """What is to be compared with is not to be had: no fault of the program."""
+
+
+def run(command, what, failure=Failure):
     result = subprocess.run([str(part) for part in command], capture_output=True, text=True, check=False)
     if result.returncode:
-        raise Failure(f"{what}\n{result.stdout}{result.stderr}".rstrip())
+        raise failure(f"{what}\n{result.stdout}{result.stderr}".rstrip())
     return result.stdout
 
 
@@ -101,7 +105,7 @@ def archive_of(name, integrity):
         return path
     PACKAGES.mkdir(parents=True, exist_ok=True)
     run(["npm", "pack", name, "--ignore-scripts", "--pack-destination", PACKAGES],
-        f"npm cannot fetch {name}: is the network there?")
+        f"npm cannot fetch {name}: is the network there?", NotFetched)
     if digest(path) != integrity:
         raise Failure(f"{path}: is not the package that was looked at (its SHA-512 differs)")
     return path
@@ -324,4 +328,5 @@ def check():
 try:
     check()
 except Failure as failure:
-    sys.exit(f"check-macos: {failure}")
+    print(f"check-macos: {failure}", file=sys.stderr)
+    sys.exit(os.EX_TEMPFAIL if isinstance(failure, NotFetched) else 1)

@@ -7,7 +7,7 @@ import unittest
 from pathlib import Path
 
 COVERAGE = Path(__file__).resolve().parents[2] / "scripts" / "coverage"
-MODEL = ("battery", "mac", "facts", "menubar", "history", "samples", "records", "plist", "common")
+MODEL = ("battery", "mac", "facts", "menubar", "history", "samples", "warnings", "records", "plist", "common")
 
 # Ten lines of code that run, and as many as asked for that do not.
 RULE = """int {name}(int number)
