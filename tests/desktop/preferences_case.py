@@ -98,7 +98,8 @@ class PreferencesCase(HelperCase):
                                  *arguments)
 
     def tree(self):
-        return json.loads(self.accessibility("tree"))
+        """Begun again where it met a control that was just being taken away: nothing is printed then."""
+        return json.loads(wait_for(lambda: self.accessibility("tree"), 10) or "")
 
     def control(self, role, name):
         """A window is mapped a while before assistive technologies hear of what is in it."""
