@@ -17,7 +17,7 @@ struct LevelWords
 {
     const char* title;
     const char* text; ///< after the charge
-    const char* icon; ///< one that the naming specification of icon themes has
+    const char* icon; ///< a name that every icon theme is expected to have
     const char* argument;
     Urgency urgency;
 };
