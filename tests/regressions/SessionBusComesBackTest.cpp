@@ -5,6 +5,7 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <gtest/gtest.h>
 
@@ -48,7 +49,12 @@ private:
                                                            QStringLiteral("org.freedesktop.DBus.Properties"),
                                                            QStringLiteral("Get"));
         call << QStringLiteral("org.kde.StatusNotifierItem") << QStringLiteral("Title");
-        const QDBusMessage answer = bus.call(call, QDBus::BlockWithGui, 2000);
+        // Not a call that blocks with a loop of its own: the library misses an answer that comes just before
+        // it.
+        const QDBusPendingCall asked = bus.asyncCall(call, 2000);
+        if (!comesTrue([&] { return asked.isFinished(); }))
+            return {};
+        const QDBusMessage answer = asked.reply();
         return answer.arguments().value(0).value<QDBusVariant>().variant().toString();
     }
 };
