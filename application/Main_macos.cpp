@@ -11,7 +11,7 @@
 #include "app/SilentServices.h"
 #include "application/ApplicationCommandLine.h"
 #include "application/ApplicationProgram.h"
-#include "application/commands/ExportCommand.h"
+#include "application/OutputOfExport.h"
 #include "application/commands/RecordCommand.h"
 #include "common/Paths.h"
 #include "platform/PowerHistory.h"
@@ -40,12 +40,6 @@ void report(const QString& line)
 {
     fail(line, EX_OK);
 }
-
-class NoPowerHistory : public PowerHistory
-{
-public:
-    std::optional<RecordedPower> lastWeek() override { return std::nullopt; }
-};
 
 /// Models are looked up, and snapshots sent, by the helper alone.
 struct ApplicationOnMac
@@ -81,27 +75,14 @@ int record(const Platform& platform)
     return isGiven ? recordHistory(platform, none, samples, &report) : EX_OK;
 }
 
-int exportTo(const Platform& platform, const ApplicationCommandLine& commandLine)
-{
-    ExportOptions options;
-    options.format = commandLine.format;
-    options.identity = commandLine.withSerials ? ExportedIdentity::Included : ExportedIdentity::LeftOut;
-    if (commandLine.since)
-        options.since = commandLine.since->startOfDay();
-    QFile output;
-    if (!output.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return fail(QStringLiteral("cannot write to standard output: ") + output.errorString(), EX_IOERR);
-    return commandLine.samples ? exportSamples(platform, options, output, &report)
-                               : exportHistory(platform, options, output, &report);
-}
-
 int runCommand(int argc, char** argv, const ApplicationCommandLine& commandLine)
 {
     const QCoreApplication application(argc, argv);
     ApplicationOnMac own;
     const Platform platform = own.platform();
-    return commandLine.call == ApplicationCommandLine::Call::Record ? record(platform)
-                                                                    : exportTo(platform, commandLine);
+    return commandLine.call == ApplicationCommandLine::Call::Record
+               ? record(platform)
+               : exportToStandardOutput(platform, commandLine, &report);
 }
 
 } // namespace

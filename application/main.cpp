@@ -17,7 +17,7 @@
 #include "application/ApplicationCommandLine.h"
 #include "application/ApplicationProgram.h"
 #include "application/ApplicationServices.h"
-#include "application/commands/ExportCommand.h"
+#include "application/OutputOfExport.h"
 #include "application/commands/RecordCommand.h"
 #include "common/Paths.h"
 #include "platform/PowerHistory.h"
@@ -50,12 +50,6 @@ int print(const QByteArray& text)
     return std::fflush(stdout) == 0 ? EX_OK
                                     : fail(QStringLiteral("cannot write to standard output"), EX_IOERR);
 }
-
-class NoPowerHistory : public PowerHistory
-{
-public:
-    std::optional<RecordedPower> lastWeek() override { return std::nullopt; }
-};
 
 bool hasDisplay()
 {
@@ -157,20 +151,6 @@ int record(const Platform& platform, bool isThisComputer)
     return recordHistory(platform, history, samples, &report);
 }
 
-int exportTo(const Platform& platform, const ApplicationCommandLine& commandLine)
-{
-    ExportOptions options;
-    options.format = commandLine.format;
-    options.identity = commandLine.withSerials ? ExportedIdentity::Included : ExportedIdentity::LeftOut;
-    if (commandLine.since)
-        options.since = commandLine.since->startOfDay();
-    QFile output;
-    if (!output.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return fail(QStringLiteral("cannot write to standard output: ") + output.errorString(), EX_IOERR);
-    return commandLine.samples ? exportSamples(platform, options, output, &report)
-                               : exportHistory(platform, options, output, &report);
-}
-
 int runCommand(const ApplicationCommandLine& commandLine, const std::optional<Machine>& machine)
 {
     int count = 1;
@@ -181,7 +161,7 @@ int runCommand(const ApplicationCommandLine& commandLine, const std::optional<Ma
     const Platform platform = services->platform();
     return commandLine.call == ApplicationCommandLine::Call::Record
                ? record(platform, isThisComputer(machine))
-               : exportTo(platform, commandLine);
+               : exportToStandardOutput(platform, commandLine, &report);
 }
 
 int start(const ApplicationCommandLine& commandLine)

@@ -41,4 +41,11 @@ public:
     virtual std::optional<RecordedPower> lastWeek() = 0;
 };
 
+/// Of a computer on which no service records.
+class NoPowerHistory : public PowerHistory
+{
+public:
+    std::optional<RecordedPower> lastWeek() override { return std::nullopt; }
+};
+
 } // namespace quindle

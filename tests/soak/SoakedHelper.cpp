@@ -16,6 +16,7 @@
 #include "battery/QDBattery.h"
 #include "history/SavedHistory.h"
 #include "mac/QDMac.h"
+#include "platform/PowerHistory.h"
 #include "platform/linux/statusitem/LinuxStatusItem.h"
 #include "records/SampleStore.h"
 
@@ -70,12 +71,6 @@ MachineStep batteryStep(const QVariantMap& battery)
     const QVariantMap registry{{QStringLiteral("AppleSmartBattery"), battery}};
     return {.remove = {}, .keys = {{QStringLiteral("Registry"), registry}}, .actions = {}};
 }
-
-class NoPowerHistory : public PowerHistory
-{
-public:
-    std::optional<RecordedPower> lastWeek() override { return std::nullopt; }
-};
 
 void require(bool holds, const char* what)
 {
