@@ -15,8 +15,8 @@
 #include "platform/NotificationCenter.h"
 #include "platform/RunLoop.h"
 #include "platform/UserDefaults.h"
-#include "records/CapacityPoints.h"
 #include "records/SampleStore.h"
+#include "records/trend/CapacityPoints.h"
 #include "settings/ApplicationPreferences.h"
 #include "settings/HistorySettings.h"
 

@@ -7,10 +7,10 @@
 #include <benchmark/benchmark.h>
 
 #include "history/SavedHistory.h"
-#include "records/CapacityPoints.h"
 #include "records/SampleStore.h"
 #include "records/SnapshotArchive.h"
 #include "records/Thinning.h"
+#include "records/trend/CapacityPoints.h"
 #include "tests/support/InventedHistory.h"
 
 using namespace quindle;

@@ -13,7 +13,7 @@
 #include "charts/TimeSeriesChart.h"
 #include "common/NumberTexts.h"
 #include "facts/ValueTexts.h"
-#include "records/TrendSentence.h"
+#include "records/trend/TrendSentence.h"
 #include "view/ViewMetrics.h"
 #include "widgets/LinkButton.h"
 #include "widgets/PlainLabel.h"

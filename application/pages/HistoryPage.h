@@ -5,7 +5,7 @@
 #include "application/pages/HistoryRange.h"
 #include "application/pages/SampleChart.h"
 #include "application/pages/ScrollPage.h"
-#include "records/CapacityPoint.h"
+#include "records/trend/CapacityPoints.h"
 #include "samples/Sample.h"
 
 class QHBoxLayout;

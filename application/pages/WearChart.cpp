@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "facts/ValueTexts.h"
-#include "records/TrendProjection.h"
+#include "records/trend/TrendProjection.h"
 
 namespace quindle {
 

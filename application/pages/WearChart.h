@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "charts/ChartContent.h"
-#include "records/CapacityPoint.h"
-#include "records/TrendEstimate.h"
+#include "records/trend/CapacityPoints.h"
+#include "records/trend/TrendEstimate.h"
 
 namespace quindle {
 

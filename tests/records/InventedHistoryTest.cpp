@@ -2,8 +2,8 @@
 
 #include <limits>
 
-#include "records/CapacityPoints.h"
 #include "records/Thinning.h"
+#include "records/trend/CapacityPoints.h"
 #include "tests/records/TemporaryHistory.h"
 
 using namespace quindle;

@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "charts/TimeSeriesChart.h"
-#include "tests/records/TrendHistory.h"
+#include "tests/records/trend/TrendHistory.h"
 #include "tests/support/QtPrinters.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/SegmentedControl.h"

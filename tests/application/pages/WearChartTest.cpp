@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/records/TrendHistory.h"
+#include "tests/records/trend/TrendHistory.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

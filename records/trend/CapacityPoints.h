@@ -1,7 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include <QString>
-#include <QtGlobal>
+#include <QVariant>
 
 namespace quindle {
 
@@ -16,5 +18,9 @@ struct CapacityPoint
 
     bool operator==(const CapacityPoint& other) const = default;
 };
+
+/// What the snapshot records say about wear, sorted by moment. Records without a date, and those without a
+/// full-charge capacity that is a number above 0, say nothing; any type of number will do.
+std::vector<CapacityPoint> capacityPoints(const QVariantList& records);
 
 } // namespace quindle

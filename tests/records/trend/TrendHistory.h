@@ -7,7 +7,7 @@
 #include <QDate>
 #include <QDateTime>
 
-#include "records/CapacityPoint.h"
+#include "records/trend/CapacityPoints.h"
 
 namespace quindle::test {
 

@@ -1,8 +1,8 @@
-#include "records/TrendEstimate.h"
+#include "records/trend/TrendEstimate.h"
 
 #include <gtest/gtest.h>
 
-#include "tests/records/TrendHistory.h"
+#include "tests/records/trend/TrendHistory.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

@@ -1,4 +1,4 @@
-#include "records/TrendSentence.h"
+#include "records/trend/TrendSentence.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include "records/TrendEstimate.h"
+#include "records/trend/TrendEstimate.h"
 
 namespace quindle {
 

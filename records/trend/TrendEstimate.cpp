@@ -1,11 +1,11 @@
-#include "records/TrendEstimate.h"
+#include "records/trend/TrendEstimate.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <functional>
 
-#include "records/TrendLine.h"
+#include "records/trend/TrendLine.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "records/TrendProjection.h"
+#include "records/trend/TrendProjection.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "records/CapacityPoints.h"
+#include "records/trend/CapacityPoints.h"
 
 #include <limits>
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "records/CapacityPoint.h"
+#include "records/trend/CapacityPoints.h"
 
 namespace quindle {
 

@@ -1,9 +1,9 @@
-#include "records/TrendSentence.h"
+#include "records/trend/TrendSentence.h"
 
 #include <QDateTime>
 #include <gtest/gtest.h>
 
-#include "tests/records/TrendHistory.h"
+#include "tests/records/trend/TrendHistory.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

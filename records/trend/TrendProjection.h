@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "records/TrendEstimate.h"
+#include "records/trend/TrendEstimate.h"
 
 namespace quindle {
 

@@ -1,4 +1,4 @@
-#include "records/TrendLine.h"
+#include "records/trend/TrendLine.h"
 
 #include <cmath>
 #include <random>
