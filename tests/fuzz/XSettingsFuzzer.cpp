@@ -1,4 +1,4 @@
-#include "platform/linux/session/XSettings.h"
+#include "platform/linux/display/XSettings.h"
 #include "tests/fuzz/FuzzInput.h"
 
 using namespace quindle;

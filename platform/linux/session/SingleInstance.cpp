@@ -1,6 +1,6 @@
 #include "platform/linux/session/SingleInstance.h"
 
-#include "platform/linux/session/DisplayKey.h"
+#include "platform/linux/display/DisplayKey.h"
 
 namespace quindle {
 

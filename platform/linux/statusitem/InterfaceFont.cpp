@@ -6,8 +6,8 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 
+#include "platform/linux/display/XSettings.h"
 #include "platform/linux/pictures/FontChoice.h"
-#include "platform/linux/session/XSettings.h"
 
 namespace quindle {
 

@@ -11,10 +11,10 @@
 #include <QString>
 
 #include "platform/StatusBar.h"
+#include "platform/linux/display/X11Desktop.h"
+#include "platform/linux/display/X11Display.h"
 #include "platform/linux/os/Colour.h"
 #include "platform/linux/session/BacklogGuard.h"
-#include "platform/linux/session/X11Desktop.h"
-#include "platform/linux/session/X11Display.h"
 #include "platform/linux/statusitem/HostTraits.h"
 #include "platform/linux/statusitem/InterfaceFont.h"
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"

@@ -3,7 +3,7 @@
 #include <QGuiApplication>
 #include <QWindow>
 
-#include "platform/linux/session/X11Desktop.h"
+#include "platform/linux/display/X11Desktop.h"
 
 namespace quindle {
 

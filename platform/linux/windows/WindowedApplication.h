@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/linux/display/X11Display.h"
 #include "platform/linux/session/LinuxApplication.h"
-#include "platform/linux/session/X11Display.h"
 
 namespace quindle {
 

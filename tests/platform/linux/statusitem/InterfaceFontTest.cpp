@@ -7,8 +7,8 @@
 #include <QDBusVariant>
 #include <gtest/gtest.h>
 
+#include "platform/linux/display/X11Display.h"
 #include "platform/linux/session/LinuxRunLoop.h"
-#include "platform/linux/session/X11Display.h"
 #include "tests/platform/linux/statusitem/PrivateBus.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"

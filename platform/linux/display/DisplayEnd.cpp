@@ -1,4 +1,4 @@
-#include "platform/linux/session/DisplayEnd.h"
+#include "platform/linux/display/DisplayEnd.h"
 
 #include <cstddef>
 #include <cstring>
@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "common/Paths.h"
+#include "platform/linux/display/X11Display.h"
 #include "platform/linux/os/FileDescriptor.h"
-#include "platform/linux/session/X11Display.h"
 
 namespace quindle {
 

@@ -1,11 +1,11 @@
-#include "platform/linux/session/XSettings.h"
+#include "platform/linux/display/XSettings.h"
 
 #include <chrono>
 
 #include <QtEndian>
 #include <gtest/gtest.h>
 
-#include "platform/linux/session/X11Display.h"
+#include "platform/linux/display/X11Display.h"
 
 namespace quindle {
 namespace {

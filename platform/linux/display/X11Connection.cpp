@@ -1,4 +1,4 @@
-#include "platform/linux/session/X11Connection.h"
+#include "platform/linux/display/X11Connection.h"
 
 #include <cstdlib>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "platform/linux/session/DisplayKey.h"
+#include "platform/linux/display/DisplayKey.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/session/DisplayEnd.h"
+#include "platform/linux/display/DisplayEnd.h"
 
 #include <algorithm>
 

@@ -1,12 +1,12 @@
-#include "platform/linux/session/XSettings.h"
+#include "platform/linux/display/XSettings.h"
 
 #include <optional>
 
 #include <QByteArrayView>
 #include <QtEndian>
 
-#include "platform/linux/session/X11Connection.h"
-#include "platform/linux/session/X11Display.h"
+#include "platform/linux/display/X11Connection.h"
+#include "platform/linux/display/X11Display.h"
 
 namespace quindle {
 

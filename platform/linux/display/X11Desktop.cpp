@@ -1,4 +1,4 @@
-#include "platform/linux/session/X11Desktop.h"
+#include "platform/linux/display/X11Desktop.h"
 
 #include <array>
 #include <cstdint>
@@ -7,8 +7,8 @@
 #include <QByteArray>
 #include <QRandomGenerator>
 
-#include "platform/linux/session/X11Connection.h"
-#include "platform/linux/session/X11Display.h"
+#include "platform/linux/display/X11Connection.h"
+#include "platform/linux/display/X11Display.h"
 
 namespace quindle {
 

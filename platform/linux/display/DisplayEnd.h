@@ -7,7 +7,7 @@
 #include <QString>
 #include <QTimer>
 
-#include "platform/linux/session/DisplayKey.h"
+#include "platform/linux/display/DisplayKey.h"
 
 namespace quindle {
 

@@ -1,6 +1,6 @@
 // Questions to an X server were asked on the main thread: a server that did not answer held the program up.
 
-#include "platform/linux/session/X11Display.h"
+#include "platform/linux/display/X11Display.h"
 
 #include <algorithm>
 #include <chrono>
@@ -13,9 +13,9 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include "platform/linux/display/X11Connection.h"
+#include "platform/linux/display/X11Desktop.h"
 #include "platform/linux/os/FileDescriptor.h"
-#include "platform/linux/session/X11Connection.h"
-#include "platform/linux/session/X11Desktop.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

@@ -1,12 +1,12 @@
-#include "platform/linux/session/X11Display.h"
+#include "platform/linux/display/X11Display.h"
 
 #include <utility>
 
 #include <QLoggingCategory>
 
+#include "platform/linux/display/X11Connection.h"
 #include "platform/linux/os/DetachedThread.h"
 #include "platform/linux/os/EndOfWork.h"
-#include "platform/linux/session/X11Connection.h"
 
 namespace quindle {
 
