@@ -89,9 +89,7 @@ std::vector<ApplicationPage> ApplicationProgram::pages()
         connect(this, &ApplicationProgram::refreshed, page, &Page::refresh);
         return page;
     };
-    const auto battery = [this, kept](QWidget* parent) {
-        return kept(new BatteryPage(m_interface, m_platform.powerSources, parent));
-    };
+    const auto battery = [this, kept](QWidget* parent) { return kept(new BatteryPage(m_interface, parent)); };
     const auto history = [this](QWidget* parent) { return makeHistoryPage(parent); };
     const auto snapshots = [this](QWidget* parent) { return makeSnapshotsPage(parent); };
     const auto details = [this, kept](QWidget* parent) {

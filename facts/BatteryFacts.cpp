@@ -188,7 +188,13 @@ FactText device(const BatterySource& source)
 
 FactText madeBy(const BatterySource& source)
 {
-    return {.value = joined(manufacturer(source).value, besideEachOther(), device(source).value)};
+    const QString maker = manufacturer(source).value;
+    FactText text{.value = joined(maker, besideEachOther(), device(source).value)};
+    // Some name their gauge's chip alone, and the chip has not made the battery.
+    if (maker.isEmpty())
+        text.caption =
+            source.place == FactPlace::Menu ? QStringLiteral("Battery device") : QStringLiteral("Device");
+    return text;
 }
 
 FactText serialNumber(const BatterySource& source)

@@ -32,6 +32,7 @@ enum class FactId {
     Device,
     BatterySerial,
     BatteryAge,
+    EachBattery,
     Peripheral,
     Computer,
     Name,
@@ -44,10 +45,11 @@ enum class FactId {
 
 /// Which facts belong together.
 enum class FactGroup {
-    Summary, ///< of the battery; in the view each has a place of its own
-    State,   ///< what the battery does
-    Battery, ///< what it is
-    Devices, ///< batteries of devices such as a mouse
+    Summary,   ///< of the battery; in the view each has a place of its own
+    State,     ///< what the battery does
+    Battery,   ///< what it is
+    Batteries, ///< each by itself, where there are several
+    Devices,   ///< batteries of devices such as a mouse
     Computer,
 };
 

@@ -8,6 +8,7 @@
 #include "common/NumberTexts.h"
 #include "facts/BatteryFacts.h"
 #include "facts/ComputerFacts.h"
+#include "facts/SystemBatteries.h"
 #include "facts/ValueTexts.h"
 #include "mac/QDMac.h"
 #include "platform/PowerSources.h"
@@ -16,7 +17,7 @@ namespace quindle {
 
 namespace {
 
-constexpr int rankOfDevices = 45; // before the computer, which hardly ever changes
+constexpr int rankOfDevices = 46; // before the computer, which hardly ever changes
 
 const QDBattery* batteryOf(const FactSources& sources)
 {
@@ -62,6 +63,7 @@ std::vector<Fact> factsFor(FactPlace place, const FactSources& sources)
 {
     std::vector<Fact> facts;
     addBatteryFacts(facts, place, batteryOf(sources), chargeLimit(sources, place));
+    addSystemBatteryFacts(facts, place, batteryOf(sources) ? sources.powerSources : nullptr);
     addDeviceFacts(facts, place, sources.powerSources);
     addComputerFacts(facts, place, sources.mac);
     if (place != FactPlace::Report)

@@ -85,9 +85,10 @@ std::vector<Group> reportGroups(const QVariantMap& state, const std::vector<Fact
                               factGroup(QStringLiteral("Battery"), facts, FactGroup::Battery)};
     if (!state.value(QStringLiteral("battery")).isValid())
         groups.back().rows = {{QStringLiteral("None"), QStringLiteral("this computer has no battery")}};
-    Group devices = factGroup(QStringLiteral("Devices"), facts, FactGroup::Devices);
-    if (!devices.rows.empty())
-        groups.push_back(std::move(devices));
+    for (auto& others : {factGroup(QStringLiteral("Batteries"), facts, FactGroup::Batteries),
+                         factGroup(QStringLiteral("Devices"), facts, FactGroup::Devices)})
+        if (!others.rows.empty())
+            groups.push_back(others);
     groups.push_back(factGroup(QStringLiteral("Computer"), facts, FactGroup::Computer));
     return groups;
 }

@@ -22,7 +22,8 @@ BatteryView::BatteryView(MainInterface& interface, QWidget* parent)
         whole->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_ui->stateOfChargeProgress->follow(interface.stateOfChargeProgress());
     m_ui->stateOfHealthProgress->follow(interface.stateOfHealthProgress());
-    for (const FactList* list : {m_ui->stateList, m_ui->batteryList, m_ui->devicesList, m_ui->computerList})
+    for (const FactList* list :
+         {m_ui->stateList, m_ui->batteryList, m_ui->batteriesList, m_ui->devicesList, m_ui->computerList})
         connect(list, &FactList::clicked, this, &FactsView::clicked);
     fitToFont();
 }
@@ -36,6 +37,7 @@ void BatteryView::setFacts(const std::vector<Fact>& facts)
     m_ui->stateList->setFacts(facts, FactGroup::State);
     showHealth(factWithId(facts, FactId::Health), factWithId(facts, FactId::Cycles));
     m_ui->batteryList->setFacts(facts, FactGroup::Battery);
+    m_ui->batteriesList->setFacts(facts, FactGroup::Batteries);
     m_ui->devicesList->setFacts(facts, FactGroup::Devices);
     m_ui->computerList->setFacts(facts, FactGroup::Computer);
 }

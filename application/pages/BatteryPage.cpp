@@ -7,12 +7,10 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "application/pages/SystemBatteries.h"
 #include "facts/Facts.h"
 #include "facts/ValueTexts.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
-#include "platform/PowerSources.h"
 #include "view/FactList.h"
 #include "view/FactRow.h"
 #include "view/ViewMetrics.h"
@@ -41,22 +39,11 @@ QString wordsOfHealth(const Fact& health)
     return behind.startsWith(besideEachOther()) ? behind.mid(besideEachOther().size()) : behind;
 }
 
-std::vector<QVariantMap> descriptionsOf(PowerSources& sources)
-{
-    std::vector<QVariantMap> descriptions;
-    const int count = sources.sourceCount().value_or(0);
-    for (int source = 0; source < count; ++source)
-        if (const auto description = sources.description(source))
-            descriptions.push_back(*description);
-    return descriptions;
-}
-
 } // namespace
 
-BatteryPage::BatteryPage(MainInterface& interface, PowerSources& powerSources, QWidget* parent)
+BatteryPage::BatteryPage(MainInterface& interface, QWidget* parent)
     : ScrollPage(parent)
     , m_interface(interface)
-    , m_powerSources(powerSources)
     , m_noBattery(new PlainLabel(&content()))
     , m_charge(makeGauge(QStringLiteral("Charge")))
     , m_stateList(makeList({}))
@@ -149,9 +136,7 @@ void BatteryPage::showAll(const std::vector<Fact>& facts)
         joined(cycles.shown ? cycles.toolTip : QString(), QStringLiteral("\n"), health.toolTip)));
     m_stateList->setFacts(facts, FactGroup::State);
     m_batteryList->setFacts(facts, FactGroup::Battery);
-    m_batteriesList->setFacts(hasBattery ? systemBatteryFacts(descriptionsOf(m_powerSources))
-                                         : std::vector<Fact>(),
-                              FactGroup::Devices);
+    m_batteriesList->setFacts(facts, FactGroup::Batteries);
     m_devicesList->setFacts(facts, FactGroup::Devices);
     m_computerList->setFacts(facts, FactGroup::Computer);
 }

@@ -14,7 +14,6 @@ class FactList;
 class FactRow;
 class MainInterface;
 class PlainLabel;
-class PowerSources;
 class menuIndicator;
 
 /// The page "Battery": the facts of the battery view with room around them, each battery of several by
@@ -24,8 +23,8 @@ class BatteryPage : public ScrollPage
     Q_OBJECT
 
 public:
-    /// Both must outlive it. It colours its bars as `interface` says.
-    BatteryPage(MainInterface& interface, PowerSources& powerSources, QWidget* parent = nullptr);
+    /// The interface must outlive it, and says how to colour the bars.
+    explicit BatteryPage(MainInterface& interface, QWidget* parent = nullptr);
 
     /// Shows the present facts; for every refresh of the models. Does nothing while the page is not seen.
     void refresh();
@@ -59,7 +58,6 @@ private:
     void arrange();
 
     MainInterface& m_interface;
-    PowerSources& m_powerSources;
     PlainLabel* m_noBattery;
     Gauge m_charge;
     FactList* m_stateList;

@@ -116,6 +116,21 @@ TEST_F(BatteryFactsTest, WithoutAFullChargeThereIsNoHealthEither)
     EXPECT_FALSE(fact(FactId::Health).percent);
 }
 
+TEST_F(BatteryFactsTest, AGaugesChipAloneHasNotMadeTheBattery)
+{
+    setBattery("Manufacturer", {});
+    make();
+    EXPECT_EQ(fact(FactId::MadeBy).caption, QStringLiteral("Device"));
+    EXPECT_EQ(fact(FactId::MadeBy).value, QStringLiteral("bq20z451"));
+    EXPECT_EQ(fact(FactId::MadeBy, FactPlace::Menu).caption, QStringLiteral("Battery device"));
+    EXPECT_EQ(fact(FactId::Device, FactPlace::Report).caption, QStringLiteral("Device"));
+    setBattery("Manufacturer", QStringLiteral("SMP"));
+    setBattery("DeviceName", {});
+    make();
+    EXPECT_EQ(fact(FactId::MadeBy).caption, QStringLiteral("Made by"));
+    EXPECT_EQ(fact(FactId::MadeBy, FactPlace::Menu).caption, QStringLiteral("Battery made by"));
+}
+
 TEST_F(BatteryFactsTest, DemoShowsItsTimeThoughNoStateIsKnown)
 {
     makeDemo();

@@ -1,6 +1,6 @@
 // Renders the opened battery view of an invented computer: BatteryViewShot CASE FILE.png
-// CASE: words joined by "-" of light, dark, charging, full, low, held, nodesign, limit, devices, demo, none,
-// rtl, long; "stay" leaves it open
+// CASE: words joined by "-" of light, dark, charging, full, low, held, nodesign, limit, devices, two, chip,
+// demo, none, rtl, long; "stay" leaves it open
 
 #include <QApplication>
 #include <QPalette>
@@ -46,6 +46,21 @@ void limit(FactComputer& computer)
     computer.platform.powerSources.limit = 80;
 }
 
+QVariantMap oneOfTwo(const char* name, qint64 percent, qint64 current)
+{
+    return {{QStringLiteral("Type"), QStringLiteral("InternalBattery")},
+            {QStringLiteral("Name"), QString::fromLatin1(name)},
+            {QStringLiteral("Current Capacity"), percent},
+            {QStringLiteral("Max Capacity"), 100},
+            {QStringLiteral("Current"), current},
+            {QStringLiteral("BatteryHealth"), QStringLiteral("Good")}};
+}
+
+void two(FactComputer& computer)
+{
+    computer.platform.powerSources.sources = {oneOfTwo("45N1113", 34, -1000), oneOfTwo("45N1127", 81, 0)};
+}
+
 void none(FactComputer& computer)
 {
     computer.removeBattery();
@@ -88,6 +103,7 @@ int main(int argc, char** argv)
         {"low", low},           {"held", [](FactComputer& c) { c.holdBack(); }},
         {"nodesign", noDesign}, {"devices", [](FactComputer& c) { c.addDevices(); }},
         {"limit", limit},       {"none", none},
+        {"two", two},           {"chip", [](FactComputer& c) { c.setBattery("Manufacturer", {}); }},
     };
     for (const auto& [word, change] : changes) {
         if (has(word))

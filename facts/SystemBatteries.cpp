@@ -1,12 +1,20 @@
-#include "application/pages/SystemBatteries.h"
+#include "facts/SystemBatteries.h"
+
+#include <algorithm>
+#include <optional>
 
 #include "common/NumberConversion.h"
 #include "common/NumberTexts.h"
 #include "facts/ValueTexts.h"
+#include "platform/PowerSources.h"
 
 namespace quindle {
 
 namespace {
+
+constexpr int rankOfBatteries = 45; // before devices and the computer, which hardly ever changes
+// A menu's rows are made before anything is known; laptops have had three at most.
+constexpr std::size_t rowsOfMenu = 3;
 
 QString text(const QVariantMap& description, const char* key)
 {
@@ -42,14 +50,21 @@ QString captionOf(const QVariantMap& description, int number)
     return isTypeAlone ? QStringLiteral("Battery %1").arg(number) : name;
 }
 
+Fact hidden()
+{
+    Fact fact;
+    fact.id = FactId::EachBattery;
+    fact.group = FactGroup::Batteries;
+    fact.rank = rankOfBatteries;
+    return fact;
+}
+
 Fact factOf(const QVariantMap& description, int number)
 {
     const std::optional<double> percent = percentOf(description);
     const QString charge =
         percent ? integerText(qRound64(*percent)) + QStringLiteral(" %") : missingValueText();
-    Fact fact;
-    fact.id = FactId::Peripheral;
-    fact.group = FactGroup::Devices;
+    Fact fact = hidden();
     fact.caption = captionOf(description, number);
     fact.value = joined(charge, besideEachOther(), stateOf(description));
     fact.detail = knownText(text(description, "BatteryHealth"));
@@ -58,16 +73,47 @@ Fact factOf(const QVariantMap& description, int number)
     return fact;
 }
 
+/// Whether it is one of the computer's that is there. A bay may be empty, and sources may be anything.
+bool isBattery(const QVariantMap& description)
+{
+    const QString type = text(description, "Type");
+    const bool isThere = description.value(QStringLiteral("Is Present"), true).toBool();
+    return isThere && (type == QStringLiteral("InternalBattery") || type == QStringLiteral("UPS"));
+}
+
+std::vector<QVariantMap> descriptionsOf(PowerSources& sources)
+{
+    std::vector<QVariantMap> descriptions;
+    const int count = sources.sourceCount().value_or(0);
+    for (int source = 0; source < count; ++source)
+        if (const auto description = sources.description(source))
+            descriptions.push_back(*description);
+    return descriptions;
+}
+
 } // namespace
 
 std::vector<Fact> systemBatteryFacts(const std::vector<QVariantMap>& descriptions)
 {
     std::vector<Fact> facts;
-    if (descriptions.size() < 2)
-        return facts;
     for (const QVariantMap& description : descriptions)
-        facts.push_back(factOf(description, static_cast<int>(facts.size()) + 1));
+        if (isBattery(description))
+            facts.push_back(factOf(description, static_cast<int>(facts.size()) + 1));
+    if (facts.size() < 2)
+        facts.clear();
     return facts;
+}
+
+void addSystemBatteryFacts(std::vector<Fact>& facts, FactPlace place, PowerSources* powerSources)
+{
+    if (place == FactPlace::ToolTip)
+        return;
+    std::vector<Fact> batteries;
+    if (powerSources)
+        batteries = systemBatteryFacts(descriptionsOf(*powerSources));
+    if (place == FactPlace::Menu)
+        batteries.resize(rowsOfMenu, hidden());
+    facts.insert(facts.end(), batteries.begin(), batteries.end());
 }
 
 } // namespace quindle

@@ -8,9 +8,15 @@
 
 namespace quindle {
 
+class PowerSources;
+
 /// Each battery and uninterruptible supply of the computer by itself, from the power-source service's
 /// descriptions of them; none where there are fewer than two, since one alone is what all other facts are
-/// about. The facts are of the group Devices, each with its percentage where it is known.
+/// about. Each has its percentage where it is known.
 std::vector<Fact> systemBatteryFacts(const std::vector<QVariantMap>& descriptions);
+
+/// Adds them. In the menu they are always as many, of which those that there are are shown. With null none is
+/// shown.
+void addSystemBatteryFacts(std::vector<Fact>& facts, FactPlace place, PowerSources* powerSources);
 
 } // namespace quindle
