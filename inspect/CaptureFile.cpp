@@ -7,8 +7,8 @@
 #include <unistd.h>
 
 #include "common/Paths.h"
-#include "platform/linux/os/FileDescriptor.h"
-#include "platform/linux/os/FileReplacement.h"
+#include "platform/posix/FileDescriptor.h"
+#include "platform/posix/FileReplacement.h"
 #include "plist/PropertyList.h"
 
 namespace quindle {

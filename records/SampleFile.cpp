@@ -6,9 +6,9 @@
 #include <unistd.h>
 
 #include "common/Paths.h"
-#include "platform/linux/os/FileDescriptor.h"
-#include "platform/linux/os/FileLock.h"
-#include "platform/linux/os/FileReplacement.h"
+#include "platform/posix/FileDescriptor.h"
+#include "platform/posix/FileLock.h"
+#include "platform/posix/FileReplacement.h"
 #include "records/SampleSchema.h"
 
 namespace quindle {

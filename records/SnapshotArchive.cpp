@@ -5,8 +5,8 @@
 
 #include "common/FileContents.h"
 #include "common/Paths.h"
-#include "platform/linux/os/FileLock.h"
-#include "platform/linux/os/FileReplacement.h"
+#include "platform/posix/FileLock.h"
+#include "platform/posix/FileReplacement.h"
 #include "records/SnapshotDue.h"
 #include "records/SnapshotMerge.h"
 

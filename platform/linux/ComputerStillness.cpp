@@ -5,8 +5,8 @@
 
 #include <dirent.h>
 
-#include "platform/linux/os/FileDescriptor.h"
 #include "platform/linux/os/MonotonicClock.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

@@ -38,7 +38,7 @@ ROOMS = ("common plist platform platform/recorded platform/macos settings batter
 LINUX_FILES = set("app/main.cpp app/HelperServices.cpp windows/main.cpp windows/WindowsProgram.cpp windows/WindowsServices.cpp "
                   "application/main.cpp application/ApplicationServices.cpp inspect/OwnComputer_linux.cpp".split())
 # What both systems use of a room of Linux.
-SHARED_FILES = ["platform/linux/os/FileLock.cpp", "platform/linux/os/FileReplacement.cpp"]
+SHARED_FILES = ["platform/posix/FileLock.cpp", "platform/posix/FileReplacement.cpp"]
 PROGRAMS = {"quindle-helper": "windows/HelperMain_macos.cpp", "quindle": "application/Main_macos.cpp",
             "quindle-inspect": "inspect/main.cpp"}
 FILES_AT_A_TIME = 24

@@ -9,7 +9,7 @@
 
 #include "common/Paths.h"
 #include "platform/linux/display/X11Display.h"
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

@@ -3,7 +3,7 @@
 #include <QList>
 
 #include "platform/TextReceiver.h"
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

@@ -6,7 +6,7 @@
 #include <QSocketNotifier>
 
 #include "platform/MessageLink.h"
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

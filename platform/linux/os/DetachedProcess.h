@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QList>
 
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

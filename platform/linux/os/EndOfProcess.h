@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 class QSocketNotifier;
 

@@ -6,7 +6,7 @@
 #include <sys/stat.h>
 
 #include "common/Paths.h"
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

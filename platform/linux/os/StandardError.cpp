@@ -14,7 +14,7 @@
 #include <QLoggingCategory>
 
 #include "common/Paths.h"
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

@@ -12,8 +12,8 @@
 #include <QSysInfo>
 
 #include "common/Paths.h"
-#include "platform/linux/os/FileReplacement.h"
 #include "platform/linux/os/UserFolders.h"
+#include "platform/posix/FileReplacement.h"
 
 namespace quindle {
 

@@ -7,8 +7,8 @@
 
 #include <QString>
 
-#include "platform/linux/os/FileLock.h"
 #include "platform/linux/session/StartAnswer.h"
+#include "platform/posix/FileLock.h"
 
 class QSocketNotifier;
 

@@ -7,7 +7,7 @@
 
 #include <QSocketNotifier>
 
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

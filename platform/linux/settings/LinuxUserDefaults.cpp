@@ -7,9 +7,9 @@
 #include <QLoggingCategory>
 
 #include "common/Paths.h"
-#include "platform/linux/os/FileLock.h"
-#include "platform/linux/os/FileReplacement.h"
 #include "platform/linux/os/UserFolders.h"
+#include "platform/posix/FileLock.h"
+#include "platform/posix/FileReplacement.h"
 #include "plist/PropertyList.h"
 
 namespace quindle {

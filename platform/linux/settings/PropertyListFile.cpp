@@ -4,7 +4,7 @@
 #include <cmath>
 #include <fcntl.h>
 
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 #include "plist/PropertyList.h"
 
 namespace quindle {

@@ -9,11 +9,11 @@
 
 #include "common/FileContents.h"
 #include "common/Paths.h"
-#include "platform/linux/os/FileReplacement.h"
 #include "platform/linux/os/UserFolders.h"
 #include "platform/linux/pictures/Eliding.h"
 #include "platform/linux/pictures/Png.h"
 #include "platform/linux/pictures/TextDrawing.h"
+#include "platform/posix/FileReplacement.h"
 
 namespace quindle {
 

@@ -8,7 +8,7 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

@@ -8,9 +8,9 @@
 
 #include <dirent.h>
 
-#include "platform/linux/os/FileDescriptor.h"
 #include "platform/linux/supplies/FolderWatch.h"
 #include "platform/linux/supplies/SupplyFiles.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

@@ -6,7 +6,7 @@
 
 #include <sys/types.h>
 
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

@@ -9,10 +9,10 @@
 
 #include <dirent.h>
 
-#include "platform/linux/os/FileDescriptor.h"
 #include "platform/linux/supplies/FileReader.h"
 #include "platform/linux/supplies/FolderWatch.h"
 #include "platform/linux/supplies/Supply.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

@@ -15,7 +15,7 @@
 
 #include "platform/linux/display/X11Connection.h"
 #include "platform/linux/display/X11Desktop.h"
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;

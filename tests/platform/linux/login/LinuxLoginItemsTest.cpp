@@ -4,7 +4,7 @@
 
 #include "common/Paths.h"
 #include "platform/linux/login/AutostartEntry.h"
-#include "platform/linux/os/FileReplacement.h"
+#include "platform/posix/FileReplacement.h"
 #include "tests/platform/LoginItemsContract.h"
 #include "tests/platform/linux/login/LoginItemsFixture.h"
 

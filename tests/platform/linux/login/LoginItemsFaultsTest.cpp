@@ -1,7 +1,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/linux/os/FileLock.h"
+#include "platform/posix/FileLock.h"
 #include "tests/platform/linux/login/LoginItemsFixture.h"
 #include "tests/support/FullDisk.h"
 

@@ -8,7 +8,7 @@
 #include <sys/socket.h>
 
 #include "mac/ModelNameLookup.h"
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 #include "tests/platform/linux/network/HttpServer.h"
 #include "tests/support/QtPrinters.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/os/FileLock.h"
+#include "platform/posix/FileLock.h"
 
 #include <cerrno>
 #include <fcntl.h>

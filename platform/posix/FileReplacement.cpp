@@ -1,4 +1,4 @@
-#include "platform/linux/os/FileReplacement.h"
+#include "platform/posix/FileReplacement.h"
 
 #include <array>
 #include <cerrno>
@@ -12,7 +12,7 @@
 
 #include <QDateTime>
 
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 

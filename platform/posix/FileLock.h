@@ -5,7 +5,7 @@
 
 #include <QByteArray>
 
-#include "platform/linux/os/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace quindle {
 
