@@ -1,6 +1,7 @@
 #include "platform/linux/LinuxPlatform.h"
 
 #include <QAbstractEventDispatcher>
+#include <QTimer>
 
 #include "common/Paths.h"
 #include "platform/NotificationCenter.h"
@@ -26,6 +27,9 @@
 namespace quindle {
 
 namespace {
+
+// A coarse timer may be early by a twentieth.
+constexpr std::chrono::milliseconds timerLateness(300);
 
 QString rootOr(const QString& systemRoot)
 {
@@ -63,6 +67,13 @@ struct LinuxPlatform::Services
         // A sample is of one turn of the main loop.
         using Loop = QAbstractEventDispatcher;
         sampler.setLateObserver([this] { powerEvents.announce(); });
+        firstTime.setSingleShot(true);
+        firstTime.callOnTimeout([this] {
+            sampler.expire();
+            powerEvents.announce();
+        });
+        sampler.setTimeExpected(
+            [this](std::chrono::milliseconds in) { firstTime.start(in + timerLateness); });
         const auto expire = [this] { sampler.expire(); };
         QObject::connect(Loop::instance(), &Loop::aboutToBlock, &turns, expire);
         QObject::connect(Loop::instance(), &Loop::awake, &turns, expire);
@@ -97,6 +108,7 @@ struct LinuxPlatform::Services
     LinuxUserDirectories userDirectories;
     LinuxLoginItems loginItems;
     LinuxPowerEvents powerEvents;
+    QTimer firstTime; ///< when a first remaining time can be told
     QObject turns;
 };
 

@@ -56,6 +56,7 @@ SystemTimes BatteryTimes::follow(const SystemPower& power, std::chrono::millisec
         times.remaining = times.averageToFull;
     else if (!isPlugged)
         times.remaining = times.averageToEmpty;
+    m_firstTimeAt = times.remaining ? std::nullopt : m_estimator.firstEstimateAt();
     return times;
 }
 

@@ -30,10 +30,15 @@ public:
     /// they never do: an estimate from charges alone moves on with the clock.
     static std::optional<std::chrono::seconds> steadyAfter(const SystemPower& power);
 
+    /// When the next call of `follow` gives a first time where the last one gave none; nothing where it gave
+    /// one, or none is to be expected soon.
+    std::optional<std::chrono::milliseconds> firstTimeAt() const { return m_firstTimeAt; }
+
     TimeEstimator& estimator() { return m_estimator; }
 
 private:
     TimeEstimator m_estimator;
+    std::optional<std::chrono::milliseconds> m_firstTimeAt;
 };
 
 } // namespace quindle

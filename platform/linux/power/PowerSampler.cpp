@@ -61,6 +61,8 @@ void PowerSampler::take(std::chrono::milliseconds now)
     m_sample = std::move(sample);
     m_takenAt = now;
     m_isExpired = false;
+    if (const auto at = m_times.firstTimeAt(); at && m_timeExpected)
+        m_timeExpected(*at - now);
 }
 
 void PowerSampler::countStillMoments()

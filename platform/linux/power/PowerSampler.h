@@ -48,6 +48,13 @@ public:
     /// next sample has it.
     void setLateObserver(std::function<void()> arrived);
 
+    /// Has `expected` called when a sample has no remaining time yet, with how long after it the next one
+    /// will have one: sooner than the timers may ask again.
+    void setTimeExpected(std::function<void(std::chrono::milliseconds)> expected)
+    {
+        m_timeExpected = std::move(expected);
+    }
+
     /// Whether samples have been the same for a while, and the next one will be while the supplies say what
     /// they say now. Not while an attribute could not be read.
     bool isSteady() const;
@@ -77,6 +84,7 @@ private:
     std::optional<std::chrono::milliseconds> m_lookedAt;
     bool m_isExpired = true;
     std::function<std::vector<std::chrono::milliseconds>()> m_takeStillMoments;
+    std::function<void(std::chrono::milliseconds)> m_timeExpected;
     SupplyReadings m_lastReadings;
     std::optional<std::chrono::milliseconds> m_stillSince; ///< the readings; nothing while one is incomplete
     bool m_isAsBefore = false;                             ///< the last sample, with all that was made of it

@@ -1,5 +1,6 @@
 #include "platform/linux/power/TimeEstimator.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quindle {
@@ -11,10 +12,12 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds sampleInterval = 1s;
 
-/// A current just after a plug or unplug is not the one that stays.
-constexpr milliseconds shortestWatch = 20s;
+/// A current just after a plug or unplug is not the one that stays. Nobody waits longer than 10 s for a time.
+constexpr milliseconds settling = 3s;
+constexpr milliseconds shortestWatch = 5s;
 
 /// Charges move in steps, often of a whole percent, so their change shows only over a longer time.
+constexpr milliseconds shortestWatchOfCharges = 20s;
 constexpr milliseconds chargeWindow = 10min;
 
 std::optional<int> minutesFor(std::optional<double> charge, std::optional<double> current)
@@ -70,25 +73,45 @@ std::optional<int> TimeEstimator::minutesUntilFull() const
     return minutesFor(*last.fullCharge - *last.charge, averageCurrent());
 }
 
+std::optional<milliseconds> TimeEstimator::firstEstimateAt() const
+{
+    if (m_memory.direction == Direction::Idle || m_memory.samples.empty())
+        return std::nullopt;
+    const milliseconds end = m_memory.samples.back().time;
+    const Currents all = currentsFrom(end - currentWindow);
+    if (!(all.sum > 0) || end - all.first >= shortestWatch)
+        return std::nullopt;
+    return all.first + shortestWatch;
+}
+
+TimeEstimator::Currents TimeEstimator::currentsFrom(milliseconds begin) const
+{
+    Currents currents;
+    for (auto sample = m_memory.samples.rbegin(); sample != m_memory.samples.rend() && sample->time >= begin;
+         ++sample) {
+        if (!sample->current)
+            continue;
+        currents.sum += std::abs(*sample->current);
+        ++currents.count;
+        // Only as far back as there are samples: one after a gap has not watched for a minute.
+        currents.first = sample->time;
+    }
+    return currents;
+}
+
 std::optional<double> TimeEstimator::averageCurrent() const
 {
     const milliseconds end = m_memory.samples.back().time;
-    milliseconds watched{};
-    double sum = 0;
-    int count = 0;
-    for (auto sample = m_memory.samples.rbegin();
-         sample != m_memory.samples.rend() && end - sample->time <= currentWindow; ++sample) {
-        if (!sample->current)
-            continue;
-        sum += std::abs(*sample->current);
-        ++count;
-        // Only as far back as there are samples: one after a gap has not watched for a minute.
-        watched = end - sample->time;
-    }
+    const Currents all = currentsFrom(end - currentWindow);
     // Some drivers give neither current nor power (laptop-discharging-without-current).
-    if (count == 0)
+    if (all.count == 0)
         return currentFromCharges();
-    return watched >= shortestWatch ? std::optional(sum / count) : std::nullopt;
+    if (end - all.first < shortestWatch)
+        return std::nullopt;
+    const Currents settled =
+        currentsFrom(std::max(end - currentWindow, m_memory.samples.front().time + settling));
+    const Currents& used = settled.count > 0 ? settled : all;
+    return used.sum / used.count;
 }
 
 std::optional<double> TimeEstimator::currentFromCharges() const
@@ -96,7 +119,7 @@ std::optional<double> TimeEstimator::currentFromCharges() const
     const Sample& first = m_memory.samples.front();
     const Sample& last = m_memory.samples.back();
     const milliseconds watched = last.time - first.time;
-    if (!first.charge || !last.charge || watched < shortestWatch)
+    if (!first.charge || !last.charge || watched < shortestWatchOfCharges)
         return std::nullopt;
     const double gained = *last.charge - *first.charge;
     const double hours = std::chrono::duration<double, std::ratio<3600>>(watched).count();

@@ -57,7 +57,20 @@ public:
     std::optional<int> minutesUntilEmpty() const;
     std::optional<int> minutesUntilFull() const;
 
+    /// From which time on one more sample with a current makes the first estimate of it. Nothing where no
+    /// current flows or is known, and once the samples reach far enough back.
+    std::optional<std::chrono::milliseconds> firstEstimateAt() const;
+
 private:
+    /// The currents of the window, and over which time there were any.
+    struct Currents
+    {
+        double sum = 0;
+        int count = 0;
+        std::chrono::milliseconds first{};
+    };
+
+    Currents currentsFrom(std::chrono::milliseconds begin) const;
     std::optional<double> averageCurrent() const;
     std::optional<double> currentFromCharges() const;
 

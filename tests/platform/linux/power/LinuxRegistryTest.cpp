@@ -142,15 +142,15 @@ TEST_F(LinuxRegistryTest, TimesStartAnewAfterAPlugHoweverOftenTheyAreRead)
             minutes = registry.property(battery, QLatin1String(key));
         return minutes.toLongLong();
     };
-    EXPECT_EQ(readFor(20s, "AvgTimeToEmpty"), unknown);
+    EXPECT_EQ(readFor(5s, "AvgTimeToEmpty"), unknown);
     EXPECT_EQ(readFor(2s, "AvgTimeToEmpty"), 120);
     tree.write("AC", "online", "1");
     tree.write("BAT0", "status", "Charging");
-    EXPECT_EQ(readFor(20s, "AvgTimeToFull"), unknown);
+    EXPECT_EQ(readFor(5s, "AvgTimeToFull"), unknown);
     EXPECT_EQ(readFor(2s, "AvgTimeToFull"), 120);
     tree.write("AC", "online", "0");
     tree.write("BAT0", "status", "Discharging");
-    EXPECT_EQ(readFor(20s, "AvgTimeToEmpty"), unknown);
+    EXPECT_EQ(readFor(5s, "AvgTimeToEmpty"), unknown);
 }
 
 TEST_F(LinuxRegistryTest, AnEmptyBayIsSeen)

@@ -6,5 +6,6 @@ namespace quindle {
 
 inline const QString chargeKey = QStringLiteral("CurrentCapacity");
 inline const QString cyclesKey = QStringLiteral("CycleCount");
+inline const QString timeToEmptyKey = QStringLiteral("AvgTimeToEmpty");
 
 } // namespace quindle

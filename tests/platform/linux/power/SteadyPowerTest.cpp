@@ -101,6 +101,24 @@ TEST_F(SteadyPowerTest, NotWhileAValueStandsIn)
     EXPECT_FALSE(steady.isSteady());
 }
 
+TEST_F(SteadyPowerTest, ExpectsTheFirstTimeSoonAfterAStartOrAPlug)
+{
+    std::vector<std::chrono::milliseconds> expected;
+    steady.setTimeExpected([&](std::chrono::milliseconds in) { expected.push_back(in); });
+    EXPECT_EQ(sample(steady).value(timeToEmptyKey), QVariant(qint64{65535}));
+    ASSERT_EQ(expected, std::vector<std::chrono::milliseconds>{5s});
+    now += expected.back();
+    EXPECT_EQ(sample(steady).value(timeToEmptyKey), QVariant(qint64{120}));
+    pass(20s);
+    EXPECT_EQ(expected.size(), 1U);
+    tree.write("BAT0", "status", "Charging\n");
+    sample(steady);
+    EXPECT_EQ(expected.size(), 2U);
+    tree.write("BAT0", "status", "Full\n");
+    sample(steady);
+    EXPECT_EQ(expected.size(), 2U) << "there will be none";
+}
+
 TEST_F(SteadyPowerTest, StillMomentsCountAsSamples)
 {
     PowerSampler resting = samplerHere();

@@ -46,6 +46,35 @@ TEST(TimeEstimator, OneSampleAfterAGapIsNotEnough)
     EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
 }
 
+TEST(TimeEstimator, FiveSecondsAfterAChangeThereIsATime)
+{
+    TimeEstimator estimator;
+    estimator.setState(false, Direction::Discharging);
+    EXPECT_EQ(estimator.firstEstimateAt(), std::nullopt);
+    estimator.addSample({100s, 1000, 2000, -4000}); // what a charger has left behind
+    EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
+    EXPECT_EQ(estimator.firstEstimateAt(), 105s);
+    estimator.addSample({104s, 1000, 2000, -600});
+    EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
+    EXPECT_EQ(estimator.firstEstimateAt(), 105s);
+    estimator.addSample({105s, 1000, 2000, -400});
+    EXPECT_EQ(estimator.minutesUntilEmpty(), 120) << "of the two that have settled";
+    EXPECT_EQ(estimator.firstEstimateAt(), std::nullopt);
+}
+
+TEST(TimeEstimator, ExpectsNoTimeWithoutACurrent)
+{
+    TimeEstimator estimator;
+    estimator.addSample({0s, 1000, 2000, -400});
+    EXPECT_EQ(estimator.firstEstimateAt(), std::nullopt) << "nothing flows in or out";
+    estimator.setState(true, Direction::Charging);
+    estimator.addSample({1s, 1000, 2000, 0});
+    EXPECT_EQ(estimator.firstEstimateAt(), std::nullopt);
+    estimator.setState(false, Direction::Discharging);
+    estimator.addSample({2s, 1000, 2000, {}});
+    EXPECT_EQ(estimator.firstEstimateAt(), std::nullopt);
+}
+
 TEST(TimeEstimator, UntilFull)
 {
     TimeEstimator estimator;
