@@ -25,8 +25,8 @@ temperature.
 It works in StatusNotifierItem and XEmbed trays, on X11 and Wayland, combines
 several batteries, and sends nothing anywhere unless it is allowed to.
 .
-quindle shows the same and everything else that the batteries report in a window;
-quindle-inspect prints it in a terminal, as text or JSON.")
+quindle shows the same and everything else that the batteries report in a
+window; quindle-inspect prints it in a terminal, as text or JSON.")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_THREADS 1)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
@@ -41,5 +41,3 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # Without a session bus only X11 trays work, without the SVG loader GNOME shows no icon, without the plug-in only X11
 # programs run on Wayland desktops, and without the text library letters that join do not, where the helper draws them.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-dbus-session-bus | dbus-session-bus, librsvg2-common, qt6-wayland, libraqm0")
-
-include(CPack)

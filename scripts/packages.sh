@@ -15,6 +15,8 @@ macos_packages="clang-14 lld-14 llvm-14 libc++1-14 libc++abi1-14 python3"
 tidy_packages="clang-tidy"
 package_packages="git dpkg-dev file lintian python3 binutils"
 package_check_packages="debootstrap"
+rpm_packages="rpm rpmlint"
+other_format_packages="makepkg nix-bin shellcheck"
 
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

@@ -1,0 +1,3 @@
+{ pkgs ? import <nixpkgs> { } }:
+
+pkgs.qt6Packages.callPackage ./package.nix { }
