@@ -163,10 +163,16 @@ void ApplicationWindow::hideEvent(QHideEvent* event)
 
 void ApplicationWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (isCloseKey(*event))
+    if (closesWindow(*event))
         close();
     else
         QWidget::keyPressEvent(event);
+}
+
+void ApplicationWindow::closeEvent(QCloseEvent* event)
+{
+    finishEditing(*this);
+    QWidget::closeEvent(event);
 }
 
 void ApplicationWindow::applyColours()

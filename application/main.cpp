@@ -31,6 +31,7 @@
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
+#include "widgets/CloseKey.h"
 
 using namespace quindle;
 
@@ -66,6 +67,7 @@ public:
         QApplication::setApplicationName(QStringLiteral("quindle"));
         QApplication::setApplicationDisplayName(QStringLiteral("Quindle"));
         QApplication::setDesktopFileName(QStringLiteral("quindle"));
+        closeDialogsByKey();
         m_start.end();
     }
 

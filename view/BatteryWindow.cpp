@@ -17,6 +17,7 @@
 #include "view/MenuEntry.h"
 #include "view/NoBatteryView.h"
 #include "view/ViewMetrics.h"
+#include "widgets/CloseKey.h"
 #include "widgets/PaletteMix.h"
 #include "widgets/PopupGeometry.h"
 
@@ -76,6 +77,12 @@ void BatteryWindow::addScrollArea(QVBoxLayout& layout)
     m_scrollArea->viewport()->setAutoFillBackground(false); // the window draws it
     // The window's size comes from fit(), not from the area's own idea of a height.
     m_scrollArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    if (m_kind == Kind::RoundPopup) {
+        // The scroll bar begins below the round corner, which it would cover.
+        auto* corner = new QWidget;
+        corner->setFixedHeight(ViewMetrics(*this).radius);
+        m_scrollArea->addScrollBarWidget(corner, Qt::AlignTop);
+    }
     layout.addWidget(m_scrollArea, 1);
 }
 
@@ -207,10 +214,11 @@ bool BatteryWindow::eventFilter(QObject* watched, QEvent* event)
 
 void BatteryWindow::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Escape:
+    if (closesWindow(*event)) {
         close();
-        break;
+        return;
+    }
+    switch (event->key()) {
     // The arrow keys move as they do in a menu.
     case Qt::Key_Down:
         focusNextPrevChild(true);

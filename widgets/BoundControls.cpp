@@ -1,5 +1,8 @@
 #include "widgets/BoundControls.h"
 
+#include <utility>
+
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 
 namespace quindle {
@@ -9,6 +12,7 @@ BoundLineEdit::BoundLineEdit(QWidget* parent)
 {
     connect(this, &QLineEdit::returnPressed, this, &BoundLineEdit::commit);
     connect(this, &QLineEdit::editingFinished, this, &BoundLineEdit::commitChange);
+    connect(this, &QLineEdit::textChanged, this, &BoundLineEdit::followPending);
 }
 
 void BoundLineEdit::setBoundText(const QString& text)
@@ -16,9 +20,9 @@ void BoundLineEdit::setBoundText(const QString& text)
     m_boundText = text;
     // A change from elsewhere must not take a text away that somebody is writing.
     const bool isBeingTyped = hasFocus() && isModified();
-    if (text == this->text() || isBeingTyped)
-        return;
-    setText(text);
+    if (text != this->text() && !isBeingTyped)
+        setText(text);
+    followPending();
 }
 
 void BoundLineEdit::commit()
@@ -26,6 +30,7 @@ void BoundLineEdit::commit()
     setModified(false);
     // Before the signal: what is stored comes back as the bound text, and is no other change then.
     m_boundText = text();
+    followPending();
     Q_EMIT committed();
 }
 
@@ -35,6 +40,21 @@ void BoundLineEdit::commitChange()
     if (isModified() && text() != m_boundText)
         commit();
     setModified(false);
+}
+
+void BoundLineEdit::followPending()
+{
+    const bool wasPending = std::exchange(m_wasPending, isPending());
+    if (wasPending != m_wasPending)
+        Q_EMIT pendingChanged();
+}
+
+void BoundLineEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Cancel) && isPending())
+        setText(m_boundText);
+    else
+        QLineEdit::keyPressEvent(event);
 }
 
 BoundCheckBox::BoundCheckBox(QWidget* parent)

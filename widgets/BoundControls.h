@@ -22,15 +22,27 @@ public:
     /// Takes the shown text for what the user wants.
     void commit();
 
+    /// Whether the shown text is another than the stored one.
+    bool isPending() const { return text() != m_boundText; }
+
 Q_SIGNALS:
     /// The user wants the shown text: once for the Return key, once for leaving the field with another text
     /// than the bound one, and never twice for the same typing.
     void committed();
 
+    /// `isPending` gives something else than before.
+    void pendingChanged();
+
+protected:
+    /// Escape takes back what is not stored; where nothing is to be taken back it is left to the window.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void commitChange();
+    void followPending();
 
     QString m_boundText;
+    bool m_wasPending = false;
 };
 
 /// A check box that shows a setting. Distinguishes changes by the user, also through an assistive technology,

@@ -7,6 +7,7 @@
 #include <variant>
 
 #include <QApplication>
+#include <QIcon>
 #include <QSessionManager>
 
 #include "common/Paths.h"
@@ -17,6 +18,7 @@
 #include "platform/recorded/MachineFile.h"
 #include "remote/WindowMessage.h"
 #include "widgets/AccessiblePopups.h"
+#include "widgets/CloseKey.h"
 #include "windows/HelperEnd.h"
 #include "windows/WindowWatch.h"
 #include "windows/WindowsCommandLine.h"
@@ -55,6 +57,9 @@ public:
         QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
         // The helper says when to end.
         QApplication::setQuitOnLastWindowClosed(false);
+        // Window managers of X11 do not look for the desktop entry's icon.
+        QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("quindle-helper")));
+        closeDialogsByKey();
         leaveStartToHelper(m_application);
         m_start.end();
     }

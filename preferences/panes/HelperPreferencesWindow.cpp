@@ -5,17 +5,9 @@
 #include <QWindow>
 
 #include "widgets/CloseKey.h"
+#include "widgets/ControlColours.h"
 
 namespace quindle {
-
-namespace {
-
-bool closesWindow(const QKeyEvent& event)
-{
-    return isCloseKey(event) || event.matches(QKeySequence::Cancel);
-}
-
-} // namespace
 
 HelperPreferencesWindow::HelperPreferencesWindow(QWidget* parent)
     : QWidget(parent, Qt::Window)
@@ -45,11 +37,22 @@ void HelperPreferencesWindow::startMove()
     windowHandle()->startSystemMove();
 }
 
+void HelperPreferencesWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        makeBoxesVisible(*this, palette());
+    QWidget::changeEvent(event);
+}
+
+void HelperPreferencesWindow::showEvent(QShowEvent* event)
+{
+    makeBoxesVisible(*this, palette());
+    QWidget::showEvent(event);
+}
+
 void HelperPreferencesWindow::closeEvent(QCloseEvent* event)
 {
-    // A text that is being typed is committed when its field loses the focus.
-    if (QWidget* focused = focusWidget())
-        focused->clearFocus();
+    finishEditing(*this);
     QWidget::closeEvent(event);
 }
 

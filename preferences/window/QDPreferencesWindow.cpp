@@ -12,6 +12,7 @@
 
 #include "preferences/window/PreferencesToolbar.h"
 #include "widgets/CloseKey.h"
+#include "widgets/ControlColours.h"
 #include "widgets/PaletteMix.h"
 
 namespace quindle {
@@ -100,6 +101,7 @@ void QDPreferencesWindow::setContent(QWidget* view, bool inVisualEffectView)
     } else {
         content->addWidget(view);
     }
+    makeBoxesVisible(*view, palette());
     view->show();
 }
 
@@ -134,9 +136,16 @@ bool QDPreferencesWindow::event(QEvent* event)
     const bool handled = QWidget::event(event);
     if (event->type() == QEvent::LayoutRequest)
         Q_EMIT contentSizeMayDiffer();
-    if (event->type() == QEvent::PaletteChange && backgroundRole() != contentRole(palette()))
-        setBackgroundRole(contentRole(palette())); // another role is a palette change of its own
+    if (event->type() == QEvent::PaletteChange)
+        applyColours();
     return handled;
+}
+
+void QDPreferencesWindow::applyColours()
+{
+    if (backgroundRole() != contentRole(palette()))
+        setBackgroundRole(contentRole(palette())); // another role is a palette change of its own
+    makeBoxesVisible(*m_contentView, palette());
 }
 
 // The scroll area does not pass on that its content wants another size.
@@ -149,10 +158,16 @@ bool QDPreferencesWindow::eventFilter(QObject* watched, QEvent* event)
 
 void QDPreferencesWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (isCloseKey(*event))
+    if (closesWindow(*event))
         close();
     else
         QWidget::keyPressEvent(event);
+}
+
+void QDPreferencesWindow::closeEvent(QCloseEvent* event)
+{
+    finishEditing(*this);
+    QWidget::closeEvent(event);
 }
 
 void QDPreferencesWindow::mousePressEvent(QMouseEvent* event)

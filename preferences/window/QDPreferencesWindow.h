@@ -54,11 +54,14 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
     /// Leaves the window to the desktop until the button is released.
     virtual void startMove();
 
 private:
+    void applyColours();
+
     PreferencesToolbar* m_toolbar = nullptr;
     QScrollArea* m_scrollArea;
     QWidget* m_contentView;

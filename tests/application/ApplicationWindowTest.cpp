@@ -11,6 +11,7 @@
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/support/Texts.h"
+#include "widgets/BoundControls.h"
 #include "widgets/PlainLabel.h"
 
 using namespace quindle;
@@ -143,6 +144,31 @@ TEST_F(ApplicationWindowTest, ControlWCloses)
     QKeyEvent press(QEvent::KeyPress, Qt::Key_W, Qt::ControlModifier, latin("w"));
     QApplication::sendEvent(window.get(), &press);
     EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(ApplicationWindowTest, EscapeCloses)
+{
+    const auto window = make();
+    window->show();
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &key);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(ApplicationWindowTest, ClosingStoresWhatIsTyped)
+{
+    const auto window = make();
+    auto* field = new BoundLineEdit(window.get());
+    QString stored;
+    QObject::connect(field, &BoundLineEdit::committed, field, [&] { stored = field->text(); });
+    window->show();
+    window->activateWindow();
+    field->show();
+    field->setFocus();
+    QApplication::processEvents();
+    field->insert(latin("typed"));
+    window->close();
+    EXPECT_EQ(stored, latin("typed"));
 }
 
 } // namespace

@@ -200,10 +200,22 @@ TEST_F(HelperPreferencesBindingsTest, closingStoresTheText)
 {
     showCustomText();
     type("%l");
-    test::pressKey(field(), Qt::Key_Escape);
-    EXPECT_FALSE(helper->window().isVisible());
+    helper->window().close();
     EXPECT_EQ(suite().value(latin("customStatusBar")), QVariant(latin("%l")));
     EXPECT_EQ(title.calls, QStringList(latin("title")));
+}
+
+TEST_F(HelperPreferencesBindingsTest, escapeTakesTheTextBackAndThenCloses)
+{
+    showCustomText();
+    const QString before = field().text();
+    type("%l");
+    test::pressKey(field(), Qt::Key_Escape);
+    EXPECT_TRUE(helper->window().isVisible());
+    EXPECT_EQ(field().text(), before);
+    test::pressKey(field(), Qt::Key_Escape);
+    EXPECT_FALSE(helper->window().isVisible());
+    EXPECT_TRUE(title.calls.isEmpty());
 }
 
 TEST_F(HelperPreferencesBindingsTest, textBeingEditedIsNotOverwritten)

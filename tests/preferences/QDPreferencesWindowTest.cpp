@@ -1,6 +1,7 @@
 #include "preferences/window/QDPreferencesWindow.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,6 +12,8 @@
 
 #include "tests/preferences/TestPane.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/BoundControls.h"
+#include "widgets/ControlColours.h"
 
 using namespace quindle;
 
@@ -84,8 +87,48 @@ TEST_F(QDPreferencesWindowTest, StaysOnOtherKeys)
     type(window, Qt::Key_W, Qt::NoModifier);
     type(window, Qt::Key_W, Qt::ControlModifier | Qt::ShiftModifier);
     type(window, Qt::Key_F4, Qt::ControlModifier);
-    type(window, Qt::Key_Escape, Qt::NoModifier);
     EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(QDPreferencesWindowTest, ClosesOnEscapeThatNoControlHasTaken)
+{
+    auto* field = new BoundLineEdit(&view);
+    field->show();
+    field->setText(QStringLiteral("typed"));
+    type(*field, Qt::Key_Escape, Qt::NoModifier);
+    EXPECT_TRUE(window.isVisible()) << "it took the text back";
+    type(*field, Qt::Key_Escape, Qt::NoModifier);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(QDPreferencesWindowTest, ClosingStoresWhatIsTyped)
+{
+    auto* field = new BoundLineEdit(&view);
+    int commits = 0;
+    QObject::connect(field, &BoundLineEdit::committed, field, [&] { ++commits; });
+    field->show();
+    window.activateWindow();
+    field->setFocus();
+    QApplication::processEvents();
+    field->insert(QStringLiteral("typed"));
+    window.close();
+    EXPECT_EQ(commits, 1);
+}
+
+TEST_F(QDPreferencesWindowTest, UntickedBoxesAreSeenOnDarkDesktops)
+{
+    auto* box = new QCheckBox(&view);
+    window.setContent(&view, false);
+    const QPalette light = window.palette();
+    QPalette dark = light;
+    dark.setColor(QPalette::Window, QColor(32, 35, 38));
+    dark.setColor(QPalette::Base, QColor(20, 22, 24));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    window.setPalette(dark);
+    // A style derives the box's outline from the window's colour.
+    EXPECT_EQ(box->palette().color(QPalette::Window), outlineSource(dark));
+    window.setPalette(light);
+    EXPECT_EQ(box->palette().color(QPalette::Window), light.color(QPalette::Window));
 }
 
 TEST_F(QDPreferencesWindowTest, OtherKeysGoTheUsualWay)

@@ -4,11 +4,14 @@
 
 #include <QImage>
 #include <QPointer>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include "tests/support/QtPrinters.h"
 #include "tests/view/PopupFixture.h"
 #include "view/BatteryWindow.h"
 #include "view/MenuEntry.h"
+#include "view/ViewMetrics.h"
 #include "widgets/SwitchField.h"
 
 using namespace quindle;
@@ -112,6 +115,25 @@ TEST_F(BatteryPopupTest, EscapeCloses)
 {
     test::press(open(), Qt::Key_Escape);
     EXPECT_FALSE(popup.isOpen());
+}
+
+TEST_F(BatteryPopupTest, ControlWCloses)
+{
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_W, Qt::ControlModifier);
+    QApplication::sendEvent(open(), &key);
+    EXPECT_FALSE(popup.isOpen());
+}
+
+TEST_F(BatteryPopupTest, TheScrollBarBeginsBelowTheRoundCorner)
+{
+    desktop.translucent = true;
+    open();
+    auto* area = window()->findChild<QScrollArea*>();
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    QApplication::processEvents();
+    const QScrollBar* bar = area->verticalScrollBar();
+    ASSERT_TRUE(bar->isVisible());
+    EXPECT_GE(bar->mapTo(window(), QPoint()).y(), ViewMetrics(*window()).radius);
 }
 
 TEST_F(BatteryPopupTest, ArrowsReachEverything)

@@ -82,4 +82,43 @@ TEST_F(BoundControlsTest, DoesNotWriteOverTyping)
     EXPECT_EQ(field.text(), QStringLiteral("elsewhere"));
 }
 
+TEST_F(BoundControlsTest, EscapeTakesBackWhatIsNotStored)
+{
+    test::type(field, QStringLiteral("x"));
+    test::pressKey(field, Qt::Key_Escape);
+    EXPECT_EQ(field.text(), QStringLiteral("stored"));
+    EXPECT_TRUE(window.isVisible());
+    other.setFocus();
+    EXPECT_EQ(commits, 0);
+}
+
+TEST_F(BoundControlsTest, EscapeWithNothingToTakeBackIsTheWindows)
+{
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(&field, &escape);
+    EXPECT_FALSE(escape.isAccepted());
+    test::type(field, QStringLiteral("x"));
+    test::pressKey(field, Qt::Key_Return);
+    QKeyEvent again(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(&field, &again);
+    EXPECT_FALSE(again.isAccepted());
+    EXPECT_EQ(field.text(), QStringLiteral("storedx"));
+}
+
+TEST_F(BoundControlsTest, TellsWhenItsTextIsNotTheStoredOne)
+{
+    QList<bool> told;
+    QObject::connect(&field, &BoundLineEdit::pendingChanged, &field, [&] { told.append(field.isPending()); });
+    test::type(field, QStringLiteral("xy"));
+    EXPECT_EQ(told, QList<bool>{true});
+    test::pressKey(field, Qt::Key_Backspace);
+    test::pressKey(field, Qt::Key_Backspace);
+    EXPECT_EQ(told, (QList<bool>{true, false}));
+    test::type(field, QStringLiteral("z"));
+    test::pressKey(field, Qt::Key_Return);
+    EXPECT_EQ(told, (QList<bool>{true, false, true, false}));
+    field.setBoundText(QStringLiteral("elsewhere"));
+    EXPECT_FALSE(field.isPending());
+}
+
 } // namespace

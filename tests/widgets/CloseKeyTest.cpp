@@ -1,8 +1,12 @@
 #include "widgets/CloseKey.h"
 
+#include <QDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
+#include "tests/preferences/Input.h"
 #include "tests/support/QtPrinters.h"
 
 using namespace quindle;
@@ -42,6 +46,43 @@ TEST(CloseKey, IsControlAndALowerCaseW)
         const QKeyEvent event(QEvent::KeyPress, row.key, row.modifiers, QString::fromLatin1(row.text));
         EXPECT_EQ(isCloseKey(event), row.closes) << row.name;
     }
+}
+
+TEST(CloseKey, EscapeClosesWindowsToo)
+{
+    EXPECT_TRUE(closesWindow(QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier)));
+    EXPECT_TRUE(closesWindow(QKeyEvent(QEvent::KeyPress, Qt::Key_W, Qt::ControlModifier)));
+    EXPECT_FALSE(closesWindow(QKeyEvent(QEvent::KeyPress, Qt::Key_W, Qt::NoModifier)));
+}
+
+TEST(CloseKey, ClosesDialogsFromTheirFields)
+{
+    closeDialogsByKey();
+    QDialog dialog;
+    QLineEdit field(&dialog);
+    dialog.show();
+    test::pressKey(field, Qt::Key_W, QStringLiteral("w"));
+    EXPECT_TRUE(dialog.isVisible());
+    QKeyEvent close(QEvent::KeyPress, Qt::Key_W, Qt::ControlModifier, QStringLiteral("\x17"));
+    QApplication::sendEvent(&field, &close);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(field.text(), QStringLiteral("w"));
+}
+
+TEST(CloseKey, FinishingTakesWhatIsTypedAndKeepsTheKeyboard)
+{
+    QWidget window;
+    QVBoxLayout column(&window);
+    QLineEdit field;
+    column.addWidget(&field);
+    int finished = 0;
+    QObject::connect(&field, &QLineEdit::editingFinished, &field, [&] { ++finished; });
+    test::showActive(window);
+    field.setFocus();
+    test::type(field, QStringLiteral("x"));
+    finishEditing(window);
+    EXPECT_EQ(finished, 1);
+    EXPECT_EQ(window.focusWidget(), &field);
 }
 
 } // namespace
