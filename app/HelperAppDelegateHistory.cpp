@@ -14,19 +14,13 @@
 #include "platform/Platform.h"
 #include "platform/UrlSession.h"
 #include "settings/ApplicationPreferences.h"
+#include "settings/StatisticsHost.h"
 
 namespace quindle {
 
 namespace {
 
 Q_LOGGING_CATEGORY(uploadLog, "quindle.upload", QtInfoMsg)
-
-/// Empty until the product's configuration names one.
-QString statisticsHost(const Bundle& bundle)
-{
-    const auto info = bundle.infoDictionary();
-    return info ? info->value(QStringLiteral("QDStatisticsHost")).toString() : QString();
-}
 
 void takeAnswer(int status, const QByteArray& body)
 {

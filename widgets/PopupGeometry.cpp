@@ -12,6 +12,18 @@ int within(int start, int length, int from, int room)
     return std::max(from, std::min(start, from + room - length));
 }
 
+// Below where it fits, else where there is more room.
+QRect aboveOrBelow(const QRect& place, const QRect& keptClear, const QRect& available, int gap)
+{
+    const int below = keptClear.y() + keptClear.height() + gap;
+    const int roomBelow = available.y() + available.height() - below;
+    const int roomAbove = keptClear.y() - gap - available.y();
+    if (place.height() <= roomBelow || roomBelow >= roomAbove)
+        return {place.x(), below, place.width(), std::min(place.height(), roomBelow)};
+    const int height = std::min(place.height(), roomAbove);
+    return {place.x(), keptClear.y() - gap - height, place.width(), height};
+}
+
 } // namespace
 
 QRect popupGeometry(const QPoint& anchor, const QSize& size, const QRect& available, int gap)
@@ -27,8 +39,8 @@ QRect popupGeometry(const QPoint& anchor, const QSize& size, const QRect& availa
     return {place, fitting};
 }
 
-QPoint popoverPosition(const QRect& anchor, QSize size, const QRect& available, Qt::LayoutDirection direction,
-                       int gap)
+QRect popoverGeometry(const QRect& anchor, QSize size, const QRect& keptClear, const QRect& available,
+                      Qt::LayoutDirection direction, int gap)
 {
     const int atRight = anchor.x() + anchor.width() + gap;
     const int atLeft = anchor.x() - gap - size.width();
@@ -37,8 +49,10 @@ QPoint popoverPosition(const QRect& anchor, QSize size, const QRect& available, 
     const bool opensRight =
         direction == Qt::LeftToRight ? fitsAtRight || !fitsAtLeft : fitsAtRight && !fitsAtLeft;
     const int y = anchor.y() + (anchor.height() - size.height()) / 2;
-    return {within(opensRight ? atRight : atLeft, size.width(), available.x(), available.width()),
-            within(y, size.height(), available.y(), available.height())};
+    const QRect place(within(opensRight ? atRight : atLeft, size.width(), available.x(), available.width()),
+                      within(y, size.height(), available.y(), available.height()), size.width(),
+                      size.height());
+    return place.intersects(keptClear) ? aboveOrBelow(place, keptClear, available, gap) : place;
 }
 
 } // namespace quindle

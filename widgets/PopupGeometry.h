@@ -11,8 +11,9 @@ QRect popupGeometry(const QPoint& anchor, const QSize& size, const QRect& availa
 
 /// Where a popover of that size opens beside `anchor`: at its trailing edge (the right one, the left one
 /// where writing runs from right to left), at the other where there is no room for it, centred on it in
-/// height, and always within `available` (the screen without its panels).
-QPoint popoverPosition(const QRect& anchor, QSize size, const QRect& available, Qt::LayoutDirection direction,
-                       int gap);
+/// height, and always within `available` (the screen without its panels). It covers nothing of `keptClear`,
+/// and is cut where there is not room enough for its height above or below that.
+QRect popoverGeometry(const QRect& anchor, QSize size, const QRect& keptClear, const QRect& available,
+                      Qt::LayoutDirection direction, int gap);
 
 } // namespace quindle

@@ -10,6 +10,7 @@
 #include "preferences/panes/ParameterPopover.h"
 #include "preferences/panes/SentDataDialog.h"
 #include "preferences/panes/SettingsBinder.h"
+#include "settings/StatisticsHost.h"
 #include "ui_GeneralPreferencesController.h"
 
 namespace quindle {
@@ -86,6 +87,7 @@ void GeneralPreferencesController::loadView()
     connectControls();
     m_binder = std::make_unique<SettingsBinder>(*m_view, m_settings);
     applyHelperOnlyRule();
+    describeStatistics();
 }
 
 void GeneralPreferencesController::connectControls()
@@ -114,6 +116,17 @@ void GeneralPreferencesController::fill()
 {
     m_binder->fill();
     applyHelperOnlyRule();
+    describeStatistics();
+}
+
+// The switch stays usable: a service that is configured later finds what was chosen.
+void GeneralPreferencesController::describeStatistics()
+{
+    const QString description = statisticsHost(m_bundle).isEmpty()
+                                    ? tr("Nothing can be sent: no statistics service is configured.")
+                                    : tr("The serial number is masked.");
+    m_ui->statisticsDescription->setText(description);
+    m_ui->autoUploadCheckbox->setAccessibleDescription(description);
 }
 
 void GeneralPreferencesController::applyHelperOnlyRule()
@@ -173,7 +186,7 @@ void GeneralPreferencesController::showParameterPopover(const QWidget& sender)
 {
     BoundLineEdit* field = m_ui->customMenuBarTextField;
     if (!m_parameterPopover) {
-        m_parameterPopover = new ParameterPopover(m_title, *field, m_view.get());
+        m_parameterPopover = new ParameterPopover(m_title, *field);
         m_parameterPopover->setObjectName(QStringLiteral("parameterPopover"));
         // At once: the field keeps the keyboard, so nothing else would commit it.
         connect(m_parameterPopover, &ParameterPopover::inserted, field, &BoundLineEdit::commit);

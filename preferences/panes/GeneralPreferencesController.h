@@ -68,6 +68,7 @@ private:
     void connectControls();
     void fill();
     void applyHelperOnlyRule();
+    void describeStatistics();
     void showSentData();
     void announceChange();
 

@@ -65,8 +65,7 @@ void HelperPreferences::loadWindow()
     m_ui->setupUi(m_window.get());
     m_ui->settingsPane->fitToFont();
     m_outlets = {.temperatureMatrix = m_ui->temperatureMatrix,
-                 .parameterPopover =
-                     new ParameterPopover(m_delegate, *m_ui->customMenuBarTextField, m_window.get()),
+                 .parameterPopover = new ParameterPopover(m_delegate, *m_ui->customMenuBarTextField),
                  .customMenuBarTextField = m_ui->customMenuBarTextField};
     m_outlets.parameterPopover->setObjectName(QStringLiteral("parameterPopover"));
     // Before the actions: a control's value is stored when its action runs.

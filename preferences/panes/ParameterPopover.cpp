@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -27,6 +28,11 @@ QString leftToRight(const QString& text)
     return QChar(0x2066) + text + QChar(0x2069);
 }
 
+QRect onScreen(const QWidget& widget)
+{
+    return {widget.mapToGlobal(QPoint()), widget.size()};
+}
+
 void setUpRows(QTreeWidget& rows)
 {
     rows.setColumnCount(ColumnCount);
@@ -36,15 +42,15 @@ void setUpRows(QTreeWidget& rows)
     rows.setAllColumnsShowFocus(true);
     rows.setFrameShape(QFrame::NoFrame);
     rows.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     rows.header()->setStretchLastSection(true);
     rows.header()->setMinimumSectionSize(0);
 }
 
 } // namespace
 
-ParameterPopover::ParameterPopover(const StatusBarTitle& title, QLineEdit& target, QWidget* parent)
-    : QFrame(parent, Qt::Popup)
+// As the target's child: a field takes another's popup for being left.
+ParameterPopover::ParameterPopover(const StatusBarTitle& title, QLineEdit& target)
+    : QFrame(&target, Qt::Popup)
     , m_title(title)
     , m_target(target)
     , m_rows(*new QTreeWidget(this))
@@ -70,11 +76,12 @@ ParameterPopover::ParameterPopover(const StatusBarTitle& title, QLineEdit& targe
 
 void ParameterPopover::showRelativeTo(const QWidget& sender)
 {
+    m_anchor = onScreen(sender);
+    m_available = sender.screen()->availableGeometry();
+    ensurePolished(); // the frame's width is the style's
     fillRows();
     fitToRows();
-    const QRect anchor(sender.mapToGlobal(QPoint()), sender.size());
-    move(popoverPosition(anchor, size(), sender.screen()->availableGeometry(), sender.layoutDirection(),
-                         fontMetrics().height() / 4));
+    place();
     show();
     m_rows.setFocus(Qt::PopupFocusReason);
 }
@@ -85,6 +92,7 @@ void ParameterPopover::refresh()
         return;
     fillRows();
     fitToRows();
+    place();
 }
 
 // Enter is not left to the view: what else activates a row (one click or two) differs between desktops, and a
@@ -114,6 +122,22 @@ void ParameterPopover::fillRows()
     }
 }
 
+void ParameterPopover::place()
+{
+    const auto geometry = [this] {
+        return popoverGeometry(m_anchor, size(), onScreen(m_target), m_available, layoutDirection(),
+                               fontMetrics().height() / 4);
+    };
+    // On a low screen some rows are scrolled to.
+    if (const int missing = height() - geometry().height(); missing > 0) {
+        const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &m_rows);
+        m_rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        m_rows.setFixedSize(m_rows.width() + scrollBar, m_rows.height() - missing);
+        fitToContent();
+    }
+    move(geometry().topLeft());
+}
+
 // Every row and every column in full, without scroll bars.
 void ParameterPopover::fitToRows()
 {
@@ -132,13 +156,24 @@ void ParameterPopover::fitToRows()
         m_rows.setColumnWidth(column, widest + line);
         width += widest + line;
     }
+    m_rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_rows.setFixedSize(width, rowHeight * m_rows.topLevelItemCount());
-    adjustSize();
+    fitToContent();
+}
+
+// Not by adjustSize, which stops at two thirds of the screen.
+void ParameterPopover::fitToContent()
+{
+    layout()->activate();
+    resize(sizeHint());
 }
 
 void ParameterPopover::insertCurrent()
 {
     const int row = m_rows.indexOfTopLevelItem(m_rows.currentItem());
+    // First, so that the window gives the keyboard to the target and not back to the button.
+    close();
+    m_target.setFocus(Qt::OtherFocusReason);
     m_target.insert(placeholderTable().at(static_cast<std::size_t>(row)).text);
     Q_EMIT inserted();
 }

@@ -1,11 +1,13 @@
 #include "preferences/panes/TitlePreview.h"
 
+#include <algorithm>
+
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QPainter>
 
 #include "preferences/panes/StatusBarTitle.h"
+#include "widgets/BoundControls.h"
 #include "widgets/PaletteMix.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/QuietLabel.h"
@@ -20,7 +22,7 @@ TitlePreview::TitlePreview(QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->addWidget(&m_caption);
     row->addWidget(&m_shown, 1);
-    m_caption.setText(tr("Now shows"));
+    showPending(false);
     m_caption.setBuddy(&m_shown);
     m_shown.setObjectName(QStringLiteral("shownTitle"));
     // Both ends of a title matter, and the row stays as wide as its pane.
@@ -31,10 +33,15 @@ TitlePreview::TitlePreview(QWidget* parent)
     fitToFont();
 }
 
-void TitlePreview::follow(const QLineEdit& field, const StatusBarTitle& title)
+void TitlePreview::follow(const BoundLineEdit& field, const StatusBarTitle& title)
 {
     m_titleTemplate = field.text();
     connect(&field, &QLineEdit::textChanged, this, &TitlePreview::setTitleTemplate);
+    connect(&field, &BoundLineEdit::pendingChanged, this, [this, &field] {
+        showPending(field.isPending());
+        refresh();
+    });
+    showPending(field.isPending());
     follow(title);
 }
 
@@ -58,7 +65,13 @@ void TitlePreview::refresh()
     const QString instead = values ? tr("no text") : tr("no text without a battery");
     m_shown.setQuiet(title.isEmpty());
     m_shown.setText(title.isEmpty() ? instead : title);
-    m_shown.setAccessibleName(tr("Now shows %1").arg(m_shown.text()));
+    m_shown.setAccessibleName((m_isPending ? tr("Would show %1") : tr("Now shows %1")).arg(m_shown.text()));
+}
+
+void TitlePreview::showPending(bool isPending)
+{
+    m_isPending = isPending;
+    m_caption.setText(isPending ? tr("Would show") : tr("Now shows"));
 }
 
 void TitlePreview::changeEvent(QEvent* event)
@@ -91,6 +104,10 @@ void TitlePreview::fitToFont()
     layout()->setContentsMargins(line / 2, line * 3 / 10, line / 2, line * 3 / 10);
     layout()->setSpacing(line);
     m_caption.setFont(quietFont(font()));
+    // Nothing moves while somebody types.
+    const QFontMetrics metrics = m_caption.fontMetrics();
+    m_caption.setMinimumWidth(
+        std::max(metrics.horizontalAdvance(tr("Now shows")), metrics.horizontalAdvance(tr("Would show"))));
 }
 
 void TitlePreview::paintEvent(QPaintEvent*)

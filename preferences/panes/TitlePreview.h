@@ -4,16 +4,15 @@
 
 #include "platform/RunLoop.h"
 
-class QLineEdit;
-
 namespace quindle {
 
+class BoundLineEdit;
 class PlainLabel;
 class QuietLabel;
 class StatusBarTitle;
 
-/// The title that a template gives at the moment: the text in a field, stored or not, or one that is bound.
-/// While it is seen it watches the values.
+/// The title that a template gives at the moment: the text in a field, or one that is bound. Of a text that
+/// is not stored the caption says so. While it is seen it watches the values.
 class TitlePreview : public QWidget
 {
     Q_OBJECT
@@ -23,7 +22,7 @@ public:
     explicit TitlePreview(QWidget* parent = nullptr);
 
     /// Shows what the field's text gives from now on, at every change of it. Both must outlive the preview.
-    void follow(const QLineEdit& field, const StatusBarTitle& title);
+    void follow(const BoundLineEdit& field, const StatusBarTitle& title);
 
     /// Shows what `titleTemplate` gives from now on.
     void follow(const StatusBarTitle& title);
@@ -42,10 +41,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void showPending(bool isPending);
     void fitToFont();
     void watch(bool isSeen);
 
     QString m_titleTemplate;
+    bool m_isPending = false;
     const StatusBarTitle* m_title = nullptr;
     Punctuality m_watched;
     QuietLabel& m_caption;

@@ -9,10 +9,6 @@ namespace quindle {
 namespace {
 
 constexpr int widthInLines = 31;
-constexpr int captionLines = 11; // the captions' column, right-aligned beside the values
-constexpr double margin = 1.8;   // of a line, as are the gaps
-constexpr double columnGap = 1.0;
-constexpr double rowGap = 1.1;
 
 } // namespace
 
@@ -23,6 +19,7 @@ UpdateView::UpdateView(const QString& version, const QString& updateSource)
     m_ui->versionLabel->setText(version);
     m_ui->updateSourceLabel->setText(updateSource);
     fitToFont();
+    fixWidth();
 }
 
 UpdateView::~UpdateView() = default;
@@ -30,19 +27,14 @@ UpdateView::~UpdateView() = default;
 void UpdateView::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::FontChange)
-        fitToFont();
-    QWidget::changeEvent(event);
+        fixWidth();
+    PaneView::changeEvent(event);
 }
 
-void UpdateView::fitToFont()
+// Long paths and names wrap in it.
+void UpdateView::fixWidth()
 {
-    const int line = fontMetrics().height();
-    const int edge = qRound(line * margin);
-    setFixedWidth(line * widthInLines);
-    m_ui->rows->setContentsMargins(edge, edge, edge, edge);
-    m_ui->rows->setHorizontalSpacing(qRound(line * columnGap));
-    m_ui->rows->setVerticalSpacing(qRound(line * rowGap));
-    m_ui->rows->setColumnMinimumWidth(0, line * captionLines - edge);
+    setFixedWidth(fontMetrics().height() * widthInLines);
 }
 
 QString versionText(const std::optional<QVariantMap>& info)

@@ -5,9 +5,9 @@
 
 #include <QString>
 #include <QVariantMap>
-#include <QWidget>
 
 #include "platform/Bundle.h"
+#include "preferences/panes/PaneView.h"
 
 namespace quindle {
 
@@ -16,7 +16,7 @@ class UpdatePreferencesController;
 }
 
 /// The view of the pane "Update", from the interface file "UpdatePreferencesController".
-class UpdateView : public QWidget
+class UpdateView : public PaneView
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void fitToFont();
+    void fixWidth();
 
     std::unique_ptr<Ui::UpdatePreferencesController> m_ui;
 };

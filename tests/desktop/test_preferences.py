@@ -3,10 +3,12 @@
 
 import os
 import re
+import shutil
 import time
 import unittest
+from pathlib import Path
 
-from helper_case import SUITE, wait_for
+from helper_case import SOURCE, SUITE, wait_for
 from preferences_case import OWN, PreferencesCase, nodes
 
 
@@ -27,11 +29,12 @@ class General(PreferencesCase):
 
     def test_typed_text_is_the_title(self):
         self.type("%p% of it")
-        self.assertTrue(wait_for(lambda: self.control("label", "Now shows 66.0% of it"), 5), "no live preview")
+        self.assertTrue(wait_for(lambda: self.control("label", "Would show 66.0% of it"), 5), "no live preview")
         self.assertEqual(self.stored("customStatusBar"), "%p%", "stored before it was meant")
         self.desktop.key("Return")
         self.assert_title("66.0% of it")
         self.assert_stored("customStatusBar", "%p% of it")
+        self.assertTrue(wait_for(lambda: self.control("label", "Now shows 66.0% of it"), 5), "stored and not said")
         self.desktop.key("Tab")
         self.assert_announced(1)
 
@@ -76,12 +79,32 @@ class General(PreferencesCase):
         self.type("at ")
         self.act("push button", "Parameters")
         self.assertTrue(wait_for(lambda: len(self.desktop.windows()) == 2, 5), "no popover")
+        self.assertEqual(self.stored("customStatusBar"), "%p%", "the popover stored what was being typed")
         self.desktop.key("Down")
         self.desktop.key("Return")
+        self.assert_stored("customStatusBar", "at %s")
+        # Writing goes on in the text.
+        self.desktop.call("xdotool", "type", "--delay", "20", " now")
+        self.desktop.key("Return")
+        self.assert_stored("customStatusBar", "at %s now")
+
+    def test_escape_takes_a_text_back(self):
+        self.type("not meant")
         self.desktop.key("Escape")
-        self.assertTrue(wait_for(lambda: self.stored("customStatusBar").startswith("at %"), 5),
-                        self.stored("customStatusBar"))
-        self.assertTrue(wait_for(lambda: self.window("General"), 5), "Escape closed more than the popover")
+        self.assertTrue(wait_for(lambda: self.control("text", "Menu bar text")["text"] == "%p%", 5))
+        self.assertTrue(self.window("General"), "Escape closed more than the typing")
+        self.assertEqual(self.stored("customStatusBar"), "%p%")
+
+    def test_what_is_typed_is_stored_when_the_window_closes_or_shows_another_pane(self):
+        self.type("one")
+        self.act("radio button", "Update")
+        self.assert_stored("customStatusBar", "one")
+        self.act("radio button", "General")
+        self.assertTrue(wait_for(lambda: self.window("General"), 5))
+        self.click("text", "Menu bar text")
+        self.type("two")
+        self.desktop.key("ctrl+w")
+        self.assert_stored("customStatusBar", "two")
 
     def test_what_is_sent(self):
         self.act("push button", "See exactly what is sent")
@@ -92,12 +115,18 @@ class General(PreferencesCase):
         self.assertTrue(wait_for(lambda: not self.window("What is sent"), 5))
 
     def test_keys_that_close(self):
-        for key in ("Escape", "ctrl+shift+w"):
+        self.desktop.key("ctrl+shift+w")
+        time.sleep(0.5)
+        self.assertTrue(wait_for(lambda: self.window("General"), 5), "another key")
+        for key in ("ctrl+w", "Escape"):
             self.desktop.key(key)
-            time.sleep(0.5)
-            self.assertTrue(wait_for(lambda: self.window("General"), 5), key)
+            self.assertTrue(wait_for(lambda: not self.window("General"), 5), key)
+            self.open("Preferences...", "General")
+        self.act("push button", "See exactly what is sent")
+        self.assertTrue(wait_for(lambda: self.window("What is sent"), 5))
         self.desktop.key("ctrl+w")
-        self.assertTrue(wait_for(lambda: not self.window("General"), 5))
+        self.assertTrue(wait_for(lambda: not self.window("What is sent"), 5), "a dialog")
+        self.assertTrue(self.window("General"))
 
     def test_panes(self):
         self.act("radio button", "Update")
@@ -225,6 +254,19 @@ class OlderHelper(PreferencesCase):
         self.click("radio button", "Custom text")
         self.assert_title("12 cycles")
         self.assert_stored("statusBarString", "%l cycles", OWN)
+
+
+class Icon(PreferencesCase):
+    def test_the_window_has_the_helper_s_icon(self):
+        icons = Path(self.desktop.env["XDG_DATA_HOME"]) / "icons" / "hicolor"
+        (icons / "scalable" / "apps").mkdir(parents=True, exist_ok=True)
+        shutil.copy(SOURCE / "packaging" / "icons" / "quindle-helper.svg", icons / "scalable" / "apps")
+        (icons / "index.theme").write_text("[Icon Theme]\nName=Hicolor\nDirectories=scalable/apps\n\n"
+                                           "[scalable/apps]\nSize=128\nMinSize=8\nMaxSize=512\nType=Scalable\n")
+        self.start_helper()
+        self.open("Preferences...", "General")
+        self.assertIn("ICON", self.desktop.call("xprop", "-id",
+                                                self.window("General"), "_NET_WM_ICON"))
 
 
 class Frame(PreferencesCase):

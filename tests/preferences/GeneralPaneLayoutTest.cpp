@@ -4,11 +4,14 @@
 #include <QAccessible>
 #include <QDialog>
 #include <QFontInfo>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
 #include "preferences/panes/GeneralPreferencesController.h"
+#include "preferences/panes/MenuBarPreferencesController.h"
+#include "preferences/panes/UpdatePreferencesController.h"
 #include "tests/preferences/Input.h"
 #include "tests/preferences/LongTexts.h"
 #include "tests/preferences/SettingsFixture.h"
@@ -195,6 +198,48 @@ TEST_F(GeneralPaneLayoutTest, SaysWhenNothingWouldBeSent)
     EXPECT_FALSE(dialog->findChild<QPlainTextEdit*>());
     EXPECT_EQ(dialog->findChild<QLabel*>()->text(),
               QStringLiteral("Nothing would be sent: no host of the statistics service is configured."));
+}
+
+TEST_F(GeneralPaneLayoutTest, SaysBesideTheSwitchThatNothingCanBeSent)
+{
+    const auto beside = [this] {
+        return controller.view().findChild<QLabel*>(QStringLiteral("statisticsDescription"))->text();
+    };
+    open();
+    EXPECT_EQ(beside(), QStringLiteral("Nothing can be sent: no statistics service is configured."));
+    const auto* box = controller.view().findChild<QAbstractButton*>(QStringLiteral("autoUploadCheckbox"));
+    EXPECT_EQ(box->accessibleDescription(), beside());
+    EXPECT_TRUE(box->isEnabled());
+    computer.bundle.info = {{QStringLiteral("QDStatisticsHost"), QStringLiteral("stats.example")}};
+    controller.viewWillAppear();
+    EXPECT_EQ(beside(), QStringLiteral("The serial number is masked."));
+    EXPECT_EQ(box->accessibleDescription(), beside());
+}
+
+TEST_F(GeneralPaneLayoutTest, TheTextHasThePanesWholeWidth)
+{
+    open();
+    const auto* field = controller.view().findChild<QLineEdit*>(QStringLiteral("customMenuBarTextField"));
+    const auto* preview = controller.view().findChild<QWidget*>(QStringLiteral("titlePreview"));
+    EXPECT_EQ(field->x(), preview->x());
+    EXPECT_EQ(field->width(), preview->width());
+    EXPECT_EQ(field->geometry().right(),
+              controller.view().width() - controller.view().layout()->contentsMargins().right() - 1);
+}
+
+TEST_F(GeneralPaneLayoutTest, AllPanesHaveOneLeftEdge)
+{
+    test::FixedTitle noTitle;
+    MenuBarPreferencesController menuBar{settings, noTitle, [] {}};
+    UpdatePreferencesController update{computer.bundle, [] { return InstallationSource{}; }};
+    QList<int> edges;
+    for (QWidget* pane : {&controller.view(), &menuBar.view(), &update.view()}) {
+        pane->resize(pane->sizeHint());
+        pane->ensurePolished();
+        pane->layout()->activate();
+        edges.append(qobject_cast<QGridLayout*>(pane->layout())->cellRect(0, 1).left());
+    }
+    EXPECT_EQ(edges, QList<int>(3, edges.first()));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -53,7 +54,7 @@ struct ParameterPopoverTest : testing::Test
     QWidget window;
     QLineEdit field;
     QPushButton button;
-    ParameterPopover popover{title, field, &window};
+    ParameterPopover& popover = *new ParameterPopover(title, field);
     int insertions = 0;
 };
 
@@ -90,10 +91,57 @@ TEST_F(ParameterPopoverTest, AClickInsertsAtTheCursor)
     clickRow(5);
     EXPECT_EQ(field.text(), QStringLiteral("a%mAb"));
     EXPECT_EQ(insertions, 1);
+    EXPECT_FALSE(popover.isVisible());
+    popover.showRelativeTo(button);
     clickRow(0);
     EXPECT_EQ(field.text(), QStringLiteral("a%mA%tb"));
     EXPECT_EQ(insertions, 2);
-    EXPECT_TRUE(popover.isVisible());
+}
+
+TEST_F(ParameterPopoverTest, WritingGoesOnAfterAnInsertion)
+{
+    for (const bool byMouse : {false, true}) {
+        field.clear();
+        button.setFocus();
+        popover.showRelativeTo(button);
+        if (byMouse)
+            clickRow(2);
+        else
+            test::pressKey(rows(), Qt::Key_Return);
+        ASSERT_EQ(QApplication::focusWidget(), &field) << byMouse;
+        test::type(*QApplication::focusWidget(), QStringLiteral(" h"));
+        EXPECT_EQ(field.text(), byMouse ? QStringLiteral("%r h") : QStringLiteral("%t h"));
+    }
+}
+
+TEST_F(ParameterPopoverTest, OpeningItDoesNotLeaveTheField)
+{
+    int finished = 0;
+    QObject::connect(&field, &QLineEdit::editingFinished, &field, [&] { ++finished; });
+    field.setFocus();
+    popover.showRelativeTo(button);
+    test::pressKey(rows(), Qt::Key_Escape);
+    EXPECT_EQ(finished, 0);
+    EXPECT_EQ(QApplication::focusWidget(), &field);
+}
+
+TEST_F(ParameterPopoverTest, LeavesTheFieldFreeOnALowScreen)
+{
+    // As with a large font on a small screen: no room for all rows below, nor above.
+    QFont large = window.font();
+    large.setPixelSize(28);
+    window.setFont(large);
+    popover.setFont(large);
+    const QRect screen = window.screen()->availableGeometry();
+    window.setGeometry(screen.x(), screen.y() + screen.height() / 2 - 60, 300, 120);
+    QApplication::processEvents();
+    popover.showRelativeTo(button);
+    const QRect written(field.mapToGlobal(QPoint()), field.size());
+    const QRect place(popover.pos(), popover.size()); // without the frame that this display gives windows
+    EXPECT_FALSE(place.intersects(written));
+    EXPECT_GT(rows().verticalScrollBar()->maximum(), 0);
+    EXPECT_LE(rows().columnWidth(0) + rows().columnWidth(1) + rows().columnWidth(2),
+              rows().viewport()->width());
 }
 
 TEST_F(ParameterPopoverTest, WorksByKeyboard)
@@ -103,11 +151,14 @@ TEST_F(ParameterPopoverTest, WorksByKeyboard)
     test::pressKey(rows(), Qt::Key_Down);
     test::pressKey(rows(), Qt::Key_Return);
     EXPECT_EQ(field.text(), QStringLiteral("%s"));
-    test::pressKey(rows(), Qt::Key_End);
-    test::pressKey(rows(), Qt::Key_Enter);
-    test::pressKey(rows(), Qt::Key_Space);
+    for (const int key : {Qt::Key_Enter, Qt::Key_Space}) {
+        popover.showRelativeTo(button);
+        test::pressKey(rows(), Qt::Key_End);
+        test::pressKey(rows(), key);
+    }
     EXPECT_EQ(field.text(), QStringLiteral("%s%l%l"));
     EXPECT_EQ(insertions, 3);
+    popover.showRelativeTo(button);
     test::pressKey(rows(), Qt::Key_Escape);
     EXPECT_FALSE(popover.isVisible());
 }

@@ -3,11 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
-#include <QLineEdit>
 
 #include "tests/preferences/Input.h"
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
+#include "widgets/BoundControls.h"
+#include "widgets/QuietLabel.h"
 
 using namespace quindle;
 
@@ -15,10 +16,11 @@ namespace {
 
 struct TitlePreviewTest : testing::Test
 {
+    QString caption() const { return preview.findChild<QuietLabel*>()->text(); }
     QString shown() const { return preview.findChild<QLabel*>(QStringLiteral("shownTitle"))->text(); }
 
     test::FixedTitle title;
-    QLineEdit field;
+    BoundLineEdit field;
     TitlePreview preview;
 };
 
@@ -40,6 +42,20 @@ TEST_F(TitlePreviewTest, ShowsWhatABoundTemplateGives)
     preview.setProperty("titleTemplate", QStringLiteral("%l"));
     EXPECT_EQ(preview.titleTemplate(), QStringLiteral("%l"));
     EXPECT_EQ(shown(), QStringLiteral("293"));
+}
+
+TEST_F(TitlePreviewTest, SaysWhenTheTextIsNotStored)
+{
+    field.setBoundText(QStringLiteral("%p%"));
+    preview.follow(field, title);
+    EXPECT_EQ(caption(), QStringLiteral("Now shows"));
+    const auto* label = preview.findChild<QLabel*>(QStringLiteral("shownTitle"));
+    test::type(field, QStringLiteral("!"));
+    EXPECT_EQ(caption(), QStringLiteral("Would show"));
+    EXPECT_EQ(label->accessibleName(), QStringLiteral("Would show 66.7%!"));
+    test::pressKey(field, Qt::Key_Return);
+    EXPECT_EQ(caption(), QStringLiteral("Now shows"));
+    EXPECT_EQ(label->accessibleName(), QStringLiteral("Now shows 66.7%!"));
 }
 
 TEST_F(TitlePreviewTest, RefreshShowsThePresentValues)

@@ -62,16 +62,45 @@ TEST(PopoverGeometryTest, OpensBesideItsSender)
         {"larger than the screen", {400, 300, 80, 30}, {1200, 900}, Qt::LeftToRight, {0, 30}},
     };
     for (const PopoverCase& c : cases)
-        EXPECT_EQ(popoverPosition(c.anchor, c.size, screen, c.direction, 5), c.expected) << c.what;
+        EXPECT_EQ(popoverGeometry(c.anchor, c.size, {}, screen, c.direction, 5), QRect(c.expected, c.size))
+            << c.what;
 }
 
 TEST(PopoverGeometryTest, StaysOnItsSendersScreen)
 {
     const QRect second(1000, 0, 1000, 800);
-    EXPECT_EQ(popoverPosition({1900, 300, 80, 30}, {200, 180}, second, Qt::LeftToRight, 5),
-              QPoint(1695, 225));
-    EXPECT_EQ(popoverPosition({1010, 300, 80, 30}, {200, 180}, second, Qt::RightToLeft, 5),
-              QPoint(1095, 225));
+    EXPECT_EQ(popoverGeometry({1900, 300, 80, 30}, {200, 180}, {}, second, Qt::LeftToRight, 5),
+              QRect(1695, 225, 200, 180));
+    EXPECT_EQ(popoverGeometry({1010, 300, 80, 30}, {200, 180}, {}, second, Qt::RightToLeft, 5),
+              QRect(1095, 225, 200, 180));
+}
+
+struct KeptClearCase
+{
+    const char* what;
+    QRect field;
+    QSize size;
+    QRect expected;
+};
+
+TEST(PopoverGeometryTest, NeverCoversTheFieldThatItWritesIn)
+{
+    const QRect screen(0, 30, 1024, 570);
+    const KeptClearCase cases[] = {
+        {"clear anyway", {300, 260, 400, 30}, {200, 60}, {485, 295, 200, 60}},
+        {"below", {300, 260, 400, 30}, {200, 180}, {485, 295, 200, 180}},
+        {"above, where it does not fit below", {300, 420, 400, 30}, {200, 300}, {485, 115, 200, 300}},
+        {"cut below", {300, 260, 400, 30}, {200, 500}, {485, 295, 200, 305}},
+        {"cut above", {300, 420, 400, 30}, {200, 500}, {485, 30, 200, 385}},
+        {"cut, and no room at either side", {300, 260, 400, 30}, {1000, 500}, {24, 295, 1000, 305}},
+    };
+    for (const KeptClearCase& c : cases) {
+        const QRect anchor(400, c.field.y() + 50, 80, 30);
+        const QRect place = popoverGeometry(anchor, c.size, c.field, screen, Qt::LeftToRight, 5);
+        EXPECT_EQ(place, c.expected) << c.what;
+        EXPECT_FALSE(place.intersects(c.field)) << c.what;
+        EXPECT_TRUE(screen.contains(place)) << c.what;
+    }
 }
 
 } // namespace
