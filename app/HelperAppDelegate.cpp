@@ -1,6 +1,5 @@
 #include "app/HelperAppDelegate.h"
 
-#include "app/DelegateControllers.h"
 #include "battery/QDBattery.h"
 #include "common/FatalError.h"
 #include "common/Paths.h"

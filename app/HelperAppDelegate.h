@@ -8,23 +8,55 @@
 #include <QObject>
 #include <QVariant>
 
-#include "app/DelegateControllers.h"
+#include "common/FatalError.h"
 #include "menubar/BarColours.h"
 #include "menubar/MainInterface.h"
 #include "menubar/ProgressIndicator.h"
 #include "menubar/StatusIcon.h"
 #include "platform/RateLimit.h"
 #include "preferences/panes/StatusBarTitle.h"
+#include "preferences/window/QDPreferencesWindowControllerProtocol.h"
+#include "preferences/window/WindowControllers.h"
 
 namespace quindle {
 
 class ApplicationPreferences;
+class HelperAppDelegate;
 class QDBattery;
 class QDMac;
 class StatusItem;
 class Timer;
 struct DailyUpload;
 struct Platform;
+
+/// The controllers of the helper's windows, which the application delegate owns, each under its own name.
+/// Null in a program without windows.
+struct DelegateControllers
+{
+    std::unique_ptr<QObject> batteryPopover;
+    std::unique_ptr<WindowController> preferencesWindow;
+    std::unique_ptr<QDPreferencesWindowControllerProtocol> generalController;
+    std::unique_ptr<QDPreferencesWindowControllerProtocol> menuBarController;
+    std::unique_ptr<PreferencesWindowController> preferencesController; ///< shows the panes, so it goes first
+};
+
+/// Makes them for the delegate that is being made.
+using ControllerFactory = std::function<DelegateControllers(HelperAppDelegate& delegate)>;
+
+/// For programs that have no windows.
+inline DelegateControllers noControllers(HelperAppDelegate& /*delegate*/)
+{
+    return {};
+}
+
+/// The outlet itself; one that is missing when it is needed is a programming error and fatal.
+template <typename Outlet>
+Outlet& required(Outlet* outlet)
+{
+    if (!outlet)
+        fatalError(u"an outlet of the main interface is not connected");
+    return *outlet;
+}
 
 /// The application delegate: owns the computer's model, the status item and the refresh timer, and refreshes
 /// everything the helper shows in one method, `updateStatusBarTitle`. Main thread only.

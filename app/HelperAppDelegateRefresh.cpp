@@ -1,6 +1,5 @@
 // The refresh of the status item: font, icon, title, texts around it, bar colours.
 
-#include "app/DelegateControllers.h"
 #include "app/HelperAppDelegate.h"
 #include "battery/QDBattery.h"
 #include "common/NumberTexts.h"

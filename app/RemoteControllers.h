@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QPoint>
 
-#include "app/DelegateControllers.h"
+#include "app/HelperAppDelegate.h"
 #include "platform/RunLoop.h"
 #include "remote/WindowMessage.h"
 

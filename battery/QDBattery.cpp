@@ -15,7 +15,6 @@
 #include "common/FatalError.h"
 #include "common/NumberConversion.h"
 #include "common/NumberTexts.h"
-#include "common/OptionalText.h"
 #include "common/ValueDescription.h"
 #include "platform/Host.h"
 #include "platform/Platform.h"

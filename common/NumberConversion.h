@@ -30,4 +30,11 @@ std::optional<QString> convertToText(const QVariant& value);
 /// texts give their leading integer (" 2x" is 2, "x" is 0), everything else and nothing at all give 0.
 qint64 integerFromObject(const QVariant& object);
 
+/// A text that may be missing as a value read by key: a missing one is the invalid value, unlike an empty
+/// one.
+inline QVariant variantFromOptional(const std::optional<QString>& text)
+{
+    return text ? QVariant(*text) : QVariant();
+}
+
 } // namespace quindle

@@ -3,7 +3,6 @@
 #include "common/Paths.h"
 #include "inspect/InventedSerial.h"
 #include "inspect/NeutralPath.h"
-#include "inspect/SettingsDatabases.h"
 #include "mac/QDMac.h"
 #include "platform/Bundle.h"
 #include "platform/FileUrl.h"
@@ -179,6 +178,15 @@ QVariantMap withoutIdentity(const QVariantMap& keys, CapturedRegistry kind)
     for (QVariant& value : clean)
         value = withoutSerials(value, serials);
     return clean;
+}
+
+QVariantMap settingsDatabases(UserDefaultsDatabases& userDefaults)
+{
+    const UserDefaults* group = userDefaults.suite(groupDatabaseName());
+    return {
+        {QStringLiteral("standard"), userDefaults.standard().dictionaryRepresentation()},
+        {groupDatabaseName(), group ? group->dictionaryRepresentation() : QVariantMap()},
+    };
 }
 
 } // namespace quindle

@@ -6,6 +6,7 @@
 namespace quindle {
 
 class IORegistry;
+class UserDefaultsDatabases;
 struct Platform;
 
 /// The registry entries of battery and computer, those that there are, by their names.
@@ -23,5 +24,9 @@ enum class CapturedRegistry { Other, OfAMac };
 /// they occur, the name is "Computer", the model cache (its keys are parts of serials) is gone, and so is the
 /// user's name in the bundle's path.
 QVariantMap withoutIdentity(const QVariantMap& keys, CapturedRegistry kind = CapturedRegistry::Other);
+
+/// The content of both settings databases under the names they have in machine files, "standard" and
+/// "group.fernhollow.Quindle". One that cannot be opened has no content.
+QVariantMap settingsDatabases(UserDefaultsDatabases& userDefaults);
 
 } // namespace quindle

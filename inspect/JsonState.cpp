@@ -5,7 +5,7 @@
 #include "app/HelperAppDelegate.h"
 #include "battery/QDBattery.h"
 #include "history/DailyUpload.h"
-#include "inspect/SettingsDatabases.h"
+#include "inspect/Capture.h"
 #include "mac/QDMac.h"
 #include "platform/Bundle.h"
 #include "platform/Image.h"

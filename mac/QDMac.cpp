@@ -5,7 +5,6 @@
 #include "common/DateFromText.h"
 #include "common/Digests.h"
 #include "common/NumberConversion.h"
-#include "common/OptionalText.h"
 #include "mac/DemoMac.h"
 #include "mac/MachineType.h"
 #include "mac/ModelNameLookup.h"

@@ -1,7 +1,7 @@
 #include "mac/SnapshotRecord.h"
 
+#include "common/NumberConversion.h"
 #include "common/NumberTexts.h"
-#include "common/OptionalText.h"
 
 namespace quindle {
 

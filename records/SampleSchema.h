@@ -3,9 +3,25 @@
 #include <optional>
 
 #include "records/Database.h"
+#include "samples/Sample.h"
 
 /// The tables of the samples' database.
 namespace quindle {
+
+enum class SampleSource {
+    Helper, ///< taken by the helper of this system
+    UPower, ///< taken over from the history that UPower had kept before
+};
+
+/// A sample as the history keeps it.
+struct StoredSample
+{
+    Sample sample;
+    SampleSource source = SampleSource::Helper;
+    qint64 span = 0; ///< seconds from its moment on that it is the mean of; 0 for one as it was taken
+
+    bool operator==(const StoredSample& other) const = default;
+};
 
 inline constexpr qint64 newestSchema = 1;
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "records/SampleFile.h"
+#include "records/SampleSchema.h"
 #include "records/StoreOutcome.h"
-#include "records/StoredSample.h"
 
 namespace quindle {
 

@@ -7,7 +7,7 @@
 #include "common/Paths.h"
 #include "platform/posix/FileLock.h"
 #include "platform/posix/FileReplacement.h"
-#include "records/SnapshotDue.h"
+#include "records/SnapshotIdentity.h"
 #include "records/SnapshotMerge.h"
 
 namespace quindle {

@@ -30,7 +30,7 @@ public:
 
     StoreOutcome append(const QVariantMap& record);
 
-    /// Appends the record if it is the first of its battery today (see SnapshotDue.h).
+    /// Appends the record if it is the first of its battery today (see isSnapshotDue).
     StoreOutcome appendIfDue(const QVariantMap& record);
 
     /// Adds what is not there yet, and counts it in `added`.

@@ -1,5 +1,7 @@
 #include "records/SnapshotIdentity.h"
 
+#include <algorithm>
+
 namespace quindle {
 
 std::optional<QDateTime> snapshotDate(const QVariant& record)
@@ -13,6 +15,20 @@ std::optional<QDateTime> snapshotDate(const QVariant& record)
 QString snapshotBattery(const QVariant& record)
 {
     return record.toMap().value(QStringLiteral("Battery.BatteryID")).toString();
+}
+
+bool isSnapshotDue(const QVariantList& records, const QVariantMap& snapshot)
+{
+    const auto date = snapshotDate(snapshot);
+    if (!date || snapshot.value(QStringLiteral("Battery.FullChargeCapacity")).toDouble() <= 0)
+        return false;
+    const QDate today = date->toLocalTime().date();
+    const QString battery = snapshotBattery(snapshot);
+    // From the end, where one of today would be.
+    return std::none_of(records.crbegin(), records.crend(), [&](const QVariant& record) {
+        const auto other = snapshotDate(record);
+        return other && snapshotBattery(record) == battery && other->toLocalTime().date() == today;
+    });
 }
 
 } // namespace quindle

@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "records/StoredSample.h"
+#include "records/SampleSchema.h"
 
 /// How the history of samples becomes coarser with age. Moments are seconds since 1970, UTC.
 namespace quindle {

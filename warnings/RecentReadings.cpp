@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "warnings/BatteryReading.h"
-
 namespace quindle {
 
 namespace {

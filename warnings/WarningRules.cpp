@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "warnings/BatteryReading.h"
+#include "warnings/RecentReadings.h"
 
 namespace quindle {
 

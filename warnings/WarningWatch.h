@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "settings/WarningSettings.h"
-#include "warnings/BatteryReading.h"
 #include "warnings/RecentReadings.h"
 
 namespace quindle {

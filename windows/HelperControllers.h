@@ -2,14 +2,13 @@
 
 #include <functional>
 
-#include "app/DelegateControllers.h"
+#include "app/HelperAppDelegate.h"
 #include "preferences/panes/BoundSettings.h"
 #include "preferences/panes/UpdatePreferencesController.h"
 
 namespace quindle {
 
 class ApplicationPreferences;
-class HelperAppDelegate;
 class MainInterface;
 class StatusBarTitle;
 struct Platform;

@@ -13,7 +13,6 @@
 #include "records/FirstWeek.h"
 #include "records/SampleStore.h"
 #include "records/SnapshotArchive.h"
-#include "records/SnapshotDue.h"
 #include "records/SnapshotIdentity.h"
 #include "records/Thinning.h"
 #include "settings/HistorySettings.h"

@@ -2,7 +2,6 @@
 
 #include <limits>
 
-#include "records/UPowerSamples.h"
 #include "tests/records/TemporaryHistory.h"
 
 using namespace quindle;

@@ -1,6 +1,5 @@
 #include "records/SnapshotMerge.h"
 
-#include "records/SnapshotDue.h"
 #include "records/SnapshotIdentity.h"
 #include "tests/records/TemporaryHistory.h"
 #include "tests/support/ScopedTimeZone.h"

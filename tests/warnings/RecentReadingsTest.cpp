@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "warnings/BatteryReading.h"
-
 using namespace quindle;
 
 namespace {

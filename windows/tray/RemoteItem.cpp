@@ -4,7 +4,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 
-#include "platform/linux/statusitem/ItemPaths.h"
+#include "platform/linux/statusitem/NotifierTypes.h"
 
 namespace quindle {
 

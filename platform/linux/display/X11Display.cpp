@@ -6,7 +6,6 @@
 
 #include "platform/linux/display/X11Connection.h"
 #include "platform/linux/os/DetachedThread.h"
-#include "platform/linux/os/EndOfWork.h"
 
 namespace quindle {
 

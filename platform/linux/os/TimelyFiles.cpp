@@ -3,7 +3,6 @@
 #include <QLoggingCategory>
 
 #include "platform/linux/os/DetachedThread.h"
-#include "platform/linux/os/EndOfWork.h"
 #include "platform/linux/os/SmallFile.h"
 
 namespace quindle {

@@ -12,8 +12,7 @@
 
 #include "platform/linux/session/BacklogGuard.h"
 #include "platform/linux/session/BusLink.h"
-#include "platform/linux/session/InstanceName.h"
-#include "platform/linux/session/StartAnswer.h"
+#include "platform/linux/session/Instance.h"
 
 namespace quindle {
 

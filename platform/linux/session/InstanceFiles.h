@@ -7,7 +7,7 @@
 
 #include <QString>
 
-#include "platform/linux/session/StartAnswer.h"
+#include "platform/linux/session/Instance.h"
 #include "platform/posix/FileLock.h"
 
 class QSocketNotifier;

@@ -12,8 +12,8 @@
 #include "platform/linux/display/X11Desktop.h"
 #include "platform/linux/os/MonotonicClock.h"
 #include "platform/linux/session/BusLink.h"
-#include "platform/linux/statusitem/ItemPaths.h"
 #include "platform/linux/statusitem/MenuAdaptor.h"
+#include "platform/linux/statusitem/NotifierTypes.h"
 #include "platform/linux/statusitem/TrayItem.h"
 #include "platform/linux/statusitem/WatcherLink.h"
 

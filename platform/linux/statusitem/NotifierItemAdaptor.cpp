@@ -1,7 +1,7 @@
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"
 
-#include "platform/linux/statusitem/ItemPaths.h"
 #include "platform/linux/statusitem/NotifierPixmaps.h"
+#include "platform/linux/statusitem/NotifierTypes.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
 

@@ -9,6 +9,10 @@ class QDBusArgument;
 
 namespace quindle {
 
+/// Where the item and its menu are on a connection.
+inline constexpr auto itemObjectPath = "/StatusNotifierItem";
+inline constexpr auto menuObjectPath = "/MenuBar";
+
 /// (iiay): a picture on the bus, its pixels as ARGB in network byte order, not premultiplied.
 struct NotifierPixmap
 {

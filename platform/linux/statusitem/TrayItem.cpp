@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/linux/statusitem/ItemPaths.h"
 #include "platform/linux/statusitem/MenuAdaptor.h"
+#include "platform/linux/statusitem/NotifierTypes.h"
 
 namespace quindle {
 

@@ -3,16 +3,45 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
 
-#include "platform/linux/supplies/LateBell.h"
+#include <QObject>
+
 #include "platform/linux/supplies/SlowFiles.h"
 #include "platform/linux/supplies/SupplyFolder.h"
 
 namespace quindle {
+
+/// Calls back on the main loop from any thread. Made, given its call and silenced on the main thread.
+class LateBell
+{
+public:
+    void setCall(std::function<void()> call) { m_call = std::move(call); }
+
+    /// Has the call made soon, unless nobody listens any more.
+    void ring()
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (m_home && m_call)
+            QMetaObject::invokeMethod(m_home.get(), m_call, Qt::QueuedConnection);
+    }
+
+    /// No call is made from now on.
+    void silence()
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_home.reset();
+    }
+
+private:
+    std::mutex m_mutex;
+    std::function<void()> m_call;
+    std::unique_ptr<QObject> m_home = std::make_unique<QObject>();
+};
 
 /// Reads a folder of supplies on request, each time on a thread that ends with the reading: between two there
 /// is none that would have to be woken, or whose registers hold what it read last. One that is stuck in a

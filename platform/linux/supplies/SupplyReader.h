@@ -6,13 +6,11 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/supplies/LateBell.h"
+#include "platform/linux/supplies/ReadingThread.h"
 #include "platform/linux/supplies/SlowFiles.h"
 #include "platform/linux/supplies/SupplyFolder.h"
 
 namespace quindle {
-
-class ReadingThread;
 
 /// How long the main thread waits for a reading.
 struct ReadingPatience

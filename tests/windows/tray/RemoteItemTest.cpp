@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "platform/StatusMenu.h"
-#include "platform/linux/statusitem/ItemPaths.h"
 #include "platform/linux/statusitem/MenuAdaptor.h"
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"
+#include "platform/linux/statusitem/NotifierTypes.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
 #include "tests/support/ComesTrue.h"
