@@ -2,8 +2,8 @@
 
 #include <QCoreApplication>
 
+#include "app/MachineServices.h"
 #include "app/MachineSteps.h"
-#include "common/NumberConversion.h"
 #include "platform/UserDefaults.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/network/LinuxUrlSession.h"
@@ -74,40 +74,14 @@ private:
     LinuxStatusBar m_statusBar;
 };
 
-/// The network of a recorded computer whose posts leave for the host that its own bundle names. The program's
-/// own service never hears of an invented computer.
-class MachineUrlSession : public UrlSession
-{
-public:
-    MachineUrlSession(const RecordedComputer& computer, UrlSession& recorded, const Bundle& programBundle)
-        : m_computer(computer)
-        , m_recorded(recorded)
-        , m_network(networkModule(programBundle))
-    {
-    }
-
-    void post(const QString& url, const QByteArray& body,
-              std::function<void(int status, const QByteArray& body)> answered) override
-    {
-        if (m_computer.bundle())
-            m_network.post(url, body, std::move(answered));
-    }
-
-    std::optional<QByteArray> contents(const QString& url) override { return m_recorded.contents(url); }
-
-private:
-    const RecordedComputer& m_computer;
-    UrlSession& m_recorded;
-    LinuxUrlSession m_network;
-};
-
 class RecordedMachine : public HelperServices
 {
 public:
     explicit RecordedMachine(const Machine& machine)
         : m_steps(machine.steps)
         , m_recorded(machine.keys, m_programBundle, machine.file)
-        , m_urlSession(m_recorded.computer, m_recorded.urlSession, m_programBundle)
+        , m_network(networkModule(m_programBundle))
+        , m_urlSession(m_recorded.computer, m_recorded.urlSession, m_network)
         , m_statusBar(m_runLoop, surroundings(m_programBundle, m_recorded.userDefaults))
         , m_platform(platform())
     {
@@ -133,10 +107,8 @@ public:
 
     QString recordingProgram() const override
     {
-        const QVariantMap settings = m_recorded.computer.database(QStringLiteral("standard"));
-        // By what the machine file says itself: recording is on by default only on a real computer.
-        const bool isAskedFor = convertToBoolean(settings.value(Keys::recordHistory.name())).value_or(false);
-        return isAskedFor ? mainApplicationProgram(m_programBundle.path()) : QString();
+        return isHistoryKeptOf(m_recorded.computer) ? mainApplicationProgram(m_programBundle.path())
+                                                    : QString();
     }
 
     bool mayRunCommands() const override { return false; }
@@ -165,6 +137,7 @@ private:
     LinuxApplication m_application;
     LinuxWorkspace m_workspace;
     RecordedPlatform m_recorded;
+    LinuxUrlSession m_network;
     MachineUrlSession m_urlSession;
     LinuxStatusBar m_statusBar;
     Platform m_platform;

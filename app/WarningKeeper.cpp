@@ -132,11 +132,11 @@ void WarningKeeper::warnUnless(const QString& desktop)
 
 void WarningKeeper::warn(const std::vector<WarningAction>& actions)
 {
-    using Kind = WarningAction::Kind;
+    using ActionKind = WarningAction::Kind;
     for (const WarningAction& action : actions) {
-        if (action.kind == Kind::Show || action.kind == Kind::Replace)
+        if (action.kind == ActionKind::Show || action.kind == ActionKind::Replace)
             m_services.notifier.show(notificationOf(action));
-        else if (action.kind == Kind::Run)
+        else if (action.kind == ActionKind::Run)
             runCommand(action);
     }
 }

@@ -55,10 +55,11 @@ QString stateOf(const QDBattery* battery)
 } // namespace
 
 ApplicationProgram::ApplicationProgram(const Platform& platform, ApplicationPreferences& preferences,
-                                       Bundle& helperBundle, bool placesWindows, PowerManagers* powerManagers)
+                                       Bundle& helperBundle, bool placesWindows,
+                                       const ApplicationExtras& extras)
     : m_platform(platform)
     , m_helperBundle(helperBundle)
-    , m_powerManagers(powerManagers)
+    , m_extras(extras)
     , m_delegate(m_platform, preferences, m_interface, &QDMac::init, noControllers)
     , m_settings(preferences, platform.userDefaults.standard(), platform.loginItems, platform.bundle,
                  platform.distributedNotificationCenter)
@@ -93,12 +94,13 @@ std::vector<ApplicationPage> ApplicationProgram::pages()
     const auto history = [this](QWidget* parent) { return makeHistoryPage(parent); };
     const auto snapshots = [this](QWidget* parent) { return makeSnapshotsPage(parent); };
     const auto details = [this, kept](QWidget* parent) {
-        return kept(new DetailsPage(m_platform, m_delegate.myMac(), m_helperBundle, parent));
+        return kept(
+            new DetailsPage(m_platform, m_delegate.myMac(), m_helperBundle, m_extras.registryAsItIs, parent));
     };
     const auto settings = [this](QWidget* parent) {
         return new SettingsPage(
             m_general, m_platform.userDefaults.standard(), m_platform.distributedNotificationCenter,
-            m_powerManagers, [this] { deleteHistory(); }, parent);
+            m_extras.powerManagers, [this] { deleteHistory(); }, parent);
     };
     return {{QStringLiteral("Battery"), battery},
             {QStringLiteral("History"), history},

@@ -20,8 +20,16 @@ namespace quindle {
 
 class ApplicationPreferences;
 class HistoryPage;
+class IORegistry;
 class PowerHistory;
 class PowerManagers;
+
+/// What only some computers have.
+struct ApplicationExtras
+{
+    PowerManagers* powerManagers = nullptr; ///< null: nobody else is known to warn
+    IORegistry* registryAsItIs = nullptr;   ///< what captures hold; null: the platform's
+};
 
 /// The application on its computer: models of its own, which are refreshed as the helper's are, and the
 /// window that shows them. Main thread only; needs a QApplication.
@@ -31,9 +39,9 @@ class ApplicationProgram : public QObject
 
 public:
     /// What is passed in must outlive it. `helperBundle` is the bundle that machine files name.
-    /// `placesWindows` as for ApplicationWindow. Without `powerManagers` nobody else is known to warn.
+    /// `placesWindows` as for ApplicationWindow.
     ApplicationProgram(const Platform& platform, ApplicationPreferences& preferences, Bundle& helperBundle,
-                       bool placesWindows, PowerManagers* powerManagers = nullptr);
+                       bool placesWindows, const ApplicationExtras& extras = {});
     ~ApplicationProgram() override;
 
     /// Shows the window, or brings it to the front.
@@ -63,7 +71,7 @@ private:
 
     Platform m_platform;
     Bundle& m_helperBundle;
-    PowerManagers* m_powerManagers;
+    ApplicationExtras m_extras;
     MainInterface m_interface;
     HelperAppDelegate m_delegate;
     BoundSettings m_settings;

@@ -40,6 +40,7 @@ public:
     }
 
     Platform platform() override { return m_linux.services(m_common.statusBar).with(m_common.overrides()); }
+    IORegistry* registryAsItIs() override { return nullptr; }
     Bundle& helperBundle() override { return m_helperBundle; }
     void play(HelperAppDelegate& /*delegate*/) override {}
 
@@ -67,6 +68,8 @@ public:
         overrides.runLoop = &m_runLoop;
         return m_recorded.platform().with(overrides);
     }
+
+    IORegistry* registryAsItIs() override { return nullptr; }
 
     Bundle& helperBundle() override
     {

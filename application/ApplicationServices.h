@@ -20,6 +20,9 @@ public:
 
     virtual Platform platform() = 0;
 
+    /// The registry as captures hold it; null where that is the platform's.
+    virtual IORegistry* registryAsItIs() = 0;
+
     /// The bundle of the helper, among the resources of this one.
     virtual Bundle& helperBundle() = 0;
 

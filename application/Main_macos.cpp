@@ -2,21 +2,24 @@
 // kind.
 
 #include <cstdio>
+#include <memory>
+#include <optional>
 #include <sysexits.h>
 #include <unistd.h>
+#include <variant>
 
 #include <QApplication>
 #include <QFile>
 
-#include "app/SilentServices.h"
 #include "application/ApplicationCommandLine.h"
 #include "application/ApplicationProgram.h"
+#include "application/ApplicationServices.h"
 #include "application/OutputOfExport.h"
 #include "application/commands/RecordCommand.h"
 #include "common/Paths.h"
 #include "platform/PowerHistory.h"
-#include "platform/macos/MacCalls.h"
-#include "platform/macos/MacPlatform.h"
+#include "platform/macos/MacPowerManagers.h"
+#include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
 
@@ -41,27 +44,24 @@ void report(const QString& line)
     fail(line, EX_OK);
 }
 
-/// Models are looked up, and snapshots sent, by the helper alone.
-struct ApplicationOnMac
+std::unique_ptr<ApplicationServices> servicesOf(const std::optional<Machine>& machine)
 {
-    Platform platform() { return mac.services(statusBar).with({.urlSession = &urlSession}); }
+    return machine ? ApplicationServices::ofMachine(*machine) : ApplicationServices::ofThisComputer({});
+}
 
-    MacPlatform mac{MacPlatform::Program::Application};
-    SilentStatusBar statusBar;
-    SilentUrlSession urlSession;
-};
-
-int showWindow(int argc, char** argv)
+int showWindow(int argc, char** argv, const std::optional<Machine>& machine)
 {
     exposePopups();
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quindle"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quindle"));
-    ApplicationOnMac own;
-    const Platform platform = own.platform();
-    const auto helperBundle = bundleAt(helperBundlePath(platform.bundle.path()));
-    ApplicationProgram program(platform, ApplicationPreferences::sharedInstance(&platform), *helperBundle,
-                               true);
+    const auto services = servicesOf(machine);
+    const Platform platform = services->platform();
+    MacPowerManagers powerManagers;
+    ApplicationProgram program(
+        platform, ApplicationPreferences::sharedInstance(&platform), services->helperBundle(), true,
+        {.powerManagers = &powerManagers, .registryAsItIs = services->registryAsItIs()});
+    services->play(program.delegate());
     program.present();
     return QApplication::exec();
 }
@@ -75,14 +75,29 @@ int record(const Platform& platform)
     return isGiven ? recordHistory(platform, none, samples, &report) : EX_OK;
 }
 
-int runCommand(int argc, char** argv, const ApplicationCommandLine& commandLine)
+int runCommand(int argc, char** argv, const ApplicationCommandLine& commandLine,
+               const std::optional<Machine>& machine)
 {
     const QCoreApplication application(argc, argv);
-    ApplicationOnMac own;
-    const Platform platform = own.platform();
+    const auto services = servicesOf(machine);
+    const Platform platform = services->platform();
     return commandLine.call == ApplicationCommandLine::Call::Record
                ? record(platform)
                : exportToStandardOutput(platform, commandLine, &report);
+}
+
+int start(int argc, char** argv, const ApplicationCommandLine& commandLine)
+{
+    std::optional<Machine> machine;
+    if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
+        MachineResult result = readMachineFile(path);
+        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
+            return fail(refusal->line, EX_DATAERR);
+        machine = std::get<Machine>(std::move(result));
+    }
+    return commandLine.call == ApplicationCommandLine::Call::Window
+               ? showWindow(argc, argv, machine)
+               : runCommand(argc, argv, commandLine, machine);
 }
 
 } // namespace
@@ -97,9 +112,7 @@ int main(int argc, char** argv)
         return print(applicationHelpText().toUtf8());
     case ApplicationCommandLine::Call::Version:
         return print("quindle " QUINDLE_VERSION "\n");
-    case ApplicationCommandLine::Call::Window:
-        return showWindow(argc, argv);
     default:
-        return runCommand(argc, argv, commandLine);
+        return start(argc, argv, commandLine);
     }
 }

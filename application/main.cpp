@@ -105,8 +105,9 @@ int run(ApplicationServices& services, SingleInstance& instance, bool isThisComp
     // A desktop of this kind places windows itself.
     const bool isWayland = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
     LinuxPowerManagers powerManagers;
-    ApplicationProgram program(platform, ApplicationPreferences::sharedInstance(&platform),
-                               services.helperBundle(), !isWayland, &powerManagers);
+    ApplicationProgram program(
+        platform, ApplicationPreferences::sharedInstance(&platform), services.helperBundle(), !isWayland,
+        {.powerManagers = &powerManagers, .registryAsItIs = services.registryAsItIs()});
     instance.setShowRequested([&program] { program.present(); });
     services.play(program.delegate());
     program.present();

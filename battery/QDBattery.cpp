@@ -327,9 +327,9 @@ std::optional<QDateTime> QDBattery::calculateManufactureDate_deprecated(qint64 p
 
 bool QDBattery::knowsManufactureDate() const
 {
-    constexpr int firstYear = 1980; // packed dates count from it, and an empty one falls before
+    constexpr int firstPackedYear = 1980; // packed dates count from it, and an empty one falls before
     const auto made = ManufactureDate();
-    return made && made->date().year() >= firstYear;
+    return made && made->date().year() >= firstPackedYear;
 }
 
 // inherited: asks the service and returns nothing; a service that cannot be asked is fatal here first.

@@ -2,20 +2,27 @@
 // needs the window server there in any case.
 
 #include <cstdio>
+#include <optional>
+#include <variant>
 
 #include <QApplication>
 
 #include "app/HelperAppDelegate.h"
 #include "app/HelperCommandLine.h"
 #include "app/SampleKeeper.h"
+#include "app/WarningKeeper.h"
 #include "common/Paths.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
-#include "platform/Bundle.h"
-#include "platform/macos/MacPlatform.h"
+#include "platform/macos/MacCalls.h"
+#include "platform/macos/MacCommandRunner.h"
+#include "platform/macos/MacNotifier.h"
+#include "platform/macos/MacPowerManagers.h"
 #include "platform/macos/MacTextReceiver.h"
+#include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
+#include "windows/HelperComputer_macos.h"
 #include "windows/HelperControllers.h"
 
 using namespace quindle;
@@ -30,10 +37,9 @@ int print(std::FILE* stream, const QByteArray& text, int status)
     return status;
 }
 
-int run(QApplication& application)
+int run(QApplication& application, HelperComputer& computer)
 {
-    MacPlatform mac(MacPlatform::Program::Helper);
-    const Platform platform = mac.services(mac.statusBar());
+    const Platform platform = computer.platform();
     MainInterface interface;
     ApplicationPreferences& settings = ApplicationPreferences::sharedInstance(&platform);
     HelperControllers controllers(
@@ -42,23 +48,40 @@ int run(QApplication& application)
         [] { return InstallationSource(); });
     HelperAppDelegate delegate(platform, settings, interface, &QDMac::init,
                                [&controllers](HelperAppDelegate& owner) { return controllers.make(owner); });
-    MacTextReceiver recorder(mainApplicationProgram(platform.bundle.path()), {QStringLiteral("--record")});
+    MacTextReceiver recorder(computer.recordingProgram(), {QStringLiteral("--record")});
     SampleKeeper samples(platform, delegate, recorder);
+    const auto notices = systemNotices();
+    MacNotifier notifier(*notices);
+    MacPowerManagers powerManagers;
+    MacCommandRunner commands;
+    const WarningKeeper warnings(platform, delegate,
+                                 {notifier, powerManagers, computer.mayRunCommands() ? &commands : nullptr});
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      &HelperAppDelegate::applicationWillTerminate);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &samples, &SampleKeeper::finish);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
+                     [&notifier] { notifier.withdraw(); });
     delegate.applicationDidFinishLaunching();
+    computer.play(delegate);
     return QApplication::exec();
 }
 
 int start(int argc, char** argv)
 {
+    std::optional<Machine> machine;
+    if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
+        MachineResult result = readMachineFile(path);
+        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
+            return print(stderr, "quindle-helper: " + pathBytes(refusal->line) + '\n', wrongUsage);
+        machine = std::get<Machine>(std::move(result));
+    }
     exposePopups();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quindle-helper"));
     // The item stays when the last window closes.
     QApplication::setQuitOnLastWindowClosed(false);
-    return run(application);
+    const auto computer = machine ? machineOnMac(*machine) : thisMac();
+    return run(application, *computer);
 }
 
 } // namespace

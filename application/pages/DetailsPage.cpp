@@ -28,11 +28,11 @@ namespace quindle {
 
 namespace {
 
-QVariantMap machineKeys(const Platform& platform, Bundle& helperBundle, bool withSerials)
+QVariantMap machineKeys(const Platform& platform, bool withSerials)
 {
-    // A machine file is played by the helper's programs, so it names their bundle.
-    const QVariantMap keys = capturedKeys(platform.with({.bundle = &helperBundle}));
-    return withSerials ? keys : withoutIdentity(keys);
+    const QVariantMap keys = capturedKeys(platform);
+    // As of a Mac on every computer: a recorded one may be a Mac too.
+    return withSerials ? keys : withoutIdentity(keys, CapturedRegistry::OfAMac);
 }
 
 void setText(QTreeWidgetItem& item, int column, const QString& text)
@@ -44,11 +44,13 @@ void setText(QTreeWidgetItem& item, int column, const QString& text)
 
 } // namespace
 
-DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& helperBundle, QWidget* parent)
+DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& helperBundle,
+                         IORegistry* registryAsItIs, QWidget* parent)
     : QWidget(parent)
     , m_platform(platform)
     , m_mac(mac)
     , m_helperBundle(helperBundle)
+    , m_registryAsItIs(registryAsItIs)
     , m_search(new QLineEdit(this))
     , m_rows(new QTreeWidget(this))
     , m_nothing(new QLabel(QStringLiteral("Nothing found"), this))
@@ -172,8 +174,9 @@ void DetailsPage::askForFile()
 
 void DetailsPage::saveTo(const QString& path)
 {
-    const QString failure =
-        writeMachineFile(path, machineKeys(m_platform, m_helperBundle, m_withSerials->isChecked()));
+    // A machine file is played by the helper's programs, so it names their bundle.
+    const Platform captured = m_platform.with({.registry = m_registryAsItIs, .bundle = &m_helperBundle});
+    const QString failure = writeMachineFile(path, machineKeys(captured, m_withSerials->isChecked()));
     m_told->setText(failure.isEmpty() ? QStringLiteral("Saved") : path + QStringLiteral(": ") + failure);
 }
 

@@ -14,6 +14,7 @@ class QTreeWidget;
 namespace quindle {
 
 class Bundle;
+class IORegistry;
 class QDMac;
 struct Platform;
 
@@ -24,8 +25,10 @@ class DetailsPage : public QWidget
     Q_OBJECT
 
 public:
-    /// All must outlive it. `helperBundle` is what a machine file names as the bundle.
-    DetailsPage(const Platform& platform, const QDMac& mac, Bundle& helperBundle, QWidget* parent = nullptr);
+    /// All must outlive it. `helperBundle` is what a machine file names as the bundle, `registryAsItIs` what
+    /// it holds; null for that of `platform`.
+    DetailsPage(const Platform& platform, const QDMac& mac, Bundle& helperBundle, IORegistry* registryAsItIs,
+                QWidget* parent = nullptr);
 
     /// Shows the present values; for every refresh of the models. Does nothing while the page is not seen.
     void refresh();
@@ -51,6 +54,7 @@ private:
     const Platform& m_platform;
     const QDMac& m_mac;
     Bundle& m_helperBundle;
+    IORegistry* m_registryAsItIs;
     QLineEdit* m_search;
     QTreeWidget* m_rows;
     QLabel* m_nothing;

@@ -21,7 +21,7 @@ struct Span
     const char* caption;
 };
 
-constexpr Span spans[] = {
+constexpr Span offeredSpans[] = {
     {0, "For ever"}, {3650, "10 years"}, {1825, "5 years"}, {730, "2 years"},
     {365, "1 year"}, {90, "90 days"},    {30, "30 days"},
 };
@@ -40,7 +40,7 @@ HistorySettingsView::HistorySettingsView(UserDefaults& own, DistributedNotificat
     m_record->setText(QStringLiteral("Record charge, po&wer and a daily snapshot"));
     m_record->setAccessibleName(QStringLiteral("Record charge, power and a daily snapshot"));
     m_days->setAccessibleName(QStringLiteral("Keep charge and power"));
-    for (const Span& span : spans)
+    for (const Span& span : offeredSpans)
         m_days->addItem(QLatin1String(span.caption), span.days);
     addRows();
     fitToFont();

@@ -21,6 +21,10 @@ std::unique_ptr<DefaultsCalls> suiteDefaults(const QString& name);
 
 std::unique_ptr<NotificationCalls> systemNotifications();
 std::unique_ptr<WorkspaceNotifications> systemSleepNotifications();
+
+/// Only for a program that runs from a bundle: the system ends any other.
+std::unique_ptr<NoticeCalls> systemNotices();
+
 std::unique_ptr<TimerCalls> systemTimers();
 
 /// Whether the helper is started at login, asked by itself, and by the application that carries it.

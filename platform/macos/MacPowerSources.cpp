@@ -3,7 +3,15 @@
 #include <algorithm>
 #include <utility>
 
+#include <QLoggingCategory>
+
 namespace quindle {
+
+namespace {
+
+Q_LOGGING_CATEGORY(macPowerLog, "quindle.power")
+
+} // namespace
 
 std::optional<QVariantMap> MacPowerSources::externalAdapterDetails()
 {
@@ -38,8 +46,10 @@ MacPowerEvents::MacPowerEvents(PowerCalls& calls, RunLoop& runLoop)
 void MacPowerEvents::setObserver(std::function<void()> observer)
 {
     m_observer = std::move(observer);
-    if (!std::exchange(m_isListening, true))
-        m_calls.observe([this] { m_limit.request(); });
+    if (std::exchange(m_isListening, true))
+        return;
+    if (!m_calls.observe([this] { m_limit.request(); }))
+        qCWarning(macPowerLog, "changes of power sources are not announced here");
 }
 
 } // namespace quindle

@@ -10,6 +10,7 @@
 #include <QVariantMap>
 
 #include "platform/IORegistry.h"
+#include "platform/Notifier.h"
 
 /// What the back end asks of the system, in plain values. The adapters (*.mm) convert and forward and decide
 /// nothing; who uses these classes decides, and is tested with others in their place. Main thread only.
@@ -42,8 +43,8 @@ public:
     /// Empty without an adapter.
     virtual QVariantMap adapter() = 0;
 
-    /// Calls `changed` from the main loop for each change that is announced.
-    virtual void observe(std::function<void()> changed) = 0;
+    /// Calls `changed` from the main loop for each change that is announced; false when none will be.
+    virtual bool observe(std::function<void()> changed) = 0;
 };
 
 /// One domain of the user's defaults.
@@ -69,6 +70,26 @@ public:
     virtual void observe(const QString& name, std::function<void(const QString& sender)> heard) = 0;
 
     virtual void post(const QString& name, const QString& sender) = 0;
+};
+
+/// What the system shows the user, one notification at a time.
+class NoticeCalls
+{
+public:
+    using LeaveAnswered = std::function<void(bool isGranted, const QString& fault)>;
+    using Answered = std::function<void(const QString& fault)>; ///< empty for success
+
+    virtual ~NoticeCalls() = default;
+
+    /// Asks whether anything may be shown, the first time the user; calls `answered` later on the main
+    /// thread.
+    virtual void askLeave(LeaveAnswered answered) = 0;
+
+    /// Shows it in place of the one before, and calls `answered` later on the main thread.
+    virtual void show(const Notification& notification, Answered answered) = 0;
+
+    /// Takes back what is shown or is to be.
+    virtual void withdraw() = 0;
 };
 
 /// One repeating timer of the system; destroying it stops it.

@@ -25,19 +25,29 @@ NSMutableURLRequest* requestOf(const QString& url, double patience)
     return request;
 }
 
-/// Answered on the queue; null is one of the system's own.
-NSURLSessionDataTask* start(NSMutableURLRequest* request, NSOperationQueue* queue, Answered answered)
+NSMutableURLRequest* postOf(const QString& url, const QByteArray& body, double patience)
 {
-    NSURLSessionConfiguration* const configuration =
-        [NSURLSessionConfiguration ephemeralSessionConfiguration];
-    NSURLSession* const session = [NSURLSession sessionWithConfiguration:configuration
-                                                                delegate:nil
-                                                           delegateQueue:queue];
-    NSURLSessionDataTask* const task =
-        [session dataTaskWithRequest:request
-                   completionHandler:^(NSData* data, NSURLResponse* response, NSError* error) {
-                     answered(answerOf(data, response, error));
-                   }];
+    NSMutableURLRequest* const request = requestOf(url, patience);
+    request.HTTPMethod = @"POST";
+    request.HTTPBody = (__bridge_transfer NSData*)cfFromValue(body).release();
+    return request;
+}
+
+/// Nothing is kept on the disk. Null is a queue of the session's own.
+NSURLSession* sessionOn(NSOperationQueue* queue)
+{
+    return [NSURLSession sessionWithConfiguration:[NSURLSessionConfiguration ephemeralSessionConfiguration]
+                                         delegate:nil
+                                    delegateQueue:queue];
+}
+
+/// Answered on the queue of the session, which ends with the answer.
+NSURLSessionDataTask* start(NSMutableURLRequest* request, NSURLSession* session, Answered answered)
+{
+    const auto handler = ^(NSData* data, NSURLResponse* response, NSError* error) {
+      answered(answerOf(data, response, error));
+    };
+    NSURLSessionDataTask* const task = [session dataTaskWithRequest:request completionHandler:handler];
     [task resume];
     [session finishTasksAndInvalidate];
     return task;
@@ -50,34 +60,37 @@ struct Waiting
     std::optional<HttpAnswer> answer;
 };
 
+/// False when the patience ends first.
+bool hasEnded(const Waiting& waiting, double patience)
+{
+    const auto nanoseconds = static_cast<std::int64_t>(patience * NSEC_PER_SEC);
+    return dispatch_semaphore_wait(waiting.done, dispatch_time(DISPATCH_TIME_NOW, nanoseconds)) == 0;
+}
+
 class SystemHttp : public HttpCalls
 {
 public:
     void post(const QString& url, const QByteArray& body, double patience,
               std::function<void(const HttpAnswer&)> answered) override
     {
-        NSMutableURLRequest* const request = requestOf(url, patience);
-        request.HTTPMethod = @"POST";
-        request.HTTPBody = (__bridge_transfer NSData*)cfFromValue(body).release();
-        start(request, [NSOperationQueue mainQueue], [answered](const std::optional<HttpAnswer>& answer) {
+        const auto hear = [answered = std::move(answered)](const std::optional<HttpAnswer>& answer) {
             if (answer)
                 answered(*answer);
-        });
+        };
+        start(postOf(url, body, patience), sessionOn([NSOperationQueue mainQueue]), hear);
     }
 
     std::optional<HttpAnswer> get(const QString& url, double patience) override
     {
         const auto waiting = std::make_shared<Waiting>();
-        NSURLSessionDataTask* const task =
-            start(requestOf(url, patience), nil, [waiting](const auto& answer) {
-                waiting->answer = answer;
-                dispatch_semaphore_signal(waiting->done);
-            });
-        const auto deadline =
-            dispatch_time(DISPATCH_TIME_NOW, static_cast<std::int64_t>(patience * NSEC_PER_SEC));
-        const bool isLate = dispatch_semaphore_wait(waiting->done, deadline) != 0;
-        [task cancel];
-        return isLate ? std::nullopt : waiting->answer;
+        const auto hear = [waiting](const std::optional<HttpAnswer>& answer) {
+            waiting->answer = answer;
+            dispatch_semaphore_signal(waiting->done);
+        };
+        NSURLSessionDataTask* const task = start(requestOf(url, patience), sessionOn(nil), hear);
+        const bool isInTime = hasEnded(*waiting, patience);
+        [task cancel]; // one that has ended stays as it is
+        return isInTime ? waiting->answer : std::nullopt;
     }
 };
 

@@ -21,6 +21,12 @@ std::vector<QVariantMap> describe(CFTypeRef blob, CFArrayRef list)
 class SystemPowerSources : public PowerCalls
 {
 public:
+    ~SystemPowerSources() override
+    {
+        if (m_source)
+            CFRunLoopSourceInvalidate(m_source.get());
+    }
+
     std::optional<std::vector<QVariantMap>> sources() override
     {
         const CfOwned<CFTypeRef> blob(IOPSCopyPowerSourcesInfo());
@@ -34,17 +40,26 @@ public:
         return mapFromCf(details.get());
     }
 
-    void observe(std::function<void()> changed) override
+    bool observe(std::function<void()> changed) override
     {
         m_changed = std::move(changed);
-        const CfOwned<CFRunLoopSourceRef> source(IOPSNotificationCreateRunLoopSource(
-            [](void* context) { static_cast<SystemPowerSources*>(context)->m_changed(); }, this));
-        // It stays in the loop for good, as this object does in a program.
-        CFRunLoopAddSource(CFRunLoopGetMain(), source.get(), kCFRunLoopCommonModes);
+        m_source = CfOwned<CFRunLoopSourceRef>(IOPSNotificationCreateRunLoopSource(hear, this));
+        if (m_source)
+            CFRunLoopAddSource(CFRunLoopGetMain(), m_source.get(), kCFRunLoopCommonModes);
+        return static_cast<bool>(m_source);
     }
 
 private:
+    static void hear(void* self)
+    {
+        // The loop has a pool for events alone, of which a program in the background gets none.
+        @autoreleasepool {
+            static_cast<SystemPowerSources*>(self)->m_changed();
+        }
+    }
+
     std::function<void()> m_changed;
+    CfOwned<CFRunLoopSourceRef> m_source;
 };
 
 } // namespace

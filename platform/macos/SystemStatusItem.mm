@@ -64,6 +64,7 @@ public:
     explicit SystemStatusItem(double length)
         : m_item([[NSStatusBar systemStatusBar] statusItemWithLength:length])
     {
+        m_item.button.imagePosition = NSImageLeading;
     }
     ~SystemStatusItem() override { [[NSStatusBar systemStatusBar] removeStatusItem:m_item]; }
 

@@ -33,7 +33,10 @@ private:
     static void tick(CFRunLoopTimerRef /*timer*/, void* self)
     {
         const auto fire = static_cast<LoopTimer*>(self)->m_fire; // it may destroy the timer
-        fire();
+        // The loop has a pool for events alone, of which a program in the background gets none.
+        @autoreleasepool {
+            fire();
+        }
     }
 
     std::function<void()> m_fire;

@@ -50,7 +50,8 @@ struct ApplicationProgramTest : testing::Test
     {
         if (!made) {
             preferences = std::make_unique<ApplicationPreferences>(computer.platform);
-            made = std::make_unique<ApplicationProgram>(computer.platform, *preferences, helperBundle, true);
+            made = std::make_unique<ApplicationProgram>(computer.platform, *preferences, helperBundle, true,
+                                                        extras);
             made->present();
             QApplication::processEvents();
         }
@@ -85,6 +86,7 @@ struct ApplicationProgramTest : testing::Test
 
     FakePlatform computer;
     FakeBundle helperBundle;
+    ApplicationExtras extras;
     std::unique_ptr<ApplicationPreferences> preferences;
     std::unique_ptr<ApplicationProgram> made;
 };
@@ -204,6 +206,25 @@ TEST_F(ApplicationProgramTest, AMachineFileHasSerialNumbersOnlyWhereTheyAreAsked
     EXPECT_EQ(without.value(latin("Bundle")).toMap().value(latin("Path")), helperBundle.bundlePath);
     control<QCheckBox>("With serial numbers")->setChecked(true);
     EXPECT_EQ(serialOf(saved()), QVariant(latin("D86SECRET")));
+}
+
+TEST_F(ApplicationProgramTest, AMachineFileOfAMacHoldsItsRegistryAsItIsWithoutTheSerialNumber)
+{
+    FakeRegistry asItIs;
+    asItIs.entries[latin("AppleSmartBattery")] = {{latin("CurrentCapacity"), qint64{78}},
+                                                  {latin("Serial"), latin("F8YSECRET")}};
+    extras.registryAsItIs = &asItIs;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(latin("machine.plist"));
+    show("Details");
+    program().window().findChild<DetailsPage*>()->saveTo(path);
+    const MachineResult result = readMachineFile(path);
+    ASSERT_TRUE(std::holds_alternative<Machine>(result));
+    const QVariantMap registry = std::get<Machine>(result).keys.value(latin("Registry")).toMap();
+    const QVariantMap battery = registry.value(latin("AppleSmartBattery")).toMap();
+    EXPECT_EQ(battery.value(latin("CurrentCapacity")), QVariant(qint64{78}));
+    EXPECT_EQ(battery.value(latin("Serial")).toString().size(), 9);
+    EXPECT_NE(battery.value(latin("Serial")), QVariant(latin("F8YSECRET")));
 }
 
 TEST_F(ApplicationProgramTest, AFileThatCannotBeWrittenIsNamed)

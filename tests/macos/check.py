@@ -15,6 +15,8 @@ from pathlib import Path
 import compare_declarations
 
 SOURCE, BUILD = (Path(argument) for argument in sys.argv[1:3])
+sys.path.insert(0, str(SOURCE / "tests/layering"))
+import check_layers  # noqa: E402
 PACKAGES = BUILD / "packages"
 DECLARATIONS = SOURCE / "tests/macos/declarations"
 
@@ -31,17 +33,9 @@ TYPES = ("@nativescript/macos-node-api@0.4.0",
                                                  "UserNotifications")))
 
 PROCESSORS = {"arm64": "aarch64", "x86_64": "x86_64"}
-ROOMS = ("common plist platform platform/recorded platform/macos settings battery mac facts warnings menubar history samples "
-         "records remote widgets charts view preferences/window preferences/panes app windows application application/pages "
-         "application/saved application/snapshots application/commands inspect").split()
-# What belongs to Linux in rooms that both systems have: the composition roots of its programs.
-LINUX_FILES = set("app/main.cpp app/HelperServices.cpp windows/main.cpp windows/WindowsProgram.cpp windows/WindowsServices.cpp "
-                  "application/main.cpp application/ApplicationServices.cpp inspect/OwnComputer_linux.cpp".split())
-# What both systems use of a room of Linux.
-SHARED_FILES = ["platform/posix/FileLock.cpp", "platform/posix/FileReplacement.cpp"]
 PROGRAMS = {"quindle-helper": "windows/HelperMain_macos.cpp", "quindle": "application/Main_macos.cpp",
             "quindle-inspect": "inspect/main.cpp"}
-FILES_AT_A_TIME = 24
+FILES_AT_A_TIME = 12  # as the build has it
 
 INCLUDE = Path("/usr/include") / os.uname().machine.replace("aarch64", "aarch64-linux-gnu").replace(
     "x86_64", "x86_64-linux-gnu")
@@ -55,8 +49,6 @@ QT_NAMES_OF_MACS = {"Core": {
     "__ZN10QByteArray13fromStdStringERKNSt3__112basic_stringIcNS0_11char_traitsIcEENS0_9allocatorIcEEEE",
     "__ZNK10QByteArray11toStdStringEv"}}
 
-# Not -Wshadow: of files that are compiled together one's names shadow another's.
-WARNINGS = "-Wall -Wextra -Wpedantic -Wconversion -Werror".split()
 DEFINITIONS = ["-DQT_NO_CAST_FROM_ASCII", "-DQT_NO_CAST_TO_ASCII", "-DQT_NO_FOREACH", "-DQT_NO_KEYWORDS",
                "-DQT_DISABLE_DEPRECATED_BEFORE=0x060400", '-DQUINDLE_VERSION="0"',
                # The deployment target 13.3 has std::to_chars for doubles, which these headers do not know.
@@ -131,6 +123,30 @@ def unpacked(package):
 # What is made of the sources before they are compiled.
 
 
+def is_of_linux(place, allowed):
+    return any(room.split("/")[:2] == ["platform", "linux"] for room in (place, *allowed))
+
+
+def read_places():
+    """(rooms that a Mac has, files in them that it has not): what is or may use a room of Linux is of Linux alone."""
+    rules = check_layers.read_rules(SOURCE / "tests/layering/layers.txt")
+    linux = {place for place, allowed in rules.items() if is_of_linux(place, allowed)}
+    rooms = [place for place in rules if place not in linux and (SOURCE / place).is_dir()]
+    return rooms, {place for place in linux if (SOURCE / place).is_file()}
+
+
+ROOMS, LINUX_FILES = read_places()
+
+
+def project_warnings():
+    """Those of cmake/QuindleCompiler.cmake, as errors."""
+    text = (SOURCE / "cmake/QuindleCompiler.cmake").read_text(encoding="utf-8")
+    found = re.search(r"^add_compile_options\(((?:-W[\w-]+ ?)+)\)$", text, re.M)
+    if not found:
+        raise Failure("cmake/QuindleCompiler.cmake does not name the warnings any more")
+    return [*found.group(1).split(), "-Werror"]
+
+
 def sources_of(room):
     files = [path for suffix in ("cpp", "mm") for path in sorted((SOURCE / room).glob(f"*.{suffix}"))]
     others = LINUX_FILES | set(PROGRAMS.values())
@@ -152,16 +168,26 @@ def generate(folder):
         list(pool.map(lambda command: run(command, f"{command[0].name} fails"), commands))
 
 
-def units(folder):
-    """(name, path) of what is compiled: the files of a room together, entry points and shared files by themselves."""
-    for room in ROOMS:
+def joined_files(room):
+    """The files of a room as the build joins them: joined otherwise, one's names may shadow another's."""
+    rest = sources_of(room)
+    for target in re.findall(r"(?:quindle_library|add_executable)\(([^)]*)\)", (SOURCE / room / "CMakeLists.txt").read_text()):
+        listed = [path for name in target.split() for path in rest if path.name == name]
+        rest = [path for path in rest if path not in listed]
         for suffix in (".cpp", ".mm"):
-            files = [path for path in sources_of(room) if path.suffix == suffix]
-            for start in range(0, len(files), FILES_AT_A_TIME):
-                path = folder / f"unit_{room.replace('/', '_')}_{start}{suffix}"
-                path.write_text("".join(f'#include "{file}"\n' for file in files[start:start + FILES_AT_A_TIME]), encoding="utf-8")
-                yield path.name, path
-    for name in [*SHARED_FILES, *PROGRAMS.values()]:
+            files = [path for path in listed if path.suffix == suffix]
+            yield from (files[start:start + FILES_AT_A_TIME] for start in range(0, len(files), FILES_AT_A_TIME))
+    yield from ([path] for path in rest)
+
+
+def units(folder):
+    """(name, path) of what is compiled: the files of a room together, entry points by themselves."""
+    for room in ROOMS:
+        for number, files in enumerate(joined_files(room)):
+            path = folder / f"unit_{room.replace('/', '_')}_{number}{files[0].suffix}"
+            path.write_text("".join(f'#include "{file}"\n' for file in files), encoding="utf-8")
+            yield path.name, path
+    for name in PROGRAMS.values():
         yield name.replace("/", "_"), SOURCE / name
 
 
@@ -171,7 +197,7 @@ def compile_command(processor, libraries, generated):
               own / f"{PROCESSORS[processor]}-macos.13-none", own / "any-macos.13-any", own / "any-macos-any", DECLARATIONS,
               INCLUDE / "qt6", *(INCLUDE / "qt6" / f"Qt{name}" for name in QT_LIBRARIES), generated / "system"]
     return ["clang++-14", "-target", f"{processor}-apple-macos13.3", "-std=c++20", "-stdlib=libc++", "-nostdinc++", "-nostdlibinc",
-            "-O0", "-fPIC", "-fvisibility=hidden", "-ffp-contract=off", *WARNINGS, *DEFINITIONS,
+            "-O0", "-fPIC", "-fvisibility=hidden", "-ffp-contract=off", *project_warnings(), *DEFINITIONS,
             *(part for path in system for part in ("-isystem", path)), f"-I{SOURCE}", f"-I{generated}"]
 
 
@@ -306,9 +332,6 @@ def check():
     libraries, types = unpacked(LIBRARIES), unpacked(TYPES) / "types"
     check_declarations(types)
     check_that_mistakes_are_found(types)
-    for name in LINUX_FILES:
-        if not (SOURCE / name).is_file():
-            raise Failure(f"{name}: is not there any more; see LINUX_FILES")
     generated = BUILD / "generated"
     shutil.rmtree(generated, ignore_errors=True)
     generate(generated)

@@ -18,6 +18,7 @@ class Declared:
     """What is declared. methods: (class, is the class's own, selector); arguments are counted."""
 
     supers: dict = field(default_factory=dict)
+    protocols: set = field(default_factory=set)
     methods: dict = field(default_factory=dict)
     properties: set = field(default_factory=set)  # (class, name)
     functions: dict = field(default_factory=dict)
@@ -53,8 +54,9 @@ def read_methods(name, body, declared):
 
 
 def read_plain(text, declared):
-    for name, body in re.findall(r"enum (\w+) : \w+ \{([^}]*)\}", text):
-        declared.values[name] = {key: int(number) for key, number in re.findall(r"(\w+) = (\d+)", body)}
+    # Options are an enumeration without a name, on the type that has it.
+    for name, options, body in re.findall(r"enum (\w+)? ?: (\w+) \{([^}]*)\}", text):
+        declared.values[name or options] = {key: int(number) for key, number in re.findall(r"(\w+) = (\d+)", body)}
     for block in re.findall(r'extern "C" \{(.*?)^\}', text, re.S | re.M):
         declared.constants |= set(re.findall(r"^extern const .*?\b(\w+);|^extern \w+\* const (\w+);", block, re.M))
         for name, arguments in re.findall(r"^(?!extern)[\w ]+[ *]+(\w+)\(((?:[^()]|\([^()]*\))*)\);", block, re.M):
@@ -68,6 +70,10 @@ def read_declarations(folder):
         text = without_comments(header.read_text(encoding="utf-8"))
         for name, parent, body in re.findall(r"@interface (\w+) : (\w+)(.*?)@end", text, re.S):
             declared.supers[name] = parent
+            read_methods(name, body, declared)
+        # What a program's own objects are asked: a wrong name would never be called.
+        for name, body in re.findall(r"@protocol (\w+)\n(.*?)@end", text, re.S):
+            declared.protocols.add(name)
             read_methods(name, body, declared)
         read_plain(text, declared)
     return declared
@@ -99,7 +105,7 @@ def arguments_after(text, start):
 
 def read_members(body):
     members = {}
-    for found in re.finditer(r"^  (static )?(readonly )?(\w+)(<[^\n]*?>)?(\(|\??:)", body, re.M):
+    for found in re.finditer(r"^  (static )?(readonly )?(\w+)(<[^\n]*?>)?\??(\(|:)", body, re.M):
         is_own, _, name, _, kind = found.groups()
         count = None
         if kind == "(":
@@ -113,7 +119,7 @@ def read_typed(folder):
     typed = Typed()
     for path in sorted(Path(folder).glob("*.d.ts")):
         text = path.read_text(encoding="utf-8")
-        for name, parent, body in re.findall(r"^declare class (\w+)(?: extends (\w+))?[^\n]*\{\n(.*?)^\}", text, re.S | re.M):
+        for name, parent, body in re.findall(r"^declare (?:class|interface) (\w+)(?: extends (\w+))?[^\n]*\{\n(.*?)^\}", text, re.S | re.M):
             typed.supers[name] = parent
             typed.members.setdefault(name, {}).update(read_members(body))
         for found in re.finditer(r"^declare function (\w+)\(", text, re.M):
@@ -145,7 +151,7 @@ def is_typed_method(typed, name, is_own, selector, count):
 
 
 def differences(declared, typed):
-    for name in declared.supers:
+    for name in [*declared.supers, *declared.protocols]:
         if name not in typed.members and name not in COMPILER_CLASSES:
             yield f"there is no class {name}"
     for (name, is_own, selector), count in declared.methods.items():
@@ -173,7 +179,7 @@ COMPILER_CLASSES = {"NSSimpleCString", "NSConstantString"}
 
 def compare(declarations, types):
     declared = read_declarations(declarations)
-    counts = {"classes": len(declared.supers), "methods": len(declared.methods), "properties": len(declared.properties),
+    counts = {"classes": len(declared.supers), "protocols": len(declared.protocols), "methods": len(declared.methods), "properties": len(declared.properties),
               "functions": len(declared.functions), "constants": len(declared.constants),
               "values": sum(map(len, declared.values.values()))}
     return sorted(differences(declared, read_typed(types))), counts

@@ -28,12 +28,29 @@ declare class QDChild extends QDBase {
   isHidden(): boolean;
 }
 
+declare const QDOptions: {
+  Bright: 4,
+};
+
+declare interface QDHearer extends NSObjectProtocol {
+  senderDidSendText?(sender: QDBase, text: string): void;
+}
+
+declare class QDHearer extends NativeObject implements QDHearer {
+}
+
 declare function QDCreate(allocator: interop.Object, callback: (p1: number, p2: number) => void): interop.Object;
 declare function QDNow(): number;
 """
 
 HEADER = """
 enum QDKind : unsigned { QDKindLarge = 2 };
+enum : QDOptions { QDOptionsBright = 4 };
+@protocol QDHearer
+@optional
+- (void)sender:(QDBase*)sender
+    didSendText:(NSString*)text;
+@end
 @interface QDBase : NSObject
 + (instancetype)sharedBase;
 + (QDBase*)defaultBase;
@@ -55,6 +72,9 @@ void* QDCreate(void* allocator, void (*callback)(int, int));
 
 WRONG = {
     "class": ("QDChild", "QDGrandchild"),
+    "protocol": ("@protocol QDHearer", "@protocol QDListener"),
+    "selector of a protocol": ("didSendText:", "hasSentText:"),
+    "option": ("QDOptionsBright = 4", "QDOptionsBright = 8"),
     "selector": ("finishWithHandler:", "endWithHandler:"),
     "selector with two parts": ("forKey:(NSString*)key;\n@prop", "atKey:(NSString*)key;\n@prop"),
     "one argument less": ("setValue:(id)value\n          forKey:(NSString*)key", "setValueForKey:(id)value"),
@@ -80,7 +100,7 @@ class Comparison(unittest.TestCase):
     def test_what_is_the_same(self):
         faults, counts = self.faults_of(HEADER)
         self.assertEqual(faults, [])
-        self.assertEqual(counts, {"classes": 2, "methods": 6, "properties": 1, "functions": 2, "constants": 1, "values": 1})
+        self.assertEqual(counts, {"classes": 2, "protocols": 1, "methods": 7, "properties": 1, "functions": 2, "constants": 1, "values": 2})
 
     def test_each_mistake_is_found(self):
         for what, (right, wrong) in WRONG.items():

@@ -4,7 +4,7 @@
 
 #include "common/Paths.h"
 #include "platform/linux/os/DetachedProcess.h"
-#include "platform/linux/os/ProgramFile.h"
+#include "platform/posix/ProgramFile.h"
 
 namespace quindle {
 

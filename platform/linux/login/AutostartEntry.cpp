@@ -5,7 +5,7 @@
 #include "common/Paths.h"
 #include "platform/FileUrl.h"
 #include "platform/linux/login/DesktopEntry.h"
-#include "platform/linux/os/ProgramFile.h"
+#include "platform/posix/ProgramFile.h"
 
 namespace quindle {
 

@@ -12,12 +12,12 @@
 #include "platform/Bundle.h"
 #include "platform/FileUrl.h"
 #include "platform/linux/login/AutostartEntry.h"
-#include "platform/linux/os/ProgramFile.h"
 #include "platform/linux/os/SmallFile.h"
 #include "platform/linux/os/UserFolders.h"
 #include "platform/posix/FileDescriptor.h"
 #include "platform/posix/FileLock.h"
 #include "platform/posix/FileReplacement.h"
+#include "platform/posix/ProgramFile.h"
 
 namespace quindle {
 

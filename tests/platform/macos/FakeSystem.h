@@ -49,13 +49,15 @@ public:
     QVariantMap details;
     std::function<void()> changed;
     int observed = 0;
+    bool announces = true;
 
     std::optional<std::vector<QVariantMap>> sources() override { return listed; }
     QVariantMap adapter() override { return details; }
-    void observe(std::function<void()> observer) override
+    bool observe(std::function<void()> observer) override
     {
         ++observed;
         changed = std::move(observer);
+        return announces;
     }
 };
 
@@ -113,6 +115,29 @@ public:
     void post(const QString& name, const QString& sender) override { posted.emplace_back(name, sender); }
 
     void deliver(const QString& name, const QString& sender) { observers.at(name)(sender); }
+};
+
+/// The center of notifications, which answers when it is told to.
+class FakeNoticeCalls : public NoticeCalls
+{
+public:
+    LeaveAnswered leave;
+    int leavesAsked = 0;
+    std::vector<Notification> shown;
+    Answered answered;
+    int withdrawals = 0;
+
+    void askLeave(LeaveAnswered answer) override
+    {
+        ++leavesAsked;
+        leave = std::move(answer);
+    }
+    void show(const Notification& notification, Answered answer) override
+    {
+        shown.push_back(notification);
+        answered = std::move(answer);
+    }
+    void withdraw() override { ++withdrawals; }
 };
 
 class FakeTimerCalls : public TimerCalls

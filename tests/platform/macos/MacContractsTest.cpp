@@ -105,6 +105,20 @@ TEST(MacPowerEvents, AStormOfChangesIsTwoAtFirst)
     EXPECT_EQ(heard, 2);
 }
 
+TEST(MacPowerEvents, WhereNothingIsAnnouncedThatIsLoggedOnce)
+{
+    FakeTimerCalls timers;
+    MacRunLoop loop(timers);
+    FakePowerCalls calls;
+    calls.announces = false;
+    MacPowerEvents events(calls, loop);
+    testing::internal::CaptureStderr();
+    events.setObserver([] {});
+    events.setObserver([] {});
+    const QString log = QString::fromStdString(testing::internal::GetCapturedStderr());
+    EXPECT_EQ(log.count(u("are not announced")), 1) << log.toStdString();
+}
+
 TEST(MacUserDefaults, OnlyWhatIsDifferentIsWritten)
 {
     FakeDomains domains;

@@ -46,9 +46,12 @@ extern NSString* const NSWorkspaceDidWakeNotification;
 @property(strong) NSMenu* submenu;
 @end
 
+enum NSCellImagePosition : NSUInteger { NSImageLeading = 7 };
+
 @interface NSStatusBarButton : NSObject
 @property(copy) NSString* title;
 @property(strong) NSImage* image;
+@property NSCellImagePosition imagePosition;
 @property(strong) NSFont* font;
 @property(copy) NSString* toolTip;
 @end

@@ -116,6 +116,7 @@ void CFDictionarySetValue(CFMutableDictionaryRef dictionary, const void* key, co
 CFAbsoluteTime CFAbsoluteTimeGetCurrent();
 CFRunLoopRef CFRunLoopGetMain();
 void CFRunLoopAddSource(CFRunLoopRef loop, CFRunLoopSourceRef source, CFRunLoopMode mode);
+void CFRunLoopSourceInvalidate(CFRunLoopSourceRef source);
 void CFRunLoopAddTimer(CFRunLoopRef loop, CFRunLoopTimerRef timer, CFRunLoopMode mode);
 CFRunLoopTimerRef CFRunLoopTimerCreate(CFAllocatorRef allocator, CFAbsoluteTime fireDate,
                                        CFTimeInterval interval, CFOptionFlags flags, CFIndex order,

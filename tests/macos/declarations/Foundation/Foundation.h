@@ -43,6 +43,7 @@ using NSSize = CGSize;
 @end
 
 @interface NSArray : NSObject
++ (instancetype)arrayWithObject:(id)object;
 @end
 
 @interface NSError : NSObject
@@ -109,6 +110,7 @@ enum NSSearchPathDomainMask : NSUInteger { NSUserDomainMask = 1 };
 
 @interface NSOperationQueue : NSObject
 + (NSOperationQueue*)mainQueue;
+- (void)addOperationWithBlock:(void (^)(void))block;
 @end
 
 @interface NSURLResponse : NSObject

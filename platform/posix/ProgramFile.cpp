@@ -1,4 +1,4 @@
-#include "platform/linux/os/ProgramFile.h"
+#include "platform/posix/ProgramFile.h"
 
 #include <filesystem>
 #include <unistd.h>

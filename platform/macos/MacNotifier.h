@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "platform/Notifier.h"
+#include "platform/macos/SystemCalls.h"
+
+namespace quindle {
+
+/// Shows the notification by the system's service, which asks the user the first time whether it may.
+class MacNotifier final : public Notifier
+{
+public:
+    explicit MacNotifier(NoticeCalls& calls);
+
+    void show(const Notification& notification) override;
+    void withdraw() override;
+
+private:
+    void hearLeave(bool isGranted, const QString& fault);
+    void hearShown(const QString& fault);
+    void report(const QString& fault);
+
+    NoticeCalls& m_calls;
+    std::optional<Notification> m_waiting; ///< for the user's leave
+    bool m_isAsking = false;
+    bool m_isWanted = false; ///< what was handed over is still to be seen
+    bool m_hasReported = false;
+    std::shared_ptr<void> m_alive; ///< answers that come after it has gone are nobody's
+};
+
+} // namespace quindle
