@@ -1,6 +1,7 @@
 #include <QDateTime>
 #include <QXmlStreamWriter>
 
+#include "common/NumberConversion.h"
 #include "common/NumberTexts.h"
 #include "plist/PropertyList.h"
 
@@ -18,15 +19,9 @@ QString isoText(const QDateTime& date)
 
 bool isWritable(const QVariant& value)
 {
+    if (isNumber(value))
+        return true;
     switch (value.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
     case QMetaType::QString:
     case QMetaType::QByteArray:
     case QMetaType::QVariantList:
@@ -45,7 +40,7 @@ bool isXmlCharacter(QChar character)
     const char16_t code = character.unicode();
     if (character.isSurrogate())
         return false; // one half of a character
-    // U+FFFE and U+FFFF are no characters for XML.
+    // XML does not allow U+FFFE and U+FFFF.
     return code >= 0x20 ? code < 0xfffe : code == u'\t' || code == u'\n' || code == u'\r';
 }
 
@@ -70,8 +65,7 @@ QString xmlText(const QString& text)
     return kept;
 }
 
-/// A text with its carriage returns: readers of XML take one that is not written as a reference for a line
-/// feed.
+/// A text with its carriage returns, as references: readers of XML turn a bare one into a line feed.
 void writeText(QXmlStreamWriter& xml, const QString& element, const QString& text)
 {
     xml.writeStartElement(element);
@@ -97,7 +91,7 @@ void writeMap(QXmlStreamWriter& xml, const QVariantMap& map)
 {
     xml.writeStartElement(QStringLiteral("dict"));
     for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
-        // Left out by itself: written as an empty date, it made readers refuse the whole list.
+        // Only this value is left out: an empty date made readers refuse the whole list.
         if (!isWritable(entry.value()))
             continue;
         writeText(xml, QStringLiteral("key"), entry.key());

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
@@ -37,7 +38,7 @@ Pixels picture(const FT_Bitmap& bitmap)
         const unsigned char* row = rowOf(bitmap, y);
         for (int x = 0; x < pixels.width; ++x) {
             if (bitmap.pixel_mode == FT_PIXEL_MODE_BGRA) {
-                const unsigned char* at = row + 4 * x;
+                const unsigned char* at = row + std::ptrdiff_t{4} * x;
                 // The library has multiplied the colours by alpha.
                 *to++ = (opaqueColour(at[2], at[1], at[0]) & 0xffffffU) | std::uint32_t{at[3]} << 24U;
             } else {

@@ -15,7 +15,7 @@ namespace {
 Q_LOGGING_CATEGORY(logMasks, "quindle.statusitem.pictures", QtWarningMsg)
 
 constexpr int largestSide = 256;
-constexpr qint64 mostBytes = 256 * 1024; // a file has a fiftieth of that
+constexpr qint64 mostBytes = qint64{256} * 1024; // a file has a fiftieth of that
 
 /// Takes the word and the one white space after it; empty when there is no such thing.
 QByteArrayView takeWord(QByteArrayView& rest)

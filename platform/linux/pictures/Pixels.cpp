@@ -65,8 +65,10 @@ std::uint8_t coverageInCircle(double x, double y, double radius)
     constexpr int places = 8;
     int inside = 0;
     for (int i = 0; i < places * places; ++i) {
-        const double dx = x - (i % places + 0.5) / places;
-        const double dy = y - (i / places + 0.5) / places;
+        const int column = i % places;
+        const int row = i / places;
+        const double dx = x - (column + 0.5) / places;
+        const double dy = y - (row + 0.5) / places;
         inside += dx * dx + dy * dy <= radius * radius ? 1 : 0;
     }
     return static_cast<std::uint8_t>(inside * 255 / (places * places));
