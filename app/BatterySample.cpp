@@ -27,7 +27,7 @@ std::optional<double> batteryPower(const QDBattery& battery)
 {
     if (!battery.knowsPower())
         return std::nullopt;
-    // The model's figure has no sign. A battery may also be drawn on while it is plugged in.
+    // The model's figure has no sign. A battery may discharge even while it is plugged in.
     const bool flowsOut = battery.amperage() < 0 || sampleState(battery) == SampleState::Discharging;
     return flowsOut ? -battery.WattThroughput() : battery.WattThroughput();
 }

@@ -103,7 +103,7 @@ void HelperAppDelegate::applicationDidFinishLaunching(Program program)
     setProgressIndicatorColor();
 }
 
-// inherited: an empty step of every application's life; nothing is saved at the end.
+// inherited: an empty step in every application's life; nothing is saved at the end.
 void HelperAppDelegate::applicationWillTerminate() {}
 
 void HelperAppDelegate::transferSharedDefaults()

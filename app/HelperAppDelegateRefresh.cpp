@@ -76,7 +76,7 @@ void HelperAppDelegate::updateIcon(const QDBattery& battery)
 
 void HelperAppDelegate::replaceTemplateImage(const QString& name)
 {
-    // inherited: marks the image that goes, not the one that comes; the mark stays with its name.
+    // inherited: marks the outgoing image, not the new one; the mark stays with its name.
     if (const auto current = m_statusItem->image())
         current->setTemplate(true);
     showImage(name);

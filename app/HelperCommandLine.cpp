@@ -11,7 +11,7 @@ HelperCommandLine parseHelperCommandLine(const QStringList& arguments)
     bool version = false;
     const CommandLineOption options[] = {{"--help", &help}, {"-h", &help}, {"--version", &version}};
     const QString fault = readCommandLine(arguments, options, OptionValues::Any);
-    // Whatever was noted, the first argument was.
+    // If anything was noted, the first argument was.
     if (version && arguments.constFirst() == QStringLiteral("--version"))
         return {Call::Version, fault};
     return {help ? Call::Help : Call::Run, fault};

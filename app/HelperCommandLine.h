@@ -5,8 +5,8 @@
 
 namespace quindle {
 
-/// What one call of quindle-helper asks for. It has nothing to choose, so there is nothing but to run, and
-/// what every program answers.
+/// What one call of quindle-helper asks for. There is nothing to choose: it runs, or answers what every
+/// program answers.
 struct HelperCommandLine
 {
     enum class Call { Run, Help, Version };

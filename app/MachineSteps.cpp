@@ -88,8 +88,8 @@ void playFrom(std::size_t index, const std::vector<MachineStep>& steps, Recorded
 {
     if (index >= steps.size())
         return;
-    // Counted from the step before and not from the start, as the file says it. The delegate is the context:
-    // with it the play ends, and no timer refers to what has gone.
+    // Counted from the previous step, not from the start, as the format says. The delegate is the context:
+    // the play ends with it, and no timer refers to what has gone.
     after(steps[index].after, delegate, [index, &steps, &recorded, &platform, &delegate, entered] {
         if (entered)
             entered(index + 1);

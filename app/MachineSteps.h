@@ -18,9 +18,9 @@ struct RecordedPlatform;
 void playStep(const MachineStep& step, RecordedPlatform& recorded, const Platform& platform,
               HelperAppDelegate& delegate);
 
-/// Plays each step on the main loop at its time, `MachineStep::after` seconds after the one before, the first
-/// counted from now, and calls `entered` before each with the number of steps entered with it. All arguments
-/// must live as long as the delegate; destroying it ends the play.
+/// Plays each step on the main loop at its time, `MachineStep::after` seconds after the previous one, the
+/// first counted from now, and calls `entered` before each with the number of steps entered with it. All
+/// arguments must live as long as the delegate; destroying it ends the play.
 void playStepsInTime(const std::vector<MachineStep>& steps, RecordedPlatform& recorded,
                      const Platform& platform, HelperAppDelegate& delegate,
                      const std::function<void(std::size_t steps)>& entered = {});

@@ -27,7 +27,8 @@ struct RequestSurroundings
 };
 
 /// The controllers of windows that another process has: showing one is a message. What happens there and
-/// concerns the helper is carried out here. All that is passed in must outlive it, and it the delegate.
+/// concerns the helper is carried out here. All that is passed in must outlive it, and it must outlive the
+/// delegate.
 class RemoteControllers : public QObject
 {
 public:

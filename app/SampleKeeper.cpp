@@ -75,7 +75,7 @@ void SampleKeeper::lookAgain()
         m_samples.clear();
 }
 
-// Also when others ask for it: as there is at most one sample a minute, no more can be made of it.
+// Even when others ask for it: with at most one sample a minute it cannot be abused.
 void SampleKeeper::handOverNow()
 {
     if (m_samples.isEmpty())
@@ -103,7 +103,7 @@ void SampleKeeper::handOver()
     m_hasReported = false;
 }
 
-/// One that hangs does not get another one beside it every hour.
+/// A program that hangs is not joined by another one every hour.
 bool SampleKeeper::isRecorderFree()
 {
     if (!m_recorder.isRunning())

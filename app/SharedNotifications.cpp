@@ -13,7 +13,7 @@ void SharedNotifications::addObserver(const QString& name, NotificationCenter::O
     if (m_names.contains(name))
         return;
     m_names.insert(name);
-    // Last, so that the windows find what the helper made of it.
+    // Last, so that the windows find what the helper did about it.
     m_below.addObserver(name, [this, name] {
         if (m_forward && !m_isFromWindows)
             m_forward(name);

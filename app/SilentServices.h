@@ -5,8 +5,8 @@
 #include "platform/StatusBar.h"
 #include "platform/UrlSession.h"
 
-/// Services that only the helper uses: in the process of its windows nothing is shown in a panel, sent, or
-/// heard of the system's sleep and power.
+/// Services that only the helper uses: the process of its windows shows nothing in a panel, sends nothing,
+/// and hears nothing of the system's sleep and power.
 namespace quindle {
 
 /// Keeps title and image, which its owner asks for, and shows nothing.

@@ -26,7 +26,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(warningLog, "quindle.warnings")
 
-// inherited: in minutes, what batteries report that do not know yet.
+// inherited: in minutes, what batteries report that do not know the time yet.
 constexpr qint64 unknownTime = 65535;
 
 std::optional<int> minutesToEmpty(const QDBattery& battery)
@@ -98,7 +98,7 @@ void WarningKeeper::lookAgain()
         beginAnew();
 }
 
-/// Who switches warnings on hears of what is the matter now.
+/// Whoever switches warnings on is warned of the present state.
 void WarningKeeper::beginAnew()
 {
     withdraw();
@@ -115,7 +115,7 @@ void WarningKeeper::carryOut(const std::vector<WarningAction>& actions)
         warn(actions);
         return;
     }
-    // A newer warning takes the place of one that still waits.
+    // A newer warning replaces one that is still waiting.
     m_waiting = actions;
     if (std::exchange(m_isAsking, true))
         return;

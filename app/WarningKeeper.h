@@ -26,8 +26,8 @@ struct WarningServices
 };
 
 /// The helper's part in warnings of the battery's charge. It looks at the battery whenever the status item
-/// has been refreshed, and has no timer. Who else warns is asked only when there is something to warn of. It
-/// also tells the status item whether the battery needs attention. Main thread only.
+/// has been refreshed, and has no timer. Other programs that warn are asked for only when there is something
+/// to warn of. It also sets whether the status item needs attention. Main thread only.
 class WarningKeeper : public QObject
 {
 public:

@@ -112,7 +112,7 @@ int run(QCoreApplication& application, HelperServices& services, SingleInstance&
         fail(QStringLiteral("another helper is on the session bus that has come up"), 0);
         application.quit();
     });
-    // Nothing else ends a program without windows together with the desktop that it shows its item on.
+    // Nothing else would end a program without windows together with its desktop.
     const DisplayEnd displayEnd(displaySocketOfProcess(), patienceWithDisplay, [&application] {
         fail(QStringLiteral("the display has gone"), 0);
         application.quit();

@@ -13,7 +13,7 @@ double percentage(qint64 part, qint64 whole)
 double wattThroughput(qint64 voltage, qint64 amperage)
 {
     const double amperes = static_cast<double>(amperage) / 1000.0;
-    // The sign is that of the current; which way it flows stands in the caption ("Charging with").
+    // The sign is that of the current; the caption says which way it flows ("Charging with").
     return std::fabs(static_cast<double>(voltage) * amperes / 1000.0);
 }
 

@@ -36,12 +36,12 @@ QDateTime decodeManufactureDate(qint64 packed)
 
 QDateTime decodeManufactureDateByDigits(qint64 packed)
 {
-    // All 64 digits, so that the fields stand at the same places for every number.
+    // All 64 digits, so that the fields have the same places in every number.
     const QString digits = QString::number(static_cast<quint64>(packed), 2).rightJustified(64, u'0');
     const qint64 day = fromBinary(digits.right(dayBits));
     const qint64 month = fromBinary(digits.mid(yearBits, monthBits));
     const qint64 unsignedYear = fromBinary(digits.left(yearBits));
-    // The digits carry no sign: a number below 0 has its year counted from the top.
+    // The digits have no sign: the year of a negative number is counted from the top.
     const qint64 year = packed < 0 ? unsignedYear - (qint64{1} << yearBits) : unsignedYear;
     return {lenientDay(year + firstYear, month, day), QTime(12, 0)};
 }

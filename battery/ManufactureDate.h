@@ -6,7 +6,7 @@
 /// on the year counted from 1980, with its sign.
 namespace quindle {
 
-/// The date at midnight local time. A month or day out of range counts on from the one before (0 is 30
+/// The date at midnight local time. A month or day out of range runs over into its neighbours (0 is 30
 /// November 1979); a year beyond what QDateTime can hold becomes its first or last. Never invalid.
 QDateTime decodeManufactureDate(qint64 packed);
 

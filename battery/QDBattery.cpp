@@ -91,7 +91,7 @@ IOStatus QDBattery::open()
 
 IOStatus QDBattery::close()
 {
-    // The handle is let go of whatever the registry answers, so that the entry can be opened again.
+    // The handle is dropped whatever the registry answers, so that the entry can be opened again.
     const IOStatus status = m_platform.registry.release(m_service);
     m_service = 0;
     return status;
@@ -99,19 +99,19 @@ IOStatus QDBattery::close()
 
 void QDBattery::invokeTimer()
 {
-    // A timer that was let go of may outlive the battery.
+    // A timer that was replaced may outlive the battery.
     const auto refresh = [battery = QPointer<QDBattery>(this)] {
         if (battery)
             battery->updateData();
     };
-    // inherited: an earlier timer is let go of but runs on, so two calls mean two refreshes per interval.
+    // inherited: an earlier timer is forgotten but runs on, so two calls mean two refreshes per interval.
     m_updateTimer = m_platform.runLoop.scheduleRepeatingTimer(refreshInterval, refreshTolerance, refresh);
 }
 
 void QDBattery::updateData()
 {
-    // The order is fixed: later figures are made from earlier ones. Every read asks the computer, and nothing
-    // is kept in between.
+    // The order is fixed, as later figures depend on earlier ones. Every read asks the computer; nothing is
+    // cached in between.
     updateIdentity();
     m_cycleCount = cycleCount();
     updateCapacities();
@@ -288,7 +288,7 @@ QString QDBattery::getCustomTemperature() const
 
 void QDBattery::toggleTemperatureMode()
 {
-    // inherited: Kelvin stays; who chose it in the preferences does not lose it to a click.
+    // inherited: Kelvin stays: whoever chose it in the preferences does not lose it to a click.
     if (m_temperatureMode == TemperatureUnit::Celsius)
         m_temperatureMode = TemperatureUnit::Fahrenheit;
     else if (m_temperatureMode == TemperatureUnit::Fahrenheit)
@@ -302,7 +302,7 @@ void QDBattery::toggleTemperatureMode()
 void QDBattery::toggleAge()
 {
     m_ageMode = static_cast<AgeFieldMode>((static_cast<int>(m_ageMode) + 1) % 3);
-    // Before the first refresh there is no date, and the text stays empty.
+    // There is no date before the first refresh, and the text stays empty.
     if (const auto made = ManufactureDate())
         m_customAge = ageText(static_cast<int>(m_ageMode), *made, m_platform.clock.now());
     storeMode(m_platform.userDefaults.standard(), Keys::batteryAgeMode, m_ageMode);

@@ -161,12 +161,12 @@ public:
     /// fatal.
     QVariantList collectAllAvailableDataForBattery() const;
 
-    // Whether there is anything behind what stands in for values that a battery does not report ("0.0 °C",
-    // 0 W, an age counted from 1979). Values that were given by key count as known.
+    // Whether there is a reading behind the stand-ins for values that a battery does not report ("0.0 °C", 0
+    // W, an age counted from 1979). Values that were given by key count as known.
     bool knowsTemperature() const { return m_knowsTemperature; } ///< the last refresh found one
     bool knowsCurrent() const { return m_knowsCurrent; }         ///< the same for "Amperage"
     bool knowsPower() const { return m_knowsPower; }             ///< the same for both factors of the power
-    bool knowsManufactureDate() const;                           ///< it is one that can be packed
+    bool knowsManufactureDate() const;                           ///< it can be packed
 
     TemperatureUnit temperatureMode() const { return m_temperatureMode; }
     AgeFieldMode ageMode() const { return m_ageMode; }
@@ -206,7 +206,7 @@ public:
     const QVariantList& raw() const { return m_raw; }
 
 Q_SIGNALS:
-    /// Some property may have another value: after each refresh, toggle and write by key.
+    /// Some property may have changed: emitted after each refresh, toggle and write by key.
     void changed();
 
 private:

@@ -19,13 +19,13 @@ namespace {
 
 QVariantMap QDBattery::getRawData() const
 {
-    // One question for all: a record must not mix properties of two moments.
+    // One read for all of them: a record must not mix properties of two moments.
     return m_platform.registry.properties(m_service);
 }
 
 QString QDBattery::serialNumber() const
 {
-    // Empty and not missing: the identifier of the battery is made of it in any case.
+    // Empty, not missing: the battery's identifier is made from it in any case.
     return registryText(BatteryRegistryKey::BatterySerialNumber).value_or(QStringLiteral(""));
 }
 
@@ -131,7 +131,7 @@ QVariant QDBattery::registryValue(BatteryRegistryKey key) const
 
 std::optional<qint64> QDBattery::knownInteger(BatteryRegistryKey key) const
 {
-    // Missing and of another type are different answers: the one is a driver that has no such figure.
+    // Missing is not the same as of another type: some drivers have no such figure.
     const QVariant value = registryValue(key);
     if (!value.isValid())
         return std::nullopt;
@@ -151,7 +151,7 @@ std::optional<double> QDBattery::registryDouble(BatteryRegistryKey key) const
     const QVariant value = registryValue(key);
     if (!value.isValid())
         return std::nullopt;
-    // A double, because drivers on Linux give tenths of a degree Celsius, which are no whole tenths of a
+    // A double, because drivers on Linux give tenths of a degree Celsius, which are not whole tenths of a
     // kelvin.
     const auto number = convertToDouble(value);
     if (!number)

@@ -27,7 +27,7 @@ QString unitSign(TemperatureUnit unit)
     case TemperatureUnit::Kelvin:
         break;
     }
-    // Behind the switch, so that the compiler still warns of a unit without a case.
+    // After the switch, so that the compiler still warns of a unit without a case.
     return QStringLiteral(" K");
 }
 

@@ -28,9 +28,9 @@ struct ChartSeries
 {
     QString name;
     std::vector<ChartPoint> points; ///< by moment
-    std::vector<std::size_t> gaps;  ///< the points after which the line is left open, ascending
+    std::vector<std::size_t> gaps;  ///< the points after which the line is broken, ascending
     ChartInk ink = ChartInk::Charge;
-    bool isQuiet = false; ///< stands back, as what is over does
+    bool isQuiet = false; ///< is less prominent, as the past is
     bool endsWithDot = false;
 };
 
@@ -49,7 +49,7 @@ struct ReferenceLine
     QString label;
 };
 
-/// Where a series goes if it goes on as before, and between which values its points will lie.
+/// Where a series leads if it goes on as before, and between which values its points will lie.
 struct ChartProjection
 {
     ChartPoint from;
@@ -96,7 +96,7 @@ const ChartPoint& pointOf(const ChartContent& content, const ChartReading& readi
 
 QString tickText(const ChartContent& content, double value, int decimals);
 
-/// What a reading says: the date, and below it the value.
+/// The text of a reading: the date, and the value below it.
 QString readingText(const ChartContent& content, const ChartReading& reading);
 
 } // namespace quindle

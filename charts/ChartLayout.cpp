@@ -26,7 +26,7 @@ public:
         if (!(m_span.from <= m_span.to))
             return {0, 1};
         const double length = m_span.length();
-        // A line that is level, and one of zeros, get an axis too.
+        // A level line and one of zeros get an axis too.
         const double room =
             length > 0 ? length * roomBeside : std::max(1.0, std::abs(m_span.from) * roomBeside);
         return {m_span.from - room, m_span.to + room};
@@ -38,7 +38,7 @@ private:
 
 double gutterFor(const ChartContent& content, const ValueTicks& ticks, const QFontMetricsF& metrics)
 {
-    // Charts below each other begin at the same place, unless one has longer numbers.
+    // Charts one below the other begin at the same place, unless one has longer numbers.
     double widest = metrics.horizontalAdvance(QStringLiteral("00,000"));
     for (const double value : ticks.values)
         widest = std::max(widest, metrics.horizontalAdvance(tickText(content, value, ticks.decimals)));

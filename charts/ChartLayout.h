@@ -11,7 +11,7 @@
 #include "charts/TimeTicks.h"
 #include "charts/ValueTicks.h"
 
-/// What of a chart lies where.
+/// Where the parts of a chart are.
 namespace quindle {
 
 struct ChartLayout
@@ -36,8 +36,8 @@ AxisSpan valuesSeen(const ChartContent& content, AxisSpan seen);
 /// How far a chart reaches behind the last moment, for dots there, by the height of a line of text in it.
 double chartOverhang(double line);
 
-/// Where the card beside a point lies: above it and behind, on the other side or below where it would not be
-/// inside of the plot.
+/// Where the card beside a point lies: above it and behind, on the other side or below where it would leave
+/// the plot.
 QRectF cardBeside(const QPointF& point, const QSizeF& card, double distance, const QRectF& plot);
 
 } // namespace quindle

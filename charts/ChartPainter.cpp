@@ -41,8 +41,7 @@ void paintShaded(QPainter& painter, const ChartContent& content, const ChartLayo
 {
     if (layout.time.values().length() > content.shadedUpTo)
         return;
-    // Opaque, since the painter shares a blend out to threads, which costs more than many small ones are
-    // worth.
+    // Opaque, since the painter splits blending among threads, which many small ones are not worth.
     const double share = isDark(look.background) ? shadeShare * 1.7 : shadeShare;
     const QColor shade = mixed(look.charge, look.background, share);
     for (const ShadedSpan& span : content.shaded) {
@@ -79,7 +78,7 @@ void paintTimeTicks(QPainter& painter, const ChartLayout& layout, const ChartLoo
         const double farthest = layout.plot.right() + chartOverhang(layout.line) - width;
         const double left = std::min(centred, farthest);
         if (left < free)
-            continue; // moved aside by the edge, it would touch its neighbour
+            continue; // pushed aside by the edge, it would touch its neighbour
         painter.drawText(QPointF(left, layout.plot.bottom() + layout.line * 0.5 + metrics.ascent()),
                          tick.label);
         free = left + width + layout.line * 0.4;
@@ -136,7 +135,7 @@ void paintDot(QPainter& painter, const QPointF& centre, double radius, const QCo
               const ChartLook& look)
 {
     painter.setPen(Qt::NoPen);
-    // A rim parts the dot from the line below it.
+    // A rim separates the dot from the line below it.
     painter.setBrush(look.background);
     painter.drawEllipse(centre, radius * 1.5, radius * 1.5);
     painter.setBrush(ink);

@@ -22,7 +22,7 @@ AxisSpan zoomed(AxisSpan seen, double anchor, double factor)
 
 AxisSpan movedTo(AxisSpan seen, double value)
 {
-    // Not at the very edge, where what comes next could not be seen.
+    // Not at the very edge, where what follows could not be seen.
     const double margin = seen.length() / 10;
     double shift = 0;
     if (value < seen.from)

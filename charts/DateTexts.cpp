@@ -7,7 +7,7 @@ namespace quindle {
 
 QString clockText(QTime time, const QLocale& locale)
 {
-    // Some locales have them in their short format.
+    // Some locales have seconds in their short format.
     static const QRegularExpression seconds(QStringLiteral("[:.]s+"));
     return locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(seconds));
 }

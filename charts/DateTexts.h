@@ -8,7 +8,7 @@
 /// Dates and times in the words and the order of a locale, as short as an axis needs them.
 namespace quindle {
 
-/// Hours and minutes: the locale's short format, in some of which are seconds.
+/// Hours and minutes: the locale's short format without the seconds that some have.
 QString clockText(QTime time, const QLocale& locale);
 
 /// Day and month without the year: "16 Nov" or "Nov 16".

@@ -74,7 +74,7 @@ std::vector<ChartPoint> decimatedStretch(PointIterator first, PointIterator end,
         from == end || (to == first && time.values().to < static_cast<double>(to->moment));
     if (liesOutside)
         return {};
-    // The neighbours outside, so that lines run on to the edges.
+    // The neighbours outside, so that lines reach the edges.
     if (from != first)
         --from;
     if (to != end)

@@ -35,7 +35,7 @@ bool isGap(const std::vector<ChartPoint>& points, std::size_t index)
     if (pause <= shortestGap)
         return false;
     const std::size_t last = points.size() - 1;
-    // By what is around it: a history has samples by the minute, by the hour and by the day.
+    // Measured by what is around it: a history has samples by the minute, hour and day.
     const qint64 before = medianDistance(points, index - std::min(index, neighbours), index);
     const qint64 behind = medianDistance(points, index + 1, std::min(last, index + 1 + neighbours));
     return static_cast<double>(pause) > usualDistances * static_cast<double>(std::max(before, behind));

@@ -10,7 +10,7 @@ LinearScale::LinearScale(AxisSpan values, AxisSpan pixels)
 
 double LinearScale::pixel(double value) const
 {
-    // All values are the same one: it lies in the middle.
+    // All values are the same: it lies in the middle.
     const double share = m_values.length() == 0 ? 0.5 : (value - m_values.from) / m_values.length();
     return m_pixels.from + share * m_pixels.length();
 }

@@ -39,7 +39,7 @@ std::vector<PointColumn> pointColumns(const ChartSeries& series, const LinearSca
         const auto moment = static_cast<double>(point.moment);
         if (!time.values().contains(moment))
             continue;
-        // From the plot's edge, so that columns do not move against each other when new points come.
+        // From the plot's edge, so that columns stay in place when new points come.
         const double from = start + std::floor((time.pixel(moment) - start) / width) * width;
         if (columns.empty() || columns.back().from != from)
             columns.push_back({from, from + width, point.value, point.value, 0, 0});

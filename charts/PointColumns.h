@@ -4,8 +4,7 @@
 
 #include "charts/ChartContent.h"
 
-/// A line that turns so often that it would fill the plot says more as what it was on the whole, and between
-/// which values.
+/// A line that turns so often that it would fill the plot says more as a mean between its extremes.
 namespace quindle {
 
 /// The points in a few pixels of the time axis, next to each other.

@@ -44,7 +44,7 @@ TimeSeriesChart::TimeSeriesChart(const QString& name, QWidget* parent)
 
 void TimeSeriesChart::setContent(ChartContent content)
 {
-    // New samples come every minute; what somebody has zoomed to stays.
+    // New samples come every minute; a zoom stays.
     const bool keepsZoom =
         isZoomed() && m_seen.from >= content.moments.from && m_seen.to <= content.moments.to;
     const auto readMoment =

@@ -70,7 +70,7 @@ void TimeSeriesChart::zoomToSelection()
     const AxisSpan chosen = *m_selection;
     m_selection.reset();
     update();
-    // A click moves the pointer by a pixel or two without meaning it.
+    // A click may move the pointer by a pixel or two.
     if (std::abs(time.pixel(chosen.to) - time.pixel(chosen.from)) >= QApplication::startDragDistance())
         setSeen({std::min(chosen.from, chosen.to), std::max(chosen.from, chosen.to)});
 }
@@ -94,7 +94,7 @@ void TimeSeriesChart::wheelEvent(QWheelEvent* event)
         zoomAround(momentAt(event->position().x()), std::pow(zoomStep, steps));
     }
     readAt(event->position().x());
-    // What the chart has no use for scrolls the page.
+    // What the chart does not use scrolls the page.
     event->setAccepted(m_seen != before);
 }
 
@@ -102,7 +102,7 @@ void TimeSeriesChart::zoomAround(double moment, double factor)
 {
     if (!(m_seen.length() > 0))
         return;
-    // Past the end there is no zoom, which would move instead.
+    // Past the end there is no zoom; it would only move.
     const double longest = std::max(m_content.shortest, m_content.moments.length());
     const double length = std::clamp(m_seen.length() * factor, m_content.shortest, longest);
     setSeen(zoomed(m_seen, moment, length / m_seen.length()));
@@ -176,7 +176,7 @@ void TimeSeriesChart::focusInEvent(QFocusEvent* event)
 
 void TimeSeriesChart::focusOutEvent(QFocusEvent* event)
 {
-    // A menu or another window in front is no end of it.
+    // A menu or another window in front does not end it.
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         setReading({});
     QWidget::focusOutEvent(event);

@@ -79,8 +79,8 @@ int secondOfDay(qint64 moment)
     return localTime(moment).time().msecsSinceStartOfDay() / 1000;
 }
 
-/// Hours of the clock on the wall, of which a change of the clock has one twice or leaves one out: so every
-/// moment that can be one is looked at. Offsets of zones are whole quarters of an hour.
+/// Hours of the wall clock. A change to or from summer time repeats or skips one, so every moment that may be
+/// one is looked at. Offsets of zones are whole quarters of an hour.
 std::vector<qint64> clockMoments(int step, qint64 from, qint64 to)
 {
     const int grid = step < 5 * minute ? minute : step < 15 * minute ? 5 * minute : 15 * minute;
@@ -90,7 +90,7 @@ std::vector<qint64> clockMoments(int step, qint64 from, qint64 to)
         const bool isTick = secondOfDay(moment) % step == 0;
         if (isTick)
             moments.push_back(moment);
-        // The next one is as far away as the step, less the largest change of a clock.
+        // The next one is at least a step away, less the largest change of a clock.
         moment += isTick ? std::max(grid, step - 2 * hour) : grid;
     }
     return moments;
@@ -167,7 +167,7 @@ std::vector<TimeTick> labelled(const std::vector<qint64>& moments, CalendarUnit 
 
 std::vector<TimeTick> timeTicks(AxisSpan moments, int most, const QLocale& locale)
 {
-    // A day inside the years 1 and 9999, so that no zone leads out of them.
+    // A day inside the years 1 to 9999, so that no zone leads out of them.
     constexpr double first = -62135510400.0;
     constexpr double last = 253402214400.0;
     if (moments.from > last || moments.to < first)

@@ -15,7 +15,7 @@ struct ValueStep
 
     int exponent() const { return static_cast<int>(std::floor(number / 3.0)); }
 
-    /// The multiple of the step, of decimal fractions the double that is nearest.
+    /// The multiple of the step; for decimal fractions the nearest double.
     double times(double count) const
     {
         constexpr std::array mantissas{1, 2, 5};

@@ -6,7 +6,7 @@
 
 namespace quindle {
 
-/// The values that an axis names, and how many decimals tell them apart.
+/// The values that an axis names, and how many decimals they need.
 struct ValueTicks
 {
     std::vector<double> values;

@@ -13,7 +13,7 @@ namespace {
 QDate monthsAfter(QDate day, qint64 months)
 {
     const QDate first = firstOfMonth(monthNumber(day) + months);
-    // 31 January and a month is the last of February.
+    // A month after 31 January is the last of February.
     return first.addDays(std::min(day.day(), first.daysInMonth()) - 1);
 }
 
@@ -23,7 +23,7 @@ QDateTime movedTo(QDate day, const QDateTime& moment)
 }
 
 /// Whether `start`, moved to that day, is after `end`, both in local time. Where no change of the zone can
-/// matter, date and time of day alone decide: each look at the system's zone costs more than everything else.
+/// matter, date and time of day decide alone: looking up the system's zone costs more than everything else.
 bool isAfter(QDate day, const QDateTime& start, const QDateTime& end)
 {
     constexpr qint64 longestChange = 2;                  // days: Apia left one out in 2011
@@ -76,7 +76,7 @@ QString yearsText(qint64 months)
 QString ageText(int mode, const QDateTime& from, const QDateTime& to)
 {
     switch (mode) {
-    // Modes come from stored numbers, of which others show days.
+    // Modes are stored numbers; any other number shows days.
     case 1:
         return integerText(wholeMonths(from, to)) + QStringLiteral(" months");
     case 2:

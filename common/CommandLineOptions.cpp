@@ -49,7 +49,7 @@ QString readCommandLine(const QStringList& arguments, std::span<const CommandLin
         std::optional<QString>& place = *std::get<std::optional<QString>*>(option->place);
         if (auto value = valueAt(index, arguments, values))
             place = std::move(value);
-        // An empty value too: "--machine=" would look at this computer without a word.
+        // An empty value too: "--machine=" would silently look at this computer.
         if (values == OptionValues::NotEmpty && place.value_or(QString()).isEmpty())
             return QStringLiteral("%1 needs a value").arg(QLatin1String(option->name));
     }

@@ -9,8 +9,8 @@
 
 namespace quindle {
 
-/// A row of a program's table of options, with the place where it is noted that it was given. A flag stands
-/// alone; any other option has a value, as "name value" or "name=value". Of several the last value counts.
+/// A row of a program's table of options, with the place where it is noted that it was given. A flag has no
+/// value; any other option has one, as "name value" or "name=value". The last of several counts.
 struct CommandLineOption
 {
     const char* name; ///< in ASCII, with its dashes

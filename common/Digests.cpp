@@ -8,7 +8,7 @@ namespace {
 
 QString hexDigest(const QString& text, QCryptographicHash::Algorithm algorithm)
 {
-    // Of UTF-8, in lower case: stored identifiers are compared as text.
+    // From UTF-8, in lower case: stored identifiers are compared as text.
     return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), algorithm).toHex());
 }
 
@@ -16,7 +16,7 @@ QString hexDigest(const QString& text, QCryptographicHash::Algorithm algorithm)
 
 QString md5Hex(const QString& text)
 {
-    // Not for protection: it names batteries and computers, and stored records have such names.
+    // Not for security: it names batteries and computers, and stored records use these names.
     return hexDigest(text, QCryptographicHash::Md5);
 }
 

@@ -75,7 +75,7 @@ FileContents fileContents(const QString& path, qint64 mostBytes)
     const OpenFile file(name);
     if (file.descriptor() < 0 || ::fstat(file.descriptor(), &found) != 0)
         return {{}, errno};
-    // Once more: another file may stand there since the first look.
+    // Once more: another file may be there since the first look.
     if (const int fault = faultOf(found, mostBytes))
         return {{}, fault};
     return readAll(file.descriptor(), found.st_size);

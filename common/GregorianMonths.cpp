@@ -13,7 +13,7 @@ constexpr qint64 lastYear = static_cast<qint64>(QDateTime::YearRange::Last) - 1;
 qint64 floorDivided(qint64 number, qint64 divisor)
 {
     const qint64 quotient = number / divisor;
-    // C++ rounds towards 0, which would make one year of the two around 0.
+    // C++ rounds towards 0, which would merge the two years around 0.
     return number % divisor < 0 ? quotient - 1 : quotient;
 }
 

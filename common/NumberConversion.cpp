@@ -94,7 +94,7 @@ qint64 integerFromObject(const QVariant& object)
     if (object.typeId() != QMetaType::Double)
         return object.toLongLong();
     const double number = object.toDouble();
-    // Stored settings are what anybody wrote: unlike above, nothing here is refused.
+    // Anybody may have written the stored settings: unlike above, nothing is refused here.
     if (std::isnan(number))
         return 0;
     if (!fitsInteger(number))

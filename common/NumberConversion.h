@@ -27,7 +27,7 @@ std::optional<double> convertToDouble(const QVariant& value);
 std::optional<QString> convertToText(const QVariant& value);
 
 /// What the platform's `integerForKey:` makes of a stored object: numbers truncate toward zero (1.9 is 1),
-/// texts give their leading integer (" 2x" is 2, "x" is 0), everything else and nothing at all give 0.
+/// texts give their leading integer (" 2x" is 2, "x" is 0), anything else, or nothing, gives 0.
 qint64 integerFromObject(const QVariant& object);
 
 /// A text that may be missing as a value read by key: a missing one is the invalid value, unlike an empty

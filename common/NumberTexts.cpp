@@ -29,7 +29,7 @@ QString shortestText(double number)
     const double size = std::abs(number);
     const bool isPlain = number == 0 || (size >= 1e-4 && size < 1e16);
     Buffer buffer{};
-    // to_chars looks at no locale, and gives the fewest digits that read back the same.
+    // to_chars ignores the locale, and gives the fewest digits that read back the same.
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                       isPlain ? std::chars_format::fixed : std::chars_format::scientific);
     const auto text = QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
@@ -50,7 +50,7 @@ QString fixedText(double number, int decimals)
 
 QString integerText(qint64 number)
 {
-    // Never grouped, in no locale: these texts are hashed and stored.
+    // Never grouped, whatever the locale: these texts are hashed and stored.
     return QString::number(number);
 }
 
@@ -59,7 +59,7 @@ QString formatMinutes(qint64 minutes)
     Buffer buffer{};
     const long long hours = minutes / 60;
     const long long rest = minutes % 60;
-    // As the C format does it, which counts the sign of a negative remainder.
+    // As the C format does, which counts the sign of a negative remainder.
     const int length = std::snprintf(buffer.data(), buffer.size(), "%lld:%02lld", hours, rest);
     return QString::fromLatin1(buffer.data(), length);
 }

@@ -17,7 +17,7 @@ bool isEscape(QChar character)
 /// How many bytes at `at` are one character in UTF-8; 0 when none are.
 qsizetype characterLength(const QByteArray& bytes, qsizetype at)
 {
-    // UTF-8 has no longer character.
+    // No character is longer in UTF-8.
     constexpr qsizetype longest = 4;
     for (qsizetype length = 1; length <= longest && at + length <= bytes.size(); ++length)
         if (QByteArrayView(bytes).sliced(at, length).isValidUtf8())
@@ -82,10 +82,10 @@ QString homeFolder()
 {
     QByteArray home = qgetenv("HOME");
     if (home.isEmpty())
-        // Whoever starts the helper may not have set HOME; the account says the same.
+        // HOME may not be set; the account says the same.
         if (const passwd* account = ::getpwuid(::geteuid()); account && account->pw_dir)
             home = account->pw_dir;
-    // A relative one would be another folder in each process.
+    // A relative one would mean another folder in each process.
     return home.startsWith('/') ? pathText(home) : QString();
 }
 

@@ -6,11 +6,11 @@
 
 namespace quindle {
 
-/// A path of the system's as text. Bytes that are not UTF-8 stand as lone surrogates (U+DC80 to U+DCFF), so
-/// that `pathBytes` gives back the very bytes, whatever the locale.
+/// A path of the system as text. Bytes that are not UTF-8 become lone surrogates (U+DC80 to U+DCFF), so that
+/// `pathBytes` gives back the same bytes in any locale.
 QString pathText(const QByteArray& bytes);
 
-/// The bytes by which the system knows a path.
+/// A path in the bytes that the system knows it by.
 QByteArray pathBytes(const QString& text);
 
 /// A program's arguments without its own name; each may be a path.

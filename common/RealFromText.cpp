@@ -76,8 +76,8 @@ std::optional<double> realFromText(QByteArrayView text)
 {
     QByteArrayView rest = text;
     const bool isNegative = takeOne(rest, "-");
-    // Qt's conversion is the same on every system, but takes more than numbers. That of QByteArray gives 0
-    // for what is too large.
+    // Qt's conversion is the same on every system, but takes more than numbers. QByteArray's gives 0 for what
+    // is too large.
     if (isDecimal(rest))
         return QString::fromLatin1(text).toDouble();
     const auto number = fromWord(rest.toByteArray().toLower());

@@ -19,7 +19,7 @@ bool isControl(QChar c)
 qsizetype positionAfter(const QString& text, int count)
 {
     const qsizetype limit = count * unitsPerCharacter;
-    // Only the part that can matter: the text may be megabytes long.
+    // Only the part that matters: the text may be megabytes long.
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.left(limit + 1));
     qsizetype position = 0;
     for (int i = 0; i < count && position >= 0; ++i)

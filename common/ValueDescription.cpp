@@ -54,7 +54,7 @@ QString dateDescription(const QDateTime& date)
 
 bool isPlainCharacter(QChar character)
 {
-    // Anything else is quoted, a point or a minus too, so "-1000" has quotes where 57 has none.
+    // Anything else is quoted, even a point or a minus: "-1000" has quotes, 57 has none.
     return character.unicode() < 0x80 && character.isLetterOrNumber();
 }
 
@@ -139,7 +139,7 @@ QString numberDescription(const QVariant& number)
         return {};
     if (number.typeId() == QMetaType::Double)
         return realDescription(number.toDouble());
-    // An unsigned number above 2^63 is negative so, as registries show currents.
+    // This makes an unsigned number above 2^63 negative, as registries show currents.
     return integerText(number.toLongLong());
 }
 

@@ -49,7 +49,7 @@ std::optional<double> knownHealth(const QDBattery& battery)
     return battery.FullChargeCapacity() > 0 ? knownPercent(battery.StateOfHealth()) : std::nullopt;
 }
 
-/// With nothing to compare with, only the report gives the full charge again: it has one line for both.
+/// With nothing to compare with, only the report repeats the full charge: it has one line for both.
 QString fullAgainstDesign(const BatterySource& source)
 {
     const QDBattery& battery = source.battery;
@@ -190,7 +190,7 @@ FactText madeBy(const BatterySource& source)
 {
     const QString maker = manufacturer(source).value;
     FactText text{.value = joined(maker, besideEachOther(), device(source).value)};
-    // Some name their gauge's chip alone, and the chip has not made the battery.
+    // Some only name their gauge's chip, whose maker did not make the battery.
     if (maker.isEmpty())
         text.caption =
             source.place == FactPlace::Menu ? QStringLiteral("Battery device") : QStringLiteral("Device");
@@ -245,7 +245,7 @@ void addBatteryFacts(std::vector<Fact>& facts, FactPlace place, const QDBattery*
                      std::optional<int> chargeLimit)
 {
     std::optional<BatterySource> source;
-    // Without one the facts are made all the same, not shown: a menu must always have the same rows.
+    // Without one the facts are still made, but not shown: a menu must always have the same rows.
     if (battery)
         source.emplace(BatterySource{*battery, chargeLimit, place});
     addFacts(facts, batteryTable, place, source);

@@ -34,7 +34,7 @@ QString stateOf(const QVariantMap& description)
 {
     if (description.value(QStringLiteral("Is Charging")).toBool())
         return QStringLiteral("Charging");
-    // What feeds the computer is said of all of its batteries alike; which one does, only its current tells.
+    // All batteries are reported alike while they feed the computer; only the current shows which one does.
     const bool isSupply = text(description, "Type") == QStringLiteral("UPS");
     const qint64 current = convertToInteger(description.value(QStringLiteral("Current"))).value_or(0);
     const bool feeds =
@@ -73,7 +73,7 @@ Fact factOf(const QVariantMap& description, int number)
     return fact;
 }
 
-/// Whether it is one of the computer's that is there. A bay may be empty, and sources may be anything.
+/// Whether it is one of the computer's own, and present. A bay may be empty, and sources may be anything.
 bool isBattery(const QVariantMap& description)
 {
     const QString type = text(description, "Type");

@@ -19,7 +19,7 @@ QString figureText(double figure);
 QString percentText(double percent); ///< "83.9 %"
 QString wattsText(double watts);     ///< "12.4 W"
 
-/// A number of things, e.g. "1,234". 0 and less is how drivers say that they do not count.
+/// A number of things, e.g. "1,234". Drivers that do not count report 0 or less.
 QString countText(qint64 count, FactPlace place);
 
 /// The charge held and the room for it, in mAh: "4,000 of 6,000 mAh"; of two capacities one may be

@@ -61,7 +61,7 @@ void replaceRawByText(QVariantMap& record, SerialText serialText)
     record.insert(rawKey(), QString::fromLatin1(valueDescription(shown).toUtf8().toBase64()));
 }
 
-/// JSON has no number for infinity and none for what is not a number; written out they would become nulls.
+/// JSON has no infinity and no NaN; they would be written as nulls.
 bool isWritableAsJson(const QVariantMap& record)
 {
     return std::all_of(record.cbegin(), record.cend(), [](const QVariant& value) {
@@ -101,7 +101,7 @@ std::optional<QString> identityText(const QVariantMap& record)
     QString text;
     for (const char* key : identityKeys) {
         const QVariant value = record.value(QLatin1String(key));
-        // All seven are needed: a hash of fewer would join batteries that differ.
+        // All seven are needed: a hash of fewer would merge different batteries.
         if (!value.isValid())
             return std::nullopt;
         text += valueDescription(value);
@@ -115,7 +115,7 @@ QString maskedSerial(const QString& serial)
     if (serial.size() < maskLength)
         return serial;
     QString masked = serial;
-    // inherited: wherever they stand, not at the end alone.
+    // inherited: wherever they occur, not only at the end.
     return masked.replace(serial.right(maskLength), QStringLiteral("xxxx"));
 }
 

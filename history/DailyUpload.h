@@ -28,7 +28,7 @@ std::optional<DailyUpload> dailyUpload(const QVariantMap& snapshot,
 /// Nothing when one of them is missing.
 std::optional<QString> identityText(const QVariantMap& record);
 
-/// The serial number with its last four characters replaced by "xxxx" wherever they stand, from the left and
+/// The serial number with its last four characters replaced by "xxxx" wherever they occur, from the left and
 /// without overlaps. One of fewer than four characters stays as it is.
 QString maskedSerial(const QString& serial);
 

@@ -33,7 +33,7 @@ QString attentionColour(const QString& colourClass)
 
 bool isUrgent(const BarState& state)
 {
-    // A low battery that charges needs nobody's attention.
+    // A low battery that is charging needs no attention.
     return state.colourClass == QStringLiteral("critical") && state.state == QStringLiteral("discharging");
 }
 

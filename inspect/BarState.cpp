@@ -18,8 +18,8 @@ QString noBattery()
     return QStringLiteral("no-battery");
 }
 
-/// From the flags, in the order of the model's tests. The model's own words have none for an adapter that
-/// neither charges nor fills: there they stay what they were.
+/// From the flags, in the order of the model's tests. The model has no words for an adapter that neither
+/// charges nor fills: there they stay as they were.
 QString powerState(const QDBattery& battery)
 {
     if (battery.isCharging())
@@ -67,7 +67,7 @@ QString chargeClass(double stateOfCharge)
 BarState barState(const HelperAppDelegate& delegate, const QString& toolTip)
 {
     BarState bar;
-    // The texts that the tray shows, and not others made for bars.
+    // The tray's own texts, not others made for bars.
     bar.title = delegate.statusItem().title();
     bar.toolTip = toolTip;
     const QDBattery* battery = delegate.myMac().Battery();

@@ -27,7 +27,7 @@ struct BarState
     bool operator==(const BarState&) const = default;
 };
 
-/// The present one of a launched helper. `toolTip` is the one that its status item was given.
+/// The present state of a launched helper. `toolTip` is its status item's.
 BarState barState(const HelperAppDelegate& delegate, const QString& toolTip);
 
 /// The colour class of a charge in percent.

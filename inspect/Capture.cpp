@@ -42,7 +42,7 @@ void addPowerSources(QVariantMap& keys, PowerSources& powerSources)
     if (const auto details = powerSources.externalAdapterDetails())
         keys.insert(QStringLiteral("AdapterDetails"), *details);
     const std::optional<int> count = powerSources.sourceCount();
-    // Left out: played again, that computer fails as this one does.
+    // Left out: when replayed, that computer fails as this one does.
     if (!count)
         return;
     QVariantList descriptions;
@@ -53,7 +53,7 @@ void addPowerSources(QVariantMap& keys, PowerSources& powerSources)
 
 QVariantMap capturedFiles(const SystemFiles& systemFiles)
 {
-    // The files that the program reads on a computer that has them; no other one matters to a replay.
+    // The files that the program reads where they exist; no others matter to a replay.
     const QStringList paths{QStringLiteral("/System/Library/CoreServices/SystemVersion.plist"),
                             QDMac::privateFrameworksURL()};
     QVariantMap files;
@@ -63,7 +63,7 @@ QVariantMap capturedFiles(const SystemFiles& systemFiles)
     return files;
 }
 
-/// A captured computer that is played again must not send anything to the real services.
+/// A captured computer must not send anything to the real services when it is replayed.
 QVariantMap withoutServiceHosts(QVariantMap info)
 {
     info.remove(QStringLiteral("QDStatisticsHost"));
@@ -74,13 +74,13 @@ QVariantMap withoutServiceHosts(QVariantMap info)
 QVariantMap capturedBundle(const Bundle& bundle)
 {
     QVariantMap captured{{QStringLiteral("Path"), bundle.path()}};
-    // A bundle without information is captured without: its replay ends as the program does there.
+    // A bundle without information is captured as it is: its replay ends as the program does there.
     if (const auto info = bundle.infoDictionary())
         captured.insert(QStringLiteral("Info"), withoutServiceHosts(*info));
     return captured;
 }
 
-/// Only the helper's own item: what else the user starts is no part of a battery's record.
+/// Only the helper's own item: what else the user starts is not part of a battery's record.
 QVariantList helperLoginItem(const QVariantMap& bundle)
 {
     return {fileUrl(helperBundlePath(bundle.value(QStringLiteral("Path")).toString()))};
@@ -98,10 +98,10 @@ std::vector<SerialPair> inventedSerials(const QVariantMap& registry, CapturedReg
     };
     const QString computer = text(computerEntry(), QStringLiteral("IOPlatformSerialNumber"));
     const QString battery = text(batteryEntry(), QStringLiteral("BatterySerialNumber"));
-    // Where Apple silicon keeps it.
+    // The key that Apple silicon uses.
     const QString another =
         kind == CapturedRegistry::OfAMac ? text(batteryEntry(), QStringLiteral("Serial")) : QString();
-    // Each invented serial has to differ from all, or it would give part of another away.
+    // Each invented serial has to differ from all others, or it would give part of one away.
     const QStringList all{computer, battery, another};
     // The computer's keeps the characters that date it: its age is part of what is reported.
     return {{computer, inventedSerial(computer, true, all)},

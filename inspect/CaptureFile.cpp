@@ -21,8 +21,8 @@ bool isDeviceOrPipe(const QByteArray& path)
     return ::stat(path.constData(), &found) == 0 && !S_ISREG(found.st_mode) && !S_ISDIR(found.st_mode);
 }
 
-/// A device or pipe is written into: replacing it by a file would take it away from everybody. Returns
-/// errno's value.
+/// A device or pipe is written to: replacing it by a file would take it from everybody. Returns errno's
+/// value.
 int writeInto(const QByteArray& path, const QByteArray& content)
 {
     const FileDescriptor file(::open(path.constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY));
@@ -47,7 +47,7 @@ QString writeMachineFile(const QString& path, const QVariantMap& keys)
     // The writer takes absolute paths only.
     const auto absolute = std::filesystem::absolute(pathBytes(path).toStdString(), error);
     const QByteArray target = QByteArray::fromStdString(absolute);
-    // A link stays one, and a file is never seen half written.
+    // A link stays a link, and a file is never seen half written.
     const int fault =
         isDeviceOrPipe(target) ? writeInto(target, content) : replaceFile(linkTarget(target), content);
     return fault == 0 ? QString() : qt_error_string(fault);

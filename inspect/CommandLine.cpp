@@ -101,7 +101,7 @@ CommandLine parseCommandLine(const QStringList& arguments, const InspectEnvironm
     commandLine.demo = given.demo;
     commandLine.asMac = given.asMac;
     chooseComputer(given, environment, commandLine);
-    // Another computer's registry has no such layouts, and this one's back end has put them right already.
+    // Another computer's registry has no such layouts, and this one's back end has already handled them.
     if (commandLine.fault.isEmpty() && given.asMac && commandLine.machineFile.isEmpty())
         commandLine.fault = QStringLiteral("--as-mac belongs to --machine");
     return commandLine;

@@ -19,7 +19,7 @@ struct CommandLine
     QString captureFile;
     bool withSerials = false;
     bool demo = false;
-    bool asMac = false;     ///< the machine file's registry is read as the back end for Macs reads one
+    bool asMac = false;     ///< the machine file's registry is read as by the back end for Macs
     QString machineFile;    ///< empty: not a recorded computer
     QString sysfsDirectory; ///< empty: /sys
     QString fault;          ///< why the call is wrong usage, one line; empty when it is right

@@ -34,7 +34,7 @@ QString supplyFolderFault(const CommandLine& commandLine)
     return commandLine.sysfsDirectory + QStringLiteral(": holds no folder class/power_supply");
 }
 
-/// Asking for a bus without an address may start one.
+/// Connecting to a bus without an address may start one.
 bool hasSessionBus()
 {
     std::error_code error;
@@ -74,7 +74,7 @@ Platform Computer::thisComputer(bool isFollowed)
 {
     const Platform own = m_own.services(m_recorded.statusBar);
     const Platform recorded = m_recorded.platform();
-    // Only who follows is there long enough to hear of changes.
+    // Only a call that follows lasts long enough to hear of changes.
     const Platform& events = isFollowed ? own : recorded;
     const Platform& bus = hasSessionBus() ? events : recorded;
     // What would show, send or launch something stays recorded; settings are overlaid.
@@ -95,7 +95,7 @@ Platform Computer::thisComputer(bool isFollowed)
 
 Platform Computer::recordedComputer(const CommandLine& commandLine)
 {
-    // Steps of one that is followed happen in their time, for which a true loop is needed.
+    // Steps happen at their times while it is followed, which takes a real loop.
     return m_recorded.platform().with({.registry = commandLine.asMac ? &m_macRegistry : nullptr,
                                        .runLoop = isFollowed(commandLine) ? &m_own.runLoop() : nullptr});
 }

@@ -34,8 +34,7 @@ public:
     /// Whether the registry is read as a Mac's.
     bool isMac();
 
-    /// The same with the registry as it is: what is captured is for a back end to read, and to be mended
-    /// with.
+    /// The same with the registry as it is: a capture is read by a back end, and used to improve it.
     Platform platformToCapture();
 
     /// Plays a recorded computer's later states in their time; does nothing for this computer.

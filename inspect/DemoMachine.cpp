@@ -12,7 +12,7 @@ namespace quindle {
 namespace {
 
 constexpr int firstPackedYear = 1980;
-constexpr qint64 millivolts = 10000; // any would do: the current is made to give the power that is shown
+constexpr qint64 millivolts = 10000; // any would do: the current is chosen to give the power that is shown
 
 qint64 packedDate(const QDate& date)
 {
@@ -28,7 +28,7 @@ qint64 minutes(const QString& hoursAndMinutes)
 
 double tenthsOfKelvin(const QString& fahrenheitText)
 {
-    // The demonstration has its temperature as a text only, in this unit.
+    // The demonstration only has its temperature as a text, in this unit.
     const double fahrenheit = fahrenheitText.section(u' ', 0, 0).toDouble();
     return (fahrenheit + 459.67) / 1.8 * 10;
 }

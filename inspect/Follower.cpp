@@ -28,7 +28,7 @@ void Follower::writeIfChanged()
 {
     // Each time: another program may have changed the template.
     m_figureWatch.setTitleTemplate(m_inspection.preferences().customStatusBar());
-    const RecentEvents recent = m_computer.takeEvents(); // or they would pile up
+    const RecentEvents recent = m_computer.takeEvents(); // otherwise they pile up
     QByteArray line = barLine(m_format, barState(m_inspection.delegate(), recent.toolTip));
     // Bars redraw for each line, so a state that looks the same is not printed again.
     if (line == m_lastLine)

@@ -30,7 +30,7 @@ QChar inventedCharacter(QChar character, qsizetype position, int attempt)
     const QString alphabet = isDigit ? QStringLiteral("7041925836") : QStringLiteral("QXJKWZVYHGTB");
     const qsizetype index = position * 5 + attempt;
     const QChar first = alphabet[index % alphabet.size()];
-    // A character must not stay what it was by chance.
+    // A character must not stay the same by chance.
     return first == character ? alphabet[(index + 1) % alphabet.size()] : first;
 }
 

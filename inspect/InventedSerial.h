@@ -8,7 +8,7 @@
 
 namespace quindle {
 
-/// A true serial number and the invented one that stands for it.
+/// A true serial number and the invented one that replaces it.
 struct SerialPair
 {
     QString trueSerial;

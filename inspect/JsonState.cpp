@@ -90,8 +90,7 @@ QVariantMap settingsState(const ApplicationPreferences& preferences)
         {Keys::customStatusBar.name(), preferences.customStatusBar()},
         {Keys::runInBackground.name(), preferences.runInBackground()},
         {Keys::bundleVersionAtQuit.name(), orNull(preferences.bundleVersionAtQuit())},
-        // One key holds two settings, and another is in both databases: the second has a name of its own
-        // here.
+        // One key holds two settings, and one is in both databases: the second has a name of its own here.
         {QStringLiteral("bundleVersionAtQuitText"), orNull(preferences.bundleVersionAtQuitText())},
         {Keys::statusBarString.name(), orNull(preferences.statusBarString())},
         {QStringLiteral("runInBackgroundOwn"), orNull(preferences.runInBackgroundOwn())},
@@ -157,7 +156,7 @@ QVariant snapshotState(const QDMac& mac)
 
 QVariant uploadState(const HelperAppDelegate& delegate)
 {
-    // Made as the gate would have it made, and not sent: looking sends nothing.
+    // Made as the gate would, but not sent: inspecting sends nothing.
     const auto upload = delegate.currentDailyUpload();
     if (!upload)
         return {};

@@ -10,7 +10,7 @@ class HelperAppDelegate;
 class MainInterface;
 struct Platform;
 
-/// What happened since the state before, which the objects themselves do not keep.
+/// What happened since the previous state; the objects themselves do not keep it.
 struct RecentEvents
 {
     double fontSize = 0;    ///< points, of the status item at the end

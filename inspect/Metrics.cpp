@@ -18,7 +18,7 @@ namespace {
 
 constexpr double percentOfWhole = 100;
 constexpr double coulombsOfMilliampereHour = 3.6;
-constexpr double decimals = 1e4; // of what is printed; none of the values is known better
+constexpr double decimals = 1e4; // of what is printed; no value is more exact
 
 /// A quantity by its name in the text.
 struct Gauge
@@ -39,7 +39,7 @@ std::optional<double> ratio(double percent)
     return std::isfinite(percent) ? std::optional(percent / percentOfWhole) : std::nullopt;
 }
 
-/// 0 and less is how drivers say that they do not know.
+/// Drivers that do not know report 0 or less.
 std::optional<double> known(qint64 count)
 {
     return count > 0 ? std::optional(static_cast<double>(count)) : std::nullopt;
@@ -102,7 +102,7 @@ constexpr Gauge gauges[]{
 constexpr SampleState states[]{SampleState::Discharging, SampleState::Charging, SampleState::Full,
                                SampleState::Unknown};
 
-/// Whole numbers without a point, others with as few digits as say the same.
+/// Whole numbers without a point, others with the fewest digits that say the same.
 QByteArray numberText(double value)
 {
     const double rounded = std::round(value * decimals) / decimals + 0.0; // and no "-0"

@@ -6,7 +6,7 @@ namespace quindle {
 
 namespace {
 
-/// Where a user's name comes next.
+/// Folders in which a user's name comes next.
 constexpr QStringView foldersOfUsers[] = {
     u"/home/",     u"/Users/",     u"/var/home/", u"/usr/home/", u"/export/home/",   u"/net/home/",
     u"/mnt/home/", u"/run/media/", u"/media/",    u"/Volumes/",  u"/var/lib/homes/",

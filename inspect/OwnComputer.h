@@ -25,7 +25,7 @@ public:
     /// All services, with a status bar of the caller's choice.
     Platform services(StatusBar& statusBar);
 
-    /// The registry as it is, which captures hold; null where that of the services is as it is.
+    /// The registry as it is, for captures; null where the services' own is unchanged.
     IORegistry* registryAsItIs();
 
 private:

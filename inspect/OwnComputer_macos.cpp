@@ -49,7 +49,7 @@ void keepOutOfCoreDumps()
     ::setrlimit(RLIMIT_CORE, &none);
 }
 
-/// A signal ends the process at once there, which has nothing to put in order.
+/// A signal ends the process at once there; it has nothing to clean up.
 std::shared_ptr<void> whenToEnd(const std::function<void()>& /*ended*/)
 {
     return nullptr;

@@ -117,7 +117,7 @@ int inspect(const CommandLine& commandLine)
 
 int answer(const CommandLine& commandLine)
 {
-    // Help and version need no computer, which might be refused.
+    // Help and version need no computer, whose file might be refused.
     switch (commandLine.call) {
     case CommandLine::Call::Help:
         print(helpText().toUtf8());
@@ -143,6 +143,6 @@ int main(int argc, char** argv)
     if (!commandLine.fault.isEmpty())
         return refuse(commandLine.fault + QStringLiteral(" (see --help)"));
     const int status = answer(commandLine);
-    // A full disk behind standard output shows nowhere else.
+    // A full disk behind standard output shows only here.
     return std::ferror(stdout) ? refuse(QStringLiteral("cannot write to standard output")) : status;
 }

@@ -10,7 +10,7 @@ namespace {
 
 QDateTime day(const QString& text)
 {
-    // The texts are written out below, and all are days.
+    // The texts below are all days.
     return dateFromText(text).value();
 }
 

@@ -62,10 +62,10 @@ std::optional<QString> parenthesisedText(const QString& name)
 std::optional<QString> modelTextFromReply(const QString& code, const QByteArray& reply)
 {
     XMLData data(code);
-    // What came before a fault is not used: half a name would stay in the cache for good.
+    // Nothing from before a fault is used: half a name would stay in the cache for good.
     if (!parseXml(reply, data))
         return std::nullopt;
-    // In spite of its name the element holds the marketing name.
+    // Despite its name, the element holds the marketing name.
     return parenthesisedText(data.configCode().value_or(QString()));
 }
 

@@ -27,8 +27,8 @@ std::optional<QString> parenthesisedText(const QString& name);
 std::optional<QString> modelTextFromReply(const QString& code, const QByteArray& reply);
 
 /// Asks the service for the text that distinguishes models of the code's family; nothing after any failure.
-/// Waits for the answer. Without a configured host the address has none, which only a recorded computer
-/// answers.
+/// Waits for the answer. Without a configured host the address has none either; only a recorded computer
+/// answers it.
 std::optional<QString> onlineModelText(const QString& code, const Bundle& bundle, UrlSession& urlSession);
 
 } // namespace quindle

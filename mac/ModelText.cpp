@@ -12,7 +12,7 @@ std::optional<QString> fullModelText(const QString& code, UserDefaults& defaults
                                      const OnlineModelText& online)
 {
     QVariantMap cache = defaults.dictionary(Keys::modelStringCache.name());
-    // An entry of another type is none: anybody may edit the file.
+    // An entry of another type counts as none: anybody may edit the file.
     if (auto cached = convertToText(cache.value(code)))
         return cached;
     // May take seconds, at the start: therefore the cache, which is never emptied.

@@ -16,7 +16,7 @@ QVariant expertProperty(IORegistry& registry, const QString& key)
     if (expert == 0)
         return {};
     QVariant value = registry.property(expert, key);
-    // At once: the entry never changes, so nothing is gained by holding it.
+    // Released at once: the entry never changes, so nothing is gained by holding it.
     registry.release(expert);
     return value;
 }
@@ -28,7 +28,7 @@ std::optional<QString> strictUtf8(const QByteArray& bytes)
     QString text = decode(bytes);
     if (decode.hasError())
         return std::nullopt;
-    // An empty identifier is one that was read; the computer's identifier is made differently without one.
+    // An empty identifier counts as read; without one the computer's identifier is made differently.
     return text.isNull() ? QStringLiteral("") : text;
 }
 

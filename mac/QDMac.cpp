@@ -65,7 +65,7 @@ std::unique_ptr<QDMac> QDMac::init(const Platform& platform)
     return mac;
 }
 
-// inherited: the argument counts for nothing.
+// inherited: the argument is ignored.
 std::unique_ptr<QDMac> QDMac::initWithDemoMode(const Platform& platform, bool /*demoMode*/)
 {
     std::unique_ptr<QDMac> mac(new QDMac(platform));
@@ -77,7 +77,7 @@ std::unique_ptr<QDMac> QDMac::initWithDemoMode(const Platform& platform, bool /*
     return mac;
 }
 
-// inherited: without a caller in this program; the arguments count for nothing.
+// inherited: without a caller in this program; the arguments are ignored.
 std::unique_ptr<QDMac> QDMac::initWithHost(const Platform& platform, const QString& /*host*/,
                                            const QString& /*user*/, const QString& /*pass*/)
 {
@@ -86,7 +86,7 @@ std::unique_ptr<QDMac> QDMac::initWithHost(const Platform& platform, const QStri
 
 void QDMac::loadSettings()
 {
-    // In this order: type, age and day are made of what was read before.
+    // In this order: type, age and day depend on what was read before.
     m_OSXVersion = variantFromOptional(localGetOSXVersion());
     m_model = variantFromOptional(readModelIdentifier(m_platform.registry));
     const auto serial = readSerialNumber(m_platform.registry);
@@ -110,13 +110,13 @@ void QDMac::loadSettings()
 void QDMac::createBattery()
 {
     m_battery = std::make_unique<QDBattery>(m_platform, m_model.toString());
-    // An object without an entry would show zeros; none shows that there is no battery.
+    // An object without an entry would show zeros; null shows that there is no battery.
     if (m_battery->open() != kIOReturnSuccess) {
         m_battery.reset();
         return;
     }
     m_battery->invokeTimer();
-    // At once: the first values are shown before the timer's first tick.
+    // Now: the first values are shown before the timer's first tick.
     m_battery->updateData();
 }
 
@@ -230,7 +230,7 @@ std::optional<QString> QDMac::LongModel() const
     return convertToText(m_longModel);
 }
 
-// inherited: the flag counts for nothing.
+// inherited: the flag is ignored.
 std::optional<QVariantMap> QDMac::getDataForSaving(bool /*flag*/) const
 {
     if (!m_battery)

@@ -49,9 +49,9 @@ public:
     /// Reads every value but the battery, in a fixed order.
     void loadSettings();
 
-    /// Finds a battery that has come in the meantime, and drops one that has gone: `Battery` is another
-    /// object then, or null. True when it is. Only on a computer whose batteries come and go (see
-    /// IORegistry::isMatched).
+    /// Finds a battery that was inserted in the meantime, and drops one that was removed: `Battery` is then
+    /// another object, or null. True when that has happened. Only on a computer whose batteries come and go
+    /// (see IORegistry::isMatched).
     bool followBattery();
 
     /// Days → months → years → days for `CustomAge`, and stores the mode ("QDMacAgeMode").
@@ -103,14 +103,14 @@ public:
     /// the launch.
     bool knowsManufactureDate() const { return m_knowsManufactureDate; }
 
-    /// Made by `initWithDemoMode`: no platform service knows anything about it.
+    /// Made by `initWithDemoMode`: the platform's services know nothing about it.
     bool isDemonstration() const { return m_isDemonstration; }
 
     /// The age mode: 0 days, 1 months, 2 years; whatever was stored, also another number, which shows days.
     qint64 ageMode() const { return m_ageMode; }
 
 Q_SIGNALS:
-    /// Some property may have another value.
+    /// Some property may have changed.
     void changed();
 
 private:

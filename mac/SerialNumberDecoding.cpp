@@ -14,7 +14,7 @@ namespace {
 
 constexpr qsizetype shortLength = 11;
 constexpr qsizetype longLength = 12;
-constexpr int unknownYear = 2000; // an unknown letter is no error, but gives a date in that year
+constexpr int unknownYear = 2000; // an unknown letter is no error; it gives a date in that year
 
 struct YearCode
 {
@@ -51,7 +51,7 @@ constexpr std::array yearCodes{
 /// The codes of weeks 1 to 27 in order; unlike the years' letters they skip S and Z.
 constexpr QStringView weekCodes = u"123456789CDFGHJKLMNPQRTVWXY";
 
-/// The years of the digits 0 to 9. inherited: 0 and 1 are of the decade after the others'.
+/// The years of the digits 0 to 9. inherited: 0 and 1 belong to the decade after the others'.
 constexpr std::array digitYears{2010, 2011, 2002, 2003, 2004, 2005, 2006, 2007, 2008, 2009};
 
 /// The text cut into the characters that a person perceives.

@@ -5,8 +5,8 @@
 #include <QDateTime>
 #include <QString>
 
-/// What a serial number says. Two layouts are known, of 11 and of 12 characters. A character is what a person
-/// sees as one, such as a letter with a combining mark.
+/// What a serial number says. Two layouts are known, of 11 and of 12 characters. A character is what people
+/// see as one, such as a letter with a combining mark.
 
 namespace quindle {
 

@@ -9,7 +9,7 @@ namespace {
 
 QVariant unlessEmpty(const QVariantMap& map)
 {
-    // An entry that could not be read is missing, and not an entry without properties.
+    // An entry that could not be read is missing; it is not an entry without properties.
     return map.isEmpty() ? QVariant() : QVariant(map);
 }
 
@@ -48,7 +48,7 @@ QVariantMap snapshotRecord(const SnapshotValues& values)
 
 QString snapshotSummary(double stateOfHealth, qint64 fullChargeCapacity)
 {
-    // Rounded, unlike the figure itself: this is a line for people.
+    // Rounded, unlike the figure itself: people read this line.
     return fixedText(stateOfHealth, 0) + QStringLiteral("% (") + integerText(fullChargeCapacity) +
            QStringLiteral(" mAh)");
 }

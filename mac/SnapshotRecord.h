@@ -31,7 +31,7 @@ struct SnapshotValues
     QVariantMap raw; ///< the battery's registry entry; empty when it cannot be read
 };
 
-/// The record of these values. What is absent leaves its key out; an empty text is a text and stays.
+/// The record of these values. An absent value has no key; an empty text is a text and stays.
 QVariantMap snapshotRecord(const SnapshotValues& values);
 
 /// Health and full-charge capacity in one line: "87% (4512 mAh)".

@@ -6,8 +6,8 @@
 
 namespace quindle {
 
-/// Takes the product-information service's answer out of the parser's events. It only knows which element
-/// began last: it does not learn when an element ends.
+/// Extracts the product-information service's answer from the parser's events. It only knows which element
+/// began last, not when one ends.
 class XMLData
 {
 public:
@@ -19,7 +19,7 @@ public:
 
     void didStartElement(const QString& elementName);
 
-    /// Each delivery replaces what an earlier one gave: of a text that comes in pieces only the last one
+    /// Each delivery replaces what an earlier one gave: of a text that arrives in pieces only the last one
     /// stays.
     void foundCharacters(const QString& characters);
 

@@ -43,14 +43,14 @@ void characters(void* delegate, const xmlChar* bytes, int length)
     static_cast<XMLData*>(delegate)->foundCharacters(textOf(bytes, length));
 }
 
-// Literal sections are events of their own, which the delegate does not take; without a handler they would
-// come as characters.
+// Literal sections are events of their own, which the delegate ignores; without a handler they would arrive
+// as characters.
 void ignoreLiteralSection(void* /*delegate*/, const xmlChar* /*bytes*/, int /*length*/) {}
 
 // Without a handler faults are printed.
 void ignoreFault(void* /*delegate*/, xmlErrorPtr /*fault*/) {}
 
-// No handler declares or finds entities: those of the document stay unknown, so none is expanded.
+// No handler declares or finds entities: the document's own stay unknown, so none is expanded.
 xmlSAXHandler handlers()
 {
     xmlSAXHandler sax{};
@@ -75,7 +75,7 @@ bool parseXml(const QByteArray& document, XMLData& delegate)
         xmlCreateMemoryParserCtxt(document.constData(), static_cast<int>(document.size())));
     if (!context)
         return false;
-    // A document type may name an address; parsing must not ask there.
+    // A document type may name an address, which parsing must not contact.
     xmlCtxtUseOptions(context.get(), XML_PARSE_NONET);
     *context->sax = handlers();
     context->userData = &delegate;

@@ -54,7 +54,7 @@ MainOutlets MainInterface::outlets()
             m_versionItem};
 }
 
-// A row for every fact, in the order of their ranks: none comes or goes while a desktop shows the menu.
+// A row for every fact, by rank: none comes or goes while a desktop shows the menu.
 void MainInterface::addFactRows()
 {
     const std::vector<Fact> facts = factsFor(FactPlace::Menu, {});

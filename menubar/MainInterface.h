@@ -76,7 +76,7 @@ public:
     /// Sets who carries out the entries. Until then they do nothing.
     void setActions(StatusMenuActions* actions) { m_actions = actions; }
 
-    /// Sets whom facts may ask besides the content of the object controller; nobody when null.
+    /// Sets the service that facts may ask besides the object controller's content; none when null.
     void setPowerSources(PowerSources* powerSources) { m_powerSources = powerSources; }
 
     /// Where the interface's facts come from.

@@ -9,8 +9,8 @@
 
 namespace quindle {
 
-/// An image filter ("CIHueAdjust") that turns every hue by an angle and leaves grey, black and white alone
-/// (view/HueAdjust.h does so).
+/// An image filter ("CIHueAdjust") that turns every hue by an angle and leaves greys, black and white
+/// unchanged (view/HueAdjust.h does so).
 class HueFilter
 {
 public:

@@ -19,8 +19,8 @@ QString chargingIconName(double stateOfCharge);
 /// "#bat04" (also for a charge that is not a number).
 QString batteryIconName(double stateOfCharge);
 
-/// Images by name, one shared object for each: what is set on it once (size, template mark) is there again
-/// the next time the name is asked for.
+/// Images by name, one shared object for each: what is set on it (size, template mark) is still there the
+/// next time the name is asked for.
 class NamedImages
 {
 public:

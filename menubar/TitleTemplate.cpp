@@ -46,7 +46,7 @@ QString titleFromTemplate(const QString& titleTemplate, const TitleValues& value
         {QStringLiteral("%mA"), integerText(values.amperage)},
         {QStringLiteral("%l"), integerText(values.cycleCount)},
     }};
-    // inherited: one after the other, so that users' templates keep their meaning.
+    // inherited: replaced one after the other, so that users' templates keep their meaning.
     QString title = cutTemplate(titleTemplate);
     for (const auto& [placeholder, text] : replacements)
         title.replace(placeholder, text);

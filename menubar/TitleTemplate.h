@@ -25,8 +25,8 @@ struct TitleValues
 QString defaultTitleTemplate();
 
 /// The title: every placeholder replaced, one placeholder after the other in the order above, each in the
-/// result of the one before, so that a "%" left by one may form a later placeholder with what follows it.
-/// What is beyond the first 4,096 characters of the template is not shown.
+/// result so far, so that a "%" left by one may form a later placeholder with what follows it. Only the first
+/// 4,096 characters of the template are shown.
 QString titleFromTemplate(const QString& titleTemplate, const TitleValues& values);
 
 /// Whether it shows a figure that changes from one reading of the battery to the next: power, current or

@@ -11,9 +11,8 @@ class CommandRunner
 public:
     virtual ~CommandRunner() = default;
 
-    /// Starts the program that `command` begins with, with the other words of it and `arguments`, without a
-    /// shell, and leaves it to itself.
-    /// False when it cannot be started; that it was started says nothing about how it ends.
+    /// Starts the program that `command` begins with, with its other words and `arguments`, without a shell,
+    /// and does not wait for it. False when it cannot be started; a command that was started may still fail.
     virtual bool run(const QString& command, const QStringList& arguments) = 0;
 };
 

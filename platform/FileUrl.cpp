@@ -10,14 +10,14 @@ QString fileUrl(const QString& path)
 {
     if (path.isValidUtf16())
         return QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
-    // The class would put a replacement for each byte that is not UTF-8.
+    // The class would replace each byte that is not UTF-8.
     return QStringLiteral("file://") +
            QString::fromLatin1(pathBytes(path).toPercentEncoding("/!$&'()*+,;=:@[]"));
 }
 
 QString pathOfFileUrl(const QString& url)
 {
-    const QUrl parsed(url); // takes blanks and the like that were not encoded
+    const QUrl parsed(url); // accepts blanks and the like that were not encoded
     const QByteArray bytes = QByteArray::fromPercentEncoding(parsed.path(QUrl::FullyEncoded).toLatin1());
     return bytes.isValidUtf8() ? parsed.toLocalFile() : pathText(bytes);
 }
@@ -32,7 +32,7 @@ QString normalFileUrl(const QString& url)
     QString path = pathOfFileUrl(parsed.toString(QUrl::FullyEncoded));
     while (path.size() > 1 && path.endsWith(u'/'))
         path.chop(1);
-    // Bundles are folders, and items resolve to them with a slash; the disk is not asked, as they may have
+    // Bundles are folders, and items resolve to them with a slash; the disk is not consulted, as they may be
     // gone.
     return fileUrl(path.endsWith(u".app") ? path + u'/' : path);
 }

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// File URLs as login items have them. Pure functions for any thread; none looks at the disk.
+/// File URLs as in login items. Pure functions for any thread; none looks at the disk.
 namespace quindle {
 
 /// The file URL of an absolute path, percent-encoded ("file:///opt/Quindle%20Helper"). Bytes that are not
@@ -13,8 +13,8 @@ QString fileUrl(const QString& path);
 QString pathOfFileUrl(const QString& url);
 
 /// The one form in which file URLs of the same place are equal text: percent-encoded, no host, a bundle
-/// ("….app") with one slash at its end because it is a folder, anything else with none. Text that is no file
-/// URL stays as it is.
+/// ("….app") with one slash at its end because it is a folder, anything else with none. Text that is not a
+/// file URL stays as it is.
 QString normalFileUrl(const QString& url);
 
 } // namespace quindle

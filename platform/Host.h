@@ -16,9 +16,8 @@ class Clock
 public:
     virtual ~Clock() = default;
 
-    /// Now, with milliseconds, always valid, in any zone: who wants its day or time of day converts it to
-    /// local time first.
-    /// Each such conversion looks at the system's zone anew; comparing two moments does not.
+    /// Now, with milliseconds, always valid, in any zone: for its day or time of day convert it to local time
+    /// first. Each such conversion looks at the system's zone anew; comparing two moments does not.
     virtual QDateTime now() const = 0;
 };
 
@@ -39,9 +38,9 @@ class SystemFiles
 public:
     virtual ~SystemFiles() = default;
 
-    /// The dictionary in the file at `path` (absolute), read at each call.
-    /// Nothing when there is no such file, when it cannot be read, and when it holds anything else than a
-    /// dictionary; nothing is logged, because most computers have none of these files.
+    /// The dictionary in the file at `path` (absolute), read at each call. Nothing when there is no such
+    /// file, when it cannot be read, and when it holds anything but a dictionary; nothing is logged, because
+    /// most computers have none of these files.
     virtual std::optional<QVariantMap> propertyList(const QString& path) const = 0;
 };
 

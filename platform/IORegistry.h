@@ -6,7 +6,7 @@
 
 namespace quindle {
 
-/// The handle of one open registry entry; 0 means none. Handles are never used again while they are open.
+/// The handle of one open registry entry; 0 means none. A handle is not reused while it is open.
 using RegistryObject = quint32;
 
 /// A 32-bit I/O status; 0 is success. The values are those of I/O Kit.
@@ -43,11 +43,11 @@ public:
     virtual QVariantMap properties(RegistryObject object) = 0;
 
     /// Whether there is an entry of that name now, for entries that come and go while the program runs;
-    /// nothing on a computer where what was found at the start stays what it is.
+    /// nothing on a computer whose entries stay what they were at the start.
     virtual std::optional<bool> isMatched(const QString& name) = 0;
 
-    /// Gives the handle back: success, or another status for a handle that is not open, 0 included.
-    /// A handle that was given back reads as one without properties.
+    /// Releases the handle: success, or another status for a handle that is not open, 0 included. A released
+    /// handle reads as one without properties.
     virtual IOStatus release(RegistryObject object) = 0;
 };
 

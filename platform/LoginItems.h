@@ -8,9 +8,9 @@
 namespace quindle {
 
 /// What the session starts at login. Other programs may change the list at any moment, so nothing is
-/// remembered but what an item number stands for. Changes have reached the list when a call returns; one
-/// that fails leaves it as it was, is logged (the same failure once) and is not reported to the caller, who
-/// looks at the list again. Main thread only.
+/// remembered but the meaning of an item's number. Changes are in the list when a call returns; one that
+/// fails leaves it as it was, is logged (the same failure once) and is not reported to the caller, who looks
+/// at the list again. Main thread only.
 class LoginItems
 {
 public:
@@ -31,11 +31,11 @@ public:
     /// Puts a new item for `fileUrl` before the first one.
     virtual void insertBeforeFirst(const QString& fileUrl) = 0;
 
-    /// Takes an item out; does nothing when it has gone already.
+    /// Removes an item; does nothing when it is gone already.
     virtual void remove(Item item) = 0;
 
     /// Switches the login item known by an application's identifier on or off: while it is on, one item of
-    /// the list starts the helper's bundle, whichever way it came there; once it is off, none does.
+    /// the list starts the helper's bundle, however it got there; once it is off, none does.
     virtual void setEnabled(const QString& identifier, bool enabled) = 0;
 };
 

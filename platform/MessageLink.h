@@ -30,8 +30,8 @@ public:
     virtual void setClosed(std::function<void()> closed) = 0;
 };
 
-/// A program that this process has started, with a link to it. Destroying it closes the link and leaves the
-/// program to itself.
+/// A program that this process has started, with a link to it. Destroying it closes the link and lets the
+/// program run on.
 class LinkedProgram
 {
 public:
@@ -39,7 +39,7 @@ public:
 
     virtual MessageLink& link() = 0;
 
-    /// Ends the program at once, whatever it does; does nothing when it has ended.
+    /// Kills the program, whatever it is doing; does nothing when it has ended.
     virtual void kill() = 0;
 };
 
@@ -49,8 +49,7 @@ class ProgramStarter
 public:
     virtual ~ProgramStarter() = default;
 
-    /// Null when the program is not there or cannot be run.
-    /// That it runs says nothing about how far it will come.
+    /// Null when the program is not there or cannot be run. A program that was started may still fail.
     virtual std::unique_ptr<LinkedProgram> start() = 0;
 };
 

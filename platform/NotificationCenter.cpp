@@ -16,7 +16,7 @@ Q_LOGGING_CATEGORY(notificationLog, "quindle.notifications")
 void NotificationCenter::addObserver(const QString& name, Observer observer)
 {
     const auto isSame = [&](const auto& entry) {
-        // Callables cannot be compared; the type stands for the place in the code that registers.
+        // Callables cannot be compared; the type identifies the place in the code that registers.
         return entry.first == name && entry.second.target_type() == observer.target_type();
     };
     // At one registration per refresh a day would leave 8,640 of them, and each post would call them all.

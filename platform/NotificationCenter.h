@@ -17,12 +17,10 @@ public:
     /// How often one observer is called for one post at most, however often it was added.
     static constexpr int mostRegistrations = 32;
 
-    /// Adds an observer for `name`. inherited: duplicates are kept.
-    /// It cannot be removed, so what it refers to must outlive this object; adding it again makes it be
-    /// called once more for each post.
-    /// From the 33rd time on it is not added, and one line is logged: the helper registers again at every
-    /// refresh once a day has passed without an upload.
-    /// Callables of one type count as one observer.
+    /// Adds an observer for `name`. inherited: duplicates are kept. It cannot be removed, so what it refers
+    /// to must outlive this object; one that is added again is called once more for each post. From the 33rd
+    /// time on it is not added, and one line is logged: the helper registers again at every refresh once a
+    /// day has passed without an upload. Callables of one type count as one observer.
     void addObserver(const QString& name, Observer observer);
 
     /// Calls every observer of `name`, in the order they were added, before it returns; does nothing when
@@ -42,10 +40,9 @@ class DistributedNotificationCenter
 public:
     virtual ~DistributedNotificationCenter() = default;
 
-    /// Adds an observer for `name`, called on the main thread as soon as the notification arrives, also
-    /// while the process is in the background.
-    /// It cannot be removed; adding it again makes it be called once more.
-    /// While other processes cannot be reached, only this process's own posts are heard.
+    /// Adds an observer for `name`, called on the main thread as soon as the notification arrives, even in
+    /// the background. It cannot be removed; one that is added again is called once more. While other
+    /// processes cannot be reached, only this process's own posts are heard.
     virtual void addObserver(const QString& name, NotificationCenter::Observer observer) = 0;
 
     /// Sends `name` to every process that observes it, without waiting for them.
@@ -54,8 +51,8 @@ public:
     virtual void post(const QString& name) = 0;
 };
 
-/// What the system says about its sleep. Where it says nothing, observers are never called, and what sleep
-/// changes shows at the next tick of a timer. Main thread only.
+/// What the system says about its sleep. Where it says nothing, observers are never called, and what has
+/// changed during sleep shows at the next tick of a timer. Main thread only.
 class WorkspaceNotifications
 {
 public:

@@ -4,7 +4,7 @@
 
 namespace quindle {
 
-/// What the desktop tells the user in a window of its own.
+/// What the desktop shows the user in a window of its own.
 struct Notification
 {
     enum class Urgency {
@@ -27,11 +27,10 @@ class Notifier
 public:
     virtual ~Notifier() = default;
 
-    /// Shows it in place of the one before.
-    /// Where nothing shows notifications one line is logged, once.
+    /// Shows it, replacing the previous one. Where nothing shows notifications one line is logged, once.
     virtual void show(const Notification& notification) = 0;
 
-    /// Takes back what is shown; does nothing otherwise.
+    /// Closes what is shown; does nothing otherwise.
     virtual void withdraw() = 0;
 };
 

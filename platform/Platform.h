@@ -50,8 +50,8 @@ struct Platform
     Platform with(const ServiceOverrides& overrides) const;
 };
 
-/// Services that take the place of a platform's own: a composition root names those in which it differs. Null
-/// leaves a service as it is; what is named must outlive the platform made with it.
+/// Services that replace a platform's own: a composition root names those in which it differs. Null leaves a
+/// service as it is; the others must outlive the platform made with them.
 struct ServiceOverrides
 {
     IORegistry* registry = nullptr;

@@ -7,7 +7,7 @@
 
 namespace quindle {
 
-/// What another service of this computer has recorded of the battery, before this program was there.
+/// What another service of this computer recorded of the battery before this program did.
 struct PowerHistoryPoint
 {
     enum class State {

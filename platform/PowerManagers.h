@@ -12,9 +12,8 @@ class PowerManagers
 public:
     virtual ~PowerManagers() = default;
 
-    /// Calls `answered` later with the desktop whose program runs at the moment ("Xfce"), empty for none or
-    /// where that cannot be found out.
-    /// It is not called any more once this object has gone.
+    /// Calls `answered` later with the desktop whose program is running ("Xfce"), empty for none or where
+    /// that cannot be found out. It is not called after this object is destroyed.
     virtual void ask(std::function<void(const QString& desktop)> answered) = 0;
 };
 

@@ -13,7 +13,7 @@ namespace quindle {
 struct PeripheralBattery
 {
     QString name;                 ///< what its maker calls it; never empty
-    std::optional<int> percent;   ///< 0 to 100; nothing where its driver only knows words
+    std::optional<int> percent;   ///< 0 to 100; nothing where its driver only has words
     std::optional<QString> level; ///< the driver's word ("Low", "Normal", "Full"); nothing where it has none
 
     bool operator==(const PeripheralBattery&) const = default;
@@ -27,8 +27,8 @@ class PowerSources
 public:
     virtual ~PowerSources() = default;
 
-    /// The external adapter's details: "Watts", a whole number, the most it can deliver.
-    /// Nothing when there is no adapter or none that gives any details.
+    /// The external adapter's details: "Watts", a whole number, the most it can deliver. Nothing when there
+    /// is no adapter, or one without details.
     virtual std::optional<QVariantMap> externalAdapterDetails() = 0;
 
     /// Lists the sources and returns how many there are; `description` then knows them as 0 to n - 1, in the
@@ -46,9 +46,8 @@ public:
     virtual std::optional<int> chargeLimit() = 0;
 
     /// The batteries of devices beside the computer, in a stable order; none on most computers, and none
-    /// while those who know them cannot be asked.
-    /// They are no sources: the models of battery and computer take nothing from them.
-    /// Only for somebody who looks, because some drivers ask the device over its radio.
+    /// while their services cannot be asked. They are not sources: the models of battery and computer ignore
+    /// them. Only while somebody looks, because some drivers ask the device over its radio.
     virtual QList<PeripheralBattery> peripherals() = 0;
 };
 
@@ -59,12 +58,10 @@ class PowerEvents
 public:
     virtual ~PowerEvents() = default;
 
-    /// Replaces the observer, which must not be empty.
-    /// It is called from the main loop soon after something changed, once for all changes announced by then,
-    /// and is not given them: they have to be read.
-    /// How often depends on the drivers, some of which announce a thousand times a second.
-    /// On a computer that announces nothing it is never called; where listening fails, one line is logged
-    /// besides.
+    /// Replaces the observer, which must not be empty. It is called from the main loop soon after something
+    /// changed, once for all changes announced by then, and is not passed them: they have to be read. How
+    /// often depends on the drivers, some of which announce a thousand times a second. On a computer that
+    /// announces nothing it is never called; where listening fails, one line is logged besides.
     virtual void setObserver(std::function<void()> observer) = 0;
 };
 

@@ -26,7 +26,7 @@ void RateLimit::request()
     const bool isFirst = m_spent == 0;
     if (isFirst)
         act();
-    // Once more without another request too: some drivers announce a change before its values have settled.
+    // Once more even without another request: some drivers announce a change before its values have settled.
     if (isFirst && m_settling > 0)
         m_isRequested = true;
     settle();
@@ -52,13 +52,13 @@ void RateLimit::act()
     m_act();
 }
 
-/// From the last action on, in which the time of a while's two begins together.
+/// From the last action on, when the time of both actions of a burst begins.
 void RateLimit::recover()
 {
     if (m_recover)
         m_recover->invalidate();
-    // A timer of its own for each pause: the next tick of the same one would count from when this one was
-    // planned, and come too soon after it.
+    // A new timer for each pause: the next tick of the same one would count from this one's planned time, and
+    // come too soon.
     m_recover = m_runLoop.scheduleRepeatingTimer(shortestPause, 0.0, [this] {
         std::exchange(m_recover, nullptr)->invalidate();
         --m_spent;

@@ -11,9 +11,9 @@ class Timer;
 /// Acts on request, at most twice a second: the last request is never lost, and those that have to wait
 /// count as one. Without requests it keeps no timer. Main thread only.
 ///
-/// Where changes are announced piece by piece, it acts on the first request of a while at once and once more
-/// when the pieces have settled, so a while begins with two actions; each of them lets another one come half
-/// a second later.
+/// Where changes are announced piece by piece, it acts on the first request of a burst at once and again when
+/// the pieces have settled: two actions begin a burst, and each of them allows another one half a second
+/// later.
 class RateLimit
 {
 public:
@@ -21,9 +21,8 @@ public:
     static constexpr double shortestPause = 0.5; ///< seconds for each action, in the long run
 
     /// `settling` is how long, in seconds, a change takes to be announced in full; with 0 nothing is acted on
-    /// twice. The first request of a while is acted on before `request` returns.
-    /// `act` must not be empty.
-    /// The loop must outlive this object.
+    /// twice. The first request of a burst is acted on before `request` returns. `act` must not be empty. The
+    /// loop must outlive this object.
     RateLimit(RunLoop& runLoop, double settling, std::function<void()> act);
 
     /// A request that has not been acted on is dropped.
@@ -45,7 +44,7 @@ private:
     std::function<void()> m_act;
     std::shared_ptr<Timer> m_settle;  ///< null while nothing has to settle
     std::shared_ptr<Timer> m_recover; ///< until another action is allowed; null while all are
-    int m_spent = 0;                  ///< actions, of those that a while begins with
+    int m_spent = 0;                  ///< actions, of those that a burst begins with
     bool m_isRequested = false;
 };
 

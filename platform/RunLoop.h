@@ -5,20 +5,19 @@
 
 namespace quindle {
 
-/// A timer that a run loop fires. The run loop keeps it alive; letting go of it does not stop it. Main
-/// thread only.
+/// A timer that a run loop fires. The run loop keeps it alive; dropping it does not stop it. Main thread
+/// only.
 class Timer
 {
 public:
     virtual ~Timer() = default;
 
-    /// Stops it for good, also from within its own tick; a tick that is due with others' does not come any
-    /// more.
-    /// Does nothing the second time, or after the loop has gone.
+    /// Stops it for good, even from within its own tick; a tick that is due together with others does not
+    /// come. Does nothing the second time, or after the loop has gone.
     virtual void invalidate() = 0;
 };
 
-/// Somebody's wish that ticks come on time; it ends with the last copy, which may outlive the run loop.
+/// A request that ticks come on time; it ends with the last copy, which may outlive the run loop.
 using Punctuality = std::shared_ptr<void>;
 
 /// The main thread's loop, and callable from that thread only.
@@ -36,9 +35,8 @@ public:
                                                           std::function<void()> fire) = 0;
 
     /// While somebody looks at what timers bring up to date: no timer uses its tolerance as long as one of
-    /// the returned values exists.
-    /// A tick that has been put off comes at once.
-    /// May return null where no timer is ever late.
+    /// the returned values exists. A tick that was put off comes at once. May return null where no timer is
+    /// ever late.
     virtual Punctuality keepPunctual() = 0;
 };
 

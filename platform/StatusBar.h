@@ -18,9 +18,8 @@ class StatusItem
 public:
     virtual ~StatusItem() = default;
 
-    /// The title, of any length and content; shown literally, and cut with an ellipsis where it does not
-    /// fit.
-    /// What was set last is returned whole; empty before that.
+    /// The title, of any length and content; shown literally, and cut with an ellipsis where it does not fit.
+    /// Returns what was set last, uncut; empty before that.
     virtual void setTitle(const QString& title) = 0;
     virtual QString title() const = 0;
 
@@ -35,8 +34,8 @@ public:
     /// empty for nothing.
     virtual void setFallbackText(const QString& text) = 0;
 
-    /// What the tool tip says under the title, as plain text; lines are separated by line feeds.
-    /// Empty for the title alone.
+    /// The tool tip's text under the title, plain; lines are separated by line feeds. Empty for the title
+    /// alone.
     virtual void setToolTipText(const QString& text) = 0;
 
     /// The menu that hangs from the item; null for none.

@@ -36,7 +36,7 @@ public:
     /// Observers are not called: rows are added before the menu is shown.
     int addRow(Row row);
 
-    /// The rows in order; the row with id n stands at n - 1.
+    /// The rows in order; the row with id n is at n - 1.
     const std::vector<Row>& rows() const { return m_rows; }
 
     /// Changes one row; observers are called only when something is different.

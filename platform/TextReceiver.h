@@ -4,7 +4,7 @@
 
 namespace quindle {
 
-/// A program that is started with a text as its standard input, as often as there is one, and left to itself.
+/// A program that is started with a text as its standard input, as often as there is one, and not waited for.
 /// Main thread only.
 class TextReceiver
 {
@@ -17,9 +17,9 @@ public:
     /// Whether the one that was started last still runs; false where that cannot be found out.
     virtual bool isRunning() = 0;
 
-    /// Starts it with `text`, which may be empty. Waits neither until it has read nor until it has ended, and
-    /// the text reaches it also when this process ends at once.
-    /// False when it cannot be started; that it was started says nothing about how far it comes.
+    /// Starts it with `text`, which may be empty. Does not wait until it has read or ended, and the text
+    /// reaches it even if this process ends at once. False when it cannot be started; a program that was
+    /// started may still fail.
     virtual bool handOver(const QByteArray& text) = 0;
 };
 

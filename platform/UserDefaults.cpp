@@ -17,7 +17,7 @@ void UserDefaults::setInteger(const QString& key, qint64 value)
 QVariantMap UserDefaults::dictionary(const QString& key) const
 {
     const QVariant value = object(key);
-    // Files may be edited by hand: another type is as good as none.
+    // Files may be edited by hand: another type counts as none.
     return value.typeId() == QMetaType::QVariantMap ? value.toMap() : QVariantMap();
 }
 

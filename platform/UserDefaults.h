@@ -19,9 +19,8 @@ public:
     /// logged.
     virtual QVariant object(const QString& key) const = 0;
 
-    /// Stores `value` (a property-list value); the database is written when it returns, and only if the
-    /// value is different in type or content.
-    /// A failure keeps what was stored, is logged once and otherwise silent.
+    /// Stores `value` (a property-list value); the database is written when it returns, and only if the value
+    /// is different in type or content. On failure what was stored stays, and one line is logged once.
     virtual void setObject(const QString& key, const QVariant& value) = 0;
 
     /// Everything that is stored; empty where there is nothing.

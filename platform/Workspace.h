@@ -26,8 +26,8 @@ public:
     /// Ends the main loop once the caller has returned to it; the process then exits with 0.
     virtual void terminate() = 0;
 
-    /// Brings this application's windows before those of others, as far as the desktop allows it; does
-    /// nothing without windows.
+    /// Brings this application's windows in front of others, as far as the desktop allows; does nothing
+    /// without windows.
     virtual void activateIgnoringOtherApplications() = 0;
 
     /// Whether the desktop shows translucent windows at the moment, so that a popup may have smooth round

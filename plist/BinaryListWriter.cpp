@@ -156,8 +156,8 @@ BinaryListWriter::Node BinaryListWriter::begin()
     return static_cast<Node>(m_offsets.size() - 1);
 }
 
-/// Room for so many bytes at the end. Numbers are written into it at once: appended one by one they took half
-/// of the time that an archive does.
+/// Room for so many bytes at the end. Numbers are written into it in one go: appended one by one they took
+/// half of an archive's time.
 char* BinaryListWriter::grow(qsizetype size)
 {
     const qsizetype end = m_bytes.size();
@@ -173,7 +173,7 @@ void BinaryListWriter::put(quint64 number, int width)
                 static_cast<std::size_t>(width));
 }
 
-/// A count of 15 and more stands behind the marker, as an integer of its own.
+/// A count of 15 or more follows the marker, as an integer of its own.
 void BinaryListWriter::putCount(int marker, qsizetype count)
 {
     constexpr qsizetype isBehind = 0xf;

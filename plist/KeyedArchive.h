@@ -16,13 +16,14 @@ struct ArchivedRecords
     QString fault;        ///< why nothing is usable, in one line; empty when all is
 };
 
-/// Told how much has been read, in percent, each time that it is another number.
+/// Called with how much has been read, in percent, whenever the number changes.
 using ReadingProgress = std::function<void(int percent)>;
 
 /// The records in a keyed archive, binary or XML, whose root is an array of dictionaries with text keys.
 /// Values come back as property-list values (see plist/PropertyList.h), nulls as invalid ones; a number that
-/// is a key of an inner dictionary becomes a text. Any damage, a class that is not known and an element that
-/// is no such dictionary leave nothing. Time and memory grow with the size of the bytes, whatever they say.
+/// is a key of an inner dictionary becomes a text. With any damage, an unknown class, or an element that is
+/// no such dictionary there are no records. Time and memory grow with the size of the bytes, whatever they
+/// say.
 ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes, const ReadingProgress& progress = {});
 
 /// A binary keyed archive of `records`, each a QVariantMap, that the reader above and the platform's own

@@ -29,7 +29,7 @@ QByteArray bytesOf(const quint32* numbers, std::size_t count)
                       static_cast<qsizetype>(count * sizeof *numbers));
 }
 
-/// Most often it is one text, which two lists share.
+/// Usually it is one text that two lists share.
 bool isSameText(const QString& left, const QString& right)
 {
     return (left.constData() == right.constData() && left.size() == right.size()) || left == right;
@@ -97,7 +97,7 @@ KeyedArchiver::Reference KeyedArchiver::keepValue(const QVariant& value)
 
 KeyedArchiver::Reference KeyedArchiver::keepText(const QString& text)
 {
-    // Records that were read share their texts, so most are known by their place already, without a look at
+    // Records that were read share their texts, so most are recognised by their place, without a look at
     // their characters.
     KnownText& known = m_knownTexts[text.constData()];
     if (known.reference != 0 && known.length == text.size())
@@ -162,7 +162,7 @@ KeyedArchiver::Node KeyedArchiver::keyList(const QVariantMap& map)
     Nodes references;
     for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
         references.push_back(referenceTo(keepText(entry.key())));
-    // A history has a handful of them; in one of another kind looking through all would take ever longer.
+    // A history has a handful of them; in any other archive searching them all would take ever longer.
     constexpr std::size_t most = 64;
     if (m_keyLists.size() == most)
         m_keyLists.clear();

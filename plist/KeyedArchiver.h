@@ -12,9 +12,9 @@
 
 namespace quindle {
 
-/// Writes one keyed archive as the platform's encoder does. Used for one archive and thrown away. What is
-/// equal is written once: the records of a history differ in a few numbers only, and what an archive of a few
-/// bytes unfolds to does not fill the disk when it is written again.
+/// Writes one keyed archive as the platform's encoder does. Used for one archive and thrown away. Equal
+/// values are written once: the records of a history differ in a few numbers only, and an archive of a few
+/// bytes that unfolds to gigabytes does not fill the disk when it is written again.
 class KeyedArchiver
 {
 public:

@@ -6,10 +6,10 @@
 namespace quindle {
 
 /// The date that lies this many seconds after the start of 2001 in UTC, to the millisecond, as a local time.
-/// One beyond what a date can hold, or infinitely far, is the farthest; invalid when the number is none.
+/// Beyond what a date can hold, or infinite, it is the farthest one; invalid for what is not a number.
 QVariant dateFromSeconds(double seconds);
 
-/// The seconds between the start of 2001 and `date`, which lead back to the same millisecond.
+/// The seconds from the start of 2001 to `date`; they read back as the same millisecond.
 double secondsOfDate(const QDateTime& date);
 
 } // namespace quindle

@@ -14,7 +14,7 @@ namespace {
 
 using Kind = PropertyListGraph::Kind;
 
-// The lower half of the marker of a boolean, and that of a real of four bytes.
+// The lower halves of the markers of a boolean and of a real of four bytes.
 constexpr quint8 trueDetail = 0x9;
 constexpr quint8 floatDetail = 2;
 
@@ -108,7 +108,7 @@ PropertyListGraph::Element PropertyListGraph::elementAt(quint64 offset) const
     return isInside ? found : invalid;
 }
 
-/// A count of 15 and more stands behind the marker, as an integer of its own.
+/// A count of 15 or more follows the marker, as an integer of its own.
 bool PropertyListGraph::readCount(Element& found) const
 {
     if (!hasCount(found.kind) || found.count != 0xf)
@@ -187,7 +187,7 @@ QString PropertyListGraph::text(const Element& element) const
     if (!isWide(element.marker))
         return QString::fromUtf8(content(element), length); // ASCII, or what careless writers put there
     QString text(length, Qt::Uninitialized);
-    // Half a surrogate pair stays: it is the writer of XML that has to leave it out.
+    // Half a surrogate pair stays: leaving it out is up to the writer of XML.
     qFromBigEndian<char16_t>(content(element), length, text.data());
     return text;
 }
@@ -199,7 +199,7 @@ quint64 PropertyListGraph::reference(const Element& element) const
 
 PropertyListGraph::Node PropertyListGraph::item(const Element& array, quint64 index) const
 {
-    // Asked of whatever an archive leads to, so kind and range are checked here, once for all readers.
+    // An archive may lead anywhere, so kind and range are checked here, once for all readers.
     return array.kind == Kind::Array && index < array.count ? nodeAt(array, index) : noNode;
 }
 
@@ -221,7 +221,7 @@ bool PropertyListGraph::isText(const Element& element, QLatin1StringView wanted)
         return false;
     if (isWide(element.marker))
         return text(element) == wanted;
-    // Compared where it lies: this is asked for every key of every object.
+    // Compared in place: this is asked for every key of every object.
     return QLatin1StringView(content(element), wanted.size()) == wanted;
 }
 

@@ -84,17 +84,17 @@ private:
     quint64 integer(const Element& element) const;
     QString text(const Element& element) const;
 
-    /// The reference at `index` behind the start of a container.
+    /// The reference at `index` after the start of a container.
     Node nodeAt(const Element& container, quint64 index) const
     {
         return number(container.start + index * m_referenceWidth, m_referenceWidth);
     }
 
-    /// A big-endian number of 1 to 8 bytes that lie inside the list.
+    /// A big-endian number of 1 to 8 bytes inside the list.
     quint64 number(quint64 start, quint64 width) const
     {
         const auto* bytes = reinterpret_cast<const uchar*>(m_bytes.constData()) + start;
-        // The widths of nearly all numbers; byte by byte they take a tenth of the time of reading an archive.
+        // The widths of nearly all numbers; reading them byte by byte took a tenth of an archive's time.
         if (width == 4)
             return qFromBigEndian<quint32>(bytes);
         if (width == 2)

@@ -6,11 +6,11 @@
 
 namespace quindle {
 
-/// How deep arrays and dictionaries may be nested. Readers, writers and destructors recurse, so a
-/// deeper list would run into the end of the stack.
+/// How deep arrays and dictionaries may be nested. Readers, writers and destructors recurse, so a deeper list
+/// would overflow the stack.
 inline constexpr int mostPropertyListLevels = 512;
 
-/// How much a value is when what it shares with others is written out: it is walked through as a tree.
+/// The size of a value as a tree, with everything that it shares with others written out.
 struct Extent
 {
     quint64 weight = 1; ///< itself and the values inside
@@ -23,7 +23,7 @@ constexpr quint64 weightOfContent(quint64 count)
     return count / 16;
 }
 
-/// How much may be made of a list of a certain size in bytes, whatever it contains. Time and memory stay in
+/// How much may be read from a list of a certain size in bytes, whatever it contains. Time and memory stay in
 /// proportion to that size.
 class PropertyListLimits
 {
@@ -34,8 +34,8 @@ public:
     {
     }
 
-    /// False once more was read than a list can hold. Honest ones hold less than one value in a byte; the
-    /// rest is for small archives whose objects share their lists of keys.
+    /// False once more was read than a list can hold. Honest ones hold less than one value a byte; the margin
+    /// is for small archives whose objects share their lists of keys.
     bool spend(quint64 values)
     {
         const bool isThere = values <= m_left;

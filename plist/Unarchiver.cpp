@@ -12,7 +12,7 @@ namespace quindle {
 
 namespace {
 
-// Two marks among the positions, so that one vector holds them and what was read.
+// Two marks among the positions, so that one vector holds both.
 constexpr quint32 notRead = std::numeric_limits<quint32>::max();
 constexpr quint32 beingRead = notRead - 1;
 
@@ -62,8 +62,8 @@ bool Unarchiver::readRecords(QVariantList& records, const ReadingProgress& progr
     Element root;
     if (!findRoot(root))
         return false;
-    // An instance is a dictionary that names its class. A set, though it would read alike, is no history: its
-    // records have no order.
+    // An instance is a dictionary that names its class. A set, though it would read the same, is no history:
+    // its records have no order.
     if (root.kind != Kind::Dictionary || classOf(root) != ArchivedClass::Array)
         return fail("its root is no array");
     const auto elements = references(root, "NS.objects", "NS.object.");
@@ -235,7 +235,7 @@ const Unarchiver::KeyList* Unarchiver::keysOf(const Element& dictionary, int lev
 {
     const Element list = find(dictionary, "NS.keys");
     if (list.kind == Kind::Array) {
-        // Most records share the list itself, which is known by its place without a look at its items.
+        // Most records share the list itself, which its place identifies without a look at its items.
         const auto known = m_keysAt.constFind(list.start);
         if (known != m_keysAt.cend())
             return spend(list.count) ? *known : nullptr;
@@ -247,7 +247,7 @@ const Unarchiver::KeyList* Unarchiver::keysOf(const Element& dictionary, int lev
     return keys;
 }
 
-/// Nothing when one of the references leads to what can be no key.
+/// Nothing when one of the references leads to something that cannot be a key.
 const Unarchiver::KeyList* Unarchiver::keyList(const References& references, int level)
 {
     const auto known = m_keyLists.find(references);
@@ -402,7 +402,7 @@ std::optional<Unarchiver::References> Unarchiver::listedReferences(const Element
 std::optional<Unarchiver::References> Unarchiver::numberedReferences(const Element& element,
                                                                      const char* prefix)
 {
-    // Sorted by their numbers: a dictionary may hold them in any order.
+    // Sorted by number: a dictionary may hold them in any order.
     const QLatin1StringView start(prefix);
     std::map<quint64, quint64> numbered;
     for (quint64 index = 0; index < element.count; ++index) {

@@ -51,7 +51,7 @@ using Object = std::optional<QByteArray>;
 
 QByteArray textObject(const QString& text)
 {
-    // Most texts are, and take half the room so.
+    // Most texts are ASCII, and take half the room.
     const bool isAscii = std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80; });
     if (isAscii)
         return counted(asciiMarker, text.size()) + text.toLatin1();
@@ -66,7 +66,7 @@ Object integerObject(const QString& text)
     const QString digits = isNegative || text.startsWith(u'+') ? text.mid(1) : text;
     if (digits.isEmpty() || !digits.front().isLetterOrNumber())
         return std::nullopt;
-    // Property lists may write integers so.
+    // Property lists may write integers this way.
     const bool isHexadecimal = digits.startsWith(QStringLiteral("0x"), Qt::CaseInsensitive);
     bool isNumber = false;
     const quint64 number = digits.toULongLong(&isNumber, isHexadecimal ? 16 : 10);
@@ -78,7 +78,7 @@ Object integerObject(const QString& text)
 
 Object realObject(const QString& text)
 {
-    // Writers of property lists put a plus too.
+    // Writers of property lists also write a plus.
     const auto number = realFromText((text.startsWith(u'+') ? text.mid(1) : text).toUtf8());
     if (!number)
         return std::nullopt;
@@ -182,7 +182,7 @@ XmlTranscript::Node XmlTranscript::addValue(int level)
     return object ? Node(add(*object)) : std::nullopt;
 }
 
-/// Until the end of the present element; an error raised in the XML ends it too.
+/// Until the end of the current element; an error in the XML ends it too.
 XmlTranscript::Node XmlTranscript::addContainer(bool isDictionary, int level)
 {
     QByteArray keys;

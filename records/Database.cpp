@@ -24,7 +24,7 @@ void Statement::bind(int index, double value)
 
 void Statement::bind(int index, const QByteArray& text)
 {
-    // Not copied: whoever binds a text keeps it until the statement has run.
+    // Not copied: the caller keeps a text that it binds until the statement has run.
     sqlite3_bind_text(m_statement.get(), index, text.constData(), static_cast<int>(text.size()),
                       SQLITE_STATIC);
 }
@@ -86,7 +86,7 @@ bool Database::open(const QByteArray& path, int patience)
     const int result =
         sqlite3_open_v2(path.constData(), &database,
                         SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
-    // Even a failure leaves one, which knows the reason.
+    // There is one even after a failure; it knows the reason.
     m_database.reset(database);
     sqlite3_busy_timeout(database, patience);
     return result == SQLITE_OK;
@@ -133,7 +133,7 @@ DatabaseFault Database::fault() const
 
 void Database::Close::operator()(sqlite3* database) const
 {
-    // With a statement left it closes when that goes.
+    // While a statement is left it closes only with that.
     sqlite3_close_v2(database);
 }
 

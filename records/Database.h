@@ -30,7 +30,7 @@ public:
     void bind(int index, const QByteArray& text);
     void bindNull(int index);
 
-    /// Runs it to its next row. False at the end and after a failure; `isGood` tells which.
+    /// Runs it to its next row. False at the end and after a failure; `isGood` says which.
     bool step();
 
     /// Runs it, once more if it was run before. False after a failure.

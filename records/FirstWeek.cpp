@@ -88,7 +88,7 @@ StoreOutcome takeOverFirstWeek(SampleStore& store, PowerHistory& history, qint64
     // Up to where the own samples begin, which are better.
     const auto samples = samplesFromHistory(*recorded, store.firstMoment().value_or(now));
     const StoreOutcome added = store.append(samples, SampleSource::UPower);
-    // Together they are no single step: after a crash between them it is done again, which adds nothing.
+    // The two are not one step: after a crash between them it is done again, which adds nothing.
     return added.isGood() ? store.setNote(isTakenOver, QByteArray::number(now)) : added;
 }
 

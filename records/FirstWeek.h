@@ -7,9 +7,9 @@
 
 namespace quindle {
 
-/// The samples that another service's records come to, sorted, all before `end`. The power of a sample is
-/// that of the last rate in the five minutes before it, negative while discharging; the charge without a
-/// state says nothing (services mark their own starts so).
+/// The samples that another service's records make, sorted, all before `end`. The power of a sample is that
+/// of the last rate in the five minutes before it, negative while discharging; the charge without a state
+/// says nothing (services mark their own starts so).
 std::vector<Sample> samplesFromHistory(const RecordedPower& recorded, qint64 end);
 
 /// Takes over what another service had recorded of the battery before the first sample of the store, once,

@@ -34,7 +34,7 @@ QByteArray tableOf(const std::vector<Sample>& samples)
     return table;
 }
 
-/// None of its texts holds what would have to be escaped.
+/// None of its texts needs escaping.
 QByteArray objectsOf(const std::vector<Sample>& samples)
 {
     const QString none = QStringLiteral("null");

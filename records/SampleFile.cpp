@@ -24,7 +24,7 @@ std::optional<FileLock> lockOnDatabase(const QByteArray& path)
 }
 
 /// An errno value. SQLite would make the file readable for others; its neighbours get the rights of this one.
-/// A file that is there is not opened: closing it would give up the locks that SQLite holds in this process.
+/// An existing file is not opened: closing it would release the locks that SQLite holds in this process.
 int makePrivate(const QByteArray& path)
 {
     const FileDescriptor made(::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
@@ -36,7 +36,7 @@ int makePrivate(const QByteArray& path)
     if (!S_ISREG(found.st_mode))
         return EINVAL;
     if ((found.st_mode & (S_IRWXG | S_IRWXO)) != 0)
-        // A copy that somebody put back may be readable for everybody.
+        // A copy that was put back may be readable by everybody.
         ::chmod(path.constData(), 0600);
     return 0;
 }
@@ -129,7 +129,7 @@ StoreOutcome SampleFile::openToWrite()
         return {};
     if (const int error = makeFolder(folderOf(m_file)))
         return writingFault(m_path, error);
-    // One at a time: what makes the file and its tables is no single step.
+    // One at a time: making the file and its tables is not one step.
     const auto lock = lockOnDatabase(m_file);
     if (!lock)
         return writingFault(m_path, errno);
@@ -185,7 +185,7 @@ StoreOutcome SampleFile::setAside()
     if (!lock)
         return writingFault(m_path, errno);
     Database again;
-    // Another process may have set it aside, and made a new one, meanwhile.
+    // Meanwhile another process may have set it aside and made a new one.
     if (again.open(m_file, longestWait) && isSound(again))
         return {};
     again.close();
@@ -194,7 +194,7 @@ StoreOutcome SampleFile::setAside()
         return writingFault(m_path, error,
                             QStringLiteral("it is damaged and cannot be set aside: ") +
                                 qt_error_string(error));
-    // What has not yet been written into the file goes with it; a new file must not take it for its own.
+    // The journal goes with it: a new file must not take it for its own.
     renameWithoutReplacing(m_file + "-wal", newFile + "-wal");
     ::unlink((m_file + "-shm").constData());
     return {.fault = {}, .notice = setAsideNotice(m_path, pathText(newFile)), .error = 0};

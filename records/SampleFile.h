@@ -23,7 +23,7 @@ public:
     /// first. A damaged file is set aside and the work done on a new one.
     StoreOutcome change(const Work& work);
 
-    /// Does work that changes nothing, or that allows of no transaction. Not called where there is no file. A
+    /// Does work that changes nothing, or that no transaction allows. Not called where there is no file. A
     /// damaged file is set aside; there is nothing to read then.
     StoreOutcome look(const Work& work);
 

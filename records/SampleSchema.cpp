@@ -5,7 +5,7 @@ namespace quindle {
 namespace {
 
 // A moment has one sample at most. States and sources are numbers of their enumerations, so those only grow
-// at their ends.
+// at the end.
 constexpr const char* firstVersion =
     "BEGIN IMMEDIATE;"
     "CREATE TABLE samples ("
@@ -28,7 +28,7 @@ std::optional<qint64> schemaVersion(Database& database)
 
 bool makeSchema(Database& database, qint64 from)
 {
-    // With a journal beside the file readers wait for no writer. Its contents reach the disk when it is taken
+    // With a journal beside the file, readers do not wait for writers. It reaches the disk when it is merged
     // into the file: a power cut may cost the last samples, a crash none.
     return database.run("PRAGMA journal_mode = WAL") && database.run("PRAGMA synchronous = NORMAL") &&
            (from == newestSchema || database.run(firstVersion));

@@ -10,7 +10,7 @@ namespace {
 
 bool insert(Database& database, const std::vector<StoredSample>& samples)
 {
-    // The first at a moment stays: what is taken over from elsewhere comes later, after a crash twice.
+    // The first at a moment stays: what is taken over from elsewhere comes later, and twice after a crash.
     Statement statement = database.statement("INSERT OR IGNORE INTO samples VALUES (?, ?, ?, ?, ?, ?)");
     for (const StoredSample& stored : samples) {
         const Sample& sample = stored.sample;
@@ -90,7 +90,7 @@ bool thinBefore(Database& database, qint64 before, qint64 span, qint64 now)
         return false;
     if (!first)
         return true;
-    // From a whole span on, because its value may be there already when one of its samples comes late.
+    // From the start of a span, because its value may be there already when one of its samples comes late.
     const qint64 from = *first - *first % span;
     std::vector<StoredSample> samples;
     return select(database, from, before - 1, samples) && removeBetween(database, from, before - 1) &&
@@ -163,7 +163,7 @@ StoreOutcome SampleStore::thin(qint64 now)
     StoreOutcome checked = m_file.check();
     if (!checked.isGood() || !checked.notice.isEmpty())
         return checked;
-    // The oldest first: what becomes a value of a day need not become values of hours before.
+    // The oldest first: what becomes a value of a day need not become values of hours first.
     return m_file.change([now](Database& database) {
         return thinBefore(database, dailyBefore(now), secondsOfDay, now) &&
                thinBefore(database, hourlyBefore(now), secondsOfHour, now);
@@ -179,10 +179,10 @@ StoreOutcome SampleStore::removeBefore(qint64 moment)
 
 StoreOutcome SampleStore::removeAll()
 {
-    // Deleted rows stay readable in the file until it is written anew, and in the journal until that is cut
-    // off.
+    // Deleted rows stay readable in the file until it is rewritten, and in the journal until that is
+    // truncated.
     const StoreOutcome removed = m_file.look([](Database& database) {
-        // In no transaction: within one a file cannot be written anew.
+        // In no transaction: a file cannot be rewritten within one.
         return database.run("DELETE FROM samples") && database.run("VACUUM") &&
                database.run("PRAGMA wal_checkpoint(TRUNCATE)");
     });

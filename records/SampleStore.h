@@ -34,7 +34,7 @@ public:
     std::optional<qint64> firstMoment();
     std::optional<qint64> lastMoment();
 
-    /// Looks for damage, and makes the samples coarser that have become old (see Thinning.h).
+    /// Looks for damage, and makes old samples coarser (see Thinning.h).
     StoreOutcome thin(qint64 now);
 
     StoreOutcome removeBefore(qint64 moment);

@@ -14,7 +14,7 @@ namespace quindle {
 
 namespace {
 
-/// Writers hold the lock while they read and write a file; of a century that takes seconds.
+/// Writers hold the lock while they read and write a file, which takes seconds for a century.
 constexpr std::chrono::milliseconds archivePatience(15000);
 
 /// A file that a program left unfinished has records of neither kind; one that cannot be read may be whole.
@@ -79,7 +79,7 @@ StoreOutcome SnapshotArchive::change(const Change& change)
         outcome = setAside();
     if (!outcome.isGood())
         return outcome;
-    // Safe now: whoever left them has not got the lock any more.
+    // Safe now: their writer no longer holds the lock.
     removeLeftovers(m_file);
     if (const int error = replaceFile(m_file, keyedArchive(*records)))
         outcome = {.fault = writingFault(m_path, error).fault, .notice = outcome.notice, .error = error};

@@ -114,7 +114,7 @@ bool isNamedSerial(const QString& key)
 /// The serial numbers under keys that say so, at any depth.
 void collectSerials(const QVariant& value, QStringList& serials)
 {
-    // A shorter one would be found everywhere.
+    // A shorter one would match everywhere.
     constexpr qsizetype shortestSerial = 4;
     if (value.typeId() == QMetaType::QVariantList) {
         for (const QVariant& item : value.toList())
@@ -220,7 +220,7 @@ bool exportSnapshots(const QVariantList& records, const ExportOptions& options,
     if (!write(writer.beginning()))
         return false;
     for (const QVariant& record : records) {
-        // Also of those that are left out, so that a battery keeps its number.
+        // The omitted ones count too, so that a battery keeps its number.
         const qint64 number = writer.numberOf(snapshotBattery(record));
         const auto date = snapshotDate(record);
         const bool isWanted = !options.since || (date && *date >= *options.since);

@@ -7,7 +7,7 @@ namespace quindle {
 /// What became of a change to one of the files of the history.
 struct StoreOutcome
 {
-    QString fault;  ///< why nothing was changed, one line that names file and reason; empty when all is well
+    QString fault;  ///< why nothing was changed, one line with file and reason; empty when all is well
     QString notice; ///< one line about a damaged file that was set aside; else empty
     int error = 0;  ///< errno's value of the fault; EIO where the system gave none
 

@@ -49,7 +49,7 @@ struct Sums
         charge += sample.charge * static_cast<double>(hold);
         seconds += hold;
         states.at(static_cast<std::size_t>(sample.state)) += hold;
-        // The mean is of those that know it: the others would draw it towards 0.
+        // The mean of those that know it: the others would pull it towards 0.
         if (!sample.power)
             return;
         power += *sample.power * static_cast<double>(hold);
@@ -106,7 +106,7 @@ std::vector<StoredSample> thinned(const std::vector<StoredSample>& samples, qint
     for (auto first = samples.begin(); first != samples.end();) {
         const qint64 width = widthAt(first->sample.moment, now);
         if (width == 0) {
-            // They are in order of time, so all that follow are as new.
+            // They are in order of time, so all that follow are newer.
             kept.insert(kept.end(), first, samples.end());
             break;
         }
@@ -122,7 +122,7 @@ std::vector<StoredSample> thinned(const std::vector<StoredSample>& samples, qint
 DailyTurn dailyTurn(std::optional<qint64> last, qint64 now)
 {
     constexpr qint64 longestPause = 60 * secondsOfDay;
-    // A clock that stood in another year must not thin the history of this one.
+    // A clock that was in another year must not thin this year's history.
     if (!last || now < *last || now - *last > longestPause)
         return DailyTurn::Note;
     return now - *last < secondsOfDay ? DailyTurn::Wait : DailyTurn::Go;

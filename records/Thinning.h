@@ -17,11 +17,11 @@ qint64 hourlyBefore(qint64 now);
 /// Samples before this moment, the start of a day (UTC) 365 days before `now`, are kept as one value a day.
 qint64 dailyBefore(qint64 now);
 
-/// The samples, sorted by moment, as they are to be kept at `now`. The value of an hour or day stands at its
-/// beginning. Charge and power are means over the time that each sample held: until the next one, but at most
-/// a quarter of an hour, since a longer silence may be sleep. The state is the one that held longest; the
-/// value counts as UPower's if a part of it is. Values that are coarse enough stay as they are, so thinning
-/// twice changes nothing.
+/// The samples, sorted by moment, as they are to be kept at `now`. The value of an hour or day has the moment
+/// of its beginning. Charge and power are means over the time that each sample held: until the next one, but
+/// at most a quarter of an hour, since a longer silence may be sleep. The state is the one that held longest;
+/// the value counts as UPower's if a part of it is. Values that are coarse enough stay as they are, so
+/// thinning twice changes nothing.
 std::vector<StoredSample> thinned(const std::vector<StoredSample>& samples, qint64 now);
 
 /// Whether the day's work on the history (thinning, the limit of its age) is to be done.

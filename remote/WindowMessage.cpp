@@ -72,7 +72,7 @@ QByteArray encoded(const WindowMessage& message)
 
 std::optional<WindowMessage> decoded(const QByteArray& bytes)
 {
-    // Nothing of another process is believed: a damaged message counts as none.
+    // Another process is not trusted: a damaged message counts as none.
     if (bytes.size() < textAt || bytes.size() > MessageLink::longestMessage)
         return std::nullopt;
     const auto kind = static_cast<Kind>(bytes[kindAt]);

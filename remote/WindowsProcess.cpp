@@ -34,7 +34,7 @@ void WindowsProcess::request(const WindowMessage& request)
     endIfItHangs();
     if (m_program && ask(request))
         return;
-    // One that takes no message has ended, which is not known yet, or reads none.
+    // A program that takes no message has ended, which is not known yet, or does not read.
     if (m_program)
         end();
     if (start() && !ask(request))
@@ -95,7 +95,7 @@ void WindowsProcess::receive(const QByteArray& bytes)
     } else if (message->kind == Kind::Heard) {
         hear(message->number);
     } else if (message->kind == Kind::Idle) {
-        // A request that is on the way to it counts more.
+        // A request on its way to the program counts more.
         if (message->number == m_requests)
             letGo();
     } else {
@@ -109,7 +109,7 @@ void WindowsProcess::hear(quint32 requests)
 {
     m_heard = requests;
     m_waitingSince = m_now();
-    // It works: the next failure is a new one, and said again.
+    // It works: the next failure is a new one, and logged again.
     m_logged.fill(false);
 }
 

@@ -21,7 +21,7 @@ public:
     using SteadyClock = std::function<std::chrono::milliseconds()>;
     using Receiver = std::function<void(const WindowMessage&)>;
 
-    /// Longer than anything that the program does at once, a look-up of the model's name included.
+    /// Longer than anything that the program does in one go, even looking up the model's name.
     static constexpr std::chrono::milliseconds patience{10'000};
 
     /// The starter must outlive it.
@@ -38,7 +38,7 @@ public:
     void setGone(std::function<void()> gone) { m_gone = std::move(gone); }
 
     /// Asks for a window, starting the program where it does not run. A program that has left a request
-    /// undone for too long, or takes none, is ended and another one started. While nothing can be open yet,
+    /// undone for too long, or takes none, is killed and another one started. While nothing can be open yet,
     /// toggling the view opens it, so that an impatient second click does not close what has not been seen.
     void request(const WindowMessage& request);
 

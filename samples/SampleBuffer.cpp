@@ -14,7 +14,7 @@ constexpr long long leastCharge = 10; // hundredths of a point
 constexpr double leastWatts = 0.5;
 constexpr double leastShare = 0.1;
 
-/// As a line says it, so that 50.2 and 50.3 are a tenth apart.
+/// As a line writes it, so that 50.2 and 50.3 are a tenth apart.
 long long hundredths(double percent)
 {
     return std::llround(percent * 100);
@@ -23,7 +23,7 @@ long long hundredths(double percent)
 bool hasPowerChanged(const std::optional<double>& last, const std::optional<double>& next)
 {
     if (!last || !next)
-        // To have become known, or not known, is a change.
+        // Becoming known or unknown is a change.
         return last.has_value() != next.has_value();
     return std::abs(*next - *last) >= std::max(leastWatts, std::abs(*last) * leastShare);
 }
@@ -52,7 +52,7 @@ void SampleBuffer::add(const Sample& sample)
         return;
     }
     if (m_samples.size() == most)
-        // What cannot be handed over for so long is lost from its beginning: the newest counts.
+        // What cannot be handed over for that long is dropped from the beginning: the newest counts.
         m_samples.pop_front();
     m_samples.push_back(sample);
 }

@@ -14,12 +14,12 @@ namespace quindle {
 enum class SampleFate {
     Ignored, ///< nothing has changed, or this minute has its sample
     Added,
-    Replaces ///< the one before: the battery's state has changed within its minute
+    Replaces ///< the last one: the battery's state has changed within its minute
 };
 
 /// At most one sample for each minute of the clock, and only when something has changed since the last one:
 /// the state, the charge by 0.1 points, whether the power is known, or the power by half a watt and a tenth
-/// of what it was (meters waver). A moment before the last one's (a clock that was set back) is another
+/// of its value (meters fluctuate). A moment before the last one's (a clock that was set back) is another
 /// minute.
 SampleFate sampleFate(const Sample& last, const Sample& next);
 
@@ -27,11 +27,11 @@ SampleFate sampleFate(const Sample& last, const Sample& next);
 class SampleBuffer
 {
 public:
-    /// A day's, one a minute: 58 kB. When more cannot be handed over the oldest fall out.
+    /// One a minute for a day: 58 kB. The oldest are dropped when more cannot be handed over.
     static constexpr std::size_t most = 1440;
 
-    /// Takes a sample as `sampleFate` says, also against the last one that has been let go of. The first one
-    /// is always taken.
+    /// Takes a sample as `sampleFate` says, compared with the last one even if that was handed over. The
+    /// first one is always taken.
     void add(const Sample& sample);
 
     bool isEmpty() const { return m_samples.empty(); }

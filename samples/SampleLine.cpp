@@ -35,7 +35,7 @@ QByteArray shortDecimal(double value)
         text.chop(1);
     if (text.endsWith('.'))
         text.chop(1);
-    // A small negative figure is rounded to it.
+    // A small negative figure rounds to it.
     return text == "-0" ? QByteArray("0") : text;
 }
 

@@ -19,7 +19,7 @@ std::optional<SampleState> sampleStateNamed(QByteArrayView name);
 
 /// A sample as a line with its end: whole seconds, percent and watts with at most two decimals, "-" for a
 /// power that is not known or not finite. ASCII and a decimal point in every locale. `sampleFromLine` refuses
-/// the line of a sample whose moment or charge lies outside of what Sample allows.
+/// the line of a sample whose moment or charge is outside what Sample allows.
 QByteArray sampleLine(const Sample& sample);
 
 /// The sample of a line, with or without its end. Nothing for anything that `sampleLine` does not write:

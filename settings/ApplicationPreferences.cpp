@@ -92,7 +92,7 @@ void ApplicationPreferences::store(const Setting<Type>& setting, const Value& va
 template <typename Type, typename Value>
 void ApplicationPreferences::store(const Setting<Type>& setting, const std::optional<Value>& value)
 {
-    if (value) // nothing is not written, and removes nothing
+    if (value) // no value writes nothing and removes nothing
         store(setting, *value);
 }
 

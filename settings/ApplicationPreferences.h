@@ -42,7 +42,7 @@ public:
     bool firstStart() const; ///< kept for the main application; false; fatal without the suite
     void setFirstStart(bool value);
 
-    // Settings in the helper's own database. Setting nothing writes nothing and removes nothing.
+    // Settings in the helper's own database. Setting no value writes nothing and removes nothing.
     std::optional<qint64> bundleVersionAtQuit() const; ///< nothing unless a whole number is stored
     void setBundleVersionAtQuit(std::optional<qint64> value);
     std::optional<QString> bundleVersionAtQuitText() const; ///< the same key; nothing unless a text is stored

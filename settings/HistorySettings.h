@@ -13,11 +13,10 @@ class UserDefaults;
 bool recordsHistory(const UserDefaults& own);
 void setRecordsHistory(UserDefaults& own, bool records);
 
-/// The notification between processes by which whoever shows the history asks for the samples that the helper
-/// has in memory.
+/// The notification by which a process that shows the history asks for the samples in the helper's memory.
 QString samplesWantedNotification();
 
-/// For how many days samples are kept; 0, also for less than that, means for ever.
+/// For how many days samples are kept; 0, which negative numbers read as, means for ever.
 qint64 historyDays(const UserDefaults& own);
 void setHistoryDays(UserDefaults& own, qint64 days);
 

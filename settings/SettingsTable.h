@@ -14,8 +14,8 @@ struct SettingDictionary
 {
 };
 
-/// One setting: where it is stored and what it reads as while nothing (or nothing of its type) is stored.
-/// `Type` is bool, qint64, QStringView (a text) or SettingDictionary.
+/// One setting: where it is stored, and what it reads as while no value of its type is stored. `Type` is
+/// bool, qint64, QStringView (a text) or SettingDictionary.
 template <typename Type>
 struct Setting
 {

@@ -49,7 +49,7 @@ bool StartupLaunch_pref::isAppLoginItem(LoginItems& items, const QString& bundle
 void StartupLaunch_pref::setLaunchOnLogin(LoginItems& items, const QString& bundlePath, bool enable)
 {
     const auto item = helperItem(items, bundlePath);
-    if (!items.snapshot()) // inherited: fetched a second time to be changed; it may be gone by then
+    if (!items.snapshot()) // inherited: fetched again to be changed; it may be gone by then
         return;
     // One item is enough: two would start the helper twice.
     if (enable && !item)

@@ -16,7 +16,7 @@ struct LevelKeys
     PercentRange range;
 };
 
-// In the order of the levels. Nobody wants to be told that half a battery is low, or an empty one full.
+// In the order of the levels. Nobody wants to hear that half a charge is low, or none full.
 constexpr std::array<LevelKeys, warningLevels.size()> levelKeys{{
     {Keys::warnLow, Keys::warnLowPercent, Keys::warnLowCommand, {1, 99}},
     {Keys::warnVeryLow, Keys::warnVeryLowPercent, Keys::warnVeryLowCommand, {1, 99}},

@@ -19,11 +19,11 @@ constexpr std::size_t mostReadings = 128;
 
 void RecentReadings::add(const BatteryReading& reading)
 {
-    // The last one before the minute holds at its beginning: a refresh that would find nothing new is left
-    // out.
+    // The last one before the minute holds at its beginning: refreshes that would find nothing new are
+    // skipped.
     while (m_readings.size() > 1 && reading.moment - m_readings[1].moment >= keptSeconds)
         m_readings.erase(m_readings.begin());
-    // Within the minute too: no driver decides how much is kept.
+    // Bounded within the minute too: a driver must not decide how much is kept.
     if (m_readings.size() >= mostReadings)
         m_readings.erase(m_readings.begin());
     m_readings.push_back(

@@ -17,20 +17,20 @@ struct BatteryReading
     SampleState state = SampleState::Unknown;
     std::optional<int> minutesToEmpty; ///< nothing where it is not known
     std::optional<int> chargeLimit;    ///< the percentage at which the computer stops charging
-    QString battery;                   ///< tells one battery from another
+    QString battery;                   ///< identifies the battery
 };
 
-/// Anything but that counts as plugged in.
+/// Any other state counts as plugged in.
 inline bool isDischarging(const BatteryReading& reading)
 {
     return reading.state == SampleState::Discharging;
 }
 
-/// The readings of the last minute, for what a single one cannot tell. A reading holds until the next one.
+/// The readings of the last minute, for what a single one does not show. A reading holds until the next one.
 class RecentReadings
 {
 public:
-    /// Moments must not run backwards: who sets the clock back forgets first.
+    /// Moments must not run backwards: call `forget` first when the clock was set back.
     void add(const BatteryReading& reading);
     void forget() { m_readings.clear(); }
 

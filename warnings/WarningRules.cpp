@@ -13,7 +13,7 @@ constexpr double roundingOfLimit = 1; // point: drivers stop a little below the 
 constexpr double criticalPercent = 5;
 constexpr double fullCharge = 100;
 
-/// The percentage of the level; nothing where there is none to reach.
+/// The percentage of the level; nothing where it has none.
 std::optional<int> percentOf(WarningLevel level, const LevelSettings& settings, const BatteryReading& reading)
 {
     return level == WarningLevel::LimitReached && settings.percent == 0 ? reading.chargeLimit
@@ -39,7 +39,7 @@ bool isReached(WarningLevel level, const LevelSettings& settings, const BatteryR
                std::optional<int> steadyMinutes)
 {
     const auto percent = percentOf(level, settings, reading);
-    // A battery that charges at 8 % is no news, and neither is one that falls from full.
+    // A battery that charges at 8 % is no news, nor is one that drops from full.
     if (!percent || isOfDischarge(level) != isDischarging(reading))
         return false;
     switch (level) {

@@ -18,11 +18,11 @@ constexpr bool isOfDischarge(WarningLevel level)
 bool isReached(WarningLevel level, const LevelSettings& settings, const BatteryReading& reading,
                std::optional<int> steadyMinutes);
 
-/// Whether this reading is so far from the level (3 points) that the level may be told of again.
+/// Whether this reading is so far from the level (3 points) that the level may be warned of again.
 bool isLeft(WarningLevel level, const LevelSettings& settings, const BatteryReading& reading,
             std::optional<int> steadyMinutes);
 
-/// The minutes that a warning of that level gives in place of the percentage: a steady estimate that is no
+/// The minutes that a warning of that level gives instead of the percentage: a steady estimate that is no
 /// longer than the level's percentage in minutes. Else nothing.
 std::optional<int> minutesToTell(WarningLevel level, const LevelSettings& settings,
                                  std::optional<int> steadyMinutes);

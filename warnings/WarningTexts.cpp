@@ -59,7 +59,7 @@ QString percentText(double percent)
 /// "About", so above ten minutes in steps of five.
 QString minutesText(int minutes)
 {
-    // An estimate says no more than that.
+    // An estimate is no more exact than that.
     const int shown = minutes > 10 ? (minutes + 2) / 5 * 5 : minutes;
     return shown == 1 ? QStringLiteral("About a minute left")
                       : QStringLiteral("About %1 minutes left").arg(shown);

@@ -8,14 +8,14 @@ namespace {
 
 using Kind = WarningAction::Kind;
 
-// Two refreshes of one change come within milliseconds, and know no more than one does.
+// Two refreshes for one change come within milliseconds, and say no more than one does.
 constexpr qint64 secondsToAgree = 5;
 constexpr qint64 quietSeconds = 60;
-// Seconds between two refreshes of a computer that is awake; those that find nothing new are left out for a
+// Seconds between two refreshes of a computer that is awake; those that find nothing new are skipped for a
 // minute at most.
 constexpr qint64 longestPause = 150;
 
-/// Since when it has been so, if it is so.
+/// Since when it has been true, if it is.
 void keepSince(std::optional<qint64>& since, bool isSo, qint64 moment)
 {
     if (!isSo)
@@ -28,7 +28,7 @@ void keepSince(std::optional<qint64>& since, bool isSo, qint64 moment)
 
 std::vector<WarningAction> WarningWatch::take(const BatteryReading& reading, const WarningSettings& settings)
 {
-    // Without a word from the login manager too, which not every system has.
+    // Even without notice from the login manager, which not every system has.
     const bool hasSlept =
         !m_lastMoment || reading.moment < *m_lastMoment || reading.moment - *m_lastMoment > longestPause;
     if (hasSlept)
@@ -70,8 +70,8 @@ std::vector<WarningAction> WarningWatch::loseBattery()
     return {{.kind = Kind::Withdraw}};
 }
 
-/// What the battery before was at says nothing about this one. One that is full already when it is first
-/// seen is no news.
+/// The level of another battery says nothing about this one. A battery that is full when first seen is no
+/// news.
 void WarningWatch::meetBattery(const QString& battery)
 {
     m_battery = battery;
@@ -99,8 +99,8 @@ void WarningWatch::followLevel(WarningLevel level, const LevelSettings& settings
         rearm(level, reading);
 }
 
-/// Estimates of the time come and go with the load, so a level that one has reached stays told until the
-/// battery is charged.
+/// Estimates of the time come and go with the load, so a level that an estimate has reached counts as warned
+/// of until the battery is charged.
 void WarningWatch::rearm(WarningLevel level, const BatteryReading& reading)
 {
     Level& known = (*this)[level];
@@ -125,7 +125,7 @@ bool WarningWatch::isConfirmed(const std::optional<qint64>& since, qint64 moment
     return since && moment - *since >= secondsToAgree && !m_recent.hasJumped();
 }
 
-/// Whether what is shown does not hold any more: another state than its level's, or the level is left.
+/// Whether what is shown no longer holds: the state is not its level's, or the level has been left.
 bool WarningWatch::isOutdated(const BatteryReading& reading)
 {
     return m_shown && (isOfDischarge(*m_shown) != isDischarging(reading) || !(*this)[*m_shown].isTold);

@@ -13,7 +13,7 @@ namespace quindle {
 struct WarningAction
 {
     enum class Kind {
-        Show,     ///< a notification where none is
+        Show,     ///< a notification where there is none
         Replace,  ///< the notification that is there
         Withdraw, ///< the notification that is there; the rest says nothing
         Run,      ///< the level's command
@@ -23,14 +23,14 @@ struct WarningAction
     WarningLevel level = WarningLevel::Low;
     double percent = 0;
     SampleState state = SampleState::Unknown;
-    std::optional<int> minutes{}; ///< until empty, to be told in place of the percentage
+    std::optional<int> minutes{}; ///< until empty, to be shown instead of the percentage
 
     friend bool operator==(const WarningAction&, const WarningAction&) = default;
 };
 
 /// Watches the battery's readings and says when to warn: once for each level and discharge, with one
-/// notification at a time. It believes no single reading, nor any while the charge jumps, and shows nothing
-/// but that the battery is nearly empty in the first minute.
+/// notification at a time. It trusts no single reading, and none while the charge jumps; in the first minute
+/// it only shows that the battery is nearly empty.
 class WarningWatch
 {
 public:
@@ -41,10 +41,10 @@ public:
     /// The computer has woken at that moment, in seconds since 1970.
     void wake(qint64 moment);
 
-    /// There is no battery any more.
+    /// The battery is gone.
     std::vector<WarningAction> loseBattery();
 
-    /// Whether the battery is very low and discharging, whoever warns of it.
+    /// Whether the battery is very low and discharging, no matter which program warns of it.
     bool needsAttention() const { return m_needsAttention; }
 
 private:

@@ -12,7 +12,7 @@ namespace {
 
 bool isExposed(const QWindow& window)
 {
-    // Of popups only the open ones: they are made anew each time, and closed ones are nobody's.
+    // Only the open popups: they are made anew each time, and closed ones belong to nothing.
     return window.type() == Qt::Popup ? window.isVisible() : window.type() != Qt::Desktop;
 }
 

@@ -3,8 +3,8 @@
 namespace quindle {
 
 /// Lets assistive technologies find open popups among the windows of the application, where the toolkit
-/// leaves out what is a popup by type: that is for menus, and a view with the whole content of the program
-/// would be no part of it. To be called before the QApplication is made.
+/// leaves out windows of type popup. That is meant for menus; a view with all that the program shows would
+/// not be found. To be called before the QApplication is made.
 void exposePopups();
 
 } // namespace quindle

@@ -18,7 +18,7 @@ BoundLineEdit::BoundLineEdit(QWidget* parent)
 void BoundLineEdit::setBoundText(const QString& text)
 {
     m_boundText = text;
-    // A change from elsewhere must not take a text away that somebody is writing.
+    // A change from elsewhere must not replace a text that is being typed.
     const bool isBeingTyped = hasFocus() && isModified();
     if (text != this->text() && !isBeingTyped)
         setText(text);
@@ -28,13 +28,13 @@ void BoundLineEdit::setBoundText(const QString& text)
 void BoundLineEdit::commit()
 {
     setModified(false);
-    // Before the signal: what is stored comes back as the bound text, and is no other change then.
+    // Before the signal: what is stored comes back as the bound text, and is no change then.
     m_boundText = text();
     followPending();
     Q_EMIT committed();
 }
 
-// The Return key has emitted its own signal before, and left nothing modified.
+// The Return key has already emitted its own signal, and left nothing modified.
 void BoundLineEdit::commitChange()
 {
     if (isModified() && text() != m_boundText)

@@ -19,22 +19,22 @@ public:
     const QString& boundText() const { return m_boundText; }
     void setBoundText(const QString& text);
 
-    /// Takes the shown text for what the user wants.
+    /// Treats the shown text as what the user wants.
     void commit();
 
-    /// Whether the shown text is another than the stored one.
+    /// Whether the shown text differs from the stored one.
     bool isPending() const { return text() != m_boundText; }
 
 Q_SIGNALS:
-    /// The user wants the shown text: once for the Return key, once for leaving the field with another text
-    /// than the bound one, and never twice for the same typing.
+    /// The user wants the shown text: on the Return key, on leaving the field with a text that differs from
+    /// the bound one, and never twice for the same typing.
     void committed();
 
-    /// `isPending` gives something else than before.
+    /// `isPending` has changed.
     void pendingChanged();
 
 protected:
-    /// Escape takes back what is not stored; where nothing is to be taken back it is left to the window.
+    /// Escape undoes what is not stored; with nothing to undo it is left to the window.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

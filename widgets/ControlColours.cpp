@@ -10,7 +10,7 @@ namespace quindle {
 
 namespace {
 
-/// Only the window's colour, since a palette that is set hides what the desktop changes in it.
+/// Only the window's colour, since a palette that was set hides the desktop's changes.
 void setOutlineSource(QWidget& box, const QColor& source)
 {
     QPalette own;
@@ -34,7 +34,7 @@ QColor hintColour(const QPalette& palette)
 QColor outlineSource(const QPalette& palette)
 {
     constexpr double outlineShare = 0.6;
-    // The outline of the toolkit's own style is that much darker than the window, in percent.
+    // The outline of the toolkit's own style is this much darker than the window, in percent.
     constexpr int darkening = 127;
     const QColor window = palette.color(QPalette::Window);
     if (!isDark(window))

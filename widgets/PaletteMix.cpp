@@ -46,7 +46,7 @@ double contrast(const QColor& first, const QColor& second)
 
 QColor quietText(const QColor& text, const QColor& background)
 {
-    // Palettes differ too much for one share: what is quiet on one cannot be read on another.
+    // Palettes differ too much for one share: what is quiet on one is unreadable on another.
     for (double share = quietestShare; share < 1; share += 0.05) {
         const QColor color = mixed(text, background, share);
         if (contrast(color, background) >= readableContrast)

@@ -16,8 +16,8 @@ QColor mixed(const QColor& text, const QColor& background, double share);
 /// The contrast of two colours, from 1 to 21 (relative luminances as in the accessibility guidelines).
 double contrast(const QColor& first, const QColor& second);
 
-/// Text that steps back: as quiet as it can be with a contrast of 4.5 to the background; where even the
-/// plain text has less, the plain text.
+/// Less prominent text: as quiet as a contrast of 4.5 to the background allows; the plain text where that has
+/// less already.
 QColor quietText(const QColor& text, const QColor& background);
 
 bool isDark(const QColor& background);
@@ -26,8 +26,8 @@ bool isDark(const QColor& background);
 QColor backgroundOf(const QWidget& widget);
 QColor textOf(const QWidget& widget);
 
-/// What panes stand on: a view's background where it is the lighter one, as paper is; otherwise the window's,
-/// since on anything darker the outlines of check boxes cannot be seen.
+/// The background of panes: a view's where that is lighter, like paper; otherwise the window's, since on
+/// anything darker the outlines of check boxes cannot be seen.
 QPalette::ColorRole contentRole(const QPalette& palette);
 
 /// A toolbar stands out from the content a little, unless it is transparent.

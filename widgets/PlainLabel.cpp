@@ -45,7 +45,7 @@ bool PlainLabel::event(QEvent* event)
     const bool showsWhole = event->type() == QEvent::ToolTip && toolTip().isEmpty();
     if (!showsWhole || sizeHint().width() <= width())
         return QLabel::event(event);
-    // What is cut can still be read.
+    // The whole text can still be read.
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), literalToolTip(text()), this);
     return true;
 }

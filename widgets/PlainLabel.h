@@ -14,11 +14,11 @@ class PlainLabel : public QLabel
 public:
     explicit PlainLabel(QWidget* parent = nullptr);
 
-    /// Quiet text stands back, as captions do.
+    /// Quiet text is less prominent, like a caption.
     bool isQuiet() const { return m_quiet; }
     void setQuiet(bool quiet);
 
-    /// Where the ellipsis stands; at the end of the text unless set otherwise.
+    /// Where the ellipsis goes: at the end of the text unless set otherwise.
     void setElideMode(Qt::TextElideMode elideMode);
 
     QSize sizeHint() const override;

@@ -9,7 +9,7 @@ namespace quindle {
 
 namespace {
 
-// No line on a screen is longer; what comes after is not worth measuring.
+// No line on a screen is longer; the rest is not worth measuring.
 constexpr qsizetype longestMeasured = 1000;
 
 QString measured(const QString& text)
@@ -23,7 +23,7 @@ QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignmen
                     Qt::TextElideMode elideMode)
 {
     const QString line = painter.fontMetrics().elidedText(measured(text), elideMode, rect.width());
-    // By the text and not by the layout: a Hebrew name reads right to left in an English view too.
+    // By the text, not by the layout: a Hebrew name reads right to left in an English view too.
     const int direction = line.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     const int flags = static_cast<int>(alignment | Qt::AlignAbsolute) | Qt::TextSingleLine | direction;
     QRect covered;

@@ -6,7 +6,7 @@ namespace quindle {
 
 namespace {
 
-// The start and not the end is kept in view where a length does not fit at all.
+// Where a length does not fit at all, the start is kept in view, not the end.
 int within(int start, int length, int from, int room)
 {
     return std::max(from, std::min(start, from + room - length));

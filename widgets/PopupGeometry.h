@@ -6,7 +6,7 @@ namespace quindle {
 
 /// Where a popup of that size opens for a click at `anchor`: beside the pointer, below it in the upper half
 /// of the screen and above it in the lower, never over a panel (`available` is the screen without its
-/// panels), with `gap` to the edges. What is larger than there is room for is cut to it.
+/// panels), with `gap` to the edges. It is cut to the room there is.
 QRect popupGeometry(const QPoint& anchor, const QSize& size, const QRect& available, int gap);
 
 /// Where a popover of that size opens beside `anchor`: at its trailing edge (the right one, the left one

@@ -56,7 +56,7 @@ private:
         QString name;
         for (qsizetype i = 0; i < label.size(); ++i) {
             if (label[i] == u'&' && i + 1 < label.size())
-                ++i; // what it marks stays, also another "&"
+                ++i; // keeps what it marks, even another "&"
             name.append(label[i]);
         }
         return name;

@@ -27,13 +27,13 @@ void RadioMatrix::setCells(const QStringList& labels)
 {
     qDeleteAll(m_group.buttons());
     auto* line = static_cast<QBoxLayout*>(layout());
-    setFocusPolicy(Qt::TabFocus); // without one it has no place in the tab order
+    setFocusPolicy(Qt::TabFocus); // otherwise it has no place in the tab order
     QWidget* previous = this;
     for (int tag = 0; tag < labels.size(); ++tag) {
         auto* cell = new RadioCell(labels[tag], this);
         m_group.addButton(cell, tag);
         line->insertWidget(tag, cell);
-        setTabOrder(previous, cell); // labels may come when all other controls are there already
+        setTabOrder(previous, cell); // labels may be set after all other controls exist
         previous = cell;
     }
     // Only cells take the keyboard.

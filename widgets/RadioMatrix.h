@@ -21,7 +21,7 @@ public:
     QStringList cells() const;
     void setCells(const QStringList& labels);
 
-    /// Whether the cells stand beside each other, as at first, or below.
+    /// Whether the cells stand side by side, as at first, or in a column.
     bool isRow() const;
     void setIsRow(bool isRow);
 
@@ -30,7 +30,7 @@ public:
     void setSelectedTag(qint64 tag);
 
 Q_SIGNALS:
-    /// The user has chosen a cell in whatever way, also the one that was selected already.
+    /// The user has chosen a cell in any way, even the one that was already selected.
     void clicked();
 
 private:

@@ -29,7 +29,7 @@ QColor faded(QColor color, float alpha)
     return color;
 }
 
-/// A radio button that looks like its part of the whole control.
+/// A radio button drawn as its part of the whole control.
 class Segment : public QRadioButton
 {
 public:
@@ -78,7 +78,7 @@ protected:
     }
 
 private:
-    /// The whole control's, in this segment's coordinates: what lies outside of the segment is clipped.
+    /// The whole control's, in this segment's coordinates: anything outside the segment is clipped.
     QPainterPath controlOutline() const
     {
         const double radius = fontMetrics().height() * radiusShare;
@@ -139,7 +139,7 @@ SegmentedControl::SegmentedControl(const QStringList& titles, QWidget* parent)
     for (const QString& title : titles) {
         auto* segment = new Segment(title, this);
         m_segments->addButton(segment, segmentCount());
-        // An assistive technology selects without a click. A click may also choose what is selected already.
+        // An assistive technology selects without a click. A click may also choose what is already selected.
         connect(segment, &Segment::toggled, this, [this, segment](bool selected) {
             if (selected && !segment->isClicking())
                 Q_EMIT action();

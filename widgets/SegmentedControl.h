@@ -32,7 +32,7 @@ public:
     QWidget* segment(int tag) const;
 
 Q_SIGNALS:
-    /// The user chose a segment, which may be the one that was chosen already.
+    /// The user chose a segment, which may have been chosen already.
     void action();
 
 private:

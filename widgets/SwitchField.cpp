@@ -27,7 +27,7 @@ QSize SwitchField::minimumSizeHint() const
     return {0, fontMetrics().height()};
 }
 
-// The text ends at the row's far edge in both directions of writing.
+// The text ends at the row's far edge in both writing directions.
 QRect SwitchField::textRect() const
 {
     const QSize size(std::min(sizeHint().width(), width()), height());

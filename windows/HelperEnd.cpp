@@ -4,7 +4,7 @@
 
 namespace quindle {
 
-// A helper that has gone takes its windows along, and one that does not read will not refresh anything.
+// A helper that has gone takes its windows with it, and one that does not read refreshes nothing.
 void HelperEnd::tell(const WindowMessage& message)
 {
     m_link.send(encoded(message));

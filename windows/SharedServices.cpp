@@ -35,7 +35,7 @@ Punctuality HelpersRunLoop::keepPunctual()
     if (Punctuality watched = m_watched.lock())
         return watched;
     m_helper.tell(Kind::Watched, 1);
-    // Of one watch after the other, only the last one's end is an end.
+    // With several watches only the end of the last one counts.
     Punctuality watched(this, [this](void*) { m_helper.tell(Kind::Watched, 0); });
     m_watched = watched;
     return watched;
@@ -71,7 +71,7 @@ HelpersApplication::HelpersApplication(HelperEnd& helper, Application& windows)
 void HelpersApplication::terminate()
 {
     m_helper.tell(Kind::Quit);
-    // Without waiting for a helper that may be busy: what was chosen is seen at once.
+    // Without waiting for a helper that may be busy: the user sees the choice at once.
     m_windows.terminate();
 }
 

@@ -10,7 +10,7 @@ namespace quindle {
 
 class HelperEnd;
 
-/// A loop without timers: the windows are refreshed when the helper is, which is told when somebody looks.
+/// A loop without timers: the windows refresh when the helper does, which learns when somebody looks.
 class HelpersRunLoop : public RunLoop
 {
 public:

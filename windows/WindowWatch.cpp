@@ -34,7 +34,7 @@ bool WindowWatch::eventFilter(QObject* watched, QEvent* event)
 {
     const bool shows = event->type() == QEvent::Show || event->type() == QEvent::Hide;
     if (shows && watched->isWidgetType() && static_cast<QWidget*>(watched)->isWindow())
-        // Afterwards: during the event the window is still, or not yet, as it was.
+        // Afterwards: during the event the window still has its old state.
         QMetaObject::invokeMethod(
             this, [this] { look(); }, Qt::QueuedConnection);
     return false;

@@ -100,7 +100,7 @@ public:
 
     void begin(const WindowMessage& request) override
     {
-        // A recorded computer's states and settings live in memory, so a new process has to be told them.
+        // A recorded computer's states and settings live in memory, so a new process has to be sent them.
         for (; m_entered < request.number && m_entered < m_steps.size(); ++m_entered)
             m_recorded.computer.enter(m_steps[m_entered]);
         const QVariantMap databases = propertyListFromBytes(request.data).value_or(QVariant()).toMap();
@@ -108,7 +108,7 @@ public:
             storeAll(database.key(), database.value().toMap());
     }
 
-    // The helper announces what a state does announce.
+    // The helper announces whatever a state announces.
     void follow(const WindowMessage& message, HelperAppDelegate& delegate) override
     {
         while (m_entered < message.number && m_entered < m_steps.size())

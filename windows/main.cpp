@@ -46,8 +46,8 @@ void leaveStartToHelper(const QApplication& application)
                      [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); });
 }
 
-/// The toolkit's application under the name by which desktops find the entry of the helper, to which all that
-/// is shown belongs.
+/// The toolkit's application under the name by which desktops find the helper's entry: all windows belong to
+/// it.
 class HelpersApplication
 {
 public:

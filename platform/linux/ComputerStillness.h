@@ -12,19 +12,19 @@
 namespace quindle {
 
 /// Whether anything has changed that a refresh reads: the supplies and the files of the settings. `begin` and
-/// `isStill` are of one thread, which may hang in them.
+/// `isStill` belong to one thread, which may hang in them.
 class ComputerStillness
 {
 public:
     ComputerStillness(std::string supplies, std::string settings);
 
-    /// False where changes cannot be seen; see StillSupplies. That is also so where a file of the settings is
-    /// a link: what it leads to may be anywhere.
+    /// False where changes cannot be seen; see StillSupplies. So too where a settings file is a link: its
+    /// target may be anywhere.
     bool begin();
 
     bool isStill();
 
-    /// When nothing had changed, in order, by timeSinceBoot; each moment is given once. Any thread's.
+    /// The moments at which nothing had changed, in order, by timeSinceBoot; each is given once. Any thread.
     std::vector<std::chrono::milliseconds> takeMoments();
 
 private:

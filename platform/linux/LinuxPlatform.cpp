@@ -64,7 +64,7 @@ struct LinuxPlatform::Services
         , loginItems(loginItemPlaces(bundle.path()), settingsAccess)
         , powerEvents([this] { sampler.lookAgain(); })
     {
-        // A sample is of one turn of the main loop.
+        // A sample lasts for one turn of the main loop.
         using Loop = QAbstractEventDispatcher;
         sampler.setLateObserver([this] { powerEvents.announce(); });
         firstTime.setSingleShot(true);
@@ -108,7 +108,7 @@ struct LinuxPlatform::Services
     LinuxUserDirectories userDirectories;
     LinuxLoginItems loginItems;
     LinuxPowerEvents powerEvents;
-    QTimer firstTime; ///< when a first remaining time can be told
+    QTimer firstTime; ///< when a first remaining time can be shown
     QObject turns;
 };
 
@@ -126,7 +126,7 @@ QByteArray LinuxPlatform::powerMemory() const
 
 void LinuxPlatform::setPowerMemory(const QByteArray& memory)
 {
-    // From another process: what it does not say well is not believed.
+    // From another process, which is not trusted: what is malformed is ignored.
     if (const auto remembered = estimatorMemoryFrom(memory))
         m_services->sampler.estimator().setMemory(*remembered);
 }

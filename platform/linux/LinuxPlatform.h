@@ -19,12 +19,12 @@ public:
                            SettingsAccess settingsAccess = SettingsAccess::ReadAndWrite);
     ~LinuxPlatform();
 
-    /// What estimates of times are made from, for another process that shows the same batteries; empty before
-    /// there is anything. And going on from there.
+    /// What times are estimated from, for another process that shows the same batteries; empty before there
+    /// is anything. The setter continues from there.
     QByteArray powerMemory() const;
     void setPowerMemory(const QByteArray& memory);
 
-    /// Has the run loop leave out refreshes that would find nothing new, while `mayRest` allows it.
+    /// Has the run loop skip refreshes that would find nothing new, while `mayRest` allows it.
     void restWhileNothingChanges(std::function<bool()> mayRest);
 
     Bundle& bundle() const;

@@ -10,7 +10,7 @@ namespace quindle {
 
 namespace {
 
-// A lock on a file that was removed meanwhile shuts nobody out.
+// A lock on a file that was removed meanwhile excludes nobody.
 bool isStillAt(int descriptor, const QByteArray& path)
 {
     struct stat opened = {};
@@ -19,7 +19,7 @@ bool isStillAt(int descriptor, const QByteArray& path)
            opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-// O_NOFOLLOW, because a lock behind a link would be another file than the next process locks.
+// O_NOFOLLOW, because the next process might lock another file behind the link.
 FileDescriptor tryLock(const QByteArray& path)
 {
     for (;;) {
@@ -41,14 +41,14 @@ std::optional<FileLock> FileLock::take(const QByteArray& path, std::chrono::mill
         FileDescriptor file = tryLock(path);
         if (file.isOpen())
             return FileLock(std::move(file));
-        // Anything but a lock that is held does not get better by waiting.
+        // Waiting only helps while another process holds the lock.
         if (errno != EWOULDBLOCK)
             return std::nullopt;
         if (std::chrono::steady_clock::now() >= deadline) {
             errno = EWOULDBLOCK;
             return std::nullopt;
         }
-        // Trying again instead of waiting in the kernel: a holder that was stopped must not stop us for good.
+        // Retried instead of waiting in the kernel: a stopped holder must not stop us for good.
         std::this_thread::sleep_for(std::chrono::microseconds(500));
     }
 }

@@ -15,9 +15,8 @@ namespace quindle {
 class FileLock
 {
 public:
-    /// Takes the lock at `path`, creating the file (0600). When another holds it, waits as long as
-    /// `patience`; with 0 it is tried once. Nothing on failure: errno says why, EWOULDBLOCK when it is still
-    /// held.
+    /// Takes the lock at `path`, creating the file (0600). Waits for another holder for up to `patience`; 0
+    /// tries once. Nothing on failure: errno says why, EWOULDBLOCK when it is still held.
     static std::optional<FileLock> take(const QByteArray& path, std::chrono::milliseconds patience);
 
 private:

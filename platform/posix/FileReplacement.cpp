@@ -38,7 +38,7 @@ int writeAll(int descriptor, const QByteArray& bytes)
             return errno;
         written += count > 0 ? count : 0;
     }
-    // Before the name is given: after a power cut it must not stand for an empty file.
+    // Before the rename: after a power cut the name must not lead to an empty file.
     return ::fsync(descriptor) == 0 ? 0 : errno;
 }
 
@@ -140,7 +140,7 @@ int replaceFile(const QByteArray& path, const QByteArray& bytes)
 
 int replaceLink(const QByteArray& path, const QByteArray& target)
 {
-    // One name for all: who replaces the link holds the lock of its writers.
+    // One name for all writers: they replace the link under a lock.
     const QByteArray temporary = folderOf(path) + '/' + temporaryPrefix(path) + "link";
     ::unlink(temporary.constData());
     if (::symlink(target.constData(), temporary.constData()) != 0)
@@ -170,7 +170,7 @@ int renameWithoutReplacing(const QByteArray& path, const QByteArray& newPath)
         return 0;
     if (errno != EINVAL && errno != ENOSYS && errno != ENOTSUP)
         return errno;
-    // Some file systems cannot promise it; a look before is the best there.
+    // Some file systems cannot guarantee it; a check before is the best there.
     struct stat found = {};
     if (::lstat(newPath.constData(), &found) == 0)
         return EEXIST;

@@ -16,8 +16,8 @@ QByteArray folderOf(const QByteArray& path);
 /// Makes a folder and those above it, open to the user alone. One that is there already is fine.
 int makeFolder(const QByteArray& path);
 
-/// Writes a temporary file beside `path` (0600), brings it to the disk, and gives it the name. When that
-/// fails, the name still has its old contents and nothing is left over.
+/// Writes a temporary file beside `path` (0600), flushes it to the disk, and renames it. When that fails, the
+/// name still has its old contents and nothing is left over.
 int replaceFile(const QByteArray& path, const QByteArray& bytes);
 
 /// Makes `path` a symbolic link to `target`, replacing what was there.
@@ -30,11 +30,11 @@ void removeLeftovers(const QByteArray& path);
 /// Renames `path` to `newPath`, never over a file that is there (EEXIST).
 int renameWithoutReplacing(const QByteArray& path, const QByteArray& newPath);
 
-/// Renames `path` to a name beside it that says that it was damaged, and when:
-/// "FILE.damaged-20260228-143000". `newPath` is that name; no other file is ever lost to it.
+/// Renames `path` to a name beside it that says it was damaged, and when: "FILE.damaged-20260228-143000".
+/// `newPath` is that name; no other file is ever lost to it.
 int setAsideAsDamaged(const QByteArray& path, QByteArray& newPath);
 
-/// Removes what `setAsideAsDamaged` made of `path` so far. Gives the first error.
+/// Removes the files that `setAsideAsDamaged` has left of `path`. Gives the first error.
 int removeDamaged(const QByteArray& path);
 
 } // namespace quindle

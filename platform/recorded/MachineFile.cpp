@@ -69,7 +69,7 @@ Verdict checkDate(const QVariant& value)
 
 Verdict checkNumber(const QVariant& value)
 {
-    // A boolean converts to a number, and is none.
+    // A boolean converts to a number, but is none.
     return wants(value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Double, "a number");
 }
 
@@ -136,7 +136,7 @@ Verdict checkDefaults(const QVariant& value)
         return fault;
     const QVariantMap databases = value.toMap();
     for (auto it = databases.cbegin(); it != databases.cend(); ++it)
-        // The program opens no other, so another name would be a mistake that nothing shows.
+        // The program opens no others, so another name would be a mistake that nobody notices.
         if (it.key() != u"standard" && it.key() != groupDatabaseName())
             return Fault{u'.' + it.key(), QStringLiteral("no such database")};
     return std::nullopt;
@@ -193,8 +193,8 @@ struct KeyRule
     Place place;
 };
 
-/// Only the form is checked. What stands inside entries is what that computer answered, whatever it was, and
-/// the program must bear it as it would there.
+/// Only the form is checked. Entries hold whatever that computer answered, and the program must cope with it
+/// as it would there.
 constexpr KeyRule keyRules[] = {
     {"Registry", checkDictionariesByName, Place::Anywhere},
     {"PowerSources", checkDictionaries, Place::Anywhere},
@@ -245,7 +245,7 @@ Verdict checkMachine(const QVariantMap& keys)
 MachineRefusal refusal(const QString& path, const QString& what)
 {
     QString line = path + QStringLiteral(": ") + what;
-    // Names of keys are anybody's text, the refusal stays one line.
+    // Names of keys may hold any text; the refusal stays one line.
     std::replace_if(
         line.begin(), line.end(), [](QChar c) { return c < u' '; }, u' ');
     return {line};
@@ -258,7 +258,7 @@ void makeFoldersAbsolute(QVariantMap& keys, const QDir& folder)
         return;
     QVariantList folders = found->toList();
     for (QVariant& path : folders)
-        // Relative ones count from the machine file, so both can be moved together.
+        // Relative to the machine file, so both can be moved together.
         path = QDir::cleanPath(folder.absoluteFilePath(pathWithTildeExpanded(path.toString())));
     *found = folders;
 }
@@ -285,7 +285,7 @@ MachineStep stepFromKeys(QVariantMap keys, const QDir& folder)
 MachineResult readMachineFile(const QString& path)
 {
     const FileContents file = fileContents(path, mostPropertyListBytes);
-    // Two refusals, which say whether the file or what is in it is at fault.
+    // Two refusals: one for the file, one for its contents.
     if (file.error != 0)
         return refusal(path, readingFault(file.error));
     const std::optional<QVariant> root = propertyListFromBytes(file.bytes);
@@ -299,7 +299,7 @@ MachineResult machineFromPropertyList(const QVariant& root, const QString& path)
     if (!isDictionary(root))
         return refusal(path, QStringLiteral("must be a dictionary"));
     Machine machine{root.toMap(), {}, path};
-    // All of it before anything is played: half of a refused file must not have happened.
+    // All of it before anything is played: a refused file must not be half played.
     if (const Verdict fault = checkMachine(machine.keys))
         return refusal(path, fault->inside + QStringLiteral(": ") + fault->reason);
     const QDir folder = QFileInfo(path).absoluteDir();

@@ -31,7 +31,7 @@ struct MachineStep
     QStringList remove; ///< paths to take out first
     QVariantMap keys;   ///< then these keys, of the types of the machine file
     std::vector<MachineAction> actions;
-    double after = 10; ///< seconds after the step before; 0 or more
+    double after = 10; ///< seconds after the previous step; 0 or more
 };
 
 /// A computer. `keys` holds the keys of the file, checked: a key that is there has the type that the format

@@ -30,7 +30,7 @@ OverlaidUserDefaultsDatabases::OverlaidUserDefaultsDatabases(UserDefaultsDatabas
 UserDefaults* OverlaidUserDefaultsDatabases::suite(const QString& suiteName)
 {
     UserDefaults* below = m_below.suite(suiteName);
-    // No overlay of nothing: that the database cannot be opened has to show.
+    // No overlay without a database: that it cannot be opened has to show.
     if (!below)
         return nullptr;
     std::unique_ptr<OverlaidUserDefaults>& overlay = m_suites[suiteName];

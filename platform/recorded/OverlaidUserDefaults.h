@@ -7,7 +7,7 @@
 
 namespace quindle {
 
-/// A database whose reads come from another one and whose writes stay in memory over it.
+/// A database that reads from another one, with its own writes laid over it in memory.
 class OverlaidUserDefaults : public UserDefaults
 {
 public:

@@ -13,7 +13,7 @@ RecordedBundle::RecordedBundle(const RecordedComputer& computer, const Bundle& p
 QString RecordedBundle::path() const
 {
     const std::optional<QVariantMap> bundle = m_computer.bundle();
-    // Replaced whole: the program's own path beside another bundle's information would be neither.
+    // Replaced as a whole: the program's path with another bundle's information would be neither.
     return bundle ? bundle->value(QStringLiteral("Path")).toString() : m_programBundle.path();
 }
 

@@ -64,7 +64,7 @@ void RecordedComputer::enter(const MachineStep& step)
     for (const QString& path : step.remove)
         removeFromComputer(m_keys, path);
     for (auto it = step.keys.cbegin(); it != step.keys.cend(); ++it) {
-        // Of these two a step names only what changes.
+        // A step names only what changes in these two.
         const bool byProperty = it.key() == u"Registry" || it.key() == u"Defaults";
         m_keys.insert(it.key(), byProperty ? overlaid(m_keys.value(it.key()).toMap(), it->toMap()) : *it);
     }
@@ -75,7 +75,7 @@ std::optional<QVariantMap> RecordedComputer::dictionary(const QString& key) cons
     const auto found = m_keys.constFind(key);
     if (found == m_keys.cend())
         return std::nullopt;
-    // Certainly of that type: the file was checked when it was read.
+    // Surely of that type: the file was checked when it was read.
     return found->toMap();
 }
 
@@ -119,7 +119,7 @@ QVariantMap RecordedComputer::database(const QString& name) const
 
 void RecordedComputer::setInDatabase(const QString& name, const QString& key, const QVariant& value)
 {
-    // Where steps write too: whoever wrote last counts.
+    // Where steps write too: the last write counts.
     const QVariantMap written{{name, QVariantMap{{key, value}}}};
     const QString defaults = QStringLiteral("Defaults");
     m_keys.insert(defaults, overlaid(m_keys.value(defaults).toMap(), written));

@@ -17,7 +17,7 @@ public:
     /// `keys` are those of a checked `Machine`, `machineFile` is its file.
     explicit RecordedComputer(QVariantMap keys, QString machineFile = {});
 
-    /// As it was named when it was read; empty for an invented computer.
+    /// The path it was read by; empty for an invented computer.
     const QString& machineFile() const { return m_machineFile; }
 
     /// Enters a later state: removes what the step removes, then overlays its registry and settings on the

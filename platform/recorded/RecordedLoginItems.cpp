@@ -49,7 +49,7 @@ void RecordedLoginItems::setEnabled(const QString& identifier, bool enabled)
     };
     QStringList items = m_computer.loginItems();
     const bool isThere = std::any_of(items.cbegin(), items.cend(), startsHelper);
-    // Already so, whichever way it came about.
+    // It is so already, in whatever way.
     if (isThere == enabled)
         return;
     if (enabled)

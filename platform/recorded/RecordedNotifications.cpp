@@ -12,7 +12,7 @@ void RecordedDistributedNotificationCenter::addObserver(const QString& name,
 
 void RecordedDistributedNotificationCenter::post(const QString& name)
 {
-    // To this process alone: no other one runs on a recorded computer.
+    // To this process alone: no other runs on a recorded computer.
     m_local.post(name);
 }
 

@@ -13,7 +13,7 @@ RecordedTimer::RecordedTimer(double interval, double tolerance, std::function<vo
 
 void RecordedTimer::fire() const
 {
-    // The loop keeps timers for good, those that were stopped as well.
+    // The loop keeps all timers, even those that were stopped.
     if (m_isValid)
         m_fire();
 }
@@ -21,7 +21,7 @@ void RecordedTimer::fire() const
 std::shared_ptr<Timer> RecordedRunLoop::scheduleRepeatingTimer(double interval, double tolerance,
                                                                std::function<void()> fire)
 {
-    // Kept and not started: what is played refreshes with each step, and at no other time.
+    // Kept but not started: what is played refreshes with each step and at no other time.
     m_timers.push_back(std::make_shared<RecordedTimer>(interval, tolerance, std::move(fire)));
     return m_timers.back();
 }

@@ -12,7 +12,7 @@ RecordedStatusItem::RecordedStatusItem(std::shared_ptr<StatusItemRecord> record)
 void RecordedStatusItem::setTitle(const QString& title)
 {
     m_record->title = title;
-    // Each of them: that the title is set to "100 %" first, and then twice, no host ever sees.
+    // Every one: no host ever sees that the title is first set to "100 %", and then twice.
     m_record->titlesSet.append(title);
 }
 
@@ -53,7 +53,7 @@ void RecordedStatusItem::setMenu(StatusMenu* menu)
 
 std::unique_ptr<StatusItem> RecordedStatusBar::statusItemWithLength(double length)
 {
-    // Shared with the item, so that what it is given can be looked at from outside.
+    // Shared with the item, so that its values can be seen from outside.
     m_lastItem = std::make_shared<StatusItemRecord>();
     m_lastItem->length = length;
     return std::make_unique<RecordedStatusItem>(m_lastItem);

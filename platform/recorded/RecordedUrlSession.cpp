@@ -22,7 +22,7 @@ QString configurationCodeIn(const QString& url)
 void RecordedUrlSession::post(const QString& url, const QByteArray& body,
                               std::function<void(int status, const QByteArray& body)> /*answered*/)
 {
-    // Kept and never answered: what is played must reach no service.
+    // Kept and never answered: a replay must not reach any service.
     m_posts.emplace_back(url, body);
 }
 

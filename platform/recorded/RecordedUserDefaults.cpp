@@ -29,7 +29,7 @@ QVariantMap RecordedUserDefaults::dictionaryRepresentation() const
 
 QString RecordedUserDefaults::file() const
 {
-    // For messages: what is wrong with a setting is wrong in that file.
+    // For messages: a wrong setting is wrong in that file.
     return m_computer.machineFile();
 }
 

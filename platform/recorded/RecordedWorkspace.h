@@ -21,7 +21,7 @@ private:
     QStringList m_launched;
 };
 
-/// Counts what it is asked for and goes on running.
+/// Counts the requests and goes on running.
 class RecordedApplication : public Application
 {
 public:

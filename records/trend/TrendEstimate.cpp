@@ -20,7 +20,7 @@ bool hasFullCharge(const CapacityPoint& point)
     return std::isfinite(point.fullChargeCapacity) && point.fullChargeCapacity > 0;
 }
 
-/// Readings of the design capacity may fail on some days; the newest that did not counts for all.
+/// The design capacity may be unreadable on some days; the newest reading counts for all.
 double designCapacity(const std::vector<CapacityPoint>& points)
 {
     const auto known = std::find_if(points.rbegin(), points.rend(), [](const CapacityPoint& point) {

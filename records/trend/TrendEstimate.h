@@ -15,7 +15,7 @@ struct WearPace
     double steepest = 0; ///< with a probability of 95 % it is between this
     double flattest = 0; ///< and this
 
-    double scatter = 0; ///< so many points beside the line lie 95 % of the readings at most
+    double scatter = 0; ///< 95 % of the readings lie at most this many points off the line
 
     /// Whether it is distinguishable from a battery that does not wear.
     bool isWear() const { return flattest < 0; }

@@ -64,7 +64,7 @@ double kendallTerm(double count)
     return count * (count - 1) * (2 * count + 5);
 }
 
-/// Of Kendall's statistic, less what values that are the same take from it.
+/// The variance of Kendall's statistic, corrected for ties.
 double kendallVariance(const std::vector<TrendValue>& values)
 {
     std::vector<double> sorted;
@@ -81,8 +81,7 @@ double kendallVariance(const std::vector<TrendValue>& values)
     return sum / 18;
 }
 
-/// How much more the statistic varies because what is left beside the line is alike from one value to the
-/// next.
+/// How much more the statistic varies because neighbouring values lie off the line in like ways.
 double correlationFactor(const std::vector<TrendValue>& values, const TrendLine& line)
 {
     double products = 0;
@@ -94,7 +93,7 @@ double correlationFactor(const std::vector<TrendValue>& values, const TrendLine&
         squares += rest * rest;
         former = rest;
     }
-    // Values that are wholly alike would leave no interval at all.
+    // Values that are all alike would leave no interval at all.
     const double correlation = squares > 0 ? std::clamp(products / squares, 0.0, mostCorrelation) : 0;
     return (1 + correlation) / (1 - correlation);
 }
@@ -138,7 +137,7 @@ std::optional<TrendLine> trendLine(const std::vector<TrendValue>& values)
         return {};
     TrendLine line;
     line.slope = trendMedian(slopes);
-    // A median again, so that no outlier lifts the line.
+    // A median again, so that no outlier shifts the line.
     std::vector<double> intercepts;
     intercepts.reserve(used.size());
     for (const TrendValue& value : used)

@@ -25,10 +25,10 @@ struct TrendLine
 };
 
 /// The line of Theil and Sen: the median of the slopes between all pairs, which up to 29 % of wrong values do
-/// not move. The interval is Sen's, from the variance of Kendall's statistic with ties; since each day's
-/// capacity resembles the day's before, which that takes for independent, the variance grows by the
-/// correlation of neighbours. `values` by x; of more than 400 the medians of groups are used. Nothing
-/// without two different x.
+/// not move. The interval is Sen's, from the variance of Kendall's statistic with ties; that takes days for
+/// independent, but each day's capacity resembles the previous one's, so the variance grows by the
+/// correlation of neighbours. `values` by x; of more than 400 the medians of groups are used. Nothing without
+/// two different x.
 std::optional<TrendLine> trendLine(const std::vector<TrendValue>& values);
 
 } // namespace quindle

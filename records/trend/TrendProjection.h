@@ -20,8 +20,8 @@ struct TrendProjection
     double highestEnd = 0;
 };
 
-/// As far as 80 % will have come with some certainty, but at least half a year and no farther than half of
-/// what is known already, or a year where that is more. Nothing where no wear is to be seen.
+/// Until 80 % is reached with some certainty, but for at least half a year, and for no longer than half of
+/// the recorded time, or a year where that is more. Nothing where no wear can be seen.
 std::optional<TrendProjection> projectionOf(const TrendEstimate& trend);
 
 } // namespace quindle

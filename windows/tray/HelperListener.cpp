@@ -17,7 +17,7 @@ namespace {
 
 constexpr auto socketName = "/socket";
 
-/// A path as addresses of D-Bus name it.
+/// A path as D-Bus addresses write it.
 QString addressOf(const QByteArray& socket)
 {
     return QStringLiteral("unix:path=") + QString::fromLatin1(socket.toPercentEncoding("-_/.\\*", "~"));

@@ -13,7 +13,7 @@ class QDBusServer;
 namespace quindle {
 
 /// A place where the helper can connect over D-Bus without a bus: a socket in a folder that no other user can
-/// enter, and of which the library admits this user alone. Both go with the first connection.
+/// enter; the library admits this user alone. Both are removed with the first connection.
 class HelperListener final : public QObject
 {
     Q_OBJECT

@@ -35,15 +35,15 @@ public:
     void choose(int id);
 
 Q_SIGNALS:
-    /// There is a picture, or another one, in every size that a tray may have room for.
+    /// There is a new picture, in every size that a tray may have room for.
     void pixmapsChanged(const QList<quindle::NotifierPixmap>& pixmaps);
 
-    /// There is a tool tip, or another one: plain text, or markup if it looks like it.
+    /// There is a new tool tip: plain text, or markup if it looks like it.
     void toolTipChanged(const QString& text);
 
     void menuRowsChanged(const QList<quindle::MenuRowProperties>& rows);
 
-    /// The helper has closed the connection, or is no more.
+    /// The helper has closed the connection or ended.
     void gone();
 
 private Q_SLOTS:

@@ -12,9 +12,9 @@ namespace quindle {
 
 class TrayMenu;
 
-/// The status item in an X11 tray. It shows itself as soon as it knows its picture and there is a tray, also
-/// another one later. Make it only while no watcher of status notifier items is on the bus: the toolkit would
-/// register it there.
+/// The status item in an X11 tray. It shows itself as soon as it knows its picture and there is a tray, even
+/// one that comes later. Make it only while no watcher of status notifier items is on the bus: the toolkit
+/// would register it there.
 class TrayIcon final : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,7 @@ namespace quindle {
 
 namespace {
 
-/// Facts are disabled rows, which many styles write in a grey that can hardly be read.
+/// Facts are disabled rows, which many styles draw in a grey that is hard to read.
 void makeDisabledLegible(QMenu& menu)
 {
     constexpr float share = 0.62F; // contrast of about 5 on white and on black
@@ -23,7 +23,7 @@ void makeDisabledLegible(QMenu& menu)
     menu.setPalette(palette);
 }
 
-/// From the protocol's mnemonics, of which the labels have none, to the toolkit's.
+/// From the protocol's mnemonics, which the labels do not have, to the toolkit's.
 QString actionText(const QVariantMap& properties)
 {
     QString label = properties.value(QStringLiteral("label")).toString();
@@ -31,7 +31,7 @@ QString actionText(const QVariantMap& properties)
     return label.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-/// What is not said has the protocol's usual value.
+/// Missing properties have the protocol's default values.
 void bringUpToDate(QAction* action, const QVariantMap& properties)
 {
     action->setVisible(properties.value(QStringLiteral("visible"), true).toBool());

@@ -7,7 +7,7 @@
 
 namespace quindle {
 
-/// The icon of these sizes; what is no picture, or larger than any icon, is left out.
+/// The icon in these sizes; invalid pictures and ones larger than any icon are left out.
 QIcon iconOf(const QList<NotifierPixmap>& pixmaps);
 
 } // namespace quindle

@@ -16,7 +16,7 @@ namespace quindle {
 
 namespace {
 
-/// In which the helper connects, unless it is no more.
+/// The helper connects within this time, unless it has ended.
 constexpr std::chrono::seconds patience(10);
 
 int run()
@@ -43,7 +43,7 @@ int run()
 void runTrayProcess()
 {
     const int status = run();
-    // Without the destructors of the libraries, which are not safe where there is a server of D-Bus.
+    // Without the libraries' destructors, which are not safe with a D-Bus server.
     ::_exit(status);
 }
 

@@ -21,7 +21,7 @@ QByteArray waylandDisplay(const DisplayNames& names)
     return names.wayland.startsWith(folder) ? names.wayland.mid(folder.size()) : names.wayland;
 }
 
-/// Without the screen, of which a display may have several, and without the ways to write that it is local.
+/// Without the screen, as a display may have several, and without the ways to say that it is local.
 QByteArray x11Display(QByteArray name)
 {
     const QByteArray localSocket = "/tmp/.X11-unix/X";
@@ -56,7 +56,7 @@ QString fitForFileName(const QByteArray& text)
 
 QString displayKey(const DisplayNames& names)
 {
-    // A Wayland session mostly has an X11 display too, for older programs.
+    // A Wayland session usually has an X11 display too, for older programs.
     if (!names.wayland.isEmpty())
         return fitForFileName(waylandDisplay(names));
     return names.x11.isEmpty() ? QStringLiteral("none") : fitForFileName(x11Display(names.x11));

@@ -13,8 +13,8 @@ struct DisplayNames
     QByteArray runtimeFolder; ///< XDG_RUNTIME_DIR, where Wayland's sockets are
 };
 
-/// One text for one display, whichever way it is named (":0", ":0.1", "unix:0"), fit for a file name and of
-/// at most 40 characters. Wayland's comes before X11's; "none" without a display.
+/// One text for one display, however it is named (":0", ":0.1", "unix:0"), fit for a file name and of at most
+/// 40 characters. Wayland's comes before X11's; "none" without a display.
 QString displayKey(const DisplayNames& names);
 
 } // namespace quindle

@@ -10,8 +10,8 @@ struct xcb_connection_t;
 
 namespace quindle {
 
-/// A connection to an X11 display, which ends with the object. It waits for the server, for ever if need be:
-/// let X11Display make it.
+/// A connection to an X11 display, which ends with the object. It may wait for the server for ever: let
+/// X11Display make it.
 class X11Connection
 {
 public:

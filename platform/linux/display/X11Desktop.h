@@ -23,8 +23,8 @@ struct X11Tray
     friend bool operator==(const X11Tray&, const X11Tray&) = default;
 };
 
-/// By which a server is known again. One that is reset loses all its clients, and so the desktop that was
-/// shown there, but keeps its socket.
+/// Recognises a server. One that is reset loses all its clients, and so the desktop that was shown there, but
+/// keeps its socket.
 class ServerMark
 {
 public:
@@ -35,12 +35,11 @@ public:
     void set() { m_isSet = true; }
 
 private:
-    QByteArray m_name; ///< of an atom, which nobody else makes
+    QByteArray m_name; ///< of an atom that nobody else makes
     bool m_isSet = false;
 };
 
-/// Sets the mark once there is a tray: a server without any client is reset after each connection of a
-/// moment.
+/// Sets the mark once there is a tray: a server without clients is reset after each short connection.
 X11Tray x11Tray(X11Display& display, ServerMark& mark);
 
 /// Whether windows may be translucent: a compositing manager runs on the X11 screen. False elsewhere.

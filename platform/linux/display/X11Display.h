@@ -14,17 +14,17 @@ class EndOfWork;
 class X11Connection;
 
 /// The name of the display whose windows a process shows, by three variables of its environment: DISPLAY, or
-/// nothing where WAYLAND_DISPLAY names one too, since many a Wayland desktop starts its X server at the first
-/// question to it. The toolkit's own variable (QT_QPA_PLATFORM) decides before both.
+/// nothing where WAYLAND_DISPLAY names one too, since many Wayland desktops start their X server at the first
+/// connection. The toolkit's own variable (QT_QPA_PLATFORM) decides before both.
 QByteArray x11DisplayName(const QByteArray& x11, const QByteArray& wayland,
                           const QByteArray& toolkitPlatform);
 
-/// The X server of the session, asked now and then over connections of a moment, each on a thread of its own:
-/// a server that is stopped or does not answer is waited for, but not without end. Main thread only.
+/// The X server of the session, asked now and then over short connections, each on a thread of its own: the
+/// wait for a server that is stopped or does not answer has a bound. Main thread only.
 class X11Display
 {
 public:
-    /// The display of this process; nothing is ever asked of an empty name.
+    /// The display of this process; with an empty name nothing is ever asked.
     X11Display();
 
     X11Display(QByteArray name, std::chrono::milliseconds patience);

@@ -22,7 +22,7 @@ public:
     explicit Reader(QByteArrayView bytes)
         : m_rest(bytes)
     {
-        // The first byte says in which order those of all numbers are.
+        // The first byte gives the byte order of all numbers.
         m_isBigEndian = !bytes.isEmpty() && bytes.front() == 1;
     }
 

@@ -7,11 +7,10 @@ namespace quindle {
 class X11Display;
 
 /// The text that a settings manager's property holds under that name; empty where there is none. The bytes
-/// are another program's: what makes no sense is no settings.
+/// are another program's: nonsense counts as no settings.
 QByteArray xsettingsText(const QByteArray& property, const QByteArray& name);
 
-/// What the X11 desktop writes in, as a font with style and size ("Sans 10"); empty elsewhere and where
-/// nobody says it.
+/// The X11 desktop's font, with style and size ("Sans 10"); empty elsewhere and where it is not set.
 QByteArray xsettingsFontName(X11Display& display);
 
 } // namespace quindle

@@ -16,7 +16,7 @@ bool LinuxCommandRunner::run(const QString& command, const QStringList& argument
     QList<QByteArray> parts;
     for (const QString& word : words + arguments)
         parts.append(pathBytes(word));
-    // Found here, as a command that is not there is to be named.
+    // Looked up here, so that a missing command can be named.
     parts.front() = programPath(parts.front(), {});
     return !parts.front().isEmpty() && startDetached(parts);
 }

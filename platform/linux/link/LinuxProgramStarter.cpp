@@ -46,7 +46,7 @@ LinuxProgramStarter::LinuxProgramStarter(QByteArray program)
 std::unique_ptr<LinkedProgram> LinuxProgramStarter::start()
 {
     auto [own, others] = SocketLink::pair();
-    // Before a process is made for it: what fails only there cannot be said any more.
+    // Before a process is made for it: what fails in there cannot be reported.
     if (!own.isOpen() || ::access(m_program.constData(), X_OK) != 0)
         return nullptr;
     auto process = startDetachedWith(others, {m_program, "--link=" + QByteArray::number(others.get())});

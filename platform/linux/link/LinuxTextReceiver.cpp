@@ -13,7 +13,7 @@ namespace quindle {
 
 namespace {
 
-/// The kernel complains of files in memory that do not say so; its header has it since Linux 6.3, and older
+/// The kernel complains of files in memory without this flag; its header has it since Linux 6.3, and older
 /// kernels refuse it.
 constexpr unsigned neverExecuted = 0x0008U;
 
@@ -37,7 +37,7 @@ bool writeAll(const FileDescriptor& file, QByteArrayView text)
     return true;
 }
 
-/// With the whole text before its reader; not open where the system gives none.
+/// Holds the whole text, to be read from its beginning; not open where the system gives none.
 FileDescriptor fileOf(const QByteArray& text)
 {
     FileDescriptor file = fileInMemory();

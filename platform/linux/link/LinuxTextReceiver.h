@@ -7,8 +7,8 @@
 
 namespace quindle {
 
-/// Starts a program that finds the text in a file in memory: unlike a pipe that takes texts of any length at
-/// once, and nobody has to wait or be told when the program ends without reading it.
+/// Starts a program that finds the text in a file in memory: unlike a pipe, that takes texts of any length at
+/// once, and nobody has to wait for a program that ends without reading it.
 class LinuxTextReceiver final : public TextReceiver
 {
 public:

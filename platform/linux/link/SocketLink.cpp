@@ -10,7 +10,7 @@ namespace quindle {
 
 namespace {
 
-/// An option of a socket that is a number; -1 where it has none, as what is no socket.
+/// A numeric option of a socket; -1 where there is none, as for what is not a socket.
 int numberOf(int socket, int option)
 {
     int value = -1;
@@ -38,7 +38,7 @@ SocketLink::SocketLink(FileDescriptor end)
     , m_readable(m_socket.get(), QSocketNotifier::Read)
     , m_writable(m_socket.get(), QSocketNotifier::Write)
 {
-    // An end that was inherited is not passed on once more.
+    // An inherited end is not passed on again.
     ::fcntl(m_socket.get(), F_SETFD, FD_CLOEXEC);
     m_readable.setEnabled(false);
     m_writable.setEnabled(false);
@@ -52,7 +52,7 @@ bool SocketLink::send(const QByteArray& message)
 {
     if (message.isEmpty() || message.size() > longestMessage || m_isGone)
         return false;
-    // What waits goes first, or messages would overtake each other.
+    // What is waiting goes first, or messages would overtake each other.
     const Outcome outcome = m_waiting.empty() ? sendNow(message) : Outcome::NoRoom;
     if (outcome != Outcome::NoRoom || m_waiting.size() >= mostWaiting)
         return outcome == Outcome::Sent;
@@ -103,7 +103,7 @@ void SocketLink::receive()
         close();
         return;
     }
-    // A longer one comes from no program of ours; what is left of it is no message.
+    // A longer one is not from our program; a cut message is none.
     if (count > message.size())
         return;
     message.truncate(count);

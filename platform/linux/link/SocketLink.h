@@ -16,13 +16,13 @@ namespace quindle {
 class SocketLink final : public MessageLink
 {
 public:
-    /// Of messages that wait here.
+    /// The bound of the messages that wait here.
     static constexpr std::size_t mostWaiting = 64;
 
     /// Both ends of a new pair; both are not open where the system gives none.
     static std::array<FileDescriptor, 2> pair();
 
-    /// Whether that is one end of such a pair: nothing else may be taken for a link.
+    /// Whether that is one end of such a pair; nothing else can be a link.
     static bool isEndOfPair(const FileDescriptor& socket);
 
     explicit SocketLink(FileDescriptor end);

@@ -13,13 +13,13 @@ namespace {
 
 constexpr QStringView programInBundle(u"/Contents/Linux/quindle-helper");
 
-// Not "~", which LXQt replaces itself, before the shell would.
+// Not "~", which LXQt replaces itself before the shell does.
 constexpr QByteArrayView shellInHome("cd && exec ./");
 
-/// Whether every session starts what an entry names so. The format has no way to write an equals sign in a
-/// program's path. All others of these can be quoted; but GLib looks for a program with two percent signs
-/// where "%%" stands for one, and neither dex nor LXQt resolves the escapes of the rest. A value that is not
-/// UTF-8 is none for GLib.
+/// Whether every session starts what an entry names like this. The format has no way to write an equals sign
+/// in a program's path. All other characters can be quoted; but GLib looks for a program with two percent
+/// signs where "%%" means one, and neither dex nor LXQt resolves the escapes of the rest. GLib ignores a
+/// value that is not UTF-8.
 bool isReadEverywhere(const QByteArray& path)
 {
     return path.isValidUtf8() && std::none_of(path.begin(), path.end(), [](char c) {
@@ -36,7 +36,7 @@ bool isPlainWord(const QByteArray& text)
     });
 }
 
-/// The program that a command runs; a shell is looked through as far as `startCommand` uses one.
+/// The program that a command runs; behind a shell, in the form that `startCommand` writes.
 QByteArray programOf(const QList<QByteArray>& arguments, const QString& home)
 {
     const bool isShell = arguments.size() == 3 && arguments[0] == "sh" && arguments[1] == "-c" &&
@@ -58,7 +58,7 @@ bool isApplication(const DesktopEntry& entry)
     return entry.value("Type", "Application") == "Application";
 }
 
-/// "TryExec" names a program without which the entry counts for nothing.
+/// "TryExec" names a program without which the entry does not count.
 bool isInstalled(const DesktopEntry& entry, const QStringList& folders)
 {
     const auto tried = entry.constFind("TryExec");
@@ -78,7 +78,7 @@ StartCommand startCommand(const QString& program, const QString& link, const QSt
     const StartCommand direct{execValue(pathBytes(program)), false, isPlain};
     if (link.isEmpty() || isPlain)
         return direct;
-    // The link has a plain name in the folder of the settings, which is unusual far more seldom.
+    // The link has a plain name in the settings folder, whose path rarely has unusual characters.
     if (isReadEverywhere(pathBytes(link)))
         return {execValue(pathBytes(link)), true};
     if (home.isEmpty() || !link.startsWith(home + u'/'))

@@ -12,8 +12,8 @@ namespace quindle {
 QString bundleProgram(const QString& bundlePath);
 
 /// The file URL of what an autostart entry starts at login, symbolic links followed: the bundle's where it is
-/// the program of one, else the program's own. Nothing for an entry that starts nothing: switched off, no
-/// application, broken, or of a program that is not there. Which desktops the entry is for does not matter.
+/// the program of one, else the program's own. Nothing for an entry that starts nothing: switched off, not an
+/// application, broken, or for a program that is not there. Which desktops the entry is for does not matter.
 ///
 /// `programFolders` are looked through for a program without a path; $PATH when empty. `home` is the user's
 /// home folder, empty where there is none.

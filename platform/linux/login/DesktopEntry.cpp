@@ -6,7 +6,7 @@ namespace {
 
 constexpr QByteArrayView byteOrderMark("\xef\xbb\xbf");
 
-/// The lines without what ends them.
+/// The lines without their ends.
 class Lines
 {
 public:
@@ -73,13 +73,13 @@ private:
         }
     }
 
-    /// Inside quotes four characters can be escaped; outside the shells' way is the usual reading.
+    /// Inside quotes four characters can be escaped; outside, escapes are usually read as by a shell.
     bool takeEscaped()
     {
         if (m_at + 1 == m_line.size())
             return false;
         const char escaped = m_line[m_at + 1];
-        // No argument can hold it.
+        // No argument can contain it.
         if (escaped == '\0')
             return false;
         if (m_isQuoted && !QByteArrayView("\"`$\\").contains(escaped)) {
@@ -94,7 +94,7 @@ private:
     bool takeFieldCode()
     {
         const char code = m_at + 1 < m_line.size() ? m_line[m_at + 1] : '\0';
-        // The last six are no longer used, and stand for nothing.
+        // The last six are obsolete, and mean nothing.
         if (!QByteArrayView("%fFuUickdDnNvm").contains(code))
             return false;
         if (code == '%')
@@ -158,7 +158,7 @@ std::optional<DesktopEntry> desktopEntryFromBytes(const QByteArray& bytes)
 bool isTrue(const DesktopEntry& entry, const QByteArray& key)
 {
     const QByteArray value = entry.value(key).toLower();
-    return value == "true" || value == "1"; // old files have the number
+    return value == "true" || value == "1"; // old files write the number
 }
 
 QByteArray unescapedValue(const QByteArray& written)
@@ -183,7 +183,7 @@ std::optional<QList<QByteArray>> execArguments(const QByteArray& written)
 
 QByteArray execValue(const QByteArray& program)
 {
-    // In quotes whatever it holds, so that blanks are part of it.
+    // Always in quotes, so that blanks are part of it.
     QByteArray quoted = "\"";
     for (const char c : program) {
         if (QByteArrayView("\"`$\\").contains(c))

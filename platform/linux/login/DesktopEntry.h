@@ -6,18 +6,18 @@
 #include <QHash>
 #include <QList>
 
-/// Desktop entries, the files that desktops and menus start programs by, as far as it takes to know what one
+/// Desktop entries, the files by which desktops and menus start programs, as far as needed to know what one
 /// starts. All texts are the file's bytes: paths in them are in the file system's encoding.
 namespace quindle {
 
 /// The group "Desktop Entry" of a file: values as they are written, by key, translations under theirs
-/// ("Name[de]"). A key that is given again has its last value, also where the group is.
+/// ("Name[de]"). A repeated key has its last value, even across repeated groups.
 using DesktopEntry = QHash<QByteArray, QByteArray>;
 
-/// Nothing for bytes without that group. Lines that are neither group, key nor comment are passed over.
+/// Nothing for bytes without that group. Lines that are neither group, key nor comment are skipped.
 std::optional<DesktopEntry> desktopEntryFromBytes(const QByteArray& bytes);
 
-/// False when the key is missing or says something else than true.
+/// False when the key is missing or not true.
 bool isTrue(const DesktopEntry& entry, const QByteArray& key);
 
 /// A written value of type "string" with its escapes (\s \n \t \r \\) resolved; unknown ones stay.

@@ -147,7 +147,7 @@ QString LinuxLoginItems::pathOf(const QByteArray& entryName) const
     return m_places.entries + u'/' + pathText(entryName);
 }
 
-/// A longer file is no autostart entry; it would not be read to its end, and so not be understood.
+/// A longer file is no autostart entry, and would not be read to its end.
 std::optional<QString> LinuxLoginItems::urlOf(const QByteArray& entryName) const
 {
     constexpr qsizetype limit = qsizetype(60) * 1024;
@@ -188,7 +188,7 @@ QString LinuxLoginItems::enter(const QByteArray& entryName, const QString& bundl
                    .arg(program);
     const QByteArray path = folder + '/' + entryName;
     removeLeftovers(path);
-    // A link in the entry's place is replaced itself: what it leads to is not ours.
+    // A link in the entry's place is replaced itself: its target is not ours.
     return reason(replaceFile(path, autostartEntry(command.exec)));
 }
 
@@ -202,7 +202,7 @@ QString LinuxLoginItems::disable(const QByteArray& entryName, const QString& hel
         if (!url || (*url != helperUrl && m_known.value(item) != entryName))
             continue;
         const QString failed = erase(m_known.value(item));
-        // The others are tried all the same: one that stays would start the helper.
+        // The others are still tried: one that stays would start the helper.
         failure = failed.isEmpty() ? failure : failed;
     }
     return failure;
@@ -214,7 +214,7 @@ QString LinuxLoginItems::erase(const QByteArray& entryName) const
         return QStringLiteral("they are for reading only");
     if (entryName.isEmpty())
         return {};
-    // Gone already is as good as taken out.
+    // Already gone counts as removed.
     if (::unlink(pathBytes(pathOf(entryName)).constData()) != 0 && errno != ENOENT)
         return reason(errno);
     // Nothing else needs the link.
@@ -228,7 +228,7 @@ void LinuxLoginItems::report(const QString& failure)
     if (!failure.isEmpty() && failure != m_failure)
         qCWarning(loginLog).noquote()
             << QStringLiteral("cannot change the login items in %1: %2").arg(m_places.entries, failure);
-    // Also an empty one: the same failure after a success is news.
+    // Even an empty one: the same failure after a success is news.
     m_failure = failure;
 }
 

@@ -12,7 +12,7 @@ namespace quindle {
 struct LoginItemPlaces
 {
     QString entries;            ///< the folder of the user's autostart entries; empty when there is none
-    QString lock;               ///< the file by which writers keep apart
+    QString lock;               ///< the file that writers lock
     QString link;               ///< a link to the program, for one with a path that not all sessions can read
     QString bundle;             ///< the running bundle
     QStringList programFolders; ///< where programs without a path are found; $PATH when empty

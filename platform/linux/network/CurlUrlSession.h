@@ -20,7 +20,7 @@ struct CurlSettings
 };
 
 /// The exchanges themselves. Each request is sent once, over a connection of its own, and carries nothing
-/// about the user. Destroying it ends the posts that are still under way, at once.
+/// about the user. Destroying it ends the posts that are still under way.
 class CurlUrlSession : public UrlSession
 {
 public:

@@ -33,7 +33,7 @@ struct Incoming
 {
     qsizetype limit;
     QByteArray body{};
-    std::vector<curl_socket_t> connections{}; ///< one that was given up stays here
+    std::vector<curl_socket_t> connections{}; ///< an abandoned one stays here
 };
 
 int takeConnection(void* incoming, curl_socket_t connection, curlsocktype /*purpose*/)
@@ -73,7 +73,7 @@ int endsAtLimit(void* incoming, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
     return received > 4 * static_cast<std::uint64_t>(limit) ? 1 : 0;
 }
 
-/// The lines for the library: an empty one takes out what it would add by itself.
+/// The lines for the library: one without a value removes what it would add by itself.
 HeaderList headerList(const QList<QByteArray>& headers)
 {
     HeaderList list;
@@ -107,12 +107,12 @@ private:
 void setRequest(Options& options, const HttpRequest& request, curl_slist* headers)
 {
     options.set(CURLOPT_URL, request.url.toEncoded(QUrl::RemoveFragment).constData());
-    // The library speaks many protocols; only that of the address is meant.
+    // The library speaks many protocols; only the address's own is allowed.
     options.set(CURLOPT_PROTOCOLS_STR, request.url.scheme().toLatin1().constData());
     options.set(CURLOPT_PROXY, ""); // whatever the environment names
     options.set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
     options.set(CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});
-    // Then only these are trusted, and not the system's as well.
+    // Then only these are trusted, not the system's too.
     if (!request.authorities.isEmpty()) {
         options.set(CURLOPT_CAINFO, request.authorities.constData());
         options.set(CURLOPT_CAPATH, static_cast<const char*>(nullptr));

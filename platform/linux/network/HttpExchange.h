@@ -20,7 +20,7 @@ struct HttpRequest
 
 struct HttpLimits
 {
-    std::chrono::milliseconds time; ///< for the whole exchange, finding the host included
+    std::chrono::milliseconds time; ///< for the whole exchange, including the lookup of the host
     qsizetype size; ///< of the answer's body, decompressed; head and framing may take three times as much
 };
 
@@ -33,8 +33,8 @@ struct HttpAnswer
 
 /// Sends `request` once and waits for its answer, without dispatching any event. Nothing without a complete
 /// answer within the limits, and as soon as a stop is requested. Certificates and their host names are
-/// verified; redirections are not followed; proxies, cookies, passwords and settings of the user are not
-/// looked at. To be called in any thread, after curl_global_init().
+/// verified; redirections are not followed; the user's proxies, cookies, passwords and settings are not used.
+/// Any thread, after curl_global_init().
 std::optional<HttpAnswer> exchangeOverHttp(const HttpRequest& request, const HttpLimits& limits,
                                            const std::stop_token& stop = {});
 

@@ -46,9 +46,9 @@ UrlSession* LinuxUrlSession::sessionFor(const QString& url)
 {
     if (QUrl(url).host().isEmpty() || m_loaded)
         return m_session.get();
-    // One try for a process: a module that failed once fails again, and is logged once.
+    // One try per process: a module that failed once fails again, and is logged once.
     m_loaded = true;
-    // Never closed: what it made outlives any moment at which it could be.
+    // Never closed: its objects outlive any moment at which it could be.
     void* const module = ::dlopen(pathBytes(m_modulePath).constData(), RTLD_LAZY);
     const auto make =
         module ? reinterpret_cast<MakeUrlSession>(::dlsym(module, makeUrlSessionName)) : nullptr;

@@ -77,7 +77,7 @@ void LinuxNotifier::withdraw()
 void LinuxNotifier::finish()
 {
     m_wanted.reset();
-    // Waited for: after the end nobody could take it away any more.
+    // Waited for: after the end nobody could close it.
     if (m_place != Place::Nowhere)
         m_bus.connection().call(withdrawalCall(), QDBus::Block, patienceAtEnd);
     forget();
@@ -88,7 +88,7 @@ void LinuxNotifier::doNext()
     if (m_isCalling || !std::exchange(m_hasNews, false))
         return;
     if (m_wanted)
-        // Where the last one is, so that a newer one takes its place.
+        // Where the last one is, so that a newer one replaces it.
         showIn(m_place == Place::Portal ? Place::Portal : Place::Service);
     else if (m_place != Place::Nowhere)
         call(withdrawalCall(), &LinuxNotifier::hearWithdrawal);
@@ -107,7 +107,7 @@ void LinuxNotifier::showIn(Place place)
 
 QDBusMessage LinuxNotifier::showCall() const
 {
-    // Most servers take a warning away after seconds, which nobody may have seen.
+    // Most servers close a warning after some seconds, when nobody may have seen it.
     const bool staysShown = m_wanted->urgency == Notification::Urgency::Critical;
     QDBusMessage message = serviceCall(m_server.isEmpty() ? serviceName : m_server, QStringLiteral("Notify"));
     message << QStringLiteral("Quindle") << m_number << m_wanted->iconName << m_wanted->title
@@ -133,7 +133,7 @@ void LinuxNotifier::call(const QDBusMessage& message, void (LinuxNotifier::*answ
         (this->*answered)(watcher->reply());
         doNext();
     };
-    // Without a bus it is finished at once, and says so to nobody.
+    // Without a bus it is finished at once, without a signal.
     if (watcher->isFinished())
         QMetaObject::invokeMethod(this, hear, Qt::QueuedConnection);
     else
@@ -144,7 +144,7 @@ void LinuxNotifier::hearService(const QDBusMessage& answer)
 {
     if (isAnswer(answer) && answer.signature() == QStringLiteral("u")) {
         m_place = Place::Service;
-        // By its own name: another server knows nothing of the number.
+        // By its unique name: the number means nothing to another server.
         m_server = answer.service();
         m_number = answer.arguments().constFirst().toUInt();
         m_hasReported = false;
@@ -152,7 +152,7 @@ void LinuxNotifier::hearService(const QDBusMessage& answer)
     }
     const bool serverHasGone = !m_server.isEmpty();
     forget();
-    // Something else is wanted by now: what is done next begins with the service anew.
+    // Something else is wanted by now: the next call begins with the service again.
     if (m_hasNews || !m_wanted)
         return;
     showIn(serverHasGone ? Place::Service : Place::Portal);

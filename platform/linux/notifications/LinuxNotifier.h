@@ -24,7 +24,7 @@ public:
     void show(const Notification& notification) override;
     void withdraw() override;
 
-    /// Takes back what is shown, and waits a moment for that, because the process is about to end.
+    /// Closes what is shown, and waits a moment for that, because the process is about to end.
     void finish();
 
 private:
@@ -42,10 +42,10 @@ private:
 
     PresentBus m_bus;
     std::optional<Notification> m_wanted;
-    bool m_hasNews = false; ///< what is wanted is not what was called for last
+    bool m_hasNews = false; ///< what is wanted differs from the last call
     bool m_isCalling = false;
     Place m_place = Place::Nowhere; ///< where one is shown
-    QString m_server;               ///< that shows it: numbers of another one mean something else
+    QString m_server;               ///< the one that shows it: another server's numbers mean something else
     quint32 m_number = 0;           ///< that the server gave it
     bool m_hasReported = false;
 };

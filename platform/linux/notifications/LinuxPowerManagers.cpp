@@ -19,8 +19,8 @@ struct KnownManager
     const char* desktop = nullptr;
 };
 
-// The names that only the manager itself takes. org.freedesktop.PowerManagement is none of them: programs
-// that only keep the computer awake take it too.
+// Names that only the manager itself takes. org.freedesktop.PowerManagement is not among them: programs that
+// only keep the computer awake take it too.
 constexpr std::array managers{
     KnownManager{QLatin1StringView("org.gnome.SettingsDaemon.Power"), "GNOME"},
     KnownManager{QLatin1StringView("org.cinnamon.SettingsDaemon.Power"), "Cinnamon"},
@@ -46,7 +46,7 @@ LinuxPowerManagers::LinuxPowerManagers()
 
 void LinuxPowerManagers::ask(std::function<void(const QString& desktop)> answered)
 {
-    // Without a bus the call fails, and the answer comes all the same.
+    // Without a bus the call fails, and the answer still comes.
     auto* answer =
         new QDBusPendingCallWatcher(m_bus.connection().asyncCall(questionForNames(), patience), this);
     const auto hear = [answer, answered = std::move(answered)] {
@@ -54,7 +54,7 @@ void LinuxPowerManagers::ask(std::function<void(const QString& desktop)> answere
         const QDBusPendingReply<QStringList> names = *answer;
         answered(names.isValid() ? desktopThatWarns(names.value()) : QString());
     };
-    // Later all the same, so that whoever asks is never answered while asking.
+    // Later even so: the caller is never answered during its call.
     if (answer->isFinished())
         QMetaObject::invokeMethod(this, hear, Qt::QueuedConnection);
     else

@@ -8,8 +8,8 @@
 
 namespace quindle {
 
-/// Power managers are known by their names on the session bus. They are looked for when somebody asks, so
-/// that nobody's coming and going wakes this process.
+/// Power managers are known by their names on the session bus. They are looked up on request, so that no
+/// change on the bus wakes this process.
 class LinuxPowerManagers final : public QObject, public PowerManagers
 {
     Q_OBJECT

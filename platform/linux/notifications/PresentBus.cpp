@@ -26,7 +26,7 @@ QDBusConnection PresentBus::connection()
     if (shared.isConnected())
         return shared;
     QDBusConnection::disconnectFromBus(m_ownName);
-    // By address: asked by type, the library may start a bus of its own where there is none.
+    // By address: by type, the library may start a bus of its own where there is none.
     m_own = QDBusConnection::connectToBus(busAddress(QDBusConnection::SessionBus), m_ownName);
     return m_own;
 }

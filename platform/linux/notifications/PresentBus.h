@@ -5,20 +5,20 @@
 
 namespace quindle {
 
-/// The session bus for those who need it a few times a day: nothing of it is kept, and no bus that has gone
-/// is waited for. Main thread only.
+/// The session bus for services that need it a few times a day: they keep nothing of it, and do not wait for
+/// one that is gone. Main thread only.
 class PresentBus
 {
 public:
-    /// `ownName` is that of a connection of its own, made once the shared one has gone.
+    /// `ownName` names a connection of its own, made once the shared one is gone.
     explicit PresentBus(QString ownName);
     ~PresentBus();
 
     PresentBus(const PresentBus&) = delete;
     PresentBus& operator=(const PresentBus&) = delete;
 
-    /// The process's connection, else one of its own: the shared one does not come back when its bus has
-    /// gone. Not connected where there is no bus.
+    /// The process's connection, else one of its own: the shared one does not come back once its bus is gone.
+    /// Not connected where there is no bus.
     QDBusConnection connection();
 
 private:

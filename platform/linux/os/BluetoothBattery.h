@@ -8,7 +8,7 @@ namespace quindle {
 struct BluetoothBattery
 {
     QString address; ///< "AA:BB:CC:DD:EE:FF"; empty where it is not reported
-    QString name;    ///< as the device or its user says; anything at all
+    QString name;    ///< as given by the device or its user; any text
     int percent = 0; ///< 0 to 100
 
     bool operator==(const BluetoothBattery&) const = default;

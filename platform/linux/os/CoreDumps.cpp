@@ -15,7 +15,7 @@ constexpr std::string_view usualFilter = "0x33";
 
 void setCoreFilter(std::string_view filter)
 {
-    // Not there in kernels that take no core dumps.
+    // Missing in kernels that take no core dumps.
     const int file = ::open("/proc/self/coredump_filter", O_WRONLY | O_CLOEXEC);
     if (file < 0)
         return;

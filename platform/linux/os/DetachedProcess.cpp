@@ -16,7 +16,7 @@ namespace quindle {
 
 namespace {
 
-/// An open file of this process that the program gets, and the number that it finds it under.
+/// An open file of this process for the program, and the number it will have there.
 struct Inheritance
 {
     int file = -1; ///< none
@@ -27,14 +27,14 @@ void inherit(const Inheritance& inheritance)
 {
     if (inheritance.file < 0)
         return;
-    // Every file of the program is opened to be closed here; this one is to stay.
+    // Every file of this program is closed on exec; this one is to stay open.
     if (inheritance.file == inheritance.number)
         ::fcntl(inheritance.file, F_SETFD, 0);
     else
         ::dup2(inheritance.file, inheritance.number);
 }
 
-/// What this process blocks, to read it by other means, must end others as ever.
+/// Signals that this process blocks, to read them by other means, must end others as usual.
 void unblockSignals()
 {
     sigset_t none;
@@ -111,7 +111,7 @@ std::optional<FileDescriptor> runWith(const QList<QByteArray>& command, const In
     const auto process = runDetached(command, inheritance);
     if (!process)
         return std::nullopt;
-    // Without its function: the C library has it only since 2.36.
+    // By number: the C library has the function only since 2.36.
     return FileDescriptor(static_cast<int>(::syscall(SYS_pidfd_open, *process, 0)));
 }
 

@@ -60,7 +60,7 @@ bool startThreadHere(Work work)
         CPU_SET(static_cast<unsigned>(processor), &here);
         pthread_attr_setaffinity_np(&detached.attributes, sizeof here, &here);
     }
-    // The binding is only a wish: where it is refused any processor will do.
+    // The binding is optional: where it is refused any processor will do.
     return start(work, detached.attributes) || startThread(work);
 }
 

@@ -11,8 +11,8 @@ namespace quindle {
 /// room for a thread.
 bool startThread(std::function<void()> work);
 
-/// The same on the processor that the caller runs on, which is awake: no other one has to be woken for short
-/// work that the caller waits for.
+/// The same on the caller's processor, which is awake: no other one has to be woken for short work that the
+/// caller waits for.
 bool startThreadHere(std::function<void()> work);
 
 /// The end of a piece of work on a thread of its own, which may never come. What that thread has written

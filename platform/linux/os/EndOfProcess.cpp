@@ -57,7 +57,7 @@ EndOfProcess::EndOfProcess(const std::function<void()>& ended)
     , m_signalNotifier(notifierOf(m_signals, ended))
     , m_readerNotifier(notifierOf(m_reader, ended))
 {
-    // A reader that has gone is noticed by the write that fails, not by the signal.
+    // A missing reader is noticed by the write that fails, not by the signal.
     std::signal(SIGPIPE, SIG_IGN);
 }
 

@@ -15,7 +15,7 @@
 
 namespace quindle {
 
-/// What is to happen at the end, shared with the thread that waits for it.
+/// What to do at the end, shared with the thread that waits for it.
 class EndSignals::Wish
 {
 public:
@@ -66,8 +66,8 @@ timespec timeOf(std::chrono::nanoseconds duration)
     return {.tv_sec = seconds.count(), .tv_nsec = (duration - seconds).count()};
 }
 
-/// Waits for another of the signals. A process that is stopped and goes on meanwhile, or is looked at by a
-/// debugger, is woken without one.
+/// Waits for another of the signals. A process that is stopped and continued, or inspected by a debugger,
+/// wakes without one.
 void waitForNext(const sigset_t& signals, std::chrono::milliseconds longest)
 {
     const auto deadline = std::chrono::steady_clock::now() + longest;
