@@ -33,7 +33,7 @@ QByteArray programPath(const QByteArray& program, const QStringList& folders)
     // The system would read the name up to the NUL.
     if (program.isEmpty() || program.contains('\0'))
         return {};
-    // The folder of the process says nothing about the one that a session starts programs in.
+    // The process's folder says nothing about where a session starts programs.
     if (program.contains('/'))
         return program.startsWith('/') && isRunnable(program) ? program : QByteArray();
     // A relative folder would mean another one in each process.

@@ -22,7 +22,7 @@ std::optional<QByteArray> readSmallFile(const QString& path)
     if (!file.isOpen() || fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
     QByteArray content(limit, Qt::Uninitialized);
-    // One read: files of the kernel's own have no true size, and give all they have at once.
+    // One read: the kernel's own files have no true size, and give everything at once.
     const ssize_t size = pread(file.get(), content.data(), static_cast<std::size_t>(limit), 0);
     if (size < 0)
         return std::nullopt;

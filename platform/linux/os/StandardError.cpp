@@ -20,8 +20,8 @@ namespace quindle {
 
 namespace {
 
-/// A pipe or terminal opened once more, because making the shared one non-blocking would change it for others
-/// too. Not open for any other kind of file, and where the system refuses.
+/// A pipe or terminal opened again, because making the shared one non-blocking would affect others too. Not
+/// open for any other kind of file, and where the system refuses.
 FileDescriptor openedAgain()
 {
     struct stat found = {};
@@ -30,7 +30,7 @@ FileDescriptor openedAgain()
     return FileDescriptor(::open("/proc/self/fd/2", O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
 }
 
-/// What was written, or -1 when it cannot be, or not without waiting.
+/// The number of bytes written; -1 when it is impossible, or only by waiting.
 ssize_t writeIfReady(const char* text, std::size_t size)
 {
     // A socket cannot be opened again, but takes a flag for each write.
@@ -40,7 +40,7 @@ ssize_t writeIfReady(const char* text, std::size_t size)
     pollfd writable{STDERR_FILENO, POLLOUT, 0};
     if (::poll(&writable, 1, 0) != 1 || (writable.revents & POLLOUT) == 0)
         return -1;
-    // A pipe that has room at all has it for that many bytes.
+    // A pipe with any room has it for this many bytes.
     return ::write(STDERR_FILENO, text, std::min(size, std::size_t{PIPE_BUF}));
 }
 

@@ -34,12 +34,12 @@ std::optional<QByteArray> TimelyFiles::read(const QString& path)
     if (isNew && !begin(path))
         return m_last[path];
     const std::shared_ptr<Reading> reading = m_underWay[path];
-    // Waited for once: whoever asks again while it hangs gets what was read last.
+    // Waited for once: further calls while it hangs get what was read last.
     if (reading->end.isReached(isNew ? m_patience : std::chrono::milliseconds(0))) {
         m_last[path] = reading->content;
         m_underWay.erase(path);
     } else if (isNew) {
-        // Logged once for each wait, not for each question in it.
+        // Logged once for each wait, not for each call during it.
         qCWarning(fileLog).noquote() << path << "does not answer";
     }
     return m_last[path];

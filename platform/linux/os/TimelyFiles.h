@@ -11,8 +11,8 @@
 
 namespace quindle {
 
-/// Reads small files that say the same all the time (firmware's texts, a computer's name) and may still hang:
-/// each on a thread of its own, which is waited for, but not without end. Main thread only.
+/// Reads small files that hardly ever change (firmware's texts, a computer's name) but may hang: each on a
+/// thread of its own, with a bounded wait. Main thread only.
 class TimelyFiles
 {
 public:

@@ -45,7 +45,7 @@ QString runtimeFolder()
 {
     const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
     struct stat found = {};
-    // The session promises all of this; a variable that was inherited by su or a script may not.
+    // The session guarantees all of this; a variable inherited through su or a script may not.
     const bool isOwn = folder.startsWith('/') && ::stat(folder.constData(), &found) == 0 &&
                        S_ISDIR(found.st_mode) && found.st_uid == ::geteuid() &&
                        (found.st_mode & (S_IWGRP | S_IWOTH)) == 0;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr QChar ellipsis(0x2026);
 
-/// So much of a text nobody can be shown in a line.
+/// No line shows more of a text.
 constexpr qsizetype mostUnits = 1000;
 
 /// The places after each whole character.
@@ -36,7 +36,7 @@ QString elidedTo(const QString& text, double mostWidth, const std::function<doub
     };
     std::size_t fits = 0;
     std::size_t tooLong = ends.size() + 1;
-    // By halves, since each width that is asked for costs a layout.
+    // By bisection, since each width costs a layout.
     while (fits + 1 < tooLong) {
         const std::size_t middle = (fits + tooLong) / 2;
         if (width(beginning(middle)) <= mostWidth)

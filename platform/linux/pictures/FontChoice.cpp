@@ -10,7 +10,7 @@ namespace quindle {
 
 namespace {
 
-/// In which titles are about to be drawn. Settings may differ by size, but not within a panel's sizes.
+/// About the size of titles. Settings may differ by size, but not within a panel's sizes.
 constexpr double usualPixelSize = 16.0;
 
 /// No family has so long a name, and settings can hold anything.
@@ -93,7 +93,7 @@ bool hasCharacter(FcPattern* pattern, char32_t character)
            FcCharSetHasChar(characters, character) == FcTrue;
 }
 
-/// Words at the end of a font's name that say how its letters look, in any spelling of upper and lower case.
+/// Words at the end of a font's name that describe its style, in upper or lower case.
 bool isStyleWord(const QString& word)
 {
     constexpr std::array words{"regular",
@@ -164,7 +164,7 @@ std::optional<FontFile> FontChoice::font(const QString& family, char32_t charact
     FcDefaultSubstitute(pattern.get());
     FcResult result = FcResultNoMatch;
     const PatternPtr match(FcFontMatch(m_config.get(), pattern.get(), &result));
-    // The best match for a character need not have it.
+    // The best match may not have the character.
     if (!match || (character != 0 && !hasCharacter(match.get(), character)))
         return std::nullopt;
     FontFile font = fontOf(match.get());
@@ -176,7 +176,7 @@ QString familyOfFontName(const QString& name)
     QStringList words = name.left(longestFamily).simplified().split(u' ', Qt::SkipEmptyParts);
     if (!words.isEmpty() && isSize(words.last()))
         words.removeLast();
-    // A comma ends a list of families, of which the first is meant.
+    // A comma separates families; the first is used.
     const qsizetype comma = words.join(u' ').indexOf(u',');
     if (comma >= 0)
         return words.join(u' ').left(comma).trimmed();

@@ -28,7 +28,7 @@ constexpr double widest = 8.0;
 int flagsOf(const FontFile& file, FT_Face face)
 {
     int flags = FT_HAS_COLOR(face) ? FT_LOAD_COLOR : FT_LOAD_DEFAULT;
-    // Small pictures of letters, which some fonts have for few sizes, are not smoothed.
+    // Bitmaps of letters, which some fonts have for a few sizes, are not smoothed.
     if (FT_IS_SCALABLE(face) && !FT_HAS_COLOR(face))
         flags |= FT_LOAD_NO_BITMAP;
     if (file.usesAutohinter)
@@ -81,7 +81,7 @@ FontFace::FontFace(std::shared_ptr<FT_LibraryRec_> library, FT_FaceRec_* face, c
     , m_file(file)
     , m_loadFlags(flagsOf(file, face))
 {
-    // The table that a font names first may be another one, of symbols.
+    // A font's first table may be one of symbols.
     FT_Select_Charmap(m_face, FT_ENCODING_UNICODE);
     useVariations(file.variations);
 }
@@ -125,7 +125,7 @@ bool FontFace::setPixelSize(int pixels)
     const bool isDone = FT_IS_SCALABLE(m_face)
                             ? FT_Set_Pixel_Sizes(m_face, 0, static_cast<FT_UInt>(pixels)) == 0
                             : selectBitmaps(pixels);
-    // In no size a face loads nothing, instead of glyphs of the size before.
+    // Without a size a face loads nothing, rather than glyphs of the previous size.
     m_pixelSize = isDone ? pixels : 0;
     return isDone;
 }
@@ -146,7 +146,7 @@ bool FontFace::selectBitmaps(int pixels)
     }
     if (best < 0 || heightOf(best) < 1 || FT_Select_Size(m_face, best) != 0)
         return false;
-    // Emoji are drawn higher than letters of their size; as high as the size they go with figures.
+    // Emoji are taller than letters of their size; at the size's own height they match figures.
     const double drawn = FT_HAS_COLOR(m_face) ? m_face->available_sizes[best].height : 0.0;
     m_bitmapScale = pixels / std::max(drawn, heightOf(best));
     return true;
@@ -186,7 +186,7 @@ double FontFace::advanceOf(std::uint32_t glyph)
     const bool isExact = hasFractions() && FT_IS_SCALABLE(m_face) && !m_file.isEmboldened;
     const double advance = isExact ? static_cast<double>(slot->linearHoriAdvance) / perUnit
                                    : m_bitmapScale * static_cast<double>(slot->advance.x) / unitsPerPixel;
-    // A broken font must not push what follows out of the picture.
+    // A broken font must not push the rest out of the picture.
     return std::clamp(hasFractions() ? advance : std::round(advance), 0.0, widest * m_pixelSize);
 }
 

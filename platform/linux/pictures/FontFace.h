@@ -18,7 +18,7 @@ namespace quindle {
 
 class PairKerning;
 
-/// Lengths of the font library's are in 64ths of a pixel.
+/// The font library's lengths are in 64ths of a pixel.
 inline constexpr double unitsPerPixel = 64.0;
 
 /// A glyph as pixels: a shape to be coloured, or a picture in its own colours.
@@ -37,7 +37,7 @@ struct OutlineStep
     std::vector<QPointF> points; ///< y grows downwards
 };
 
-/// What opened font files have in common; to be kept while any of them is open.
+/// Shared by open font files; must outlive them all.
 std::shared_ptr<FT_LibraryRec_> fontLibrary();
 
 /// A font's file, open. Whatever the file holds, its figures are finite and of the order of the size.
@@ -54,7 +54,7 @@ public:
     /// Before anything is asked of glyphs. False when the font cannot be had in that size, 1 to 1000 pixels.
     bool setPixelSize(int pixels);
 
-    /// 0 when the font has no such character. That number is also that of the sign for it.
+    /// 0 when the font has no such character; glyph 0 is the sign for that.
     std::uint32_t glyphOf(char32_t character) const;
 
     /// How far the pen moves, pixels.
@@ -78,8 +78,7 @@ public:
     /// Adds the glyph's outline with the pen at `pen`, and gives its box; an empty box when it has none.
     QRectF addOutline(std::uint32_t glyph, QPointF pen, std::vector<OutlineStep>& steps);
 
-    /// For what works on the library's own terms: the font, how it is to be measured, and what lengths have
-    /// then to be multiplied with.
+    /// For code that uses the library directly: the font, how to measure it, and the factor for the lengths.
     FT_FaceRec_* face() const { return m_face; }
     int measuringFlags() const;
     double bitmapScale() const { return m_bitmapScale; }

@@ -93,7 +93,7 @@ std::size_t FontSet::fallbackFor(char32_t character, int pixelSize)
 {
     const auto file = chosen(m_family, character);
     const std::size_t font = file ? numberOf(*file) : familyFont;
-    // What no font has becomes the family's own sign for a missing glyph.
+    // A character that no font has becomes the family's sign for a missing glyph.
     return has(font, character, pixelSize) ? font : familyFont;
 }
 

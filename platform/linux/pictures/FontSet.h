@@ -11,18 +11,18 @@
 
 namespace quindle {
 
-/// The demi-bold font of a family and those that have what it lacks, known by numbers. Files are opened when
-/// a font is asked for; a font that cannot be used is logged once.
+/// The demi-bold font of a family and those with the characters it lacks, by number. Files are opened when a
+/// font is asked for; a font that cannot be used is logged once.
 class FontSet
 {
 public:
-    /// The number of the family's own font, which is also used for what no font has.
+    /// The number of the family's own font, also used for characters that no font has.
     static constexpr std::size_t familyFont = 0;
 
-    /// Forgets the fonts of the family before, and their numbers.
+    /// Forgets the fonts of the previous family, and their numbers.
     void setFamily(const QString& family);
 
-    /// The font of that number in that size; null when there is none that can be used.
+    /// The font of that number in that size; null when none can be used.
     FontFace* face(std::size_t font, int pixelSize);
 
     /// The number of the font that has the character.

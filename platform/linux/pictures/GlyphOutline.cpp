@@ -36,7 +36,7 @@ Writer& writer(void* user)
 int moveTo(const FT_Vector* to, void* user)
 {
     Writer& w = writer(user);
-    // Nothing says that a contour has ended but the next one, or the end.
+    // A contour only ends with the next one, or with the outline.
     if (std::exchange(w.isOpen, true))
         w.add('Z', {});
     return w.add('M', {w.at(*to)});

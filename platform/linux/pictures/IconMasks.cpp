@@ -15,9 +15,9 @@ namespace {
 Q_LOGGING_CATEGORY(logMasks, "quindle.statusitem.pictures", QtWarningMsg)
 
 constexpr int largestSide = 256;
-constexpr qint64 mostBytes = qint64{256} * 1024; // a file has a fiftieth of that
+constexpr qint64 mostBytes = qint64{256} * 1024; // a file is a fiftieth of that
 
-/// Takes the word and the one white space after it; empty when there is no such thing.
+/// Takes the word and the one white space after it; empty when there is none.
 QByteArrayView takeWord(QByteArrayView& rest)
 {
     qsizetype end = 0;
@@ -107,7 +107,7 @@ const std::vector<Mask>& IconMasks::masks(const QString& name)
     m_masks = m_missing.contains(name) ? std::vector<Mask>() : masksOf(fileContents(path, mostBytes).bytes);
     m_name = name;
     if (m_masks.empty() && !m_missing.contains(name)) {
-        // Neither looked for nor logged again: the item asks at every change.
+        // Not looked for or logged again: the item asks at every change.
         m_missing.append(name);
         qCWarning(logMasks) << "no usable picture in" << path;
     }

@@ -18,11 +18,11 @@ constexpr std::size_t mostFonts = 16;
 /// Glyphs stand on quarters of a pixel; nobody sees what is in between.
 constexpr int quarters = 4;
 
-/// Longer lines are never shown, and whole numbers end somewhere.
+/// Longer lines are never shown, and integers must not overflow.
 constexpr double longestLine = 100'000.0;
 
-/// What `make` gives for the key, made once. All that is kept is forgotten when it gets too much: titles stay
-/// alike, so that it hardly ever does.
+/// The result of `make` for the key, made once. When too much is kept, all of it is forgotten: titles stay
+/// alike, so that hardly ever happens.
 template <typename Map, typename Make>
 const typename Map::mapped_type& kept(Map& map, const typename Map::key_type& key, std::size_t most,
                                       const Make& make)

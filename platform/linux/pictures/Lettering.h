@@ -31,8 +31,8 @@ struct TextLine
     std::vector<PlacedGlyph> glyphs;
 };
 
-/// Writes lines of text in the demi-bold of one family, and in other fonts what that does not have. Glyphs
-/// are kept, so that files are opened only for a line that has something new. Main thread only.
+/// Writes lines of text in the demi-bold of one family, and in other fonts what that lacks. Glyphs are kept,
+/// so that files are opened only for a line with something new. Main thread only.
 class Lettering
 {
 public:

@@ -52,7 +52,7 @@ int lastNotAfter(int count, std::uint16_t glyph, const FirstGlyph& firstGlyph)
 PairKerning::PairKerning(TableReader table)
     : m_table(std::move(table))
 {
-    // Behind the version, the table begins with the offsets of three lists.
+    // After the version, the table begins with the offsets of three lists.
     const std::uint32_t scripts = m_table(4);
     const std::uint32_t features = m_table(6);
     const std::uint32_t lookups = m_table(8);
@@ -90,7 +90,7 @@ std::uint32_t PairKerning::languageOf(std::uint32_t scripts) const
     // Titles are digits and Latin letters for the most part.
     for (const std::uint32_t tag : {tagOf("latn"), tagOf("DFLT")}) {
         const std::uint32_t script = tagged(scripts, tag);
-        // Of a script the default language, where it has one.
+        // The default language of a script, where it has one.
         if (script != 0 && m_table(script) != 0)
             return script + m_table(script);
     }
@@ -126,7 +126,7 @@ int PairKerning::between(std::uint32_t left, std::uint32_t right) const
     std::size_t done = none;
     for (const Subtable& subtable : m_subtables) {
         int units = 0;
-        // Of a lookup's subtables only the first that knows the pair counts.
+        // Only the first of a lookup's subtables that knows the pair counts.
         if (subtable.lookup == done || !adjust(subtable.offset, pair, units))
             continue;
         sum += units;
@@ -178,7 +178,7 @@ int PairKerning::advanceIn(std::uint32_t record, std::uint16_t format) const
 {
     if ((format & xAdvance) == 0)
         return 0;
-    // A value has a field for each bit of its format, in order; those before the advance are passed over.
+    // A value has a field for each bit of its format, in order; those before the advance are skipped.
     return static_cast<std::int16_t>(m_table(record + bytesOf(format & (xAdvance - 1U))));
 }
 
@@ -202,7 +202,8 @@ std::int64_t PairKerning::coverageIndex(std::uint32_t coverage, std::uint16_t gl
 
 std::uint16_t PairKerning::classOf(std::uint32_t classes, std::uint16_t glyph) const
 {
-    // Either a class for each glyph from a first one on, or ranges with a class each. In no class is class 0.
+    // Either a class for each glyph from a first one on, or ranges with a class each. All other glyphs are of
+    // class 0.
     if (m_table(classes) == 1) {
         const int place = glyph - m_table(classes + 2);
         const bool isListed = place >= 0 && place < m_table(classes + 4);

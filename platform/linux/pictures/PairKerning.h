@@ -10,7 +10,7 @@ namespace quindle {
 using TableReader = std::function<std::uint16_t(std::uint32_t offset)>;
 
 /// The space between pairs of glyphs as a font's GPOS table has it, which is the only place in most of
-/// today's fonts. Any bytes may stand in the table: what makes no sense is no kerning.
+/// today's fonts. The table may hold any bytes: nonsense gives no kerning.
 class PairKerning
 {
 public:
@@ -30,7 +30,7 @@ private:
     struct Subtable
     {
         std::uint32_t offset = 0;
-        std::size_t lookup = 0; ///< of each lookup only the first subtable counts that knows the pair
+        std::size_t lookup = 0; ///< only the first subtable of a lookup that knows the pair counts
     };
 
     /// The row of a list of records that has the tag; 0 for none.

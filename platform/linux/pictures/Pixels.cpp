@@ -37,8 +37,8 @@ std::uint32_t premultiplied(Argb colour)
     return scaled(colour | 0xff000000U, alphaOf(colour));
 }
 
-/// What is seen of one premultiplied pixel through another above it. No channel overflows, because none is
-/// greater than its alpha.
+/// One premultiplied pixel seen through another above it. No channel overflows, because none is greater than
+/// its alpha.
 std::uint32_t above(std::uint32_t top, std::uint32_t bottom)
 {
     return top + scaled(bottom, 255U - alphaOf(top));
@@ -58,8 +58,7 @@ void forEachCommon(const Pixels& onto, int x, int y, const Other& other, const P
     }
 }
 
-/// How much of the pixel whose corner is that far from the circle's middle is in the circle, by trying
-/// places.
+/// How much of a pixel is inside a circle, by sampling; its corner is that far from the centre.
 std::uint8_t coverageInCircle(double x, double y, double radius)
 {
     constexpr int places = 8;

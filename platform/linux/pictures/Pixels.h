@@ -41,7 +41,7 @@ Mask blankMask(int width, int height);
 /// The colour of a pixel in the picture.
 Argb colourAt(const Pixels& pixels, int x, int y);
 
-/// Paints the shape in that colour, its top left corner at x and y; what is beyond the picture is left out.
+/// Paints the shape in that colour, its top left corner at x and y, clipped to the picture.
 void paintMask(Pixels& onto, int x, int y, const Mask& mask, Argb ink);
 
 /// The same with a picture.

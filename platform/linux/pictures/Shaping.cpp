@@ -10,8 +10,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(logShaping, "quindle.statusitem.pictures", QtWarningMsg)
 
-// What is used of the library's interface, which has not changed since its version 0.3. It is declared here
-// so that building needs none of the many packages behind the library's own header.
+// The part of the library's interface that is used, unchanged since version 0.3. It is declared here so that
+// building needs none of the many packages behind the library's header.
 
 using Paragraph = struct raqm;
 
@@ -48,7 +48,7 @@ struct Shaping::Library
 
     bool load(const char* name)
     {
-        // Never unloaded: what is behind it does not stand that.
+        // Never unloaded: its own libraries do not survive that.
         void* library = dlopen(name, RTLD_NOW | RTLD_LOCAL);
         return library && find(library, "raqm_create", create) && find(library, "raqm_destroy", destroy) &&
                find(library, "raqm_set_text", setText) &&

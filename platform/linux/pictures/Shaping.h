@@ -24,12 +24,12 @@ struct ShapedGlyph
     FT_FaceRec_* face = nullptr;
     std::uint32_t glyph = 0;
     double advance = 0.0;
-    double right = 0.0; ///< how far it stands from the pen
+    double right = 0.0; ///< its distance from the pen
     double up = 0.0;
 };
 
-/// Puts a line of any script together, with the help of a library that is loaded when it is first needed and
-/// then stays. It need not be installed.
+/// Lays out a line in any script, with a library that is loaded when it is first needed and then stays. It
+/// need not be installed.
 class Shaping
 {
 public:

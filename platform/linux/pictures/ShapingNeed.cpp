@@ -10,7 +10,7 @@ namespace {
 
 constexpr char32_t zeroWidthJoiner = 0x200d;
 
-/// More is never seen of a line.
+/// No more of a line is ever seen.
 constexpr qsizetype mostUnits = 1000;
 
 /// Scripts that are written from left to right with one glyph for each character.
@@ -59,7 +59,7 @@ bool isRightToLeft(char32_t c)
     }
 }
 
-/// Of the emoji that are made of several characters: what joins, tints or pairs them.
+/// What joins, tints or pairs the characters of an emoji.
 bool joinsEmoji(char32_t c)
 {
     // Beside the joiner: skin tones, the letters of flags, the frame of a key.
@@ -67,7 +67,7 @@ bool joinsEmoji(char32_t c)
            c == 0x20e3;
 }
 
-/// Says which of two forms the character before it has; fonts have one of them.
+/// Selects one of two forms of the preceding character; fonts have only one.
 bool isVariationSelector(char32_t c)
 {
     return (c >= 0xfe00 && c <= 0xfe0f) || (c >= 0xe0100 && c <= 0xe01ef);
@@ -99,7 +99,7 @@ std::u32string drawnCharacters(const QString& text)
     const QString composed = text.left(mostUnits).normalized(QString::NormalizationForm_C);
     std::u32string characters = composed.toStdU32String();
     std::erase_if(characters, [](char32_t c) { return QChar::category(c) == QChar::Other_Control; });
-    // They say how letters join. Where none do, they would be drawn as boxes.
+    // They control how letters join. Where none do, they would be drawn as boxes.
     if (!needsShaping(std::u32string_view(characters)))
         std::erase_if(characters, isInvisible);
     return characters;

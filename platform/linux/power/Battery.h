@@ -18,7 +18,7 @@ enum class ChargingState {
 /// drivers put right. What the battery does not report is missing.
 struct Battery
 {
-    std::optional<ChargingState> state; ///< a word that is none of the known ones is Unknown
+    std::optional<ChargingState> state; ///< an unknown word is Unknown
 
     // mAh. Where a battery reports its percentage only, the charge is that number and the full charge 100.
     std::optional<double> charge;       ///< not above the full charge

@@ -22,8 +22,8 @@ std::optional<ChargingState> chargingState(const SupplyAttributes& attributes)
         return ChargingState::Discharging;
     if (word == "Not charging")
         return ChargingState::NotCharging;
-    // "Unknown" is an answer of its own, and not a missing one: some controllers say it of a battery that
-    // rests on the adapter (thinkpad-t430s).
+    // "Unknown" is an answer, not a missing one: some controllers report it for a battery that rests on the
+    // adapter (thinkpad-t430s).
     return word == "Full" ? ChargingState::Full : ChargingState::Unknown;
 }
 
@@ -91,8 +91,8 @@ std::optional<QString> healthWord(const Battery& battery, std::optional<QString>
     return share >= leastOfFair ? QStringLiteral("Fair") : QStringLiteral("Poor");
 }
 
-/// A driver with several ways of charging follows its threshold in the way "Custom" only; the one in force
-/// stands in brackets, or alone in a uevent. No percentage is known of the other ways ("Long_Life").
+/// A driver with several ways of charging follows its threshold in the way "Custom" only; the one in force is
+/// in brackets, or alone in a uevent. The other ways ("Long_Life") have no known percentage.
 bool followsThreshold(const SupplyAttributes& attributes)
 {
     const std::optional<std::string_view> types = attributes.text(Attribute::ChargeTypes);
@@ -102,7 +102,7 @@ bool followsThreshold(const SupplyAttributes& attributes)
 std::optional<int> chargeLimit(const SupplyAttributes& attributes)
 {
     const std::optional<double> percent = attributes.number(Attribute::ChargeControlEndThreshold);
-    // 100 is how a driver says that it limits nothing.
+    // Drivers write 100 for no limit.
     if (!isWithin(percent, 1, 99) || !followsThreshold(attributes))
         return std::nullopt;
     return static_cast<int>(*percent);

@@ -8,8 +8,8 @@ namespace quindle {
 
 Battery batteryFrom(const SupplyAttributes& attributes);
 
-/// Whether the battery is one yet: a driver that gives neither a full charge nor a percentage has not heard
-/// from its battery (seen on a ThinkPad X13s, for the first seconds after the start).
+/// Whether the battery is ready: a driver that gives neither a full charge nor a percentage has not heard
+/// from its battery yet (as on a ThinkPad X13s, for the first seconds after the start).
 bool isReady(const Battery& battery);
 
 /// The text of an attribute as a person can read it (see readableText).

@@ -62,7 +62,7 @@ SystemTimes BatteryTimes::follow(const SystemPower& power, std::chrono::millisec
 
 std::optional<std::chrono::seconds> BatteryTimes::steadyAfter(const SystemPower& power)
 {
-    // Nothing is estimated; a pause, so that figures that change now and then do not count as steady.
+    // Nothing is estimated; the pause keeps figures that change now and then from counting as steady.
     if (directionOf(power) == Direction::Idle)
         return std::chrono::seconds(20);
     if (combinedChargeRate(power.batteries))

@@ -14,8 +14,7 @@ struct SystemTimes
     std::optional<int> averageToEmpty;
     std::optional<int> averageToFull;
     std::optional<int> presentToEmpty;
-    std::optional<int>
-        remaining; ///< to full while charging, else to empty; none on power that does not charge
+    std::optional<int> remaining; ///< to full while charging, else to empty; none on mains without charging
 };
 
 /// Follows the batteries from one moment to the next: the driver's own times where it has plausible ones,
@@ -23,7 +22,7 @@ struct SystemTimes
 class BatteryTimes
 {
 public:
-    /// The times at that moment. To be called for every sample, so that no plug or unplug is missed.
+    /// The times at that moment. Call it for every sample, so that no plug or unplug is missed.
     SystemTimes follow(const SystemPower& power, std::chrono::milliseconds now);
 
     /// How long after the last change the times stay what they are as long as the supplies do. Nothing where

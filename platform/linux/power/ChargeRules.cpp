@@ -57,8 +57,8 @@ bool isBroken(double charge, double full)
     return charge > mostOfFull * full;
 }
 
-/// A counter that has lost its place differs widely from the percentage, which the gauge corrects by voltage.
-/// The widest difference of a sound one is 3 points, that of the energies of sbs-gehc-32-properties.
+/// A counter that has lost track differs widely from the percentage, which the gauge corrects by voltage. The
+/// widest difference of a sound one is 3 points, that of the energies of sbs-gehc-32-properties.
 bool isLost(double charge, double full, double percent)
 {
     constexpr double widestDifference = 20; // percent of the full charge
@@ -91,7 +91,7 @@ OptionalNumber directed(const Battery& battery, OptionalNumber amount)
     return battery.state == ChargingState::Discharging ? -std::abs(*amount) : std::abs(*amount);
 }
 
-/// mA: the first of both that is given, else what the power makes at the present voltage.
+/// mA: the first of the two that is given, else from the power at the present voltage.
 OptionalNumber current(const Battery& battery, const DriverFigures& figures, OptionalNumber first,
                        OptionalNumber second)
 {

@@ -95,7 +95,7 @@ std::optional<double> combinedFullCharge(Batteries batteries)
 
 std::optional<double> combinedDesignCharge(Batteries batteries)
 {
-    // With none at all every battery would count as new, and health would be 100 %.
+    // Without any, every battery would count as new, and health would be 100 %.
     if (!firstTold(batteries, &Battery::designCharge))
         return std::nullopt;
     return sumOfCharges(batteries, designOrFullCharge);

@@ -85,14 +85,14 @@ OptionalNumber inVolts(OptionalNumber voltage)
 DriverFigures driverFigures(const SupplyAttributes& battery)
 {
     DriverFigures figures = asWritten(battery);
-    // Voltages first: whether energies are in thousandths shows in the charge that they make at the voltage.
+    // Voltages first: the charge that energies make at the voltage shows whether they are in thousandths.
     figures.presentVoltage = inVolts(figures.presentVoltage);
     figures.ratedVoltage = inVolts(figures.ratedVoltage);
     if (!countsInThousandths(figures))
         return figures;
     ChargeCounter& charges = figures.charges;
     ChargeCounter& energies = figures.energies;
-    // Not the voltages: drivers that count in mWh may give them in µV all the same.
+    // Not the voltages: drivers that count in mWh may still give them in µV.
     multiply({&charges.now, &charges.full, &charges.design, &energies.now, &energies.full, &energies.design,
               &figures.averageCurrent, &figures.presentCurrent, &figures.power},
              1000);

@@ -15,9 +15,9 @@ struct ChargeCounter
     std::optional<double> design;
 };
 
-/// The figures that a driver wrote of one battery, in units that are the same for all drivers, and otherwise
-/// as it wrote them. A figure that the driver does not give, or gives as a negative number where only
-/// positive ones make sense, is missing.
+/// The figures that a driver wrote for one battery, in the same units for all drivers and otherwise as
+/// written. A figure that the driver does not give, or gives as a negative number where only positive ones
+/// make sense, is missing.
 struct DriverFigures
 {
     ChargeCounter charges;  ///< mAh
@@ -32,7 +32,7 @@ struct DriverFigures
     std::optional<double> cycleCount;
 };
 
-/// 0 where only more makes sense is how drivers say that they do not know the figure.
+/// Where 0 makes no sense, drivers write it for a figure that they do not know.
 inline std::optional<double> positive(std::optional<double> number)
 {
     return number && *number > 0 ? number : std::nullopt;

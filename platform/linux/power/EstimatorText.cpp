@@ -22,7 +22,7 @@ QByteArray wordOf(std::optional<double> number)
     return number ? QByteArray::number(*number, 'g', allDigits) : notKnown;
 }
 
-/// False for a word that is neither a number nor stands for none.
+/// False for a word that is neither a number nor the sign for none.
 bool read(const QByteArray& word, std::optional<double>& number)
 {
     if (word == notKnown)

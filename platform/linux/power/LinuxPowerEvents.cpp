@@ -47,7 +47,7 @@ void LinuxPowerEvents::setObserver(std::function<void()> observer)
     if (m_notifier)
         return;
     if (!open()) {
-        // No reason to give up: the timers refresh all the same.
+        // No reason to give up: the timers still refresh.
         qCWarning(powerLog, "no events of the power supplies: changes show at the next refresh");
         return;
     }

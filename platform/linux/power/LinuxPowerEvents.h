@@ -12,7 +12,7 @@ namespace quindle {
 
 /// The kernel's events of the class "power_supply", as udev's daemon passes them on, or straight from the
 /// kernel where no such daemon runs. Events of other devices do not wake the process in the first case. Where
-/// they cannot be had one line is logged and no event comes; the next observer asks for them again.
+/// they are not available one line is logged and no event comes; the next observer tries again.
 class LinuxPowerEvents : public PowerEvents
 {
 public:

@@ -13,7 +13,7 @@ PeripheralBatteries::PeripheralBatteries(std::string folder, Bluetooth bluetooth
 
 QList<PeripheralBattery> PeripheralBatteries::now()
 {
-    // Nobody asks often, and nothing announces a device that came or went between two questions.
+    // This is asked seldom, and nothing announces a device that came or went in between.
     constexpr bool looksAgain = true;
     if (std::optional<SupplyReadings> readings = m_reader.read(looksAgain))
         m_last = std::move(*readings);

@@ -9,7 +9,7 @@
 namespace quindle {
 
 /// The batteries of devices beside the computer. Reading them may send something to the device, so they are
-/// read only when somebody wants to know. Main thread only.
+/// read only on request. Main thread only.
 class PeripheralBatteries
 {
 public:

@@ -9,7 +9,7 @@ namespace quindle {
 
 namespace {
 
-/// Longer than any maker's name for a device; a Bluetooth device may call itself anything.
+/// Longer than any maker's name for a device; a Bluetooth device may have any name.
 constexpr int longestName = 64;
 
 std::optional<int> percentOf(const SupplyAttributes& attributes)

@@ -25,9 +25,9 @@ struct PowerSample
 };
 
 /// Takes samples of a class directory ("/sys/class/power_supply"). One sample answers all questions of one
-/// refresh, as a Mac's registry holds what its driver last published, so that figures of two moments never
-/// meet in one title: it serves until the main loop waits again, which the owner says by expire(), and
-/// for a second where that is never. Main thread only.
+/// refresh, as a Mac's registry holds what its driver last published, so that one title never mixes figures
+/// of two moments: it serves until the main loop waits again, when the owner calls expire(), or for a second
+/// where it never does. Main thread only.
 class PowerSampler
 {
 public:
@@ -40,27 +40,27 @@ public:
     /// Has the next question take a new sample.
     void expire() { m_isExpired = true; }
 
-    /// The same, and has it look for files that have come or gone: a supply's driver has said something. It
-    /// does so every half minute besides.
+    /// The same, and has it look for files that have come or gone: a supply's driver has announced something.
+    /// It also does so every half minute.
     void lookAgain();
 
-    /// Has `arrived` called from the main loop when a reading that took too long for its sample is there: the
+    /// Has `arrived` called from the main loop when a reading that was too late for its sample is there: the
     /// next sample has it.
     void setLateObserver(std::function<void()> arrived);
 
-    /// Has `expected` called when a sample has no remaining time yet, with how long after it the next one
-    /// will have one: sooner than the timers may ask again.
+    /// Has `expected` called when a sample has no remaining time yet, with the time until a sample will have
+    /// one: sooner than the timers may ask again.
     void setTimeExpected(std::function<void(std::chrono::milliseconds)> expected)
     {
         m_timeExpected = std::move(expected);
     }
 
-    /// Whether samples have been the same for a while, and the next one will be while the supplies say what
-    /// they say now. Not while an attribute could not be read.
+    /// Whether samples have been the same for a while, and will be as long as the supplies do not change. Not
+    /// while an attribute could not be read.
     bool isSteady() const;
 
-    /// Somebody else has seen that the supplies had not changed at these moments of the sampler's clock, in
-    /// their order: the next sample counts them as if they had been sampled. Asked for then.
+    /// Sets what gives the moments, in order and by the sampler's clock, at which the supplies were seen
+    /// unchanged: the next sample asks for them, and counts them as if they had been sampled.
     void setStillMoments(std::function<std::vector<std::chrono::milliseconds>()> take)
     {
         m_takeStillMoments = std::move(take);

@@ -46,7 +46,7 @@ QVariantMap sourceDescription(const Battery& source, const QString& type, bool i
     return description;
 }
 
-/// The times are those of all batteries together; of several, each one's own are not known.
+/// The times are those of all batteries together; with several, their own are not known.
 QVariantMap batteryDescription(const Battery& battery, bool isExternallyPowered, const SystemTimes& times)
 {
     QVariantMap description =

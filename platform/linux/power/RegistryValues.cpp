@@ -42,10 +42,10 @@ QVariantMap registryEntry(const SystemPower& power, const SystemTimes& times)
     const Batteries batteries = power.batteries;
     if (batteries.empty())
         return {};
-    const Battery& first = batteries.front(); // texts and date are all of one battery
+    const Battery& first = batteries.front(); // texts and date all come from one battery
     QVariantMap entry;
     const auto add = [&entry](QLatin1String key, const QVariant& value) {
-        // A key with 0 would be taken for a figure of the battery's.
+        // A key with 0 would be taken for a real figure.
         if (value.isValid())
             entry.insert(key, value);
     };

@@ -22,7 +22,7 @@ bool isPowerDelivery(const SupplyAttributes& attributes)
     if (bracket != std::string_view::npos)
         modes = modes.substr(bracket + 1, modes.find(']', bracket) - bracket - 1);
     else if (modes.find(' ') != std::string_view::npos)
-        return false; // several modes that it could have, and none that it has
+        return false; // several possible modes, and no present one
     if (!modes.empty())
         return modes.starts_with("PD");
     return trimmed(attributes.text(Attribute::Type).value_or(std::string_view())).starts_with("USB_PD");
@@ -90,7 +90,7 @@ bool isExternallyPowered(const SystemPower& power)
             return true;
         chargerSaysSomething = chargerSaysSomething || supply.isOnline.has_value();
     }
-    // Without an adapter that says anything a battery that does not discharge is fed
+    // Without an adapter that reports anything, a battery that does not discharge is fed
     // (framework-13-charging-99 lists none while it charges).
     return !chargerSaysSomething;
 }

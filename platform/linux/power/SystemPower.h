@@ -11,7 +11,7 @@ namespace quindle {
 /// Something that may feed the computer.
 struct ExternalSupply
 {
-    std::optional<bool> isOnline; ///< missing when it does not say so
+    std::optional<bool> isOnline; ///< missing when it is not reported
     std::optional<qint64> watts;  ///< what an online USB Power Delivery supply can give
 };
 

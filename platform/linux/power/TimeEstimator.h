@@ -8,7 +8,7 @@
 namespace quindle {
 
 /// Estimates the time until a battery is empty or full from its charge and the average current of the last
-/// minute. It begins anew whenever the direction of the current or the plug changes, and knows nothing until
+/// minute. It starts over whenever the direction of the current or the plug changes, and gives nothing until
 /// it has watched for a while. It has no clock; times are those of the samples and only run forward.
 class TimeEstimator
 {
@@ -41,10 +41,10 @@ public:
 
     const Memory& memory() const { return m_memory; }
 
-    /// Goes on from there, as if it had watched itself.
+    /// Continues from there, as if it had watched itself.
     void setMemory(Memory memory) { m_memory = std::move(memory); }
 
-    /// Says how things stand now; a change forgets all samples.
+    /// Sets the present state; a change forgets all samples.
     void setState(bool isPlugged, Direction direction);
 
     /// Whether the last sample is old enough, 1 s, for another one to add anything.
@@ -57,8 +57,8 @@ public:
     std::optional<int> minutesUntilEmpty() const;
     std::optional<int> minutesUntilFull() const;
 
-    /// From which time on one more sample with a current makes the first estimate of it. Nothing where no
-    /// current flows or is known, and once the samples reach far enough back.
+    /// The time from which on one more sample with a current gives the first estimate. Nothing where no
+    /// current flows or is known, and once the samples reach back far enough.
     std::optional<std::chrono::milliseconds> firstEstimateAt() const;
 
 private:
