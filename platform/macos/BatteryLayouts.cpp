@@ -53,8 +53,8 @@ QVariantMap batteryData(const QVariantMap& entry)
     return entry.value(QStringLiteral("BatteryData")).toMap();
 }
 
-/// From the best to the least: what the gauge measured, as two systems name it, then what the battery is said
-/// to hold at an even load.
+/// From best to worst: what the gauge measured, under two systems' names, then the nominal capacity at an
+/// even load.
 std::optional<qint64> fullChargeCapacity(const QVariantMap& entry)
 {
     const QVariantMap data = batteryData(entry);
@@ -84,7 +84,7 @@ qint64 sameShare(qint64 part, qint64 whole, qint64 full)
     return share;
 }
 
-/// A charge that is no percentage stays what it is, for the models to refuse or show.
+/// A charge that is not a percentage stays as it is, for the models to refuse or show.
 void layOutCapacities(QVariantMap& entry)
 {
     const auto whole = capacityAt(entry, maxCapacityKey());
@@ -104,7 +104,7 @@ void layOutDesignCapacity(QVariantMap& entry)
         entry.insert(designCapacityKey(), *design);
 }
 
-/// Some gauges' 16 bits are handed on without their sign. No battery gives or takes 32 A.
+/// Some gauges' 16 bits are passed on without their sign. No battery gives or takes 32 A.
 qint64 withSign(qint64 milliamperes)
 {
     constexpr qint64 range = 1 << 16;
@@ -114,7 +114,7 @@ qint64 withSign(qint64 milliamperes)
 void layOutCurrents(QVariantMap& entry)
 {
     for (const QString& key : currentKeys()) {
-        // The conversion takes 64 bits without a sign as those with one.
+        // The conversion reads unsigned 64 bits as signed ones.
         if (const auto milliamperes = integerAt(entry, key))
             entry.insert(key, withSign(*milliamperes));
     }

@@ -4,8 +4,8 @@
 #include <QVariantMap>
 
 /// What a Mac's battery entry in the I/O registry means. Its keys changed their meaning with the processor
-/// and with the system, so the same key holds other things on other Macs; these functions make of each the
-/// keys and units that the models read. Pure functions.
+/// and with the system, so the same key means different things on different Macs; these functions turn each
+/// into the keys and units that the models read. Pure functions.
 namespace quindle {
 
 /// Whether the entry stands for a battery that is not there: desktop Macs with Apple silicon have one, full

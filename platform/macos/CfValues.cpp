@@ -62,7 +62,7 @@ QVariant data(CFTypeRef object, int /*levels*/)
 QVariant date(CFTypeRef object, int /*levels*/)
 {
     const double seconds = CFDateGetAbsoluteTime(as<CFDateRef>(object)) + secondsTo2001;
-    // One that is not a number too.
+    // NaN too.
     if (!(std::fabs(seconds) < farthestSeconds))
         return {};
     return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(std::llround(seconds * 1000.0)));

@@ -41,7 +41,7 @@ RegistryObject LaidOutRegistry::batteryUnlessGhost(RegistryObject object)
 
 QVariant LaidOutRegistry::property(RegistryObject object, const QString& key)
 {
-    // Most keys mean what they say, and reading one is much cheaper than reading all.
+    // Most keys need no change, and reading one is much cheaper than reading all.
     if (hasLayout(key) && m_batteries.count(object) > 0)
         return properties(object).value(key);
     return m_asItIs.property(object, key);

@@ -4,7 +4,7 @@
 
 #include <Foundation/Foundation.h>
 
-/// What a notification center calls: an object with a function.
+/// The object that a notification center calls, with a function.
 @interface QDListener : NSObject
 - (instancetype)initWithFunction:(std::function<void(NSNotification*)>)heard;
 - (void)hear:(NSNotification*)notification;

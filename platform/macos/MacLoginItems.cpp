@@ -32,7 +32,7 @@ std::optional<QString> MacLoginItems::resolve(Item item)
 
 void MacLoginItems::insertBeforeFirst(const QString& fileUrl)
 {
-    // Nothing else can be put there.
+    // Nothing else can be added there.
     if (normalFileUrl(fileUrl) == m_helperUrl)
         setOn(true);
 }

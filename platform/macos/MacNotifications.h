@@ -7,8 +7,8 @@
 
 namespace quindle {
 
-/// The system brings a process its own posts too, later. Its observers have been called by then, so those are
-/// passed over: each post carries who sent it.
+/// The system also delivers a process's own posts, later. Its observers have been called by then, so those
+/// are skipped: each post names its sender.
 class MacDistributedNotificationCenter : public DistributedNotificationCenter
 {
 public:

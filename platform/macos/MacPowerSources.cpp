@@ -25,7 +25,7 @@ std::optional<int> MacPowerSources::sourceCount()
     if (!sources)
         return std::nullopt;
     m_listed = std::move(*sources);
-    // One that has gone between being listed and described is no source any more.
+    // One that has gone between being listed and described is no longer a source.
     m_listed.erase(std::remove(m_listed.begin(), m_listed.end(), QVariantMap()), m_listed.end());
     return static_cast<int>(m_listed.size());
 }

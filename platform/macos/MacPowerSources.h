@@ -8,8 +8,8 @@
 
 namespace quindle {
 
-/// The power-source service of a Mac. It tells nobody about a charge limit, and of other devices' batteries
-/// only those that supply this computer.
+/// The power-source service of a Mac. It does not report a charge limit, and of other devices' batteries only
+/// those that supply this computer.
 class MacPowerSources : public PowerSources
 {
 public:

@@ -7,8 +7,7 @@
 
 namespace quindle {
 
-/// A program that gets each text as a file that has no name any more, so that however long it is nobody
-/// waits.
+/// A program that gets each text as a file without a name, so that nobody waits, however long it is.
 class MacTextReceiver : public TextReceiver
 {
 public:

@@ -11,7 +11,7 @@ namespace {
 constexpr double postPatience = 60.0; // seconds
 constexpr double getPatience = 3.0;   // the main thread waits for it
 
-// As much as any answer of the services has, and no more is looked at.
+// Longer than any answer of the services; the rest is ignored.
 constexpr qsizetype longestBody = 256 * 1024;
 
 bool isUsable(const QString& url, const QString& scheme)

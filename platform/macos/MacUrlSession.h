@@ -16,7 +16,7 @@ public:
 
 private:
     HttpCalls& m_calls;
-    std::shared_ptr<void> m_alive; ///< answers that come after it has gone are nobody's
+    std::shared_ptr<void> m_alive; ///< answers after its end are ignored
 };
 
 } // namespace quindle

@@ -12,8 +12,8 @@
 #include "platform/IORegistry.h"
 #include "platform/Notifier.h"
 
-/// What the back end asks of the system, in plain values. The adapters (*.mm) convert and forward and decide
-/// nothing; who uses these classes decides, and is tested with others in their place. Main thread only.
+/// What the back end asks of the system, in plain values. The adapters (*.mm) convert and forward, and decide
+/// nothing; the users of these classes decide, and are tested with fakes. Main thread only.
 namespace quindle {
 
 class RegistryCalls
@@ -98,7 +98,7 @@ class SystemTimer
 public:
     virtual ~SystemTimer() = default;
 
-    /// From now on ticks are late by so many seconds at most. One that is overdue comes at once.
+    /// From now on ticks are at most this many seconds late. One that is overdue comes at once.
     virtual void setTolerance(double tolerance) = 0;
 };
 
@@ -183,7 +183,7 @@ public:
     /// Replaces the menu; `chosen` is called with the id of the row.
     virtual void setMenu(const std::vector<MenuEntry>& entries, std::function<void(int id)> chosen) = 0;
 
-    /// Brings one row of the menu up to date; unknown ids are passed over.
+    /// Brings one row of the menu up to date; unknown ids are ignored.
     virtual void updateEntry(const MenuEntry& entry) = 0;
 };
 

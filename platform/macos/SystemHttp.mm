@@ -53,7 +53,7 @@ NSURLSessionDataTask* start(NSMutableURLRequest* request, NSURLSession* session,
     return task;
 }
 
-/// The end of a request that is waited for; whoever comes last keeps it alive no longer.
+/// The end of a request that is waited for; the last of both sides frees it.
 struct Waiting
 {
     dispatch_semaphore_t done = dispatch_semaphore_create(0);

@@ -6,7 +6,7 @@
 #include "platform/macos/CocoaText.h"
 #include "platform/macos/MacCalls.h"
 
-/// What menu items send their choice to.
+/// The target of menu items' choices.
 @interface QDMenuTarget : NSObject
 - (instancetype)initWithFunction:(std::function<void(int)>)chosen;
 - (void)choose:(NSMenuItem*)item;

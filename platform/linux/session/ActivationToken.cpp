@@ -37,7 +37,7 @@ ActivationToken::ActivationToken(const QByteArray& token)
 
 ActivationToken::~ActivationToken()
 {
-    // Also one that came with the start: it is used up or out of date by now.
+    // Even one that came with the start: it is used up or outdated by now.
     ::unsetenv(variable);
 }
 

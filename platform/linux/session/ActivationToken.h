@@ -13,9 +13,8 @@ QByteArray activationTokenOfProcess();
 /// The same, which is then used up: neither this process nor one that it starts finds it again.
 QByteArray takeActivationToken();
 
-/// As long as it lives, windows that are activated use this token. Qt takes it from the environment, in which
-/// it is put without leaving memory behind. An empty or overlong token is not used. Main thread, one at a
-/// time.
+/// As long as it lives, windows that are activated use this token. Qt takes it from the environment; putting
+/// it there leaks no memory. An empty or overlong token is not used. Main thread, one at a time.
 class ActivationToken
 {
 public:

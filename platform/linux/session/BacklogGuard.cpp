@@ -29,10 +29,10 @@ void BacklogGuard::setBus(const QDBusConnection& bus)
 
 bool BacklogGuard::eventFilter(QObject* /*watched*/, QEvent* event)
 {
-    // The library delivers every call and every signal to the main thread in such an event.
+    // The library delivers each call and signal to the main thread in such an event.
     if (event->type() == QEvent::MetaCall && !m_isDeaf)
         count();
-    // Dropped here, before the library unpacks it: a flood must not cost anything any more.
+    // Dropped here, before the library unpacks it: a flood must cost nothing any more.
     return event->type() == QEvent::MetaCall && m_isDeaf;
 }
 
@@ -41,7 +41,7 @@ void BacklogGuard::count()
     ++m_heard;
     if (!m_isAsked && m_heard >= unasked)
         askForSign();
-    // An honest peer's calls are on the way in dozens, a flood's in thousands.
+    // An honest peer has dozens of calls under way, a flood thousands.
     if (m_heard <= mostOnTheWay)
         return;
     m_isDeaf = true;

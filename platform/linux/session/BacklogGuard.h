@@ -8,15 +8,14 @@
 namespace quindle {
 
 /// Notices when a peer on a bus sends more than this process can handle, or asks and does not read the
-/// answers: the queues in the process, on the bus and in between have no bound of their own. Now and then it
-/// sends the bus a question, whose answer comes behind everything that is queued, and counts what arrives
-/// before it.
+/// answers: the queues in the process, on the bus and in between are unbounded. Now and then it sends the bus
+/// a question, whose answer comes after everything that is queued, and counts what arrives before it.
 class BacklogGuard final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A host that reads its answers has a few dozen calls under way, even when it starts.
+    /// A host that reads its answers has a few dozen calls under way, even while it starts.
     static constexpr int mostOnTheWay = 250;
 
     /// `overrun` is called once for each connection, from the main loop.

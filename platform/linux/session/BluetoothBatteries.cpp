@@ -17,8 +17,8 @@ using Objects = QMap<QDBusObjectPath, Interfaces>;
 const QString ownBusName = QStringLiteral("quindle-bluetooth");
 const QString objectsSignature = QStringLiteral("a{oa{sa{sv}}}");
 
-constexpr int longestUse = 20'000; // of an answer; while somebody looks, it is asked more often
-// Nobody has more; a broken service cannot fill the view.
+constexpr int longestUse = 20'000; // of an answer; it is asked more often while somebody looks
+// Nobody has more; a broken service must not fill the view.
 constexpr qsizetype mostBatteries = 32;
 
 QDBusMessage questionForObjects()
@@ -48,7 +48,7 @@ std::optional<BluetoothBattery> batteryOf(const Interfaces& object)
 
 QList<BluetoothBattery> bluetoothBatteriesFrom(const QDBusMessage& answer)
 {
-    // The library converts without looking; a message of another form would give nonsense.
+    // The library converts without checking; a message of another form would give nonsense.
     if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != objectsSignature)
         return {};
     const auto objects = qdbus_cast<Objects>(answer.arguments().constFirst());
@@ -80,7 +80,7 @@ QList<BluetoothBattery> BluetoothBatteries::latest()
     }
     if (m_question->isFinished()) {
         m_batteries = bluetoothBatteriesFrom(m_question->reply());
-        // The answer for the next question is asked for now, so that nobody waits then.
+        // The answer to the next question is requested now, so that nobody waits then.
         if (!isOld)
             m_question = ask();
     }
@@ -93,7 +93,7 @@ QDBusPendingCall BluetoothBatteries::ask()
     return bus().asyncCall(questionForObjects(), m_patience);
 }
 
-/// The process's connection, else one of its own: the shared one does not come back when its bus has gone.
+/// The process's connection, else one of its own: the shared one does not come back once its bus is gone.
 QDBusConnection BluetoothBatteries::bus()
 {
     if (m_ownBus.isConnected())

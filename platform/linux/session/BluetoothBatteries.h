@@ -13,7 +13,8 @@
 namespace quindle {
 
 /// The batteries that BlueZ (org.bluez on the system bus) reports. It is asked only when somebody looks, so
-/// that a device's changes wake nobody; a service that does not run is not started. Main thread only.
+/// that a device's changes do not wake this process; a service that does not run is not started. Main thread
+/// only.
 class BluetoothBatteries
 {
 public:

@@ -31,7 +31,7 @@ QString usualName(QDBusConnection::BusType type)
                                               : QStringLiteral("quindle-session");
 }
 
-/// File systems give a new file the number of the one that has just gone, so the number alone is not enough.
+/// File systems reuse the number of a file that was just deleted, so the number alone is not enough.
 BusLink::Socket socketAt(const QString& path)
 {
     struct stat found = {};
@@ -143,7 +143,7 @@ void BusLink::drop()
 
 void BusLink::waitForBus(int pause)
 {
-    // Also with a watch: a bus on an abstract socket has no file to watch.
+    // Even with a watch: a bus on an abstract socket has no file to watch.
     m_retry.start(pause);
     if (!m_folderWatcher)
         watchSocketFolder();
@@ -170,11 +170,11 @@ void BusLink::lookAtSocket()
 
 void BusLink::reconnect()
 {
-    // A computer without a bus must not be woken for it for ever.
+    // A computer without a bus must not keep being woken for it.
     const int next = std::min(m_retry.interval() * 2, longestPause);
     closeOwn();
     m_triedOwn = true;
-    // By address: asked by type, the library may start a bus of its own where there is none.
+    // By address: by type, the library may start a bus of its own where there is none.
     if (take(QDBusConnection::connectToBus(busAddress(m_type), m_ownName)))
         m_folderWatcher.reset();
     else

@@ -13,7 +13,7 @@ class QFileSystemWatcher;
 namespace quindle {
 
 /// A connection to a message bus that comes back. While there is none, before the bus first came or after it
-/// was lost, it is tried again as soon as a new socket stands where the bus is expected, and besides after a
+/// was lost, it is tried again as soon as a new socket appears where the bus is expected, and also after a
 /// pause that doubles up to 5 minutes. Main thread only.
 class BusLink : public QObject
 {
@@ -22,7 +22,7 @@ class BusLink : public QObject
 public:
     static constexpr int usualPause = 10'000;
 
-    /// Which socket stands at a path: its inode, and when that was last changed; zeros for none.
+    /// Identifies the socket at a path: its inode, and when that was last changed; zeros for none.
     struct Socket
     {
         quint64 inode = 0;
@@ -36,7 +36,7 @@ public:
     /// connections of its own follow. The first try comes after `firstPause` milliseconds.
     explicit BusLink(QDBusConnection::BusType type, int firstPause = usualPause, QObject* parent = nullptr);
 
-    /// Shares its connections with nobody; they bear `ownName`.
+    /// Shares its connections with nobody; they are named `ownName`.
     BusLink(QDBusConnection::BusType type, QString ownName, int firstPause = usualPause,
             QObject* parent = nullptr);
     ~BusLink() override;
@@ -50,7 +50,7 @@ public:
     void open(std::function<void(QDBusConnection&)> subscribe, std::function<void()> lost = {});
 
     /// Closes the connection because a peer abuses it; it must not be the shared one. It counts as lost, and
-    /// is tried again after the first pause.
+    /// is made again after the first pause.
     void drop();
 
     /// The present connection; one that is not connected when there is none.

@@ -4,11 +4,11 @@
 
 namespace quindle {
 
-/// By which the one process that a session has of a program is known.
+/// Identifies the one process that a session has of a program.
 struct InstanceName
 {
-    QString bus;  ///< its name on the session bus
-    QString path; ///< of the object that is asked there
+    QString bus;  ///< the name on the session bus
+    QString path; ///< of the object to call there
     QString file; ///< what the names of its files begin with
 };
 
@@ -24,7 +24,7 @@ inline InstanceName applicationInstance()
             QStringLiteral("quindle-application")};
 }
 
-/// What a start is to do, so that one process runs.
+/// What a new process should do, so that only one keeps running.
 struct StartAnswer
 {
     enum class Outcome {

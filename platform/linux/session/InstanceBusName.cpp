@@ -14,7 +14,7 @@ namespace {
 
 const QString tokenKey = QStringLiteral("activation-token");
 
-// Without queueing: a start that waits in line for the name would run later, unasked.
+// Without queueing: a process that waits in line for the name would start later, unasked.
 constexpr uint doNotQueue = 4;
 constexpr uint nameIsOthers = 3;
 constexpr int answerPatience = 4000; // milliseconds
@@ -33,7 +33,7 @@ QDBusMessage requestName(const InstanceName& name)
     return busCall(QStringLiteral("RequestName"), {name.bus, doNotQueue});
 }
 
-/// Gives no reason where the owner has gone in the meantime.
+/// Gives no reason where the owner has ended in the meantime.
 QDBusMessage activateOwner(const QDBusConnection& connection, const InstanceName& name)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
@@ -107,7 +107,7 @@ std::optional<StartAnswer> InstanceBusName::start()
     return startOn(m_link.connection());
 }
 
-/// Before the name is taken, so that a process that finds it taken also finds somebody to ask.
+/// Before the name is taken, so that a process that finds it taken also finds the object to call.
 void InstanceBusName::offer(QDBusConnection& connection)
 {
     answerCalls(connection);

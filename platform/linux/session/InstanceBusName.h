@@ -35,9 +35,9 @@ private:
     Activated m_activated;
 };
 
-/// Makes sure that one process runs for each session bus: the bus gives a name to one of its connections
-/// only. The name is taken again on each bus that comes later. A peer that asks without end and does not wait
-/// is not answered for a while. Main thread only.
+/// Makes sure that one process runs for each session bus: the bus gives a name to one connection only. The
+/// name is taken again on each bus that comes later. A peer that floods it with calls is not answered for a
+/// while. Main thread only.
 class InstanceBusName : public QObject
 {
     Q_OBJECT
@@ -45,11 +45,11 @@ class InstanceBusName : public QObject
 public:
     explicit InstanceBusName(InstanceName name, QObject* parent = nullptr);
 
-    /// Takes the name, or asks its owner to show itself and waits up to four seconds for that.
-    /// Nothing where there is no bus, or one that gives no names: then the name is taken once there is.
+    /// Takes the name, or asks its owner to show itself and waits up to four seconds for that. Nothing where
+    /// there is no bus, or one that gives no names; the name is then taken once there is a bus.
     std::optional<StartAnswer> start();
 
-    /// Windows that `showRequested` activates may come to the front in the name of the start that asks.
+    /// Windows that `showRequested` activates may come to the front on behalf of the start that asks.
     void setShowRequested(std::function<void()> showRequested) { m_showRequested = std::move(showRequested); }
 
     /// Sets what happens when another process has the name on a bus that came later.

@@ -24,7 +24,7 @@ Q_LOGGING_CATEGORY(instanceLog, "quindle.instance")
 QString computerName()
 {
     QString name = QSysInfo::machineHostName();
-    // A host name may be anything, a file name may not.
+    // A host name may hold any characters, a file name may not.
     return name.replace(u'/', u'_');
 }
 
@@ -107,7 +107,7 @@ std::optional<StartAnswer> InstanceFiles::startAt(const QString& stem)
 {
     constexpr std::chrono::seconds patience(3);
     constexpr std::chrono::milliseconds pause(20);
-    // A folder that cannot be made is the better reason to report than the lock that fails in it.
+    // A folder that cannot be made is a better reason to report than the lock that fails in it.
     const int folderError = makeFolder(folderOf(pathBytes(stem)));
     const auto deadline = std::chrono::steady_clock::now() + patience;
     while (std::chrono::steady_clock::now() < deadline) {
@@ -116,7 +116,7 @@ std::optional<StartAnswer> InstanceFiles::startAt(const QString& stem)
             m_faults += QStringLiteral(" (%1.lock: %2)").arg(stem, qt_error_string(error));
             return std::nullopt;
         }
-        // One that still answers, although its lock file was swept away as old, is the first all the same.
+        // One that still answers is the first, even if its lock file was cleaned up as old.
         if (askFirst()) {
             m_lock.reset();
             return StartAnswer{StartAnswer::Outcome::AnotherWoken, {}};
@@ -134,7 +134,7 @@ std::optional<StartAnswer> InstanceFiles::startAt(const QString& stem)
 bool InstanceFiles::askFirst() const
 {
     const int error = withAddress(::connect, newSocket(), m_socketPath);
-    return error == 0 || error == EAGAIN; // so many ask that they queue
+    return error == 0 || error == EAGAIN; // so many connect that they queue
 }
 
 void InstanceFiles::holdIfFree()
@@ -143,7 +143,7 @@ void InstanceFiles::holdIfFree()
         listen();
 }
 
-/// At once or not at all; errno says why not.
+/// Without waiting; errno says why it failed.
 bool InstanceFiles::takeLock(const QString& stem)
 {
     const QByteArray path = pathBytes(stem);
@@ -161,7 +161,7 @@ void InstanceFiles::listen()
 
 int InstanceFiles::openSocket()
 {
-    // Left by a killed process; the lock says that nobody listens on it.
+    // Left by a killed process; by the lock, nobody listens on it.
     if (::unlink(m_socketPath.constData()) != 0 && errno == EISDIR)
         ::rmdir(m_socketPath.constData());
     FileDescriptor socket = newSocket();

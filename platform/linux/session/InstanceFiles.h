@@ -14,15 +14,15 @@ class QSocketNotifier;
 
 namespace quindle {
 
-/// Where the files of one name, of the program `program`, may be, the best first: in the session's runtime
-/// folder where that belongs to the user and no other may write there, then in the folder of the settings,
-/// under the computer's name too because homes are shared between computers. Never in /tmp, where another
-/// user could make the name first. Each is a path to which ".lock" and ".socket" are appended.
+/// Where the files of one name of a program may be, the best first: in the session's runtime folder where
+/// that belongs to the user and no other may write there, then in the folder of the settings, under the
+/// computer's name too because homes are shared between computers. Never in /tmp, where another user could
+/// make the name first. Each is a path to which ".lock" and ".socket" are appended.
 std::vector<QString> instanceFileStems(const QString& program, const QString& name);
 
 /// Makes sure that one process runs for each name, by a lock file and a socket beside it: connecting to the
 /// socket asks the process to show itself, and only processes of the same user are obeyed. A killed process
-/// leaves nothing that stops the next one. Main thread only.
+/// leaves nothing behind that stops the next one. Main thread only.
 class InstanceFiles
 {
 public:

@@ -113,7 +113,7 @@ void LinuxWorkspaceNotifications::openLater()
     if (m_opening)
         return;
     m_opening = true;
-    // After the start: connecting to the system bus takes time that the item can be shown in.
+    // After the start: the item is shown while connecting to the system bus takes its time.
     QTimer::singleShot(0, this, &LinuxWorkspaceNotifications::open);
 }
 
@@ -129,7 +129,7 @@ void LinuxWorkspaceNotifications::open()
 }
 
 /// Everybody may send this signal to everybody on the system bus, so it counts only from the login manager's
-/// own connection. Asked for by the well-known name, the library would wait for the bus to name the owner.
+/// own connection. With the well-known name the library would wait for the bus to name the owner.
 void LinuxWorkspaceNotifications::hearLoginManager(const QString& connectionName)
 {
     const QString path = QStringLiteral("/org/freedesktop/login1");

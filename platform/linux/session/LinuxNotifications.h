@@ -26,7 +26,7 @@ class LinuxDistributedNotificationCenter : public QObject, public DistributedNot
     Q_OBJECT
 
 public:
-    /// `pause` as for BusLink; also how long nothing is received after too much.
+    /// `pause` as for BusLink; also how long nothing is received after a flood.
     explicit LinuxDistributedNotificationCenter(int pause = BusLink::usualPause);
 
     void addObserver(const QString& name, NotificationCenter::Observer observer) override;
@@ -52,7 +52,7 @@ private:
 };
 
 /// Sleep and wake as the login manager announces them on the system bus (PrepareForSleep); other senders are
-/// ignored. The bus is connected after start-up, once there is an observer; a login manager that comes late
+/// ignored. The bus is connected after start-up, once there is an observer; a login manager that starts late
 /// or restarts is found as well. Observers are called at once when the computer wakes, and at most twice a
 /// second.
 class LinuxWorkspaceNotifications : public QObject, public WorkspaceNotifications

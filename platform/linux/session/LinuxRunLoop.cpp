@@ -13,8 +13,8 @@ namespace quindle {
 
 namespace {
 
-// The event loop counts milliseconds in an int; a wake-up that comes too early for any tick is simply
-// followed by another.
+// The event loop counts milliseconds in an int; a wake-up too early for any tick is simply followed by
+// another.
 constexpr double longestSleep = 86400.0;
 
 constexpr double longestRest = 60.0;
@@ -77,7 +77,7 @@ LinuxRunLoop::Wheel::Wheel(SteadyClock clock)
     : m_clock(std::move(clock))
 {
     m_timer.setSingleShot(true);
-    // The schedule has spent the tolerance already; the event loop must not add its own.
+    // The schedule has already used the tolerance; the event loop must not add its own.
     m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.callOnTimeout(&m_timer, [this] { wakeUp(); });
 }
@@ -112,7 +112,7 @@ void LinuxRunLoop::Wheel::restWhen(std::function<bool()> mayRest, RestingTicks::
 
 void LinuxRunLoop::Wheel::wakeUp()
 {
-    // Before the ticks: what changes between the watch's begin and them they find, later changes the watch.
+    // Before the ticks: they find what changes after the watch has begun, the watch finds what changes later.
     const bool wasPrepared = m_rest && m_rest->isPrepared();
     const std::vector<int> due = m_schedule.takeDue(m_clock());
     // Before firing: an action may run a loop of its own, in which the next ticks are due as usual.

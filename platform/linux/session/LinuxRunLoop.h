@@ -27,9 +27,9 @@ public:
 
     Punctuality keepPunctual() override;
 
-    /// Leaves out ticks that would find nothing new, for a minute at most: while `mayRest`, asked after each
-    /// tick, says that they only depend on what `watch` looks at. Only where no timer is quicker than a
-    /// refresh, and nobody wants ticks on time.
+    /// Skips ticks that would find nothing new, for a minute at most: while `mayRest`, asked after each tick,
+    /// says that they only depend on what `watch` looks at. Only while no timer is quicker than a refresh and
+    /// nobody wants ticks on time.
     void restWhen(std::function<bool()> mayRest, RestingTicks::Watch watch);
 
 private:

@@ -11,7 +11,7 @@ NameOwner::NameOwner(const QDBusConnection& bus, const QString& name, Changed ch
     : QObject(parent)
     , m_changed(std::move(changed))
 {
-    // Watched before it is asked for, so that no change falls in between.
+    // Watched before it is asked for, so that no change is missed.
     auto* watcher = new QDBusServiceWatcher(name, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString&, const QString&, const QString& owner) { setOwner(owner); });

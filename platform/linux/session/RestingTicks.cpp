@@ -18,10 +18,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Where things cannot be watched they seldom can a moment later: refreshes of about five minutes.
+/// What cannot be watched now can rarely be watched a moment later: refreshes of about five minutes.
 constexpr int callsAfterFailure = 30;
 
-/// Moments are counted by two clocks' differences, so the same one twice is not the same to the nanosecond.
+/// Moments are computed from two clocks, so the same one computed twice may differ by nanoseconds.
 constexpr auto almost = 20ms;
 
 constexpr auto never = RestingTicks::Clock::time_point::max();
@@ -86,8 +86,8 @@ private:
     std::condition_variable m_changed;
     State m_state = State::Idle;
     std::deque<Clock::time_point> m_moments;
-    Clock::time_point m_next = never;        ///< when it goes on if it is told so by then
-    Clock::time_point m_sleepsUntil = never; ///< for an earlier moment the thread must be woken
+    Clock::time_point m_next = never;        ///< when it continues if it is called upon by then
+    Clock::time_point m_sleepsUntil = never; ///< the thread must be woken for an earlier moment
     int m_rests = 0;
     bool m_isLooking = false;
     bool m_isSet = false;
@@ -119,7 +119,7 @@ void RestingTicks::Looks::beginWatch(Lock& lock)
 
 void RestingTicks::Looks::waitForMoment(Lock& lock)
 {
-    // Without a moment it sleeps until it may be given one, so that nobody need wake it for that.
+    // Without a moment it sleeps until it may be given one, so that it need not be woken for that.
     m_sleepsUntil = m_moments.empty() ? std::exchange(m_next, never) : m_moments.front();
     if (m_sleepsUntil == never)
         m_changed.wait(lock);
@@ -130,7 +130,7 @@ void RestingTicks::Looks::waitForMoment(Lock& lock)
 
 void RestingTicks::Looks::look(Lock& lock)
 {
-    // Looking may take long, and the main loop goes on meanwhile.
+    // Looking may take long, and the main loop runs on meanwhile.
     const int rest = m_rests;
     m_moments.pop_front();
     m_isLooking = true;
@@ -265,7 +265,7 @@ bool RestingTicks::startLooks()
 void RestingTicks::readTimer()
 {
     std::uint64_t times = 0;
-    // It may have been put off since the main loop has seen it.
+    // It may have been put off since the main loop saw it.
     if (read(m_looks->timer(), &times, sizeof times) > 0)
         m_wake();
 }

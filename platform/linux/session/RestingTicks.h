@@ -12,9 +12,9 @@
 namespace quindle {
 
 /// Sees on a thread of its own whether ticks of the main loop would find anything new, so that the main loop
-/// sleeps through those that would not. Looking takes a small part of what a tick takes, and wakes no second
-/// thread. The main loop is woken by a timer of the kernel's that each look puts off: also when a look hangs,
-/// or the thread does not get its turn. Main thread only.
+/// sleeps through those that would not. Looking costs a small part of a tick, and wakes no second thread. The
+/// main loop is woken by a kernel timer that each look puts off: even when a look hangs, or the thread does
+/// not get to run. Main thread only.
 class RestingTicks
 {
 public:
@@ -23,22 +23,22 @@ public:
     /// What is looked at, on the thread. Both may hang for ever.
     struct Watch
     {
-        std::function<bool()> begin;   ///< keeps how things are; false where they cannot be watched
+        std::function<bool()> begin;   ///< records the present state; false where it cannot be watched
         std::function<bool()> isStill; ///< since `begin`
     };
 
-    /// `wake` is called from the main loop for a tick that has to take place. The patience is how late such a
-    /// tick may be because of a look that does not end.
+    /// `wake` is called from the main loop for a tick that has to take place. The patience is how late a look
+    /// that does not end may make it.
     RestingTicks(Watch watch, std::function<void()> wake,
                  std::chrono::milliseconds patience = std::chrono::milliseconds(500));
 
-    /// A thread that hangs is left to itself.
+    /// A thread that hangs is abandoned.
     ~RestingTicks();
 
     RestingTicks(const RestingTicks&) = delete;
     RestingTicks& operator=(const RestingTicks&) = delete;
 
-    /// Has the watch begin, unless it has. After one that could not, the next few calls do nothing.
+    /// Has the watch begin, unless it has. After one that could not begin, the next few calls do nothing.
     void prepare();
 
     /// Whether the watch has begun, and has seen no change since. Not while a look hangs.

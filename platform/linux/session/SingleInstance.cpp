@@ -26,7 +26,7 @@ StartAnswer SingleInstance::start()
     const auto onBus = m_busName.start();
     if (!onBus)
         return m_files.start();
-    // For a start that finds no bus: it has to find this one.
+    // For a start that finds no bus: it has to find this process.
     if (onBus->outcome == StartAnswer::Outcome::First)
         m_files.holdIfFree();
     return *onBus;

@@ -6,8 +6,8 @@
 
 namespace quindle {
 
-// A thread and not an alarm: only a fatal signal, such as the end of the process, interrupts a call to a file
-// server that is away.
+// A thread, not an alarm: only a fatal signal, as at the end of the process, interrupts a call to an absent
+// file server.
 StartDeadline::StartDeadline(std::chrono::seconds patience, const std::string& reason,
                              const std::string& program, int status)
     : m_line(program + ": gave up: " + reason + '\n')

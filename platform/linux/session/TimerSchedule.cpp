@@ -11,7 +11,7 @@ namespace {
 constexpr double microsecondsInSecond = 1e6;
 constexpr double shortestInterval = 0.0001;
 constexpr double quickestRefresh = 5;
-constexpr double longestInterval = 1e9; // further than any clock runs, and sums of it are no overflow
+constexpr double longestInterval = 1e9; // longer than any clock runs, and sums of it do not overflow
 
 } // namespace
 
@@ -89,7 +89,7 @@ std::vector<int> TimerSchedule::takeDue(double now)
 
 TimerSchedule::Microseconds TimerSchedule::microseconds(double seconds)
 {
-    // Whole numbers, so that the ticks of 5 and 10 seconds are equal and not nearly so.
+    // Whole numbers, so that ticks of 5 and 10 seconds are exactly equal.
     return std::llround(seconds * microsecondsInSecond);
 }
 

@@ -11,8 +11,8 @@ namespace quindle {
 /// out: all times are seconds of one steady clock, kept as whole microseconds, so that equal times are equal.
 ///
 /// A timer's ticks are planned at start + n * interval, n = 1, 2, ... A tick may be late by the timer's
-/// tolerance, and not at all while the schedule is punctual. The next wake-up is the latest of the timers'
-/// next planned ticks that makes none of them too late.
+/// tolerance, but not while the schedule is punctual. The next wake-up is the latest of the timers' next
+/// planned ticks that makes none of them too late.
 ///
 /// A timer that tolerates its whole interval may fire at any time, because some tick of it is in tolerance
 /// then: it starts anew at the latest tick it fires together with, and so falls in step with the others
@@ -24,23 +24,22 @@ public:
     /// as that, a negative tolerance as 0.
     int add(double start, double interval, double tolerance);
 
-    /// Takes a timer out; an unknown number is ignored.
+    /// Removes a timer; an unknown number is ignored.
     void remove(int number);
 
-    /// Whether tolerances count for nothing; at first they do count.
+    /// Whether tolerances are ignored; at first they are not.
     void setPunctual(bool isPunctual) { m_isPunctual = isPunctual; }
 
     /// When to wake next; nothing when there is no timer. It may be past, when the schedule has just become
     /// punctual.
     std::optional<double> nextWakeUp() const;
 
-    /// The next wake-ups as long as nobody changes anything, as many as come within `seconds` of the first
-    /// one. None while a tick would be missed by somebody: the schedule is punctual, or a timer is quicker
-    /// than a refresh, every 5 seconds.
+    /// The next wake-ups as long as nothing is changed, those within `seconds` of the first one. None while
+    /// every tick matters: the schedule is punctual, or a timer is quicker than a refresh, every 5 seconds.
     std::vector<double> restfulWakeUps(double seconds) const;
 
     /// The timers whose planned tick is not after `now`, in the order of these ticks, then of their numbers.
-    /// Their next ticks are then the first ones after `now`: what was missed is passed over.
+    /// Their next ticks are then the first ones after `now`: missed ones are skipped.
     std::vector<int> takeDue(double now);
 
 private:

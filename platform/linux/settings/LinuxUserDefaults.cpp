@@ -99,7 +99,7 @@ bool LinuxUserDefaults::setAside() const
 
 bool LinuxUserDefaults::setAsideLocked() const
 {
-    // Read again under the lock: another process may have put it right, or aside, meanwhile.
+    // Read again under the lock: another process may have repaired it or set it aside meanwhile.
     if (m_file.reread() == State::Damaged && m_file.isFresh()) {
         std::this_thread::sleep_for(editorPatience);
         m_file.reread();
@@ -146,7 +146,7 @@ QString LinuxUserDefaults::store(const QString& key, const QVariant& value)
     const QByteArray xml = xmlPropertyList(value);
     if (xml.isEmpty())
         return QStringLiteral("the value of \"%1\" is of no property-list type").arg(key);
-    // Looked at without the lock first: most values that are stored are there already.
+    // Checked without the lock first: most stored values are there already.
     refresh();
     if (holds(key, xml))
         return {};
@@ -171,7 +171,7 @@ QString LinuxUserDefaults::storeLocked(const QString& key, const QVariant& value
         return {};
     // A file behind a link is replaced there, so that the link stays one.
     const QByteArray target = linkTarget(m_file.path());
-    // Safe now: whoever left them has not got the lock any more.
+    // Safe now: their writer no longer holds the lock.
     removeLeftovers(target);
     QVariantMap changed = m_file.contents();
     changed.insert(key, value);

@@ -8,7 +8,7 @@
 
 namespace quindle {
 
-/// Whether files may be changed: a program that only looks leaves a damaged file where it is.
+/// Whether files may be changed: a program that only reads leaves a damaged file where it is.
 enum class SettingsAccess { ReadAndWrite, ReadOnly };
 
 /// One settings database in one property-list file; docs/settings.md says how it is kept whole.

@@ -50,7 +50,7 @@ bool PropertyListFile::Identity::operator==(const Identity& other) const
 
 PropertyListFile::Identity PropertyListFile::identityOf(const struct stat& found)
 {
-    // The time of change too: unlike that of modification no program can set it back after an edit in place.
+    // The change time too: unlike the modification time, no program can set it back after an edit in place.
     return {found.st_dev, found.st_ino, found.st_size, found.st_mtim, found.st_ctim};
 }
 
@@ -66,7 +66,7 @@ PropertyListFile::State PropertyListFile::refresh()
 
 PropertyListFile::State PropertyListFile::reread()
 {
-    // Without O_NONBLOCK a pipe in the file's place would hold us up.
+    // Without O_NONBLOCK a pipe in the file's place would block.
     const FileDescriptor file(::open(m_path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.isOpen())
         return isMissing(errno) ? become(State::Missing) : become(State::Unreadable, errno);

@@ -9,7 +9,7 @@
 namespace quindle {
 
 /// A property-list file whose root is a dictionary, XML or binary, as it stands on the disk. The parsed
-/// dictionary is kept only as long as the file is demonstrably the same one, unchanged.
+/// dictionary is kept only while the file is provably the same and unchanged.
 class PropertyListFile
 {
 public:

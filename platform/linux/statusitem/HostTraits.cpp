@@ -96,7 +96,7 @@ HostTraits withChoice(HostTraits traits, const QString& choice)
     if (choice == QLatin1String("label") && !traits.labelHidesIcon) {
         traits.shape = HostShape::Label;
     } else if (choice == QLatin1String("wide") && !traits.needsIconFile) {
-        // As much text as there is room for. A host with labels would show a wide picture's twice.
+        // As much text as there is room for. A host with labels would show a wide picture's text twice.
         traits.shape = traits.squaresOnly ? HostShape::Square : HostShape::Wide;
         traits.showsNumber = traits.squaresOnly;
         traits.takesLabel = false;

@@ -13,24 +13,25 @@ enum class HostShape {
     Square, ///< only a square icon is seen; the title is in the tool tip and the menu
 };
 
-/// What is peculiar to one host.
+/// The peculiarities of one host.
 struct HostTraits
 {
     HostShape shape = HostShape::Square;
     bool takesLabel =
-        true; ///< false: the label stays empty, so that the title is not seen where it is not wanted
+        true; ///< false: the label stays empty, so that the title does not show where it is not wanted
     bool needsIconFile = false; ///< only icons in files are shown, pixels sent over the bus are ignored
-    bool showsToolTipTitleOnly = false; ///< of a tool tip only the first text, as markup if it looks like it
-    bool escapesToolTipTitle = false;   ///< of a tool tip it parses only the second text as markup
-    bool coloursDrawings = false; ///< a drawing in a file is shown in the colour that the panel writes in
+    bool showsToolTipTitleOnly =
+        false; ///< of a tool tip it shows only the first text, as markup if it looks like it
+    bool escapesToolTipTitle = false; ///< of a tool tip it parses only the second text as markup
+    bool coloursDrawings = false;     ///< a drawing in a file is shown in the colour of the panel's text
     bool labelHidesIcon =
         false; ///< even an empty label does; a wide picture is shown if icon-high ones are there
     bool drawsSmall = false;    ///< a drawing gets 16 pixels, which are too few for one made on 22
-    bool squaresOnly = false;   ///< a wide picture is made so low that its text is a smudge
+    bool squaresOnly = false;   ///< a wide picture is shrunk until its text is a smudge
     bool showsNumber = false;   ///< the charge as a number is preferred to the icon
     bool neverScales = false;   ///< it needs a picture of each size that it may have room for
     bool cutsTallMenus = false; ///< the last rows of a menu higher than the screen cannot be reached
-    Argb textColour = 0;        ///< what its panel writes in; transparent while that is unknown
+    Argb textColour = 0;        ///< of its panel; transparent while that is unknown
 
     friend bool operator==(const HostTraits&, const HostTraits&) = default;
 };

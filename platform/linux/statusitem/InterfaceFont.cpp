@@ -19,7 +19,7 @@ const QString portalInterface = QStringLiteral("org.freedesktop.portal.Settings"
 const QString settingChangedSignal = QStringLiteral("SettingChanged");
 const QStringList fontSetting{QStringLiteral("org.gnome.desktop.interface"), QStringLiteral("font-name")};
 
-/// The text in a variant, which the portal puts into another one.
+/// The text in a variant, which the portal wraps in another one.
 QString textIn(QVariant value)
 {
     while (value.userType() == qMetaTypeId<QDBusVariant>())
@@ -42,7 +42,7 @@ InterfaceFont::~InterfaceFont() = default;
 
 void InterfaceFont::setBus(const QDBusConnection& bus)
 {
-    // An answer of the bus before would be about another session.
+    // An answer from the previous bus would be about another session.
     m_question.reset();
     m_bus = bus;
     m_isAsked = false;
@@ -58,7 +58,7 @@ void InterfaceFont::need()
     if (std::exchange(m_isAsked, true))
         return;
     const QByteArray fontName = xsettingsFontName(m_display);
-    // On X11 the settings manager has what the panel itself writes in.
+    // On X11 the settings manager has the panel's own font.
     if (!fontName.isEmpty())
         take(QString::fromUtf8(fontName));
     else if (m_bus.isConnected())
@@ -67,7 +67,7 @@ void InterfaceFont::need()
 
 void InterfaceFont::askPortal()
 {
-    // From anybody: of the signal only the moment is used, and not more often than twice a second.
+    // From any sender: only the moment of the signal is used, at most twice a second.
     m_bus.connect(QString(), portalPath, portalInterface, settingChangedSignal, fontSetting, QString(), this,
                   SLOT(settingChanged()));
     QDBusMessage question =

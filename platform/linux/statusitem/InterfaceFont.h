@@ -15,9 +15,9 @@ namespace quindle {
 class RunLoop;
 class X11Display;
 
-/// The family that the desktop writes in. On X11 its settings manager says it, elsewhere, or where there is
-/// none, the settings portal, which is asked without waiting and not started for it. The answer is kept. Main
-/// thread only.
+/// The desktop's font family. On X11 it comes from the settings manager, elsewhere or without one from the
+/// settings portal, which is asked without waiting and not started for it. The answer is kept. Main thread
+/// only.
 class InterfaceFont final : public QObject
 {
     Q_OBJECT
@@ -33,10 +33,10 @@ public:
     /// To be called when text is drawn: asks if nobody has been asked since `forgetAnswer`.
     void need();
 
-    /// The next `need` asks again; until the answer is there, the one before stays.
+    /// The next `need` asks again; the previous answer stays until the new one arrives.
     void forgetAnswer();
 
-    /// Empty while nobody has said it.
+    /// Empty while it is unknown.
     QString family() const { return m_family; }
 
 Q_SIGNALS:

@@ -23,9 +23,9 @@ namespace {
 
 Q_LOGGING_CATEGORY(logItem, "quindle.statusitem", QtWarningMsg)
 
-// Nobody tells of a panel's new colours, and each question is a connection of its own.
+// Nothing announces a panel's new colours, and each query is a connection of its own.
 constexpr std::chrono::minutes panelLooksTheSame(10);
-// However often menus are opened.
+// No matter how often menus are opened.
 constexpr std::chrono::seconds panelWasJustSeen(2);
 
 } // namespace
@@ -167,7 +167,7 @@ void LinuxStatusItem::setMenu(StatusMenu* menu)
         m_tray->setMenu(menu);
     if (!menu)
         return;
-    // The menu has no way to lose an observer, and may live longer than the item.
+    // The menu cannot remove an observer, and may live longer than the item.
     menu->addObserver([item = QPointer(this), menu](int) {
         if (!item || item->m_menu != menu)
             return;
@@ -267,8 +267,8 @@ void LinuxStatusItem::lookAtPanelSoon()
 
 void LinuxStatusItem::watcherLost()
 {
-    // A panel that starts again has its watcher back in a moment; the tray is looked for if it has not by the
-    // next refresh.
+    // A panel that restarts has its watcher back in a moment; if not by the next refresh, the tray is looked
+    // for.
     const bool mayComeBack = std::exchange(m_wanted.hasWatcher, false);
     if (!mayComeBack)
         makeTray();
@@ -284,7 +284,7 @@ void LinuxStatusItem::makeTray()
                                         [this] { useActivationToken(); });
     m_tray->setMenu(m_menu);
     connect(m_tray.get(), &TrayItem::wanted, this, &LinuxStatusItem::scheduleFlush);
-    // The next refresh looks for a tray, so it must not be left out.
+    // The next refresh looks for a tray, so it must not be skipped.
     m_runLoop.keepPunctual();
 }
 

@@ -41,8 +41,7 @@ struct StatusItemSurroundings
 };
 
 /// The status item as a status notifier item, or in an X11 tray where no watcher of such items is on the bus.
-/// Setters only store; at the end of the event loop's turn hosts are notified of what has changed, if
-/// anything.
+/// Setters only store; at the end of the event loop's turn hosts are notified of any changes.
 class LinuxStatusItem final : public QObject, public StatusItem
 {
     Q_OBJECT
@@ -71,7 +70,7 @@ public:
     bool looksForTray() const;
 
 Q_SIGNALS:
-    /// A peer calls the item without end and does not wait for the answers. The item is off the bus; its
+    /// A peer floods the item with calls and does not wait for the answers. The item is off the bus; its
     /// connection has to be closed, with everything queued in it.
     void busAbused();
 

@@ -146,7 +146,7 @@ QList<int> MenuAdaptor::AboutToShowGroup(const QList<int>& ids, QList<int>& idEr
 
 void MenuAdaptor::choose(int id)
 {
-    // Afterwards: the action may end the program or wait for a person, and the host wants its answer first.
+    // Afterwards: the action may end the program or wait for the user, and the host needs its answer first.
     const auto act = [this, id] {
         if (!m_menu)
             return;

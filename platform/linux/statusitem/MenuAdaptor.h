@@ -31,7 +31,7 @@ public:
     MenuAdaptor(
         QObject* object, std::function<void()> aboutToChoose, std::function<void()> opening = [] {});
 
-    /// The menu to show, null for an empty one. Rows that are added later show at the host's next question.
+    /// The menu to show, null for an empty one. Rows that are added later show at the host's next query.
     void setMenu(StatusMenu* menu);
 
     /// Sets what the present host needs.

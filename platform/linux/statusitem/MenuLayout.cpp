@@ -91,7 +91,7 @@ std::vector<int> menuOrder(const StatusMenu* menu, bool commandsFirst)
     if (firstCommand == ids.begin() || firstCommand == ids.end())
         return ids;
     const auto afterCommands = std::rotate(ids.begin() + 1, firstCommand, ids.end());
-    // The line between the groups stood after the facts.
+    // The separator between the groups came after the facts.
     if (afterCommands != ids.end() && kindOf(ids.back()) == StatusMenu::Kind::Separator)
         std::rotate(afterCommands, ids.end() - 1, ids.end());
     return ids;

@@ -13,7 +13,7 @@ namespace quindle {
 /// The id of the menu itself; the rows count from 1.
 inline constexpr int menuRootId = 0;
 
-/// What is peculiar to the menu on one host.
+/// The peculiarities of one host's menu.
 struct MenuForm
 {
     bool commandsFirst = false; ///< the commands stand between the first row and the other facts

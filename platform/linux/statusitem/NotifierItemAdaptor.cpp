@@ -166,7 +166,7 @@ void NotifierItemAdaptor::ContextMenu(int /*x*/, int /*y*/)
     m_requests.clicked();
 }
 
-// Hosts give coordinates relative to screen, panel or widget, so they are of no use.
+// Hosts give coordinates relative to screen, panel or widget, so they are useless.
 void NotifierItemAdaptor::Activate(int /*x*/, int /*y*/)
 {
     m_requests.clicked();

@@ -98,7 +98,7 @@ private:
     Requests m_requests;
 };
 
-/// The same with a label. Some hosts take any label, even an empty one, for a wish to have no icon.
+/// The same with a label. Some hosts take any label, even an empty one, as a request for no icon.
 class LabelledItemAdaptor final : public NotifierItemAdaptor
 {
     Q_OBJECT

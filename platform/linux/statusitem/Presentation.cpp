@@ -64,7 +64,7 @@ QString toolTipTitle(const Presentation& presented, const ItemContents& contents
     if (host.showsToolTipTitleOnly)
         return literalPanelToolTip(presented.plainToolTip);
     const QString cut = toolTipCut(contents.title);
-    // Escaped twice, the marks themselves would be seen.
+    // Escaped twice, the escapes themselves would show.
     return host.escapesToolTipTitle ? cut : escapedMarkup(cut);
 }
 

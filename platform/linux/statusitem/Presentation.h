@@ -20,7 +20,7 @@ struct ItemContents
     friend bool operator==(const ItemContents&, const ItemContents&) = default;
 };
 
-/// Which picture stands for the item. Two pictures with the same values look the same.
+/// Which picture the item shows. Two pictures with the same values look the same.
 struct Picture
 {
     enum class Kind {
@@ -34,10 +34,10 @@ struct Picture
     QString imageName;
     QString text;
     double fontSize = 0.0;
-    Argb ink = 0;              ///< what the panel writes in; see isKnown
+    Argb ink = 0;              ///< the colour of the panel's text; see isKnown
     bool isSmall = false;      ///< the host shows a drawing in 16 pixels, not in 22
     bool isUnscaled = false;   ///< the host shows one of its sizes as it is
-    bool inAllHeights = false; ///< a wide one is wanted as high as icons are, not high and to be scaled
+    bool inAllHeights = false; ///< a wide one is wanted as high as icons, not large and to be scaled
     QString fontFamily{};      ///< of text; empty for the system's usual one
     bool isAlarming = false;   ///< drawn in red
 
@@ -59,7 +59,7 @@ struct Presentation
     QString toolTipBody;
     QString plainToolTip; ///< the whole tool tip without any markup
     QString label;
-    QString labelGuide; ///< a text as wide as the label gets usually
+    QString labelGuide; ///< a text as wide as the label usually gets
     Picture picture;
     Carrier carrier = Carrier::Pixels;
     bool needsAttention = false;
@@ -72,8 +72,8 @@ struct Presentation
 /// is the one that the desktop writes in, empty while that is unknown.
 Presentation present(const ItemContents& contents, const HostTraits& host, const QString& fontFamily = {});
 
-/// What a host shows in place of the picture while the item needs attention, if it shows such a one: the same
-/// in red, so that nothing is lost.
+/// What a host shows instead of the picture while the item needs attention, if it does: the same in red, so
+/// that nothing is lost.
 Picture attentionPicture(const Presentation& presentation);
 
 } // namespace quindle

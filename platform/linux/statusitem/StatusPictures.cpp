@@ -33,7 +33,7 @@ constexpr int maximumWideWidth = 2 * 400;
 // Below it the lines of a drawing made on 22 pixels would be less than a pixel wide.
 constexpr int smallestOnGrid = 20;
 constexpr int trialSize = 100;
-// The larger, the less the outline loses by whole numbers.
+// The larger, the less the outline loses to rounding.
 constexpr int outlineSize = 1000;
 
 // The menu-bar font of 12 points belongs to a bar of 22 points; panels write 13 px in one of 22 px.
@@ -51,13 +51,13 @@ std::span<const int> sizesOf(const Picture& picture)
     return picture.inAllHeights ? std::span<const int>(wideHeights) : std::span(&wideHeight, 1);
 }
 
-/// By this end of a file's name hosts know drawings that they may colour.
+/// Hosts recognise drawings that they may colour by this end of the file name.
 QString symbolic()
 {
     return QStringLiteral("-symbolic.svg");
 }
 
-/// Whether a colour is one that dark panels write in.
+/// Whether the colour is a dark panel's text colour.
 bool isLight(Argb colour)
 {
     constexpr unsigned half = 3 * 128;
@@ -73,8 +73,8 @@ Argb inkOf(const Picture& picture)
 }
 
 /// What the picture is drawn on: nothing, or a dark plate where the panel's colours are unknown. White on it
-/// reads on every panel, and a full battery stays the opposite of an empty one; on dark panels it hardly
-/// shows.
+/// is legible on every panel, and a full battery stays the opposite of an empty one; on dark panels the plate
+/// hardly shows.
 Pixels ground(const Picture& picture, int width, int height)
 {
     Pixels pixels = blankPixels(width, height);
@@ -128,7 +128,7 @@ bool isThere(const QString& path)
 
 QByteArray contentsOf(const QString& path)
 {
-    constexpr qint64 mostBytes = qint64{1024} * 1024; // a drawing has a thousandth of that
+    constexpr qint64 mostBytes = qint64{1024} * 1024; // a drawing is a thousandth of that
     return fileContents(path, mostBytes).bytes;
 }
 
@@ -140,7 +140,7 @@ QString writtenPicture(const QString& name, const std::function<QByteArray()>& m
     if (!isSendable(folder))
         return {};
     QString path = folder + u'/' + name;
-    // Names stand for their contents, so what is there need not be written again.
+    // A name identifies the contents, so an existing file need not be written again.
     if (isThere(path))
         return path;
     const QByteArray bytes = make();
@@ -149,7 +149,7 @@ QString writtenPicture(const QString& name, const std::function<QByteArray()>& m
     return isWritten ? path : QString();
 }
 
-/// What may stand in a file's name; a title may hold anything.
+/// What a file name may hold; a title may hold anything.
 QString plainName(QString text)
 {
     return text.removeIf([](QChar c) { return !c.isLetterOrNumber(); });
@@ -184,7 +184,7 @@ std::vector<Pixels> StatusPictures::images(const Picture& picture)
 
 QString StatusPictures::file(const Picture& picture)
 {
-    // All that the picture depends on, so that another one has another name.
+    // All that the picture depends on, so that another picture has another name.
     const QString name = plainName(picture.imageName + picture.text + picture.fontFamily) +
                          QString::number(picture.ink, 16) +
                          (picture.isAlarming ? QStringLiteral("-alarming.png") : QStringLiteral(".png"));
@@ -257,7 +257,7 @@ Pixels StatusPictures::icon(const Picture& picture, int size)
 Pixels StatusPictures::squareText(const Picture& picture, int size)
 {
     Pixels pixels = ground(picture, size, size);
-    // How large letters are is known only once they are laid out.
+    // The size of letters is known only once they are laid out.
     const QRectF trial = m_lettering.inkOf(m_lettering.line(picture.text, trialSize));
     const TextLine line = m_lettering.line(picture.text, fittingSize(trial, size));
     const QRectF ink = m_lettering.inkOf(line);
@@ -282,8 +282,8 @@ Pixels StatusPictures::wideText(const Picture& picture, int height)
     // In the middle, and on an even pixel as below.
     const int top = 2 * static_cast<int>(std::floor((height - shape.height) / 4.0));
     paintMask(pixels, margin / 2, top, shape, inkOf(picture));
-    // The figures stand in the middle, not the font's line with its room for accents, and on an even pixel,
-    // which stays sharp when the host halves the picture.
+    // The figures are centred, not the font's line with its room for accents, and on an even pixel, which
+    // stays sharp when the host halves the picture.
     const int baseline = 2 * static_cast<int>(std::lround((height + m_lettering.capHeight(fontSize)) / 4));
     m_lettering.paint(pixels, left, baseline, line, inkOf(picture));
     return pixels;

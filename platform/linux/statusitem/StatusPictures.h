@@ -33,7 +33,7 @@ public:
     /// The square picture as a drawing without a colour of its own, as a file; empty if there is none.
     QString drawing(const Picture& picture);
 
-    /// A picture of one transparent pixel. It takes the place of the host's own picture for a missing icon.
+    /// A picture of one transparent pixel, shown instead of the host's own sign for a missing icon.
     QString transparentFile() const;
 
 private:

@@ -8,14 +8,14 @@ namespace {
 
 constexpr int menuLabelLength = 100;
 
-/// Whether a host that looks for markup may find some. It looks closer than this, but what is written as
-/// markup without need is shown as it should be all the same.
+/// Whether a host that looks for markup may find some. It looks closer than this, but what is needlessly
+/// written as markup still shows as it should.
 bool mayLookLikeMarkup(const QString& text)
 {
     return text.contains(u'<') || text.contains(QLatin1String("&lt;"));
 }
 
-/// A blank that markup does not join with its neighbours.
+/// A blank that markup does not collapse with its neighbours.
 QString asMarkup(QChar c)
 {
     if (c == u'\n')

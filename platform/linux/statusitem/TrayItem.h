@@ -15,7 +15,7 @@ class MenuAdaptor;
 class StatusMenu;
 
 /// The item in an X11 tray, for desktops without a watcher of status notifier items. A program of its own
-/// holds the icon and is the item's host, over a connection between the two of them.
+/// holds the icon and is the item's host, over a private connection.
 class TrayItem final : public QObject
 {
     Q_OBJECT

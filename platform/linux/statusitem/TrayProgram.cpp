@@ -31,7 +31,7 @@ QProcessEnvironment environment()
 
 const QString peerName = QStringLiteral("quindle-tray");
 
-/// Lets a program that has lost its connection end itself, and ends one that does not.
+/// Lets a program that has lost its connection end itself, and kills one that does not.
 void leaveAlone(QProcess* process)
 {
     process->disconnect();
@@ -99,7 +99,7 @@ void TrayProgram::connectToIt()
     waitForAnswer(peer);
 }
 
-/// A socket takes connections also for a program that has stopped.
+/// A socket accepts connections even for a stopped program.
 void TrayProgram::waitForAnswer(const QDBusConnection& peer)
 {
     const QDBusMessage ping = QDBusMessage::createMethodCall(
@@ -111,7 +111,7 @@ void TrayProgram::waitForAnswer(const QDBusConnection& peer)
     });
 }
 
-/// Its display's server may hang before it has a window, for instance.
+/// Its display's server may hang before it has a window, for example.
 void TrayProgram::giveUp()
 {
     log(QStringLiteral("%1 does not answer: it is ended, and started again later").arg(m_program));

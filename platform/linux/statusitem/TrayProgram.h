@@ -14,16 +14,15 @@ class QProcess;
 
 namespace quindle {
 
-/// The program that holds the item's icon in an X11 tray, and the connection to it: it says on its standard
-/// output where it listens. It ends itself when the connection is closed, by this object's end or by this
-/// process's.
+/// The program that holds the item's icon in an X11 tray, and the connection to it: it prints where it
+/// listens. It ends itself when the connection is closed, with this object or this process.
 class TrayProgram final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `program` is an absolute path. `connected` is called with the connection to it, and when it has gone
-    /// with one that is not connected. One that has not answered over it within the patience is ended, and
+    /// `program` is an absolute path. `connected` is called with the connection to it, and with an
+    /// unconnected one when it is gone. A program that has not answered within the patience is killed, and
     /// started again later. Main thread only.
     TrayProgram(QString program, std::function<void(const QDBusConnection&)> connected,
                 MonotonicClock clock = timeSinceBoot,
@@ -35,7 +34,7 @@ public:
 
     bool isRunning() const { return m_process != nullptr; }
 
-    /// Starts it if it is wanted. That it fails is logged once, and again only after it has stayed.
+    /// Starts it if it is wanted. A failure is logged once, and again only after a run that lasted.
     void start();
 
 Q_SIGNALS:

@@ -18,7 +18,7 @@ int failuresAfter(int failures, std::chrono::milliseconds run)
 
 std::chrono::seconds pauseAfter(int failures)
 {
-    // One that was killed, as by a panel's crash, is to be back before anybody misses it.
+    // One that was killed, as by a panel's crash, should be back before anybody misses it.
     if (failures < 2)
         return std::chrono::seconds(0);
     return std::min(longestPause, std::chrono::seconds(1 << std::min(failures - 2, mostDoublings)));

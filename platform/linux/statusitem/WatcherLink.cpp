@@ -91,7 +91,7 @@ void WatcherLink::start()
     new NameOwner(m_bus, watcherService(), changed, this);
 }
 
-// Also when the owner is the same one as last time: it left in between, and has forgotten its items.
+// Even when the owner is the same as last time: it left in between, and has forgotten its items.
 void WatcherLink::answerOwner()
 {
     ++m_round;
@@ -105,7 +105,7 @@ void WatcherLink::askProcess()
 {
     call(processOf(m_owner), [this](const QDBusMessage& answer) {
         const uint pid = answer.arguments().value(0).toUInt();
-        // The process may have gone by now; an unknown host is a square one.
+        // The process may be gone by now; an unknown host is a square one.
         const bool answered = answer.type() == QDBusMessage::ReplyMessage && pid != 0;
         Q_EMIT watcherFound(answered ? processWithId(pid) : HostProcess());
     });
@@ -127,7 +127,7 @@ void WatcherLink::sendRegistration(int attempt)
             qCWarning(logWatcher) << "registration failed:" << failure;
         m_failure = failure;
     });
-    // The answer does not say that the watcher keeps the item; its list does.
+    // The answer does not prove that the watcher keeps the item; its list does.
     const auto check = [this, attempt, round = m_round] {
         if (round == m_round)
             checkRegistration(attempt);

@@ -20,8 +20,8 @@ namespace quindle {
 bool listsItemOf(const QString& uniqueName, const QStringList& items);
 
 /// The link to the watcher of status notifier items: notices when it comes, goes or is replaced, and
-/// registers the item there. Every call is asynchronous; without a watcher nothing runs until the bus
-/// announces one. One that comes and goes all the time is answered at most twice a second.
+/// registers the item there. Every call is asynchronous; without a watcher nothing happens until the bus
+/// announces one. It reacts to one that keeps coming and going at most twice a second.
 class WatcherLink final : public QObject
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
     void registerItem();
 
 Q_SIGNALS:
-    /// There is a watcher, or another one than before.
+    /// There is a watcher, or a different one.
     void watcherFound(const quindle::HostProcess& process);
 
     /// There is no watcher.

@@ -14,7 +14,7 @@ namespace quindle {
 
 namespace {
 
-/// What is left must do for everything else in the process: three hundred batteries once took all of 256.
+/// The rest must do for everything else in the process: three hundred batteries once took all of 256.
 int quarterOfDescriptors()
 {
     constexpr rlim_t most = 256;
@@ -24,7 +24,7 @@ int quarterOfDescriptors()
     return static_cast<int>(std::min(limit.rlim_cur / 4, most));
 }
 
-/// The device behind the file has gone; one of the same name may have come.
+/// The device behind the file is gone; one of the same name may have come.
 bool isGone(ssize_t result)
 {
     return result == -ENODEV || result == -ENOENT;
@@ -41,8 +41,8 @@ FileReader::FileReader(ReadFunction read, ReadSteps& steps)
 
 ssize_t FileReader::read(const std::string& path, const char* name, FileDescriptor& kept)
 {
-    // With one read in three failing, this many all fail once in 81 times: what a value was last stands in
-    // for it then, and a value is missing once in half a million readings.
+    // With one read in three failing, this many all fail once in 81 times: the last value then stands in, and
+    // a value is missing once in half a million readings.
     constexpr int mostTries = 4;
     // Asked before anything is touched: even opening a file may hang.
     if (const std::optional<ssize_t> instead = m_steps.insteadOf(path, m_buffer.data(), m_buffer.size()))
@@ -71,7 +71,7 @@ ssize_t FileReader::readOpened(const std::string& path, const char* name, FileDe
     }
     const int file = kept.isOpen() ? kept.get() : opened.get();
     const ssize_t result = m_read(file, name, m_buffer.data(), m_buffer.size());
-    // Left open it would fail for ever, whatever device comes under the same name.
+    // Left open it would keep failing, whatever device comes under the same name.
     if (isGone(result)) {
         close(kept);
     } else if (opened.isOpen() && m_keptOpen < m_mostKeptOpen) {

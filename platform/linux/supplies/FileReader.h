@@ -19,8 +19,8 @@ public:
     /// The folder's descriptor, which somebody else closes.
     void setFolder(int folder) { m_folder = folder; }
 
-    /// Reads a file that `kept` holds open, or may hold open from now on: the number of bytes, or the negated
-    /// error number. `name` is the path's last part. After an accident it is tried again a few times.
+    /// Reads a file that `kept` holds open, or will hold open if it may: the number of bytes, or the negated
+    /// error number. `name` is the path's last part. After a transport error it is tried again a few times.
     ssize_t read(const std::string& path, const char* name, FileDescriptor& kept);
 
     /// Reads a file that is closed again.

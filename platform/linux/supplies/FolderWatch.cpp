@@ -16,8 +16,7 @@ FolderWatch::FolderWatch()
 bool FolderWatch::add(int folder, const char* name)
 {
     constexpr unsigned changes = IN_MODIFY | IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO;
-    // inotify takes paths only. This one is the folder that is open, even if its own path leads to another by
-    // now.
+    // inotify takes paths only. This one is the open folder, even if its own path leads elsewhere by now.
     const std::string path = "/proc/self/fd/" + std::to_string(folder) + '/' + name;
     return m_inotify.isOpen() && inotify_add_watch(m_inotify.get(), path.c_str(), changes | IN_ONLYDIR) >= 0;
 }

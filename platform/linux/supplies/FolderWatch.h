@@ -5,7 +5,7 @@
 namespace quindle {
 
 /// Notices changes of the files in some folders (inotify). Folders of the kernel's own file systems announce
-/// nothing.
+/// no changes.
 class FolderWatch
 {
 public:

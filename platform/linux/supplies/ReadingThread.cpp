@@ -23,12 +23,12 @@ bool ReadingThread::request(bool looksAgain)
         const std::scoped_lock lock(m_mutex);
         m_requestedAt = Clock::now();
         m_isBusy = true;
-        // An answer that nobody took is of an older moment.
+        // An answer that was not taken is outdated.
         m_answer.reset();
         m_bell.reset();
         m_hasAnswer = false;
     }
-    // The thread keeps this object alive: it may hang in a file long after the reader has gone.
+    // The thread keeps this object alive: it may hang in a file long after the reader is gone.
     const auto read = [self = shared_from_this(), looksAgain] {
         self->answer(self->m_folder.read(looksAgain));
     };
@@ -46,8 +46,8 @@ bool ReadingThread::isBusy() const
     return m_isBusy;
 }
 
-/// The reading has the processor meanwhile. It takes about as long as going to sleep and being woken, and who
-/// does not sleep need not be woken.
+/// The reading has the processor meanwhile. It takes about as long as going to sleep and being woken up,
+/// which not sleeping avoids.
 void ReadingThread::yieldUntilAnswered(Clock::time_point deadline) const
 {
     constexpr std::chrono::milliseconds longest(1);

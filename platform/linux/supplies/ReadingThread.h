@@ -22,7 +22,7 @@ class LateBell
 public:
     void setCall(std::function<void()> call) { m_call = std::move(call); }
 
-    /// Has the call made soon, unless nobody listens any more.
+    /// Has the call made soon, unless it was silenced.
     void ring()
     {
         const std::scoped_lock lock(m_mutex);
@@ -44,8 +44,8 @@ private:
 };
 
 /// Reads a folder of supplies on request, each time on a thread that ends with the reading: between two there
-/// is none that would have to be woken, or whose registers hold what it read last. One that is stuck in a
-/// file can be left to itself: when that file answers after all, its answer is delivered as a slow file's.
+/// is none that would have to be woken, or that keeps what it read in its registers. One that is stuck in a
+/// file can be abandoned: if that file answers after all, its answer is delivered as a slow file's.
 class ReadingThread : private ReadSteps, public std::enable_shared_from_this<ReadingThread>
 {
 public:
@@ -72,8 +72,7 @@ public:
     /// Rings once when the answer to the last request is there.
     void ringWhenAnswered(std::shared_ptr<LateBell> bell);
 
-    /// Leaves the thread to itself if it has been at one file for that long, and adds the file to the slow
-    /// ones.
+    /// Abandons the thread if it has been at one file for that long, and adds the file to the slow ones.
     bool abandonIfStuck(std::chrono::milliseconds longest);
 
     /// Keeps a reading that is under way from touching any further file.
@@ -96,11 +95,11 @@ private:
     Clock::time_point m_requestedAt;
     std::string m_path; ///< the file that is being read; empty between two
     Clock::time_point m_begun;
-    std::shared_ptr<SlowFile> m_stuckFile; ///< since the thread is left to itself
+    std::shared_ptr<SlowFile> m_stuckFile; ///< since the thread was abandoned
     std::shared_ptr<LateBell> m_bell;
     bool m_isBusy = false;
     bool m_isEnded = false;
-    std::atomic<bool> m_hasAnswer = false; ///< as m_answer, to be looked at without the mutex
+    std::atomic<bool> m_hasAnswer = false; ///< whether m_answer is set, to be read without the mutex
 };
 
 } // namespace quindle

@@ -23,10 +23,10 @@ Q_LOGGING_CATEGORY(slowLog, "quindle.power")
 /// two.
 constexpr auto quick = 10ms;
 
-/// A file that is slow and quick by turns would hold the program up again and again.
+/// A file that is slow and quick by turns would keep holding the program up.
 constexpr int mostRecoveries = 3;
 
-/// A driver that hangs at so many files of a supply hangs at all of them.
+/// A driver that hangs at this many files of a supply hangs at all of them.
 constexpr int mostOfASupply = 3;
 
 /// Each one is a thread.
@@ -61,7 +61,7 @@ void SlowFile::request(const std::shared_ptr<SlowFile>& file)
         file->m_begun = Clock::now();
     }
     if (!startThread([file] { file->readOnce(); }))
-        // Counts as an accident of the bus: the last value stands in.
+        // Counts as a transport error: the last value stands in.
         file->deliver(nullptr, -EAGAIN);
 }
 

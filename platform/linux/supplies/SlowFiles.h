@@ -12,13 +12,13 @@
 
 namespace quindle {
 
-/// A file that is read on a thread of its own because reading it may take for ever, and what that last gave.
+/// A file that is read on a thread of its own because reading it may take for ever, and its last contents.
 class SlowFile
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// A read of it began at `begun`, and somebody else performs it. `path` is below `folder`, or absolute.
+    /// A read of it began at `begun` on another thread. `path` is below `folder`, or absolute.
     SlowFile(std::string folder, std::string path, ReadFunction read, Clock::time_point begun);
 
     /// What the last read gave, as a read into `buffer` would; -EAGAIN while one is under way.
@@ -49,7 +49,7 @@ private:
     bool m_isUnderWay = true;
 };
 
-/// The slow files of one folder, shared by whoever reads it and whoever waits for that.
+/// The slow files of one folder, shared by the thread that reads it and the one that waits.
 class SlowFiles
 {
 public:
@@ -59,15 +59,14 @@ public:
     {
     }
 
-    /// Takes in a file that somebody has waited for in vain since `begun`, and names it in the log the first
-    /// time.
+    /// Adds a file that has been waited for in vain since `begun`, and logs it the first time.
     std::shared_ptr<SlowFile> add(const std::string& path, SlowFile::Clock::time_point begun);
 
-    /// What stands in for reading the file, as ReadSteps::insteadOf says. A file that is quick again is a
-    /// slow one no longer, the first few times.
+    /// What stands in for reading the file, as ReadSteps::insteadOf says. A file that is quick again stops
+    /// being slow, the first few times.
     std::optional<ssize_t> insteadOf(const std::string& path, char* buffer, std::size_t size);
 
-    /// Whether so many reads are under way that no more may hang.
+    /// Whether so many reads are hanging that no further one may.
     bool areTooMany() const;
 
 private:

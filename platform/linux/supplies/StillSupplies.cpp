@@ -14,7 +14,7 @@ namespace {
 /// Each has a file open, or three.
 constexpr std::size_t mostSupplies = 16;
 
-/// As seldom as a reading looks at them.
+/// As rarely as a reading looks at them.
 constexpr int looksBetween = 3;
 
 // The thread sleeps after each look, and what its registers hold is in a core dump: so bytes are moved and
@@ -60,7 +60,7 @@ bool StillSupplies::begin()
                        [this](const Entry& entry) { return keep(entry.name); });
 }
 
-/// Anew each time: the class may have been unloaded, and have come again as another folder.
+/// Anew each time: the class may have been unloaded and come back as another folder.
 bool StillSupplies::open()
 {
     m_watch.reset();
@@ -86,7 +86,7 @@ std::vector<StillSupplies::Entry> StillSupplies::entries()
 
 bool StillSupplies::keep(const std::string& supply)
 {
-    // Before its files are read, so that no change falls between.
+    // Before its files are read, so that no change is missed.
     if (m_watch && !m_watch->add(dirfd(m_folder.get()), supply.c_str()))
         return false;
     switch (supplyKind(trimmed(textOnce(supply, "type")), trimmed(textOnce(supply, "scope")))) {
@@ -99,7 +99,7 @@ bool StillSupplies::keep(const std::string& supply)
     case SupplyKind::External:
         return keepFile(supply, "uevent", false);
     case SupplyKind::Other:
-    case SupplyKind::Peripheral: // to be read for somebody who looks only
+    case SupplyKind::Peripheral: // read only while somebody looks
         break;
     }
     return true;

@@ -14,19 +14,19 @@
 
 namespace quindle {
 
-/// Whether the supplies of a class directory say, byte by byte, what they said before. It understands nothing
-/// of what it compares, so it costs a small part of a reading. Of one thread, which may hang in any call.
+/// Whether the supplies of a class directory are unchanged, byte by byte. It does not interpret what it
+/// compares, so it costs a small part of a reading. For one thread, which may hang in any call.
 class StillSupplies
 {
 public:
     explicit StillSupplies(std::string folder, ReadFunction read = readDescriptor);
 
-    /// Keeps what the supplies say now. False where changes cannot be seen this way: a file that is missing
+    /// Records what the supplies say now. False where changes cannot be seen this way: a file that is missing
     /// or fails, or too many supplies.
     bool begin();
 
     /// Whether nothing has changed since `begin`. After a change it stays false until the next `begin`. What
-    /// is no measurement, as a charge limit, is looked at every third time only.
+    /// is not measured, such as a charge limit, is checked only every third time.
     bool isStill();
 
 private:

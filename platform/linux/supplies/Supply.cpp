@@ -28,7 +28,7 @@ AttributeSet measuredOf(SupplyKind kind)
     return wanted;
 }
 
-/// What is known from elsewhere, for attributes that are missing.
+/// For missing attributes, what is known from elsewhere.
 void addMissing(SupplyAttributes& attributes, const SupplyAttributes& others)
 {
     for (const Attribute attribute : notInUevents) {
@@ -68,7 +68,7 @@ void Supply::look(FileReader& reader, Uevent uevent)
     lookAgain(reader);
 }
 
-/// The kind stays what it was while the files that say so do not answer.
+/// The kind stays the same while its files do not answer.
 void Supply::lookAtKind(FileReader& reader)
 {
     const ssize_t typeSize = readOnce(reader, Attribute::Type);
@@ -118,7 +118,7 @@ std::optional<SupplyAttributes> Supply::readUevent(FileReader& reader)
     return size > 0 ? attributesFromUevent(reader.text(size)) : std::nullopt;
 }
 
-/// Whether a uevent says what the other files do, of which there may be fewer. In a folder of files that
+/// Whether a uevent agrees with the other files, of which there may be fewer. In a folder of files that
 /// someone has collected they may be of another moment (thinkpad-procfs-lnv45n1), and the two must not be
 /// mixed.
 bool Supply::agrees(FileReader& reader, const SupplyAttributes& uevent) const
@@ -148,7 +148,8 @@ void Supply::readSingly(FileReader& reader, SupplyReading& reading)
         if (size >= 0)
             reading.attributes.set(attribute, reader.text(size));
         else if (attribute == Attribute::Present && size == -ENODEV)
-            // A driver whose battery was taken out answers so: an empty bay, not a battery without figures.
+            // A driver whose battery was removed answers like this: an empty bay, not a battery without
+            // figures.
             reading.attributes.set(attribute, "0");
         reading.failed[index] = isAccident(size);
         // Not tried again before the next look: each missing file would cost a failed call at every refresh.

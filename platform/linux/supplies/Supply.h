@@ -17,11 +17,11 @@ public:
     /// Where the file "uevent" comes from.
     enum class Uevent {
         Kernel,     ///< made while it is read, from the same device as the other files
-        File,       ///< somebody has written it, perhaps at another moment than the others
-        FileUnseen, ///< the same, and nobody says when it changes
+        File,       ///< written by somebody, perhaps at another moment than the others
+        FileUnseen, ///< the same, and nothing announces its changes
     };
 
-    /// `kind` is what it was before, if that is known: the files that say so may not answer now.
+    /// `kind` is the previous one, if known: its files may not answer now.
     Supply(std::string name, std::optional<SupplyKind> kind);
 
     const std::string& name() const { return m_name; }

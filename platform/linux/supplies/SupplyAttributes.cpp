@@ -52,7 +52,7 @@ constexpr std::array<std::string_view, attributeCount> attributeNames = {
 bool isBlankOrControl(char character)
 {
     const auto byte = static_cast<unsigned char>(character);
-    // NUL is one too: device trees end their texts with it.
+    // NUL too: device trees end their texts with it.
     return byte <= ' ' || byte == 0x7f;
 }
 
@@ -85,7 +85,7 @@ bool isInUpperCase(std::string_view upper, std::string_view name)
                       [](char left, char right) { return left == upperCase(right); });
 }
 
-/// The attribute whose name stands in capitals in a uevent.
+/// The attribute that a uevent names in capitals.
 std::optional<Attribute> attributeInCapitals(std::string_view name)
 {
     const auto found = std::find_if(attributeNames.begin(), attributeNames.end(),

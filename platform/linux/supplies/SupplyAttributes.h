@@ -74,7 +74,7 @@ public:
     /// attribute is set.
     std::optional<std::string_view> text(Attribute attribute) const;
 
-    /// The whole number it wrote; nothing when it is missing or is none.
+    /// The whole number it wrote; nothing when it is missing or not a number.
     std::optional<double> number(Attribute attribute) const;
 
     void set(Attribute attribute, std::string_view text);

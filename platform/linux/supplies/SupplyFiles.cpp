@@ -14,7 +14,7 @@ namespace quindle {
 
 ssize_t readDescriptor(int descriptor, const char* /*attribute*/, char* buffer, std::size_t size)
 {
-    // A file of the kernel's is made anew for each read from its beginning, so it can stay open.
+    // The kernel makes such a file anew for each read from its beginning, so it can stay open.
     const ssize_t result = pread(descriptor, buffer, size, 0);
     return result < 0 ? -errno : result;
 }
@@ -42,7 +42,7 @@ bool isOfKernel(int folder)
 
 bool isAccident(ssize_t result)
 {
-    // EMFILE and ENFILE are the program's own trouble, and ECANCELED says that nobody waited any more.
+    // EMFILE and ENFILE are this program's own problem, and ECANCELED means that the wait was over.
     constexpr std::array accidents = {EIO,       EAGAIN, EBUSY,  ETIMEDOUT, EINTR,
                                       EREMOTEIO, EMFILE, ENFILE, ECANCELED};
     return std::find(accidents.begin(), accidents.end(), -result) != accidents.end();

@@ -22,8 +22,8 @@ ssize_t readDescriptor(int descriptor, const char* attribute, char* buffer, std:
 /// none and errno; ENOENT for what is no regular file.
 FileDescriptor openRegularFile(int folder, const char* path);
 
-/// Whether the folder is one of the kernel's. It announces no changes, and its uevents are always of the same
-/// moment as its other files.
+/// Whether the folder is the kernel's. It announces no changes, and its uevents are always of the same moment
+/// as its other files.
 bool isOfKernel(int folder);
 
 /// Hears of every file before and after it is touched, on the thread that does.
@@ -32,16 +32,16 @@ class ReadSteps
 public:
     virtual ~ReadSteps() = default;
 
-    /// What stands in for touching the file: as a read that gave so many bytes or that negated error number.
-    /// Nothing for a file that may be touched.
+    /// The result that replaces touching the file: a number of bytes or a negated error number. Nothing for a
+    /// file that may be touched.
     virtual std::optional<ssize_t> insteadOf(const std::string& path, char* buffer, std::size_t size) = 0;
 
     virtual void begin(const std::string& path) = 0;
     virtual void end(const char* buffer, ssize_t result) = 0;
 };
 
-/// Whether something went wrong on the way to the device, so that the value itself may well be there. A
-/// driver that says that there is no value or no device (ENODATA, ENODEV) is believed.
+/// Whether something went wrong on the way to the device, so that the value itself may exist. A driver that
+/// reports no value or no device (ENODATA, ENODEV) is believed.
 bool isAccident(ssize_t result);
 
 } // namespace quindle

@@ -32,7 +32,7 @@ std::optional<SupplyReadings> SupplyFolder::read(bool looksAgain)
         else if (looksAgain && !m_watch)
             supply.lookAgain(m_reader);
         if (!supply.kind())
-            // With everything failed, so that what it was last stands in.
+            // With everything marked as failed, so that the last values stand in.
             readings.push_back({supply.name(), SupplyKind::Other, {}, AttributeSet().set()});
         else if (belongs(*supply.kind()))
             readings.push_back(supply.read(m_reader));
@@ -68,7 +68,7 @@ bool SupplyFolder::list()
         return false;
     take(std::move(entries));
     if (m_members.empty())
-        m_folder.reset(); // the class may be unloaded, and come again as another folder
+        m_folder.reset(); // the class may be unloaded and come back as another folder
     return true;
 }
 
@@ -126,7 +126,7 @@ void SupplyFolder::take(std::vector<Entry> entries)
 SupplyFolder::Member SupplyFolder::member(Entry entry) const
 {
     const auto kind = m_kinds.find(entry.name);
-    // What it was under an earlier thread: the files that say so may hang by now.
+    // The kind found by an earlier thread: its files may hang by now.
     auto supply = std::make_unique<Supply>(entry.name, kind == m_kinds.end() ? std::nullopt
                                                                              : std::optional(kind->second));
     return {std::move(entry), std::move(supply)};

@@ -26,7 +26,7 @@ public:
         Peripherals, ///< reading them may send something to the device
     };
 
-    /// What supplies were before, by name.
+    /// The previous kinds of supplies, by name.
     using KnownKinds = std::map<std::string, SupplyKind>;
 
     SupplyFolder(std::string path, Scope scope, KnownKinds kinds, ReadFunction read, ReadSteps& steps);
@@ -44,7 +44,7 @@ private:
     struct Entry
     {
         std::string name;
-        ino_t inode = 0; ///< another one of the same name is another supply
+        ino_t inode = 0; ///< a different one under the same name is another supply
 
         auto operator<=>(const Entry&) const = default;
     };

@@ -10,16 +10,16 @@
 
 namespace quindle {
 
-/// What stands in for attributes whose reading failed: what they were last, for up to 30 s. A charge of
-/// nothing for a moment helps nobody.
+/// Stands in for attributes that could not be read: their last values, for up to 30 s. A charge that vanishes
+/// for a moment helps nobody.
 class SupplyMemory
 {
 public:
-    /// The readings, completed as far as possible. Without readings it is what was read last. `now` is of one
-    /// clock that only runs forward.
+    /// The readings, completed as far as possible; without readings, the last ones. `now` is of one clock
+    /// that only runs forward.
     SupplyReadings complete(std::optional<SupplyReadings> readings, std::chrono::milliseconds now);
 
-    /// Everything is known to have been at `now` as it was read last, though nobody read it.
+    /// Everything is known to be unchanged at `now`, without having been read.
     void confirm(std::chrono::milliseconds now);
 
 private:

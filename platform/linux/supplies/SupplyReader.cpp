@@ -35,8 +35,8 @@ std::optional<SupplyReadings> SupplyReader::read(bool looksAgain)
     if (std::optional<SupplyReadings> late = takeLate())
         return late;
     const auto deadline = Clock::now() + patience();
-    // Woken whenever a file may have got stuck, and not at the deadline only: the others can be read in time
-    // then.
+    // Wakes whenever a file may have got stuck, not only at the deadline: the others can then still be read
+    // in time.
     while (request()) {
         if (auto answer = m_thread->take(std::min(deadline, Clock::now() + m_patience.withFile))) {
             m_wasLate = false;
@@ -67,8 +67,8 @@ void SupplyReader::setLateObserver(std::function<void()> arrived)
     });
 }
 
-/// What the bell has rung for. Whoever it woke may ask twice, and the next reading is likely to be late too:
-/// it must not ring at once again.
+/// What the bell has rung for. It may be asked for twice, and the next reading is likely to be late too: the
+/// bell must not ring again at once.
 std::optional<SupplyReadings> SupplyReader::takeArrived()
 {
     constexpr std::chrono::seconds rest(1);
@@ -80,7 +80,7 @@ std::optional<SupplyReadings> SupplyReader::takeArrived()
     return accept(std::move(answer->readings));
 }
 
-/// What was not there in time the last time, unless the next reading can be waited for again.
+/// The reading that was late last time, unless the next one can be waited for again.
 std::optional<SupplyReadings> SupplyReader::takeLate()
 {
     auto answer = m_wasLate && m_thread ? m_thread->take(Clock::now()) : std::nullopt;
@@ -103,7 +103,7 @@ std::optional<SupplyReadings> SupplyReader::accept(std::optional<SupplyReadings>
         const auto known = m_kinds.find(reading.name);
         if (reading.kind != SupplyKind::Other)
             kinds[reading.name] = reading.kind;
-        // A kind that could not be read this time stays what it was.
+        // A kind that could not be read this time stays the same.
         else if (known != m_kinds.end())
             kinds.insert(*known);
     }
@@ -123,7 +123,7 @@ std::chrono::milliseconds SupplyReader::patience() const
 bool SupplyReader::request()
 {
     if (!m_thread) {
-        // Each hanging file holds a thread; beyond so many nothing more is tried.
+        // Each hanging file holds a thread; beyond this many nothing more is tried.
         if (m_slowFiles->areTooMany())
             return false;
         m_thread = std::make_shared<ReadingThread>(m_folder, m_scope, m_kinds, m_read, m_slowFiles);

@@ -21,8 +21,8 @@ struct ReadingPatience
 };
 
 /// Reads the supplies on threads of their own, since a driver may hang while a file is read, and waits for
-/// it: long enough for any driver that answers, and never for ever. A file that does not answer is read apart
-/// from the others from then on, so that it holds up neither them nor the program. Main thread only.
+/// it: long enough for any driver that answers, but never for ever. A file that does not answer is from then
+/// on read separately, so that it holds up neither the others nor the program. Main thread only.
 class SupplyReader
 {
 public:
@@ -33,10 +33,10 @@ public:
     SupplyReader& operator=(const SupplyReader&) = delete;
 
     /// The supplies as they are now (see SupplyFolder::read); nothing when they could not be read in time.
-    /// When that happens again and again the reading that was asked for before is given without waiting.
+    /// When that keeps happening, the previously requested reading is given without waiting.
     std::optional<SupplyReadings> read(bool looksAgain);
 
-    /// Has `arrived` called from the main loop once a reading that was given up is there after all: the next
+    /// Has `arrived` called from the main loop once an abandoned reading has arrived after all: the next
     /// `read` gives it.
     void setLateObserver(std::function<void()> arrived);
 

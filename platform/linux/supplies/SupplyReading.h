@@ -23,14 +23,14 @@ SupplyKind supplyKind(std::string_view type, std::string_view scope);
 /// The attributes that this program wants of supplies of that kind.
 const AttributeSet& attributesOf(SupplyKind kind);
 
-/// One supply as it was when it was read. An attribute that is missing and has not failed is one that the
-/// supply does not have.
+/// One supply as it was when it was read. The supply does not have an attribute that is missing without
+/// having failed.
 struct SupplyReading
 {
     std::string name;
     SupplyKind kind = SupplyKind::Other;
     SupplyAttributes attributes;
-    AttributeSet failed; ///< went wrong on the way to the device; what they were before may stand in
+    AttributeSet failed; ///< failed on the way to the device; their last values may stand in
 
     bool operator==(const SupplyReading&) const = default;
 };

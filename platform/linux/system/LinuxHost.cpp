@@ -57,13 +57,13 @@ QString LinuxHost::localizedName() const
 {
     const QByteArray machineInfo = m_files.read(m_machineInfoPath).value_or(QByteArray());
     const QString prettyName = assignedValue(machineInfo, "PRETTY_HOSTNAME");
-    // The name that a person gave comes before the one that the network knows.
+    // The name that a person chose comes before the network's.
     return prettyName.isEmpty() ? m_hostName : prettyName;
 }
 
 QDateTime LinuxClock::now() const
 {
-    // In UTC: each conversion to local time makes the C library look at the zone's file.
+    // In UTC: each conversion to local time makes the C library check the zone's file.
     return QDateTime::currentDateTimeUtc();
 }
 

@@ -20,8 +20,8 @@ private:
     mutable TimelyFiles m_files;
 };
 
-/// The value of `name` in a file of shell-like assignments, one a line, quotes taken off; the last one
-/// counts. Empty when there is none.
+/// The value of `name` in a file of shell-like assignments, one a line, without quotes; the last one counts.
+/// Empty when there is none.
 QString assignedValue(const QByteArray& assignments, const QByteArray& name);
 
 /// The system's clock.

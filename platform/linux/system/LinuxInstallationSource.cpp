@@ -16,7 +16,7 @@ namespace {
 constexpr int longestAnswer = 1000; // milliseconds
 
 /// Packages that could hold the program: their databases have a file or folder for each package, too many to
-/// look into all of them.
+/// search them all.
 QStringList packageNamePattern()
 {
     return {QStringLiteral("quindle*")};
@@ -94,7 +94,7 @@ bool isInBuildFolder(const QString& bundlePath)
 
 InstallationSource installationSource(const QString& bundlePath, const QString& root)
 {
-    // A machine file may name any path: one that begins with a dash would be an option of rpm's.
+    // A machine file may name any path: one that begins with a dash would be an option to rpm.
     if (!bundlePath.startsWith(u'/'))
         return {};
     if (isInBuildFolder(bundlePath))

@@ -29,8 +29,7 @@ QByteArray applicationIn(const QByteArray& folder)
     return programPath(folder + "/Quindle.app/Contents/Linux/quindle", {});
 }
 
-/// What launches `path`: the program that it is, or that of the application in it; anything else the desktop
-/// opens.
+/// What launches `path`: a program itself, a folder's application, or else the desktop's handler.
 QList<QByteArray> launchCommand(const QByteArray& path, const QStringList& handlerFolders)
 {
     if (!programPath(path, {}).isEmpty())

@@ -7,8 +7,8 @@
 
 namespace quindle {
 
-/// Launches on a Linux desktop: an executable file is run, and so is the program of the application in the
-/// folder that it was installed in; anything else is given to the desktop's own handler.
+/// Launches on a Linux desktop: an executable file is run, as is the application that was installed in a
+/// folder; anything else goes to the desktop's own handler.
 class LinuxWorkspace final : public Workspace
 {
 public:

@@ -94,7 +94,7 @@ std::optional<QString> UPowerHistory::onlyBattery()
     QStringList batteries;
     for (const auto& device : qdbus_cast<QList<QDBusObjectPath>>(devices.arguments().constFirst())) {
         const auto isBattery = isSystemBattery(device.path());
-        // Which one it is must be certain: a week of another battery could not be told from this one's.
+        // It must be certain which one it is: another battery's week would look like this one's.
         if (!isBattery)
             return std::nullopt;
         if (*isBattery)
@@ -111,7 +111,7 @@ std::optional<bool> UPowerHistory::isSystemBattery(const QString& device)
     if (properties.signature() != u"a{sv}")
         return std::nullopt;
     const auto values = qdbus_cast<QVariantMap>(properties.arguments().constFirst());
-    // Mice and headsets have batteries that supply themselves alone.
+    // The batteries of mice and headsets only supply themselves.
     return values.value(QStringLiteral("Type")).toUInt() == battery &&
            values.value(QStringLiteral("PowerSupply")).toBool();
 }
@@ -123,7 +123,7 @@ std::optional<std::vector<PowerHistoryPoint>> UPowerHistory::history(const QStri
     constexpr uint points = 7 * 24 * 60; // at most one a minute, as samples are
     const QDBusMessage found =
         answer(device, deviceInterface(), QStringLiteral("GetHistory"), {type, week, points});
-    // Asked before anything is taken out: the wrong type would end in undefined values.
+    // Checked before anything is extracted: the wrong type would give undefined values.
     if (found.signature() != u"a(udu)")
         return std::nullopt;
     const auto list = found.arguments().constFirst().value<QDBusArgument>();

@@ -12,7 +12,7 @@ namespace quindle {
 
 namespace {
 
-/// What the toolkit tells of each display that it tries; the last line names them all.
+/// What the toolkit logs about each display that it tries; the last line names them all.
 bool isOfAttempt(const char* category, const QString& message)
 {
     return (category && std::strncmp(category, "qt.qpa.", 7) == 0) ||
@@ -25,7 +25,7 @@ void logWhileStarting(QtMsgType type, const QMessageLogContext& context, const Q
         const QString reason =
             refusedDisplayText(qgetenv("WAYLAND_DISPLAY"), qgetenv("DISPLAY"), qgetenv("QT_QPA_PLATFORM"));
         printToStandardError(QByteArray(program_invocation_short_name) + ": " + pathBytes(reason));
-        // At once: behind this the toolkit aborts.
+        // At once: after this the toolkit aborts.
         ::_exit(EX_UNAVAILABLE);
     }
     if (!isOfAttempt(context.category, message))

@@ -5,8 +5,8 @@
 
 namespace quindle {
 
-/// While it lives and has not ended, a toolkit that finds no display to show windows on ends the process with
-/// one line and EX_UNAVAILABLE, where it would abort. Around the making of the toolkit's application.
+/// While it exists and has not ended, a toolkit that finds no display ends the process with one line and
+/// EX_UNAVAILABLE, where it would abort. For the time in which the toolkit's application is made.
 class ToolkitStart
 {
 public:

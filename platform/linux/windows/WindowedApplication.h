@@ -16,7 +16,7 @@ public:
     bool showsTranslucentWindows() const override;
 
 private:
-    mutable X11Display m_display; ///< of its state only what it owes changes
+    mutable X11Display m_display; ///< only its pending answer changes
 };
 
 } // namespace quindle
