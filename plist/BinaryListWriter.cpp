@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 #include <limits>
 
 #include <QtEndian>
@@ -31,6 +30,12 @@ static_assert(sizeof(BinaryListWriter::Node) == nodeWidth);
 bool hasOnlyAscii(const QString& text)
 {
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
+void writeNumber(quint64 number, int width, char* room)
+{
+    for (int index = width; index > 0; --index, number >>= 8)
+        room[index - 1] = static_cast<char>(number & 0xff);
 }
 
 /// The power of two that says how many bytes a number takes.
@@ -140,9 +145,11 @@ QByteArray BinaryListWriter::finish(Node root)
 {
     const auto table = static_cast<quint64>(m_bytes.size());
     const int offsetWidth = 1 << widthPower(table);
-    m_bytes.reserve(m_bytes.size() + static_cast<qsizetype>(m_offsets.size()) * offsetWidth + 32);
-    for (const quint64 offset : m_offsets)
-        put(offset, offsetWidth);
+    char* room = grow(static_cast<qsizetype>(m_offsets.size()) * offsetWidth);
+    for (const quint64 offset : m_offsets) {
+        writeNumber(offset, offsetWidth, room);
+        room += offsetWidth;
+    }
     m_bytes += QByteArray(6, '\0') + static_cast<char>(offsetWidth) + static_cast<char>(nodeWidth);
     put(m_offsets.size(), 8);
     put(root, 8);
@@ -168,9 +175,7 @@ char* BinaryListWriter::grow(qsizetype size)
 /// The last bytes of a number, the highest first.
 void BinaryListWriter::put(quint64 number, int width)
 {
-    const quint64 bigEndian = qToBigEndian(number);
-    std::memcpy(grow(width), reinterpret_cast<const char*>(&bigEndian) + (8 - width),
-                static_cast<std::size_t>(width));
+    writeNumber(number, width, grow(width));
 }
 
 /// A count of 15 or more follows the marker, as an integer of its own.

@@ -1,6 +1,7 @@
 #include "plist/PropertyListGraph.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 
 #include <QtEndian>
@@ -28,7 +29,7 @@ constexpr bool isWide(quint8 marker)
     return marker >> 4 == 0x6;
 }
 
-Kind kindOf(quint8 marker)
+constexpr Kind kindOf(quint8 marker)
 {
     const quint8 detail = detailOf(marker);
     switch (marker >> 4) {
@@ -59,6 +60,14 @@ Kind kindOf(quint8 marker)
         return Kind::Invalid;
     }
 }
+
+/// Looked up for every node that is read, which is sooner done than decided.
+constexpr std::array<Kind, 256> kinds = [] {
+    std::array<Kind, 256> all{};
+    for (std::size_t marker = 0; marker < all.size(); ++marker)
+        all[marker] = kindOf(static_cast<quint8>(marker));
+    return all;
+}();
 
 bool hasCount(Kind kind)
 {
@@ -100,7 +109,7 @@ PropertyListGraph::Element PropertyListGraph::elementAt(quint64 offset) const
     if (offset >= m_size)
         return invalid;
     const auto marker = static_cast<quint8>(m_bytes[static_cast<qsizetype>(offset)]);
-    Element found{.kind = kindOf(marker), .marker = marker, .start = offset + 1, .count = detailOf(marker)};
+    Element found{.kind = kinds[marker], .marker = marker, .start = offset + 1, .count = detailOf(marker)};
     // Checked once here, so that the readers below need no bounds of their own. In this order: only a count
     // that is at most the list's size cannot overflow the length.
     const bool isInside =

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include <QByteArray>
 #include <QLatin1StringView>
 #include <QVariant>
@@ -56,7 +58,7 @@ public:
     {
         if (node >= m_count)
             return {.kind = Kind::Invalid};
-        return elementAt(number(m_offsetTable + node * m_offsetWidth, m_offsetWidth));
+        return elementAt(offsetOf(node));
     }
 
     /// The value of anything from Boolean to Text, of the types of plist/PropertyList.h; invalid for every
@@ -65,6 +67,23 @@ public:
 
     /// The number that a reference holds; `noNode` for every other kind.
     quint64 reference(const Element& element) const;
+
+    /// The number that the reference at a node holds; `noNode` for every other kind. The same as asking the
+    /// node's element, for the lists of references that most of an archive is.
+    quint64 referenceAt(Node node) const
+    {
+        // The upper half of its marker; the lower one is the width less one.
+        constexpr quint64 referenceMark = 0x8;
+        const quint64 offset = node < m_count ? offsetOf(node) : m_size;
+        if (offset >= m_size)
+            return noNode;
+        const quint64 marker = number(offset, 1);
+        const quint64 width = (marker & 0x0f) + 1;
+        if (marker >> 4 != referenceMark || width > m_size - offset - 1)
+            return noNode;
+        const quint64 kept = std::min(width, quint64{8});
+        return number(offset + 1 + width - kept, kept);
+    }
 
     /// An item of an array; `noNode` when there is none.
     Node item(const Element& array, quint64 index) const;
@@ -83,6 +102,9 @@ private:
     const char* content(const Element& element) const;
     quint64 integer(const Element& element) const;
     QString text(const Element& element) const;
+
+    /// Of a node that the list has.
+    quint64 offsetOf(Node node) const { return number(m_offsetTable + node * m_offsetWidth, m_offsetWidth); }
 
     /// The reference at `index` after the start of a container.
     Node nodeAt(const Element& container, quint64 index) const

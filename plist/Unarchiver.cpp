@@ -391,10 +391,10 @@ std::optional<Unarchiver::References> Unarchiver::listedReferences(const Element
     References found;
     found.reserve(list.count);
     for (quint64 index = 0; index < list.count; ++index) {
-        const Element item = m_graph.element(m_graph.item(list, index));
-        if (item.kind != Kind::Reference)
+        const quint64 reference = m_graph.referenceAt(m_graph.item(list, index));
+        if (reference == PropertyListGraph::noNode)
             return std::nullopt;
-        found.push_back(m_graph.reference(item));
+        found.push_back(reference);
     }
     return found;
 }

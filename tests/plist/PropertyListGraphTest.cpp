@@ -112,6 +112,25 @@ TEST(PropertyListGraph, WhatLeadsBeyondTheEndIsInvalid)
     EXPECT_EQ(graph.element(PropertyListGraph::noNode).kind, Kind::Invalid);
 }
 
+TEST(PropertyListGraph, AReferenceIsReadWithItsElementAndWithout)
+{
+    const PropertyListGraph wide(binaryPropertyList({bytes({0x81, 0x12, 0x34})}));
+    EXPECT_EQ(wide.referenceAt(0), 0x1234U);
+    EXPECT_EQ(wide.referenceAt(1), PropertyListGraph::noNode);
+    for (int marker = 0; marker < 256; ++marker) {
+        for (const int length : {0, 1, 8, 16}) {
+            const QByteArray object = static_cast<char>(marker) + QByteArray(length, '\x21');
+            const PropertyListGraph graph(binaryPropertyList({object}));
+            EXPECT_EQ(graph.referenceAt(0), graph.reference(graph.element(0))) << marker << ' ' << length;
+        }
+    }
+    // The last byte of the list as a marker: that of where the offsets begin, so many bytes are before them.
+    QByteArray atTheEnd = binaryPropertyList({'\x80' + QByteArray(0x8f - 9, '\0')});
+    atTheEnd[atTheEnd.size() - 33] = static_cast<char>(atTheEnd.size() - 1);
+    EXPECT_EQ(atTheEnd.back(), '\x8f');
+    EXPECT_EQ(PropertyListGraph(atTheEnd).referenceAt(0), PropertyListGraph::noNode);
+}
+
 TEST(PropertyListGraph, BrokenTrailersHaveNoRoot)
 {
     const QByteArray whole = binaryPropertyList({"\x09"});
