@@ -64,20 +64,19 @@ void SavedSamples::read(qint64 from, qint64 to)
     });
 }
 
-/// The file, which reading does not change; its folder only until it is there, since reading makes files
-/// beside it.
+/// The file, which reading does not change; only until it is there the folder that it will be in, or the one
+/// above that is there, since reading makes files beside it.
 void SavedSamples::watch()
 {
-    const QString file = QFile::decodeName(pathBytes(m_path));
-    const QFileInfo found(file);
-    const QString wanted = found.exists() ? file : found.path();
+    QString wanted = QFile::decodeName(pathBytes(m_path));
+    while (!QFileInfo::exists(wanted) && QFileInfo(wanted).path() != wanted)
+        wanted = QFileInfo(wanted).path();
     const QStringList watched = m_watcher.files() + m_watcher.directories();
     if (watched == QStringList(wanted))
         return;
     if (!watched.isEmpty())
         m_watcher.removePaths(watched);
-    if (QFileInfo::exists(wanted))
-        m_watcher.addPath(wanted);
+    m_watcher.addPath(wanted);
 }
 
 void SavedSamples::takeOver(const std::function<std::unique_ptr<PowerHistory>()>& service, qint64 now)
