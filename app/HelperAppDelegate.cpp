@@ -3,6 +3,7 @@
 #include "battery/QDBattery.h"
 #include "common/FatalError.h"
 #include "common/Paths.h"
+#include "common/Translation.h"
 #include "common/ValueDescription.h"
 #include "mac/QDMac.h"
 #include "platform/Bundle.h"
@@ -122,7 +123,7 @@ void HelperAppDelegate::setVersionItem()
     if (m_outlets.versionItem == 0)
         fatalError(u"an outlet of the main interface is not connected");
     required(m_outlets.statusMenu)
-        .setText(m_outlets.versionItem, QStringLiteral("Version ") + valueDescription(version));
+        .setText(m_outlets.versionItem, translated("Menu", "Version %1").arg(valueDescription(version)));
 }
 
 void HelperAppDelegate::registerWakeSleepNotification()

@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 
 #include "app/HelperAppDelegate.h"
+#include "common/Translation.h"
 #include "history/DailyGate.h"
 #include "history/DailyUpload.h"
 #include "history/SavedHistory.h"
@@ -80,7 +81,8 @@ QString HelperAppDelegate::dailyUploadText() const
     if (host.isEmpty())
         return {};
     if (!upload)
-        return QStringLiteral("Nothing would be sent now: a value that names the battery is missing.");
+        return translated("Preferences",
+                          "Nothing would be sent now: a value that names the battery is missing.");
     const auto body = QJsonDocument::fromJson(QByteArray::fromBase64(upload->body));
     return QStringLiteral("POST ") + dailyUploadUrl(host) + QStringLiteral("\n\n") +
            QString::fromUtf8(body.toJson(QJsonDocument::Indented));

@@ -17,6 +17,7 @@
 #include "app/SharedNotifications.h"
 #include "app/WarningKeeper.h"
 #include "common/Paths.h"
+#include "common/ShownLanguage.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "platform/UserDefaults.h"
@@ -155,6 +156,8 @@ int start(int argc, char** argv)
     // it, so the login item alone decides whether it starts at login.
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quindle-helper"));
+    const ShownLanguage language(
+        translationsOf(QCoreApplication::applicationDirPath() + QStringLiteral("/../..")));
     // The end hands over what is to be recorded, also at the end of a session.
     const EndSignals endSignals(patienceAtEnd, [&application] { application.quit(); });
 

@@ -8,6 +8,8 @@
 #include "application/pages/SettingsPage.h"
 #include "application/snapshots/SnapshotsPage.h"
 #include "battery/QDBattery.h"
+#include "common/Translation.h"
+#include "facts/ShownTexts.h"
 #include "facts/ValueTexts.h"
 #include "history/SavedHistory.h"
 #include "mac/QDMac.h"
@@ -48,8 +50,9 @@ qint64 secondsNow(const Platform& platform)
 QString stateOf(const QDBattery* battery)
 {
     if (!battery)
-        return QStringLiteral("No battery");
-    return joined(percentText(battery->StateOfCharge()), besideEachOther(), battery->BatteryState());
+        return translated("Facts", "No battery");
+    return joined(percentText(battery->StateOfCharge()), besideEachOther(),
+                  modelText(FactPlace::View, battery->BatteryState()));
 }
 
 } // namespace
@@ -102,11 +105,11 @@ std::vector<ApplicationPage> ApplicationProgram::pages()
             m_general, m_platform.userDefaults.standard(), m_platform.distributedNotificationCenter,
             m_extras.powerManagers, [this] { deleteHistory(); }, parent);
     };
-    return {{QStringLiteral("Battery"), battery},
-            {QStringLiteral("History"), history},
-            {QStringLiteral("Snapshots"), snapshots},
-            {QStringLiteral("Details"), details},
-            {QStringLiteral("Settings"), settings}};
+    return {{QStringLiteral(QT_TRANSLATE_NOOP("Pages", "Battery")), battery},
+            {QStringLiteral(QT_TRANSLATE_NOOP("Pages", "History")), history},
+            {QStringLiteral(QT_TRANSLATE_NOOP("Pages", "Snapshots")), snapshots},
+            {QStringLiteral(QT_TRANSLATE_NOOP("Pages", "Details")), details},
+            {QStringLiteral(QT_TRANSLATE_NOOP("Pages", "Settings")), settings}};
 }
 
 QWidget* ApplicationProgram::makeHistoryPage(QWidget* parent)

@@ -12,6 +12,7 @@
 #include <QStackedWidget>
 
 #include "application/Sidebar.h"
+#include "common/Translation.h"
 #include "platform/UserDefaults.h"
 #include "preferences/window/FrameAutosave.h"
 #include "settings/SettingsTable.h"
@@ -27,12 +28,12 @@ constexpr QSize smallest(640, 420);
 constexpr QSize usual(920, 610);
 constexpr double lineShare = 0.12; // of the text's colour in the line beside the sidebar
 
-QStringList namesOf(const std::vector<ApplicationPage>& pages)
+QStringList titlesOf(const std::vector<ApplicationPage>& pages)
 {
-    QStringList names;
+    QStringList titles;
     for (const ApplicationPage& page : pages)
-        names.append(page.name);
-    return names;
+        titles.append(translated("Pages", page.name.toUtf8().constData()));
+    return titles;
 }
 
 } // namespace
@@ -42,7 +43,7 @@ ApplicationWindow::ApplicationWindow(std::vector<ApplicationPage> pages, UserDef
     : m_pages(std::move(pages))
     , m_made(m_pages.size(), nullptr)
     , m_defaults(defaults)
-    , m_sidebar(new Sidebar(namesOf(m_pages), this))
+    , m_sidebar(new Sidebar(titlesOf(m_pages), this))
     , m_line(new QWidget(this))
     , m_stack(new QStackedWidget(this))
     , m_autosave(std::make_unique<FrameAutosave>(*this, defaults, Keys::applicationWindowFrame.name(),

@@ -15,8 +15,8 @@ class FrameAutosave;
 class Sidebar;
 class UserDefaults;
 
-/// A page of the window: its name, in the sidebar and in the settings, and how it is made when it is first
-/// shown.
+/// A page of the window: its name, in the settings and, translated in the context "Pages", in the sidebar,
+/// and how it is made when it is first shown.
 struct ApplicationPage
 {
     QString name;

@@ -22,6 +22,7 @@
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
+#include "widgets/WindowLanguage.h"
 
 using namespace quindle;
 
@@ -55,6 +56,8 @@ int showWindow(int argc, char** argv, const std::optional<Machine>& machine)
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quindle"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quindle"));
+    const WindowLanguage language(
+        translationsOf(helperBundlePath(QCoreApplication::applicationDirPath() + QStringLiteral("/../.."))));
     const auto services = servicesOf(machine);
     const Platform platform = services->platform();
     MacPowerManagers powerManagers;

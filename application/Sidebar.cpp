@@ -76,7 +76,7 @@ Sidebar::Sidebar(const QStringList& names, QWidget* parent)
     , m_name(new PlainLabel(this))
     , m_state(new PlainLabel(this))
 {
-    m_list->setAccessibleName(QStringLiteral("Pages"));
+    m_list->setAccessibleName(tr("Pages"));
     m_list->addItems(names);
     m_list->setItemDelegate(new RowDelegate(m_list));
     m_list->setFrameShape(QFrame::NoFrame);

@@ -32,6 +32,7 @@
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
 #include "widgets/CloseKey.h"
+#include "widgets/WindowLanguage.h"
 
 using namespace quindle;
 
@@ -124,6 +125,8 @@ int showWindow(const std::optional<Machine>& machine)
         return fail(QStringLiteral("there is no display to show a window on"), EX_UNAVAILABLE);
     exposePopups();
     const ToolkitApplication application;
+    const WindowLanguage language(
+        translationsOf(helperBundlePath(QCoreApplication::applicationDirPath() + QStringLiteral("/../.."))));
     std::optional<SingleInstance> instance;
     const StartAnswer answer = answerInTime(instance);
     if (answer.outcome != StartAnswer::Outcome::First)

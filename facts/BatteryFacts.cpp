@@ -7,7 +7,9 @@
 #include "battery/QDBattery.h"
 #include "common/DateFromText.h"
 #include "common/NumberTexts.h"
+#include "common/Translation.h"
 #include "facts/FactRule.h"
+#include "facts/ShownTexts.h"
 #include "facts/ValueTexts.h"
 
 namespace quindle {
@@ -30,7 +32,7 @@ std::optional<double> knownPercent(double percent)
 FactText charge(const BatterySource& source)
 {
     const QDBattery& battery = source.battery;
-    const QString figure = percentText(battery.StateOfCharge());
+    const QString figure = percentText(battery.StateOfCharge(), source.place);
     const QString capacities =
         capacitiesText(battery.CurrentCapacity(), battery.FullChargeCapacity(), source.place);
     FactText text;
@@ -63,14 +65,14 @@ QString missingHealth(const BatterySource& source)
 {
     if (source.place != FactPlace::View)
         return {};
-    return source.battery.DesignCapacity() > 0 ? QStringLiteral("Not known")
-                                               : QStringLiteral("No design capacity");
+    return source.battery.DesignCapacity() > 0 ? translated("Facts", "Not known", "the health")
+                                               : translated("Facts", "No design capacity");
 }
 
 QString capacityDescription(qint64 capacity, const QString& description, FactPlace place)
 {
     const QString amount = countText(capacity, place);
-    return amount.isEmpty() ? amount : amount + QStringLiteral(" mAh: ") + description;
+    return amount.isEmpty() ? amount : amount + QStringLiteral(" mAh: ") + modelText(place, description);
 }
 
 QString designDescription(const BatterySource& source)
@@ -86,10 +88,10 @@ QString designDescription(const BatterySource& source)
 
 FactText health(const BatterySource& source)
 {
-    const QString condition = knownText(source.battery.BatteryHealth());
+    const QString condition = modelText(source.place, knownText(source.battery.BatteryHealth()));
     FactText text;
     text.percent = knownHealth(source.battery);
-    text.value = text.percent ? percentText(*text.percent) : missingHealth(source);
+    text.value = text.percent ? percentText(*text.percent, source.place) : missingHealth(source);
     text.detail = fullAgainstDesign(source);
     text.toolTip = designDescription(source);
     if (source.place == FactPlace::Report)
@@ -106,23 +108,24 @@ FactText condition(const BatterySource& source)
     return {.value = knownText(source.battery.BatteryHealth())};
 }
 
-QString power(const QDBattery& battery)
+QString power(const BatterySource& source)
 {
-    return battery.knowsPower() ? wattsText(battery.WattThroughput()) : QString();
+    const QDBattery& battery = source.battery;
+    return battery.knowsPower() ? wattsText(battery.WattThroughput(), source.place) : QString();
 }
 
 FactText state(const BatterySource& source)
 {
-    const QString state = knownText(source.battery.BatteryState());
+    const QString state = modelText(source.place, knownText(source.battery.BatteryState()));
     // Where the power has no row of its own it follows the state.
     const bool hasOwnPower = source.place == FactPlace::View || source.place == FactPlace::Report;
-    return {.value = hasOwnPower ? state : joined(state, besideEachOther(), power(source.battery))};
+    return {.value = hasOwnPower ? state : joined(state, besideEachOther(), power(source))};
 }
 
 FactText powerWithCaption(const BatterySource& source)
 {
     // The caption says which way the power flows, so figures have no sign.
-    return {.value = power(source.battery), .caption = source.battery.StateText()};
+    return {.value = power(source), .caption = modelText(source.place, source.battery.StateText())};
 }
 
 /// Without a time the caption says that it is not estimated yet, or that the battery is full; a menu that
@@ -136,7 +139,7 @@ FactText time(const BatterySource& source)
     const bool isCaptionEnough =
         source.place != FactPlace::Report && !isSaidAbove && !knownText(battery.BatteryState()).isEmpty();
     return {.value = knownText(battery.TimeRemaining()),
-            .caption = battery.RemainingString(),
+            .caption = modelText(source.place, battery.RemainingString()),
             .isCaptionEnough = isCaptionEnough};
 }
 
@@ -152,28 +155,30 @@ FactText fullCharge(const BatterySource& source)
 
 FactText adapter(const BatterySource& source)
 {
-    return {.value = knownText(source.battery.AdapterConnected()),
-            .detail = knownText(source.battery.AdapterWatt())};
+    return {.value = modelText(source.place, knownText(source.battery.AdapterConnected())),
+            .detail = modelText(source.place, knownText(source.battery.AdapterWatt()))};
 }
 
 FactText cycles(const BatterySource& source)
 {
-    QString count = countText(source.battery.CycleCount(), source.place);
-    if (source.place == FactPlace::View && !count.isEmpty())
-        count += source.battery.CycleCount() == 1 ? QStringLiteral(" cycle") : QStringLiteral(" cycles");
-    return {.value = count, .toolTip = QDBattery::CycleCount_Desc()};
+    const qint64 cycles = source.battery.CycleCount();
+    return {.value = source.place == FactPlace::View ? cyclesText(cycles) : countText(cycles, source.place),
+            .toolTip = modelText(source.place, QDBattery::CycleCount_Desc())};
 }
 
 FactText temperature(const BatterySource& source)
 {
     // A battery without a sensor would be shown as "0.0 °C".
-    return {.value = source.battery.knowsTemperature() ? knownText(source.battery.Temperature()) : QString()};
+    return {.value = source.battery.knowsTemperature()
+                         ? modelFigure(source.place, knownText(source.battery.Temperature()))
+                         : QString()};
 }
 
 FactText failures(const BatterySource& source)
 {
     // Quiet, because the text is always "No Errors".
-    return {.value = knownText(source.battery.PermanentFailureString()), .isQuiet = true};
+    return {.value = modelText(source.place, knownText(source.battery.PermanentFailureString())),
+            .isQuiet = true};
 }
 
 FactText manufacturer(const BatterySource& source)
@@ -192,8 +197,8 @@ FactText madeBy(const BatterySource& source)
     FactText text{.value = joined(maker, besideEachOther(), device(source).value)};
     // Some only name their gauge's chip, whose maker did not make the battery.
     if (maker.isEmpty())
-        text.caption =
-            source.place == FactPlace::Menu ? QStringLiteral("Battery device") : QStringLiteral("Device");
+        text.caption = source.place == FactPlace::Menu ? translated("Facts", "Battery device")
+                                                       : translated("Facts", "Device");
     return text;
 }
 
@@ -208,10 +213,10 @@ FactText age(const BatterySource& source)
     if (!source.battery.knowsManufactureDate())
         return {};
     const QString day = dayText(*source.battery.ManufactureDate());
-    const QString age = knownText(source.battery.CustomAge());
+    const QString age = modelText(source.place, knownText(source.battery.CustomAge()));
     if (source.place == FactPlace::Report)
         return {.value = day, .detail = age};
-    return {.value = age, .toolTip = QStringLiteral("Manufactured ") + day};
+    return {.value = age, .toolTip = translated("Facts", "Manufactured %1").arg(day)};
 }
 
 using Id = FactId;
@@ -220,23 +225,38 @@ using Click = FactClick;
 
 // In the report's order; the other places order by rank. Power and time have captions of the battery's own.
 constexpr FactRule<BatterySource> batteryTable[]{
-    {Id::Charge, Group::Summary, 20, everywhere(u"Charge"), charge},
-    {Id::Health, Group::Summary, 11, everywhere(u"Health"), health},
-    {Id::Condition, Group::Summary, 90, {nullptr, nullptr, u"Condition"}, condition},
-    {Id::State, Group::Summary, 1, {u"State", u"", u"State"}, state},
-    {Id::Power, Group::State, 2, inViewAndReport(u"Power"), powerWithCaption},
-    {Id::Time, Group::State, 3, everywhere(u"Time"), time},
-    {Id::ChargeLimit, Group::State, 21, everywhere(u"Charge limit"), chargeLimit},
-    {Id::Adapter, Group::Battery, 43, everywhere(u"Adapter"), adapter},
-    {Id::FullCharge, Group::Summary, 30, {nullptr, u"Full charge", nullptr}, fullCharge},
-    {Id::Cycles, Group::Summary, 31, everywhere(u"Cycles"), cycles},
-    {Id::Temperature, Group::Battery, 42, everywhere(u"Temperature"), temperature, Click::Temperature},
-    {Id::Failures, Group::Battery, 44, everywhere(u"Failures"), failures},
-    {Id::MadeBy, Group::Battery, 40, {u"Made by", u"Battery made by", nullptr}, madeBy},
-    {Id::Manufacturer, Group::Battery, 90, {nullptr, nullptr, u"Manufacturer"}, manufacturer},
-    {Id::Device, Group::Battery, 90, {nullptr, nullptr, u"Device"}, device},
-    {Id::BatterySerial, Group::Battery, 90, inViewAndReport(u"Serial number"), serialNumber},
-    {Id::BatteryAge, Group::Battery, 41, {u"Age", u"Battery age", u"Manufactured"}, age, Click::BatteryAge},
+    {Id::Charge, Group::Summary, 20, everywhere(QT_TRANSLATE_NOOP("Facts", "Charge")), charge},
+    {Id::Health, Group::Summary, 11, everywhere(QT_TRANSLATE_NOOP("Facts", "Health")), health},
+    {Id::Condition, Group::Summary, 90, {nullptr, nullptr, "Condition"}, condition},
+    {Id::State, Group::Summary, 1, {QT_TRANSLATE_NOOP("Facts", "State"), "", "State"}, state},
+    {Id::Power, Group::State, 2, inViewAndReport(QT_TRANSLATE_NOOP("Facts", "Power")), powerWithCaption},
+    {Id::Time, Group::State, 3, everywhere(QT_TRANSLATE_NOOP("Facts", "Time")), time},
+    {Id::ChargeLimit, Group::State, 21, everywhere(QT_TRANSLATE_NOOP("Facts", "Charge limit")), chargeLimit},
+    {Id::Adapter, Group::Battery, 43, everywhere(QT_TRANSLATE_NOOP("Facts", "Adapter")), adapter},
+    {Id::FullCharge,
+     Group::Summary,
+     30,
+     {nullptr, QT_TRANSLATE_NOOP("Facts", "Full charge"), nullptr},
+     fullCharge},
+    {Id::Cycles, Group::Summary, 31, everywhere(QT_TRANSLATE_NOOP("Facts", "Cycles")), cycles},
+    {Id::Temperature, Group::Battery, 42, everywhere(QT_TRANSLATE_NOOP("Facts", "Temperature")), temperature,
+     Click::Temperature},
+    {Id::Failures, Group::Battery, 44, everywhere(QT_TRANSLATE_NOOP("Facts", "Failures")), failures},
+    {Id::MadeBy,
+     Group::Battery,
+     40,
+     {QT_TRANSLATE_NOOP("Facts", "Made by"), QT_TRANSLATE_NOOP("Facts", "Battery made by"), nullptr},
+     madeBy},
+    {Id::Manufacturer, Group::Battery, 90, {nullptr, nullptr, "Manufacturer"}, manufacturer},
+    {Id::Device, Group::Battery, 90, {nullptr, nullptr, "Device"}, device},
+    {Id::BatterySerial, Group::Battery, 90, inViewAndReport(QT_TRANSLATE_NOOP("Facts", "Serial number")),
+     serialNumber},
+    {Id::BatteryAge,
+     Group::Battery,
+     41,
+     {QT_TRANSLATE_NOOP("Facts", "Age"), QT_TRANSLATE_NOOP("Facts", "Battery age"), "Manufactured"},
+     age,
+     Click::BatteryAge},
 };
 
 } // namespace

@@ -2,7 +2,9 @@
 
 #include <optional>
 
+#include "common/Translation.h"
 #include "facts/FactRule.h"
+#include "facts/ShownTexts.h"
 #include "facts/ValueTexts.h"
 #include "mac/QDMac.h"
 
@@ -64,10 +66,10 @@ FactText computerAge(const ComputerSource& source)
     if (!source.mac.knowsManufactureDate())
         return {};
     const QString day = knownText(source.mac.ManufactureDateString());
-    const QString age = knownText(source.mac.CustomAge());
+    const QString age = modelText(source.place, knownText(source.mac.CustomAge()));
     if (source.place == FactPlace::Report)
         return {.value = day, .detail = age};
-    return {.value = age, .toolTip = day.isEmpty() ? day : QStringLiteral("Built ") + day};
+    return {.value = age, .toolTip = day.isEmpty() ? day : translated("Facts", "Built %1").arg(day)};
 }
 
 using Id = FactId;
@@ -75,16 +77,17 @@ using Group = FactGroup;
 
 // In the report's order; the other places order by rank.
 constexpr FactRule<ComputerSource> computerTable[]{
-    {Id::Computer, Group::Computer, 50, {u"Type", nullptr, nullptr}, nameAndType},
-    {Id::Name, Group::Computer, 50, {nullptr, u"Computer", u"Name"}, name},
-    {Id::Type, Group::Computer, 51, {nullptr, u"Type", u"Type"}, type},
-    {Id::Model, Group::Computer, 52, everywhere(u"Model"), model},
-    {Id::System, Group::Computer, 53, everywhere(u"System"), operatingSystem},
-    {Id::ComputerSerial, Group::Computer, 90, inViewAndReport(u"Serial number"), computerSerial},
+    {Id::Computer, Group::Computer, 50, {QT_TRANSLATE_NOOP("Facts", "Type"), nullptr, nullptr}, nameAndType},
+    {Id::Name, Group::Computer, 50, {nullptr, QT_TRANSLATE_NOOP("Facts", "Computer"), "Name"}, name},
+    {Id::Type, Group::Computer, 51, {nullptr, QT_TRANSLATE_NOOP("Facts", "Type"), "Type"}, type},
+    {Id::Model, Group::Computer, 52, everywhere(QT_TRANSLATE_NOOP("Facts", "Model")), model},
+    {Id::System, Group::Computer, 53, everywhere(QT_TRANSLATE_NOOP("Facts", "System")), operatingSystem},
+    {Id::ComputerSerial, Group::Computer, 90, inViewAndReport(QT_TRANSLATE_NOOP("Facts", "Serial number")),
+     computerSerial},
     {Id::ComputerAge,
      Group::Computer,
      54,
-     {u"Age", u"Computer age", u"Built"},
+     {QT_TRANSLATE_NOOP("Facts", "Age"), QT_TRANSLATE_NOOP("Facts", "Computer age"), "Built"},
      computerAge,
      FactClick::ComputerAge},
 };

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "facts/Fact.h"
+#include "facts/ShownTexts.h"
 
 namespace quindle {
 
@@ -18,20 +19,20 @@ struct FactText
     bool isQuiet = false;
 };
 
-/// A fact's caption at each place; null where it is left out.
+/// A fact's caption at each place, marked for translators; null where it is left out.
 struct FactCaptions
 {
-    const char16_t* inView = nullptr;
-    const char16_t* inMenu = nullptr; ///< also in the tool tip, for the ranks that are shown there
-    const char16_t* inReport = nullptr;
+    const char* inView = nullptr;
+    const char* inMenu = nullptr; ///< also in the tool tip, for the ranks that are shown there
+    const char* inReport = nullptr;
 };
 
-constexpr FactCaptions everywhere(const char16_t* caption)
+constexpr FactCaptions everywhere(const char* caption)
 {
     return {caption, caption, caption};
 }
 
-constexpr FactCaptions inViewAndReport(const char16_t* caption)
+constexpr FactCaptions inViewAndReport(const char* caption)
 {
     return {caption, nullptr, caption};
 }
@@ -47,7 +48,7 @@ struct FactRule
     FactText (*text)(const Source&) = nullptr;
     FactClick click = FactClick::Nothing;
 
-    const char16_t* caption(FactPlace place) const
+    const char* caption(FactPlace place) const
     {
         switch (place) {
         case FactPlace::View:
@@ -65,12 +66,12 @@ struct FactRule
 
 /// The rule of all places: what is not known is not shown. `text` is empty for what is not known.
 template <class Source>
-Fact factOf(const FactRule<Source>& rule, const char16_t* caption, const FactText& text)
+Fact factOf(const FactRule<Source>& rule, const QString& caption, const FactText& text)
 {
     return {.id = rule.id,
             .group = rule.group,
             .rank = rule.rank,
-            .caption = text.caption.isEmpty() ? QString::fromUtf16(caption) : text.caption,
+            .caption = text.caption.isEmpty() ? caption : text.caption,
             .value = text.value,
             .detail = text.detail,
             .shown = !text.value.isEmpty() || text.isCaptionEnough,
@@ -87,8 +88,9 @@ void addFacts(std::vector<Fact>& facts, const Table& table, FactPlace place,
               const std::optional<Source>& source)
 {
     for (const auto& rule : table) {
-        if (const char16_t* caption = rule.caption(place))
-            facts.push_back(factOf(rule, caption, source ? rule.text(*source) : FactText()));
+        if (const char* caption = rule.caption(place))
+            facts.push_back(
+                factOf(rule, factWords(place, caption), source ? rule.text(*source) : FactText()));
     }
 }
 

@@ -6,8 +6,10 @@
 
 #include "battery/QDBattery.h"
 #include "common/NumberTexts.h"
+#include "common/Translation.h"
 #include "facts/BatteryFacts.h"
 #include "facts/ComputerFacts.h"
+#include "facts/ShownTexts.h"
 #include "facts/SystemBatteries.h"
 #include "facts/ValueTexts.h"
 #include "mac/QDMac.h"
@@ -31,9 +33,9 @@ std::optional<int> chargeLimit(const FactSources& sources, FactPlace place)
     return isGiven && sources.powerSources ? sources.powerSources->chargeLimit() : std::nullopt;
 }
 
-Fact deviceFact(const PeripheralBattery& device)
+Fact deviceFact(const PeripheralBattery& device, FactPlace place)
 {
-    const QString level = knownText(device.level);
+    const QString level = modelText(place, knownText(device.level));
     // The percentage says more; some devices have the level alone.
     const QString value = device.percent ? integerText(*device.percent) + QStringLiteral(" %") : level;
     return {.id = FactId::Peripheral,
@@ -54,7 +56,7 @@ void addDeviceFacts(std::vector<Fact>& facts, FactPlace place, PowerSources* pow
     if (!isGiven || !powerSources)
         return;
     for (const PeripheralBattery& device : powerSources->peripherals())
-        facts.push_back(deviceFact(device));
+        facts.push_back(deviceFact(device, place));
 }
 
 } // namespace
@@ -91,7 +93,7 @@ const Fact& factWithId(const std::vector<Fact>& facts, FactId id)
 QString toolTipText(const FactSources& sources)
 {
     if (!batteryOf(sources))
-        return QStringLiteral("No battery");
+        return translated("Facts", "No battery");
     QStringList lines;
     for (const Fact& fact : factsFor(FactPlace::ToolTip, sources)) {
         if (fact.shown)

@@ -5,6 +5,7 @@
 
 #include "common/NumberConversion.h"
 #include "common/NumberTexts.h"
+#include "facts/ShownTexts.h"
 #include "facts/ValueTexts.h"
 #include "platform/PowerSources.h"
 
@@ -30,24 +31,24 @@ std::optional<double> percentOf(const QVariantMap& description)
     return double(*held) / double(*room) * 100;
 }
 
-QString stateOf(const QVariantMap& description)
+QString stateOf(const QVariantMap& description, FactPlace place)
 {
     if (description.value(QStringLiteral("Is Charging")).toBool())
-        return QStringLiteral("Charging");
+        return factWords(place, QT_TRANSLATE_NOOP("Facts", "Charging"));
     // All batteries are reported alike while they feed the computer; only the current shows which one does.
     const bool isSupply = text(description, "Type") == QStringLiteral("UPS");
     const qint64 current = convertToInteger(description.value(QStringLiteral("Current"))).value_or(0);
     const bool feeds =
         isSupply ? text(description, "Power Source State") == QStringLiteral("Battery Power") : current < 0;
-    return feeds ? QStringLiteral("Discharging") : QString();
+    return feeds ? factWords(place, QT_TRANSLATE_NOOP("Facts", "Discharging")) : QString();
 }
 
 /// The maker's name for it; a driver that has none gives its type, which several may have.
-QString captionOf(const QVariantMap& description, int number)
+QString captionOf(const QVariantMap& description, int number, FactPlace place)
 {
     const QString name = knownText(text(description, "Name"));
     const bool isTypeAlone = name.isEmpty() || name == text(description, "Type");
-    return isTypeAlone ? QStringLiteral("Battery %1").arg(number) : name;
+    return isTypeAlone ? factWords(place, QT_TRANSLATE_NOOP("Facts", "Battery %1")).arg(number) : name;
 }
 
 Fact hidden()
@@ -59,15 +60,15 @@ Fact hidden()
     return fact;
 }
 
-Fact factOf(const QVariantMap& description, int number)
+Fact factOf(const QVariantMap& description, int number, FactPlace place)
 {
     const std::optional<double> percent = percentOf(description);
     const QString charge =
         percent ? integerText(qRound64(*percent)) + QStringLiteral(" %") : missingValueText();
     Fact fact = hidden();
-    fact.caption = captionOf(description, number);
-    fact.value = joined(charge, besideEachOther(), stateOf(description));
-    fact.detail = knownText(text(description, "BatteryHealth"));
+    fact.caption = captionOf(description, number, place);
+    fact.value = joined(charge, besideEachOther(), stateOf(description, place));
+    fact.detail = modelText(place, knownText(text(description, "BatteryHealth")));
     fact.shown = true;
     fact.percent = percent;
     return fact;
@@ -93,12 +94,12 @@ std::vector<QVariantMap> descriptionsOf(PowerSources& sources)
 
 } // namespace
 
-std::vector<Fact> systemBatteryFacts(const std::vector<QVariantMap>& descriptions)
+std::vector<Fact> systemBatteryFacts(const std::vector<QVariantMap>& descriptions, FactPlace place)
 {
     std::vector<Fact> facts;
     for (const QVariantMap& description : descriptions)
         if (isBattery(description))
-            facts.push_back(factOf(description, static_cast<int>(facts.size()) + 1));
+            facts.push_back(factOf(description, static_cast<int>(facts.size()) + 1, place));
     if (facts.size() < 2)
         facts.clear();
     return facts;
@@ -110,7 +111,7 @@ void addSystemBatteryFacts(std::vector<Fact>& facts, FactPlace place, PowerSourc
         return;
     std::vector<Fact> batteries;
     if (powerSources)
-        batteries = systemBatteryFacts(descriptionsOf(*powerSources));
+        batteries = systemBatteryFacts(descriptionsOf(*powerSources), place);
     if (place == FactPlace::Menu)
         batteries.resize(rowsOfMenu, hidden());
     facts.insert(facts.end(), batteries.begin(), batteries.end());

@@ -13,7 +13,8 @@ class PowerSources;
 /// Each battery and uninterruptible supply of the computer by itself, from the power-source service's
 /// descriptions of them; none where there are fewer than two, since one alone is what all other facts are
 /// about. Each has its percentage where it is known.
-std::vector<Fact> systemBatteryFacts(const std::vector<QVariantMap>& descriptions);
+std::vector<Fact> systemBatteryFacts(const std::vector<QVariantMap>& descriptions,
+                                     FactPlace place = FactPlace::View);
 
 /// Adds them. In the menu they are always as many, of which those that there are are shown. With null none is
 /// shown.

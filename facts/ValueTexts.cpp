@@ -5,6 +5,7 @@
 #include <QLocale>
 
 #include "common/NumberTexts.h"
+#include "common/Translation.h"
 
 namespace quindle {
 
@@ -22,19 +23,22 @@ QString knownText(const std::optional<QString>& text)
     return text && !text->trimmed().isEmpty() ? *text : QString();
 }
 
-QString figureText(double figure)
+QString figureText(double figure, FactPlace place)
 {
-    return std::isfinite(figure) ? fixedText(figure, 1) : QString();
+    if (!std::isfinite(figure))
+        return {};
+    const QString text = fixedText(figure, 1);
+    return place == FactPlace::Report ? text : withDecimalSign(text);
 }
 
-QString percentText(double percent)
+QString percentText(double percent, FactPlace place)
 {
-    return withUnit(figureText(percent), QStringLiteral("%"));
+    return withUnit(figureText(percent, place), QStringLiteral("%"));
 }
 
-QString wattsText(double watts)
+QString wattsText(double watts, FactPlace place)
 {
-    return withUnit(figureText(watts), QStringLiteral("W"));
+    return withUnit(figureText(watts, place), QStringLiteral("W"));
 }
 
 QString countText(qint64 count, FactPlace place)
@@ -53,7 +57,17 @@ QString capacitiesText(qint64 held, qint64 room, FactPlace place)
     if (second.isEmpty())
         return withUnit(first, unit);
     // A dash stands for an unknown charge, so that what follows is not taken for it.
-    return (first.isEmpty() ? missingValueText() : first) + QStringLiteral(" of ") + second;
+    return translated("Facts", "%1 of %2", "capacities")
+        .arg(first.isEmpty() ? missingValueText() : first, second);
+}
+
+QString cyclesText(qint64 count)
+{
+    const QString number = countText(count, FactPlace::View);
+    if (number.isEmpty())
+        return number;
+    return count == 1 ? translated("Facts", "1 cycle")
+                      : translated("Facts", "%1 cycles", nullptr, count).arg(number);
 }
 
 QString groupedText(qint64 number, const QString& separator)
@@ -72,7 +86,7 @@ QString groupSeparator(FactPlace place)
     // Groups are for people only; the report is the same in every locale.
     const QString separator = QLocale().groupSeparator();
     // A point beside a decimal point would be read as one: 6.000 mAh.
-    return separator == u'.' ? QString(QChar(u'\u202F')) : separator;
+    return separator == decimalSign() ? QString(QChar(u'\u202F')) : separator;
 }
 
 QString joined(const QString& first, const QString& between, const QString& second)

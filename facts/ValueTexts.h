@@ -6,18 +6,18 @@
 
 #include "facts/Fact.h"
 
-/// Values in words, with ASCII digits and a decimal point in every locale like the texts of the models
-/// themselves. Each is empty for what is not known.
+/// Values in words, with ASCII digits like the title and, in English and in the report, a decimal point like
+/// the texts of the models themselves. Each is empty for what is not known.
 namespace quindle {
 
 /// The text, if it has more than blanks.
 QString knownText(const std::optional<QString>& text);
 
 /// One decimal, e.g. "66.7"; not known when not finite.
-QString figureText(double figure);
+QString figureText(double figure, FactPlace place = FactPlace::View);
 
-QString percentText(double percent); ///< "83.9 %"
-QString wattsText(double watts);     ///< "12.4 W"
+QString percentText(double percent, FactPlace place = FactPlace::View); ///< "83.9 %"
+QString wattsText(double watts, FactPlace place = FactPlace::View);     ///< "12.4 W"
 
 /// A number of things, e.g. "1,234". Drivers that do not count report 0 or less.
 QString countText(qint64 count, FactPlace place);
@@ -26,11 +26,14 @@ QString countText(qint64 count, FactPlace place);
 /// unknown (0 or less).
 QString capacitiesText(qint64 held, qint64 room, FactPlace place);
 
+/// "1 cycle", "1,234 cycles"; in the user's language.
+QString cyclesText(qint64 count);
+
 /// Whole digits in groups of three, e.g. "6,000" or "-1,600".
 QString groupedText(qint64 number, const QString& separator);
 
 /// What separates groups of digits for this user: their locale's sign, but a narrow space where that is the
-/// point, which is the decimal point here. Nothing in the report.
+/// decimal sign here. Nothing in the report.
 QString groupSeparator(FactPlace place);
 
 /// Both texts with `between` between them, or the only one that is not empty.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/SingleLine.h"
+#include "common/Translation.h"
 #include "facts/ValueTexts.h"
 
 namespace quindle {
@@ -63,7 +64,8 @@ void MainInterface::addFactRows()
         const bool isDetail = fact.rank > lastRankOfMenu;
         // The submenu comes before its rows, as a row's parent has to.
         if (isDetail && m_detailsRow == 0)
-            m_detailsRow = m_statusMenu.addRow({Kind::Submenu, QStringLiteral("Details"), true, true, {}, 0});
+            m_detailsRow =
+                m_statusMenu.addRow({Kind::Submenu, translated("Menu", "Details"), true, true, {}, 0});
         m_factRows.push_back(m_statusMenu.addRow(factRow(isDetail ? m_detailsRow : 0)));
     }
 }
@@ -79,18 +81,18 @@ void MainInterface::addEntries()
         return m_statusMenu.addRow({Kind::Action, text, true, true, chosen, 0});
     };
     m_statusMenu.addRow({Kind::Separator, {}, true, true, {}, 0});
-    m_statusMenu.addRow({Kind::OpenView, QStringLiteral("Show Battery..."), true, true, {}, 0});
-    entry(QStringLiteral("Open Application"), &StatusMenuActions::openApplication);
-    entry(QStringLiteral("Preferences..."), &StatusMenuActions::openPreferences);
-    entry(QStringLiteral("Menu Bar Text..."), &StatusMenuActions::openMenuBarText);
-    m_versionItem = m_statusMenu.addRow({Kind::Action, QStringLiteral("Version"), true, false, {}, 0});
-    entry(QStringLiteral("Quit"), &StatusMenuActions::quitApp);
+    m_statusMenu.addRow({Kind::OpenView, translated("Menu", "Show Battery..."), true, true, {}, 0});
+    entry(translated("Menu", "Open Application"), &StatusMenuActions::openApplication);
+    entry(translated("Menu", "Preferences..."), &StatusMenuActions::openPreferences);
+    entry(translated("Menu", "Menu Bar Text..."), &StatusMenuActions::openMenuBarText);
+    m_versionItem = m_statusMenu.addRow({Kind::Action, translated("Menu", "Version"), true, false, {}, 0});
+    entry(translated("Menu", "Quit"), &StatusMenuActions::quitApp);
 }
 
 void MainInterface::updateFacts(const QString& title)
 {
     const QDMac* mac = m_macObjectController.content();
-    const QString noTitle = mac && mac->Battery() ? QString() : QStringLiteral("No battery");
+    const QString noTitle = mac && mac->Battery() ? QString() : translated("Facts", "No battery");
     setFactRow(m_titleRow, title.isEmpty() ? noTitle : oneLine(title, longestTitle));
     const std::vector<Fact> facts = factsFor(FactPlace::Menu, factSources());
     bool hasDetails = false;

@@ -1,7 +1,7 @@
 # Installs Debian or Ubuntu packages by name, the missing ones only. Sourced by ./run, ./test, ./package and scripts, which may
 # say in by_hand what to do where there is no apt.
 
-build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools qt6-svg-dev
+build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-l10n-tools
     libgl-dev libudev-dev libxml2-dev libcurl4-openssl-dev libxcb1-dev libsqlite3-dev libfreetype-dev libfontconfig-dev zlib1g-dev"
 runtime_packages="libqt6svg6 fonts-dejavu-core qt6-wayland libraqm0"
 desktop_packages="python3 xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme fonts-noto-core imagemagick x11-utils

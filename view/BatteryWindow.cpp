@@ -53,7 +53,7 @@ BatteryWindow::BatteryWindow(MainInterface& interface, Kind kind)
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
     setObjectName(QStringLiteral("batteryWindow"));
-    setWindowTitle(QStringLiteral("Battery"));
+    setWindowTitle(tr("Battery"));
     setBackgroundRole(QPalette::Base);
     setAttribute(Qt::WA_TranslucentBackground, kind == Kind::RoundPopup);
 

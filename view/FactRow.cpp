@@ -17,7 +17,7 @@ namespace {
 
 QString clickHint()
 {
-    return QStringLiteral("Click to switch the unit");
+    return FactRow::tr("Click to switch the unit");
 }
 
 } // namespace

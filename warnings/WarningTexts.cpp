@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "common/Translation.h"
 #include "warnings/WarningRules.h"
 #include "warnings/WarningWatch.h"
 
@@ -16,7 +17,7 @@ using Urgency = Notification::Urgency;
 struct LevelWords
 {
     const char* title;
-    const char* text; ///< after the charge
+    bool saysWhatIsLeft;
     const char* icon; ///< a name that every icon theme is expected to have
     const char* argument;
     Urgency urgency;
@@ -24,11 +25,12 @@ struct LevelWords
 
 // In the order of the levels.
 constexpr std::array<LevelWords, warningLevels.size()> words{{
-    {"Battery low", " left", "battery-low", "low", Urgency::Normal},
-    {"Battery very low", " left", "battery-caution", "very-low", Urgency::Normal},
-    {"Battery nearly empty", " left", "battery-caution", "nearly-empty", Urgency::Critical},
-    {"Battery full", "", "battery", "full", Urgency::Low},
-    {"Charge limit reached", "", "battery", "limit", Urgency::Low},
+    {QT_TRANSLATE_NOOP("Warnings", "Battery low"), true, "battery-low", "low", Urgency::Normal},
+    {QT_TRANSLATE_NOOP("Warnings", "Battery very low"), true, "battery-caution", "very-low", Urgency::Normal},
+    {QT_TRANSLATE_NOOP("Warnings", "Battery nearly empty"), true, "battery-caution", "nearly-empty",
+     Urgency::Critical},
+    {QT_TRANSLATE_NOOP("Warnings", "Battery full"), false, "battery", "full", Urgency::Low},
+    {QT_TRANSLATE_NOOP("Warnings", "Charge limit reached"), false, "battery", "limit", Urgency::Low},
 }};
 
 const char* argumentOf(SampleState state)
@@ -61,8 +63,14 @@ QString minutesText(int minutes)
 {
     // An estimate is no more exact than that.
     const int shown = minutes > 10 ? (minutes + 2) / 5 * 5 : minutes;
-    return shown == 1 ? QStringLiteral("About a minute left")
-                      : QStringLiteral("About %1 minutes left").arg(shown);
+    return shown == 1 ? translated("Warnings", "About a minute left")
+                      : translated("Warnings", "About %1 minutes left", nullptr, shown).arg(shown);
+}
+
+QString chargeText(const LevelWords& level, double percent)
+{
+    const QString text = percentText(percent);
+    return level.saysWhatIsLeft ? translated("Warnings", "%1 left", "a percentage").arg(text) : text;
 }
 
 } // namespace
@@ -70,9 +78,8 @@ QString minutesText(int minutes)
 Notification notificationOf(const WarningAction& action)
 {
     const LevelWords& level = words[indexOf(action.level)];
-    const QString percent = percentText(action.percent);
-    return {.title = QString::fromLatin1(level.title),
-            .text = action.minutes ? minutesText(*action.minutes) : percent + QLatin1String(level.text),
+    return {.title = translated("Warnings", level.title),
+            .text = action.minutes ? minutesText(*action.minutes) : chargeText(level, action.percent),
             .iconName = QString::fromLatin1(level.icon),
             .urgency = isCritical(action.level, action.percent) ? Urgency::Critical : level.urgency};
 }

@@ -22,6 +22,7 @@
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
+#include "widgets/WindowLanguage.h"
 #include "windows/HelperComputer_macos.h"
 #include "windows/HelperControllers.h"
 
@@ -80,6 +81,8 @@ int start(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("quindle-helper"));
     // The item stays when the last window closes.
     QApplication::setQuitOnLastWindowClosed(false);
+    const WindowLanguage language(
+        translationsOf(QCoreApplication::applicationDirPath() + QStringLiteral("/../..")));
     const auto computer = machine ? machineOnMac(*machine) : thisMac();
     return run(application, *computer);
 }

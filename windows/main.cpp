@@ -19,6 +19,7 @@
 #include "remote/WindowMessage.h"
 #include "widgets/AccessiblePopups.h"
 #include "widgets/CloseKey.h"
+#include "widgets/WindowLanguage.h"
 #include "windows/HelperEnd.h"
 #include "windows/WindowWatch.h"
 #include "windows/WindowsCommandLine.h"
@@ -123,6 +124,8 @@ int start(const WindowsCommandLine& commandLine)
     }
     exposePopups();
     const HelpersApplication application;
+    const WindowLanguage language(
+        translationsOf(QCoreApplication::applicationDirPath() + QStringLiteral("/../..")));
     SocketLink link(std::move(end));
     return run(link, machine, commandLine.patience);
 }

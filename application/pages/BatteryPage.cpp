@@ -45,20 +45,20 @@ BatteryPage::BatteryPage(MainInterface& interface, QWidget* parent)
     : ScrollPage(parent)
     , m_interface(interface)
     , m_noBattery(new PlainLabel(&content()))
-    , m_charge(makeGauge(QStringLiteral("Charge")))
+    , m_charge(makeGauge(tr("Charge")))
     , m_stateList(makeList({}))
-    , m_health(makeGauge(QStringLiteral("Health")))
-    , m_batteryList(makeList(QStringLiteral("Battery")))
-    , m_batteriesList(makeList(QStringLiteral("Batteries")))
-    , m_devicesList(makeList(QStringLiteral("Devices")))
-    , m_computerList(makeList(QStringLiteral("Computer")))
+    , m_health(makeGauge(tr("Health")))
+    , m_batteryList(makeList(tr("Battery")))
+    , m_batteriesList(makeList(tr("Batteries")))
+    , m_devicesList(makeList(tr("Devices")))
+    , m_computerList(makeList(tr("Computer")))
     , m_columns(new QHBoxLayout(&content()))
     , m_near(new QVBoxLayout)
     , m_far(new QVBoxLayout)
 {
     setObjectName(QStringLiteral("batteryPage"));
-    setAccessibleName(QStringLiteral("Battery"));
-    m_noBattery->setText(QStringLiteral("No battery"));
+    setAccessibleName(tr("Battery"));
+    m_noBattery->setText(tr("No battery"));
     m_charge.bar->follow(interface.stateOfChargeProgress());
     m_health.bar->follow(interface.stateOfHealthProgress());
     for (QWidget* part :

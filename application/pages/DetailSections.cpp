@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "common/SingleLine.h"
+#include "common/Translation.h"
 #include "common/ValueDescription.h"
 
 namespace quindle {
@@ -21,7 +22,8 @@ void addRows(std::vector<DetailRow>& rows, const QString& prefix, const QVariant
             addRows(rows, name + u'.', value->toMap(), depth + 1);
         // Not 1 and 0, which would look like figures.
         else if (value->typeId() == QMetaType::Bool)
-            rows.push_back({name, value->toBool() ? QStringLiteral("Yes") : QStringLiteral("No")});
+            rows.push_back(
+                {name, value->toBool() ? translated("Details", "Yes") : translated("Details", "No")});
         else
             rows.push_back({name, singleLine(valueDescription(*value))});
     }
@@ -49,11 +51,12 @@ std::vector<DetailSection> detailSections(const DetailSources& sources)
     std::vector<DetailSection> sections;
     const bool isOne = sources.sourceRows.size() == 1;
     for (qsizetype index = 0; index < sources.sourceRows.size(); ++index) {
-        const QString number = isOne ? QString() : QStringLiteral(" %1").arg(index + 1);
-        addSection(sections, QStringLiteral("Power source") + number, sources.sourceRows[index].toMap());
+        const QString title = isOne ? translated("Details", "Power source")
+                                    : translated("Details", "Power source %1").arg(index + 1);
+        addSection(sections, title, sources.sourceRows[index].toMap());
     }
     for (auto entry = sources.registry.begin(); entry != sources.registry.end(); ++entry)
-        addSection(sections, QStringLiteral("Registry: ") + entry.key(), entry->toMap());
+        addSection(sections, translated("Details", "Registry: %1").arg(entry.key()), entry->toMap());
     return sections;
 }
 

@@ -53,16 +53,16 @@ DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& hel
     , m_registryAsItIs(registryAsItIs)
     , m_search(new QLineEdit(this))
     , m_rows(new QTreeWidget(this))
-    , m_nothing(new QLabel(QStringLiteral("Nothing found"), this))
+    , m_nothing(new QLabel(tr("Nothing found"), this))
     , m_told(new QuietLabel(this))
-    , m_withSerials(new QCheckBox(QStringLiteral("With serial &numbers"), this))
+    , m_withSerials(new QCheckBox(tr("With serial &numbers"), this))
 {
     setObjectName(QStringLiteral("detailsPage"));
-    setAccessibleName(QStringLiteral("Details"));
-    m_search->setPlaceholderText(QStringLiteral("Search"));
-    m_search->setAccessibleName(QStringLiteral("Search details"));
+    setAccessibleName(tr("Details"));
+    m_search->setPlaceholderText(tr("Search"));
+    m_search->setAccessibleName(tr("Search details"));
     m_search->setClearButtonEnabled(true);
-    m_rows->setAccessibleName(QStringLiteral("Details"));
+    m_rows->setAccessibleName(tr("Details"));
     m_rows->setColumnCount(2);
     m_rows->setHeaderHidden(true);
     m_rows->setRootIsDecorated(false);
@@ -71,10 +71,10 @@ DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& hel
     m_rows->setFrameShape(QFrame::NoFrame);
     m_rows->setTextElideMode(Qt::ElideMiddle);
     m_nothing->setAlignment(Qt::AlignCenter);
-    auto* copyButton = new QPushButton(QStringLiteral("&Copy as Text"), this);
-    auto* saveButton = new QPushButton(QStringLiteral("&Save as Machine File..."), this);
-    saveButton->setToolTip(QStringLiteral("A file that the program can be run on in place of this computer, "
-                                          "for reports of defects"));
+    auto* copyButton = new QPushButton(tr("&Copy as Text"), this);
+    auto* saveButton = new QPushButton(tr("&Save as Machine File..."), this);
+    saveButton->setToolTip(tr("A file that the program can be run on in place of this computer, "
+                              "for reports of defects"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_search);
     layout->addWidget(m_rows, 1);
@@ -154,15 +154,15 @@ void DetailsPage::showSection(int index, const DetailSection& section)
 void DetailsPage::copy()
 {
     QGuiApplication::clipboard()->setText(detailsText(foundDetails(m_sections, m_search->text())));
-    m_told->setText(QStringLiteral("Copied"));
+    m_told->setText(tr("Copied"));
 }
 
 void DetailsPage::askForFile()
 {
-    auto* dialog = new QFileDialog(this, QStringLiteral("Save as Machine File"));
+    auto* dialog = new QFileDialog(this, tr("Save as Machine File"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilter(QStringLiteral("Machine files (*.plist)"));
+    dialog->setNameFilter(tr("Machine files (*.plist)"));
     dialog->setDefaultSuffix(QStringLiteral("plist"));
     // Not the folder that it was started in, which nobody chose.
     dialog->setDirectory(homeFolder());
@@ -177,7 +177,7 @@ void DetailsPage::saveTo(const QString& path)
     // A machine file is played by the helper's programs, so it names their bundle.
     const Platform captured = m_platform.with({.registry = m_registryAsItIs, .bundle = &m_helperBundle});
     const QString failure = writeMachineFile(path, machineKeys(captured, m_withSerials->isChecked()));
-    m_told->setText(failure.isEmpty() ? QStringLiteral("Saved") : path + QStringLiteral(": ") + failure);
+    m_told->setText(failure.isEmpty() ? tr("Saved") : path + QStringLiteral(": ") + failure);
 }
 
 void DetailsPage::changeEvent(QEvent* event)

@@ -31,16 +31,16 @@ QString viewCount(qint64 count)
 
 TrendTexts textsWithout()
 {
-    return {.sentence = QStringLiteral("No history yet"),
-            .detail = QStringLiteral("One snapshot a day says how the battery wears")};
+    return {.sentence = HistoryPage::tr("No history yet"),
+            .detail = HistoryPage::tr("One snapshot a day says how the battery wears")};
 }
 
 QString intervalText(const TrendEstimate& trend)
 {
     if (!trend.pace || !trend.pace->isWear())
         return {};
-    return QStringLiteral("With a probability of 95 % between %1 and %2 points a year")
-        .arg(fixedText(-trend.pace->flattest, 1), fixedText(-trend.pace->steepest, 1));
+    return HistoryPage::tr("With a probability of 95 % between %1 and %2 points a year")
+        .arg(figureText(-trend.pace->flattest), figureText(-trend.pace->steepest));
 }
 
 bool isThinned(HistoryRange range)
@@ -64,14 +64,14 @@ HistoryPage::HistoryPage(QWidget* parent)
     , m_notice(addLabel(true, QStringLiteral("recordingIsOff")))
     , m_toSettings(new LinkButton(&content()))
     , m_ranges(new SegmentedControl(historyRangeTitles(), &content()))
-    , m_quantities(new SegmentedControl({QStringLiteral("&Charge"), QStringLiteral("&Power")}, &content()))
-    , m_wearChart(new TimeSeriesChart(QStringLiteral("Full charge, whole history"), &content()))
+    , m_quantities(new SegmentedControl({tr("&Charge"), tr("&Power")}, &content()))
+    , m_wearChart(new TimeSeriesChart(tr("Full charge, whole history"), &content()))
     , m_sampleChart(new TimeSeriesChart(QString(), &content()))
-    , m_pictureButton(new QPushButton(QStringLiteral("&Save Picture..."), &content()))
-    , m_tableButton(new QPushButton(QStringLiteral("&Export..."), &content()))
+    , m_pictureButton(new QPushButton(tr("&Save Picture..."), &content()))
+    , m_tableButton(new QPushButton(tr("&Export..."), &content()))
 {
     setObjectName(QStringLiteral("historyPage"));
-    setAccessibleName(QStringLiteral("History"));
+    setAccessibleName(tr("History"));
     auto* column = new QVBoxLayout(&content());
     makeHead(*column);
     column->addWidget(m_wearChart, 3);
@@ -101,13 +101,13 @@ QHBoxLayout* HistoryPage::addRow(QVBoxLayout& column)
 
 void HistoryPage::makeHead(QVBoxLayout& column)
 {
-    m_heading->setText(QStringLiteral("Health"));
+    m_heading->setText(tr("Health"));
     m_sign->setText(QStringLiteral("%"));
-    m_wearCaption->setText(QStringLiteral("Full charge, mAh"));
+    m_wearCaption->setText(tr("Full charge, mAh"));
     for (PlainLabel* whole : {m_figure, m_sign})
         // The figure is never cut; the words beside it give way.
         whole->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    m_ranges->setAccessibleName(QStringLiteral("Range"));
+    m_ranges->setAccessibleName(tr("Range"));
     m_ranges->selectSegmentWithTag(static_cast<int>(m_range));
     connect(m_ranges, &SegmentedControl::action, this, &HistoryPage::chooseRange);
 
@@ -137,7 +137,7 @@ void HistoryPage::makeSampleHead(QVBoxLayout& column)
 
 void HistoryPage::makeFoot(QVBoxLayout& column)
 {
-    m_quantities->setAccessibleName(QStringLiteral("Quantity"));
+    m_quantities->setAccessibleName(tr("Quantity"));
     m_quantities->selectSegmentWithTag(static_cast<int>(m_quantity));
     connect(m_quantities, &SegmentedControl::action, this, [this] {
         m_quantity = static_cast<SampleQuantity>(m_quantities->selectedTag());
@@ -154,9 +154,9 @@ void HistoryPage::makeFoot(QVBoxLayout& column)
 
 void HistoryPage::makeNotice(QVBoxLayout& column)
 {
-    m_notice->setText(QStringLiteral("Recording is off, so nothing is added."));
-    m_toSettings->setText(QStringLiteral("Settings"));
-    m_toSettings->setAccessibleName(QStringLiteral("Settings of recording"));
+    m_notice->setText(tr("Recording is off, so nothing is added."));
+    m_toSettings->setText(tr("Settings"));
+    m_toSettings->setAccessibleName(tr("Settings of recording"));
     connect(m_toSettings, &LinkButton::clicked, this, &HistoryPage::settingsWanted);
     QHBoxLayout* row = addRow(column);
     row->addWidget(m_notice);
@@ -224,9 +224,8 @@ AxisSpan HistoryPage::shownMoments() const
 
 void HistoryPage::showSamples()
 {
-    const QString quantity =
-        m_quantity == SampleQuantity::Charge ? QStringLiteral("Charge, ") : QStringLiteral("Power, ");
-    m_sampleHeading->setText(quantity + historyRangeText(m_range));
+    const QString heading = m_quantity == SampleQuantity::Charge ? tr("Charge, %1") : tr("Power, %1");
+    m_sampleHeading->setText(heading.arg(historyRangeText(m_range)));
     m_sampleChart->setAccessibleName(m_sampleHeading->text());
     m_sampleChart->setContent(sampleChart(m_samples, m_quantity, shownMoments(), m_ownSince));
     m_tableButton->setEnabled(!m_samples.empty());
@@ -239,12 +238,12 @@ void HistoryPage::showLegend()
     // By what is seen: zoomed in far enough, longer ranges are shaded too.
     const bool isShaded = m_sampleChart->seen().length() <= m_sampleChart->content().shadedUpTo;
     const QString unit = m_quantity == SampleQuantity::Charge ? QStringLiteral("%") : QStringLiteral("W");
-    QString legend = isShaded ? QStringLiteral("charging shaded") : QString();
-    legend = joined(legend, besideEachOther(), QStringLiteral("asleep left open"));
+    QString legend = isShaded ? tr("charging shaded") : QString();
+    legend = joined(legend, besideEachOther(), tr("asleep left open"));
     if (!m_samples.empty() && m_samples.front().moment < m_ownSince)
-        legend = joined(QStringLiteral("pale from UPower"), besideEachOther(), legend);
+        legend = joined(tr("pale from UPower"), besideEachOther(), legend);
     if (isThinned(m_range))
-        legend = joined(QStringLiteral("older values are means"), besideEachOther(), legend);
+        legend = joined(tr("older values are means"), besideEachOther(), legend);
     m_legend->setVisible(hasPoints(m_sampleChart->content()));
     m_legend->setText(joined(unit, besideEachOther(), legend));
 }

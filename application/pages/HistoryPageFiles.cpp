@@ -85,9 +85,8 @@ void HistoryPage::paintPicture(QPainter& painter) const
 
 void HistoryPage::askForPicture()
 {
-    QFileDialog* dialog = saveDialog(this, QStringLiteral("Save Picture"),
-                                     {QStringLiteral("Pictures (*.png)"), QStringLiteral("Drawings (*.svg)")},
-                                     QStringLiteral("png"));
+    QFileDialog* dialog = saveDialog(this, tr("Save Picture"),
+                                     {tr("Pictures (*.png)"), tr("Drawings (*.svg)")}, QStringLiteral("png"));
     connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
         dialog->setDefaultSuffix(filter.contains(QStringLiteral("svg")) ? QStringLiteral("svg")
                                                                         : QStringLiteral("png"));
@@ -98,8 +97,7 @@ void HistoryPage::askForPicture()
 
 void HistoryPage::askForTable()
 {
-    QFileDialog* dialog =
-        saveDialog(this, QStringLiteral("Export"), {QStringLiteral("Tables (*.csv)")}, QStringLiteral("csv"));
+    QFileDialog* dialog = saveDialog(this, tr("Export"), {tr("Tables (*.csv)")}, QStringLiteral("csv"));
     connect(dialog, &QFileDialog::fileSelected, this, &HistoryPage::saveTable);
     dialog->open();
 }
@@ -146,7 +144,7 @@ void HistoryPage::saveTable(const QString& path)
 
 void HistoryPage::tell(const QString& path, const QString& failure)
 {
-    m_told->setText(failure.isEmpty() ? QStringLiteral("Saved") : path + QStringLiteral(": ") + failure);
+    m_told->setText(failure.isEmpty() ? tr("Saved") : path + QStringLiteral(": ") + failure);
 }
 
 } // namespace quindle

@@ -1,5 +1,7 @@
 #include "application/pages/HistoryRange.h"
 
+#include "common/Translation.h"
+
 namespace quindle {
 
 namespace {
@@ -10,8 +12,9 @@ constexpr qint64 rangeDay = 86400;
 
 QStringList historyRangeTitles()
 {
-    return {QStringLiteral("&Day"), QStringLiteral("&Week"), QStringLiteral("&Month"),
-            QStringLiteral("&Year"), QStringLiteral("&All")};
+    return {translated("HistoryRange", "&Day"), translated("HistoryRange", "&Week"),
+            translated("HistoryRange", "&Month"), translated("HistoryRange", "&Year"),
+            translated("HistoryRange", "&All")};
 }
 
 qint64 historyRangeStart(HistoryRange range, qint64 now)
@@ -35,17 +38,17 @@ QString historyRangeText(HistoryRange range)
 {
     switch (range) {
     case HistoryRange::Day:
-        return QStringLiteral("last 24 hours");
+        return translated("HistoryRange", "last 24 hours");
     case HistoryRange::Week:
-        return QStringLiteral("last 7 days");
+        return translated("HistoryRange", "last 7 days");
     case HistoryRange::Month:
-        return QStringLiteral("last 30 days");
+        return translated("HistoryRange", "last 30 days");
     case HistoryRange::Year:
-        return QStringLiteral("last 365 days");
+        return translated("HistoryRange", "last 365 days");
     case HistoryRange::All:
         break;
     }
-    return QStringLiteral("whole history");
+    return translated("HistoryRange", "whole history");
 }
 
 } // namespace quindle

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "common/Translation.h"
 #include "platform/NotificationCenter.h"
 #include "settings/HistorySettings.h"
 #include "widgets/BoundControls.h"
@@ -22,8 +23,13 @@ struct Span
 };
 
 constexpr Span offeredSpans[] = {
-    {0, "For ever"}, {3650, "10 years"}, {1825, "5 years"}, {730, "2 years"},
-    {365, "1 year"}, {90, "90 days"},    {30, "30 days"},
+    {0, QT_TRANSLATE_NOOP("HistorySettings", "For ever")},
+    {3650, QT_TRANSLATE_NOOP("HistorySettings", "10 years")},
+    {1825, QT_TRANSLATE_NOOP("HistorySettings", "5 years")},
+    {730, QT_TRANSLATE_NOOP("HistorySettings", "2 years")},
+    {365, QT_TRANSLATE_NOOP("HistorySettings", "1 year")},
+    {90, QT_TRANSLATE_NOOP("HistorySettings", "90 days")},
+    {30, QT_TRANSLATE_NOOP("HistorySettings", "30 days")},
 };
 
 } // namespace
@@ -37,11 +43,11 @@ HistorySettingsView::HistorySettingsView(UserDefaults& own, DistributedNotificat
     , m_record(new BoundCheckBox(this))
     , m_days(new QComboBox(this))
 {
-    m_record->setText(QStringLiteral("Record charge, po&wer and a daily snapshot"));
-    m_record->setAccessibleName(QStringLiteral("Record charge, power and a daily snapshot"));
-    m_days->setAccessibleName(QStringLiteral("Keep charge and power"));
+    m_record->setText(tr("Record charge, po&wer and a daily snapshot"));
+    m_record->setAccessibleName(tr("Record charge, power and a daily snapshot"));
+    m_days->setAccessibleName(tr("Keep charge and power"));
     for (const Span& span : offeredSpans)
-        m_days->addItem(QLatin1String(span.caption), span.days);
+        m_days->addItem(translated("HistorySettings", span.caption), span.days);
     addRows();
     fitToFont();
     connect(m_record, &BoundCheckBox::switched, this, [this](bool on) {
@@ -63,16 +69,16 @@ void HistorySettingsView::addRows()
         label->setBuddy(control);
         grid->addWidget(label, row, 0, Qt::AlignRight | Qt::AlignTop);
     };
-    caption(0, QStringLiteral("History"), m_record);
+    caption(0, tr("History"), m_record);
     auto* recorded = new QVBoxLayout;
     recorded->addWidget(m_record);
     auto* explanation = new QuietLabel(this);
-    explanation->setText(QStringLiteral("It stays on this computer."));
+    explanation->setText(tr("It stays on this computer."));
     recorded->addWidget(explanation);
     grid->addLayout(recorded, 0, 1);
-    caption(1, QStringLiteral("&Keep"), m_days);
+    caption(1, tr("&Keep"), m_days);
     grid->addWidget(m_days, 1, 1, Qt::AlignLeft | Qt::AlignTop);
-    auto* deleteButton = new QPushButton(QStringLiteral("&Delete History..."), this);
+    auto* deleteButton = new QPushButton(tr("&Delete History..."), this);
     connect(deleteButton, &QPushButton::clicked, this, &HistorySettingsView::askToDelete);
     grid->addWidget(deleteButton, 2, 1, Qt::AlignLeft | Qt::AlignTop);
 }
@@ -88,7 +94,7 @@ void HistorySettingsView::showDays(qint64 days)
     int index = m_days->findData(days);
     // Any number may be stored by hand.
     if (index < 0) {
-        m_days->addItem(QStringLiteral("%1 days").arg(days), days);
+        m_days->addItem(translated("HistorySettings", "%1 days", nullptr, days).arg(days), days);
         index = m_days->count() - 1;
     }
     m_days->setCurrentIndex(index);
@@ -101,13 +107,12 @@ void HistorySettingsView::announceChange()
 
 void HistorySettingsView::askToDelete()
 {
-    auto* question =
-        new QMessageBox(QMessageBox::Warning, QStringLiteral("Delete History"),
-                        QStringLiteral("Delete all snapshots, and all recorded charge and power?"),
-                        QMessageBox::Cancel, this);
+    auto* question = new QMessageBox(QMessageBox::Warning, tr("Delete History"),
+                                     tr("Delete all snapshots, and all recorded charge and power?"),
+                                     QMessageBox::Cancel, this);
     question->setAttribute(Qt::WA_DeleteOnClose);
-    question->setInformativeText(QStringLiteral("This cannot be undone."));
-    const auto* confirm = question->addButton(QStringLiteral("&Delete"), QMessageBox::DestructiveRole);
+    question->setInformativeText(tr("This cannot be undone."));
+    const auto* confirm = question->addButton(tr("&Delete"), QMessageBox::DestructiveRole);
     question->setDefaultButton(QMessageBox::Cancel);
     connect(question, &QMessageBox::buttonClicked, this, [this, confirm](const QAbstractButton* chosen) {
         if (chosen == confirm)

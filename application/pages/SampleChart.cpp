@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "charts/Gaps.h"
+#include "common/Translation.h"
 #include "facts/ValueTexts.h"
 #include "samples/SampleLine.h"
 
@@ -25,14 +26,27 @@ bool isRest(const Sample& before, const Sample& after)
     return rests(before) && rests(after) && std::abs(before.charge - after.charge) < sameCharge;
 }
 
+QString wordOf(SampleState state)
+{
+    switch (state) {
+    case SampleState::Charging:
+        return translated("SampleChart", "charging");
+    case SampleState::Discharging:
+        return translated("SampleChart", "discharging");
+    case SampleState::Full:
+        return translated("SampleChart", "full");
+    case SampleState::Unknown:
+        break;
+    }
+    return {};
+}
+
 QString textOf(const Sample& sample)
 {
     QString text = percentText(sample.charge);
     if (sample.power)
         text += besideEachOther() + wattsText(std::abs(*sample.power));
-    if (sample.state != SampleState::Unknown)
-        text += besideEachOther() + QString::fromLatin1(sampleStateName(sample.state));
-    return text;
+    return joined(text, besideEachOther(), wordOf(sample.state));
 }
 
 bool hasQuantity(const Sample& sample, SampleQuantity quantity)
@@ -44,7 +58,8 @@ bool hasQuantity(const Sample& sample, SampleQuantity quantity)
 ChartSeries seriesOf(const std::vector<Sample>& samples, SampleQuantity quantity, double end)
 {
     ChartSeries series;
-    series.name = quantity == SampleQuantity::Charge ? QStringLiteral("Charge") : QStringLiteral("Power");
+    series.name = quantity == SampleQuantity::Charge ? translated("SampleChart", "Charge")
+                                                     : translated("SampleChart", "Power");
     series.points.reserve(samples.size());
     for (const Sample& sample : samples) {
         const double value = quantity == SampleQuantity::Charge ? sample.charge : std::abs(*sample.power);
@@ -98,7 +113,7 @@ ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quan
     content.moments = moments;
     content.readsTimes = true;
     content.shadedUpTo = daysOfShade * 86400;
-    content.emptyText = QStringLiteral("Nothing was recorded in this time.");
+    content.emptyText = translated("SampleChart", "Nothing was recorded in this time.");
     if (quantity == SampleQuantity::Charge)
         // Always the whole scale, so that two days can be compared.
         content.values = AxisSpan{0, 100};
@@ -118,9 +133,9 @@ ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quan
     const auto before = static_cast<std::size_t>(own - shown.begin());
     content.series.push_back(seriesOf({own, shown.end()}, quantity, moments.to));
     content.readingText = [shown = std::move(shown), first, before](const ChartReading& reading) {
-        return reading.series < first
-                   ? joined(textOf(shown[reading.point]), besideEachOther(), QStringLiteral("from UPower"))
-                   : textOf(shown[before + reading.point]);
+        return reading.series < first ? joined(textOf(shown[reading.point]), besideEachOther(),
+                                               translated("SampleChart", "from UPower"))
+                                      : textOf(shown[before + reading.point]);
     };
     return content;
 }

@@ -18,7 +18,7 @@ SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& 
     , m_history(new HistorySettingsView(own, center, std::move(deleteHistory), &content()))
 {
     setObjectName(QStringLiteral("settingsPage"));
-    setAccessibleName(QStringLiteral("Settings"));
+    setAccessibleName(tr("Settings"));
     // All, so that their captions stand in one column.
     for (PaneView* pane : {qobject_cast<PaneView*>(&general.view()), static_cast<PaneView*>(m_warnings),
                            static_cast<PaneView*>(m_history)}) {

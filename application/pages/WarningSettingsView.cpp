@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
+#include "common/Translation.h"
 #include "platform/NotificationCenter.h"
 #include "platform/PowerManagers.h"
 #include "platform/UserDefaults.h"
@@ -26,11 +27,21 @@ struct LevelCaptions
 
 // In the order of the levels.
 constexpr std::array<LevelCaptions, warningLevels.size()> captions{{
-    {"Battery low", "Percentage for battery low", "Command for battery low"},
-    {"Very low", "Percentage for very low", "Command for very low"},
-    {"Nearly empty", "Percentage for nearly empty", "Command for nearly empty"},
-    {"Full", "Percentage for full", "Command for full"},
-    {"Charge limit", "Percentage for the charge limit", "Command for the charge limit"},
+    {QT_TRANSLATE_NOOP("WarningSettings", "Battery low"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Percentage for battery low"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Command for battery low")},
+    {QT_TRANSLATE_NOOP("WarningSettings", "Very low"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Percentage for very low"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Command for very low")},
+    {QT_TRANSLATE_NOOP("WarningSettings", "Nearly empty"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Percentage for nearly empty"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Command for nearly empty")},
+    {QT_TRANSLATE_NOOP("WarningSettings", "Full"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Percentage for full"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Command for full")},
+    {QT_TRANSLATE_NOOP("WarningSettings", "Charge limit"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Percentage for the charge limit"),
+     QT_TRANSLATE_NOOP("WarningSettings", "Command for the charge limit")},
 }};
 
 struct Choice
@@ -40,14 +51,14 @@ struct Choice
 };
 
 constexpr std::array choices{
-    Choice{WarningsChoice::Automatic, "Unless the desktop warns"},
-    Choice{WarningsChoice::On, "Always"},
-    Choice{WarningsChoice::Off, "Never"},
+    Choice{WarningsChoice::Automatic, QT_TRANSLATE_NOOP("WarningSettings", "Unless the desktop warns")},
+    Choice{WarningsChoice::On, QT_TRANSLATE_NOOP("WarningSettings", "Always")},
+    Choice{WarningsChoice::Off, QT_TRANSLATE_NOOP("WarningSettings", "Never")},
 };
 
 QString warnsItself(const QString& desktop)
 {
-    return QStringLiteral("%1's power manager warns on this desktop.").arg(desktop);
+    return translated("WarningSettings", "%1's power manager warns on this desktop.").arg(desktop);
 }
 
 } // namespace
@@ -61,9 +72,9 @@ WarningSettingsView::WarningSettingsView(UserDefaults& own, DistributedNotificat
     , m_choice(new QComboBox(this))
     , m_explanation(new QuietLabel(this))
 {
-    m_choice->setAccessibleName(QStringLiteral("Warn"));
+    m_choice->setAccessibleName(tr("Warn"));
     for (const Choice& choice : choices)
-        m_choice->addItem(QLatin1String(choice.caption), static_cast<int>(choice.choice));
+        m_choice->addItem(translated("WarningSettings", choice.caption), static_cast<int>(choice.choice));
     m_explanation->setWordWrap(true);
     addRows();
     fitToFont();
@@ -79,7 +90,7 @@ WarningSettingsView::WarningSettingsView(UserDefaults& own, DistributedNotificat
 void WarningSettingsView::addRows()
 {
     auto* grid = new QGridLayout(this);
-    auto* caption = new QLabel(QStringLiteral("Warnings"), this);
+    auto* caption = new QLabel(tr("Warnings"), this);
     caption->setBuddy(m_choice);
     grid->addWidget(caption, 0, 0, Qt::AlignRight | Qt::AlignTop);
     auto* choice = new QVBoxLayout;
@@ -91,7 +102,7 @@ void WarningSettingsView::addRows()
     levels->setVerticalSpacing(fontMetrics().height() / 3);
     levels->setHorizontalSpacing(fontMetrics().height() / 2);
     auto* commands = new QuietLabel(this);
-    commands->setText(QStringLiteral("Command to run then"));
+    commands->setText(tr("Command to run then"));
     levels->addWidget(commands, 0, 2);
     for (const WarningLevel level : warningLevels)
         addLevel(level, *levels);
@@ -103,11 +114,11 @@ void WarningSettingsView::addLevel(WarningLevel level, QGridLayout& grid)
     const LevelCaptions& texts = captions[indexOf(level)];
     Row& row = m_rows[indexOf(level)];
     row = {.isOn = new BoundCheckBox(this), .percent = percentOf(level), .command = new BoundLineEdit(this)};
-    row.isOn->setText(QLatin1String(texts.caption));
-    row.percent->setAccessibleName(QLatin1String(texts.percent));
-    row.command->setAccessibleName(QLatin1String(texts.command));
+    row.isOn->setText(translated("WarningSettings", texts.caption));
+    row.percent->setAccessibleName(translated("WarningSettings", texts.percent));
+    row.command->setAccessibleName(translated("WarningSettings", texts.command));
     row.command->setToolTip(
-        QStringLiteral("A program to run then, with the level, the percentage and the state as arguments"));
+        tr("A program to run then, with the level, the percentage and the state as arguments"));
     const int line = static_cast<int>(indexOf(level)) + 1;
     grid.addWidget(row.isOn, line, 0);
     grid.addWidget(row.percent, line, 1);
@@ -123,8 +134,8 @@ QSpinBox* WarningSettingsView::percentOf(WarningLevel level)
     // What is being typed is no percentage yet.
     percent->setKeyboardTracking(false);
     if (range.least == 0) {
-        percent->setSpecialValueText(QStringLiteral("Auto"));
-        percent->setToolTip(QStringLiteral("Auto: the limit that the computer reports"));
+        percent->setSpecialValueText(tr("Auto"));
+        percent->setToolTip(tr("Auto: the limit that the computer reports"));
     }
     return percent;
 }
@@ -178,7 +189,7 @@ void WarningSettingsView::showLevels()
 
 void WarningSettingsView::explain(const QString& desktop)
 {
-    m_explanation->setText(desktop.isEmpty() ? QStringLiteral("No power manager warns on this desktop.")
+    m_explanation->setText(desktop.isEmpty() ? tr("No power manager warns on this desktop.")
                                              : warnsItself(desktop));
 }
 

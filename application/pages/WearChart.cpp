@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "common/Translation.h"
 #include "facts/ValueTexts.h"
 #include "records/trend/TrendProjection.h"
 
@@ -25,13 +26,9 @@ using ReadingTexts = std::vector<std::vector<QString>>;
 
 QString textOf(const CapacityPoint& point, double reference)
 {
-    QString text = capacityText(point.fullChargeCapacity) + QStringLiteral(" mAh") + besideEachOther() +
-                   percentText(point.fullChargeCapacity / reference * 100);
-    if (point.cycleCount > 0) {
-        const QString unit = point.cycleCount == 1 ? QStringLiteral(" cycle") : QStringLiteral(" cycles");
-        text += besideEachOther() + countText(point.cycleCount, FactPlace::View) + unit;
-    }
-    return text;
+    const QString text = capacityText(point.fullChargeCapacity) + QStringLiteral(" mAh") + besideEachOther() +
+                         percentText(point.fullChargeCapacity / reference * 100);
+    return joined(text, besideEachOther(), cyclesText(point.cycleCount));
 }
 
 /// The batteries in the order in which they were last seen, so that the newest is the last one.
@@ -49,7 +46,7 @@ std::vector<QString> batteriesOf(const std::vector<CapacityPoint>& points)
 void addBattery(ChartContent& content, ReadingTexts& texts, const std::vector<CapacityPoint>& points)
 {
     ChartSeries series;
-    series.name = QStringLiteral("Battery %1").arg(content.series.size() + 1);
+    series.name = translated("WearChart", "Battery %1").arg(content.series.size() + 1);
     series.ink = ChartInk::Wear;
     std::vector<QString> ownTexts;
     const double reference = trendOf(points)->reference;
@@ -80,9 +77,9 @@ void addBatteries(ChartContent& content, const std::vector<CapacityPoint>& point
 
 void addTrend(ChartContent& content, const TrendEstimate& trend)
 {
-    const QString whole =
-        trend.knowsDesign ? QStringLiteral("Design capacity ") : QStringLiteral("First full charge ");
-    content.lines = {{trend.reference, whole + capacityText(trend.reference)},
+    const QString whole = trend.knowsDesign ? translated("WearChart", "Design capacity %1")
+                                            : translated("WearChart", "First full charge %1");
+    content.lines = {{trend.reference, whole.arg(capacityText(trend.reference))},
                      {trend.reference * 0.8, QStringLiteral("80 %")}};
     if (const auto ahead = projectionOf(trend)) {
         content.projection = ChartProjection{.from = {ahead->from, ahead->start},
@@ -111,9 +108,9 @@ ChartContent wearChart(const std::vector<CapacityPoint>& points, const std::opti
 {
     ChartContent content;
     content.shortest = shortestDays * daySeconds;
-    content.emptyText = QStringLiteral("No snapshots yet: one is saved each day.");
+    content.emptyText = translated("WearChart", "No snapshots yet: one is saved each day.");
     content.tickText = [](double value, int decimals) {
-        return decimals > 0 ? QString::number(value, 'f', decimals) : capacityText(value);
+        return decimals > 0 ? withDecimalSign(QString::number(value, 'f', decimals)) : capacityText(value);
     };
     std::vector<CapacityPoint> known;
     std::copy_if(points.begin(), points.end(), std::back_inserter(known), [](const CapacityPoint& point) {

@@ -4,6 +4,7 @@
 
 #include "common/FileContents.h"
 #include "common/Paths.h"
+#include "common/Translation.h"
 #include "plist/KeyedArchive.h"
 
 namespace quindle {
@@ -12,11 +13,24 @@ namespace {
 
 constexpr qint64 largestImport = qint64{1024} * 1024 * 1024; // bytes
 
-QString countedText(qsizetype count, const QString& done)
+/// What was done with how many.
+struct DoneWords
 {
-    return QStringLiteral("%1 %2 %3")
-        .arg(count)
-        .arg(count == 1 ? QStringLiteral("snapshot") : QStringLiteral("snapshots"), done);
+    const char* one;
+    const char* many;
+};
+
+constexpr DoneWords imported{QT_TRANSLATE_NOOP("Snapshots", "1 snapshot imported"),
+                             QT_TRANSLATE_N_NOOP("Snapshots", "%1 snapshots imported")};
+constexpr DoneWords deleted{QT_TRANSLATE_NOOP("Snapshots", "1 snapshot deleted"),
+                            QT_TRANSLATE_N_NOOP("Snapshots", "%1 snapshots deleted")};
+constexpr DoneWords restored{QT_TRANSLATE_NOOP("Snapshots", "1 snapshot restored"),
+                             QT_TRANSLATE_N_NOOP("Snapshots", "%1 snapshots restored")};
+
+QString countedText(qsizetype count, const DoneWords& done)
+{
+    return count == 1 ? translated("Snapshots", done.one)
+                      : translated("Snapshots", done.many, nullptr, count).arg(count);
 }
 
 /// Why it failed, else what became of a damaged file, else what was done.
@@ -37,7 +51,7 @@ QString importInto(SnapshotArchive& archive, const QString& path)
         return path + QStringLiteral(": ") + others.fault;
     qsizetype added = 0;
     const StoreOutcome outcome = archive.merge(others.records, &added);
-    return lineOf(outcome, countedText(added, QStringLiteral("imported")));
+    return lineOf(outcome, countedText(added, imported));
 }
 
 } // namespace
@@ -62,14 +76,14 @@ void SavedSnapshots::load()
 void SavedSnapshots::add(const QVariantMap& record)
 {
     run([record](SnapshotArchive& archive) {
-        return lineOf(archive.append(record), countedText(1, QStringLiteral("saved")));
+        return lineOf(archive.append(record), translated("Snapshots", "1 snapshot saved"));
     });
 }
 
 void SavedSnapshots::remove(const QVariantList& records)
 {
     run([records](SnapshotArchive& archive) {
-        return lineOf(archive.remove(records), countedText(records.size(), QStringLiteral("deleted")));
+        return lineOf(archive.remove(records), countedText(records.size(), deleted));
     });
 }
 
@@ -78,7 +92,7 @@ void SavedSnapshots::merge(const QVariantList& records)
     run([records](SnapshotArchive& archive) {
         qsizetype added = 0;
         const StoreOutcome outcome = archive.merge(records, &added);
-        return lineOf(outcome, countedText(added, QStringLiteral("restored")));
+        return lineOf(outcome, countedText(added, restored));
     });
 }
 
@@ -90,14 +104,14 @@ void SavedSnapshots::importFrom(const QString& path)
 void SavedSnapshots::removeAll()
 {
     run([](SnapshotArchive& archive) {
-        return lineOf(archive.removeAll(), QStringLiteral("All snapshots deleted"));
+        return lineOf(archive.removeAll(), translated("Snapshots", "All snapshots deleted"));
     });
 }
 
 void SavedSnapshots::run(const Change& change)
 {
     if (m_path.isEmpty()) {
-        Q_EMIT told(QStringLiteral("There is no folder for snapshots: the user has no home folder"));
+        Q_EMIT told(translated("Snapshots", "There is no folder for snapshots: the user has no home folder"));
         return;
     }
     // Counted, since the next change may be asked for before this one is done.

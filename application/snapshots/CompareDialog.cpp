@@ -28,7 +28,7 @@ void addCell(QGridLayout& grid, int row, int column, const QString& text, bool i
 CompareDialog::CompareDialog(const QVariantMap& one, const QVariantMap& other, QWidget* parent)
     : QDialog(parent)
 {
-    setWindowTitle(QStringLiteral("Compare Snapshots"));
+    setWindowTitle(tr("Compare Snapshots"));
     const int line = fontMetrics().height();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(line, line, line, line);

@@ -7,6 +7,7 @@
 #include <QSaveFile>
 
 #include "common/Paths.h"
+#include "common/Translation.h"
 #include "records/SnapshotExport.h"
 
 namespace quindle {
@@ -31,9 +32,9 @@ QString pathOf(const QString& selected)
 
 void askForArchive(QWidget* parent, const std::function<void(const QString& path)>& chosen)
 {
-    auto* dialog =
-        dialogFor(parent, QStringLiteral("Import Snapshots"),
-                  {QStringLiteral("Archives of snapshots (*.qndarchive)"), QStringLiteral("All files (*)")});
+    auto* dialog = dialogFor(parent, translated("SnapshotFiles", "Import Snapshots"),
+                             {translated("SnapshotFiles", "Archives of snapshots (*.qndarchive)"),
+                              translated("SnapshotFiles", "All files (*)")});
     dialog->setFileMode(QFileDialog::ExistingFile);
     QObject::connect(dialog, &QFileDialog::fileSelected, parent,
                      [chosen](const QString& path) { chosen(pathOf(path)); });
@@ -43,14 +44,15 @@ void askForArchive(QWidget* parent, const std::function<void(const QString& path
 void askForExportFile(QWidget* parent,
                       const std::function<void(const QString& path, bool withSerialNumbers)>& chosen)
 {
-    auto* dialog = dialogFor(parent, QStringLiteral("Export Snapshots"),
-                             {QStringLiteral("Table (*.csv)"), QStringLiteral("JSON (*.json)")});
+    auto* dialog = dialogFor(
+        parent, translated("SnapshotFiles", "Export Snapshots"),
+        {translated("SnapshotFiles", "Table (*.csv)"), translated("SnapshotFiles", "JSON (*.json)")});
     // The toolkit's own, which has room for one more choice.
     dialog->setOption(QFileDialog::DontUseNativeDialog);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QStringLiteral("csv"));
     dialog->selectFile(QStringLiteral("snapshots.csv"));
-    auto* withSerials = new QCheckBox(QStringLiteral("With serial &numbers"), dialog);
+    auto* withSerials = new QCheckBox(translated("SnapshotFiles", "With serial &numbers"), dialog);
     if (auto* grid = qobject_cast<QGridLayout*>(dialog->layout()))
         grid->addWidget(withSerials, grid->rowCount(), 0, 1, grid->columnCount());
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {

@@ -7,6 +7,7 @@
 
 #include "common/NumberConversion.h"
 #include "common/NumberTexts.h"
+#include "common/Translation.h"
 #include "facts/ValueTexts.h"
 
 namespace quindle {
@@ -52,20 +53,23 @@ ComparedRow comparedHealth(std::optional<double> older, std::optional<double> ne
     const auto text = [](std::optional<double> health) {
         return health ? percentText(*health) : missingValueText();
     };
-    ComparedRow row{QStringLiteral("Health"), text(older), text(newer), {}};
+    ComparedRow row{translated("Snapshots", "Health"), text(older), text(newer), {}};
     if (older && newer && row.older != row.newer)
-        row.difference =
-            signedText(fixedText(*newer - *older, 1) + QStringLiteral(" points"), *newer - *older);
+        row.difference = signedText(translated("Snapshots", "%1 points", "of health, with one decimal")
+                                        .arg(figureText(*newer - *older)),
+                                    *newer - *older);
     return row;
 }
 
 ComparedRow comparedDates(const QDateTime& older, const QDateTime& newer)
 {
-    ComparedRow row{QStringLiteral("Date"), snapshotDateText(older), snapshotDateText(newer), {}};
+    ComparedRow row{translated("Snapshots", "Date"), snapshotDateText(older), snapshotDateText(newer), {}};
     const qint64 days = older.isValid() && newer.isValid() ? older.daysTo(newer) : 0;
     if (days > 0)
         row.difference =
-            countText(days, FactPlace::View) + (days == 1 ? QStringLiteral(" day") : QStringLiteral(" days"));
+            days == 1
+                ? translated("Snapshots", "1 day")
+                : translated("Snapshots", "%1 days", nullptr, days).arg(countText(days, FactPlace::View));
     return row;
 }
 
@@ -123,13 +127,13 @@ std::vector<ComparedRow> comparedSnapshots(const QVariantMap& one, const QVarian
     return {
         comparedDates(before.date, after.date),
         comparedHealth(before.health, after.health),
-        comparedCounts(QStringLiteral("Full charge"), before.fullCharge, after.fullCharge,
+        comparedCounts(translated("Snapshots", "Full charge"), before.fullCharge, after.fullCharge,
                        QStringLiteral(" mAh")),
-        comparedCounts(QStringLiteral("Design capacity"), numberOf(older, "Battery.DesignCapacity"),
+        comparedCounts(translated("Snapshots", "Design capacity"), numberOf(older, "Battery.DesignCapacity"),
                        numberOf(newer, "Battery.DesignCapacity"), QStringLiteral(" mAh")),
-        comparedCounts(QStringLiteral("Cycles"), before.cycles, after.cycles, {}),
-        comparedTexts(QStringLiteral("Battery"), older, newer, "Battery.DeviceName"),
-        comparedTexts(QStringLiteral("Computer"), older, newer, "Mac.Model"),
+        comparedCounts(translated("Snapshots", "Cycles"), before.cycles, after.cycles, {}),
+        comparedTexts(translated("Snapshots", "Battery"), older, newer, "Battery.DeviceName"),
+        comparedTexts(translated("Snapshots", "Computer"), older, newer, "Mac.Model"),
     };
 }
 

@@ -3,6 +3,7 @@
 #include <QPixmap>
 
 #include "application/snapshots/SnapshotRows.h"
+#include "common/Translation.h"
 #include "facts/ValueTexts.h"
 
 namespace quindle {
@@ -90,8 +91,11 @@ QVariant SnapshotTable::headerData(int section, Qt::Orientation orientation, int
         return int(Qt::DescendingOrder);
     if (role != Qt::DisplayRole)
         return {};
-    constexpr const char* captions[snapshotColumns] = {"Date", "Health", "Full charge", "Cycles", "Computer"};
-    return QLatin1String(captions[section]);
+    constexpr const char* captions[snapshotColumns] = {
+        QT_TRANSLATE_NOOP("Snapshots", "Date"), QT_TRANSLATE_NOOP("Snapshots", "Health"),
+        QT_TRANSLATE_NOOP("Snapshots", "Full charge"), QT_TRANSLATE_NOOP("Snapshots", "Cycles"),
+        QT_TRANSLATE_NOOP("Snapshots", "Computer")};
+    return translated("Snapshots", captions[section]);
 }
 
 void SnapshotTable::sort(int column, Qt::SortOrder order)

@@ -12,7 +12,7 @@ SnapshotView::SnapshotView(QWidget* parent)
     : QTableView(parent)
     , m_table(new SnapshotTable(this))
 {
-    setAccessibleName(QStringLiteral("Snapshots"));
+    setAccessibleName(tr("Snapshots"));
     setHorizontalHeader(new SortHeader(this));
     setModel(m_table);
     setSelectionBehavior(QAbstractItemView::SelectRows);

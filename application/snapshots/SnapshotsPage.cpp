@@ -12,6 +12,7 @@
 #include "application/snapshots/LoadingBar.h"
 #include "application/snapshots/SnapshotFiles.h"
 #include "application/snapshots/SnapshotView.h"
+#include "common/Translation.h"
 #include "facts/ValueTexts.h"
 #include "widgets/LinkButton.h"
 #include "widgets/QuietLabel.h"
@@ -23,8 +24,9 @@ namespace {
 QString countText(qsizetype count)
 {
     if (count == 1)
-        return QStringLiteral("1 snapshot");
-    return groupedText(count, groupSeparator(FactPlace::View)) + QStringLiteral(" snapshots");
+        return translated("Snapshots", "1 snapshot");
+    return translated("Snapshots", "%1 snapshots", nullptr, count)
+        .arg(groupedText(count, groupSeparator(FactPlace::View)));
 }
 
 } // namespace
@@ -35,23 +37,23 @@ SnapshotsPage::SnapshotsPage(SavedSnapshots& snapshots, MakeSnapshot makeSnapsho
     , m_makeSnapshot(std::move(makeSnapshot))
     , m_view(new SnapshotView(this))
     , m_count(new QuietLabel(this))
-    , m_nothing(new QLabel(QStringLiteral("No snapshots yet"), this))
+    , m_nothing(new QLabel(tr("No snapshots yet"), this))
     , m_told(new QuietLabel(this))
     , m_undo(new LinkButton(this))
-    , m_progress(new LoadingBar(QStringLiteral("Reading the snapshots"), this))
-    , m_save(button(QStringLiteral("&Save Now"), &SnapshotsPage::saveNow))
-    , m_compare(button(QStringLiteral("&Compare"), &SnapshotsPage::compare))
-    , m_delete(button(QStringLiteral("&Delete"), &SnapshotsPage::deleteSelected))
-    , m_import(button(QStringLiteral("&Import..."), &SnapshotsPage::askForImport))
-    , m_export(button(QStringLiteral("&Export..."), &SnapshotsPage::askForExport))
+    , m_progress(new LoadingBar(tr("Reading the snapshots"), this))
+    , m_save(button(tr("&Save Now"), &SnapshotsPage::saveNow))
+    , m_compare(button(tr("&Compare"), &SnapshotsPage::compare))
+    , m_delete(button(tr("&Delete"), &SnapshotsPage::deleteSelected))
+    , m_import(button(tr("&Import..."), &SnapshotsPage::askForImport))
+    , m_export(button(tr("&Export..."), &SnapshotsPage::askForExport))
 {
     setObjectName(QStringLiteral("snapshotsPage"));
-    setAccessibleName(QStringLiteral("Snapshots"));
+    setAccessibleName(tr("Snapshots"));
     m_nothing->setAlignment(Qt::AlignCenter);
-    m_undo->setText(QStringLiteral("&Undo"));
-    m_undo->setAccessibleName(QStringLiteral("Undo deleting"));
+    m_undo->setText(tr("&Undo"));
+    m_undo->setAccessibleName(tr("Undo deleting"));
     m_undo->hide();
-    m_compare->setToolTip(QStringLiteral("Two snapshots that are selected, beside each other"));
+    m_compare->setToolTip(tr("Two snapshots that are selected, beside each other"));
     layOut();
     connect(new QShortcut(QKeySequence::Delete, m_view), &QShortcut::activated, this,
             &SnapshotsPage::deleteSelected);
@@ -140,7 +142,7 @@ void SnapshotsPage::saveNow()
     if (const auto record = m_makeSnapshot())
         m_snapshots.add(*record);
     else
-        tell(QStringLiteral("There is no battery to save a snapshot of"));
+        tell(tr("There is no battery to save a snapshot of"));
 }
 
 void SnapshotsPage::deleteSelected()
@@ -184,7 +186,7 @@ void SnapshotsPage::askForExport()
 void SnapshotsPage::exportTo(const QString& path, bool withSerialNumbers)
 {
     const QString failure = exportToFile(path, m_snapshots.records(), withSerialNumbers);
-    tell(failure.isEmpty() ? QStringLiteral("Exported") : failure);
+    tell(failure.isEmpty() ? tr("Exported") : failure);
 }
 
 void SnapshotsPage::tell(const QString& line)

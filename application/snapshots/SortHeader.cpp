@@ -34,7 +34,7 @@ SortHeader::SortHeader(QWidget* parent)
     setHighlightSections(false);
     setStretchLastSection(true);
     setSectionsClickable(true);
-    setAccessibleName(QStringLiteral("Sort"));
+    setAccessibleName(tr("Sort"));
     connect(this, &QHeaderView::sortIndicatorChanged, this, &SortHeader::describe);
 }
 
@@ -77,12 +77,11 @@ void SortHeader::describe()
     const auto caption = [this](int section) {
         return model()->headerData(section, orientation(), Qt::DisplayRole).toString();
     };
-    setAccessibleName(QStringLiteral("Sort by ") + caption(m_chosen));
+    setAccessibleName(tr("Sort by %1").arg(caption(m_chosen)));
     setAccessibleDescription(
-        QStringLiteral("Sorted by %1, %2")
-            .arg(caption(sortIndicatorSection()), sortIndicatorOrder() == Qt::AscendingOrder
-                                                      ? QStringLiteral("ascending")
-                                                      : QStringLiteral("descending")));
+        tr("Sorted by %1, %2")
+            .arg(caption(sortIndicatorSection()),
+                 sortIndicatorOrder() == Qt::AscendingOrder ? tr("ascending") : tr("descending")));
 }
 
 void SortHeader::focusInEvent(QFocusEvent* event)

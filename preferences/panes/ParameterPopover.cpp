@@ -10,6 +10,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "common/Translation.h"
 #include "facts/ValueTexts.h"
 #include "preferences/panes/PlaceholderTable.h"
 #include "preferences/panes/StatusBarTitle.h"
@@ -64,7 +65,8 @@ ParameterPopover::ParameterPopover(const StatusBarTitle& title, QLineEdit& targe
     m_rows.setAccessibleName(tr("Parameters of the menu bar text"));
     setUpRows(m_rows);
     for (const Placeholder& placeholder : placeholderTable())
-        m_rows.addTopLevelItem(new QTreeWidgetItem({leftToRight(placeholder.text), placeholder.meaning}));
+        m_rows.addTopLevelItem(new QTreeWidgetItem(
+            {leftToRight(placeholder.text), translated("Placeholders", placeholder.meaning)}));
     m_rows.setCurrentItem(m_rows.topLevelItem(0));
     m_rows.installEventFilter(this);
     connect(&m_rows, &QTreeWidget::itemClicked, this, &ParameterPopover::insertCurrent);
@@ -118,7 +120,8 @@ void ParameterPopover::fillRows()
         item->setText(ValueColumn, leftToRight(value));
         item->setTextAlignment(ValueColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(TextColumn, Qt::AccessibleTextRole,
-                      tr("%1, %2, now %3").arg(placeholder.text, placeholder.meaning, value));
+                      tr("%1, %2, now %3")
+                          .arg(placeholder.text, translated("Placeholders", placeholder.meaning), value));
     }
 }
 

@@ -47,13 +47,13 @@ bool knowsCycles(const TitleValues& values)
 const std::vector<Placeholder>& placeholderTable()
 {
     static const std::vector<Placeholder> table{
-        {QStringLiteral("%t"), QStringLiteral("Temperature"), knowsTemperature},
-        {QStringLiteral("%s"), QStringLiteral("Charging or discharging"), isAlwaysKnown},
-        {QStringLiteral("%r"), QStringLiteral("Remaining time"), knowsTime},
-        {QStringLiteral("%p"), QStringLiteral("Charge in percent"), knowsCharge},
-        {QStringLiteral("%w"), QStringLiteral("Power in watts"), knowsPower},
-        {QStringLiteral("%mA"), QStringLiteral("Current in milliamperes"), knowsCurrent},
-        {QStringLiteral("%l"), QStringLiteral("Charge cycles"), knowsCycles},
+        {QStringLiteral("%t"), QT_TRANSLATE_NOOP("Placeholders", "Temperature"), knowsTemperature},
+        {QStringLiteral("%s"), QT_TRANSLATE_NOOP("Placeholders", "Charging or discharging"), isAlwaysKnown},
+        {QStringLiteral("%r"), QT_TRANSLATE_NOOP("Placeholders", "Remaining time"), knowsTime},
+        {QStringLiteral("%p"), QT_TRANSLATE_NOOP("Placeholders", "Charge in percent"), knowsCharge},
+        {QStringLiteral("%w"), QT_TRANSLATE_NOOP("Placeholders", "Power in watts"), knowsPower},
+        {QStringLiteral("%mA"), QT_TRANSLATE_NOOP("Placeholders", "Current in milliamperes"), knowsCurrent},
+        {QStringLiteral("%l"), QT_TRANSLATE_NOOP("Placeholders", "Charge cycles"), knowsCycles},
     };
     return table;
 }

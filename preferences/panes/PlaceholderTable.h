@@ -11,8 +11,8 @@ struct TitleValues;
 /// One placeholder of the title template, as users read of it.
 struct Placeholder
 {
-    QString text;    ///< "%p"
-    QString meaning; ///< what it stands for, with its unit
+    QString text;        ///< "%p"
+    const char* meaning; ///< what it stands for, with its unit; marked for translators in "Placeholders"
     bool (*isKnown)(const TitleValues&);
 };
 

@@ -7,6 +7,7 @@
 
 #include "common/FatalError.h"
 #include "common/FileContents.h"
+#include "common/Translation.h"
 #include "platform/Bundle.h"
 #include "preferences/panes/UpdateView.h"
 
@@ -52,7 +53,7 @@ QString UpdatePreferencesController::preferencesIdentifier() const
 
 QString UpdatePreferencesController::preferencesTitle() const
 {
-    return QStringLiteral("Update");
+    return translated("Preferences", "Update", "title of the pane");
 }
 
 QIcon UpdatePreferencesController::preferencesIcon() const

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 
+#include "common/Translation.h"
 #include "ui_UpdatePreferencesController.h"
 
 namespace quindle {
@@ -43,7 +44,7 @@ QString versionText(const std::optional<QVariantMap>& info)
     const QString version = values.value(QStringLiteral("CFBundleShortVersionString")).toString();
     const QString build = values.value(QStringLiteral("CFBundleVersion")).toString();
     if (version.isEmpty() && build.isEmpty())
-        return QStringLiteral("Unknown");
+        return translated("Preferences", "Unknown", "the version");
     if (version.isEmpty() || build.isEmpty() || version == build)
         return version.isEmpty() ? build : version;
     return version + QStringLiteral(" (") + build + QLatin1Char(')');
@@ -53,16 +54,17 @@ QString updateSourceText(const InstallationSource& source)
 {
     switch (source.kind) {
     case InstallationSource::Kind::Package:
-        return QStringLiteral(
-                   "This is the package \"%1\". Newer versions of it are installed with %2, as those "
-                   "of the other packages of this system.")
+        return translated("Preferences",
+                          "This is the package \"%1\". Newer versions of it are installed with %2, as those "
+                          "of the other packages of this system.")
             .arg(source.package, source.manager);
     case InstallationSource::Kind::Build:
-        return QStringLiteral("This copy was built on this computer. Newer source, built again, updates it.");
+        return translated("Preferences",
+                          "This copy was built on this computer. Newer source, built again, updates it.");
     case InstallationSource::Kind::Elsewhere:
         break;
     }
-    return QStringLiteral("Newer versions come from where this copy was installed from.");
+    return translated("Preferences", "Newer versions come from where this copy was installed from.");
 }
 
 } // namespace quindle

@@ -48,7 +48,7 @@ PreferencesToolbar::PreferencesToolbar(const ToolbarConfiguration& configuration
     , m_panes(new QActionGroup(this))
 {
     setObjectName(configuration.identifier);
-    setAccessibleName(QStringLiteral("Panes"));
+    setAccessibleName(tr("Panes"));
     setMovable(false);
     setFloatable(false);
     setContextMenuPolicy(configuration.allowsUserCustomization ? Qt::DefaultContextMenu

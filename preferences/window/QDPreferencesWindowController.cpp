@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QStyle>
 
+#include "common/Translation.h"
 #include "platform/Workspace.h"
 #include "preferences/window/FrameAutosave.h"
 #include "preferences/window/PaneTransition.h"
@@ -162,7 +163,7 @@ void QDPreferencesWindowController::selectFirstControl()
 void QDPreferencesWindowController::makeWindow()
 {
     m_window = std::make_unique<QDPreferencesWindow>();
-    m_window->setWindowTitle(QStringLiteral("Preferences")); // until a pane is shown
+    m_window->setWindowTitle(translated("Preferences", "Preferences")); // until a pane is shown
     m_window->setMovableByWindowBackground(true);
     m_transition = std::make_unique<PaneTransition>(*m_window);
     m_frameAutosave = std::make_unique<FrameAutosave>(

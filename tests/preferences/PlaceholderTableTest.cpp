@@ -6,6 +6,7 @@
 
 #include "menubar/TitleTemplate.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 
 using namespace quindle;
 
@@ -25,7 +26,7 @@ TEST(PlaceholderTableTest, EachIsReplacedAndHasItsOwnMeaning)
     QStringList meanings;
     QStringList titles;
     for (const Placeholder& placeholder : placeholderTable()) {
-        meanings.append(placeholder.meaning);
+        meanings.append(latin(placeholder.meaning));
         titles.append(titleFromTemplate(placeholder.text, values));
     }
     EXPECT_EQ(titles.join(u' '), QStringLiteral(u"30.0 \u2B06\uFE0E 3:42 66.7 -12.4 -1043 293"));

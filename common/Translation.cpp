@@ -1,0 +1,32 @@
+#include "common/Translation.h"
+
+#include <cstdlib>
+
+#include <QCoreApplication>
+
+namespace quindle {
+
+QString translated(const char* context, const char* text, const char* about)
+{
+    return QCoreApplication::translate(context, text, about);
+}
+
+QString translated(const char* context, const char* text, const char* about, qint64 count)
+{
+    // An int has no room for every number; forms follow the last digits.
+    constexpr qint64 room = 1'000'000'000;
+    const auto form = static_cast<int>(std::abs(count % room));
+    return QCoreApplication::translate(context, text, about, form);
+}
+
+QString decimalSign()
+{
+    return translated("Numbers", ".", "between a whole number and its decimals");
+}
+
+QString withDecimalSign(const QString& number)
+{
+    return QString(number).replace(u'.', decimalSign());
+}
+
+} // namespace quindle

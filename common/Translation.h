@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+/// Texts in the user's language. The program's own are English and stand in the sources; a translation is
+/// looked up where a text is shown, and nowhere else. QT_TRANSLATE_NOOP(context, text) marks a text that is
+/// shown elsewhere.
+namespace quindle {
+
+/// `text` in the language in force; as it is without a translation. `context` groups texts for translators,
+/// `about` tells two equal ones apart.
+QString translated(const char* context, const char* text, const char* about = nullptr);
+
+/// The same in the plural form for `count`. The number itself stands for a %1 in it, since callers write it
+/// differently.
+QString translated(const char* context, const char* text, const char* about, qint64 count);
+
+/// The sign between a whole number and its decimals in the language in force.
+QString decimalSign();
+
+/// `number` with that sign in place of the point.
+QString withDecimalSign(const QString& number);
+
+} // namespace quindle
