@@ -25,7 +25,7 @@ function(quindle_compiles_together name at_a_time)
     if(NOT QUINDLE_FILE_BY_FILE)
         set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${at_a_time})
         # Meant for headers, which a source file looks like here.
-        target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
+        target_compile_options(${name} PRIVATE "$<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>")
     endif()
 endfunction()
 

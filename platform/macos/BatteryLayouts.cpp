@@ -104,11 +104,13 @@ void layOutDesignCapacity(QVariantMap& entry)
         entry.insert(designCapacityKey(), *design);
 }
 
-/// Some gauges' 16 bits are passed on without their sign. No battery gives or takes 32 A.
+/// Some gauges' 16 bits are passed on without their sign, and so are 32. No battery gives or takes 32 A.
 qint64 withSign(qint64 milliamperes)
 {
-    constexpr qint64 range = 1 << 16;
-    return milliamperes >= range / 2 && milliamperes < range ? milliamperes - range : milliamperes;
+    for (const qint64 range : {qint64{1} << 16, qint64{1} << 32})
+        if (milliamperes >= range / 2 && milliamperes < range)
+            return milliamperes - range;
+    return milliamperes;
 }
 
 void layOutCurrents(QVariantMap& entry)
@@ -126,14 +128,22 @@ bool isZero(const QVariantMap& entry, const QString& key)
     return integerAt(entry, key) == 0;
 }
 
+bool isZeroOrMissing(const QVariantMap& entry, const QString& key)
+{
+    return !entry.contains(key) || isZero(entry, key);
+}
+
 } // namespace
 
 bool isGhostBattery(const QVariantMap& entry)
 {
     if (const auto installed = convertToBoolean(entry.value(QStringLiteral("BatteryInstalled"))))
         return !*installed;
-    return isZero(entry, maxCapacityKey()) && isZero(entry, currentCapacityKey()) &&
-           isZero(entry, QStringLiteral("Voltage"));
+    // Without that key, what has no charge, no voltage and no capacity of any kind.
+    const bool hasCapacity = fullChargeCapacity(entry) || capacityAt(entry, designCapacityKey()) ||
+                             capacityAt(batteryData(entry), designCapacityKey());
+    return isZero(entry, maxCapacityKey()) && isZeroOrMissing(entry, currentCapacityKey()) &&
+           isZeroOrMissing(entry, QStringLiteral("Voltage")) && !hasCapacity;
 }
 
 QVariantMap withModelUnits(QVariantMap entry)

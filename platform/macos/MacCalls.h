@@ -14,7 +14,9 @@ namespace quindle {
 
 std::unique_ptr<RegistryCalls> systemRegistry();
 std::unique_ptr<PowerCalls> systemPowerSources();
-std::unique_ptr<DefaultsCalls> standardDefaults();
+
+/// Those of the running bundle, whose identifier `domain` is.
+std::unique_ptr<DefaultsCalls> standardDefaults(const QString& domain);
 
 /// Null for a name that the system refuses.
 std::unique_ptr<DefaultsCalls> suiteDefaults(const QString& name);

@@ -30,10 +30,13 @@ std::unique_ptr<LoginCalls> loginItemOf(MacPlatform::Program program)
     return program == MacPlatform::Program::Helper ? ownLoginItem() : loginItemNamed(helperIdentifier());
 }
 
-/// The helper's own settings are the application's too.
-std::unique_ptr<DefaultsCalls> defaultsOf(MacPlatform::Program program)
+/// The helper's own settings are the application's too, and of whoever runs from no bundle. The system does
+/// not open a program's own domain as a suite.
+std::unique_ptr<DefaultsCalls> defaultsOf(const Bundle& running)
 {
-    return program == MacPlatform::Program::Helper ? standardDefaults() : suiteDefaults(helperIdentifier());
+    const QVariantMap info = running.infoDictionary().value_or(QVariantMap());
+    const bool isHelper = info.value(QStringLiteral("CFBundleIdentifier")) == helperIdentifier();
+    return isHelper ? standardDefaults(helperIdentifier()) : suiteDefaults(helperIdentifier());
 }
 
 } // namespace
@@ -42,7 +45,7 @@ struct MacPlatform::Services
 {
     explicit Services(Program program)
         : loginCalls(loginItemOf(program))
-        , userDefaults(suiteDefaults, defaultsOf(program), helperIdentifier(), homeFolderOfSystem())
+        , userDefaults(suiteDefaults, defaultsOf(*bundle), helperIdentifier(), homeFolderOfSystem())
     {
     }
 

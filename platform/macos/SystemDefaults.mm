@@ -36,10 +36,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<DefaultsCalls> standardDefaults()
+std::unique_ptr<DefaultsCalls> standardDefaults(const QString& domain)
 {
-    return std::make_unique<SystemDefaults>([NSUserDefaults standardUserDefaults],
-                                            [NSBundle mainBundle].bundleIdentifier);
+    return std::make_unique<SystemDefaults>([NSUserDefaults standardUserDefaults], cocoaText(domain));
 }
 
 std::unique_ptr<DefaultsCalls> suiteDefaults(const QString& name)

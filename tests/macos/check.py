@@ -2,6 +2,7 @@
 
 import base64
 import hashlib
+import json
 import os
 import re
 import shutil
@@ -15,8 +16,6 @@ from pathlib import Path
 import compare_declarations
 
 SOURCE, BUILD = (Path(argument) for argument in sys.argv[1:3])
-sys.path.insert(0, str(SOURCE / "tests/layering"))
-import check_layers  # noqa: E402
 PACKAGES = BUILD / "packages"
 DECLARATIONS = SOURCE / "tests/macos/declarations"
 
@@ -35,7 +34,7 @@ TYPES = ("@nativescript/macos-node-api@0.4.0",
 PROCESSORS = {"arm64": "aarch64", "x86_64": "x86_64"}
 PROGRAMS = {"quindle-helper": "windows/HelperMain_macos.cpp", "quindle": "application/Main_macos.cpp",
             "quindle-inspect": "inspect/main.cpp"}
-FILES_AT_A_TIME = 12  # as the build has it
+FILES_AT_A_TIME = 12
 
 INCLUDE = Path("/usr/include") / os.uname().machine.replace("aarch64", "aarch64-linux-gnu").replace(
     "x86_64", "x86_64-linux-gnu")
@@ -123,19 +122,48 @@ def unpacked(package):
 # What is made of the sources before they are compiled.
 
 
-def is_of_linux(place, allowed):
-    return any(room.split("/")[:2] == ["platform", "linux"] for room in (place, *allowed))
+def toolchain(folder):
+    """A file that lets CMake take this computer for a Mac, with stand-ins for what its Qt would look for there."""
+    modules = folder / "modules"
+    modules.mkdir(parents=True)
+    for name in ("WrapOpenGL", "WrapVulkanHeaders", "XKB"):
+        (modules / f"Find{name}.cmake").write_text(f"add_library({name}::{name} INTERFACE IMPORTED)\nset({name}_FOUND ON)\n", encoding="utf-8")
+    tools = {"CMAKE_CXX_COMPILER": "clang++-14", "CMAKE_OBJCXX_COMPILER": "clang++-14", "CMAKE_OTOOL": "llvm-otool-14",
+             "CMAKE_INSTALL_NAME_TOOL": "llvm-install-name-tool-14"}
+    values = {"CMAKE_SYSTEM_NAME": "Darwin", "CMAKE_SYSTEM_PROCESSOR": "arm64", "CMAKE_CXX_COMPILER_WORKS": 1,
+              "CMAKE_OBJCXX_COMPILER_WORKS": 1, "CMAKE_TRY_COMPILE_TARGET_TYPE": "STATIC_LIBRARY", "CMAKE_MODULE_PATH": modules,
+              "CMAKE_LIBRARY_ARCHITECTURE": INCLUDE.name, "CMAKE_PREFIX_PATH": "/usr",
+              **{name: shutil.which(tool) for name, tool in tools.items()}}
+    path = folder / "toolchain.cmake"
+    path.write_text("".join(f"set({name} {value})\n" for name, value in values.items())
+                    + "list(APPEND CMAKE_FIND_LIBRARY_SUFFIXES .so)\n", encoding="utf-8")
+    return path
 
 
-def read_places():
-    """(rooms that a Mac has, files in them that it has not): what is or may use a room of Linux is of Linux alone."""
-    rules = check_layers.read_rules(SOURCE / "tests/layering/layers.txt")
-    linux = {place for place, allowed in rules.items() if is_of_linux(place, allowed)}
-    rooms = [place for place in rules if place not in linux and (SOURCE / place).is_dir()]
-    return rooms, {place for place in linux if (SOURCE / place).is_file()}
+def configured_build(folder):
+    """Lists of the files that the build on a Mac compiles together, the tests' aside, which are configured too."""
+    shutil.rmtree(folder, ignore_errors=True)
+    run(["cmake", "-S", SOURCE, "-B", folder / "build", "-G", "Ninja", f"-DCMAKE_TOOLCHAIN_FILE={toolchain(folder)}",
+         "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON",
+         f"-DQUINDLE_TESTS={'ON' if Path('/usr/include/gtest').is_dir() else 'OFF'}"], "the build does not configure for a Mac")
+    unknown = set(re.findall(r"-l(quindle_\w+)", (folder / "build/build.ninja").read_text(encoding="utf-8")))
+    if unknown:
+        raise Failure(f"the build for a Mac links what it does not make: {', '.join(sorted(unknown))}")
+    return files_of(json.loads((folder / "build/compile_commands.json").read_text(encoding="utf-8")))
 
 
-ROOMS, LINUX_FILES = read_places()
+def files_of(commands):
+    joined, alone = [], []
+    for path in (Path(command["file"]) for command in commands):
+        if "Unity" in path.parts:
+            joined.append([Path(file) for file in re.findall(r'#include "([^"]+)"', path.read_text(encoding="utf-8"))])
+        elif path.is_relative_to(SOURCE) and not path.is_relative_to(BUILD):
+            alone.append(path)
+    objective = [path for path in alone if path.suffix == ".mm"]
+    joined += [[path] for path in alone if path.suffix != ".mm"]
+    # Newer versions of CMake join these too.
+    joined += [objective[start:start + FILES_AT_A_TIME] for start in range(0, len(objective), FILES_AT_A_TIME)]
+    return [files for files in joined if not files[0].is_relative_to(SOURCE / "tests")]
 
 
 def project_warnings():
@@ -147,48 +175,34 @@ def project_warnings():
     return [*found.group(1).split(), "-Werror"]
 
 
-def sources_of(room):
-    files = [path for suffix in ("cpp", "mm") for path in sorted((SOURCE / room).glob(f"*.{suffix}"))]
-    others = LINUX_FILES | set(PROGRAMS.values())
-    return [path for path in files if path.relative_to(SOURCE).as_posix() not in others]
-
-
-def generate(folder):
+def generate(folder, rooms):
     """What moc and uic make, and files that include several sources: most time goes into reading headers."""
     folder.mkdir(parents=True, exist_ok=True)
     tools = Path(run(["qmake6", "-query", "QT_INSTALL_LIBEXECS"], "there is no Qt 6").strip())
     commands = []
-    for room in ROOMS:
-        for header in (SOURCE / room).glob("*.h"):
+    for room in rooms:
+        for header in room.glob("*.h"):
             if "Q_OBJECT" in header.read_text(encoding="utf-8"):
-                commands.append([tools / "moc", f"-I{SOURCE}", "-p", room, header, "-o", folder / f"moc_{header.stem}.cpp"])
-        for form in (SOURCE / room).glob("*.ui"):
+                commands.append([tools / "moc", f"-I{SOURCE}", "-p", room.relative_to(SOURCE), header, "-o", folder / f"moc_{header.stem}.cpp"])
+        for form in room.glob("*.ui"):
             commands.append([tools / "uic", form, "-o", folder / f"ui_{form.stem}.h"])
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         list(pool.map(lambda command: run(command, f"{command[0].name} fails"), commands))
 
 
-def joined_files(room):
-    """The files of a room as the build joins them: joined otherwise, one's names may shadow another's."""
-    rest = sources_of(room)
-    for target in re.findall(r"(?:quindle_library|add_executable)\(([^)]*)\)", (SOURCE / room / "CMakeLists.txt").read_text()):
-        listed = [path for name in target.split() for path in rest if path.name == name]
-        rest = [path for path in rest if path not in listed]
-        for suffix in (".cpp", ".mm"):
-            files = [path for path in listed if path.suffix == suffix]
-            yield from (files[start:start + FILES_AT_A_TIME] for start in range(0, len(files), FILES_AT_A_TIME))
-    yield from ([path] for path in rest)
-
-
-def units(folder):
-    """(name, path) of what is compiled: the files of a room together, entry points by themselves."""
-    for room in ROOMS:
-        for number, files in enumerate(joined_files(room)):
-            path = folder / f"unit_{room.replace('/', '_')}_{number}{files[0].suffix}"
-            path.write_text("".join(f'#include "{file}"\n' for file in files), encoding="utf-8")
+def units(folder, configured):
+    """(name, path) of what is compiled: what the build joins, entry points by themselves."""
+    entries = [SOURCE / name for name in PROGRAMS.values()]
+    for number, files in enumerate(configured):
+        others = [file for file in files if file not in entries]
+        if others:
+            path = folder / f"unit_{number}_{others[0].parent.name}{others[0].suffix}"
+            path.write_text("".join(f'#include "{file}"\n' for file in others), encoding="utf-8")
             yield path.name, path
-    for name in PROGRAMS.values():
-        yield name.replace("/", "_"), SOURCE / name
+    for path in entries:
+        if not any(path in files for files in configured):
+            raise Failure(f"{path}: the build for a Mac does not compile it")
+        yield path.relative_to(SOURCE).as_posix().replace("/", "_"), path
 
 
 def compile_command(processor, libraries, generated):
@@ -334,14 +348,15 @@ def check():
     check_that_mistakes_are_found(types)
     generated = BUILD / "generated"
     shutil.rmtree(generated, ignore_errors=True)
-    generate(generated)
+    configured = configured_build(BUILD / "configured")
+    generate(generated, {file.parent for files in configured for file in files})
     system = generated / "system"
     system.mkdir()
     # Of this computer's headers these alone: the others are of another system.
     (system / "libxml").symlink_to("/usr/include/libxml2/libxml")
     (system / "unicode").symlink_to("/usr/include/unicode")
     (system / "sqlite3.h").symlink_to("/usr/include/sqlite3.h")
-    all_units = list(units(generated))
+    all_units = list(units(generated, configured))
     names = write_stubs(BUILD / "stubs")
     for processor in PROCESSORS:
         build(processor, libraries, generated, all_units, names)

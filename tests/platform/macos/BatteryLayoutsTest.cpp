@@ -121,19 +121,28 @@ TEST(BatteryLayouts, AGhostIsWhatIsNotInstalledOrAllZero)
     const QVariantMap zeros{
         {u("CurrentCapacity"), qint64{0}}, {u("MaxCapacity"), qint64{0}}, {u("Voltage"), qint64{0}}};
     EXPECT_TRUE(isGhostBattery(zeros));
+    // Some say nothing of voltage and charge.
+    EXPECT_TRUE(isGhostBattery({{u("MaxCapacity"), qint64{0}}}));
     EXPECT_TRUE(isGhostBattery({{u("BatteryInstalled"), qint64{0}}}));
     EXPECT_TRUE(isGhostBattery({{u("BatteryInstalled"), false}, {u("MaxCapacity"), qint64{100}}}));
     // A gauge that cannot be read for a moment, and parts of dumps, are batteries.
     QVariantMap unread = zeros;
     unread.insert(u("BatteryInstalled"), true);
     EXPECT_FALSE(isGhostBattery(unread));
-    for (const char* key : {"CurrentCapacity", "MaxCapacity", "Voltage"}) {
+    for (const char* key : {"CurrentCapacity", "MaxCapacity", "Voltage", "DesignCapacity",
+                            "AppleRawMaxCapacity", "NominalChargeCapacity"}) {
         QVariantMap part = zeros;
-        part.remove(u(key));
-        EXPECT_FALSE(isGhostBattery(part)) << key;
         part.insert(u(key), qint64{1});
         EXPECT_FALSE(isGhostBattery(part)) << key;
+        part.insert(u(key), u("none"));
+        EXPECT_EQ(isGhostBattery(part), !zeros.contains(u(key))) << key;
     }
+    QVariantMap part = zeros;
+    part.insert(u("BatteryData"), QVariantMap{{u("DesignCapacity"), qint64{4563}}});
+    EXPECT_FALSE(isGhostBattery(part));
+    part = zeros;
+    part.remove(u("MaxCapacity"));
+    EXPECT_FALSE(isGhostBattery(part));
     EXPECT_FALSE(isGhostBattery({}));
     EXPECT_FALSE(isGhostBattery({{u("BatteryInstalled"), u("No")}}));
 }
@@ -170,6 +179,91 @@ TEST(BatteryLayouts, WhereTheFullChargeIsKept)
     EXPECT_EQ(full(), QVariant(qint64{1000}));
     entry.insert(u("BatteryData"), u("no dictionary"));
     EXPECT_EQ(full(), QVariant(qint64{100}));
+}
+
+/// Entries as other Macs may have them, and what a person reads off.
+struct EntryRow
+{
+    const char* mac;
+    QVariantMap entry;
+    Figure charge;
+    Figure full;
+    Figure design;
+};
+
+TEST(BatteryLayouts, OtherMacs)
+{
+    const auto n = [](qint64 number) { return QVariant(number); };
+    const EntryRow rows[] = {
+        {"old Intel, which repeats itself in a dictionary",
+         {{u("CurrentCapacity"), n(3100)},
+          {u("MaxCapacity"), n(4200)},
+          {u("DesignCapacity"), n(5100)},
+          {u("LegacyBatteryInfo"), QVariantMap{{u("Capacity"), n(4200)}, {u("Current"), n(3100)}}}},
+         3100,
+         4200,
+         5100},
+        {"late Intel, whose gauge agrees",
+         {{u("CurrentCapacity"), n(5000)},
+          {u("MaxCapacity"), n(5500)},
+          {u("AppleRawMaxCapacity"), n(5500)},
+          {u("AppleRawCurrentCapacity"), n(5000)},
+          {u("DesignCapacity"), n(6000)}},
+         5000,
+         5500,
+         6000},
+        {"Apple silicon with all but the gauge's own capacity",
+         {{u("CurrentCapacity"), n(50)},
+          {u("MaxCapacity"), n(100)},
+          {u("AppleRawCurrentCapacity"), n(2400)},
+          {u("NominalChargeCapacity"), n(5000)},
+          {u("DesignCapacity"), n(5200)}},
+         2500,
+         5000,
+         5200},
+        {"everything in the inner dictionary",
+         {{u("CurrentCapacity"), n(7)},
+          {u("MaxCapacity"), n(100)},
+          {u("BatteryData"),
+           QVariantMap{{u("FullChargeCapacity"), n(4000)}, {u("DesignCapacity"), n(4563)}}}},
+         280,
+         4000,
+         4563},
+        {"percentages as reals",
+         {{u("CurrentCapacity"), 50.0}, {u("MaxCapacity"), 100.0}, {u("AppleRawMaxCapacity"), 4000.0}},
+         2000,
+         4000,
+         none},
+        {"empty",
+         {{u("CurrentCapacity"), n(0)}, {u("MaxCapacity"), n(100)}, {u("AppleRawMaxCapacity"), n(4000)}},
+         0,
+         4000,
+         none},
+        {"only inside, and no percentage to lay out",
+         {{u("BatteryData"), QVariantMap{{u("FullChargeCapacity"), n(4000)}, {u("CycleCount"), n(12)}}}},
+         none,
+         none,
+         none},
+        {"without a charge",
+         {{u("MaxCapacity"), n(100)}, {u("AppleRawMaxCapacity"), n(4000)}},
+         none,
+         4000,
+         none},
+        {"capacities beyond any battery",
+         {{u("CurrentCapacity"), n(50)}, {u("MaxCapacity"), n(100)}, {u("AppleRawMaxCapacity"), n(-1)}},
+         50,
+         100,
+         none},
+    };
+    for (const EntryRow& row : rows) {
+        const QVariantMap laidOut = withModelUnits(row.entry);
+        EXPECT_FALSE(isGhostBattery(row.entry)) << row.mac;
+        const Figure figures[] = {row.charge, row.full, row.design};
+        for (std::size_t index = 0; index < std::size(figures); ++index)
+            EXPECT_EQ(laidOut.value(u(keys[index])), valueOf(figures[index]))
+                << row.mac << ' ' << keys[index];
+        EXPECT_FALSE(laidOut.contains(u("CycleCount"))) << row.mac;
+    }
 }
 
 TEST(BatteryLayouts, WithoutAFullChargePercentagesStay)
@@ -244,6 +338,12 @@ TEST(BatteryLayouts, CurrentsHaveTheirSigns)
         {qint64{63466}, qint64{-2070}},
         {qint64{65535}, qint64{-1}},
         {qint64{65536}, qint64{65536}},
+        {qint64{2147483647}, qint64{2147483647}},
+        {qint64{2147483648}, qint64{-2147483648}},
+        {qint64{4294966000}, qint64{-1296}},
+        {qint64{4294967295}, qint64{-1}},
+        {qint64{4294967296}, qint64{4294967296}},
+        {4294966000.0, qint64{-1296}},
         {qint64{-5496}, qint64{-5496}},
         {quint64{18446744073709546120U}, qint64{-5496}},
         {QVariant(u("much")), QVariant(u("much"))},

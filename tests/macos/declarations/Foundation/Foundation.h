@@ -91,7 +91,6 @@ enum NSNotificationSuspensionBehavior : NSUInteger { NSNotificationSuspensionBeh
 + (NSBundle*)mainBundle;
 + (NSBundle*)bundleWithPath:(NSString*)path;
 @property(readonly, copy) NSString* bundlePath;
-@property(readonly, copy) NSString* bundleIdentifier;
 @property(readonly, copy) NSDictionary* infoDictionary;
 @end
 
