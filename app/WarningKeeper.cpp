@@ -14,7 +14,6 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Notifier.h"
 #include "platform/Platform.h"
-#include "platform/PowerManagers.h"
 #include "platform/PowerSources.h"
 #include "platform/StatusBar.h"
 #include "platform/UserDefaults.h"

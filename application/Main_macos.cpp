@@ -18,7 +18,7 @@
 #include "application/commands/RecordCommand.h"
 #include "common/Paths.h"
 #include "platform/PowerHistory.h"
-#include "platform/macos/MacPowerManagers.h"
+#include "platform/macos/MacNotifier.h"
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"

@@ -10,7 +10,7 @@
 #include "battery/QDBattery.h"
 #include "facts/ValueTexts.h"
 #include "mac/QDMac.h"
-#include "samples/SampleLine.h"
+#include "samples/Sample.h"
 
 namespace quindle {
 

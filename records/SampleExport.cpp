@@ -8,7 +8,7 @@
 
 #include "common/NumberTexts.h"
 #include "records/CsvText.h"
-#include "samples/SampleLine.h"
+#include "samples/Sample.h"
 
 namespace quindle {
 

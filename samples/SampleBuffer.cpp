@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "samples/SampleLine.h"
+#include "samples/Sample.h"
 
 namespace quindle {
 

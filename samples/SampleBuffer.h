@@ -37,7 +37,7 @@ public:
     bool isEmpty() const { return m_samples.empty(); }
     std::size_t size() const { return m_samples.size(); }
 
-    /// All of them, oldest first, a line each (see SampleLine.h).
+    /// All of them, oldest first, a line each (see Sample.h).
     QByteArray lines() const;
 
     /// They have been handed over, or are not wanted.

@@ -17,7 +17,6 @@
 #include "platform/macos/MacCalls.h"
 #include "platform/macos/MacCommandRunner.h"
 #include "platform/macos/MacNotifier.h"
-#include "platform/macos/MacPowerManagers.h"
 #include "platform/macos/MacTextReceiver.h"
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"

@@ -8,7 +8,7 @@
 
 namespace quindle {
 
-/// `quindle --record`: adds the samples on `input` (see samples/SampleLine.h) to the history, saves today's
+/// `quindle --record`: adds the samples on `input` (see samples/Sample.h) to the history, saves today's
 /// snapshot if there is none yet, and once a day makes old samples coarser and removes what the user does not
 /// want to keep. Does nothing, and reads nothing, when recording is switched off.
 ///

@@ -1,6 +1,6 @@
 #include "application/commands/SampleInput.h"
 
-#include "samples/SampleLine.h"
+#include "samples/Sample.h"
 
 namespace quindle {
 

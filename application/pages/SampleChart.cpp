@@ -6,7 +6,7 @@
 #include "charts/Gaps.h"
 #include "common/Translation.h"
 #include "facts/ValueTexts.h"
-#include "samples/SampleLine.h"
+#include "samples/Sample.h"
 
 namespace quindle {
 

@@ -9,7 +9,7 @@
 
 #include "common/Translation.h"
 #include "platform/NotificationCenter.h"
-#include "platform/PowerManagers.h"
+#include "platform/Notifier.h"
 #include "platform/UserDefaults.h"
 #include "widgets/BoundControls.h"
 #include "widgets/QuietLabel.h"

@@ -71,4 +71,10 @@ void MacNotifier::report(const QString& fault)
         qCWarning(macNotifierLog).noquote() << QStringLiteral("notifications are not shown: %1").arg(fault);
 }
 
+void MacPowerManagers::ask(std::function<void(const QString& desktop)> answered)
+{
+    QMetaObject::invokeMethod(
+        this, [answered = std::move(answered)] { answered(QStringLiteral("macOS")); }, Qt::QueuedConnection);
+}
+
 } // namespace quindle

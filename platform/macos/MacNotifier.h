@@ -3,6 +3,8 @@
 #include <memory>
 #include <optional>
 
+#include <QObject>
+
 #include "platform/Notifier.h"
 #include "platform/macos/SystemCalls.h"
 
@@ -28,6 +30,13 @@ private:
     bool m_isWanted = false; ///< what was handed over is still to be seen
     bool m_hasReported = false;
     std::shared_ptr<void> m_alive; ///< answers that come after it has gone are nobody's
+};
+
+/// On a Mac no program warns of a low battery: the system does, always.
+class MacPowerManagers final : public QObject, public PowerManagers
+{
+public:
+    void ask(std::function<void(const QString& desktop)> answered) override;
 };
 
 } // namespace quindle

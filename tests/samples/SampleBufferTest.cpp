@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "samples/SampleLine.h"
+#include "samples/Sample.h"
 
 using namespace quindle;
 

@@ -7,7 +7,6 @@
 
 #include "platform/CommandRunner.h"
 #include "platform/Notifier.h"
-#include "platform/PowerManagers.h"
 
 namespace quindle {
 

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QStringList>
 
-#include "platform/PowerManagers.h"
+#include "platform/Notifier.h"
 #include "platform/linux/notifications/PresentBus.h"
 
 namespace quindle {

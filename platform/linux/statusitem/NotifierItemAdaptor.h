@@ -12,6 +12,7 @@
 namespace quindle {
 
 struct Picture;
+struct Pixels;
 struct Presentation;
 class StatusPictures;
 
@@ -112,5 +113,8 @@ public:
     QString label() const;
     QString labelGuide() const;
 };
+
+/// The picture as it goes over the bus.
+NotifierPixmap notifierPixmap(const Pixels& picture);
 
 } // namespace quindle

@@ -4,7 +4,7 @@
 #include <sysexits.h>
 
 #include "records/Thinning.h"
-#include "samples/SampleLine.h"
+#include "samples/Sample.h"
 #include "tests/application/commands/CommandCase.h"
 
 using namespace quindle;

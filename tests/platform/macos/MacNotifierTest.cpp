@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <gtest/gtest.h>
 
-#include "platform/macos/MacPowerManagers.h"
 #include "tests/platform/macos/FakeSystem.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/Texts.h"

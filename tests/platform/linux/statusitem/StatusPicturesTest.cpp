@@ -9,7 +9,7 @@
 #include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
-#include "platform/linux/statusitem/NotifierPixmaps.h"
+#include "platform/linux/statusitem/NotifierItemAdaptor.h"
 #include "tests/platform/linux/pictures/PictureImage.h"
 #include "tests/support/QtPrinters.h"
 

@@ -1,4 +1,4 @@
-#include "samples/SampleLine.h"
+#include "samples/Sample.h"
 
 #include <cmath>
 #include <limits>
