@@ -75,7 +75,7 @@ QString bundleProgram(const QString& bundlePath)
 StartCommand startCommand(const QString& program, const QString& link, const QString& home)
 {
     const bool isPlain = isReadEverywhere(pathBytes(program));
-    const StartCommand direct{execValue(pathBytes(program)), false, isPlain};
+    StartCommand direct{execValue(pathBytes(program)), false, isPlain};
     if (link.isEmpty() || isPlain)
         return direct;
     // The link has a plain name in the settings folder, whose path rarely has unusual characters.
