@@ -15,7 +15,6 @@
 #include "menubar/StatusIcon.h"
 #include "platform/RateLimit.h"
 #include "preferences/panes/StatusBarTitle.h"
-#include "preferences/window/QDPreferencesWindowControllerProtocol.h"
 #include "preferences/window/WindowControllers.h"
 
 namespace quindle {

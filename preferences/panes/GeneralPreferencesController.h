@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-#include "preferences/window/QDPreferencesWindowControllerProtocol.h"
+#include "preferences/window/WindowControllers.h"
 
 namespace quindle {
 

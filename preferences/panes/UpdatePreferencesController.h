@@ -6,7 +6,7 @@
 #include <QWidget>
 
 #include "platform/Bundle.h"
-#include "preferences/window/QDPreferencesWindowControllerProtocol.h"
+#include "preferences/window/WindowControllers.h"
 
 namespace quindle {
 

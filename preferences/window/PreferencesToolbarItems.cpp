@@ -1,6 +1,6 @@
 #include "preferences/window/PreferencesToolbarItems.h"
 
-#include "preferences/window/QDPreferencesWindowControllerProtocol.h"
+#include "preferences/window/WindowControllers.h"
 
 namespace quindle {
 

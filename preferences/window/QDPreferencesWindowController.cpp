@@ -13,7 +13,7 @@
 #include "preferences/window/PaneTransition.h"
 #include "preferences/window/PreferencesToolbar.h"
 #include "preferences/window/QDPreferencesWindow.h"
-#include "preferences/window/QDPreferencesWindowControllerProtocol.h"
+#include "preferences/window/WindowControllers.h"
 #include "settings/SettingsTable.h"
 #include "widgets/CloseKey.h"
 #include "widgets/SegmentedControl.h"
