@@ -21,7 +21,7 @@ struct Given
     std::optional<QString> since;
 };
 
-/// A value that is missing is an empty one, which is then none of those that the option may have.
+/// A missing value counts as an empty one, which no option accepts.
 QString readArguments(const QStringList& arguments, Given& given)
 {
     const CommandLineOption options[] = {

@@ -150,7 +150,7 @@ void ApplicationProgram::connectSamples(HistoryPage& page)
     });
 }
 
-// A helper that runs has up to an hour of them in memory; what it hands over is seen by the file.
+// A running helper has up to an hour of them in memory; once handed over, they show in the file.
 void ApplicationProgram::askForSamples()
 {
     m_asked = secondsNow(m_platform);
@@ -192,7 +192,7 @@ void ApplicationProgram::showState()
     m_window->setComputer(nameOf(mac), stateOf(mac.Battery()));
 }
 
-// What is looked at is refreshed on time.
+// What the user sees is refreshed on time.
 void ApplicationProgram::watch(bool isSeen)
 {
     m_watched = isSeen ? m_platform.runLoop.keepPunctual() : Punctuality();

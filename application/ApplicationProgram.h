@@ -27,7 +27,7 @@ class PowerManagers;
 /// What only some computers have.
 struct ApplicationExtras
 {
-    PowerManagers* powerManagers = nullptr; ///< null: nobody else is known to warn
+    PowerManagers* powerManagers = nullptr; ///< null: no other program is known to warn
     IORegistry* registryAsItIs = nullptr;   ///< what captures hold; null: the platform's
 };
 

@@ -77,7 +77,7 @@ void ApplicationWindow::restorePlace()
     const QSize room = screen()->availableGeometry().size();
     if (!m_autosave->restore())
         resize(usual);
-    // The screen may be another one than that of the last time.
+    // The screen may differ from last time's.
     resize(size().boundedTo(room).expandedTo(smallest));
     m_autosave->placeAtRestored();
 }

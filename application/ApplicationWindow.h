@@ -48,7 +48,7 @@ public:
     void present();
 
 Q_SIGNALS:
-    /// It is seen, or not any more (closed, minimized).
+    /// It has become visible, or no longer is (closed, minimized).
     void seen(bool isSeen);
 
 protected:

@@ -52,7 +52,7 @@ private:
     static void paintPlate(QPainter& painter, const QStyleOptionViewItem& option, bool isChosen)
     {
         const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
-        // A line in a window that is not in front would promise keys that go elsewhere.
+        // A focus line in an inactive window would promise keys that go elsewhere.
         const bool hasKeyboard =
             option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Active);
         if (!isChosen && !isHovered && !hasKeyboard)

@@ -9,7 +9,7 @@ namespace quindle {
 
 class PlainLabel;
 
-/// The list of the pages, and below it in quiet words which computer this is and what its battery does.
+/// The list of the pages, and below it, in quiet text, which computer this is and what its battery does.
 class Sidebar : public QWidget
 {
     Q_OBJECT

@@ -34,7 +34,7 @@ BatteryPopup::BatteryPopup(MainInterface& interface, const Application& applicat
 {
     interface.statusMenu().setViewOpener([this] { open(); });
     interface.statusMenu().setViewToggler([this] { toggle(); });
-    // The menu has no way to lose an observer, and outlives this object.
+    // The menu cannot remove an observer, and outlives this object.
     interface.statusMenu().addObserver([popup = QPointer(this)](int id) {
         if (popup && popup->m_window)
             popup->m_window->updateEntry(id);
@@ -67,7 +67,7 @@ void BatteryPopup::open(const std::optional<QPoint>& pointer)
         return;
     }
     m_window = new BatteryWindow(m_interface, windowKind(m_application));
-    // Figures that somebody looks at are read on time; they may be late while nobody does.
+    // Visible figures are read on time; they may be late while nobody looks.
     m_window->setPunctuality(m_runLoop.keepPunctual());
     m_window->setClosedOutside([this] {
         // A popup closes at the press and the tray reports the click at the release, so that click is

@@ -85,7 +85,7 @@ void BatteryView::fitToFont()
     alignBaselines();
 }
 
-// The big figure, its sign and the state stand on one line of writing.
+// The big figure, its sign and the state share one baseline.
 void BatteryView::alignBaselines()
 {
     const int deepest = m_ui->figureLabel->fontMetrics().descent();

@@ -122,7 +122,7 @@ void BatteryWindow::followModels()
     const QDMac* mac = m_interface.macObjectController().content();
     if (!mac)
         return;
-    // Models say that they have changed more often than the helper refreshes.
+    // Models report changes more often than the helper refreshes.
     connect(mac, &QDMac::changed, this, &BatteryWindow::updateFacts, Qt::UniqueConnection);
     if (const QDBattery* battery = mac->Battery())
         connect(battery, &QDBattery::changed, this, &BatteryWindow::updateFacts, Qt::UniqueConnection);

@@ -18,7 +18,7 @@ int exitCodeOfWriting(int error)
     case EPERM:
     case EROFS:
         return EX_CANTCREAT;
-    case EWOULDBLOCK: // another process does not let go of it
+    case EWOULDBLOCK: // another process holds it
         return EX_TEMPFAIL;
     default:
         return EX_IOERR;

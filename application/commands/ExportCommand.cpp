@@ -15,7 +15,7 @@ namespace quindle {
 
 namespace {
 
-/// Writes in larger parts than it is given.
+/// Collects what it is given into larger parts.
 class PartWriter
 {
 public:
@@ -28,7 +28,7 @@ public:
     {
         constexpr qsizetype enough = qsizetype{64} * 1024;
         m_bytes += bytes;
-        // A call of the system for each record would take longer than making it.
+        // A system call for each record would take longer than making it.
         return m_bytes.size() < enough || flush();
     }
 

@@ -47,7 +47,7 @@ public:
     void storeSamples(QIODevice& input)
     {
         SampleInput samples(input);
-        // In parts, so that an input without end takes no memory without end.
+        // In parts, so that an endless input does not take endless memory.
         while (samples.readSome())
             take(m_store.append(samples.samples()));
         if (samples.damagedLines() == 0)
@@ -92,14 +92,14 @@ private:
             take(m_store.removeBefore(m_now - days * secondsOfDay));
     }
 
-    /// Reports what is to be told. False after a failure.
+    /// Reports fault and notice. False after a failure.
     bool take(const StoreOutcome& outcome)
     {
         if (!outcome.notice.isEmpty())
             m_report(outcome.notice);
         if (outcome.isGood())
             return true;
-        // One full disk is one line, however much could not be written there.
+        // A full disk is reported in one line, however much could not be written.
         if (!m_told.contains(outcome.fault))
             m_report(outcome.fault);
         m_told.append(outcome.fault);

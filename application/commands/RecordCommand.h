@@ -15,8 +15,8 @@ namespace quindle {
 /// Needs a QCoreApplication; takes no window, and may wait for disk and bus.
 ///
 /// Gives the exit code: 0; EX_DATAERR when a line is no sample, the others are kept; EX_CANTCREAT, EX_IOERR
-/// or EX_TEMPFAIL when something could not be stored. What can be done is done all the same; the first
-/// failure counts.
+/// or EX_TEMPFAIL when something could not be stored. What can be done is still done; the first failure
+/// counts.
 int recordHistory(const Platform& platform, PowerHistory& powerHistory, QIODevice& input,
                   const CommandReport& report);
 

@@ -5,8 +5,8 @@
 namespace quindle {
 
 /// The application's bundle as its panes see it: by its name alone. The folder that it is installed in has
-/// the helper's name, and a pane takes a bundle with that name in its path for the helper's, in which it does
-/// not let start at login be switched.
+/// the helper's name, and a pane takes a bundle with that name in its path for the helper's, in which start
+/// at login cannot be switched.
 class ApplicationBundle : public Bundle
 {
 public:

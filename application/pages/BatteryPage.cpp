@@ -179,7 +179,7 @@ void BatteryPage::arrange()
     const bool isWide = viewport()->width() >= line * linesForTwoColumns;
     m_columns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_columns->setSpacing(isWide ? line * 3 : line);
-    // Captions and values that are far apart do not read as one line.
+    // Captions and values that are far apart are hard to read as one line.
     const int margin = line * 3 / 2;
     const int columns = isWide ? 2 : 1;
     const int widest = columns * widestColumn * line + (columns - 1) * m_columns->spacing();
@@ -203,7 +203,7 @@ void BatteryPage::fitToFont()
     arrange();
 }
 
-// The big figure, its sign and the words stand on one line of writing.
+// The big figure, its sign and the words share one baseline.
 void BatteryPage::fitFigure(const Gauge& gauge, double factor) const
 {
     const ViewMetrics metrics(content());

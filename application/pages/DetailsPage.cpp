@@ -110,7 +110,7 @@ void DetailsPage::search()
     showFound();
 }
 
-// Items stay where the rows are the same, and with them what is selected and how far the list is scrolled.
+// Items of unchanged rows stay, and with them the selection and the scroll position.
 void DetailsPage::showFound()
 {
     const std::vector<DetailSection> found = foundDetails(m_sections, m_search->text());
@@ -126,7 +126,7 @@ void DetailsPage::showSection(int index, const DetailSection& section)
 {
     if (index == m_rows->topLevelItemCount()) {
         auto* item = new QTreeWidgetItem(m_rows);
-        // A heading cannot be selected: it is nothing to copy.
+        // A heading cannot be selected, as there is nothing to copy.
         item->setFlags(Qt::ItemIsEnabled);
         item->setFirstColumnSpanned(true);
         item->setExpanded(true);

@@ -33,7 +33,7 @@ public:
     /// Shows the present values; for every refresh of the models. Does nothing while the page is not seen.
     void refresh();
 
-    /// Puts what is found, as text, on the clipboard.
+    /// Copies what is found, as text.
     void copy();
 
     /// Saves this computer as a machine file, with its serial numbers only where they were asked for. Says

@@ -12,7 +12,7 @@ namespace quindle {
 
 namespace {
 
-constexpr double daysOfShade = 32; // stripes of more of them cannot be told apart
+constexpr double daysOfShade = 32; // stripes of more of them cannot be distinguished
 constexpr double recent = 600;
 constexpr double sameCharge = 1; // percent
 

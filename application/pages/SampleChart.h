@@ -16,8 +16,8 @@ enum class SampleQuantity { Charge, Power };
 ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quantity, AxisSpan moments,
                          qint64 ownSince = 0);
 
-/// The samples after which the line is left open (see gapsBetween). No pause is one while the battery rests,
-/// neither charged nor discharged and as full as before: then there is nothing to record.
+/// The samples after which the line is broken (see gapsBetween). A pause while the battery rests, neither
+/// charged nor discharged and as full as before, is no gap: there is nothing to record.
 std::vector<std::size_t> gapsOf(const std::vector<Sample>& samples);
 
 /// From each sample that charges to the next one of another state or, before a gap, to the last that charges.

@@ -19,7 +19,7 @@ SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& 
 {
     setObjectName(QStringLiteral("settingsPage"));
     setAccessibleName(tr("Settings"));
-    // All, so that their captions stand in one column.
+    // All of them, so that their captions form one column.
     for (PaneView* pane : {qobject_cast<PaneView*>(&general.view()), static_cast<PaneView*>(m_warnings),
                            static_cast<PaneView*>(m_history)}) {
         pane->setCompact(true);

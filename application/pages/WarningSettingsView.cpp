@@ -131,7 +131,7 @@ QSpinBox* WarningSettingsView::percentOf(WarningLevel level)
     const PercentRange range = percentRange(level);
     percent->setRange(range.least, range.most);
     percent->setSuffix(QStringLiteral("%"));
-    // What is being typed is no percentage yet.
+    // A number that is being typed is no percentage yet.
     percent->setKeyboardTracking(false);
     if (range.least == 0) {
         percent->setSpecialValueText(tr("Auto"));

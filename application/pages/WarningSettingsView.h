@@ -29,7 +29,7 @@ public:
     WarningSettingsView(UserDefaults& own, DistributedNotificationCenter& center,
                         PowerManagers* powerManagers, QWidget* parent = nullptr);
 
-    /// Shows the settings as they are stored, and looks who else warns.
+    /// Shows the settings as they are stored, and asks which other program warns.
     void refresh();
 
 private:

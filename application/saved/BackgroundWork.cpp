@@ -12,7 +12,7 @@ BackgroundWork::BackgroundWork()
 
 BackgroundWork::~BackgroundWork()
 {
-    // Behind what waits already: a change that the user has asked for is not left undone.
+    // After what is already waiting: a change that the user has asked for is not dropped.
     QMetaObject::invokeMethod(
         m_there.get(), [this] { m_thread.quit(); }, Qt::QueuedConnection);
     m_thread.wait();

@@ -10,7 +10,7 @@
 namespace quindle {
 
 /// A thread that does one piece of work after the other, so that a window does not wait for a large file.
-/// Work that was begun is finished before it is destroyed; what is done then is not told any more.
+/// Work that has begun is finished before it is destroyed; its result is then no longer delivered.
 class BackgroundWork
 {
 public:

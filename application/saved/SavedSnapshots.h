@@ -12,7 +12,7 @@
 namespace quindle {
 
 /// The archive of snapshots as the pages see it: read and changed in the background, and read again when
-/// somebody else has changed the file. Main thread only.
+/// another program has changed the file. Main thread only.
 class SavedSnapshots : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
     /// Reads the file where it has changed since it was last read, or was never read.
     void load();
 
-    // Changes; each announces what has become of it, and reads the archive again.
+    // Changes; each announces its outcome, and reads the archive again.
     void add(const QVariantMap& record);
     void remove(const QVariantList& records);
     void merge(const QVariantList& records);
@@ -58,7 +58,7 @@ private:
         QString line;
     };
 
-    /// Changes the archive; what is to be said of it, empty for nothing.
+    /// Changes the archive. Gives the line for the user; empty for none.
     using Change = std::function<QString(SnapshotArchive& archive)>;
 
     void run(const Change& change);

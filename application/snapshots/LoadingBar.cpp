@@ -4,7 +4,7 @@ namespace quindle {
 
 namespace {
 
-constexpr int slowAfter = 200; // milliseconds; what is there sooner needs no bar
+constexpr int slowAfter = 200; // milliseconds; what takes less needs no bar
 
 } // namespace
 

@@ -73,7 +73,7 @@ QString exportToFile(const QString& path, const QVariantList& records, bool with
         path.endsWith(QStringLiteral(".json"), Qt::CaseInsensitive) ? ExportFormat::Json : ExportFormat::Csv;
     options.identity = withSerialNumbers ? ExportedIdentity::Included : ExportedIdentity::LeftOut;
     QSaveFile file(QFile::decodeName(pathBytes(path)));
-    // Beside the file and then in its place: an export that fails leaves the one before.
+    // Written beside the file and then renamed: a failed export leaves the previous one.
     const bool isWritten =
         file.open(QIODevice::WriteOnly) &&
         exportSnapshots(records, options,

@@ -39,7 +39,7 @@ bool isFigure(SnapshotColumn column)
            column == SnapshotColumn::Cycles;
 }
 
-/// Keeps a text at its column's beginning away from the figure at the end of the one before.
+/// Keeps a text at the start of its column away from the figure at the end of the previous one.
 QVariant gap()
 {
     QPixmap empty(12, 1);

@@ -8,7 +8,7 @@ namespace quindle {
 class SnapshotTable;
 
 /// The list of snapshots: rows that can be selected, the newest first until another order is chosen by the
-/// captions. What is selected stays so when it is sorted.
+/// captions. The selection survives sorting.
 class SnapshotView : public QTableView
 {
     Q_OBJECT

@@ -16,8 +16,8 @@ class LoadingBar;
 class SavedSnapshots;
 class SnapshotView;
 
-/// The page "Snapshots": the records of the archive as a list, the newest first or as one sorts them; saved,
-/// deleted with a way back, compared, imported and exported.
+/// The page "Snapshots": the records of the archive as a list, the newest first or in another order; they are
+/// saved, deleted (with undo), compared, imported and exported.
 class SnapshotsPage : public QWidget
 {
     Q_OBJECT

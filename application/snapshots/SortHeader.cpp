@@ -12,7 +12,7 @@ namespace quindle {
 
 namespace {
 
-// The toolkit's own takes every view, and so the captions too, for a table of all cells.
+// The toolkit's own treats every view, even the captions, as a table of all cells.
 QAccessibleInterface* accessibleHeader(const QString&, QObject* object)
 {
     auto* header = qobject_cast<SortHeader*>(object);

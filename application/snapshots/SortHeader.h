@@ -4,8 +4,8 @@
 
 namespace quindle {
 
-/// The captions of a table, by which it is sorted: a click on one, or the keyboard once it is here (arrows
-/// choose a caption, Space and Return sort by it, once more in the other direction).
+/// The captions of a table, by which it is sorted: by a click, or by the keyboard while it has the focus
+/// (arrows choose a caption, Space and Return sort by it, and again in the other direction).
 class SortHeader : public QHeaderView
 {
     Q_OBJECT

@@ -68,7 +68,7 @@ void BoundSettings::setTemperatureSettingIndex(qint64 value)
 
 void BoundSettings::setTemperatureOfTitleAndView(qint64 value)
 {
-    // First, because the signal of the second makes everybody read both.
+    // First, because the second one's signal makes everybody read both.
     m_standardDefaults.setInteger(Keys::batteryTemperatureMode.name(), value);
     setTemperatureSettingIndex(value);
 }
@@ -131,7 +131,7 @@ void BoundSettings::setMenuBarSetting(qint64 row)
     const MenuBarTexts texts{m_preferences.customStatusBar(),
                              convertToText(m_standardDefaults.object(Keys::parkedCustomStatusBar.name()))};
     const MenuBarTexts next = textsAfterChoosing(before, row, texts);
-    if (next.parked && next.parked != texts.parked) // first: the user's text is never nowhere
+    if (next.parked && next.parked != texts.parked) // first: the user's text must always be stored somewhere
         m_standardDefaults.setObject(Keys::parkedCustomStatusBar.name(), *next.parked);
     if (next.customStatusBar != texts.customStatusBar)
         m_preferences.setCustomStatusBar(next.customStatusBar);
@@ -163,7 +163,7 @@ void BoundSettings::reload()
 
 void BoundSettings::followAnnouncement()
 {
-    // Only what somebody else changed: a switch that the session did not accept stays as the user left it.
+    // Only what others have changed: a switch that the session did not accept stays as the user left it.
     if (const bool is = StartupLaunch_pref::isAppLoginItem(m_loginItems, m_bundle.path());
         std::exchange(m_isLoginItem, is) != is)
         m_startsAtLogin = is;

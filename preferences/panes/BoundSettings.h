@@ -83,7 +83,7 @@ public:
     void reload();
 
 Q_SIGNALS:
-    /// Something may be different.
+    /// Something may have changed.
     void changed();
 
 private:

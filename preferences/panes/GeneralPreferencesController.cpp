@@ -178,7 +178,7 @@ void GeneralPreferencesController::setAutoUpload()
 
 void GeneralPreferencesController::setAutoStart()
 {
-    // Not announced: it is an entry of the session, which everybody asks for anew, and no setting.
+    // Not announced: it is an entry in the session that is always read anew, not a setting.
     m_settings.setStartsAtLogin(m_ui->launchAtStartupCheckbox->isChecked());
 }
 
@@ -188,7 +188,7 @@ void GeneralPreferencesController::showParameterPopover(const QWidget& sender)
     if (!m_parameterPopover) {
         m_parameterPopover = new ParameterPopover(m_title, *field);
         m_parameterPopover->setObjectName(QStringLiteral("parameterPopover"));
-        // At once: the field keeps the keyboard, so nothing else would commit it.
+        // Immediately: the field keeps the keyboard, so nothing else would commit it.
         connect(m_parameterPopover, &ParameterPopover::inserted, field, &BoundLineEdit::commit);
     }
     m_parameterPopover->showRelativeTo(sender);

@@ -47,7 +47,7 @@ public:
                                                              BoundSettings& settings,
                                                              StatusBarTitle& delegate);
 
-    /// inherited: as an interface makes it that has it stored; the window comes later.
+    /// inherited: as made by an interface that stores it; the window comes later.
     static std::unique_ptr<HelperPreferences> initWithCoder(BoundSettings& settings,
                                                             StatusBarTitle& delegate);
 
@@ -59,7 +59,7 @@ public:
     /// The window; loads its interface when it is asked for the first time.
     HelperPreferencesWindow& window();
 
-    /// With the settings of this moment.
+    /// With the current settings.
     void showWindow() override;
 
     /// Shows the present values in the preview and the popover; for every refresh of the status item.

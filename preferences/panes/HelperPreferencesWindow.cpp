@@ -33,7 +33,7 @@ void HelperPreferencesWindow::mousePressEvent(QMouseEvent* event)
 
 void HelperPreferencesWindow::startMove()
 {
-    // By the window manager: under Wayland no window moves itself.
+    // By the window manager: on Wayland no window moves itself.
     windowHandle()->startSystemMove();
 }
 

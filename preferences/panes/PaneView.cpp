@@ -14,7 +14,7 @@ namespace quindle {
 
 namespace {
 
-// Of a column of radio buttons the first one.
+// The first one of a column of radio buttons.
 int firstLineHeight(const QWidget& control)
 {
     const auto* first = control.findChild<QRadioButton*>();
@@ -49,7 +49,7 @@ void PaneView::fitToFont()
     alignCaptions();
 }
 
-// A caption stands at the height of the control it names, whatever stands below that control.
+// A caption is level with the control it names, whatever is below that control.
 void PaneView::alignCaptions()
 {
     const QFont quiet = quietFont(font());

@@ -4,8 +4,8 @@
 
 namespace quindle {
 
-/// The view of a pane whose interface file lays it out as a grid of two columns: captions, and controls under
-/// each other. All measures come from the desktop's font, so that the pane grows with it.
+/// The view of a pane whose interface file lays it out as a grid of two columns: captions, and controls below
+/// one another. All measures come from the desktop's font, so that the pane grows with it.
 class PaneView : public QWidget
 {
     Q_OBJECT

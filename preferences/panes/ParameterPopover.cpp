@@ -49,7 +49,7 @@ void setUpRows(QTreeWidget& rows)
 
 } // namespace
 
-// As the target's child: a field takes another's popup for being left.
+// As the target's child: a field takes the popup of another widget as being left.
 ParameterPopover::ParameterPopover(const StatusBarTitle& title, QLineEdit& target)
     : QFrame(&target, Qt::Popup)
     , m_title(title)
@@ -174,7 +174,7 @@ void ParameterPopover::fitToContent()
 void ParameterPopover::insertCurrent()
 {
     const int row = m_rows.indexOfTopLevelItem(m_rows.currentItem());
-    // First, so that the window gives the keyboard to the target and not back to the button.
+    // First, so that the window gives the keyboard to the target, not back to the button.
     close();
     m_target.setFocus(Qt::OtherFocusReason);
     m_target.insert(placeholderTable().at(static_cast<std::size_t>(row)).text);

@@ -28,7 +28,7 @@ public:
     void refresh();
 
 Q_SIGNALS:
-    /// The user has inserted a placeholder; the target holds it already.
+    /// The user has inserted a placeholder, which is already in the target.
     void inserted();
 
 protected:

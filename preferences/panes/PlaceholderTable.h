@@ -8,7 +8,7 @@ namespace quindle {
 
 struct TitleValues;
 
-/// One placeholder of the title template, as users read of it.
+/// One placeholder of the title template, explained to users.
 struct Placeholder
 {
     QString text;        ///< "%p"

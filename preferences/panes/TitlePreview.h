@@ -11,8 +11,8 @@ class PlainLabel;
 class QuietLabel;
 class StatusBarTitle;
 
-/// The title that a template gives at the moment: the text in a field, or one that is bound. Of a text that
-/// is not stored the caption says so. While it is seen it watches the values.
+/// The title that a template gives at the moment: the text in a field, or one that is bound. The caption
+/// marks a text that is not stored. While it is seen it watches the values.
 class TitlePreview : public QWidget
 {
     Q_OBJECT

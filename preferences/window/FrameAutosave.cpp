@@ -58,7 +58,7 @@ void FrameAutosave::placeAtRestored()
     // A desktop that places windows itself ignores a position.
     if (!m_restored || !m_placesWindows)
         return;
-    // The place is the user's, the size by now that of a pane.
+    // The place is the user's, the size is a pane's by now.
     const QRect frame(m_restored->frame.topLeft(), m_window.frameGeometry().size());
     m_window.move(placedFrame({frame, m_restored->screen}, presentScreens()).topLeft());
 }

@@ -27,13 +27,13 @@ public:
         FadeAndSize
     };
 
-    /// Ends the transition before it, if one is under way.
+    /// Ends a transition that is under way.
     void begin(QWidget& view, const QSize& size, Motion motion);
 
     /// The view wants another size: at once, or at the end of a transition that is under way.
     void setSize(const QSize& size);
 
-    /// Goes to the end now.
+    /// Skips to the end.
     void finish();
 
     bool isRunning() const { return m_animation.state() == QAbstractAnimation::Running; }

@@ -174,7 +174,7 @@ void PreferencesToolbar::drawIcons()
 void PreferencesToolbar::fitToFont()
 {
     const int margin = qRound(fontMetrics().height() * marginShare);
-    layout()->setContentsMargins(margin, margin, margin, margin); // different ones get mixed up by its layout
+    layout()->setContentsMargins(margin, margin, margin, margin); // its layout mixes up different ones
 }
 
 void PreferencesToolbar::paintEvent(QPaintEvent*)

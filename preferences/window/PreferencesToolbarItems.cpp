@@ -41,7 +41,7 @@ QString flexibleSpaceIdentifier()
 std::optional<ToolbarConfiguration> toolbarConfiguration(const PreferencesPanes& panes,
                                                          const PreferencesToolbarFlags& flags)
 {
-    // A toolbar with nothing to choose from only takes room.
+    // A toolbar without a choice only takes room.
     if (panes.empty() || (panes.size() == 1 && !flags.showToolbarWithSingleViewController))
         return std::nullopt;
     // A segmented control is one item: there is nothing to arrange, and nothing to remember.
@@ -113,7 +113,7 @@ QStringList titlesWithMnemonics(const QStringList& titles)
                 taken += character;
                 text += QLatin1Char('&');
             } else if (character == QLatin1Char('&')) {
-                // A single one would mark the letter behind it.
+                // A single one would mark the next letter.
                 text += QLatin1Char('&');
             }
             text += character;

@@ -48,7 +48,7 @@ QDPreferencesWindow::QDPreferencesWindow()
     , m_contentView(new QWidget)
 {
     setObjectName(QStringLiteral("preferencesWindow"));
-    // The helper goes on running in the tray.
+    // The helper runs on in the tray.
     setAttribute(Qt::WA_QuitOnClose, false);
     setBackgroundRole(contentRole(palette()));
     plainLayout(this)->addWidget(m_scrollArea, 1);

@@ -32,7 +32,7 @@ public:
     void setToolbar(PreferencesToolbar* toolbar);
 
     /// Puts a view into the window; null leaves it empty. With `inVisualEffectView` there is another view in
-    /// between: desktops here blur nothing behind a window's content, so that view is plain.
+    /// between: desktops do not blur what is behind a window's content, so that view is plain.
     void setContent(QWidget* view, bool inVisualEffectView);
 
     /// The window's content below the toolbar.

@@ -20,14 +20,14 @@ class PaneTransition;
 class QDPreferencesWindow;
 class UserDefaults;
 
-/// What a preferences window has to know of the desktop it is shown on.
+/// What a preferences window has to know about its desktop.
 struct PreferencesDesktop
 {
     bool placesWindows = true;           ///< windows may have a position and be translucent as a whole
     std::function<bool()> reducesMotion; ///< asked before each transition
 
-    /// Wayland lets no window have a position. The desktop's wish for less motion is the style's: a length of
-    /// 0 for the animations of its widgets.
+    /// On Wayland windows have no position. The style reports the desktop's preference for less motion:
+    /// animations of length 0.
     static PreferencesDesktop ofThisProcess();
 };
 
@@ -67,7 +67,7 @@ public:
     bool centerToolbarItems() const { return m_flags.centerToolbarItems; }
     void setCenterToolbarItems(bool center);
 
-    /// Panes that are shown from then on stand in a view of their own, "visualEffectView".
+    /// Panes that are shown from then on are in a view of their own, "visualEffectView".
     bool allowsVibrancy() const { return m_allowsVibrancy; }
     void setAllowsVibrancy(bool allows);
 

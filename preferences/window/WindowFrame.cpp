@@ -23,7 +23,7 @@ qint64 commonArea(const QRect& one, const QRect& other)
     return qint64{common.width()} * common.height();
 }
 
-/// The near edge wins where both cannot be kept.
+/// The nearer edge wins where both cannot be kept.
 int shifted(int start, int length, int from, int size)
 {
     return std::max(from, std::min(start, from + size - length));
