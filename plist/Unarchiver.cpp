@@ -307,7 +307,8 @@ bool Unarchiver::readDate(const Element& element, Object& object)
     const auto seconds = convertToDouble(m_graph.value(resolved(find(element, "NS.time"))));
     if (!seconds)
         return false;
-    object.value = dateFromSeconds(*seconds);
+    // Local times ask the system for the zone, once when they are made and again when they are written.
+    object.value = dateFromSeconds(*seconds, Qt::UTC);
     return object.value.isValid();
 }
 

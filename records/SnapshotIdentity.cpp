@@ -1,6 +1,7 @@
 #include "records/SnapshotIdentity.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace quindle {
 
@@ -24,10 +25,13 @@ bool isSnapshotDue(const QVariantList& records, const QVariantMap& snapshot)
         return false;
     const QDate today = date->toLocalTime().date();
     const QString battery = snapshotBattery(snapshot);
+    // Only near today is the day asked for: that is a look at the time zone.
+    constexpr qint64 near = 2 * 24 * 60 * 60; // seconds; no day is longer
     // From the end, where one of today would be.
     return std::none_of(records.crbegin(), records.crend(), [&](const QVariant& record) {
         const auto other = snapshotDate(record);
-        return other && snapshotBattery(record) == battery && other->toLocalTime().date() == today;
+        return other && std::abs(other->secsTo(*date)) < near && snapshotBattery(record) == battery &&
+               other->toLocalTime().date() == today;
     });
 }
 

@@ -27,7 +27,7 @@ qint64 numberOf(const QVariantMap& record, const char* key)
 QDateTime dateOf(const QVariantMap& record)
 {
     const QVariant value = valueOf(record, "Data.SnapshotDate");
-    return value.typeId() == QMetaType::QDateTime ? value.toDateTime() : QDateTime();
+    return value.typeId() == QMetaType::QDateTime ? value.toDateTime().toLocalTime() : QDateTime();
 }
 
 QString signedText(const QString& text, double difference)
