@@ -260,6 +260,42 @@ class Snapshots(ApplicationCase):
         self.assertTrue(self.control("table cell", "5,000 mAh"))
 
 
+    def choose_file(self, button, title, path):
+        self.act("push button", button)
+        self.assertTrue(wait_for(lambda: self.control("dialog", title), 10))
+        self.assertTrue(wait_for(self.is_active, 5))
+        self.type(str(path))
+        self.desktop.key("Return")
+
+    def archive_of_another_computer(self):
+        data = self.desktop.root / "another"
+        self.set_battery(charge_full=4800000)
+        self.desktop.call("sh", "-c", '"$0" --record < /dev/null', APPLICATION,
+                          env={**self.environment, "XDG_DATA_HOME": str(data)})
+        self.set_battery(**BATTERY)
+        return data / "quindle/QuindleData.qndarchive"
+
+    def test_imported_compared_and_exported(self):
+        other = self.archive_of_another_computer()
+        self.start_application("Snapshots")
+        self.act("push button", "Save Now")
+        self.assert_text("1 snapshot saved")
+        self.addCleanup((Path(self.desktop.env["XDG_DATA_HOME"]) / "quindle/QuindleData.qndarchive").unlink)
+        self.choose_file("Import...", "Import Snapshots", other)
+        self.assert_text("1 snapshot imported")
+        self.click("table cell", "4,800 mAh")
+        self.desktop.key("ctrl+a")
+        self.act("push button", "Compare")
+        self.assertTrue(wait_for(lambda: self.control("dialog", "Compare Snapshots"), 10))
+        self.assert_text("200 mAh")
+        self.desktop.key("Escape")
+        self.assertTrue(wait_for(self.is_active, 5))
+        table = self.desktop.root / "snapshots.csv"
+        self.choose_file("Export...", "Export Snapshots", table)
+        self.assertTrue(wait_for(table.exists, 10), "nothing was saved")
+        self.assertEqual(table.read_bytes().count(b"\r\n"), 3, table.read_bytes())
+
+
 class FromTheHelper(ApplicationCase):
     def test_open_application(self):
         self.environment.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON")
