@@ -133,6 +133,7 @@ void HelperAppDelegate::updateFacts()
     m_statusItem->setToolTipText(toolTipText({m_myMac.get()}));
     const QDBattery* battery = m_myMac->Battery();
     m_statusItem->setFallbackText(battery ? fixedText(battery->StateOfCharge(), 0) : QString());
+    m_statusItem->setFallbackOnPower(battery && (battery->isCharging() || battery->isACPowered()));
     m_interface.updateFacts(m_statusItem->title());
 }
 

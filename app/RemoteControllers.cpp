@@ -10,6 +10,7 @@
 #include "menubar/MainInterface.h"
 #include "platform/Platform.h"
 #include "platform/RunLoop.h"
+#include "platform/StatusBar.h"
 #include "remote/WindowsProcess.h"
 
 namespace quindle {
@@ -147,8 +148,15 @@ void RemoteControllers::tellRefreshedSoon()
 void RemoteControllers::tellRefreshed()
 {
     m_tellsRefreshed = false;
-    if (m_isWatched)
-        m_process.tell({.kind = Kind::Refreshed, .number = m_surroundings.statesEntered()});
+    if (!m_isWatched)
+        return;
+    // First, so that windows show it with what they refresh.
+    if (const auto shown = m_delegate->statusItem().shownItem())
+        m_process.tell({.kind = Kind::PanelShows,
+                        .text = shown->text.toUtf8(),
+                        .number = static_cast<quint32>(shown->form),
+                        .data = shown->picture});
+    m_process.tell({.kind = Kind::Refreshed, .number = m_surroundings.statesEntered()});
 }
 
 } // namespace quindle

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QString>
+
+#include "platform/ShownItem.h"
 
 namespace quindle {
 
@@ -34,6 +37,10 @@ public:
     /// empty for nothing.
     virtual void setFallbackText(const QString& text) = 0;
 
+    /// Whether that text says too that the computer is charging or on external power; false at first.
+    /// Does nothing where hosts have room for the title.
+    virtual void setFallbackOnPower(bool /*hasPower*/) {}
+
     /// The tool tip's text under the title, plain; lines are separated by line feeds. Empty for the title
     /// alone.
     virtual void setToolTipText(const QString& text) = 0;
@@ -41,6 +48,9 @@ public:
     /// The menu that hangs from the item; null for none.
     /// The caller keeps it alive as long as the item.
     virtual void setMenu(StatusMenu* menu) = 0;
+
+    /// What the panel shows of it now; nothing where that is not known.
+    virtual std::optional<ShownItem> shownItem() { return std::nullopt; }
 
     /// Whether the item asks to be looked at; false at first.
     /// Does nothing where items cannot.

@@ -17,7 +17,7 @@ constexpr std::array knownKinds{
     Kind::OpenView,  Kind::ToggleView,   Kind::ShowPreferences, Kind::ShowMenuBarText,
     Kind::Refreshed, Kind::Announced,    Kind::Heard,           Kind::Idle,
     Kind::Watched,   Kind::RefreshTitle, Kind::ReloadBattery,   Kind::Clicked,
-    Kind::Quit,      Kind::Stored,
+    Kind::Quit,      Kind::Stored,       Kind::PanelShows,
 };
 
 constexpr qsizetype longestText = 1024;

@@ -17,7 +17,8 @@ struct WindowMessage
         ToggleView = 2,      ///< the same, but closed where it is open
         ShowPreferences = 3, ///< `text`, `pointer`, `number` and `data` as for the other three requests
         ShowMenuBarText = 4,
-        Refreshed = 5, ///< the helper has read the battery and shown it; `number` as in requests
+        Refreshed = 5,  ///< the helper has read the battery and shown it; `number` as in requests
+        PanelShows = 6, ///< of the item: `number` is a ShownItem's form, `text` its text, `data` its picture
 
         // From either.
         Announced = 20, ///< a notification between processes; `text` is its name

@@ -71,10 +71,15 @@ public:
     void reloadBattery() override;
     std::optional<TitleValues> titleValues() const override { return m_own.titleValues(); }
     Punctuality watchValues() const override { return m_own.watchValues(); }
+    std::optional<ShownItem> shownItem() const override { return m_shownItem; }
+
+    /// What the helper has told.
+    void setShownItem(const ShownItem& shown) { m_shownItem = shown; }
 
 private:
     HelperEnd& m_helper;
     StatusBarTitle& m_own;
+    std::optional<ShownItem> m_shownItem;
 };
 
 } // namespace quindle

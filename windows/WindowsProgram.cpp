@@ -42,6 +42,10 @@ void WindowsProgram::handle(const WindowMessage& message)
         carryOut(message);
     else if (message.kind == Kind::Refreshed)
         refresh(message);
+    else if (message.kind == Kind::PanelShows)
+        m_title->setShownItem({.form = static_cast<ShownItem::Form>(message.number),
+                               .text = QString::fromUtf8(message.text),
+                               .picture = message.data});
     else if (message.kind == Kind::Announced)
         m_services.notifications().hear(QString::fromUtf8(message.text));
 }

@@ -4,6 +4,7 @@
 
 #include "menubar/TitleTemplate.h"
 #include "platform/RunLoop.h"
+#include "platform/ShownItem.h"
 
 namespace quindle {
 
@@ -22,6 +23,9 @@ public:
 
     /// What the placeholders of a title template stand for at the moment; nothing without a battery.
     virtual std::optional<TitleValues> titleValues() const = 0;
+
+    /// What the panel shows of the item; nothing where that is not known.
+    virtual std::optional<ShownItem> shownItem() const { return std::nullopt; }
 
     /// Values are kept up to date on time for as long as the returned object exists.
     virtual Punctuality watchValues() const = 0;

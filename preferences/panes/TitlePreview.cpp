@@ -4,8 +4,11 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QImage>
 #include <QPainter>
+#include <QStyle>
 
+#include "platform/ShownItem.h"
 #include "preferences/panes/StatusBarTitle.h"
 #include "widgets/BoundControls.h"
 #include "widgets/PaletteMix.h"
@@ -42,6 +45,7 @@ void TitlePreview::follow(const BoundLineEdit& field, const StatusBarTitle& titl
         refresh();
     });
     showPending(field.isPending());
+    m_followsField = true;
     follow(title);
 }
 
@@ -60,12 +64,60 @@ void TitlePreview::setTitleTemplate(const QString& titleTemplate)
 
 void TitlePreview::refresh()
 {
+    // A field is for a text, which panels that do not show it have in their tool tip.
+    const auto item = m_followsField ? std::nullopt : m_title->shownItem();
     const auto values = m_title->titleValues();
-    const QString title = values ? titleFromTemplate(m_titleTemplate, *values) : QString();
-    const QString instead = values ? tr("no text") : tr("no text without a battery");
+    if (item)
+        showItem(*item);
+    else if (values)
+        showTitle(titleFromTemplate(m_titleTemplate, *values), tr("no text"));
+    else
+        showTitle({}, tr("no text without a battery"));
+    m_shown.setAccessibleName((m_isPending ? tr("Would show %1") : tr("Now shows %1")).arg(m_shown.text()));
+}
+
+void TitlePreview::showTitle(const QString& title, const QString& instead)
+{
     m_shown.setQuiet(title.isEmpty());
     m_shown.setText(title.isEmpty() ? instead : title);
-    m_shown.setAccessibleName((m_isPending ? tr("Would show %1") : tr("Now shows %1")).arg(m_shown.text()));
+}
+
+void TitlePreview::showItem(const ShownItem& item)
+{
+    using Form = ShownItem::Form;
+    m_picture = QImage::fromData(item.picture, "PNG").convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    update();
+    if (item.form == Form::Text)
+        showTitle(item.text, tr("no text"));
+    else if (item.form == Form::Number)
+        showTitle({}, tr("the number %1").arg(item.text));
+    else
+        showTitle({}, item.form == Form::Icon ? tr("the icon alone") : tr("nothing, without a panel"));
+}
+
+// Before the text, as panels have it; nowhere where the text needs all the room.
+QRect TitlePreview::pictureRect() const
+{
+    const int side = fontMetrics().height();
+    const int gap = side / 3;
+    const int width = m_shown.fontMetrics().horizontalAdvance(m_shown.text());
+    if (m_picture.isNull() || width + gap + side > m_shown.width())
+        return {};
+    const QRect leftToRight(m_shown.geometry().right() + 1 - width - gap - side, (height() - side) / 2, side,
+                            side);
+    return QStyle::visualRect(layoutDirection(), rect(), leftToRight);
+}
+
+// In the colour of the text, as panels do.
+void TitlePreview::paintPicture(QPainter& painter) const
+{
+    QImage coloured = m_picture;
+    QPainter colours(&coloured);
+    colours.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    colours.fillRect(coloured.rect(), textOf(*this));
+    colours.end();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(pictureRect(), coloured);
 }
 
 void TitlePreview::showPending(bool isPending)
@@ -119,6 +171,8 @@ void TitlePreview::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     painter.setBrush(mixed(textOf(*this), backgroundOf(*this), share));
     painter.drawRoundedRect(rect(), radius, radius);
+    if (!pictureRect().isEmpty())
+        paintPicture(painter);
 }
 
 } // namespace quindle

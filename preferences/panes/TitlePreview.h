@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 #include "platform/RunLoop.h"
+
+class QPainter;
 
 namespace quindle {
 
@@ -10,6 +13,7 @@ class BoundLineEdit;
 class PlainLabel;
 class QuietLabel;
 class StatusBarTitle;
+struct ShownItem;
 
 /// The title that a template gives at the moment: the text in a field, or one that is bound. The caption
 /// marks a text that is not stored. While it is seen it watches the values.
@@ -24,7 +28,8 @@ public:
     /// Shows what the field's text gives from now on, at every change of it. Both must outlive the preview.
     void follow(const BoundLineEdit& field, const StatusBarTitle& title);
 
-    /// Shows what `titleTemplate` gives from now on.
+    /// Shows from now on what the panel shows of the item; where that is not known, what `titleTemplate`
+    /// gives.
     void follow(const StatusBarTitle& title);
 
     const QString& titleTemplate() const { return m_titleTemplate; }
@@ -42,15 +47,21 @@ protected:
 
 private:
     void showPending(bool isPending);
+    void showTitle(const QString& title, const QString& instead);
+    void showItem(const ShownItem& item);
+    QRect pictureRect() const;
+    void paintPicture(QPainter& painter) const;
     void fitToFont();
     void watch(bool isSeen);
 
     QString m_titleTemplate;
     bool m_isPending = false;
+    bool m_followsField = false;
     const StatusBarTitle* m_title = nullptr;
     Punctuality m_watched;
     QuietLabel& m_caption;
     PlainLabel& m_shown;
+    QImage m_picture; ///< of what the panel shows; null for none
 };
 
 } // namespace quindle

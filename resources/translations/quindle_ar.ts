@@ -1703,6 +1703,18 @@
         <source>no text without a battery</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>nothing, without a panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the icon alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the number %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>quindle::UpdatePreferencesController</name>

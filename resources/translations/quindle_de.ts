@@ -1655,6 +1655,18 @@
         <source>no text without a battery</source>
         <translation>ohne Batterie keinen Text</translation>
     </message>
+    <message>
+        <source>nothing, without a panel</source>
+        <translation>nichts, ohne Leiste</translation>
+    </message>
+    <message>
+        <source>the icon alone</source>
+        <translation>nur das Symbol</translation>
+    </message>
+    <message>
+        <source>the number %1</source>
+        <translation>die Zahl %1</translation>
+    </message>
 </context>
 <context>
     <name>quindle::UpdatePreferencesController</name>

@@ -94,6 +94,16 @@ TEST_F(RemoteControllersTest, RefreshesAreToldWhileSomebodyLooks)
     EXPECT_TRUE(told().empty());
 }
 
+TEST_F(RemoteControllersTest, WhatThePanelShowsIsToldWithEachRefresh)
+{
+    helper.record().shown = ShownItem{ShownItem::Form::Number, QStringLiteral("87"), "PNG"};
+    watch();
+    helper.delegate->updateStatusBarTitle();
+    EXPECT_EQ(told(), (std::vector<WindowMessage>{
+                          {.kind = Kind::PanelShows, .text = "87", .number = 2, .data = "PNG"},
+                          {.kind = Kind::Refreshed, .number = 3}}));
+}
+
 TEST_F(RemoteControllersTest, TimersArePunctualWhileSomebodyLooks)
 {
     helper.interface.statusMenu().openView();

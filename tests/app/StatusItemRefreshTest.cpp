@@ -55,6 +55,19 @@ TEST_F(StatusItemRefreshTest, TheTitleIsSetThreeTimes)
               QStringList({QStringLiteral("100 %"), QStringLiteral("87.0%"), QStringLiteral("87.0%")}));
 }
 
+TEST_F(StatusItemRefreshTest, TheNumberTellsOfPowerWhereTheIconWould)
+{
+    setBattery(87);
+    launch();
+    EXPECT_FALSE(record().fallbackOnPower);
+    platform.battery()[QStringLiteral("ExternalConnected")] = true;
+    refresh();
+    EXPECT_TRUE(record().fallbackOnPower) << "on power, not charging";
+    platform.battery()[QStringLiteral("ExternalConnected")] = false;
+    refresh();
+    EXPECT_FALSE(record().fallbackOnPower);
+}
+
 TEST_F(StatusItemRefreshTest, AnEmptyTemplateLeavesTheIconAlone)
 {
     setBattery(87);

@@ -138,6 +138,14 @@ class General(PreferencesCase):
         self.act("push button", "Menu Bar Text")
         self.assertTrue(wait_for(lambda: self.window("Menu Bar Text"), 5))
 
+    def test_the_menu_bar_pane_shows_what_the_panel_shows(self):
+        self.act("radio button", "Menu Bar")
+        for choice, shown in (("What suits the panel", "the icon alone"),
+                              ("One wide picture with the text", "the number 66"),
+                              ("Icon only", "the icon alone")):
+            self.act("radio button", choice)
+            self.assertTrue(self.control("label", f"Now shows {shown}"), choice)
+
     def test_every_control_has_a_name_and_the_keyboard_reaches_it(self):
         for pane in ("General", "Menu Bar", "Update"):
             self.act("radio button", pane)

@@ -1,7 +1,10 @@
 #include "preferences/panes/MenuBarPreferencesController.h"
 
+#include <QBuffer>
 #include <QIcon>
+#include <QImage>
 #include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
@@ -57,6 +60,46 @@ TEST_F(MenuBarPaneTest, showsTheTitleOfTheStoredTemplate)
     title.values->stateOfCharge = 12;
     pane.refresh();
     EXPECT_EQ(shownTitle(), latin("12.0%"));
+}
+
+TEST_F(MenuBarPaneTest, showsWhatThePanelShows)
+{
+    using Form = ShownItem::Form;
+    const std::pair<ShownItem, QString> cases[]{
+        {{Form::Text, latin("66.7% 3:42")}, latin("66.7% 3:42")},
+        {{Form::Number, latin("67")}, latin("the number 67")},
+        {{Form::Icon}, latin("the icon alone")},
+        {{Form::Nowhere}, latin("nothing, without a panel")},
+    };
+    pane.view();
+    for (const auto& [shown, text] : cases) {
+        title.shown = shown;
+        pane.refresh();
+        EXPECT_EQ(shownTitle(), text);
+    }
+}
+
+TEST_F(MenuBarPaneTest, drawsThePanelsPictureInTheColourOfTheText)
+{
+    QImage picture(44, 44, QImage::Format_ARGB32);
+    picture.fill(Qt::black);
+    QByteArray png;
+    QBuffer file(&png);
+    file.open(QIODevice::WriteOnly);
+    picture.save(&file, "PNG");
+    title.shown = ShownItem{ShownItem::Form::Number, latin("67"), png};
+    QWidget& preview = *pane.view().findChild<QWidget*>(latin("titlePreview"));
+    QPalette palette = preview.palette();
+    palette.setColor(QPalette::WindowText, Qt::red);
+    preview.setPalette(palette);
+    pane.refresh();
+    preview.resize(400, 40);
+    preview.layout()->activate();
+    const QImage seen = preview.grab().toImage();
+    int red = 0;
+    for (int x = 0; x < seen.width(); ++x)
+        red += seen.pixelColor(x, seen.height() / 2) == QColor(Qt::red) ? 1 : 0;
+    EXPECT_GE(red, preview.fontMetrics().height() - 2);
 }
 
 TEST_F(MenuBarPaneTest, titleWithoutABatteryIsSaidInWords)

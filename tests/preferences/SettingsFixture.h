@@ -43,10 +43,13 @@ public:
     std::optional<TitleValues> values =
         TitleValues{30.0, false, QStringLiteral("3:42"), 66.66, -12.44, -1043, 293};
 
+    std::optional<ShownItem> shown; ///< by the panel
+
     void updateStatusBarTitle() override {}
     void reloadBattery() override {}
     std::optional<TitleValues> titleValues() const override { return values; }
     Punctuality watchValues() const override { return m_watched; }
+    std::optional<ShownItem> shownItem() const override { return shown; }
 
     bool isWatched() const { return m_watched.use_count() > 1; }
 

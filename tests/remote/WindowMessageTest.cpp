@@ -16,6 +16,7 @@ const WindowMessage messages[]{
     {.kind = Kind::ShowPreferences, .pointer = QPoint(-1920, -1)},
     {.kind = Kind::ShowMenuBarText, .data = QByteArray("\0\1\xff", 3)},
     {.kind = Kind::Refreshed, .number = 0xffffffff},
+    {.kind = Kind::PanelShows, .text = "87", .number = 2, .data = "PNG"},
     {.kind = Kind::Announced, .text = "SettingsChangedNotification"},
     {.kind = Kind::Heard, .number = 1},
     {.kind = Kind::Idle, .number = 0x01020304},

@@ -172,6 +172,8 @@ struct StatusItemRecord
     std::vector<double> fontSizesSet;
     QStringList toolTipsSet;
     QStringList fallbackTextsSet;
+    bool fallbackOnPower = false;
+    std::optional<ShownItem> shown; ///< by the panel
     std::vector<bool> attentionSet;
     StatusMenu* menu = nullptr;
 };
@@ -190,6 +192,8 @@ public:
     std::shared_ptr<Image> image() const override;
     void setMenuBarFontSize(double points) override { m_record->fontSizesSet.push_back(points); }
     void setFallbackText(const QString& text) override { m_record->fallbackTextsSet.append(text); }
+    void setFallbackOnPower(bool hasPower) override { m_record->fallbackOnPower = hasPower; }
+    std::optional<ShownItem> shownItem() override { return m_record->shown; }
     void setToolTipText(const QString& text) override { m_record->toolTipsSet.append(text); }
     void setMenu(StatusMenu* menu) override { m_record->menu = menu; }
     void setNeedsAttention(bool needed) override { m_record->attentionSet.push_back(needed); }

@@ -48,6 +48,16 @@ TEST_F(SharedServicesTest, TheHelperLearnsWhenSomebodyLooks)
     EXPECT_EQ(link.told(), (Messages{{.kind = Kind::Watched, .number = 1}}));
 }
 
+TEST_F(SharedServicesTest, WhatThePanelShowsIsKnownOnceTheHelperHasToldIt)
+{
+    CountingTitle own;
+    SharedTitle title(helper, own);
+    EXPECT_EQ(title.shownItem(), std::nullopt);
+    const ShownItem shown{ShownItem::Form::Number, QStringLiteral("87"), "PNG"};
+    title.setShownItem(shown);
+    EXPECT_EQ(title.shownItem(), shown);
+}
+
 TEST_F(SharedServicesTest, TimersNeverFire)
 {
     HelpersRunLoop loop(helper);

@@ -5,13 +5,13 @@
 #include <QByteArray>
 #include <QRectF>
 
-#include "platform/linux/pictures/FontFace.h"
+#include "platform/linux/pictures/NumberPlace.h"
 
 namespace quindle {
 
-/// An outline as an SVG drawing of 22 by 22 that it fills but for a margin of 1; `box` is around it. Empty
-/// for an empty outline. A host that colours drawings takes the colour by the class "ColorScheme-Text" or,
-/// from the file's name, for all of it.
-QByteArray textDrawing(const std::vector<OutlineStep>& outline, const QRectF& box);
+/// An outline as an SVG drawing of 22 by 22 in which its box fills that place; empty for an empty outline.
+/// Where there is a place for the bolt, it is drawn too. A host that colours drawings takes the colour by the
+/// class "ColorScheme-Text" or, from the file's name, for all of it.
+QByteArray textDrawing(const std::vector<OutlineStep>& outline, const QRectF& box, const NumberPlace& place);
 
 } // namespace quindle

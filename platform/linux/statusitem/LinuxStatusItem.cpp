@@ -11,6 +11,7 @@
 #include "platform/StatusMenu.h"
 #include "platform/linux/display/X11Desktop.h"
 #include "platform/linux/os/MonotonicClock.h"
+#include "platform/linux/pictures/Png.h"
 #include "platform/linux/session/BusLink.h"
 #include "platform/linux/statusitem/MenuAdaptor.h"
 #include "platform/linux/statusitem/NotifierTypes.h"
@@ -145,6 +146,12 @@ void LinuxStatusItem::setFallbackText(const QString& text)
     scheduleFlush();
 }
 
+void LinuxStatusItem::setFallbackOnPower(bool hasPower)
+{
+    m_wanted.contents.hasPower = hasPower;
+    scheduleFlush();
+}
+
 void LinuxStatusItem::setToolTipText(const QString& text)
 {
     m_wanted.contents.toolTipText = text;
@@ -155,6 +162,17 @@ void LinuxStatusItem::setNeedsAttention(bool needed)
 {
     m_wanted.contents.needsAttention = needed;
     scheduleFlush();
+}
+
+std::optional<ShownItem> LinuxStatusItem::shownItem()
+{
+    constexpr int side = 44; // the windows may be on a screen with twice the pixels
+    if (!m_wanted.hasWatcher && !(m_tray && m_tray->isRunning()))
+        return ShownItem{};
+    ShownItem shown = quindle::shownItem(m_announced, m_announcedShape);
+    if (const auto picture = shownSquare(m_announced))
+        shown.picture = pngOf(m_pictures.image(*picture, side));
+    return shown;
 }
 
 void LinuxStatusItem::setMenu(StatusMenu* menu)
@@ -197,6 +215,7 @@ void LinuxStatusItem::flush()
         m_flushed = m_wanted;
         HostTraits host = m_wanted.hasWatcher ? withChoice(m_wanted.host, m_wanted.choice) : x11TrayTraits;
         host.textColour = m_wanted.textColour;
+        m_announcedShape = host.shape;
         announce(present(m_wanted.contents, host, m_wanted.fontFamily));
         if (!m_announced.picture.text.isEmpty())
             m_font.need();

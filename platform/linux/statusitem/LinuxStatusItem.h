@@ -62,9 +62,11 @@ public:
     std::shared_ptr<Image> image() const override;
     void setMenuBarFontSize(double points) override;
     void setFallbackText(const QString& text) override;
+    void setFallbackOnPower(bool hasPower) override;
     void setToolTipText(const QString& text) override;
     void setMenu(StatusMenu* menu) override;
     void setNeedsAttention(bool needed) override;
+    std::optional<ShownItem> shownItem() override;
 
     /// Whether each refresh asks whether an X11 tray has come.
     bool looksForTray() const;
@@ -119,6 +121,7 @@ private:
     Decisive m_wanted;
     std::optional<Decisive> m_flushed;
     Presentation m_announced;
+    HostShape m_announcedShape = HostShape::Square; ///< that it was made for
     QString m_activationToken;
     bool m_flushScheduled = false;
     bool m_menuChanged = false;

@@ -29,7 +29,12 @@ Picture squarePicture(const ItemContents& contents, bool showsNumber)
     const bool hasNumber = !text.isEmpty() && text.size() <= squareTextLength;
     if (!contents.imageName.isEmpty() && !(showsNumber && hasNumber))
         return iconPicture(contents.imageName);
-    return hasNumber ? Picture{Picture::Kind::Text, {}, text, 0.0, 0} : iconPicture(lastResortImage());
+    if (!hasNumber)
+        return iconPicture(lastResortImage());
+    Picture number{Picture::Kind::Text, {}, text, 0.0, 0};
+    // What the charging icons tell that it stands for.
+    number.hasBolt = contents.hasPower;
+    return number;
 }
 
 Picture pictureFor(const ItemContents& contents, const HostTraits& host)
@@ -92,6 +97,33 @@ Presentation present(const ItemContents& contents, const HostTraits& host, const
     presented.carrier = carrierOf(presented.picture, host);
     presented.needsAttention = contents.needsAttention;
     return presented;
+}
+
+ShownItem shownItem(const Presentation& presentation, HostShape shape)
+{
+    const Picture& picture = presentation.picture;
+    if (picture.kind == Picture::Kind::Text)
+        return {.form = ShownItem::Form::Number, .text = picture.text};
+    if (picture.kind == Picture::Kind::Wide)
+        return {.form = ShownItem::Form::Text, .text = picture.text};
+    // Other hosts are told the label, too, and show none.
+    if (shape == HostShape::Label && !presentation.label.trimmed().isEmpty())
+        return {.form = ShownItem::Form::Text, .text = presentation.label.trimmed()};
+    return {.form = ShownItem::Form::Icon};
+}
+
+std::optional<Picture> shownSquare(const Presentation& presentation)
+{
+    Picture picture = presentation.picture;
+    if (picture.kind == Picture::Kind::Wide) {
+        picture = iconPicture(picture.imageName);
+        if (picture.imageName.isEmpty())
+            return std::nullopt;
+    }
+    if (picture.kind == Picture::Kind::Transparent)
+        return std::nullopt;
+    picture.ink = opaqueColour(0, 0, 0);
+    return picture;
 }
 
 Picture attentionPicture(const Presentation& presentation)

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
+
 #include <QString>
 
+#include "platform/ShownItem.h"
 #include "platform/linux/os/Colour.h"
 #include "platform/linux/statusitem/HostTraits.h"
 
@@ -16,6 +19,7 @@ struct ItemContents
     QString toolTipText;
     double fontSize = 12.0; ///< points in a bar 22 points high
     bool needsAttention = false;
+    bool hasPower = false; ///< the charging icons' condition
 
     friend bool operator==(const ItemContents&, const ItemContents&) = default;
 };
@@ -25,7 +29,7 @@ struct Picture
 {
     enum class Kind {
         Icon,        ///< the image `imageName`, square
-        Text,        ///< `text` as large as it fits a square
+        Text,        ///< `text`, a number, as large as it fits a square
         Wide,        ///< the image, if there is one, and `text` beside it
         Transparent, ///< nothing: the host writes the title itself
     };
@@ -40,6 +44,7 @@ struct Picture
     bool inAllHeights = false; ///< a wide one is wanted as high as icons, not large and to be scaled
     QString fontFamily{};      ///< of text; empty for the system's usual one
     bool isAlarming = false;   ///< drawn in red
+    bool hasBolt = false;      ///< of Text: a small bolt stands below it
 
     friend bool operator==(const Picture&, const Picture&) = default;
 };
@@ -71,6 +76,12 @@ struct Presentation
 /// one line and cut with an ellipsis; the picture is never empty unless the host writes the title. The family
 /// is the one that the desktop writes in, empty while that is unknown.
 Presentation present(const ItemContents& contents, const HostTraits& host, const QString& fontFamily = {});
+
+/// What a panel with hosts of that shape shows of it, without the picture's pixels.
+ShownItem shownItem(const Presentation& presentation, HostShape shape);
+
+/// The square picture that is seen of it, in an ink to be replaced; nothing where none is.
+std::optional<Picture> shownSquare(const Presentation& presentation);
 
 /// What a host shows instead of the picture while the item needs attention, if it does: the same in red, so
 /// that nothing is lost.

@@ -11,6 +11,8 @@
 #include "common/Paths.h"
 #include "platform/linux/os/UserFolders.h"
 #include "platform/linux/pictures/Eliding.h"
+#include "platform/linux/pictures/GlyphBitmap.h"
+#include "platform/linux/pictures/NumberPlace.h"
 #include "platform/linux/pictures/Png.h"
 #include "platform/linux/pictures/TextDrawing.h"
 #include "platform/posix/FileReplacement.h"
@@ -78,9 +80,9 @@ Argb inkOf(const Picture& picture)
 Pixels ground(const Picture& picture, int width, int height)
 {
     Pixels pixels = blankPixels(width, height);
+    const int inset = picture.hasBolt ? 0 : 2 * (height / gridSize);
     if (!isKnown(picture.ink))
-        paintMask(pixels, 0, 0, roundedRectangle(width, height, 2 * (height / gridSize), height / 5.5),
-                  plateColour);
+        paintMask(pixels, 0, 0, roundedRectangle(width, height, inset, height / 5.5), plateColour);
     return pixels;
 }
 
@@ -91,13 +93,15 @@ int onGrid(int size)
     return grid * std::max(1, qRound(static_cast<double>(size) / grid));
 }
 
-/// The font size, pixels, in which the text of that ink in a size of 100 fills a square but for a pixel of
-/// the grid on each side.
-int fittingSize(const QRectF& ink, int size)
+QRectF scaled(const QRectF& box, double scale)
 {
-    const double room = size * (gridSize - 2.0) / gridSize;
-    const double scale = std::min(room / std::max(1.0, ink.width()), room / std::max(1.0, ink.height()));
-    return std::max(1, static_cast<int>(std::min(trialSize * scale, static_cast<double>(size))));
+    return {box.topLeft() * scale, box.size() * scale};
+}
+
+/// Two figures of a number; all of a shorter one.
+QString pairOf(const QString& number)
+{
+    return number.right(2);
 }
 
 int wideFontSize(double points, double scale)
@@ -149,6 +153,12 @@ QString writtenPicture(const QString& name, const std::function<QByteArray()>& m
     return isWritten ? path : QString();
 }
 
+/// What a file's name has for the bolt.
+QString boltMark(const Picture& picture)
+{
+    return picture.hasBolt ? QStringLiteral("-bolt") : QString();
+}
+
 /// What a file name may hold; a title may hold anything.
 QString plainName(QString text)
 {
@@ -186,7 +196,7 @@ QString StatusPictures::file(const Picture& picture)
 {
     // All that the picture depends on, so that another picture has another name.
     const QString name = plainName(picture.imageName + picture.text + picture.fontFamily) +
-                         QString::number(picture.ink, 16) +
+                         QString::number(picture.ink, 16) + boltMark(picture) +
                          (picture.isAlarming ? QStringLiteral("-alarming.png") : QStringLiteral(".png"));
     return writtenPicture(name, [&] { return pngOf(image(picture, squareSizes.back())); });
 }
@@ -195,7 +205,7 @@ QString StatusPictures::drawing(const Picture& picture)
 {
     if (picture.kind == Picture::Kind::Text)
         return writtenPicture(QString::fromLatin1(picture.text.toUtf8().toHex()) +
-                                  plainName(picture.fontFamily) + symbolic(),
+                                  plainName(picture.fontFamily) + boltMark(picture) + symbolic(),
                               [&] { return drawingOfText(picture); });
     QString path = drawingOfImage(picture.imageName, picture.isSmall);
     if (!isThere(path))
@@ -224,8 +234,9 @@ QByteArray StatusPictures::drawingOfText(const Picture& picture)
     std::vector<OutlineStep> outline;
     m_lettering.setFamily(picture.fontFamily);
     const QRectF box = m_lettering.addOutline(m_lettering.line(picture.text, outlineSize), outline);
+    const NumberPlace place = placeOf(picture, box.size(), outlineSize);
     m_lettering.rest();
-    return textDrawing(outline, box);
+    return textDrawing(outline, box, place);
 }
 
 Pixels StatusPictures::drawn(const Picture& picture, int size)
@@ -254,17 +265,44 @@ Pixels StatusPictures::icon(const Picture& picture, int size)
     return pixels;
 }
 
+NumberPlace StatusPictures::placeOf(const Picture& picture, QSizeF ink, int fontSize)
+{
+    const double pair = m_lettering.inkOf(m_lettering.line(pairOf(picture.text), fontSize)).width();
+    return numberPlace(ink, pair, picture.hasBolt);
+}
+
 Pixels StatusPictures::squareText(const Picture& picture, int size)
 {
     Pixels pixels = ground(picture, size, size);
     // The size of letters is known only once they are laid out.
     const QRectF trial = m_lettering.inkOf(m_lettering.line(picture.text, trialSize));
-    const TextLine line = m_lettering.line(picture.text, fittingSize(trial, size));
+    const NumberPlace place = placeOf(picture, trial.size(), trialSize);
+    const double scale = static_cast<double>(size) / gridSize;
+    paintNumber(pixels, picture, scaled(place.number, scale), trial);
+    const QRect bolt = scaled(place.bolt, scale).toRect();
+    paintMask(pixels, bolt.x(), bolt.y(), boltMask(bolt.width(), bolt.height()), inkOf(picture));
+    return pixels;
+}
+
+/// `trial` is what the number covers in the trial's size.
+void StatusPictures::paintNumber(Pixels& onto, const Picture& picture, const QRectF& place,
+                                 const QRectF& trial)
+{
+    const double wanted = trialSize * place.height() / std::max(1.0, trial.height());
+    const int fontSize = std::clamp(static_cast<int>(wanted), 1, onto.height);
+    const TextLine line = m_lettering.line(picture.text, fontSize);
     const QRectF ink = m_lettering.inkOf(line);
     // Whole pixels: a baseline between two of them blurs every figure's foot.
-    const QPointF origin = QPointF(size, size) / 2.0 - ink.center();
-    m_lettering.paint(pixels, qRound(origin.x()), qRound(origin.y()), line, inkOf(picture));
-    return pixels;
+    const QPoint origin = (place.center() - ink.center()).toPoint();
+    if (ink.width() <= place.width() + 1) {
+        m_lettering.paint(onto, origin.x(), origin.y(), line, inkOf(picture));
+        return;
+    }
+    const QRect box = ink.toAlignedRect();
+    Pixels whole = blankPixels(box.width(), box.height());
+    m_lettering.paint(whole, -box.x(), -box.y(), line, inkOf(picture));
+    const Pixels narrow = resized(whole, qRound(place.width()), box.height());
+    paintPixels(onto, qRound(place.x()), origin.y() + box.y(), narrow);
 }
 
 Pixels StatusPictures::wideText(const Picture& picture, int height)

@@ -6,6 +6,7 @@
 
 #include "platform/linux/pictures/IconMasks.h"
 #include "platform/linux/pictures/Lettering.h"
+#include "platform/linux/pictures/NumberPlace.h"
 #include "platform/linux/pictures/Pixels.h"
 #include "platform/linux/statusitem/Presentation.h"
 
@@ -39,7 +40,9 @@ public:
 private:
     Pixels drawn(const Picture& picture, int size);
     Pixels icon(const Picture& picture, int size);
+    NumberPlace placeOf(const Picture& picture, QSizeF ink, int fontSize);
     Pixels squareText(const Picture& picture, int size);
+    void paintNumber(Pixels& onto, const Picture& picture, const QRectF& place, const QRectF& trial);
     Pixels wideText(const Picture& picture, int height);
     QByteArray drawingOfText(const Picture& picture);
     QString drawingOfImage(const QString& name, bool isSmall) const;

@@ -18,17 +18,27 @@ TEST(TextDrawing, TheOutlineFillsTheDrawingButForAMargin)
                                            {'Q', {{30, 20}, {20, 20}}},
                                            {'C', {{18, 20}, {12, 20}, {10, 15}}},
                                            {'Z', {}}};
-    const QByteArray drawing = textDrawing(outline, QRectF(10, 10, 20, 10));
+    const QByteArray drawing = textDrawing(outline, QRectF(10, 10, 20, 10), {QRectF(1, 6, 20, 10), {}});
     EXPECT_TRUE(drawing.contains("d=\"M1.00 6.00L21.00 6.00Q21.00 16.00 11.00 16.00"
                                  "C9.00 16.00 3.00 16.00 1.00 11.00Z\""))
         << drawing.constData();
     EXPECT_TRUE(drawing.contains("class=\"ColorScheme-Text\" fill=\"currentColor\""));
 }
 
+TEST(TextDrawing, TheOutlineIsStretchedToItsPlaceAndTheBoltDrawnInIts)
+{
+    const std::vector<OutlineStep> outline{{'M', {{0, 0}}}, {'L', {{30, 10}}}, {'Z', {}}};
+    const QByteArray drawing =
+        textDrawing(outline, QRectF(0, 0, 30, 10), {QRectF(1, 1, 20, 10), QRectF(6, 12, 10, 10)});
+    EXPECT_TRUE(drawing.contains("d=\"M1.00 1.00L21.00 11.00ZM12.80 12.00L6.00 18.60L"))
+        << drawing.constData();
+    EXPECT_TRUE(QSvgRenderer(drawing).isValid());
+}
+
 TEST(TextDrawing, WithoutInkThereIsNone)
 {
-    EXPECT_EQ(textDrawing({}, QRectF(0, 0, 1, 1)), QByteArray());
-    EXPECT_EQ(textDrawing({{'M', {{1, 1}}}}, QRectF()), QByteArray());
+    EXPECT_EQ(textDrawing({}, QRectF(0, 0, 1, 1), {}), QByteArray());
+    EXPECT_EQ(textDrawing({{'M', {{1, 1}}}}, QRectF(), {}), QByteArray());
 }
 
 TEST(TextDrawing, TheDrawnTextLooksLikeTheWrittenOne)
@@ -37,7 +47,7 @@ TEST(TextDrawing, TheDrawnTextLooksLikeTheWrittenOne)
     lettering.setFamily(QStringLiteral("DejaVu Sans"));
     std::vector<OutlineStep> outline;
     const QRectF box = lettering.addOutline(lettering.line(QStringLiteral("80"), 1000), outline);
-    QSvgRenderer drawing(textDrawing(outline, box));
+    QSvgRenderer drawing(textDrawing(outline, box, numberPlace(box.size(), box.width(), false)));
     ASSERT_TRUE(drawing.isValid());
     QImage drawn(220, 220, QImage::Format_ARGB32_Premultiplied);
     drawn.fill(Qt::transparent);

@@ -76,6 +76,54 @@ TEST(Presentation, ANumberStandsForAWidePictureWherePicturesAreSquare)
     EXPECT_EQ(present(unknown, host).picture.imageName, u("#nobat"));
 }
 
+TEST(Presentation, ANumberTellsOfPowerAndIconsHaveTheirOwnBolt)
+{
+    ItemContents contents{u("87.0%"), {}, u("87"), {}, 12.0};
+    EXPECT_FALSE(present(contents, squareHost).picture.hasBolt);
+    contents.hasPower = true;
+    EXPECT_TRUE(present(contents, squareHost).picture.hasBolt);
+    contents.imageName = u("#bat44Charge");
+    EXPECT_FALSE(present(contents, squareHost).picture.hasBolt);
+    EXPECT_FALSE(present(contents, wideHost).picture.hasBolt);
+    EXPECT_FALSE(present(contents, labelHost).picture.hasBolt);
+}
+
+TEST(Presentation, WhatIsSeenOfItIsToldForAWindow)
+{
+    using Form = ShownItem::Form;
+    struct Case
+    {
+        const char* name;
+        HostTraits host;
+        const char* image;
+        ShownItem shown;
+        bool hasSquare;
+    };
+    HostTraits numberHost = squareHost;
+    numberHost.showsNumber = true;
+    const Case cases[]{
+        {"label", labelHost, "#bat34", {Form::Text, u("87.0%")}, true},
+        {"label without icon", labelHost, "", {Form::Text, u("87.0%")}, false},
+        {"wide", wideHost, "#bat34", {Form::Text, u("87.0%")}, true},
+        {"wide without icon", wideHost, "", {Form::Text, u("87.0%")}, false},
+        {"square", squareHost, "#bat34", {Form::Icon}, true},
+        {"square without icon", squareHost, "", {Form::Number, u("87")}, true},
+        {"number", numberHost, "#bat34", {Form::Number, u("87")}, true},
+    };
+    for (const Case& c : cases) {
+        const Presentation presented = present({u("87.0%"), u(c.image), u("87"), {}, 12.0}, c.host);
+        EXPECT_EQ(shownItem(presented, c.host.shape), c.shown) << c.name;
+        const auto square = shownSquare(presented);
+        ASSERT_EQ(square.has_value(), c.hasSquare) << c.name;
+        if (square) {
+            EXPECT_NE(square->kind, PictureKind::Wide) << c.name;
+            EXPECT_TRUE(isKnown(square->ink)) << c.name;
+        }
+    }
+    EXPECT_EQ(shownItem(present({{}, u("#bat34"), u("87"), {}, 12.0}, labelHost), HostShape::Label).form,
+              Form::Icon);
+}
+
 TEST(Presentation, textsOfAnOrdinaryTitle)
 {
     const Presentation presented = present({u("87.0%"), {}, u("87"), u("Charging"), 12.0}, squareHost);

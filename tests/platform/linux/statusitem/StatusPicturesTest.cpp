@@ -40,6 +40,23 @@ Picture wide(const QString& image, const QString& title)
     return {Picture::Kind::Wide, image, title, 12.0, 0};
 }
 
+/// Without a plate.
+Picture onDark(const char* digits)
+{
+    Picture picture = text(digits);
+    picture.ink = opaqueColour(255, 255, 255);
+    return picture;
+}
+
+QRect inkOf(const QImage& image)
+{
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ink |= image.pixelColor(x, y).alpha() > 64 ? QRect(x, y, 1, 1) : QRect();
+    return ink;
+}
+
 int lightPixels(const QImage& image)
 {
     int count = 0;
@@ -203,6 +220,49 @@ TEST_F(StatusPicturesTest, numberFillsTheSquare)
     }
 }
 
+TEST_F(StatusPicturesTest, hundredIsAsLargeAsTwoFigures)
+{
+    for (const int size : {16, 22, 24, 32, 44}) {
+        const QRect two = inkOf(drawn(onDark("93"), size));
+        const QRect three = inkOf(drawn(onDark("100"), size));
+        EXPECT_NEAR(three.height(), two.height(), size / 22) << size;
+        EXPECT_NEAR(three.center().y(), two.center().y(), 1) << size;
+        EXPECT_GE(three.left(), 0) << size;
+        EXPECT_GE(three.width(), size * 18 / 22) << size;
+        EXPECT_LE(three.width(), size * 20 / 22 + 1) << size;
+    }
+}
+
+TEST_F(StatusPicturesTest, theNumberOnPowerHasABoltBelow)
+{
+    for (const char* number : {"7", "87", "100"}) {
+        for (const int size : {16, 22, 24, 32, 44}) {
+            Picture picture = onDark(number);
+            const int alone = inkOf(drawn(picture, size)).height();
+            picture.hasBolt = true;
+            const QImage image = drawn(picture, size);
+            const QRect ink = inkOf(image);
+            EXPECT_LE(ink.bottom(), size - 1) << number << ' ' << size;
+            EXPECT_GE(ink.top(), 0) << number << ' ' << size;
+            const bool hasToMakeRoom = number[1] == 0;
+            EXPECT_GE(ink.height(), hasToMakeRoom ? alone : alone + size / 6) << number << ' ' << size;
+            // Where the bolt is: in the middle of the lowest part, and nothing at its sides.
+            const QRect bolt = inkOf(image.copy(0, size - size / 4, size, size / 4));
+            EXPECT_NEAR(bolt.center().x(), size / 2, 1 + size / 22) << number << ' ' << size;
+            EXPECT_LE(bolt.width(), size / 3) << number << ' ' << size;
+        }
+    }
+}
+
+TEST_F(StatusPicturesTest, thePlateIsUnderTheBoltToo)
+{
+    Picture picture = text("87");
+    picture.hasBolt = true;
+    const QImage image = drawn(picture, 22);
+    EXPECT_LT(image.pixelColor(4, 20).lightness(), 60);
+    EXPECT_GT(image.pixelColor(4, 20).alpha(), 128);
+}
+
 TEST_F(StatusPicturesTest, widePictureGrowsWithTheTitleWithinBounds)
 {
     const auto width = [this](const QString& image, const QString& title) {
@@ -332,6 +392,11 @@ TEST_F(StatusPicturesTest, whatHasNoDrawingHasNoFile)
 TEST_F(StatusPicturesTest, numbersDoNotShareADrawing)
 {
     EXPECT_NE(pictures.drawing(text("-5")), pictures.drawing(text("5")));
+    Picture charging = text("5");
+    charging.hasBolt = true;
+    EXPECT_NE(pictures.drawing(charging), pictures.drawing(text("5")));
+    EXPECT_NE(pictures.file(charging), pictures.file(text("5")));
+    QFile::remove(pictures.drawing(charging));
     for (const char* number : {"-5", "5"})
         QFile::remove(pictures.drawing(text(number)));
 }
