@@ -7,10 +7,10 @@
 #include "app/BatterySample.h"
 #include "app/HelperAppDelegate.h"
 #include "mac/QDMac.h"
+#include "platform/DetachedPrograms.h"
 #include "platform/Host.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
-#include "platform/TextReceiver.h"
 #include "platform/UserDefaults.h"
 #include "settings/HistorySettings.h"
 

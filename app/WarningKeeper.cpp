@@ -9,7 +9,7 @@
 #include "app/HelperAppDelegate.h"
 #include "battery/QDBattery.h"
 #include "mac/QDMac.h"
-#include "platform/CommandRunner.h"
+#include "platform/DetachedPrograms.h"
 #include "platform/Host.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Notifier.h"

@@ -8,10 +8,10 @@
 
 #include "app/HelperAppDelegate.h"
 #include "application/ApplicationWindow.h"
-#include "application/pages/ApplicationBundle.h"
 #include "application/saved/SavedSamples.h"
 #include "application/saved/SavedSnapshots.h"
 #include "menubar/MainInterface.h"
+#include "platform/Bundle.h"
 #include "platform/Platform.h"
 #include "preferences/panes/BoundSettings.h"
 #include "preferences/panes/GeneralPreferencesController.h"
@@ -29,6 +29,26 @@ struct ApplicationExtras
 {
     PowerManagers* powerManagers = nullptr; ///< null: no other program is known to warn
     IORegistry* registryAsItIs = nullptr;   ///< what captures hold; null: the platform's
+};
+
+/// The application's bundle as its panes see it: by its name alone. The folder that it is installed in has
+/// the helper's name, and a pane takes a bundle with that name in its path for the helper's, in which start
+/// at login cannot be switched.
+class ApplicationBundle : public Bundle
+{
+public:
+    /// `bundle` is the application's own; it must outlive this one.
+    explicit ApplicationBundle(const Bundle& bundle)
+        : m_bundle(bundle)
+    {
+    }
+
+    QString path() const override { return QStringLiteral("Quindle.app"); }
+    std::optional<QVariantMap> infoDictionary() const override { return m_bundle.infoDictionary(); }
+    QString resourcesPath() const override { return m_bundle.resourcesPath(); }
+
+private:
+    const Bundle& m_bundle;
 };
 
 /// The application on its computer: models of its own, which are refreshed as the helper's are, and the

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "platform/TextReceiver.h"
+#include "platform/DetachedPrograms.h"
 
 namespace quindle {
 

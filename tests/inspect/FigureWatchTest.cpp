@@ -1,4 +1,4 @@
-#include "inspect/FigureWatch.h"
+#include "inspect/Follower.h"
 
 #include <gtest/gtest.h>
 

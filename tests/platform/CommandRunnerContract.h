@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "platform/CommandRunner.h"
+#include "platform/DetachedPrograms.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/support/Texts.h"

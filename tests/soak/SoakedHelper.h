@@ -7,7 +7,7 @@
 #include "app/HelperAppDelegate.h"
 #include "app/SampleKeeper.h"
 #include "menubar/MainInterface.h"
-#include "platform/TextReceiver.h"
+#include "platform/DetachedPrograms.h"
 #include "platform/UrlSession.h"
 #include "platform/linux/settings/LinuxUserDefaults.h"
 #include "platform/linux/system/LinuxBundle.h"

@@ -2,7 +2,7 @@
 
 #include <QByteArrayList>
 
-#include "platform/TextReceiver.h"
+#include "platform/DetachedPrograms.h"
 
 namespace quindle {
 

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-#include "platform/CommandRunner.h"
+#include "platform/DetachedPrograms.h"
 #include "platform/Notifier.h"
 
 namespace quindle {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/CommandRunner.h"
+#include "platform/DetachedPrograms.h"
 
 namespace quindle {
 

@@ -2,7 +2,7 @@
 
 #include <QList>
 
-#include "platform/TextReceiver.h"
+#include "platform/DetachedPrograms.h"
 #include "platform/posix/FileDescriptor.h"
 
 namespace quindle {

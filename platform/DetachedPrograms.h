@@ -1,8 +1,22 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
+#include <QStringList>
 
+/// Programs that are started and not waited for.
 namespace quindle {
+
+/// Runs commands that the user has typed. Main thread only.
+class CommandRunner
+{
+public:
+    virtual ~CommandRunner() = default;
+
+    /// Starts the program that `command` begins with, with its other words and `arguments`, without a shell,
+    /// and does not wait for it. False when it cannot be started; a command that was started may still fail.
+    virtual bool run(const QString& command, const QStringList& arguments) = 0;
+};
 
 /// A program that is started with a text as its standard input, as often as there is one, and not waited for.
 /// Main thread only.
