@@ -1,5 +1,7 @@
 #include "application/Sidebar.h"
 
+#include <algorithm>
+
 #include <QEvent>
 #include <QListWidget>
 #include <QPainter>
@@ -113,10 +115,22 @@ void Sidebar::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
+int Sidebar::widestTitle() const
+{
+    QFont chosen = font();
+    chosen.setBold(true);
+    const QFontMetrics metrics(chosen);
+    int widest = 0;
+    for (int row = 0; row < m_list->count(); ++row)
+        widest = std::max(widest, metrics.horizontalAdvance(m_list->item(row)->text()));
+    return widest;
+}
+
 void Sidebar::fitToFont()
 {
     const int line = fontMetrics().height();
-    setFixedWidth(line * 9);
+    // Languages have longer titles than English; around them is the plate's room and the margin.
+    setFixedWidth(std::max(line * 9, widestTitle() + line * 11 / 4));
     m_layout->setContentsMargins(line / 2, line, line / 2, line);
     m_layout->setSpacing(line / 8);
     m_list->setSpacing(line / 16);

@@ -35,6 +35,7 @@ protected:
 
 private:
     void fitToFont();
+    int widestTitle() const;
 
     QListWidget* m_list;
     QVBoxLayout* m_layout;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/NumberTexts.h"
+#include "common/Translation.h"
 
 namespace quindle {
 
@@ -19,7 +20,7 @@ const ChartPoint& pointOf(const ChartContent& content, const ChartReading& readi
 
 QString tickText(const ChartContent& content, double value, int decimals)
 {
-    return content.tickText ? content.tickText(value, decimals) : fixedText(value, decimals);
+    return content.tickText ? content.tickText(value, decimals) : withDecimalSign(fixedText(value, decimals));
 }
 
 QString readingText(const ChartContent& content, const ChartReading& reading)

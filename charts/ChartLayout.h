@@ -26,6 +26,8 @@ struct ChartLayout
     QPointF at(double moment, double value) const;
 };
 
+/// Time runs from left to right in every language: scales and figures beside it do, as in charts printed in
+/// Arabic.
 ChartLayout chartLayout(const ChartContent& content, AxisSpan seen, const QRectF& area,
                         const QFontMetricsF& metrics, const QLocale& locale);
 

@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QRegularExpression>
 
+#include "common/Translation.h"
+
 namespace quindle {
 
 QString clockText(QTime time, const QLocale& locale)
@@ -17,7 +19,8 @@ QString dayText(QDate day, const QLocale& locale)
     // No format of the locale is a day without its year.
     const QString order = locale.dateFormat(QLocale::ShortFormat);
     const bool dayFirst = order.indexOf(u'd') < order.indexOf(u'M');
-    return locale.toString(day, dayFirst ? QStringLiteral("d MMM") : QStringLiteral("MMM d"));
+    return locale.toString(day, dayFirst ? translated("Dates", "d MMM", "as date formats write it")
+                                         : translated("Dates", "MMM d", "as date formats write it"));
 }
 
 QString dateText(QDate day, const QLocale& locale)

@@ -39,5 +39,6 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # Without a session bus only X11 trays work, without the SVG loader GNOME shows no icon, without the plug-in only X11
-# programs run on Wayland desktops, and without the text library letters that join do not, where the helper draws them.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-dbus-session-bus | dbus-session-bus, librsvg2-common, qt6-wayland, libraqm0")
+# programs run on Wayland desktops, and without the text library letters that join do not, where the helper draws them;
+# without the toolkit's translations its own texts, as in dialogs of files, are English.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-dbus-session-bus | dbus-session-bus, librsvg2-common, qt6-wayland, libraqm0, qt6-translations-l10n")

@@ -24,6 +24,9 @@ set(CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION
     /usr/share/icons/hicolor/48x48 /usr/share/icons/hicolor/48x48/apps
     /usr/share/icons/hicolor/128x128 /usr/share/icons/hicolor/128x128/apps
     /usr/share/icons/hicolor/scalable /usr/share/icons/hicolor/scalable/apps)
+foreach(language ${QUINDLE_LANGUAGES})
+    list(APPEND CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION /usr/share/man/${language} /usr/share/man/${language}/man1)
+endforeach()
 # The same bytes every time, as the Debian package: dates are SOURCE_DATE_EPOCH's, no machine is named. The plug-in is nobody
 # else's. The text library is opened by name when it is needed. CPack has no variables for the last two.
 set(CPACK_RPM_SPEC_MORE_DEFINE "%define use_source_date_epoch_as_buildtime 1

@@ -144,8 +144,8 @@ QString snapshotDateText(const QDateTime& date)
     const QLocale locale;
     // Some locales have seconds in their short form too.
     const QString time = locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
-    return locale.toString(date.date(), QStringLiteral("d MMM yyyy")) + u' ' +
-           locale.toString(date.time(), time);
+    return locale.toString(date.date(), translated("Dates", "d MMM yyyy", "as date formats write it")) +
+           u' ' + locale.toString(date.time(), time);
 }
 
 } // namespace quindle

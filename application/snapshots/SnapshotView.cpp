@@ -1,5 +1,7 @@
 #include "application/snapshots/SnapshotView.h"
 
+#include <algorithm>
+
 #include <QEvent>
 #include <QHeaderView>
 
@@ -58,8 +60,11 @@ void SnapshotView::fitToFont()
     verticalHeader()->setDefaultSectionSize(line * 8 / 5);
     // The smallest window has room for all; the last column takes what is left.
     constexpr double lines[snapshotColumns] = {7.5, 4, 5.3, 3.7, 4};
-    for (int column = 0; column < snapshotColumns; ++column)
-        setColumnWidth(column, qRound(line * lines[column]));
+    for (int column = 0; column < snapshotColumns; ++column) {
+        const QString caption = m_table->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int captionWidth = fontMetrics().horizontalAdvance(caption) + line;
+        setColumnWidth(column, std::max(qRound(line * lines[column]), captionWidth));
+    }
 }
 
 } // namespace quindle

@@ -33,8 +33,7 @@ using CountText = std::function<QString(qint64)>;
 QString monthText(qint64 moment)
 {
     const QLocale locale(translated("Trend", "C", "the locale that names months, such as de_DE"));
-    return locale.toString(dayOf(moment),
-                           translated("Trend", "MMMM yyyy", "a month, as date formats write it"));
+    return locale.toString(dayOf(moment), translated("Dates", "MMMM yyyy", "as date formats write it"));
 }
 
 QString thirdOfYearText(qint64 moment)

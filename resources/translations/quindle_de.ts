@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Dates</name>
+    <message>
+        <source>MMM d</source>
+        <comment>as date formats write it</comment>
+        <translation>d. MMM</translation>
+    </message>
+    <message>
+        <source>MMMM yyyy</source>
+        <comment>as date formats write it</comment>
+        <translation>MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <comment>as date formats write it</comment>
+        <translation>d. MMM</translation>
+    </message>
+    <message>
+        <source>d MMM yyyy</source>
+        <comment>as date formats write it</comment>
+        <translation>d. MMM yyyy</translation>
+    </message>
+</context>
+<context>
     <name>Details</name>
     <message>
         <source>No</source>
@@ -418,6 +441,65 @@
     </message>
 </context>
 <context>
+    <name>Packaging</name>
+    <message>
+        <source>Battery History</source>
+        <translation>Verlauf der Batterie</translation>
+    </message>
+    <message>
+        <source>Battery Status</source>
+        <translation>Batteriestatus</translation>
+    </message>
+    <message>
+        <source>Battery charge, health and time in the panel</source>
+        <translation>Ladung, Zustand und Restzeit der Batterie in der Leiste</translation>
+    </message>
+    <message>
+        <source>Battery charge, health and what becomes of them</source>
+        <translation>Ladung und Zustand der Batterie und was daraus wird</translation>
+    </message>
+    <message>
+        <source>Charge, power, remaining time, health, cycles, age and temperature</source>
+        <translation>Ladung, Leistung, Restzeit, Zustand, Ladezyklen, Alter und Temperatur</translation>
+    </message>
+    <message>
+        <source>Nothing is sent anywhere unless you allow it</source>
+        <translation>Nichts wird gesendet, wenn es nicht erlaubt wurde</translation>
+    </message>
+    <message>
+        <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
+        <translation>Quindle zeigt alles, was die Batterien eines tragbaren Computers melden, in einem Fenster. Sein Begleiter, Quindle Helper, sitzt in der Leiste mit einem Titel nach eigener Vorlage und einem Symbol; ein Klick darauf öffnet die Batterieansicht.</translation>
+    </message>
+    <message>
+        <source>Several batteries combined into one</source>
+        <translation>Mehrere Batterien als eine zusammengefasst</translation>
+    </message>
+    <message>
+        <source>Trays on X11 and on Wayland</source>
+        <translation>Leisten unter X11 und Wayland</translation>
+    </message>
+    <message>
+        <source>battery charge, health and time in the panel</source>
+        <translation>Ladung, Zustand und Restzeit der Batterie in der Leiste</translation>
+    </message>
+    <message>
+        <source>battery charge, health and what becomes of them</source>
+        <translation>Ladung und Zustand der Batterie und was daraus wird</translation>
+    </message>
+    <message>
+        <source>battery;power;charge;health;laptop;</source>
+        <translation>Batterie;Akku;Strom;Ladung;Zustand;Laptop;Notebook;</translation>
+    </message>
+    <message>
+        <source>battery;power;charge;health;wear;laptop;</source>
+        <translation>Batterie;Akku;Strom;Ladung;Zustand;Verschleiß;Laptop;Notebook;</translation>
+    </message>
+    <message>
+        <source>print the battery as Quindle Helper sees it</source>
+        <translation>gibt die Batterie aus, wie Quindle Helper sie sieht</translation>
+    </message>
+</context>
+<context>
     <name>Pages</name>
     <message>
         <source>Battery</source>
@@ -733,11 +815,6 @@
         <source>C</source>
         <comment>the locale that names months, such as de_DE</comment>
         <translation>de_DE</translation>
-    </message>
-    <message>
-        <source>MMMM yyyy</source>
-        <comment>a month, as date formats write it</comment>
-        <translation>MMMM yyyy</translation>
     </message>
     <message>
         <source>No wear to be seen in %1</source>
@@ -1103,7 +1180,7 @@
     </message>
     <message>
         <source>Menu bar &amp;text</source>
-        <translation>Text der &amp;Menüleiste</translation>
+        <translation>Titel&amp;text</translation>
     </message>
     <message>
         <source>Menu bar text</source>

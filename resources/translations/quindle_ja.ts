@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>Dates</name>
+    <message>
+        <source>MMM d</source>
+        <comment>as date formats write it</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MMMM yyyy</source>
+        <comment>as date formats write it</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <comment>as date formats write it</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>d MMM yyyy</source>
+        <comment>as date formats write it</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Details</name>
     <message>
         <source>No</source>
@@ -414,6 +437,65 @@
     </message>
 </context>
 <context>
+    <name>Packaging</name>
+    <message>
+        <source>Battery History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery charge, health and time in the panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery charge, health and what becomes of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charge, power, remaining time, health, cycles, age and temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is sent anywhere unless you allow it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Several batteries combined into one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trays on X11 and on Wayland</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>battery charge, health and time in the panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>battery charge, health and what becomes of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>battery;power;charge;health;laptop;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>battery;power;charge;health;wear;laptop;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print the battery as Quindle Helper sees it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Pages</name>
     <message>
         <source>Battery</source>
@@ -721,11 +803,6 @@
     <message>
         <source>C</source>
         <comment>the locale that names months, such as de_DE</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>MMMM yyyy</source>
-        <comment>a month, as date formats write it</comment>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -98,6 +98,20 @@ class Metadata(unittest.TestCase):
         self.assertEqual(component.findtext("name"), self.entry("quindle")["Name"])
         self.assertEqual(component.findtext("summary"), self.entry("quindle")["Comment"])
 
+    def test_other_languages(self):
+        languages = {path.stem.removeprefix("quindle_") for path in Path(SOURCE, "resources/translations").glob("*.ts")}
+        installed = {path.stem.removeprefix("quindle_") for path in (self.root / BUNDLE / "Resources/translations").iterdir()}
+        self.assertEqual(installed, languages)
+        for name in ENTRIES:
+            for key in ("GenericName", "Comment", "Keywords"):
+                self.assertNotEqual(self.entry(name)[f"{key}[de]"], self.entry(name)[key])
+        component = ElementTree.parse(self.metainfo).getroot()
+        summaries = {element.get("{http://www.w3.org/XML/1998/namespace}lang"): element.text
+                     for element in component.findall("summary")}
+        self.assertEqual(summaries["de"], self.entry("quindle")["Comment[de]"])
+        page = gzip.decompress((self.root / "share/man/de/man1/quindle.1.gz").read_bytes()).decode()
+        self.assertRegex(page, r"\nquindle \\- Ladung")
+
     def test_icons(self):
         icons = self.root / "share/icons/hicolor"
         for entry in ENTRIES:
@@ -110,8 +124,9 @@ class Metadata(unittest.TestCase):
                 self.assertGreater(len(picture), 300)  # an empty picture of this size is smaller
 
     def test_manual_pages(self):
-        for name in ("quindle", "quindle-helper", "quindle-inspect"):
-            page = self.root / f"share/man/man1/{name}.1.gz"
+        for name in ("quindle", "quindle-helper", "quindle-inspect", "de/quindle"):
+            language, _, name = name.rpartition("/")
+            page = self.root / "share/man" / language / f"man1/{name}.1.gz"
             self.assertEqual(page.read_bytes()[3:8], bytes(5), "no name and no time stamp in what gzip writes")
             result = run("man", "--warnings", "-E", "UTF-8", "-l", str(page), LC_ALL="C.UTF-8", MANWIDTH="80",
                          MANROFFSEQ="")
