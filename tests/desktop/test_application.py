@@ -252,6 +252,8 @@ class Snapshots(ApplicationCase):
         self.addCleanup(archive.unlink)
         self.assertEqual(archive.stat().st_mode & 0o777, 0o600)
         self.click("table cell", "5,000 mAh")
+        # Not while the archive is read again after the saving.
+        self.assertTrue(wait_for(lambda: "enabled" in self.control("push button", "Delete")["states"], 10))
         self.desktop.key("Delete")
         self.assert_text("1 snapshot deleted")
         self.assert_text("No snapshots yet")
@@ -260,6 +262,7 @@ class Snapshots(ApplicationCase):
         self.assertTrue(self.control("table cell", "5,000 mAh"))
 
 
+class SnapshotFiles(ApplicationCase):
     def choose_file(self, button, title, path):
         self.act("push button", button)
         self.assertTrue(wait_for(lambda: self.control("dialog", title), 10))
