@@ -94,15 +94,27 @@ class NotifierItem(HelperCase):
         self.assert_title("95.0%")
         self.assert_in_panel(panel)
 
-    def test_other_colours_of_the_panel_are_seen_when_the_menu_opens(self):
-        self.start(machine(95))
-        self.assert_title("95.0%")
-        time.sleep(5)  # the colours were asked for after the registration, and once more three seconds later
+    def colour_the_panel(self):
         self.desktop.call("sh", "-c", "for id in $(xwininfo -root -tree | grep -o '0x[0-9a-f]*' | sort -u); do "
                                       "xprop -id $id _NET_SYSTEM_TRAY_COLORS | grep -q = && "
                                       "xprop -id $id -f _NET_SYSTEM_TRAY_COLORS 32c -set _NET_SYSTEM_TRAY_COLORS "
                                       "65535,257,514,0,0,0,0,0,0,0,0,0; done")
         self.assertEqual(self.desktop.panel_text_colour(), "#FF0102")
+
+    def test_other_colours_of_the_panel_are_seen_when_the_theme_is_switched(self):
+        self.start(machine(95))
+        self.assert_title("95.0%")
+        time.sleep(5)  # the colours were asked for after the registration, and once more three seconds later
+        self.colour_the_panel()
+        self.desktop.call("gdbus", "emit", "--session", "--object-path", "/org/xfce/Xfconf", "--signal",
+                          "org.xfce.Xfconf.PropertyChanged", "xsettings", "/Net/ThemeName", "<'Adwaita-dark'>")
+        self.assert_in_panel("#FF0102")
+
+    def test_other_colours_of_the_panel_are_seen_when_the_menu_opens(self):
+        self.start(machine(95))
+        self.assert_title("95.0%")
+        time.sleep(5)  # the colours were asked for after the registration, and once more three seconds later
+        self.colour_the_panel()
         self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.AboutToShow", "0")
         self.assert_in_panel("#FF0102")
 

@@ -24,7 +24,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(logItem, "quindle.statusitem", QtWarningMsg)
 
-// Nothing announces a panel's new colours, and each query is a connection of its own.
+// Not every panel announces its new colours, and each query is a connection of its own.
 constexpr std::chrono::minutes panelLooksTheSame(10);
 // No matter how often menus are opened.
 constexpr std::chrono::seconds panelWasJustSeen(2);
@@ -52,6 +52,8 @@ LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, RunLoop& runLoop,
         &m_menuObject, [this] { useActivationToken(); }, [this] { lookAtPanelSoon(); });
     m_notifierItem = m_labelledItem;
     m_font.setBus(m_bus);
+    if (m_display.hasName())
+        m_themeSwitch.setBus(m_bus);
     connect(&m_font, &InterfaceFont::changed, this, [this] {
         m_wanted.fontFamily = m_font.family();
         scheduleFlush();
@@ -71,6 +73,8 @@ void LinuxStatusItem::setBus(const QDBusConnection& bus)
     m_bus = bus;
     m_guard.setBus(m_bus);
     m_font.setBus(m_bus);
+    if (m_display.hasName())
+        m_themeSwitch.setBus(m_bus);
     exportObjects();
     linkToWatcher();
     if (m_started)

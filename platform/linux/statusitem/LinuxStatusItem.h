@@ -20,6 +20,7 @@
 #include "platform/linux/statusitem/NotifierItemAdaptor.h"
 #include "platform/linux/statusitem/Presentation.h"
 #include "platform/linux/statusitem/StatusPictures.h"
+#include "platform/linux/statusitem/ThemeSwitch.h"
 
 namespace quindle {
 
@@ -115,6 +116,7 @@ private:
     X11Display m_display;
     ServerMark m_serverMark;
     InterfaceFont m_font{m_display, m_runLoop};
+    ThemeSwitch m_themeSwitch{m_runLoop, [this] { lookAtPanelAgain(); }};
     std::chrono::milliseconds m_panelSeen{0}; ///< since the computer's start
     std::shared_ptr<Image> m_image;
     StatusMenu* m_menu = nullptr;
