@@ -24,14 +24,18 @@
 #include "platform/linux/notifications/LinuxPowerManagers.h"
 #include "platform/linux/os/CoreDumps.h"
 #include "platform/linux/os/StandardError.h"
+#include "platform/linux/session/LinuxRunLoop.h"
 #include "platform/linux/session/SingleInstance.h"
 #include "platform/linux/session/StartDeadline.h"
 #include "platform/linux/upower/UPowerHistory.h"
+#include "platform/linux/windows/PortalWishes.h"
+#include "platform/linux/windows/SettingsPortal.h"
 #include "platform/linux/windows/ToolkitStart.h"
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
 #include "widgets/CloseKey.h"
+#include "widgets/DesktopLook.h"
 #include "widgets/WindowLanguage.h"
 
 using namespace quindle;
@@ -105,6 +109,11 @@ int run(ApplicationServices& services, SingleInstance& instance, bool isThisComp
     const Platform platform = services.platform();
     // A desktop of this kind places windows itself.
     const bool isWayland = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    LinuxRunLoop runLoop; // that of a recorded computer is not for what the desktop says
+    DesktopLook look(leavesColoursToPortal() ? DesktopLook::Colours::ByWishes
+                                             : DesktopLook::Colours::OfToolkit);
+    SettingsPortal portal(runLoop, [&look](const DesktopWishes& wishes) { look.follow(wishes); });
+    portal.followSession();
     LinuxPowerManagers powerManagers;
     ApplicationProgram program(
         platform, ApplicationPreferences::sharedInstance(&platform), services.helperBundle(), !isWayland,

@@ -34,7 +34,7 @@ ChartLook chartLook(const QWidget& widget)
     return {.font = quietFont(widget.font()),
             .background = background,
             .text = text,
-            .quiet = quietText(text, background),
+            .quiet = quietTextOf(widget),
             .grid = mixed(text, background, gridShare),
             .wear = visible(green, text, background),
             .charge =

@@ -1,7 +1,10 @@
 #include "view/BatteryWindow.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -11,9 +14,11 @@
 
 #include "battery/QDBattery.h"
 #include "facts/Facts.h"
+#include "facts/ValueTexts.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
 #include "view/BatteryView.h"
+#include "view/FactRow.h"
 #include "view/MenuEntry.h"
 #include "view/NoBatteryView.h"
 #include "view/ViewMetrics.h"
@@ -33,6 +38,29 @@ QScreen* screenAt(const QPoint& point)
     QScreen* screen = QGuiApplication::screenAt(point);
     // A tray may report a place between the screens.
     return screen ? screen : QGuiApplication::primaryScreen();
+}
+
+/// The row that the widget is or belongs to; null for none.
+const FactRow* rowOf(const QWidget* widget)
+{
+    while (widget && !qobject_cast<const FactRow*>(widget))
+        widget = widget->parentWidget();
+    return qobject_cast<const FactRow*>(widget);
+}
+
+/// A line for each fact that is shown.
+QString linesOf(const std::vector<Fact>& facts)
+{
+    QString lines;
+    for (const Fact& fact : facts)
+        if (fact.shown)
+            lines += joined(fact.caption, QStringLiteral(": "), factText(fact, FactPlace::View)) + u'\n';
+    return lines;
+}
+
+void copyText(const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
 }
 
 Qt::WindowFlags flagsOf(BatteryWindow::Kind kind)
@@ -102,7 +130,7 @@ void BatteryWindow::updateFacts()
 {
     const QDMac* mac = m_interface.macObjectController().content();
     const bool hasBattery = mac && mac->Battery();
-    const std::vector<Fact> facts = factsFor(FactPlace::View, m_interface.factSources());
+    m_facts = factsFor(FactPlace::View, m_interface.factSources());
     // At each update, because another battery is another object.
     followModels();
     if (!m_view || hasBattery != m_showsBattery) {
@@ -112,7 +140,7 @@ void BatteryWindow::updateFacts()
         else
             setView(new NoBatteryView);
     }
-    m_view->setFacts(facts);
+    m_view->setFacts(m_facts);
     if (isVisible())
         fit();
 }
@@ -212,8 +240,29 @@ bool BatteryWindow::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+void BatteryWindow::contextMenuEvent(QContextMenuEvent* event)
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const FactRow* row = rowOf(childAt(event->pos()));
+    if (row && !row->text().isEmpty())
+        menu->addAction(QStringLiteral("Copy"), this, [text = row->text()] { copyText(text); });
+    menu->addAction(QStringLiteral("Copy All"), this, [this] { copyText(linesOf(m_facts)); });
+    menu->popup(event->globalPos());
+}
+
+void BatteryWindow::copyFocusedOrAll()
+{
+    const FactRow* row = rowOf(focusWidget());
+    copyText(row ? row->text() : linesOf(m_facts));
+}
+
 void BatteryWindow::keyPressEvent(QKeyEvent* event)
 {
+    if (event->matches(QKeySequence::Copy)) {
+        copyFocusedOrAll();
+        return;
+    }
     if (closesWindow(*event)) {
         close();
         return;
@@ -247,12 +296,11 @@ void BatteryWindow::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const QColor background = backgroundOf(*this);
-    const QColor text = textOf(*this);
-    const QColor line = mixed(text, background, lineShare);
+    const QColor border = lineOf(*this, borderShare);
     if (m_kind == Kind::RoundPopup) {
         const double radius = ViewMetrics(*this).radius;
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(mixed(text, background, borderShare), 1));
+        painter.setPen(QPen(border, 1));
         painter.setBrush(background);
         // Half a pixel in, so that a line one pixel wide falls on whole pixels.
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
@@ -260,10 +308,10 @@ void BatteryWindow::paintEvent(QPaintEvent*)
     } else {
         painter.fillRect(rect(), background);
     }
-    const int border = layout()->contentsMargins().left();
-    painter.fillRect(QRect(border, m_menu->y(), width() - 2 * border, 1), line);
+    const int margin = layout()->contentsMargins().left();
+    painter.fillRect(QRect(margin, m_menu->y(), width() - 2 * margin, 1), lineOf(*this, lineShare));
     if (m_kind == Kind::Popup) {
-        painter.setPen(mixed(text, background, borderShare));
+        painter.setPen(border);
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <vector>
 
 #include <QWidget>
 
@@ -48,6 +49,7 @@ public:
     void setClosedOutside(std::function<void()> closed) { m_closedOutside = std::move(closed); }
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -60,6 +62,7 @@ private:
     void performClick(FactClick click);
     void addEntries(QVBoxLayout& layout);
     void choose(int id);
+    void copyFocusedOrAll();
     void fit();
     bool isPopup() const { return m_kind != Kind::Plain; }
 
@@ -68,6 +71,7 @@ private:
     QPoint m_anchor;
     QScrollArea* m_scrollArea = nullptr;
     FactsView* m_view = nullptr;
+    std::vector<Fact> m_facts; ///< as they are shown
     bool m_showsBattery = false;
     QWidget* m_menu = nullptr;
     std::map<int, MenuEntry*> m_entries;

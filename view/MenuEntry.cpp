@@ -61,7 +61,7 @@ void MenuEntry::paintEvent(QPaintEvent*)
         painter.setBrush(mixed(text, background, isDown() ? 2 * chosenShare : chosenShare));
         painter.drawRoundedRect(QRectF(rect()).adjusted(inset, 0, -inset, 0), inset, inset);
     }
-    painter.setPen(isEnabled() ? text : quietText(text, background));
+    painter.setPen(isEnabled() ? text : quietText(palette(), text, background));
     const auto alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
     drawPlainLine(painter, rect().adjusted(metrics.margin, 0, -metrics.margin, 0), alignment, label());
 }

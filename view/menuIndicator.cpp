@@ -109,6 +109,10 @@ void menuIndicator::paintEvent(QPaintEvent*)
     const QPainterPath trackShape = rounded(track, radius);
     painter.fillPath(trackShape, mixed(textOf(*this), backgroundOf(*this), trackShare));
 
+    if (hasStrongContrast(palette()))
+        // A pale track would be the only sign of where the bar ends.
+        painter.strokePath(rounded(track.adjusted(0.5, 0.5, -0.5, -0.5), radius), QPen(textOf(*this), 1));
+
     // A fill narrower than its own rounding keeps its true width: it is cut out of the track's round end.
     const double filled = track.width() * drawnShare(m_percent);
     if (filled <= 0)

@@ -37,7 +37,7 @@ QColor outlineSource(const QPalette& palette)
     // The outline of the toolkit's own style is this much darker than the window, in percent.
     constexpr int darkening = 127;
     const QColor window = palette.color(QPalette::Window);
-    if (!isDark(window))
+    if (!isDark(window) && !hasStrongContrast(palette))
         return {};
     return mixed(palette.color(QPalette::WindowText), window, outlineShare).lighter(darkening);
 }

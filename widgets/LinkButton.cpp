@@ -36,7 +36,7 @@ void LinkButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const QColor plain = textOf(*this);
-    painter.setPen(underMouse() || isDown() ? plain : quietText(plain, backgroundOf(*this)));
+    painter.setPen(underMouse() || isDown() ? plain : quietTextOf(*this));
     QFont underlined = font();
     underlined.setUnderline(true);
     painter.setFont(underlined);

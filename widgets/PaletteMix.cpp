@@ -11,8 +11,9 @@ namespace quindle {
 namespace {
 
 constexpr double quietestShare = 0.6;
-// The least contrast of readable text in the accessibility guidelines.
+// The least contrasts of readable text in the accessibility guidelines, and in their enhanced form.
 constexpr double readableContrast = 4.5;
+constexpr double strongContrast = 7;
 
 double linear(double channel)
 {
@@ -44,15 +45,47 @@ double contrast(const QColor& first, const QColor& second)
     return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
-QColor quietText(const QColor& text, const QColor& background)
+namespace {
+
+QColor quietWith(double leastContrast, const QColor& text, const QColor& background)
 {
     // Palettes differ too much for one share: what is quiet on one is unreadable on another.
     for (double share = quietestShare; share < 1; share += 0.05) {
         const QColor color = mixed(text, background, share);
-        if (contrast(color, background) >= readableContrast)
+        if (contrast(color, background) >= leastContrast)
             return color;
     }
     return text;
+}
+
+} // namespace
+
+QColor quietText(const QColor& text, const QColor& background)
+{
+    return quietWith(readableContrast, text, background);
+}
+
+bool hasStrongContrast(const QPalette& palette)
+{
+    const QColor hint = palette.color(QPalette::PlaceholderText);
+    return hint.alpha() == 255 && hint.rgb() == palette.color(QPalette::Text).rgb();
+}
+
+QColor quietText(const QPalette& palette, const QColor& text, const QColor& background)
+{
+    return quietWith(hasStrongContrast(palette) ? strongContrast : readableContrast, text, background);
+}
+
+QColor quietTextOf(const QWidget& widget)
+{
+    return quietText(widget.palette(), textOf(widget), backgroundOf(widget));
+}
+
+QColor lineOf(const QWidget& widget, double share)
+{
+    constexpr double strongShare = 0.6;
+    return mixed(textOf(widget), backgroundOf(widget),
+                 hasStrongContrast(widget.palette()) ? std::max(share, strongShare) : share);
 }
 
 bool isDark(const QColor& background)

@@ -20,6 +20,19 @@ double contrast(const QColor& first, const QColor& second);
 /// less already.
 QColor quietText(const QColor& text, const QColor& background);
 
+/// Whether the palette asks for strong contrast: hints in it are as plain as text.
+bool hasStrongContrast(const QPalette& palette);
+
+/// The same as a widget with that palette writes it: hardly quiet, with a contrast of 7, where the palette
+/// asks for strong contrast.
+QColor quietText(const QPalette& palette, const QColor& text, const QColor& background);
+
+/// In the colours of the widget's roles.
+QColor quietTextOf(const QWidget& widget);
+
+/// A thin line on a widget: `share` of its text, and far more where its palette asks for strong contrast.
+QColor lineOf(const QWidget& widget, double share);
+
 bool isDark(const QColor& background);
 
 /// The colours that a widget stands on and writes with, by its roles.

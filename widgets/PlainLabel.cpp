@@ -54,7 +54,7 @@ void PlainLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const QColor color = textOf(*this);
-    painter.setPen(m_quiet ? quietText(color, backgroundOf(*this)) : color);
+    painter.setPen(m_quiet ? quietTextOf(*this) : color);
     drawPlainLine(painter, contentsRect(), QStyle::visualAlignment(layoutDirection(), alignment()), text(),
                   m_elideMode);
 }

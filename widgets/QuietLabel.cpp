@@ -17,7 +17,7 @@ QuietLabel::QuietLabel(QWidget* parent)
 void QuietLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.setPen(quietText(textOf(*this), backgroundOf(*this)));
+    painter.setPen(quietTextOf(*this));
     const Qt::Alignment aligned = QStyle::visualAlignment(layoutDirection(), alignment());
     const int wrap = wordWrap() ? Qt::TextWordWrap : 0;
     painter.drawText(contentsRect(), static_cast<int>(aligned) | wrap, text());

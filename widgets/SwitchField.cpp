@@ -17,6 +17,12 @@ SwitchField::SwitchField(QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
+void SwitchField::setQuiet(bool quiet)
+{
+    m_quiet = quiet;
+    update();
+}
+
 QSize SwitchField::sizeHint() const
 {
     return {plainLineWidth(fontMetrics(), label()), fontMetrics().height()};
@@ -43,8 +49,8 @@ bool SwitchField::hitButton(const QPoint& position) const
 void SwitchField::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QColor color = textOf(*this);
-    const QColor quiet = quietText(color, backgroundOf(*this));
+    const QColor quiet = quietTextOf(*this);
+    const QColor color = m_quiet ? quiet : textOf(*this);
     const QRect text = textRect();
     painter.setPen(color);
     const auto alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter);
@@ -56,7 +62,7 @@ void SwitchField::paintEvent(QPaintEvent*)
         painter.drawRoundedRect(QRectF(text).adjusted(-1, 0.75, 1, -0.75).intersected(QRectF(rect())), 3, 3);
         return;
     }
-    QPen dots(underMouse() ? color : quiet, std::max(1, fontMetrics().lineWidth()));
+    QPen dots(underMouse() ? textOf(*this) : quiet, std::max(1, fontMetrics().lineWidth()));
     dots.setCapStyle(Qt::FlatCap);
     dots.setDashPattern({1, 1.5});
     painter.setPen(dots);

@@ -12,6 +12,9 @@ class SwitchField : public PlainButton
 public:
     explicit SwitchField(QWidget* parent = nullptr);
 
+    /// Quiet text stands back, as of a PlainLabel.
+    void setQuiet(bool quiet);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -21,6 +24,8 @@ protected:
 
 private:
     QRect textRect() const;
+
+    bool m_quiet = false;
 };
 
 } // namespace quindle

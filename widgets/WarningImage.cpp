@@ -22,7 +22,7 @@ void WarningImage::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(width(), height());
-    const QColor color = quietText(textOf(*this), backgroundOf(*this));
+    const QColor color = quietTextOf(*this);
     painter.setPen(QPen(color, 0.07, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolygon(QPolygonF({{0.5, 0.14}, {0.9, 0.84}, {0.1, 0.84}}));
     painter.drawLine(QPointF(0.5, 0.4), QPointF(0.5, 0.6));

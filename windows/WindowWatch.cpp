@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QEvent>
 #include <QWidget>
 
@@ -20,14 +21,22 @@ bool isWindowOpen()
 
 } // namespace
 
-WindowWatch::WindowWatch(std::chrono::milliseconds patience, std::function<void()> idle)
+bool ownsClipboard()
+{
+    return QGuiApplication::clipboard()->ownsClipboard();
+}
+
+WindowWatch::WindowWatch(std::chrono::milliseconds patience, std::function<void()> idle,
+                         std::function<bool()> isNeeded)
     : m_idle(std::move(idle))
+    , m_isNeeded(std::move(isNeeded))
 {
     m_timer.setInterval(patience);
     m_timer.setTimerType(Qt::VeryCoarseTimer);
     m_timer.callOnTimeout(this, [this] { m_idle(); });
     m_timer.start();
     qApp->installEventFilter(this);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &WindowWatch::look);
 }
 
 bool WindowWatch::eventFilter(QObject* watched, QEvent* event)
@@ -42,7 +51,7 @@ bool WindowWatch::eventFilter(QObject* watched, QEvent* event)
 
 void WindowWatch::look()
 {
-    if (isWindowOpen())
+    if (isWindowOpen() || m_isNeeded())
         m_timer.stop();
     else if (!m_timer.isActive())
         m_timer.start();

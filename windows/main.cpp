@@ -14,11 +14,15 @@
 #include "platform/linux/link/SocketLink.h"
 #include "platform/linux/os/CoreDumps.h"
 #include "platform/linux/os/StandardError.h"
+#include "platform/linux/session/LinuxRunLoop.h"
+#include "platform/linux/windows/PortalWishes.h"
+#include "platform/linux/windows/SettingsPortal.h"
 #include "platform/linux/windows/ToolkitStart.h"
 #include "platform/recorded/MachineFile.h"
 #include "remote/WindowMessage.h"
 #include "widgets/AccessiblePopups.h"
 #include "widgets/CloseKey.h"
+#include "widgets/DesktopLook.h"
 #include "widgets/WindowLanguage.h"
 #include "windows/HelperEnd.h"
 #include "windows/WindowWatch.h"
@@ -83,6 +87,11 @@ int run(SocketLink& link, const std::optional<Machine>& machine, std::chrono::mi
 {
     HelperEnd helper(link);
     const auto services = servicesOf(machine, helper);
+    LinuxRunLoop runLoop; // the helper's is not for what the desktop says
+    DesktopLook look(leavesColoursToPortal() ? DesktopLook::Colours::ByWishes
+                                             : DesktopLook::Colours::OfToolkit);
+    SettingsPortal portal(runLoop, [&look](const DesktopWishes& wishes) { look.follow(wishes); });
+    portal.followSession();
     std::optional<WindowsProgram> program;
     const auto receive = [&](const WindowMessage& message) {
         // The models are made with the first request, which says what they begin with.

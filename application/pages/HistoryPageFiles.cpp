@@ -31,9 +31,8 @@ constexpr int pictureScale = 2; // as screens of today show it sharp
 
 void paintLabel(QPainter& painter, const PlainLabel& label)
 {
-    const QColor text = textOf(label);
     painter.setFont(label.font());
-    painter.setPen(label.isQuiet() ? quietText(text, backgroundOf(label)) : text);
+    painter.setPen(label.isQuiet() ? quietTextOf(label) : textOf(label));
     const QRect place = label.contentsRect().translated(label.pos());
     drawPlainLine(painter, place, QStyle::visualAlignment(label.layoutDirection(), label.alignment()),
                   label.text());

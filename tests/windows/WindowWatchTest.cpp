@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QWidget>
 
 #include "tests/support/MessageBus.h"
@@ -54,6 +56,22 @@ TEST_F(WindowWatchTest, AWindowThatIsDestroyedIsNoLongerOpen)
     EXPECT_EQ(idle, 0);
     window.reset();
     EXPECT_TRUE(comesTrue([this] { return idle > 0; }));
+}
+
+TEST_F(WindowWatchTest, WhatWasCopiedKeepsTheProcess)
+{
+    int idleTimes = 0;
+    bool isNeeded = false;
+    const WindowWatch holding(
+        50ms, [&] { ++idleTimes; }, [&] { return isNeeded; });
+    isNeeded = true;
+    QGuiApplication::clipboard()->setText(QStringLiteral("83.9 %"));
+    idleTimes = 0;
+    wait();
+    EXPECT_EQ(idleTimes, 0);
+    isNeeded = false; // another program has copied something
+    QGuiApplication::clipboard()->setText(QStringLiteral("other"));
+    EXPECT_TRUE(comesTrue([&] { return idleTimes > 0; }));
 }
 
 TEST_F(WindowWatchTest, WhatIsInAWindowDoesNotMatter)

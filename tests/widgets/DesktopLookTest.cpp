@@ -1,0 +1,85 @@
+#include "widgets/DesktopLook.h"
+
+#include <QApplication>
+#include <QStyle>
+#include <gtest/gtest.h>
+
+#include "widgets/PaletteMix.h"
+
+using namespace quindle;
+
+namespace {
+
+struct DesktopLookTest : testing::Test
+{
+    ~DesktopLookTest() override
+    {
+        // Other tests are of the toolkit's own look.
+        look.follow({});
+    }
+
+    static bool isDarkNow() { return isDark(QApplication::palette().color(QPalette::Window)); }
+    static int duration() { return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration); }
+
+    DesktopLook look{DesktopLook::Colours::ByWishes};
+};
+
+TEST_F(DesktopLookTest, FollowsTheColourSchemeBothWays)
+{
+    const QPalette before = QApplication::palette();
+    ASSERT_FALSE(isDarkNow());
+    look.follow({.isDark = true});
+    EXPECT_TRUE(isDarkNow());
+    look.follow({});
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), before.color(QPalette::Window));
+}
+
+TEST_F(DesktopLookTest, NothingMovesWhereNothingShall)
+{
+    const QString style = QApplication::style()->name();
+    const int lively = duration();
+    ASSERT_GT(lively, 0);
+    look.follow({.isStill = true});
+    EXPECT_EQ(duration(), 0);
+    EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_Widget_Animate), 0);
+    look.follow({.isStill = true});
+    look.follow({});
+    EXPECT_EQ(duration(), lively);
+    EXPECT_EQ(QApplication::style()->name(), style);
+}
+
+TEST_F(DesktopLookTest, LeavesTheColoursOfAToolkitThatHasItsOwn)
+{
+    const QPalette before = QApplication::palette();
+    DesktopLook other(DesktopLook::Colours::OfToolkit);
+    other.follow({.isDark = true, .hasStrongContrast = true});
+    EXPECT_EQ(QApplication::palette(), before);
+}
+
+TEST(DesktopPalette, CanBeReadInAllItsForms)
+{
+    for (const bool isStrong : {false, true})
+        for (const bool shallBeDark : {false, true}) {
+            const QPalette palette = paletteFor({.isDark = shallBeDark, .hasStrongContrast = isStrong});
+            const double least = isStrong ? 12 : 7;
+            using Role = QPalette::ColorRole;
+            for (const auto& [text, back] : {std::pair<Role, Role>{QPalette::WindowText, QPalette::Window},
+                                             {QPalette::Text, QPalette::Base},
+                                             {QPalette::ButtonText, QPalette::Button},
+                                             {QPalette::ToolTipText, QPalette::ToolTipBase}})
+                EXPECT_GE(contrast(palette.color(text), palette.color(back)), least) << text;
+            for (const auto& [text, back] :
+                 {std::pair<Role, Role>{QPalette::HighlightedText, QPalette::Highlight},
+                  {QPalette::Link, QPalette::Base},
+                  {QPalette::PlaceholderText, QPalette::Base}})
+                EXPECT_GE(contrast(palette.color(text), palette.color(back)), isStrong ? 7 : 3.5) << text;
+            EXPECT_EQ(hasStrongContrast(palette), isStrong);
+            EXPECT_EQ(isDark(palette.color(QPalette::Window)), shallBeDark);
+            const QColor quiet =
+                quietText(palette, palette.color(QPalette::Text), palette.color(QPalette::Base));
+            EXPECT_GE(contrast(quiet, palette.color(QPalette::Base)), isStrong ? 7 : 4.5);
+        }
+    EXPECT_FALSE(hasStrongContrast(QPalette())) << "the toolkit's own";
+}
+
+} // namespace
