@@ -13,6 +13,7 @@
 #include "platform/PowerSources.h"
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
+#include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 #include "settings/ApplicationPreferences.h"
 
@@ -75,12 +76,14 @@ HelperAppDelegate::HelperAppDelegate(const Platform& platform, ApplicationPrefer
 {
     m_interface.setActions(this);
     m_interface.setPowerSources(m_myMac->isDemonstration() ? nullptr : &platform.powerSources);
+    m_interface.setOwnDefaults(&platform.userDefaults.standard());
 }
 
 HelperAppDelegate::~HelperAppDelegate()
 {
     m_interface.setActions(nullptr);
     m_interface.setPowerSources(nullptr);
+    m_interface.setOwnDefaults(nullptr);
     m_platform.powerEvents.setObserver([] {});
     if (m_statusBarUpdateTimer)
         m_statusBarUpdateTimer->invalidate();

@@ -19,8 +19,21 @@ namespace {
 struct BatterySource
 {
     const QDBattery& battery;
-    std::optional<int> limit;
+    BatteryExtras extras;
     FactPlace place;
+
+    /// The report is for programs too, and always in mAh.
+    CapacityWords words() const
+    {
+        const bool inWattHours = extras.showsWattHours && place != FactPlace::Report;
+        return {place, inWattHours ? extras.voltageOfEnergies : std::nullopt};
+    }
+
+    /// A click switches between mAh and the driver's own Wh.
+    FactClick clickOn(const QString& capacities) const
+    {
+        return extras.voltageOfEnergies && !capacities.isEmpty() ? FactClick::Capacity : FactClick::Nothing;
+    }
 };
 
 std::optional<double> knownPercent(double percent)
@@ -34,11 +47,12 @@ FactText charge(const BatterySource& source)
     const QDBattery& battery = source.battery;
     const QString figure = percentText(battery.StateOfCharge(), source.place);
     const QString capacities =
-        capacitiesText(battery.CurrentCapacity(), battery.FullChargeCapacity(), source.place);
+        capacitiesText(battery.CurrentCapacity(), battery.FullChargeCapacity(), source.words());
     FactText text;
     text.percent = knownPercent(battery.StateOfCharge());
     text.value = figure;
     text.detail = capacities;
+    text.click = source.clickOn(capacities);
     // Only the view has a place for the capacities alone.
     if (figure.isEmpty() && source.place != FactPlace::View)
         std::swap(text.value, text.detail);
@@ -56,7 +70,7 @@ QString fullAgainstDesign(const BatterySource& source)
 {
     const QDBattery& battery = source.battery;
     const bool isGiven = battery.DesignCapacity() > 0 || source.place == FactPlace::Report;
-    return isGiven ? capacitiesText(battery.FullChargeCapacity(), battery.DesignCapacity(), source.place)
+    return isGiven ? capacitiesText(battery.FullChargeCapacity(), battery.DesignCapacity(), source.words())
                    : QString();
 }
 
@@ -69,10 +83,10 @@ QString missingHealth(const BatterySource& source)
                                                : translated("Facts", "No design capacity");
 }
 
-QString capacityDescription(qint64 capacity, const QString& description, FactPlace place)
+QString capacityDescription(qint64 capacity, const QString& description, const CapacityWords& words)
 {
-    const QString amount = countText(capacity, place);
-    return amount.isEmpty() ? amount : amount + QStringLiteral(" mAh: ") + modelText(place, description);
+    const QString amount = capacitiesText(capacity, 0, words);
+    return amount.isEmpty() ? amount : amount + QStringLiteral(": ") + modelText(words.place, description);
 }
 
 QString designDescription(const BatterySource& source)
@@ -80,9 +94,9 @@ QString designDescription(const BatterySource& source)
     const QDBattery& battery = source.battery;
     // Both, as they may differ: health is measured against the stated one where there is one.
     const QString reported = capacityDescription(battery.ReportedDesignCapacity(),
-                                                 QDBattery::ReportedDesignCapacity_Desc(), source.place);
+                                                 QDBattery::ReportedDesignCapacity_Desc(), source.words());
     const QString actual = capacityDescription(battery.ActualDesignCapacity(),
-                                               QDBattery::ActualDesignCapacity_Desc(), source.place);
+                                               QDBattery::ActualDesignCapacity_Desc(), source.words());
     return joined(reported, QStringLiteral("\n"), actual);
 }
 
@@ -93,6 +107,7 @@ FactText health(const BatterySource& source)
     text.percent = knownHealth(source.battery);
     text.value = text.percent ? percentText(*text.percent, source.place) : missingHealth(source);
     text.detail = fullAgainstDesign(source);
+    text.click = source.clickOn(text.detail);
     text.toolTip = designDescription(source);
     if (source.place == FactPlace::Report)
         return text;
@@ -145,7 +160,9 @@ FactText time(const BatterySource& source)
 
 FactText chargeLimit(const BatterySource& source)
 {
-    return {.value = source.limit ? integerText(*source.limit) + QStringLiteral(" %") : QString()};
+    return {.value = source.extras.chargeLimit
+                         ? integerText(*source.extras.chargeLimit) + QStringLiteral(" %")
+                         : QString()};
 }
 
 FactText fullCharge(const BatterySource& source)
@@ -262,12 +279,12 @@ constexpr FactRule<BatterySource> batteryTable[]{
 } // namespace
 
 void addBatteryFacts(std::vector<Fact>& facts, FactPlace place, const QDBattery* battery,
-                     std::optional<int> chargeLimit)
+                     const BatteryExtras& extras)
 {
     std::optional<BatterySource> source;
     // Without one the facts are still made, but not shown: a menu must always have the same rows.
     if (battery)
-        source.emplace(BatterySource{*battery, chargeLimit, place});
+        source.emplace(BatterySource{*battery, extras, place});
     addFacts(facts, batteryTable, place, source);
 }
 

@@ -54,7 +54,7 @@ enum class FactGroup {
 };
 
 /// What a click on a fact's value does.
-enum class FactClick { Nothing, BatteryAge, Temperature, ComputerAge };
+enum class FactClick { Nothing, BatteryAge, Temperature, ComputerAge, Capacity };
 
 // A fact's rank: the lower, the sooner a person wants to know it.
 inline constexpr int lastRankOfToolTip = 9;

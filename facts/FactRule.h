@@ -17,6 +17,7 @@ struct FactText
     bool isCaptionEnough = false; ///< also shown without a value
     std::optional<double> percent = {};
     bool isQuiet = false;
+    FactClick click = FactClick::Nothing; ///< of one that only sometimes has something to switch
 };
 
 /// A fact's caption at each place, marked for translators; null where it is left out.
@@ -76,7 +77,7 @@ Fact factOf(const FactRule<Source>& rule, const QString& caption, const FactText
             .detail = text.detail,
             .shown = !text.value.isEmpty() || text.isCaptionEnough,
             .toolTip = text.toolTip,
-            .click = rule.click,
+            .click = text.click == FactClick::Nothing ? rule.click : text.click,
             .percent = text.percent,
             .isQuiet = text.isQuiet};
 }

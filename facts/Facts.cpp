@@ -26,11 +26,14 @@ const QDBattery* batteryOf(const FactSources& sources)
     return sources.mac ? sources.mac->Battery() : nullptr;
 }
 
-std::optional<int> chargeLimit(const FactSources& sources, FactPlace place)
+BatteryExtras extras(const FactSources& sources, FactPlace place)
 {
-    // The tool tip does not show it, and is made at every refresh.
-    const bool isGiven = place != FactPlace::ToolTip && batteryOf(sources);
-    return isGiven && sources.powerSources ? sources.powerSources->chargeLimit() : std::nullopt;
+    // The tool tip shows none of it, and is made at every refresh.
+    if (place == FactPlace::ToolTip || !batteryOf(sources) || !sources.powerSources)
+        return {};
+    return {.chargeLimit = sources.powerSources->chargeLimit(),
+            .voltageOfEnergies = sources.powerSources->voltageOfEnergies(),
+            .showsWattHours = sources.showsWattHours};
 }
 
 Fact deviceFact(const PeripheralBattery& device, FactPlace place)
@@ -64,7 +67,7 @@ void addDeviceFacts(std::vector<Fact>& facts, FactPlace place, PowerSources* pow
 std::vector<Fact> factsFor(FactPlace place, const FactSources& sources)
 {
     std::vector<Fact> facts;
-    addBatteryFacts(facts, place, batteryOf(sources), chargeLimit(sources, place));
+    addBatteryFacts(facts, place, batteryOf(sources), extras(sources, place));
     addSystemBatteryFacts(facts, place, batteryOf(sources) ? sources.powerSources : nullptr);
     addDeviceFacts(facts, place, sources.powerSources);
     addComputerFacts(facts, place, sources.mac);
@@ -108,6 +111,7 @@ void performClick(FactClick click, QDMac& mac)
     QDBattery* battery = mac.Battery();
     switch (click) {
     case FactClick::Nothing:
+    case FactClick::Capacity: // no model's: a setting of whoever shows it
         break;
     case FactClick::ComputerAge:
         mac.toggleAge();

@@ -14,6 +14,7 @@ struct FactSources
 {
     const QDMac* mac = nullptr;
     PowerSources* powerSources = nullptr; ///< for the charge limit and the devices
+    bool showsWattHours = false;          ///< capacities, where the driver counts energies
 };
 
 /// The facts of one place: in the tables' order for the report, elsewhere by rank. They are always the same
@@ -30,7 +31,7 @@ const Fact& factWithId(const std::vector<Fact>& facts, FactId id);
 /// battery" without one.
 QString toolTipText(const FactSources& sources);
 
-/// Does what a click on a fact does; nothing for the battery's without a battery.
+/// Does what a click on a fact does to the models; nothing for the battery's without a battery.
 void performClick(FactClick click, QDMac& mac);
 
 } // namespace quindle

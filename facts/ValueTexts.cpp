@@ -16,6 +16,14 @@ QString withUnit(const QString& figure, const QString& unit)
     return figure.isEmpty() ? figure : figure + u' ' + unit;
 }
 
+/// Empty for what is not known.
+QString amountText(qint64 milliampHours, const CapacityWords& words)
+{
+    if (!words.voltage || milliampHours <= 0)
+        return countText(milliampHours, words.place);
+    return figureText(double(milliampHours) * *words.voltage / 1000);
+}
+
 } // namespace
 
 QString knownText(const std::optional<QString>& text)
@@ -47,12 +55,12 @@ QString countText(qint64 count, FactPlace place)
     return count > 0 ? groupedText(count, groupSeparator(place)) : QString();
 }
 
-QString capacitiesText(qint64 held, qint64 room, FactPlace place)
+QString capacitiesText(qint64 held, qint64 room, const CapacityWords& words)
 {
-    const QString unit = QStringLiteral("mAh");
-    const QString first = countText(held, place);
-    const QString second = withUnit(countText(room, place), unit);
-    if (place == FactPlace::Report) // each with its unit, for programs that pick a column
+    const QString unit = words.voltage ? QStringLiteral("Wh") : QStringLiteral("mAh");
+    const QString first = amountText(held, words);
+    const QString second = withUnit(amountText(room, words), unit);
+    if (words.place == FactPlace::Report) // each with its unit, for programs that pick a column
         return first.isEmpty() ? first : joined(withUnit(first, unit), QStringLiteral(" of "), second);
     if (second.isEmpty())
         return withUnit(first, unit);

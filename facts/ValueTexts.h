@@ -22,9 +22,16 @@ QString wattsText(double watts, FactPlace place = FactPlace::View);     ///< "12
 /// A number of things, e.g. "1,234". Drivers that do not count report 0 or less.
 QString countText(qint64 count, FactPlace place);
 
-/// The charge held and the room for it, in mAh: "4,000 of 6,000 mAh"; of two capacities one may be
-/// unknown (0 or less).
-QString capacitiesText(qint64 held, qint64 room, FactPlace place);
+/// In which unit capacities are told.
+struct CapacityWords
+{
+    FactPlace place = FactPlace::View;
+    std::optional<double> voltage = {}; ///< V; with it in Wh at that voltage, else in mAh
+};
+
+/// The charge held and the room for it, both given in mAh: "4,000 of 6,000 mAh" or "45.6 of 68.4 Wh"; of two
+/// capacities one may be unknown (0 or less).
+QString capacitiesText(qint64 held, qint64 room, const CapacityWords& words);
 
 /// "1 cycle", "1,234 cycles"; in the user's language.
 QString cyclesText(qint64 count);

@@ -5,6 +5,7 @@
 #include "common/SingleLine.h"
 #include "common/Translation.h"
 #include "facts/ValueTexts.h"
+#include "settings/CapacityMode.h"
 
 namespace quindle {
 
@@ -105,11 +106,23 @@ void MainInterface::updateFacts(const QString& title)
         m_factsUpdated();
 }
 
+FactSources MainInterface::factSources() const
+{
+    return {.mac = m_macObjectController.content(),
+            .powerSources = m_powerSources,
+            .showsWattHours = m_ownDefaults && showsWattHours(*m_ownDefaults)};
+}
+
 void MainInterface::performClick(FactClick click)
 {
     QDMac* mac = m_macObjectController.content();
     if (!mac)
         return;
+    if (click == FactClick::Capacity && m_ownDefaults) {
+        toggleWattHours(*m_ownDefaults);
+        if (m_factsUpdated)
+            m_factsUpdated(); // no model has changed that would say so
+    }
     quindle::performClick(click, *mac);
     if (m_clicked)
         m_clicked(click);

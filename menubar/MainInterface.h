@@ -13,6 +13,8 @@
 
 namespace quindle {
 
+class UserDefaults;
+
 /// Holds the computer that an interface shows.
 class ObjectController
 {
@@ -79,8 +81,11 @@ public:
     /// Sets the service that facts may ask besides the object controller's content; none when null.
     void setPowerSources(PowerSources* powerSources) { m_powerSources = powerSources; }
 
+    /// Sets the helper's own database, which says in which unit capacities are shown; none when null.
+    void setOwnDefaults(UserDefaults* own) { m_ownDefaults = own; }
+
     /// Where the interface's facts come from.
-    FactSources factSources() const { return {m_macObjectController.content(), m_powerSources}; }
+    FactSources factSources() const;
 
     /// Brings the Fact rows up to date; what is not shown is hidden. Observers of the menu are called for
     /// changed rows only, the observer of the facts at each call.
@@ -113,6 +118,7 @@ private:
     StatusMenu m_statusMenu;
     StatusMenuActions* m_actions = nullptr;
     PowerSources* m_powerSources = nullptr;
+    UserDefaults* m_ownDefaults = nullptr;
     std::function<void()> m_factsUpdated;
     std::function<void(FactClick)> m_clicked;
     int m_titleRow = 0;

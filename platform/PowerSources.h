@@ -45,6 +45,10 @@ public:
     /// charging is not limited or the driver reports no limit.
     virtual std::optional<int> chargeLimit() = 0;
 
+    /// The voltage (V, above 0) by which the registry's charges were made of the driver's own energies;
+    /// nothing where the driver counts charges.
+    virtual std::optional<double> voltageOfEnergies() = 0;
+
     /// The batteries of devices beside the computer, in a stable order; none on most computers, and none
     /// while their services cannot be asked. They are not sources: the models of battery and computer ignore
     /// them. Only while somebody looks, because some drivers ask the device over its radio.

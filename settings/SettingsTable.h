@@ -63,6 +63,7 @@ inline constexpr Setting<bool>        runInBackgroundOwn{u"runInBackground", own
 inline constexpr Setting<qint64>      batteryTemperatureMode{u"QDBatteryTemperatureMode", own, DefaultValues::number};
 inline constexpr Setting<qint64>      batteryAgeMode{u"QDBatteryAgeMode", own, DefaultValues::number};
 inline constexpr Setting<qint64>      macAgeMode{u"QDMacAgeMode", own, DefaultValues::number};
+inline constexpr Setting<qint64>      batteryCapacityMode{u"QDBatteryCapacityMode", own, DefaultValues::number};
 inline constexpr Setting<SettingDictionary> modelStringCache{u"modelStringCache", own, std::nullopt};
 inline constexpr Setting<qint64>      menuBarSetting{u"customMenuBarSettingSelectedIndex", own, DefaultValues::number};
 inline constexpr Setting<QStringView> parkedCustomStatusBar{u"parkedCustomStatusBar", own, std::nullopt};

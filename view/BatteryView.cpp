@@ -7,7 +7,6 @@
 #include "menubar/MainInterface.h"
 #include "ui_BatteryView.h"
 #include "view/ViewMetrics.h"
-#include "widgets/PlainText.h"
 
 namespace quindle {
 
@@ -22,6 +21,8 @@ BatteryView::BatteryView(MainInterface& interface, QWidget* parent)
         whole->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_ui->stateOfChargeProgress->follow(interface.stateOfChargeProgress());
     m_ui->stateOfHealthProgress->follow(interface.stateOfHealthProgress());
+    for (const FactRow* row : {m_ui->chargeRow, m_ui->cyclesRow})
+        connect(row, &FactRow::clicked, this, &FactsView::clicked);
     for (const FactList* list :
          {m_ui->stateList, m_ui->batteryList, m_ui->batteriesList, m_ui->devicesList, m_ui->computerList})
         connect(list, &FactList::clicked, this, &FactsView::clicked);
@@ -46,7 +47,9 @@ void BatteryView::showCharge(const Fact& charge)
 {
     m_ui->figureLabel->setText(charge.percent ? figureText(*charge.percent) : missingValueText());
     m_ui->stateOfChargeProgress->setPercent(charge.percent.value_or(0));
-    m_ui->chargeRow->setTexts(charge.caption, charge.detail.isEmpty() ? missingValueText() : charge.detail);
+    m_ui->chargeRow->setTexts(charge.caption, charge.detail.isEmpty() ? missingValueText() : charge.detail,
+                              charge.click);
+    m_ui->chargeRow->setExplanation({});
 }
 
 void BatteryView::showHealth(const Fact& health, const Fact& cycles)
@@ -55,10 +58,10 @@ void BatteryView::showHealth(const Fact& health, const Fact& cycles)
     m_ui->stateOfHealthProgress->setPercent(health.percent.value_or(0));
     // An empty bar would say 0 %.
     m_ui->stateOfHealthProgress->setVisible(health.percent.has_value());
-    m_ui->cyclesRow->setTexts(cycles.value, health.detail);
+    m_ui->cyclesRow->setTexts(cycles.value, health.detail, health.click);
     m_ui->cyclesRow->setVisible(!cycles.value.isEmpty() || !health.detail.isEmpty());
-    m_ui->cyclesRow->setToolTip(literalToolTip(
-        joined(cycles.shown ? cycles.toolTip : QString(), QStringLiteral("\n"), health.toolTip)));
+    m_ui->cyclesRow->setExplanation(
+        joined(cycles.shown ? cycles.toolTip : QString(), QStringLiteral("\n"), health.toolTip));
 }
 
 void BatteryView::changeEvent(QEvent* event)

@@ -41,11 +41,18 @@ void FactRow::setFact(const Fact& fact)
     m_fact = fact;
     setQuietText(fact.isQuiet);
     setClickable(fact.click != FactClick::Nothing);
-    setToolTips(fact.toolTip);
-    setTexts(fact.caption, factText(fact, FactPlace::View));
+    setExplanation(fact.toolTip);
+    showTexts(fact.caption, factText(fact, FactPlace::View));
 }
 
-void FactRow::setTexts(const QString& caption, const QString& text)
+void FactRow::setTexts(const QString& caption, const QString& text, FactClick click)
+{
+    m_fact.click = click;
+    setClickable(click != FactClick::Nothing);
+    showTexts(caption, text);
+}
+
+void FactRow::showTexts(const QString& caption, const QString& text)
 {
     if (caption == this->caption() && text == this->text())
         return;
@@ -85,6 +92,8 @@ bool FactRow::hasQuietText() const
 void FactRow::setQuietText(bool quiet)
 {
     m_value->setQuiet(quiet);
+    if (m_switchField)
+        m_switchField->setQuiet(quiet);
 }
 
 void FactRow::setClickable(bool clickable)
@@ -94,6 +103,7 @@ void FactRow::setClickable(bool clickable)
     if (clickable) {
         m_switchField = new SwitchField(this);
         m_switchField->setLabel(text());
+        m_switchField->setQuiet(hasQuietText());
         connect(m_switchField, &SwitchField::clicked, this, [this] { Q_EMIT clicked(m_fact.click); });
     } else {
         delete m_switchField;
@@ -106,7 +116,7 @@ void FactRow::setClickable(bool clickable)
     arrange();
 }
 
-void FactRow::setToolTips(const QString& text)
+void FactRow::setExplanation(const QString& text)
 {
     setToolTip(literalToolTip(text));
     if (!m_switchField)

@@ -27,8 +27,11 @@ public:
     /// The fact shown last.
     const Fact& fact() const { return m_fact; }
 
-    /// Shows these texts alone.
-    void setTexts(const QString& caption, const QString& text);
+    /// Shows these texts alone; a click on the second one is reported as this.
+    void setTexts(const QString& caption, const QString& text, FactClick click = FactClick::Nothing);
+
+    /// What is told of the row, and of the way to click it.
+    void setExplanation(const QString& text);
 
     QString caption() const;
     QString text() const;
@@ -52,7 +55,7 @@ protected:
 
 private:
     void setClickable(bool clickable);
-    void setToolTips(const QString& text);
+    void showTexts(const QString& caption, const QString& text);
     QWidget* valueWidget() const;
     void arrange();
     void updateAccessibleNames();

@@ -16,7 +16,6 @@
 #include "view/ViewMetrics.h"
 #include "view/menuIndicator.h"
 #include "widgets/PlainLabel.h"
-#include "widgets/PlainText.h"
 
 namespace quindle {
 
@@ -98,6 +97,7 @@ BatteryPage::Gauge BatteryPage::makeGauge(const QString& caption)
     gauge.bar->setAccessibleName(caption);
     gauge.row = new FactRow(gauge.box);
     gauge.row->setQuietText(true);
+    connect(gauge.row, &FactRow::clicked, this, &BatteryPage::performClick);
     gauge.layout->addWidget(gauge.caption);
     gauge.layout->addLayout(head);
     gauge.layout->addWidget(gauge.bar);
@@ -109,8 +109,14 @@ FactList* BatteryPage::makeList(const QString& heading)
 {
     auto* list = new FactList(&content());
     list->setHeading(heading);
-    connect(list, &FactList::clicked, this, [this](FactClick click) { m_interface.performClick(click); });
+    connect(list, &FactList::clicked, this, &BatteryPage::performClick);
     return list;
+}
+
+void BatteryPage::performClick(FactClick click)
+{
+    m_interface.performClick(click);
+    refresh();
 }
 
 void BatteryPage::refresh()
@@ -132,8 +138,9 @@ void BatteryPage::showAll(const std::vector<Fact>& facts)
     show(m_charge, charge, factWithId(facts, FactId::State).value, {},
          charge.detail.isEmpty() ? missingValueText() : charge.detail);
     show(m_health, health, wordsOfHealth(health), cycles.value, health.detail);
-    m_health.row->setToolTip(literalToolTip(
-        joined(cycles.shown ? cycles.toolTip : QString(), QStringLiteral("\n"), health.toolTip)));
+    m_charge.row->setExplanation({});
+    m_health.row->setExplanation(
+        joined(cycles.shown ? cycles.toolTip : QString(), QStringLiteral("\n"), health.toolTip));
     m_stateList->setFacts(facts, FactGroup::State);
     m_batteryList->setFacts(facts, FactGroup::Battery);
     m_batteriesList->setFacts(facts, FactGroup::Batteries);
@@ -150,7 +157,7 @@ void BatteryPage::show(const Gauge& gauge, const Fact& fact, const QString& word
     gauge.bar->setPercent(fact.percent.value_or(0));
     // An empty bar would say 0 %.
     gauge.bar->setVisible(fact.percent.has_value());
-    gauge.row->setTexts(before, after);
+    gauge.row->setTexts(before, after, fact.click);
     gauge.row->setVisible(!before.isEmpty() || !after.isEmpty());
 }
 

@@ -52,6 +52,7 @@ private:
     FactList* makeList(const QString& heading);
     void show(const Gauge& gauge, const Fact& fact, const QString& words, const QString& before,
               const QString& after);
+    void performClick(FactClick click);
     void showAll(const std::vector<Fact>& facts);
     void fitToFont();
     void fitFigure(const Gauge& gauge, double factor) const;

@@ -22,6 +22,7 @@ public:
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
     std::optional<int> chargeLimit() override { return std::nullopt; }
+    std::optional<double> voltageOfEnergies() override { return std::nullopt; }
     QList<PeripheralBattery> peripherals() override { return {}; }
 
 private:

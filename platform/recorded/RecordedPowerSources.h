@@ -18,8 +18,9 @@ public:
     std::optional<QVariantMap> externalAdapterDetails() override;
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
-    /// Machine files record neither limits nor devices.
+    /// Machine files record neither limits nor energies nor devices.
     std::optional<int> chargeLimit() override { return std::nullopt; }
+    std::optional<double> voltageOfEnergies() override { return std::nullopt; }
     QList<PeripheralBattery> peripherals() override { return {}; }
 
 private:

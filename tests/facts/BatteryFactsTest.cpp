@@ -87,6 +87,29 @@ TEST_F(BatteryFactsTest, ChargeWithEitherCapacityMissing)
     }
 }
 
+TEST_F(BatteryFactsTest, CapacitiesInTheDriversOwnWattHours)
+{
+    make();
+    EXPECT_EQ(fact(FactId::Charge).click, FactClick::Nothing) << "the driver counts charges";
+    showsWattHours = true;
+    EXPECT_EQ(fact(FactId::Charge).detail, QStringLiteral("4,000 of 6,000 mAh"));
+    platform.powerSources.energyVoltage = 11.4;
+    EXPECT_EQ(fact(FactId::Charge).detail, QStringLiteral("45.6 of 68.4 Wh"));
+    EXPECT_EQ(fact(FactId::Charge).click, FactClick::Capacity);
+    EXPECT_EQ(fact(FactId::Health).detail, QStringLiteral("68.4 of 81.5 Wh"));
+    EXPECT_EQ(fact(FactId::Health).click, FactClick::Capacity);
+    EXPECT_TRUE(fact(FactId::Health).toolTip.startsWith(QStringLiteral("83.2 Wh: The capacity")));
+    EXPECT_EQ(fact(FactId::FullCharge, FactPlace::Menu).value, QStringLiteral("68.4 of 81.5 Wh"));
+    EXPECT_EQ(fact(FactId::Charge, FactPlace::Report).detail, QStringLiteral("4000 mAh of 6000 mAh"));
+    showsWattHours = false;
+    EXPECT_EQ(fact(FactId::Charge).detail, QStringLiteral("4,000 of 6,000 mAh"));
+    EXPECT_EQ(fact(FactId::Charge).click, FactClick::Capacity);
+    setBattery("CurrentCapacity", {});
+    setBattery("MaxCapacity", {});
+    make();
+    EXPECT_EQ(fact(FactId::Charge).click, FactClick::Nothing) << "there is nothing to switch";
+}
+
 TEST_F(BatteryFactsTest, WithoutADesignCapacityThereIsNoHealthAndTheViewSaysSo)
 {
     platform.setComputer(QStringLiteral("20Y70037MH"), QStringLiteral("PF123456"));

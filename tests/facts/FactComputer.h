@@ -20,6 +20,7 @@ struct FactComputer
     ScopedTimeZone zone{"UTC"};
     FakePlatform platform;
     std::unique_ptr<QDMac> mac;
+    bool showsWattHours = false;
 
     FactComputer()
     {
@@ -104,7 +105,10 @@ struct FactComputer
     }
 
     QDBattery& battery() { return *mac->Battery(); }
-    FactSources sources() { return {mac.get(), &platform.powerSources}; }
+    FactSources sources()
+    {
+        return {.mac = mac.get(), .powerSources = &platform.powerSources, .showsWattHours = showsWattHours};
+    }
 
     Fact fact(FactId id, FactPlace place = FactPlace::View)
     {

@@ -57,8 +57,8 @@ TEST(ValueTexts, Capacities)
         {-3, -3, u"", u""},
     };
     for (const CapacityCase& row : cases) {
-        EXPECT_EQ(capacitiesText(row.held, row.room, FactPlace::View), QString::fromUtf16(row.onScreen));
-        EXPECT_EQ(capacitiesText(row.held, row.room, FactPlace::Report), QString::fromUtf16(row.inReport));
+        EXPECT_EQ(capacitiesText(row.held, row.room, {FactPlace::View}), QString::fromUtf16(row.onScreen));
+        EXPECT_EQ(capacitiesText(row.held, row.room, {FactPlace::Report}), QString::fromUtf16(row.inReport));
     }
 }
 

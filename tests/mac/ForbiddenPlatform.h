@@ -38,6 +38,7 @@ class ForbiddenPlatform
         std::optional<int> sourceCount() override { return refuse<int>("sources"); }
         std::optional<QVariantMap> description(int) override { return refuse<QVariantMap>("description"); }
         std::optional<int> chargeLimit() override { return refuse<int>("charge limit"); }
+        std::optional<double> voltageOfEnergies() override { return refuse<double>("energies"); }
         QList<PeripheralBattery> peripherals() override
         {
             return refuse<QList<PeripheralBattery>>("peripherals");

@@ -62,6 +62,7 @@ public:
     /// asked.
     std::optional<std::vector<std::optional<QVariantMap>>> sources{std::in_place};
     std::optional<int> limit;
+    std::optional<double> energyVoltage;
     QList<PeripheralBattery> devices;
     int calls = 0;
 
@@ -69,6 +70,7 @@ public:
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
     std::optional<int> chargeLimit() override;
+    std::optional<double> voltageOfEnergies() override { return energyVoltage; }
     QList<PeripheralBattery> peripherals() override;
 };
 

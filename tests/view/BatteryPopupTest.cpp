@@ -2,7 +2,11 @@
 
 #include <set>
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QImage>
+#include <QMenu>
 #include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -109,6 +113,74 @@ TEST_F(BatteryPopupTest, ChoosingClosesAndActs)
     open()->findChildren<MenuEntry*>().at(1)->click();
     EXPECT_EQ(actions.calls.join(u' '), QStringLiteral("preferences"));
     EXPECT_FALSE(popup.isOpen());
+}
+
+TEST_F(BatteryPopupTest, AClickOnCapacitiesSwitchesTheirUnit)
+{
+    platform.powerSources.energyVoltage = 11.4;
+    MemoryUserDefaults& own = platform.userDefaults.standardDefaults;
+    interface.setOwnDefaults(&own);
+    open();
+    auto* charge = find<FactRow>("chargeRow");
+    ASSERT_EQ(charge->text(), QStringLiteral("4,000 of 6,000 mAh"));
+    charge->findChild<SwitchField*>()->click();
+    EXPECT_EQ(charge->text(), QStringLiteral("45.6 of 68.4 Wh"));
+    EXPECT_EQ(own.values.value(QStringLiteral("QDBatteryCapacityMode")), QVariant(qint64{1}));
+    auto* health = find<FactRow>("cyclesRow");
+    EXPECT_EQ(health->text(), QStringLiteral("68.4 of 81.5 Wh"));
+    health->findChild<SwitchField*>()->click();
+    EXPECT_EQ(charge->text(), QStringLiteral("4,000 of 6,000 mAh"));
+    EXPECT_EQ(own.values.value(QStringLiteral("QDBatteryCapacityMode")), QVariant(qint64{0}));
+    platform.powerSources.energyVoltage.reset();
+    interface.updateFacts(QString());
+    EXPECT_EQ(charge->findChild<SwitchField*>(), nullptr) << "the driver counts charges now";
+}
+
+struct BatteryPopupCopying : BatteryPopupTest
+{
+    static void chooseInContextMenu(QWidget* at, const char* text)
+    {
+        const QPoint place = at->mapTo(at->window(), at->rect().center());
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, place, at->window()->mapToGlobal(place));
+        QApplication::sendEvent(at->window(), &asked);
+        QMenu* menu = at->window()->findChild<QMenu*>();
+        ASSERT_NE(menu, nullptr);
+        for (QAction* action : menu->actions())
+            if (action->text() == QLatin1String(text))
+                action->trigger();
+        delete menu;
+    }
+
+    static void pressCopy(QWidget* at)
+    {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier);
+        QApplication::sendEvent(at, &down);
+    }
+
+    static QString copied() { return QGuiApplication::clipboard()->text(); }
+};
+
+TEST_F(BatteryPopupCopying, TheRowUnderThePointerAndAllOfThem)
+{
+    open();
+    chooseInContextMenu(row(FactId::BatterySerial), "Copy");
+    EXPECT_EQ(copied(), QStringLiteral("D867D0E10AB1234"));
+    chooseInContextMenu(row(FactId::BatterySerial), "Copy All");
+    EXPECT_TRUE(copied().startsWith(QStringLiteral("State: Discharging...\nDischarging with: 12.4 W\n")));
+    EXPECT_TRUE(copied().contains(QStringLiteral(u"\nMade by: Simplo \u00B7 bq20z451\n")));
+    EXPECT_TRUE(popup.isOpen());
+    chooseInContextMenu(find<QWidget>("figureLabel"), "Copy");
+    EXPECT_TRUE(copied().contains(u'\n')) << "no row is there, so there is nothing to choose";
+}
+
+TEST_F(BatteryPopupCopying, ByKeyboardTheRowThatHasItElseAll)
+{
+    pressCopy(open());
+    EXPECT_TRUE(copied().startsWith(QStringLiteral("State: Discharging...\n")));
+    auto* field = row(FactId::Temperature)->findChild<SwitchField*>();
+    field->setFocus();
+    pressCopy(field);
+    EXPECT_EQ(copied(), QStringLiteral(u"30.0 \u00B0C"));
 }
 
 TEST_F(BatteryPopupTest, EscapeCloses)

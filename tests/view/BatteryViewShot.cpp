@@ -117,6 +117,11 @@ int main(int argc, char** argv)
     MainInterface interface;
     interface.macObjectController().addObject(computer.mac.get());
     interface.setPowerSources(has("demo") ? nullptr : &computer.platform.powerSources);
+    const bool countsEnergies = has("energy") || has("wh");
+    computer.platform.powerSources.energyVoltage = countsEnergies ? std::optional(11.4) : std::nullopt;
+    interface.setOwnDefaults(&computer.platform.userDefaults.standardDefaults);
+    if (has("wh"))
+        interface.performClick(FactClick::Capacity);
     interface.statusMenu().setText(interface.outlets().versionItem, QStringLiteral("Version 123"));
     interface.stateOfChargeProgress().setContentFilters({hueFilter(angle)});
     interface.stateOfHealthProgress().setContentFilters({hueFilter(has("low") ? 241 : 4)});

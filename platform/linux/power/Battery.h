@@ -25,6 +25,7 @@ struct Battery
     std::optional<double> fullCharge;   ///< above 0
     std::optional<double> designCharge; ///< above 0
     bool tellsPercentageOnly = false;
+    bool isMadeOfEnergies = false; ///< the charges, over the rated voltage
 
     double ratedVoltage = 0;       ///< V; without a figure of the battery's own a usual one, never 0
     std::optional<double> voltage; ///< mV, the present one

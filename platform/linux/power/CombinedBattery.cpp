@@ -131,6 +131,13 @@ std::optional<int> combinedChargeLimit(Batteries batteries)
     return firstTold(batteries, &Battery::chargeLimit);
 }
 
+std::optional<double> combinedVoltageOfEnergies(Batteries batteries)
+{
+    const bool all = std::all_of(batteries.begin(), batteries.end(),
+                                 [](const Battery& battery) { return battery.isMadeOfEnergies; });
+    return all && !batteries.empty() ? std::optional(batteries.front().ratedVoltage) : std::nullopt;
+}
+
 std::optional<double> combinedCycleCount(Batteries batteries)
 {
     OptionalNumber highest;

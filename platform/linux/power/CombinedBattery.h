@@ -25,6 +25,9 @@ std::optional<double> combinedVoltage(Batteries batteries);
 std::optional<double> combinedTemperature(Batteries batteries);
 std::optional<int> combinedChargeLimit(Batteries batteries);
 
+/// At which charges are expressed, where all batteries count energies.
+std::optional<double> combinedVoltageOfEnergies(Batteries batteries);
+
 /// The highest.
 std::optional<double> combinedCycleCount(Batteries batteries);
 

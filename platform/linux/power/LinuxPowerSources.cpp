@@ -38,6 +38,11 @@ std::optional<int> LinuxPowerSources::chargeLimit()
     return combinedChargeLimit(m_sampler.sample()->power.batteries);
 }
 
+std::optional<double> LinuxPowerSources::voltageOfEnergies()
+{
+    return combinedVoltageOfEnergies(m_sampler.sample()->power.batteries);
+}
+
 QList<PeripheralBattery> LinuxPowerSources::peripherals()
 {
     return m_peripherals ? m_peripherals->now() : QList<PeripheralBattery>();

@@ -27,6 +27,7 @@ public:
     std::optional<int> sourceCount() override;
     std::optional<QVariantMap> description(int source) override;
     std::optional<int> chargeLimit() override;
+    std::optional<double> voltageOfEnergies() override;
     QList<PeripheralBattery> peripherals() override;
 
 private:

@@ -178,6 +178,19 @@ TEST(SystemPower, ABatteryWhoseDriverIsNotReadyIsNone)
     EXPECT_EQ(countOf({}), 0U);
 }
 
+TEST(CombinedBattery, EnergiesAreKnownWhereAllBatteriesCountThem)
+{
+    Battery one;
+    one.ratedVoltage = 11.4;
+    one.isMadeOfEnergies = true;
+    Battery other = one;
+    other.ratedVoltage = 15;
+    EXPECT_EQ(combinedVoltageOfEnergies({}), std::nullopt);
+    EXPECT_EQ(combinedVoltageOfEnergies(std::vector{one, other}), 11.4);
+    other.isMadeOfEnergies = false;
+    EXPECT_EQ(combinedVoltageOfEnergies(std::vector{one, other}), std::nullopt);
+}
+
 TEST(SystemPower, AFullChargeThatRoundsToNothingIsNoBattery)
 {
     const Texts texts = {{"energy_full", "1"}, {"energy_now", "1"}, {"voltage_min_design", "100000000"}};
