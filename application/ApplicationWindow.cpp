@@ -184,7 +184,8 @@ void ApplicationWindow::applyColours()
     sidebar.setColor(QPalette::Base, side);
     m_sidebar->setPalette(sidebar);
     QPalette line = palette();
-    line.setColor(QPalette::Window, mixed(palette().color(QPalette::WindowText), side, lineShare));
+    line.setColor(QPalette::Window,
+                  mixed(palette().color(QPalette::WindowText), side, lineShareFor(palette(), lineShare)));
     m_line->setPalette(line);
     QPalette content;
     content.setColor(QPalette::PlaceholderText, hintColour(palette()));

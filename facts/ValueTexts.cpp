@@ -21,7 +21,7 @@ QString amountText(qint64 milliampHours, const CapacityWords& words)
 {
     if (!words.voltage || milliampHours <= 0)
         return countText(milliampHours, words.place);
-    return figureText(double(milliampHours) * *words.voltage / 1000);
+    return figureText(double(milliampHours) * *words.voltage / 1000, words.place);
 }
 
 } // namespace

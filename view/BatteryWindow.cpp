@@ -246,8 +246,8 @@ void BatteryWindow::contextMenuEvent(QContextMenuEvent* event)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const FactRow* row = rowOf(childAt(event->pos()));
     if (row && !row->text().isEmpty())
-        menu->addAction(QStringLiteral("Copy"), this, [text = row->text()] { copyText(text); });
-    menu->addAction(QStringLiteral("Copy All"), this, [this] { copyText(linesOf(m_facts)); });
+        menu->addAction(tr("Copy"), this, [text = row->text()] { copyText(text); });
+    menu->addAction(tr("Copy All"), this, [this] { copyText(linesOf(m_facts)); });
     menu->popup(event->globalPos());
 }
 

@@ -1,6 +1,8 @@
 #include "widgets/ControlColours.h"
 
+#include <QAbstractSpinBox>
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QWidget>
 
@@ -49,6 +51,12 @@ void makeBoxesVisible(const QWidget& whole, const QPalette& palette)
         setOutlineSource(*box, source);
     for (auto* button : whole.findChildren<QRadioButton*>())
         setOutlineSource(*button, source);
+    // Fields have another colour than what they stand on, except where both are as dark or light as can be.
+    const QColor sourceOfFields = hasStrongContrast(palette) ? source : QColor();
+    for (auto* field : whole.findChildren<QLineEdit*>())
+        setOutlineSource(*field, sourceOfFields);
+    for (auto* field : whole.findChildren<QAbstractSpinBox*>())
+        setOutlineSource(*field, sourceOfFields);
 }
 
 } // namespace quindle

@@ -81,11 +81,15 @@ QColor quietTextOf(const QWidget& widget)
     return quietText(widget.palette(), textOf(widget), backgroundOf(widget));
 }
 
-QColor lineOf(const QWidget& widget, double share)
+double lineShareFor(const QPalette& palette, double share)
 {
     constexpr double strongShare = 0.6;
-    return mixed(textOf(widget), backgroundOf(widget),
-                 hasStrongContrast(widget.palette()) ? std::max(share, strongShare) : share);
+    return hasStrongContrast(palette) ? std::max(share, strongShare) : share;
+}
+
+QColor lineOf(const QWidget& widget, double share)
+{
+    return mixed(textOf(widget), backgroundOf(widget), lineShareFor(widget.palette(), share));
 }
 
 bool isDark(const QColor& background)

@@ -30,7 +30,10 @@ QColor quietText(const QPalette& palette, const QColor& text, const QColor& back
 /// In the colours of the widget's roles.
 QColor quietTextOf(const QWidget& widget);
 
-/// A thin line on a widget: `share` of its text, and far more where its palette asks for strong contrast.
+/// How much of the text a thin line has: `share`, and far more where the palette asks for strong contrast.
+double lineShareFor(const QPalette& palette, double share);
+
+/// A thin line on a widget.
 QColor lineOf(const QWidget& widget, double share);
 
 bool isDark(const QColor& background);

@@ -1126,6 +1126,14 @@
         <source>Battery</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>نسخ الكل</translation>
+    </message>
 </context>
 <context>
     <name>quindle::CompareDialog</name>

@@ -1078,6 +1078,14 @@
         <source>Battery</source>
         <translation>Batterie</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>Alles kopieren</translation>
+    </message>
 </context>
 <context>
     <name>quindle::CompareDialog</name>

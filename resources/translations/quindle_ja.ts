@@ -1066,6 +1066,14 @@
         <source>Battery</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>すべてコピー</translation>
+    </message>
 </context>
 <context>
     <name>quindle::CompareDialog</name>

@@ -1090,6 +1090,14 @@
         <source>Battery</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>Kopiuj wszystko</translation>
+    </message>
 </context>
 <context>
     <name>quindle::CompareDialog</name>

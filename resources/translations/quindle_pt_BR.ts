@@ -1078,6 +1078,14 @@
         <source>Battery</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>Copiar tudo</translation>
+    </message>
 </context>
 <context>
     <name>quindle::CompareDialog</name>

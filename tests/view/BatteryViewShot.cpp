@@ -1,6 +1,6 @@
 // Renders the opened battery view of an invented computer: BatteryViewShot CASE FILE.png
 // CASE: words joined by "-" of light, dark, charging, full, low, held, nodesign, limit, devices, two, chip,
-// demo, none, rtl, long; "stay" leaves it open
+// energy, wh, demo, none, rtl, long, contrast; "stay" leaves it open
 
 #include <QApplication>
 #include <QPalette>
@@ -11,6 +11,7 @@
 #include "tests/view/Palettes.h"
 #include "view/BatteryWindow.h"
 #include "view/MenuEntry.h"
+#include "widgets/DesktopLook.h"
 
 using namespace quindle;
 using test::FactComputer;
@@ -94,6 +95,8 @@ int main(int argc, char** argv)
     const auto has = [&words](const char* word) { return words.contains(QLatin1String(word)); };
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(has("dark") ? test::darkPalette() : test::lightPalette());
+    if (has("contrast"))
+        QApplication::setPalette(paletteFor({.isDark = has("dark"), .hasStrongContrast = true}));
     if (has("rtl"))
         QApplication::setLayoutDirection(Qt::RightToLeft);
 

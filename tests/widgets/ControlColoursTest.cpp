@@ -5,12 +5,14 @@
 
 #include <QCheckBox>
 #include <QImage>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QStyle>
 #include <QStyleFactory>
 #include <gtest/gtest.h>
 
 #include "tests/support/Texts.h"
+#include "widgets/DesktopLook.h"
 #include "widgets/PaletteMix.h"
 
 using namespace quindle;
@@ -56,6 +58,15 @@ TEST(ControlColours, BoxesThatAreNotTickedCanBeSeenOnDarkPalettes)
 {
     EXPECT_GT(outlineContrast<QCheckBox>(dark), 3);
     EXPECT_GT(outlineContrast<QRadioButton>(dark), 3);
+}
+
+TEST(ControlColours, WithStrongContrastFieldsHaveEdgesToo)
+{
+    for (const bool isOnDark : {false, true}) {
+        const QPalette strong = paletteFor({.isDark = isOnDark, .hasStrongContrast = true});
+        EXPECT_GT(outlineContrast<QCheckBox>(strong), 3) << isOnDark;
+        EXPECT_GT(outlineContrast<QLineEdit>(strong), 3) << isOnDark;
+    }
 }
 
 TEST(ControlColours, OnLightPalettesTheStylesOwnStays)
