@@ -62,9 +62,6 @@ public:
         QApplication::setDesktopFileName(QStringLiteral("quindle-helper"));
         // The helper says when to end.
         QApplication::setQuitOnLastWindowClosed(false);
-        // Window managers of X11 do not look for the desktop entry's icon.
-        QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("quindle-helper")));
-        closeDialogsByKey();
         leaveStartToHelper(m_application);
         m_start.end();
     }
@@ -133,6 +130,9 @@ int start(const WindowsCommandLine& commandLine)
     }
     exposePopups();
     const HelpersApplication application;
+    // Window managers of X11 do not look for the desktop entry's icon.
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("quindle-helper")));
+    closeDialogsByKey();
     const WindowLanguage language(
         translationsOf(QCoreApplication::applicationDirPath() + QStringLiteral("/../..")));
     SocketLink link(std::move(end));
