@@ -10,7 +10,7 @@ test_packages="libgtest-dev libgmock-dev mold python3 python3-dbus python3-gi py
     dunst waybar sway grim xcompmgr hsetroot dex lxqt-session at-spi2-core gir1.2-atspi-2.0
     binutils openssl desktop-file-utils appstream man-db"
 fleet_packages="prometheus prometheus-node-exporter python3"
-fuzz_packages="clang"
+clang_packages="clang llvm"
 macos_packages="clang-14 lld-14 llvm-14 libc++1-14 libc++abi1-14 python3"
 tidy_packages="clang-tidy"
 package_packages="git dpkg-dev file lintian python3 binutils"
@@ -48,4 +48,9 @@ install_packages() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq update
     as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends "${missing[@]}" \
         >/dev/null
+}
+
+# The sanitizers and the fuzzing engine of the clang that is installed: their package has its version in its name.
+install_sanitizer_runtime() {
+    install_packages "libclang-rt-$(clang -dumpversion | cut -d. -f1)-dev"
 }

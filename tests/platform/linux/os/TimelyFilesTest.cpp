@@ -22,11 +22,11 @@ struct TimelyFilesTest : testing::Test
     /// On the threads that read.
     struct Disk
     {
-        std::optional<QByteArray> read(const QString& path)
+        std::optional<QByteArray> read(const QString& name)
         {
             ++reads;
             const std::scoped_lock hangs(gate);
-            return readSmallFile(path);
+            return readSmallFile(name);
         }
 
         std::mutex gate;

@@ -68,7 +68,7 @@ TEST(UserFolders, TheRuntimeFolderIsTheUsersAlone)
     const QByteArray path = QFile::encodeName(folder.path());
     qputenv("XDG_RUNTIME_DIR", path);
     EXPECT_EQ(runtimeFolder(), folder.path());
-    for (const mode_t mode : {0720, 0702, 0777}) {
+    for (const mode_t mode : {0720U, 0702U, 0777U}) {
         ASSERT_EQ(::chmod(path.constData(), mode), 0);
         EXPECT_EQ(runtimeFolder(), QString()) << mode;
     }
