@@ -6,430 +6,430 @@
     <message>
         <source>MMM d</source>
         <comment>as date formats write it</comment>
-        <translation type="unfinished"></translation>
+        <translation>d MMM</translation>
     </message>
     <message>
         <source>MMMM yyyy</source>
         <comment>as date formats write it</comment>
-        <translation type="unfinished"></translation>
+        <translation>MMMM yyyy</translation>
     </message>
     <message>
         <source>d MMM</source>
         <comment>as date formats write it</comment>
-        <translation type="unfinished"></translation>
+        <translation>d MMM</translation>
     </message>
     <message>
         <source>d MMM yyyy</source>
         <comment>as date formats write it</comment>
-        <translation type="unfinished"></translation>
+        <translation>d MMM yyyy</translation>
     </message>
 </context>
 <context>
     <name>Details</name>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Power source</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonte di alimentazione</translation>
     </message>
     <message>
         <source>Power source %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonte di alimentazione %1</translation>
     </message>
     <message>
         <source>Registry: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro: %1</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
 </context>
 <context>
     <name>Facts</name>
     <message>
         <source>%1 Watts</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;watt</translation>
     </message>
     <message numerus="yes">
         <source>%1 cycles</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;ciclo</numerusform>
+            <numerusform>%1&#xa0;cicli</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 days</source>
         <comment>age</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;giorno</numerusform>
+            <numerusform>%1&#xa0;giorni</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 months</source>
         <comment>age</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;mese</numerusform>
+            <numerusform>%1&#xa0;mesi</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <comment>capacities</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>%1 years</source>
         <comment>age with one decimal</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;anni</translation>
     </message>
     <message>
         <source>1 cycle</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;ciclo</translation>
     </message>
     <message>
         <source>Adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Alimentatore</translation>
     </message>
     <message>
         <source>Age</source>
-        <translation type="unfinished"></translation>
+        <translation>Età</translation>
     </message>
     <message>
         <source>Battery %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria %1</translation>
     </message>
     <message>
         <source>Battery age</source>
-        <translation type="unfinished"></translation>
+        <translation>Età della batteria</translation>
     </message>
     <message>
         <source>Battery device</source>
-        <translation type="unfinished"></translation>
+        <translation>Componente batteria</translation>
     </message>
     <message>
         <source>Battery fully charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria carica</translation>
     </message>
     <message>
         <source>Battery made by</source>
-        <translation type="unfinished"></translation>
+        <translation>Produttore batteria</translation>
     </message>
     <message>
         <source>Battery usage</source>
-        <translation type="unfinished"></translation>
+        <translation>Consumo</translation>
     </message>
     <message>
         <source>Built %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Assemblato: %1</translation>
     </message>
     <message>
         <source>Calculating...</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolo in corso…</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica</translation>
     </message>
     <message>
         <source>Charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Limite di carica</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Completamente carica</translation>
     </message>
     <message>
         <source>Chargin with</source>
-        <translation type="unfinished"></translation>
+        <translation>In carica a</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>In carica</translation>
     </message>
     <message>
         <source>Charging with</source>
-        <translation type="unfinished"></translation>
+        <translation>In carica a</translation>
     </message>
     <message>
         <source>Charging...</source>
-        <translation type="unfinished"></translation>
+        <translation>In carica…</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
     <message>
         <source>Computer age</source>
-        <translation type="unfinished"></translation>
+        <translation>Età del computer</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Collegato</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Critica</translation>
     </message>
     <message>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cicli di carica</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Componente</translation>
     </message>
     <message>
         <source>Discharging</source>
-        <translation type="unfinished"></translation>
+        <translation>In scarica</translation>
     </message>
     <message>
         <source>Discharging with</source>
-        <translation type="unfinished"></translation>
+        <translation>In scarica a</translation>
     </message>
     <message>
         <source>Discharging...</source>
-        <translation type="unfinished"></translation>
+        <translation>In scarica…</translation>
     </message>
     <message>
         <source>Failures</source>
-        <translation type="unfinished"></translation>
+        <translation>Guasti</translation>
     </message>
     <message>
         <source>Fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Discreta</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <translation>Piena</translation>
     </message>
     <message>
         <source>Full charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica completa</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Buona</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salute</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Bassa</translation>
     </message>
     <message>
         <source>Made by</source>
-        <translation type="unfinished"></translation>
+        <translation>Produttore</translation>
     </message>
     <message>
         <source>Manufactured %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Prodotta: %1</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modello</translation>
     </message>
     <message>
         <source>No Errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun errore</translation>
     </message>
     <message>
         <source>No battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna batteria</translation>
     </message>
     <message>
         <source>No design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Senza val. nominale</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Non collegato</translation>
     </message>
     <message>
         <source>Not known</source>
         <comment>the health</comment>
-        <translation type="unfinished"></translation>
+        <translation>Non nota</translation>
     </message>
     <message>
         <source>Poor</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarsa</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenza</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero di serie</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>The actual capacity the battery had after it left the factory. (reported by the manufacturer)</source>
-        <translation type="unfinished"></translation>
+        <translation>La capacità effettiva della batteria all’uscita dalla fabbrica (secondo il produttore).</translation>
     </message>
     <message>
         <source>The capacity the battery reports it had after it left the factory. (stored in the Firmware)</source>
-        <translation type="unfinished"></translation>
+        <translation>La capacità che la batteria dichiara di aver avuto all’uscita dalla fabbrica (memorizzata nel firmware).</translation>
     </message>
     <message>
         <source>The number of charge/discharge cycles the battery has experienced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il numero di cicli di carica e scarica che la batteria ha avuto.</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Time until empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria scarica tra</translation>
     </message>
     <message>
         <source>Time until full</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica completa tra</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
 </context>
 <context>
     <name>HistoryRange</name>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tutto</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Giorno</translation>
     </message>
     <message>
         <source>&amp;Month</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mese</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Settimana</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anno</translation>
     </message>
     <message>
         <source>last 24 hours</source>
-        <translation type="unfinished"></translation>
+        <translation>ultime 24 ore</translation>
     </message>
     <message>
         <source>last 30 days</source>
-        <translation type="unfinished"></translation>
+        <translation>ultimi 30 giorni</translation>
     </message>
     <message>
         <source>last 365 days</source>
-        <translation type="unfinished"></translation>
+        <translation>ultimi 365 giorni</translation>
     </message>
     <message>
         <source>last 7 days</source>
-        <translation type="unfinished"></translation>
+        <translation>ultimi 7 giorni</translation>
     </message>
     <message>
         <source>whole history</source>
-        <translation type="unfinished"></translation>
+        <translation>intera cronologia</translation>
     </message>
 </context>
 <context>
     <name>HistorySettings</name>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;giorno</numerusform>
+            <numerusform>%1&#xa0;giorni</numerusform>
         </translation>
     </message>
     <message>
         <source>1 year</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;anno</translation>
     </message>
     <message>
         <source>10 years</source>
-        <translation type="unfinished"></translation>
+        <translation>10&#xa0;anni</translation>
     </message>
     <message>
         <source>2 years</source>
-        <translation type="unfinished"></translation>
+        <translation>2&#xa0;anni</translation>
     </message>
     <message>
         <source>30 days</source>
-        <translation type="unfinished"></translation>
+        <translation>30&#xa0;giorni</translation>
     </message>
     <message>
         <source>5 years</source>
-        <translation type="unfinished"></translation>
+        <translation>5&#xa0;anni</translation>
     </message>
     <message>
         <source>90 days</source>
-        <translation type="unfinished"></translation>
+        <translation>90&#xa0;giorni</translation>
     </message>
     <message>
         <source>For ever</source>
-        <translation type="unfinished"></translation>
+        <translation>Senza limite</translation>
     </message>
 </context>
 <context>
     <name>Menu</name>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Dettagli</translation>
     </message>
     <message>
         <source>Menu Bar Text...</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo nella barra dei menu…</translation>
     </message>
     <message>
         <source>Open Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri l’applicazione</translation>
     </message>
     <message>
         <source>Preferences...</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferenze…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci</translation>
     </message>
     <message>
         <source>Show Battery...</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la batteria…</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione %1</translation>
     </message>
 </context>
 <context>
@@ -437,519 +437,519 @@
     <message>
         <source>.</source>
         <comment>between a whole number and its decimals</comment>
-        <translation type="unfinished"></translation>
+        <translation>,</translation>
     </message>
 </context>
 <context>
     <name>Packaging</name>
     <message>
         <source>Battery History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia della batteria</translation>
     </message>
     <message>
         <source>Battery Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato della batteria</translation>
     </message>
     <message>
         <source>Battery charge, health and time in the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica, salute e autonomia della batteria nel pannello</translation>
     </message>
     <message>
         <source>Battery charge, health and what becomes of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica e salute della batteria e il loro andamento</translation>
     </message>
     <message>
         <source>Charge, power, remaining time, health, cycles, age and temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica, potenza, tempo rimanente, salute, cicli, età e temperatura</translation>
     </message>
     <message>
         <source>Nothing is sent anywhere unless you allow it</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla viene inviato senza autorizzazione</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quindle mostra in un’unica finestra tutto ciò che indicano le batterie di un computer portatile. Il suo compagno, Quindle Helper, si trova nell’area di notifica del pannello con un titolo composto da un modello personale e un’icona; un clic su di essa apre la vista della batteria.</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>
-        <translation type="unfinished"></translation>
+        <translation>Più batterie riunite in una</translation>
     </message>
     <message>
         <source>Trays on X11 and on Wayland</source>
-        <translation type="unfinished"></translation>
+        <translation>Aree di notifica su X11 e su Wayland</translation>
     </message>
     <message>
         <source>battery charge, health and time in the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>carica, salute e autonomia della batteria nel pannello</translation>
     </message>
     <message>
         <source>battery charge, health and what becomes of them</source>
-        <translation type="unfinished"></translation>
+        <translation>carica e salute della batteria e il loro andamento</translation>
     </message>
     <message>
         <source>battery;power;charge;health;laptop;</source>
-        <translation type="unfinished"></translation>
+        <translation>batteria;energia;alimentazione;carica;salute;portatile;</translation>
     </message>
     <message>
         <source>battery;power;charge;health;wear;laptop;</source>
-        <translation type="unfinished"></translation>
+        <translation>batteria;energia;alimentazione;carica;salute;usura;portatile;</translation>
     </message>
     <message>
         <source>print the battery as Quindle Helper sees it</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra la batteria come la vede Quindle Helper</translation>
     </message>
 </context>
 <context>
     <name>Pages</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Dettagli</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Istantanee</translation>
     </message>
 </context>
 <context>
     <name>Placeholders</name>
     <message>
         <source>Charge cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cicli di carica</translation>
     </message>
     <message>
         <source>Charge in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica in percentuale</translation>
     </message>
     <message>
         <source>Charging or discharging</source>
-        <translation type="unfinished"></translation>
+        <translation>In carica o in scarica</translation>
     </message>
     <message>
         <source>Current in milliamperes</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrente in milliampere</translation>
     </message>
     <message>
         <source>Power in watts</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenza in watt</translation>
     </message>
     <message>
         <source>Remaining time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo rimanente</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
 </context>
 <context>
     <name>Preferences</name>
     <message>
         <source>Newer versions come from where this copy was installed from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nuove versioni provengono da dove è stata installata questa copia.</translation>
     </message>
     <message>
         <source>Nothing would be sent now: a value that names the battery is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora non verrebbe inviato nulla: manca un valore che identifica la batteria.</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferenze</translation>
     </message>
     <message>
         <source>This copy was built on this computer. Newer source, built again, updates it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa copia è stata compilata su questo computer. Per aggiornarla si compila un codice sorgente più recente.</translation>
     </message>
     <message>
         <source>This is the package &quot;%1&quot;. Newer versions of it are installed with %2, as those of the other packages of this system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo è il pacchetto «%1». Le sue nuove versioni si installano con %2, come quelle degli altri pacchetti di questo sistema.</translation>
     </message>
     <message>
         <source>Unknown</source>
         <comment>the version</comment>
-        <translation type="unfinished"></translation>
+        <translation>Sconosciuta</translation>
     </message>
     <message>
         <source>Update</source>
         <comment>title of the pane</comment>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento</translation>
     </message>
 </context>
 <context>
     <name>SampleChart</name>
     <message>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica</translation>
     </message>
     <message>
         <source>Nothing was recorded in this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>In questo periodo non è stato registrato nulla.</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenza</translation>
     </message>
     <message>
         <source>charging</source>
-        <translation type="unfinished"></translation>
+        <translation>in carica</translation>
     </message>
     <message>
         <source>discharging</source>
-        <translation type="unfinished"></translation>
+        <translation>in scarica</translation>
     </message>
     <message>
         <source>from UPower</source>
-        <translation type="unfinished"></translation>
+        <translation>da UPower</translation>
     </message>
     <message>
         <source>full</source>
-        <translation type="unfinished"></translation>
+        <translation>piena</translation>
     </message>
 </context>
 <context>
     <name>SnapshotFiles</name>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i file (*)</translation>
     </message>
     <message>
         <source>Archives of snapshots (*.qndarchive)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivi di istantanee (*.qndarchive)</translation>
     </message>
     <message>
         <source>Export Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta istantanee</translation>
     </message>
     <message>
         <source>Import Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa istantanee</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>Table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabella (*.csv)</translation>
     </message>
     <message>
         <source>With serial &amp;numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Con i &amp;numeri di serie</translation>
     </message>
 </context>
 <context>
     <name>Snapshots</name>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;giorno</numerusform>
+            <numerusform>%1&#xa0;giorni</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 points</source>
         <comment>of health, with one decimal</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;punti</translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;istantanea</numerusform>
+            <numerusform>%1&#xa0;istantanee</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;istantanea eliminata</numerusform>
+            <numerusform>%1&#xa0;istantanee eliminate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots imported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;istantanea importata</numerusform>
+            <numerusform>%1&#xa0;istantanee importate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots restored</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;istantanea ripristinata</numerusform>
+            <numerusform>%1&#xa0;istantanee ripristinate</numerusform>
         </translation>
     </message>
     <message>
         <source>1 day</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;giorno</translation>
     </message>
     <message>
         <source>1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;istantanea</translation>
     </message>
     <message>
         <source>1 snapshot deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;istantanea eliminata</translation>
     </message>
     <message>
         <source>1 snapshot imported</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;istantanea importata</translation>
     </message>
     <message>
         <source>1 snapshot restored</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;istantanea ripristinata</translation>
     </message>
     <message>
         <source>1 snapshot saved</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;istantanea salvata</translation>
     </message>
     <message>
         <source>All snapshots deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le istantanee eliminate</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
     <message>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cicli di carica</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità nominale</translation>
     </message>
     <message>
         <source>Full charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica completa</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salute</translation>
     </message>
     <message>
         <source>There is no folder for snapshots: the user has no home folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è una cartella per le istantanee: l’utente non ha una cartella personale</translation>
     </message>
 </context>
 <context>
     <name>Trend</name>
     <message numerus="yes">
         <source>%1 cycles</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;ciclo</numerusform>
+            <numerusform>%1&#xa0;cicli</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;giorno</numerusform>
+            <numerusform>%1&#xa0;giorni</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 points a year</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;punti all’anno</translation>
     </message>
     <message>
         <source>%1 so far</source>
         <comment>days</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 finora</translation>
     </message>
     <message>
         <source>%1, from %2</source>
         <comment>a pace, days</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, in base a %2</translation>
     </message>
     <message>
         <source>%1, from %2 and %3</source>
         <comment>a pace, days, cycles</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, in base a %2 e %3</translation>
     </message>
     <message>
         <source>1 cycle</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;ciclo</translation>
     </message>
     <message>
         <source>1 day</source>
-        <translation type="unfinished"></translation>
+        <translation>1&#xa0;giorno</translation>
     </message>
     <message>
         <source>80 %</source>
-        <translation type="unfinished"></translation>
+        <translation>80%</translation>
     </message>
     <message>
         <source>80 % of its first full charge</source>
-        <translation type="unfinished"></translation>
+        <translation>80% della prima carica completa</translation>
     </message>
     <message>
         <source>Already under %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Già sotto l’%1</translation>
     </message>
     <message>
         <source>At this pace %1 %2</source>
         <comment>a percentage, when</comment>
-        <translation type="unfinished"></translation>
+        <translation>A questo ritmo, l’%1 %2</translation>
     </message>
     <message>
         <source>C</source>
         <comment>the locale that names months, such as de_DE</comment>
-        <translation type="unfinished"></translation>
+        <translation>it_IT</translation>
     </message>
     <message>
         <source>No wear to be seen in %1</source>
         <comment>days</comment>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna usura visibile in %1</translation>
     </message>
     <message>
         <source>Not enough history yet (needs 60 days)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia ancora insufficiente (servono 60&#xa0;giorni)</translation>
     </message>
     <message>
         <source>about now</source>
-        <translation type="unfinished"></translation>
+        <translation>più o meno ora</translation>
     </message>
     <message>
         <source>around %1</source>
         <comment>a month with its year</comment>
-        <translation type="unfinished"></translation>
+        <translation>verso %1</translation>
     </message>
     <message>
         <source>around %1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>verso il %1</translation>
     </message>
     <message>
         <source>between %1 and %2</source>
         <comment>years</comment>
-        <translation type="unfinished"></translation>
+        <translation>tra il %1 e il %2</translation>
     </message>
     <message>
         <source>in early %1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>all’inizio del %1</translation>
     </message>
     <message>
         <source>in late %1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>alla fine del %1</translation>
     </message>
     <message>
         <source>in mid-%1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>a metà del %1</translation>
     </message>
     <message>
         <source>in more than 20 years</source>
-        <translation type="unfinished"></translation>
+        <translation>tra più di 20&#xa0;anni</translation>
     </message>
     <message>
         <source>less than %1 points a year</source>
-        <translation type="unfinished"></translation>
+        <translation>meno di %1&#xa0;punti all’anno</translation>
     </message>
     <message>
         <source>not before %1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>non prima del %1</translation>
     </message>
 </context>
 <context>
     <name>WarningSettings</name>
     <message>
         <source>%1&apos;s power manager warns on this desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>In questo ambiente desktop avvisa il gestore dell’energia di %1.</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Sempre</translation>
     </message>
     <message>
         <source>Battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria bassa</translation>
     </message>
     <message>
         <source>Charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Limite di carica</translation>
     </message>
     <message>
         <source>Command for battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando per batteria bassa</translation>
     </message>
     <message>
         <source>Command for full</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando per batteria piena</translation>
     </message>
     <message>
         <source>Command for nearly empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando per batteria quasi scarica</translation>
     </message>
     <message>
         <source>Command for the charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando per il limite di carica</translation>
     </message>
     <message>
         <source>Command for very low</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando per batteria molto bassa</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <translation>Piena</translation>
     </message>
     <message>
         <source>Nearly empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Quasi scarica</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Mai</translation>
     </message>
     <message>
         <source>Percentage for battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentuale per batteria bassa</translation>
     </message>
     <message>
         <source>Percentage for full</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentuale per batteria piena</translation>
     </message>
     <message>
         <source>Percentage for nearly empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentuale per batteria quasi scarica</translation>
     </message>
     <message>
         <source>Percentage for the charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentuale per il limite di carica</translation>
     </message>
     <message>
         <source>Percentage for very low</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentuale per batteria molto bassa</translation>
     </message>
     <message>
         <source>Unless the desktop warns</source>
-        <translation type="unfinished"></translation>
+        <translation>Se non avvisa l’ambiente desktop</translation>
     </message>
     <message>
         <source>Very low</source>
-        <translation type="unfinished"></translation>
+        <translation>Molto bassa</translation>
     </message>
 </context>
 <context>
@@ -957,126 +957,126 @@
     <message>
         <source>%1 left</source>
         <comment>a percentage</comment>
-        <translation type="unfinished"></translation>
+        <translation>Carica rimanente: %1</translation>
     </message>
     <message numerus="yes">
         <source>About %1 minutes left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Rimane circa %1&#xa0;minuto</numerusform>
+            <numerusform>Rimangono circa %1&#xa0;minuti</numerusform>
         </translation>
     </message>
     <message>
         <source>About a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimane circa un minuto</translation>
     </message>
     <message>
         <source>Battery full</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria piena</translation>
     </message>
     <message>
         <source>Battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria bassa</translation>
     </message>
     <message>
         <source>Battery nearly empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria quasi scarica</translation>
     </message>
     <message>
         <source>Battery very low</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria molto bassa</translation>
     </message>
     <message>
         <source>Charge limit reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Limite di carica raggiunto</translation>
     </message>
 </context>
 <context>
     <name>WearChart</name>
     <message>
         <source>Battery %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria %1</translation>
     </message>
     <message>
         <source>Design capacity %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità nominale %1</translation>
     </message>
     <message>
         <source>First full charge %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima carica completa %1</translation>
     </message>
     <message>
         <source>No snapshots yet: one is saved each day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessuna istantanea: ne viene salvata una al giorno.</translation>
     </message>
 </context>
 <context>
     <name>quindle::BatteryPage</name>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivi</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salute</translation>
     </message>
     <message>
         <source>No battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna batteria</translation>
     </message>
 </context>
 <context>
     <name>quindle::BatteryView</name>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivi</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salute</translation>
     </message>
 </context>
 <context>
     <name>quindle::BatteryWindow</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -1091,712 +1091,712 @@
     <name>quindle::CompareDialog</name>
     <message>
         <source>Compare Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Confronta istantanee</translation>
     </message>
 </context>
 <context>
     <name>quindle::DetailsPage</name>
     <message>
         <source>&amp;Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copia come testo</translation>
     </message>
     <message>
         <source>&amp;Save as Machine File...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva come file della macchina…</translation>
     </message>
     <message>
         <source>A file that the program can be run on in place of this computer, for reports of defects</source>
-        <translation type="unfinished"></translation>
+        <translation>Un file su cui il programma può essere eseguito al posto di questo computer, per segnalare difetti</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiato</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Dettagli</translation>
     </message>
     <message>
         <source>Machine files (*.plist)</source>
-        <translation type="unfinished"></translation>
+        <translation>File della macchina (*.plist)</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun risultato</translation>
     </message>
     <message>
         <source>Save as Machine File</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva come file della macchina</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvato</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca</translation>
     </message>
     <message>
         <source>Search details</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca nei dettagli</translation>
     </message>
     <message>
         <source>With serial &amp;numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Con i &amp;numeri di serie</translation>
     </message>
 </context>
 <context>
     <name>quindle::FactRow</name>
     <message>
         <source>Click to switch the unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Fare clic per cambiare unità</translation>
     </message>
 </context>
 <context>
     <name>quindle::GeneralPreferencesController</name>
     <message>
         <source>&amp;Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celsius</translation>
     </message>
     <message>
         <source>&amp;Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fahrenheit</translation>
     </message>
     <message>
         <source>&amp;Kelvin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kelvin</translation>
     </message>
     <message>
         <source>&amp;Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parametri</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ripristina</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Generali</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Accesso</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei menu</translation>
     </message>
     <message>
         <source>Menu bar &amp;text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Testo nella barra dei menu</translation>
     </message>
     <message>
         <source>Menu bar text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo nella barra dei menu</translation>
     </message>
     <message>
         <source>Nothing can be sent: no statistics service is configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non si può inviare nulla: non è configurato alcun servizio di statistiche.</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametri</translation>
     </message>
     <message>
         <source>Reset menu bar text</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina il testo nella barra dei menu</translation>
     </message>
     <message>
         <source>See &amp;exactly what is sent...</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra &amp;esattamente cosa viene inviato…</translation>
     </message>
     <message>
         <source>See exactly what is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra esattamente cosa viene inviato</translation>
     </message>
     <message>
         <source>Send battery &amp;health once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Invia la &amp;salute della batteria una volta al giorno</translation>
     </message>
     <message>
         <source>Send battery health once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Invia la salute della batteria una volta al giorno</translation>
     </message>
     <message>
         <source>Show battery &amp;icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra l’&amp;icona della batteria</translation>
     </message>
     <message>
         <source>Show battery icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra l’icona della batteria</translation>
     </message>
     <message>
         <source>Start when I l&amp;og in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avvia all’accesso</translation>
     </message>
     <message>
         <source>Start when I log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia all’accesso</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiche</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>The serial number is masked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il numero di serie è mascherato.</translation>
     </message>
     <message>
         <source>This option can only be disabled in main application. Run it via &quot;Open Application&quot; from the menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa opzione si può disattivare solo nell’applicazione principale, che si apre con «Apri l’applicazione» nel menu</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviso</translation>
     </message>
 </context>
 <context>
     <name>quindle::HelperPreferences</name>
     <message>
         <source>&amp;Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celsius</translation>
     </message>
     <message>
         <source>&amp;Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fahrenheit</translation>
     </message>
     <message>
         <source>&amp;Kelvin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kelvin</translation>
     </message>
     <message>
         <source>&amp;Mark battery data for automatic upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrassegna i &amp;dati della batteria per l’invio automatico</translation>
     </message>
     <message>
         <source>&amp;Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parametri</translation>
     </message>
     <message>
         <source>&amp;Run in the background when I log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegui in &amp;secondo piano all’accesso</translation>
     </message>
     <message>
         <source>&amp;Standard title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo s&amp;tandard</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>Chi&amp;udi</translation>
     </message>
     <message>
         <source>C&amp;ustom text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo p&amp;ersonalizzato</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>Custom menu bar text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo personalizzato nella barra dei menu</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icona</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Accesso</translation>
     </message>
     <message>
         <source>Mark battery data for automatic upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrassegna i dati della batteria per l’invio automatico</translation>
     </message>
     <message>
         <source>Menu Bar Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo nella barra dei menu</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei menu</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametri</translation>
     </message>
     <message>
         <source>Run in the background when I log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegui in secondo piano all’accesso</translation>
     </message>
     <message>
         <source>Show battery &amp;icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra l’&amp;icona della batteria</translation>
     </message>
     <message>
         <source>Show battery icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra l’icona della batteria</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiche</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>This mark alone sends nothing. The daily upload is switched in Preferences, General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo contrassegno da solo non invia nulla. L’invio quotidiano si attiva nelle preferenze, in «Generali».</translation>
     </message>
 </context>
 <context>
     <name>quindle::HistoryPage</name>
     <message>
         <source>&amp;Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carica</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Esporta…</translation>
     </message>
     <message>
         <source>&amp;Power</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Potenza</translation>
     </message>
     <message>
         <source>&amp;Save Picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva &amp;immagine…</translation>
     </message>
     <message>
         <source>Charge, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica, %1</translation>
     </message>
     <message>
         <source>Drawings (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegni (*.svg)</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta</translation>
     </message>
     <message>
         <source>Full charge, mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica completa, mAh</translation>
     </message>
     <message>
         <source>Full charge, whole history</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica completa, intera cronologia</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salute</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia</translation>
     </message>
     <message>
         <source>No history yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessuna cronologia</translation>
     </message>
     <message>
         <source>One snapshot a day says how the battery wears</source>
-        <translation type="unfinished"></translation>
+        <translation>Un’istantanea al giorno mostra come si usura la batteria</translation>
     </message>
     <message>
         <source>Pictures (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini (*.png)</translation>
     </message>
     <message>
         <source>Power, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenza, %1</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Grandezza</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Periodo</translation>
     </message>
     <message>
         <source>Recording is off, so nothing is added.</source>
-        <translation type="unfinished"></translation>
+        <translation>La registrazione è disattivata, quindi non si aggiunge nulla.</translation>
     </message>
     <message>
         <source>Save Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva immagine</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvato</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Settings of recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni di registrazione</translation>
     </message>
     <message>
         <source>Tables (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle (*.csv)</translation>
     </message>
     <message>
         <source>With a probability of 95 % between %1 and %2 points a year</source>
-        <translation type="unfinished"></translation>
+        <translation>Con una probabilità del 95%, tra %1 e %2&#xa0;punti all’anno</translation>
     </message>
     <message>
         <source>asleep left open</source>
-        <translation type="unfinished"></translation>
+        <translation>sospensione lasciata vuota</translation>
     </message>
     <message>
         <source>charging shaded</source>
-        <translation type="unfinished"></translation>
+        <translation>carica ombreggiata</translation>
     </message>
     <message>
         <source>older values are means</source>
-        <translation type="unfinished"></translation>
+        <translation>i valori meno recenti sono medie</translation>
     </message>
     <message>
         <source>pale from UPower</source>
-        <translation type="unfinished"></translation>
+        <translation>in chiaro, da UPower</translation>
     </message>
 </context>
 <context>
     <name>quindle::HistorySettingsView</name>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elimina</translation>
     </message>
     <message>
         <source>&amp;Delete History...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;limina la cronologia…</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;nserva</translation>
     </message>
     <message>
         <source>Delete History</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina la cronologia</translation>
     </message>
     <message>
         <source>Delete all snapshots, and all recorded charge and power?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare tutte le istantanee e tutti i valori registrati di carica e potenza?</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia</translation>
     </message>
     <message>
         <source>It stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto resta su questo computer.</translation>
     </message>
     <message>
         <source>Keep charge and power</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserva carica e potenza</translation>
     </message>
     <message>
         <source>Record charge, po&amp;wer and a daily snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Registra carica, p&amp;otenza e un’istantanea al giorno</translation>
     </message>
     <message>
         <source>Record charge, power and a daily snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Registra carica, potenza e un’istantanea al giorno</translation>
     </message>
     <message>
         <source>This cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa operazione non può essere annullata.</translation>
     </message>
 </context>
 <context>
     <name>quindle::MenuBarPreferencesController</name>
     <message>
         <source>&amp;Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo l’&amp;icona</translation>
     </message>
     <message>
         <source>&amp;One wide picture with the text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Un’unica immagine larga con il testo</translation>
     </message>
     <message>
         <source>Icon, with text &amp;beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Icona con il testo &amp;accanto</translation>
     </message>
     <message>
         <source>Menu Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei menu</translation>
     </message>
     <message>
         <source>Menu Bar &amp;Text...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Testo nella barra dei menu…</translation>
     </message>
     <message>
         <source>Menu Bar Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo nella barra dei menu</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei menu</translation>
     </message>
     <message>
         <source>Not every panel has room for text. The text is always in the tool tip and in the menu. A panel that shows squares only shows the charge as a number instead of a wide picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non tutti i pannelli hanno spazio per il testo. Il testo è sempre nel suggerimento e nel menu. Un pannello che mostra solo quadrati indica la carica come numero invece di un’immagine larga.</translation>
     </message>
     <message>
         <source>Shown as</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspetto</translation>
     </message>
     <message>
         <source>What &amp;suits the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Secondo il pannello</translation>
     </message>
 </context>
 <context>
     <name>quindle::NoBatteryView</name>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivi</translation>
     </message>
     <message>
         <source>No battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna batteria</translation>
     </message>
 </context>
 <context>
     <name>quindle::ParameterPopover</name>
     <message>
         <source>%1, %2, now %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, ora %3</translation>
     </message>
     <message>
         <source>Choose a parameter to insert it</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegliere un parametro per inserirlo</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametri</translation>
     </message>
     <message>
         <source>Parameters of the menu bar text</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametri del testo nella barra dei menu</translation>
     </message>
 </context>
 <context>
     <name>quindle::PreferencesToolbar</name>
     <message>
         <source>Panes</source>
-        <translation type="unfinished"></translation>
+        <translation>Riquadri</translation>
     </message>
 </context>
 <context>
     <name>quindle::SentDataDialog</name>
     <message>
         <source>Nothing would be sent: no host of the statistics service is configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non verrebbe inviato nulla: non è configurato alcun server di statistiche.</translation>
     </message>
     <message>
         <source>This is what would be sent now, once a day at most:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecco cosa verrebbe inviato ora, al massimo una volta al giorno:</translation>
     </message>
     <message>
         <source>What is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Cosa viene inviato</translation>
     </message>
 </context>
 <context>
     <name>quindle::SettingsPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
 </context>
 <context>
     <name>quindle::Sidebar</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine</translation>
     </message>
 </context>
 <context>
     <name>quindle::SnapshotView</name>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Istantanee</translation>
     </message>
 </context>
 <context>
     <name>quindle::SnapshotsPage</name>
     <message>
         <source>&amp;Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Confronta</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elimina</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>Es&amp;porta…</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importa…</translation>
     </message>
     <message>
         <source>&amp;Save Now</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva ora</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annulla</translation>
     </message>
     <message>
         <source>Exported</source>
-        <translation type="unfinished"></translation>
+        <translation>Esportato</translation>
     </message>
     <message>
         <source>No snapshots yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessuna istantanea</translation>
     </message>
     <message>
         <source>Reading the snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura delle istantanee</translation>
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Istantanee</translation>
     </message>
     <message>
         <source>There is no battery to save a snapshot of</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è una batteria di cui salvare un’istantanea</translation>
     </message>
     <message>
         <source>Two snapshots that are selected, beside each other</source>
-        <translation type="unfinished"></translation>
+        <translation>Due istantanee selezionate, una accanto all’altra</translation>
     </message>
     <message>
         <source>Undo deleting</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla l’eliminazione</translation>
     </message>
 </context>
 <context>
     <name>quindle::SortHeader</name>
     <message>
         <source>Sort</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordina</translation>
     </message>
     <message>
         <source>Sort by %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordina per %1</translation>
     </message>
     <message>
         <source>Sorted by %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordinato per %1, %2</translation>
     </message>
     <message>
         <source>ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>crescente</translation>
     </message>
     <message>
         <source>descending</source>
-        <translation type="unfinished"></translation>
+        <translation>decrescente</translation>
     </message>
 </context>
 <context>
     <name>quindle::TitlePreview</name>
     <message>
         <source>Now shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra ora</translation>
     </message>
     <message>
         <source>Now shows %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra ora %1</translation>
     </message>
     <message>
         <source>Would show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrerebbe</translation>
     </message>
     <message>
         <source>Would show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrerebbe %1</translation>
     </message>
     <message>
         <source>no text</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun testo</translation>
     </message>
     <message>
         <source>no text without a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun testo senza batteria</translation>
     </message>
     <message>
         <source>nothing, without a panel</source>
-        <translation type="unfinished"></translation>
+        <translation>nulla, senza pannello</translation>
     </message>
     <message>
         <source>the icon alone</source>
-        <translation type="unfinished"></translation>
+        <translation>solo l’icona</translation>
     </message>
     <message>
         <source>the number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il numero %1</translation>
     </message>
 </context>
 <context>
     <name>quindle::UpdatePreferencesController</name>
     <message>
         <source>Quindle Helper does not look for updates by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quindle Helper non cerca aggiornamenti da solo.</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamenti</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione</translation>
     </message>
 </context>
 <context>
     <name>quindle::WarningSettingsView</name>
     <message>
         <source>A program to run then, with the level, the percentage and the state as arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>Un programma da eseguire in quel momento, con livello, percentuale e stato come argomenti</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>Auto: the limit that the computer reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto: il limite indicato dal computer</translation>
     </message>
     <message>
         <source>Command to run then</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando da eseguire in quel momento</translation>
     </message>
     <message>
         <source>No power manager warns on this desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>In questo ambiente desktop non avvisa alcun gestore dell’energia.</translation>
     </message>
     <message>
         <source>Warn</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvisa</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvisi</translation>
     </message>
 </context>
 </TS>

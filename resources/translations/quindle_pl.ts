@@ -6,434 +6,434 @@
     <message>
         <source>MMM d</source>
         <comment>as date formats write it</comment>
-        <translation type="unfinished"></translation>
+        <translation>d MMM</translation>
     </message>
     <message>
         <source>MMMM yyyy</source>
         <comment>as date formats write it</comment>
-        <translation type="unfinished"></translation>
+        <translation>MMMM yyyy</translation>
     </message>
     <message>
         <source>d MMM</source>
         <comment>as date formats write it</comment>
-        <translation type="unfinished"></translation>
+        <translation>d MMM</translation>
     </message>
     <message>
         <source>d MMM yyyy</source>
         <comment>as date formats write it</comment>
-        <translation type="unfinished"></translation>
+        <translation>d MMM yyyy</translation>
     </message>
 </context>
 <context>
     <name>Details</name>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie</translation>
     </message>
     <message>
         <source>Power source</source>
-        <translation type="unfinished"></translation>
+        <translation>Źródło zasilania</translation>
     </message>
     <message>
         <source>Power source %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Źródło zasilania %1</translation>
     </message>
     <message>
         <source>Registry: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejestr: %1</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tak</translation>
     </message>
 </context>
 <context>
     <name>Facts</name>
     <message>
         <source>%1 Watts</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 W</translation>
     </message>
     <message numerus="yes">
         <source>%1 cycles</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 cykl</numerusform>
+            <numerusform>%1 cykle</numerusform>
+            <numerusform>%1 cykli</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 days</source>
         <comment>age</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dzień</numerusform>
+            <numerusform>%1 dni</numerusform>
+            <numerusform>%1 dni</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 months</source>
         <comment>age</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 miesiąc</numerusform>
+            <numerusform>%1 miesiące</numerusform>
+            <numerusform>%1 miesięcy</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <comment>capacities</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>%1 years</source>
         <comment>age with one decimal</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 roku</translation>
     </message>
     <message>
         <source>1 cycle</source>
-        <translation type="unfinished"></translation>
+        <translation>1 cykl</translation>
     </message>
     <message>
         <source>Adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Zasilacz</translation>
     </message>
     <message>
         <source>Age</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiek</translation>
     </message>
     <message>
         <source>Battery %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria %1</translation>
     </message>
     <message>
         <source>Battery age</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiek baterii</translation>
     </message>
     <message>
         <source>Battery device</source>
-        <translation type="unfinished"></translation>
+        <translation>Urządzenie baterii</translation>
     </message>
     <message>
         <source>Battery fully charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria w pełni naładowana</translation>
     </message>
     <message>
         <source>Battery made by</source>
-        <translation type="unfinished"></translation>
+        <translation>Producent baterii</translation>
     </message>
     <message>
         <source>Battery usage</source>
-        <translation type="unfinished"></translation>
+        <translation>Pobór mocy</translation>
     </message>
     <message>
         <source>Built %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zbudowano: %1</translation>
     </message>
     <message>
         <source>Calculating...</source>
-        <translation type="unfinished"></translation>
+        <translation>Obliczanie…</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowanie</translation>
     </message>
     <message>
         <source>Charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Limit ładowania</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowana</translation>
     </message>
     <message>
         <source>Chargin with</source>
-        <translation type="unfinished"></translation>
+        <translation>Ładowanie z mocą</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Ładowanie</translation>
     </message>
     <message>
         <source>Charging with</source>
-        <translation type="unfinished"></translation>
+        <translation>Ładowanie z mocą</translation>
     </message>
     <message>
         <source>Charging...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ładowanie…</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Komputer</translation>
     </message>
     <message>
         <source>Computer age</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiek komputera</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Podłączony</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Krytyczny</translation>
     </message>
     <message>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cykle</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Urządzenie</translation>
     </message>
     <message>
         <source>Discharging</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowywanie</translation>
     </message>
     <message>
         <source>Discharging with</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowanie z mocą</translation>
     </message>
     <message>
         <source>Discharging...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowywanie…</translation>
     </message>
     <message>
         <source>Failures</source>
-        <translation type="unfinished"></translation>
+        <translation>Usterki</translation>
     </message>
     <message>
         <source>Fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Średnia</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <translation>Pełny</translation>
     </message>
     <message>
         <source>Full charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Pełne naładowanie</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Dobra</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Kondycja</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Wysoki</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Niski</translation>
     </message>
     <message>
         <source>Made by</source>
-        <translation type="unfinished"></translation>
+        <translation>Producent</translation>
     </message>
     <message>
         <source>Manufactured %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyprodukowano: %1</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>No Errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak błędów</translation>
     </message>
     <message>
         <source>No battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak baterii</translation>
     </message>
     <message>
         <source>No design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak pojemności projektowej</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normalny</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Niepodłączony</translation>
     </message>
     <message>
         <source>Not known</source>
         <comment>the health</comment>
-        <translation type="unfinished"></translation>
+        <translation>Nieznana</translation>
     </message>
     <message>
         <source>Poor</source>
-        <translation type="unfinished"></translation>
+        <translation>Zła</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Moc</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>Numer seryjny</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stan</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>The actual capacity the battery had after it left the factory. (reported by the manufacturer)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rzeczywista pojemność baterii po opuszczeniu fabryki (według producenta).</translation>
     </message>
     <message>
         <source>The capacity the battery reports it had after it left the factory. (stored in the Firmware)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojemność, którą bateria miała po opuszczeniu fabryki według własnych danych (zapisana w oprogramowaniu układowym).</translation>
     </message>
     <message>
         <source>The number of charge/discharge cycles the battery has experienced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liczba cykli ładowania i rozładowania, które przeszła bateria.</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas</translation>
     </message>
     <message>
         <source>Time until empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Do rozładowania</translation>
     </message>
     <message>
         <source>Time until full</source>
-        <translation type="unfinished"></translation>
+        <translation>Do naładowania</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
 </context>
 <context>
     <name>HistoryRange</name>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wszystko</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dzień</translation>
     </message>
     <message>
         <source>&amp;Month</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Miesiąc</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tydzień</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rok</translation>
     </message>
     <message>
         <source>last 24 hours</source>
-        <translation type="unfinished"></translation>
+        <translation>ostatnie 24 godziny</translation>
     </message>
     <message>
         <source>last 30 days</source>
-        <translation type="unfinished"></translation>
+        <translation>ostatnie 30 dni</translation>
     </message>
     <message>
         <source>last 365 days</source>
-        <translation type="unfinished"></translation>
+        <translation>ostatnie 365 dni</translation>
     </message>
     <message>
         <source>last 7 days</source>
-        <translation type="unfinished"></translation>
+        <translation>ostatnie 7 dni</translation>
     </message>
     <message>
         <source>whole history</source>
-        <translation type="unfinished"></translation>
+        <translation>cała historia</translation>
     </message>
 </context>
 <context>
     <name>HistorySettings</name>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dzień</numerusform>
+            <numerusform>%1 dni</numerusform>
+            <numerusform>%1 dni</numerusform>
         </translation>
     </message>
     <message>
         <source>1 year</source>
-        <translation type="unfinished"></translation>
+        <translation>1 rok</translation>
     </message>
     <message>
         <source>10 years</source>
-        <translation type="unfinished"></translation>
+        <translation>10 lat</translation>
     </message>
     <message>
         <source>2 years</source>
-        <translation type="unfinished"></translation>
+        <translation>2 lata</translation>
     </message>
     <message>
         <source>30 days</source>
-        <translation type="unfinished"></translation>
+        <translation>30 dni</translation>
     </message>
     <message>
         <source>5 years</source>
-        <translation type="unfinished"></translation>
+        <translation>5 lat</translation>
     </message>
     <message>
         <source>90 days</source>
-        <translation type="unfinished"></translation>
+        <translation>90 dni</translation>
     </message>
     <message>
         <source>For ever</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez ograniczeń</translation>
     </message>
 </context>
 <context>
     <name>Menu</name>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Szczegóły</translation>
     </message>
     <message>
         <source>Menu Bar Text...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst na pasku menu…</translation>
     </message>
     <message>
         <source>Open Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz aplikację</translation>
     </message>
     <message>
         <source>Preferences...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ</translation>
     </message>
     <message>
         <source>Show Battery...</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż baterię…</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Wersja</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wersja %1</translation>
     </message>
 </context>
 <context>
@@ -441,526 +441,526 @@
     <message>
         <source>.</source>
         <comment>between a whole number and its decimals</comment>
-        <translation type="unfinished"></translation>
+        <translation>,</translation>
     </message>
 </context>
 <context>
     <name>Packaging</name>
     <message>
         <source>Battery History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historia baterii</translation>
     </message>
     <message>
         <source>Battery Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stan baterii</translation>
     </message>
     <message>
         <source>Battery charge, health and time in the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowanie, kondycja i czas pracy baterii na panelu</translation>
     </message>
     <message>
         <source>Battery charge, health and what becomes of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowanie i kondycja baterii oraz ich przebieg</translation>
     </message>
     <message>
         <source>Charge, power, remaining time, health, cycles, age and temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowanie, moc, pozostały czas, kondycja, cykle, wiek i temperatura</translation>
     </message>
     <message>
         <source>Nothing is sent anywhere unless you allow it</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez zgody użytkownika nic nie jest nigdzie wysyłane</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quindle pokazuje w jednym oknie wszystko, co zgłaszają baterie komputera przenośnego. Towarzyszący mu Quindle Helper działa w zasobniku panelu i wyświetla ikonę oraz tytuł według własnego szablonu; kliknięcie otwiera widok baterii.</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilka baterii połączonych w jedną</translation>
     </message>
     <message>
         <source>Trays on X11 and on Wayland</source>
-        <translation type="unfinished"></translation>
+        <translation>Zasobniki w X11 i Wayland</translation>
     </message>
     <message>
         <source>battery charge, health and time in the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>naładowanie, kondycja i czas pracy baterii na panelu</translation>
     </message>
     <message>
         <source>battery charge, health and what becomes of them</source>
-        <translation type="unfinished"></translation>
+        <translation>naładowanie i kondycja baterii oraz ich przebieg</translation>
     </message>
     <message>
         <source>battery;power;charge;health;laptop;</source>
-        <translation type="unfinished"></translation>
+        <translation>bateria;akumulator;zasilanie;ładowanie;kondycja;laptop;notebook;</translation>
     </message>
     <message>
         <source>battery;power;charge;health;wear;laptop;</source>
-        <translation type="unfinished"></translation>
+        <translation>bateria;akumulator;zasilanie;ładowanie;kondycja;zużycie;laptop;notebook;</translation>
     </message>
     <message>
         <source>print the battery as Quindle Helper sees it</source>
-        <translation type="unfinished"></translation>
+        <translation>wypisuje baterię tak, jak widzi ją Quindle Helper</translation>
     </message>
 </context>
 <context>
     <name>Pages</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Szczegóły</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historia</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia</translation>
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Migawki</translation>
     </message>
 </context>
 <context>
     <name>Placeholders</name>
     <message>
         <source>Charge cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cykle ładowania</translation>
     </message>
     <message>
         <source>Charge in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowanie w procentach</translation>
     </message>
     <message>
         <source>Charging or discharging</source>
-        <translation type="unfinished"></translation>
+        <translation>Ładowanie lub rozładowywanie</translation>
     </message>
     <message>
         <source>Current in milliamperes</source>
-        <translation type="unfinished"></translation>
+        <translation>Natężenie prądu w miliamperach</translation>
     </message>
     <message>
         <source>Power in watts</source>
-        <translation type="unfinished"></translation>
+        <translation>Moc w watach</translation>
     </message>
     <message>
         <source>Remaining time</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozostały czas</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
 </context>
 <context>
     <name>Preferences</name>
     <message>
         <source>Newer versions come from where this copy was installed from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nowsze wersje pochodzą stamtąd, skąd zainstalowano tę kopię.</translation>
     </message>
     <message>
         <source>Nothing would be sent now: a value that names the battery is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teraz nic nie zostałoby wysłane: brakuje wartości identyfikującej baterię.</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia</translation>
     </message>
     <message>
         <source>This copy was built on this computer. Newer source, built again, updates it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta kopia została zbudowana na tym komputerze. Aktualizuje ją ponowne zbudowanie z nowszego kodu źródłowego.</translation>
     </message>
     <message>
         <source>This is the package &quot;%1&quot;. Newer versions of it are installed with %2, as those of the other packages of this system.</source>
-        <translation type="unfinished"></translation>
+        <translation>To jest pakiet „%1”. Jego nowsze wersje instaluje %2, tak jak wersje innych pakietów tego systemu.</translation>
     </message>
     <message>
         <source>Unknown</source>
         <comment>the version</comment>
-        <translation type="unfinished"></translation>
+        <translation>Nieznana</translation>
     </message>
     <message>
         <source>Update</source>
         <comment>title of the pane</comment>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja</translation>
     </message>
 </context>
 <context>
     <name>SampleChart</name>
     <message>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowanie</translation>
     </message>
     <message>
         <source>Nothing was recorded in this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>W tym czasie niczego nie zapisano.</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Moc</translation>
     </message>
     <message>
         <source>charging</source>
-        <translation type="unfinished"></translation>
+        <translation>ładowanie</translation>
     </message>
     <message>
         <source>discharging</source>
-        <translation type="unfinished"></translation>
+        <translation>rozładowywanie</translation>
     </message>
     <message>
         <source>from UPower</source>
-        <translation type="unfinished"></translation>
+        <translation>z UPower</translation>
     </message>
     <message>
         <source>full</source>
-        <translation type="unfinished"></translation>
+        <translation>naładowana</translation>
     </message>
 </context>
 <context>
     <name>SnapshotFiles</name>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie pliki (*)</translation>
     </message>
     <message>
         <source>Archives of snapshots (*.qndarchive)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archiwa migawek (*.qndarchive)</translation>
     </message>
     <message>
         <source>Export Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport migawek</translation>
     </message>
     <message>
         <source>Import Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Import migawek</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>Table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabela (*.csv)</translation>
     </message>
     <message>
         <source>With serial &amp;numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Z &amp;numerami seryjnymi</translation>
     </message>
 </context>
 <context>
     <name>Snapshots</name>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dzień</numerusform>
+            <numerusform>%1 dni</numerusform>
+            <numerusform>%1 dni</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 points</source>
         <comment>of health, with one decimal</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 p.p.</translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 migawka</numerusform>
+            <numerusform>%1 migawki</numerusform>
+            <numerusform>%1 migawek</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Usunięto %1 migawkę</numerusform>
+            <numerusform>Usunięto %1 migawki</numerusform>
+            <numerusform>Usunięto %1 migawek</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots imported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Zaimportowano %1 migawkę</numerusform>
+            <numerusform>Zaimportowano %1 migawki</numerusform>
+            <numerusform>Zaimportowano %1 migawek</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots restored</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Przywrócono %1 migawkę</numerusform>
+            <numerusform>Przywrócono %1 migawki</numerusform>
+            <numerusform>Przywrócono %1 migawek</numerusform>
         </translation>
     </message>
     <message>
         <source>1 day</source>
-        <translation type="unfinished"></translation>
+        <translation>1 dzień</translation>
     </message>
     <message>
         <source>1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1 migawka</translation>
     </message>
     <message>
         <source>1 snapshot deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunięto 1 migawkę</translation>
     </message>
     <message>
         <source>1 snapshot imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaimportowano 1 migawkę</translation>
     </message>
     <message>
         <source>1 snapshot restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Przywrócono 1 migawkę</translation>
     </message>
     <message>
         <source>1 snapshot saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisano 1 migawkę</translation>
     </message>
     <message>
         <source>All snapshots deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunięto wszystkie migawki</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Komputer</translation>
     </message>
     <message>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cykle</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojemność projektowa</translation>
     </message>
     <message>
         <source>Full charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Pełne naładowanie</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Kondycja</translation>
     </message>
     <message>
         <source>There is no folder for snapshots: the user has no home folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak katalogu na migawki: użytkownik nie ma katalogu domowego</translation>
     </message>
 </context>
 <context>
     <name>Trend</name>
     <message numerus="yes">
         <source>%1 cycles</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 cykl</numerusform>
+            <numerusform>%1 cykle</numerusform>
+            <numerusform>%1 cykli</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dnia</numerusform>
+            <numerusform>%1 dni</numerusform>
+            <numerusform>%1 dni</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 points a year</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 p.p. rocznie</translation>
     </message>
     <message>
         <source>%1 so far</source>
         <comment>days</comment>
-        <translation type="unfinished"></translation>
+        <translation>Na razie dane z %1</translation>
     </message>
     <message>
         <source>%1, from %2</source>
         <comment>a pace, days</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (dane z %2)</translation>
     </message>
     <message>
         <source>%1, from %2 and %3</source>
         <comment>a pace, days, cycles</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (dane z %2, %3)</translation>
     </message>
     <message>
         <source>1 cycle</source>
-        <translation type="unfinished"></translation>
+        <translation>1 cykl</translation>
     </message>
     <message>
         <source>1 day</source>
-        <translation type="unfinished"></translation>
+        <translation>1 dnia</translation>
     </message>
     <message>
         <source>80 %</source>
-        <translation type="unfinished"></translation>
+        <translation>80%</translation>
     </message>
     <message>
         <source>80 % of its first full charge</source>
-        <translation type="unfinished"></translation>
+        <translation>80% pierwszego pełnego naładowania</translation>
     </message>
     <message>
         <source>Already under %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Już poniżej %1</translation>
     </message>
     <message>
         <source>At this pace %1 %2</source>
         <comment>a percentage, when</comment>
-        <translation type="unfinished"></translation>
+        <translation>Przy tym tempie %1 %2</translation>
     </message>
     <message>
         <source>C</source>
         <comment>the locale that names months, such as de_DE</comment>
-        <translation type="unfinished"></translation>
+        <translation>pl_PL</translation>
     </message>
     <message>
         <source>No wear to be seen in %1</source>
         <comment>days</comment>
-        <translation type="unfinished"></translation>
+        <translation>Brak widocznego zużycia w ciągu %1</translation>
     </message>
     <message>
         <source>Not enough history yet (needs 60 days)</source>
-        <translation type="unfinished"></translation>
+        <translation>Za mało historii (potrzeba 60 dni)</translation>
     </message>
     <message>
         <source>about now</source>
-        <translation type="unfinished"></translation>
+        <translation>mniej więcej teraz</translation>
     </message>
     <message>
         <source>around %1</source>
         <comment>a month with its year</comment>
-        <translation type="unfinished"></translation>
+        <translation>około %1</translation>
     </message>
     <message>
         <source>around %1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>około %1 r.</translation>
     </message>
     <message>
         <source>between %1 and %2</source>
         <comment>years</comment>
-        <translation type="unfinished"></translation>
+        <translation>między %1 a %2 r.</translation>
     </message>
     <message>
         <source>in early %1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>na początku %1 r.</translation>
     </message>
     <message>
         <source>in late %1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>pod koniec %1 r.</translation>
     </message>
     <message>
         <source>in mid-%1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>w połowie %1 r.</translation>
     </message>
     <message>
         <source>in more than 20 years</source>
-        <translation type="unfinished"></translation>
+        <translation>za ponad 20 lat</translation>
     </message>
     <message>
         <source>less than %1 points a year</source>
-        <translation type="unfinished"></translation>
+        <translation>mniej niż %1 p.p. rocznie</translation>
     </message>
     <message>
         <source>not before %1</source>
         <comment>a year</comment>
-        <translation type="unfinished"></translation>
+        <translation>nie przed %1 r.</translation>
     </message>
 </context>
 <context>
     <name>WarningSettings</name>
     <message>
         <source>%1&apos;s power manager warns on this desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>W tym środowisku ostrzega zarządzanie energią %1.</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Zawsze</translation>
     </message>
     <message>
         <source>Battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>Niski poziom baterii</translation>
     </message>
     <message>
         <source>Charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Limit ładowania</translation>
     </message>
     <message>
         <source>Command for battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>Polecenie przy niskim poziomie baterii</translation>
     </message>
     <message>
         <source>Command for full</source>
-        <translation type="unfinished"></translation>
+        <translation>Polecenie przy pełnym naładowaniu</translation>
     </message>
     <message>
         <source>Command for nearly empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Polecenie przy prawie pustej baterii</translation>
     </message>
     <message>
         <source>Command for the charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Polecenie po osiągnięciu limitu ładowania</translation>
     </message>
     <message>
         <source>Command for very low</source>
-        <translation type="unfinished"></translation>
+        <translation>Polecenie przy bardzo niskim poziomie</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <translation>Pełna</translation>
     </message>
     <message>
         <source>Nearly empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Prawie pusta</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Nigdy</translation>
     </message>
     <message>
         <source>Percentage for battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartość procentowa niskiego poziomu baterii</translation>
     </message>
     <message>
         <source>Percentage for full</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartość procentowa pełnego naładowania</translation>
     </message>
     <message>
         <source>Percentage for nearly empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartość procentowa prawie pustej baterii</translation>
     </message>
     <message>
         <source>Percentage for the charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartość procentowa limitu ładowania</translation>
     </message>
     <message>
         <source>Percentage for very low</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartość procentowa bardzo niskiego poziomu</translation>
     </message>
     <message>
         <source>Unless the desktop warns</source>
-        <translation type="unfinished"></translation>
+        <translation>Gdy nie ostrzega środowisko</translation>
     </message>
     <message>
         <source>Very low</source>
-        <translation type="unfinished"></translation>
+        <translation>Bardzo niski poziom</translation>
     </message>
 </context>
 <context>
@@ -968,127 +968,127 @@
     <message>
         <source>%1 left</source>
         <comment>a percentage</comment>
-        <translation type="unfinished"></translation>
+        <translation>Pozostało %1</translation>
     </message>
     <message numerus="yes">
         <source>About %1 minutes left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Pozostała około %1 minuta</numerusform>
+            <numerusform>Pozostały około %1 minuty</numerusform>
+            <numerusform>Pozostało około %1 minut</numerusform>
         </translation>
     </message>
     <message>
         <source>About a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozostała około minuta</translation>
     </message>
     <message>
         <source>Battery full</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria naładowana</translation>
     </message>
     <message>
         <source>Battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>Niski poziom baterii</translation>
     </message>
     <message>
         <source>Battery nearly empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria prawie pusta</translation>
     </message>
     <message>
         <source>Battery very low</source>
-        <translation type="unfinished"></translation>
+        <translation>Bardzo niski poziom baterii</translation>
     </message>
     <message>
         <source>Charge limit reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Osiągnięto limit ładowania</translation>
     </message>
 </context>
 <context>
     <name>WearChart</name>
     <message>
         <source>Battery %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria %1</translation>
     </message>
     <message>
         <source>Design capacity %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojemność projektowa %1</translation>
     </message>
     <message>
         <source>First full charge %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pierwsze pełne naładowanie %1</translation>
     </message>
     <message>
         <source>No snapshots yet: one is saved each day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze migawek: codziennie zapisywana jest jedna.</translation>
     </message>
 </context>
 <context>
     <name>quindle::BatteryPage</name>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Baterie</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowanie</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Komputer</translation>
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Urządzenia</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Kondycja</translation>
     </message>
     <message>
         <source>No battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak baterii</translation>
     </message>
 </context>
 <context>
     <name>quindle::BatteryView</name>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Baterie</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowanie</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Komputer</translation>
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Urządzenia</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Kondycja</translation>
     </message>
 </context>
 <context>
     <name>quindle::BatteryWindow</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -1103,712 +1103,712 @@
     <name>quindle::CompareDialog</name>
     <message>
         <source>Compare Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Porównanie migawek</translation>
     </message>
 </context>
 <context>
     <name>quindle::DetailsPage</name>
     <message>
         <source>&amp;Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopiuj jako tekst</translation>
     </message>
     <message>
         <source>&amp;Save as Machine File...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zapisz jako plik maszyny…</translation>
     </message>
     <message>
         <source>A file that the program can be run on in place of this computer, for reports of defects</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik, z którym program można uruchomić zamiast na tym komputerze, do zgłaszania usterek</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Skopiowano</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Szczegóły</translation>
     </message>
     <message>
         <source>Machine files (*.plist)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pliki maszyn (*.plist)</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie znaleziono</translation>
     </message>
     <message>
         <source>Save as Machine File</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapis jako plik maszyny</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisano</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Szukaj</translation>
     </message>
     <message>
         <source>Search details</source>
-        <translation type="unfinished"></translation>
+        <translation>Szukaj w szczegółach</translation>
     </message>
     <message>
         <source>With serial &amp;numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Z &amp;numerami seryjnymi</translation>
     </message>
 </context>
 <context>
     <name>quindle::FactRow</name>
     <message>
         <source>Click to switch the unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknięcie zmienia jednostkę</translation>
     </message>
 </context>
 <context>
     <name>quindle::GeneralPreferencesController</name>
     <message>
         <source>&amp;Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celsjusz</translation>
     </message>
     <message>
         <source>&amp;Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fahrenheit</translation>
     </message>
     <message>
         <source>&amp;Kelvin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kelwin</translation>
     </message>
     <message>
         <source>&amp;Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parametry</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Resetuj</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogólne</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Logowanie</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasek menu</translation>
     </message>
     <message>
         <source>Menu bar &amp;text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tekst paska menu</translation>
     </message>
     <message>
         <source>Menu bar text</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst paska menu</translation>
     </message>
     <message>
         <source>Nothing can be sent: no statistics service is configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można nic wysłać: nie skonfigurowano usługi statystyk.</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametry</translation>
     </message>
     <message>
         <source>Reset menu bar text</source>
-        <translation type="unfinished"></translation>
+        <translation>Resetuj tekst paska menu</translation>
     </message>
     <message>
         <source>See &amp;exactly what is sent...</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż &amp;dokładnie, co jest wysyłane…</translation>
     </message>
     <message>
         <source>See exactly what is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż dokładnie, co jest wysyłane</translation>
     </message>
     <message>
         <source>Send battery &amp;health once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Wysyłaj kondycję &amp;baterii raz dziennie</translation>
     </message>
     <message>
         <source>Send battery health once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Wysyłaj kondycję baterii raz dziennie</translation>
     </message>
     <message>
         <source>Show battery &amp;icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokazuj &amp;ikonę baterii</translation>
     </message>
     <message>
         <source>Show battery icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokazuj ikonę baterii</translation>
     </message>
     <message>
         <source>Start when I l&amp;og in</source>
-        <translation type="unfinished"></translation>
+        <translation>Uruchamiaj po zal&amp;ogowaniu</translation>
     </message>
     <message>
         <source>Start when I log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Uruchamiaj po zalogowaniu</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statystyki</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>The serial number is masked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Numer seryjny jest zamaskowany.</translation>
     </message>
     <message>
         <source>This option can only be disabled in main application. Run it via &quot;Open Application&quot; from the menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Tę opcję można wyłączyć tylko w głównej aplikacji. Aby ją uruchomić, należy wybrać „Otwórz aplikację” z menu</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostrzeżenie</translation>
     </message>
 </context>
 <context>
     <name>quindle::HelperPreferences</name>
     <message>
         <source>&amp;Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celsjusz</translation>
     </message>
     <message>
         <source>&amp;Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fahrenheit</translation>
     </message>
     <message>
         <source>&amp;Kelvin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kelwin</translation>
     </message>
     <message>
         <source>&amp;Mark battery data for automatic upload</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oznacz dane baterii do automatycznego wysyłania</translation>
     </message>
     <message>
         <source>&amp;Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parametry</translation>
     </message>
     <message>
         <source>&amp;Run in the background when I log in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uruchamiaj w tle po zalogowaniu</translation>
     </message>
     <message>
         <source>&amp;Standard title</source>
-        <translation type="unfinished"></translation>
+        <translation>Tytuł &amp;standardowy</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zamknij</translation>
     </message>
     <message>
         <source>C&amp;ustom text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Własny tekst</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zamknij</translation>
     </message>
     <message>
         <source>Custom menu bar text</source>
-        <translation type="unfinished"></translation>
+        <translation>Własny tekst paska menu</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Ikona</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Logowanie</translation>
     </message>
     <message>
         <source>Mark battery data for automatic upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Oznacz dane baterii do automatycznego wysyłania</translation>
     </message>
     <message>
         <source>Menu Bar Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst na pasku menu</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasek menu</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametry</translation>
     </message>
     <message>
         <source>Run in the background when I log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Uruchamiaj w tle po zalogowaniu</translation>
     </message>
     <message>
         <source>Show battery &amp;icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokazuj &amp;ikonę baterii</translation>
     </message>
     <message>
         <source>Show battery icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokazuj ikonę baterii</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statystyki</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>This mark alone sends nothing. The daily upload is switched in Preferences, General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Samo oznaczenie niczego nie wysyła. Codzienne wysyłanie włącza się w ustawieniach, w sekcji „Ogólne”.</translation>
     </message>
 </context>
 <context>
     <name>quindle::HistoryPage</name>
     <message>
         <source>&amp;Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Naładowanie</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eksportuj…</translation>
     </message>
     <message>
         <source>&amp;Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Mo&amp;c</translation>
     </message>
     <message>
         <source>&amp;Save Picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapi&amp;sz obraz…</translation>
     </message>
     <message>
         <source>Charge, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowanie, %1</translation>
     </message>
     <message>
         <source>Drawings (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rysunki (*.svg)</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport</translation>
     </message>
     <message>
         <source>Full charge, mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Pełne naładowanie, mAh</translation>
     </message>
     <message>
         <source>Full charge, whole history</source>
-        <translation type="unfinished"></translation>
+        <translation>Pełne naładowanie, cała historia</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Kondycja</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historia</translation>
     </message>
     <message>
         <source>No history yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze historii</translation>
     </message>
     <message>
         <source>One snapshot a day says how the battery wears</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedna migawka dziennie pokazuje, jak zużywa się bateria</translation>
     </message>
     <message>
         <source>Pictures (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrazy (*.png)</translation>
     </message>
     <message>
         <source>Power, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Moc, %1</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Wielkość</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakres</translation>
     </message>
     <message>
         <source>Recording is off, so nothing is added.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisywanie jest wyłączone, więc nic nie przybywa.</translation>
     </message>
     <message>
         <source>Save Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapis obrazu</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisano</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia</translation>
     </message>
     <message>
         <source>Settings of recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia zapisywania</translation>
     </message>
     <message>
         <source>Tables (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabele (*.csv)</translation>
     </message>
     <message>
         <source>With a probability of 95 % between %1 and %2 points a year</source>
-        <translation type="unfinished"></translation>
+        <translation>Z prawdopodobieństwem 95% od %1 do %2 p.p. rocznie</translation>
     </message>
     <message>
         <source>asleep left open</source>
-        <translation type="unfinished"></translation>
+        <translation>przerwy: uśpienie</translation>
     </message>
     <message>
         <source>charging shaded</source>
-        <translation type="unfinished"></translation>
+        <translation>cieniowanie: ładowanie</translation>
     </message>
     <message>
         <source>older values are means</source>
-        <translation type="unfinished"></translation>
+        <translation>starsze wartości to średnie</translation>
     </message>
     <message>
         <source>pale from UPower</source>
-        <translation type="unfinished"></translation>
+        <translation>blade: z UPower</translation>
     </message>
 </context>
 <context>
     <name>quindle::HistorySettingsView</name>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usuń</translation>
     </message>
     <message>
         <source>&amp;Delete History...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usuń historię…</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zachowaj</translation>
     </message>
     <message>
         <source>Delete History</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuwanie historii</translation>
     </message>
     <message>
         <source>Delete all snapshots, and all recorded charge and power?</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunąć wszystkie migawki oraz wszystkie zapisane wartości naładowania i mocy?</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historia</translation>
     </message>
     <message>
         <source>It stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dane pozostają na tym komputerze.</translation>
     </message>
     <message>
         <source>Keep charge and power</source>
-        <translation type="unfinished"></translation>
+        <translation>Przechowuj naładowanie i moc</translation>
     </message>
     <message>
         <source>Record charge, po&amp;wer and a daily snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuj &amp;naładowanie, moc i codzienną migawkę</translation>
     </message>
     <message>
         <source>Record charge, power and a daily snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuj naładowanie, moc i codzienną migawkę</translation>
     </message>
     <message>
         <source>This cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tego nie można cofnąć.</translation>
     </message>
 </context>
 <context>
     <name>quindle::MenuBarPreferencesController</name>
     <message>
         <source>&amp;Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>Tylko &amp;ikona</translation>
     </message>
     <message>
         <source>&amp;One wide picture with the text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jeden szeroki obraz z tekstem</translation>
     </message>
     <message>
         <source>Icon, with text &amp;beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ikona z tekstem &amp;obok</translation>
     </message>
     <message>
         <source>Menu Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasek menu</translation>
     </message>
     <message>
         <source>Menu Bar &amp;Text...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tekst na pasku menu…</translation>
     </message>
     <message>
         <source>Menu Bar Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst na pasku menu</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasek menu</translation>
     </message>
     <message>
         <source>Not every panel has room for text. The text is always in the tool tip and in the menu. A panel that shows squares only shows the charge as a number instead of a wide picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie każdy panel ma miejsce na tekst. Tekst jest zawsze w podpowiedzi i w menu. Panel, który pokazuje tylko kwadraty, zamiast szerokiego obrazu pokazuje naładowanie jako liczbę.</translation>
     </message>
     <message>
         <source>Shown as</source>
-        <translation type="unfinished"></translation>
+        <translation>Wygląd</translation>
     </message>
     <message>
         <source>What &amp;suits the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dopasuj do panelu</translation>
     </message>
 </context>
 <context>
     <name>quindle::NoBatteryView</name>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Komputer</translation>
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Urządzenia</translation>
     </message>
     <message>
         <source>No battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak baterii</translation>
     </message>
 </context>
 <context>
     <name>quindle::ParameterPopover</name>
     <message>
         <source>%1, %2, now %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, teraz %3</translation>
     </message>
     <message>
         <source>Choose a parameter to insert it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybór parametru do wstawienia</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametry</translation>
     </message>
     <message>
         <source>Parameters of the menu bar text</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametry tekstu paska menu</translation>
     </message>
 </context>
 <context>
     <name>quindle::PreferencesToolbar</name>
     <message>
         <source>Panes</source>
-        <translation type="unfinished"></translation>
+        <translation>Panele ustawień</translation>
     </message>
 </context>
 <context>
     <name>quindle::SentDataDialog</name>
     <message>
         <source>Nothing would be sent: no host of the statistics service is configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie zostałoby wysłane: nie skonfigurowano serwera usługi statystyk.</translation>
     </message>
     <message>
         <source>This is what would be sent now, once a day at most:</source>
-        <translation type="unfinished"></translation>
+        <translation>To zostałoby teraz wysłane, najwyżej raz dziennie:</translation>
     </message>
     <message>
         <source>What is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Co jest wysyłane</translation>
     </message>
 </context>
 <context>
     <name>quindle::SettingsPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia</translation>
     </message>
 </context>
 <context>
     <name>quindle::Sidebar</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Strony</translation>
     </message>
 </context>
 <context>
     <name>quindle::SnapshotView</name>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Migawki</translation>
     </message>
 </context>
 <context>
     <name>quindle::SnapshotsPage</name>
     <message>
         <source>&amp;Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porównaj</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usuń</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eksportuj…</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importuj…</translation>
     </message>
     <message>
         <source>&amp;Save Now</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zapisz teraz</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cofnij</translation>
     </message>
     <message>
         <source>Exported</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyeksportowano</translation>
     </message>
     <message>
         <source>No snapshots yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze migawek</translation>
     </message>
     <message>
         <source>Reading the snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Wczytywanie migawek</translation>
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Migawki</translation>
     </message>
     <message>
         <source>There is no battery to save a snapshot of</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak baterii, której migawkę można by zapisać</translation>
     </message>
     <message>
         <source>Two snapshots that are selected, beside each other</source>
-        <translation type="unfinished"></translation>
+        <translation>Dwie zaznaczone migawki obok siebie</translation>
     </message>
     <message>
         <source>Undo deleting</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij usunięcie</translation>
     </message>
 </context>
 <context>
     <name>quindle::SortHeader</name>
     <message>
         <source>Sort</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortowanie</translation>
     </message>
     <message>
         <source>Sort by %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortowanie: %1</translation>
     </message>
     <message>
         <source>Sorted by %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Posortowano: %1, %2</translation>
     </message>
     <message>
         <source>ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>rosnąco</translation>
     </message>
     <message>
         <source>descending</source>
-        <translation type="unfinished"></translation>
+        <translation>malejąco</translation>
     </message>
 </context>
 <context>
     <name>quindle::TitlePreview</name>
     <message>
         <source>Now shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Teraz widać</translation>
     </message>
     <message>
         <source>Now shows %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Teraz widać: %1</translation>
     </message>
     <message>
         <source>Would show</source>
-        <translation type="unfinished"></translation>
+        <translation>Będzie widać</translation>
     </message>
     <message>
         <source>Would show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Będzie widać: %1</translation>
     </message>
     <message>
         <source>no text</source>
-        <translation type="unfinished"></translation>
+        <translation>brak tekstu</translation>
     </message>
     <message>
         <source>no text without a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>brak tekstu bez baterii</translation>
     </message>
     <message>
         <source>nothing, without a panel</source>
-        <translation type="unfinished"></translation>
+        <translation>nic, bez panelu</translation>
     </message>
     <message>
         <source>the icon alone</source>
-        <translation type="unfinished"></translation>
+        <translation>sama ikona</translation>
     </message>
     <message>
         <source>the number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>liczba %1</translation>
     </message>
 </context>
 <context>
     <name>quindle::UpdatePreferencesController</name>
     <message>
         <source>Quindle Helper does not look for updates by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quindle Helper nie szuka aktualizacji samodzielnie.</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacje</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Wersja</translation>
     </message>
 </context>
 <context>
     <name>quindle::WarningSettingsView</name>
     <message>
         <source>A program to run then, with the level, the percentage and the state as arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>Program uruchamiany w tym momencie, z poziomem, wartością procentową i stanem jako argumentami</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>Auto: the limit that the computer reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto: limit zgłaszany przez komputer</translation>
     </message>
     <message>
         <source>Command to run then</source>
-        <translation type="unfinished"></translation>
+        <translation>Uruchamiane polecenie</translation>
     </message>
     <message>
         <source>No power manager warns on this desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>W tym środowisku nie ostrzega żadne zarządzanie energią.</translation>
     </message>
     <message>
         <source>Warn</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostrzegaj</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostrzeżenia</translation>
     </message>
 </context>
 </TS>
