@@ -6,17 +6,8 @@
 #include "inspect/BarState.h"
 #include "inspect/Computer.h"
 #include "inspect/JsonState.h"
-#include "menubar/TitleTemplate.h"
 
 namespace quindle {
-
-void FigureWatch::setTitleTemplate(const QString& titleTemplate)
-{
-    if (!showsPassingFigures(titleTemplate))
-        m_punctuality.reset();
-    else if (!m_punctuality)
-        m_punctuality = m_runLoop.keepPunctual();
-}
 
 Follower::Follower(Computer& computer, bool isDemo, BarFormat format, Write write)
     : m_computer(computer)

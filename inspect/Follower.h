@@ -4,30 +4,12 @@
 #include <optional>
 
 #include "inspect/BarLines.h"
+#include "inspect/FigureWatch.h"
 #include "inspect/Inspection.h"
-#include "platform/RunLoop.h"
 
 namespace quindle {
 
 class Computer;
-
-/// Keeps timers punctual while a title shows figures that change from one reading of the battery to the next.
-class FigureWatch
-{
-public:
-    /// The loop must outlive it.
-    explicit FigureWatch(RunLoop& runLoop)
-        : m_runLoop(runLoop)
-    {
-    }
-
-    /// The template that is shown from now on.
-    void setTitleTemplate(const QString& titleTemplate);
-
-private:
-    RunLoop& m_runLoop;
-    Punctuality m_punctuality;
-};
 
 /// Writes the state of a bar once, and anew after each refresh of the helper that changed it.
 class Follower

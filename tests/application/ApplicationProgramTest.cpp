@@ -134,7 +134,8 @@ TEST_F(ApplicationProgramTest, ABatteryThatComesLaterIsShown)
 TEST_F(ApplicationProgramTest, EachOfSeveralBatteriesIsShownByItself)
 {
     for (const char* name : {"45N1113", "45N1127"})
-        computer.powerSources.sources->push_back(QVariantMap{{latin("Name"), latin(name)},
+        computer.powerSources.sources->push_back(QVariantMap{{latin("Type"), latin("InternalBattery")},
+                                                             {latin("Name"), latin(name)},
                                                              {latin("Current Capacity"), qint64{40}},
                                                              {latin("Max Capacity"), qint64{100}}});
     show("Battery");

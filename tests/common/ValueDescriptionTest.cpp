@@ -52,7 +52,7 @@ TEST(ValueDescription, Lists)
     EXPECT_EQ(valueDescription(QVariantList{1, 2}), QStringLiteral("(\n    1,\n    2\n)"));
     EXPECT_EQ(valueDescription(QVariantList{true, false}), QStringLiteral("(\n    1,\n    0\n)"));
     EXPECT_EQ(valueDescription(QVariantList()), QStringLiteral("(\n)"));
-    EXPECT_EQ(valueDescription(QVariantList{QVariantList{3}}),
+    EXPECT_EQ(valueDescription(QVariantList{QVariant(QVariantList{3})}),
               QStringLiteral("(\n        (\n        3\n    )\n)"));
 }
 

@@ -1,4 +1,4 @@
-#include "inspect/Follower.h"
+#include "inspect/FigureWatch.h"
 
 #include <gtest/gtest.h>
 

@@ -148,7 +148,7 @@ TEST(BatteryTimes, EstimateNeedsAWhileAndStartsAnewOnPlugAndUnplug)
     const System discharging({sixVolts}, {online("0")});
     BatteryTimes times;
     EXPECT_EQ(times.follow(discharging.power(), 0s).averageToEmpty, std::nullopt);
-    EXPECT_EQ(times.follow(discharging.power(), 10s).averageToEmpty, std::nullopt);
+    EXPECT_EQ(times.follow(discharging.power(), 4s).averageToEmpty, std::nullopt);
     const SystemTimes known = times.follow(discharging.power(), 20s);
     EXPECT_EQ(known.averageToEmpty, 360);
     EXPECT_EQ(known.remaining, 360);
