@@ -30,6 +30,13 @@ NotifierItemAdaptor::NotifierItemAdaptor(QObject* item, const Presentation& pres
     registerNotifierTypes();
 }
 
+void NotifierItemAdaptor::announceAll()
+{
+    Q_EMIT NewTitle();
+    Q_EMIT NewIcon();
+    Q_EMIT NewToolTip();
+}
+
 void NotifierItemAdaptor::announce(const Presentation& last)
 {
     if (m_announced.title != last.title)

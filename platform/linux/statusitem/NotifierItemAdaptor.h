@@ -54,6 +54,9 @@ public:
     /// Signals what is different in the presentation from the last one.
     void announce(const Presentation& last);
 
+    /// Lets a host ask for everything once more.
+    void announceAll();
+
     QString category() const;
     QString id() const;
     QString title() const;

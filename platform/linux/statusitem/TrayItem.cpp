@@ -38,6 +38,8 @@ void TrayItem::setPeer(const QDBusConnection& peer)
     m_peer = peer;
     m_peer.registerObject(QLatin1String(itemObjectPath), &m_itemObject, QDBusConnection::ExportAdaptors);
     m_peer.registerObject(QLatin1String(menuObjectPath), &m_menuObject, QDBusConnection::ExportAdaptors);
+    // The program may have asked before there was anything to ask.
+    m_item->announceAll();
 }
 
 } // namespace quindle
