@@ -19,7 +19,7 @@ constexpr qint64 day = 86400;
 constexpr qint64 years = 3650 * day;
 constexpr qint64 sampleCount = 45'000;
 
-/// A saw of charging and discharging with nights that are left open, from a sample a minute at the end to
+/// A sawtooth of charging and discharging with gaps at night, from a sample a minute at the end to
 /// daily points.
 ChartSeries samples()
 {

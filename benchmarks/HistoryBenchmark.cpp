@@ -25,7 +25,7 @@ double megabytes(const QString& path)
     return static_cast<double>(QFileInfo(path).size()) / 1e6;
 }
 
-/// So many records, one an hour: a battery does not live as long as the longest archive.
+/// That many records, one an hour: no battery lives as long as the longest archive covers.
 QVariantList snapshots(int count)
 {
     const QVariantList invented = inventedSnapshots({.end = end, .days = tenYears});
@@ -34,7 +34,7 @@ QVariantList snapshots(int count)
         QVariantMap record = invented[number % invented.size()].toMap();
         record.insert(QStringLiteral("Data.SnapshotDate"),
                       QDateTime::fromSecsSinceEpoch(end + (number - count) * secondsOfHour, Qt::UTC));
-        // Unlike any other, so that it is not written and read as one of them.
+        // Different from all others, so that it is written and read on its own.
         QVariantMap raw = record.value(QStringLiteral("Data.Raw")).toMap();
         raw.insert(QStringLiteral("UpdateTime"), qint64{number});
         record.insert(QStringLiteral("Data.Raw"), raw);

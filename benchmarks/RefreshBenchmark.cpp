@@ -1,6 +1,6 @@
 // What one refresh costs: the battery's and the status item's, on the files of real computers, with real
 // settings files. Each benchmark is named after the folder of tests/data/sysfs that it reads; "batteries" has
-// so many copies of one of them.
+// that many copies of one of them.
 
 #include <array>
 #include <filesystem>
@@ -81,7 +81,7 @@ public:
                                                          &QDMac::init, noControllers);
         m_delegate->applicationDidFinishLaunching();
         QCoreApplication::processEvents();
-        // Settings this young are read again at each look.
+        // Settings that have only just been written are read again at each look.
         std::this_thread::sleep_for(std::chrono::milliseconds(60));
     }
 
@@ -149,7 +149,7 @@ void refreshItem(benchmark::State& state, const char* machine)
     }
 }
 
-/// A computer with an adapter and so many batteries.
+/// A computer with an adapter and that many batteries.
 void refreshBatteries(benchmark::State& state)
 {
     namespace fs = std::filesystem;

@@ -269,7 +269,7 @@ TEST_F(HelperAppDelegateTest, MenuEntriesAct)
     EXPECT_EQ(platform.application.terminated, 1);
 }
 
-/// Writes down when it goes.
+/// Records its own destruction.
 template <typename Base>
 struct Leaving : Base
 {

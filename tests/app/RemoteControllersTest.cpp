@@ -31,7 +31,7 @@ struct RemoteControllersTest : testing::Test
 
     ProgramRecord& program() { return starter.last(); }
 
-    /// What the program was told since the last call.
+    /// The messages that the program has been sent since the last call.
     std::vector<WindowMessage> told()
     {
         QCoreApplication::processEvents();

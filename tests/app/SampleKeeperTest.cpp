@@ -25,7 +25,7 @@ struct SampleKeeperTest : testing::Test, Helper
         keeper = std::make_unique<SampleKeeper>(platform.platform, *delegate, recorder);
     }
 
-    /// So long passes, and then the item is refreshed with that charge.
+    /// Lets that much time pass, then refreshes the item with that charge.
     void pass(double seconds, qint64 charge)
     {
         platform.clock.advance(seconds);

@@ -30,7 +30,7 @@ struct WarningKeeperTest : testing::Test, Helper
         pass(120);
     }
 
-    /// So long passes, refreshed every ten seconds.
+    /// Lets that much time pass, with a refresh every ten seconds.
     void pass(int seconds)
     {
         for (int passed = 0; passed < seconds; passed += 10) {
@@ -39,7 +39,7 @@ struct WarningKeeperTest : testing::Test, Helper
         }
     }
 
-    /// In steps that no battery is too slow for.
+    /// Slowly enough for a real battery.
     void passTo(qint64 charge)
     {
         setRegistry("CurrentCapacity", charge);

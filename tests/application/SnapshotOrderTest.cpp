@@ -36,7 +36,7 @@ TEST(SnapshotOrder, EachColumnInBothDirections)
         Order ascending;
         Order descending;
     };
-    // What a record does not say is at the end both ways; equal ones keep their order both ways.
+    // Missing values come last in either direction; equal records keep their order in either.
     for (const Case& each : {
              Case{SnapshotColumn::Date, {2, 3, 0, 1}, {0, 3, 2, 1}},
              Case{SnapshotColumn::Health, {0, 3, 2, 1}, {2, 0, 3, 1}},

@@ -71,7 +71,7 @@ TEST_F(TranslatedPagesTest, Snapshots)
 
 TEST_F(TranslatedPagesTest, Details)
 {
-    // Names and values of the registry are what other programs know them by.
+    // Names and values of the registry stay what other programs call them.
     expectTranslatedAndWhole("Details",
                              {latin("Capacity"), latin("Serial"), latin("Connected"), latin("Charging"),
                               latin("CycleCount"), latin("Temperature"), latin("model"), latin("Battery")});

@@ -21,7 +21,7 @@ TEST(BatteryStateRule, Table)
 {
     EXPECT_EQ(unknownMinutes, 65535);
     const QString time = QStringLiteral("1:35");
-    // What stands for "not estimated yet" is formatted like any other time; it is not shown.
+    // The value for "not estimated yet" is formatted like any other time; it is not shown.
     const QString formattedUnknown = QStringLiteral("1092:15");
     const Row rows[] = {
         {chargedTexts(), "Charged", "Battery usage", "Battery fully charged", ""},

@@ -16,7 +16,7 @@ TEST(ManufacturerName, Table)
         {"xDPyDP", "xDynapackyDynapack"},
         {"SMPSMP", "SimploSimplo"},
         {"DPSMP", "DynapackSimplo"},
-        {"SMDP", "SMDynapack"}, // "DP" is written out first, so no "SMP" comes about
+        {"SMDP", "SMDynapack"}, // "DP" is replaced first, so "SMP" never appears
         {"dp smp", "dp smp"},
         {"LGC", "LGC"},
         {"Simplo", "Simplo"},

@@ -48,7 +48,7 @@ TEST_F(QDBatteryTest, HasItsFirstValuesUntilTheFirstRefresh)
         {"PermanentFailureString", text("No Errors")},
         {"BatteryHealth", text("")},
         {"BatteryState", text("")},
-        {"StateText", text("Chargin with")}, // spelled so
+        {"StateText", text("Chargin with")}, // with this spelling
         {"TimeRemaining", text("")},
         {"RemainingString", text("Time until empty")},
         {"AdapterConnected", text("Not connected")},

@@ -24,7 +24,7 @@ TEST(RatedCapacity, Table)
         {u"MacBookPro12,1", 6559},
         {u"MacBook8,1", 5263},
         {u"MacBook9,1", 5474},
-        // No other text, however near.
+        // No other text, however similar.
         {u"", 0},
         {u"MacBookAir2,1", 0},
         {u"MacBookAir6,3", 0},

@@ -69,7 +69,7 @@ TEST(TimeTicks, FollowTheWallClockAcrossItsChanges)
     // At 1:00 UTC two o'clock became three.
     EXPECT_EQ(labels("2026-03-29 00:00", "2026-03-29 04:00", 6),
               QStringLiteral("01:00|03:00|04:00|05:00|06:00"));
-    // At 1:00 UTC three o'clock became two, which came a second time.
+    // At 1:00 UTC three o'clock became two, so the hour from two came twice.
     EXPECT_EQ(labels("2026-10-24 23:00", "2026-10-25 03:00", 6),
               QStringLiteral("01:00|02:00|02:00|03:00|04:00"));
     EXPECT_EQ(labels("2026-10-25 01:00", "2026-10-25 01:30", 4), QStringLiteral("02:00|02:10|02:20|02:30"))

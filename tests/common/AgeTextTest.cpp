@@ -37,9 +37,9 @@ TEST(AgeText, EveryHourAroundChangesOfTheClock)
 {
     const std::pair<const char*, QDate> changes[] = {
         {"Europe/Berlin", QDate(2014, 3, 30)},
-        {"America/Sao_Paulo", QDate(2018, 11, 4)},  // midnight is left out
+        {"America/Sao_Paulo", QDate(2018, 11, 4)},  // midnight is skipped
         {"Australia/Lord_Howe", QDate(2014, 4, 6)}, // by half an hour
-        {"Pacific/Apia", QDate(2011, 12, 30)},      // the day is left out
+        {"Pacific/Apia", QDate(2011, 12, 30)},      // the day is skipped
     };
     for (const auto& [name, date] : changes) {
         const ScopedTimeZone zone(name);

@@ -27,7 +27,7 @@ Reading reading(const QStringList& arguments, OptionValues values)
 
 struct ArgumentRow
 {
-    const char* arguments; ///< parted by blanks
+    const char* arguments; ///< separated by blanks
     bool loud;
     const char* file; ///< null when it was not given
     const char* fault;

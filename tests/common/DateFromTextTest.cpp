@@ -19,9 +19,9 @@ TEST(DateFromText, IsMidnightInTheProcessZone)
         {"UTC", QStringLiteral("2014-05-12"), 1399852800},
         {"Europe/Berlin", QStringLiteral("2014-05-12"), 1399845600},
         {"Australia/Sydney", QStringLiteral("2014-05-12"), 1399816800},
-        {"America/Sao_Paulo", QStringLiteral("2014-10-19"), 1413687600}, // midnight is left out: 01:00
+        {"America/Sao_Paulo", QStringLiteral("2014-10-19"), 1413687600}, // midnight is skipped: 01:00
         {"America/Havana", QStringLiteral("2014-11-02"), 1414900800},    // midnight comes twice: the first
-        {"Pacific/Apia", QStringLiteral("2011-12-30"), 1325239200},      // the day is left out: the next one
+        {"Pacific/Apia", QStringLiteral("2011-12-30"), 1325239200},      // the day is skipped: the next one
     };
     for (const auto& row : rows) {
         const ScopedTimeZone zone(row.zone);

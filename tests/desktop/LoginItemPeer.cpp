@@ -1,4 +1,4 @@
-// Makes or takes away the login item of the helper at a path, with the program's own classes.
+// Adds or removes the login item of the helper at a path, with the program's own classes.
 // usage: quindle_login_peer PROGRAM on|off|ask
 
 #include <cstdio>

@@ -11,7 +11,7 @@ namespace {
 
 struct BatteryFactsTest : testing::Test, test::FactComputer
 {
-    /// What is shown at every place, to look for what must be nowhere.
+    /// Everything that any place shows, to search for what none of them may show.
     QString shownAnywhere()
     {
         QString all = toolTipText(sources());
@@ -26,7 +26,7 @@ struct UnknownCase
     const char* key;
     QVariant value;                 ///< invalid: missing
     std::vector<FactId> notShown;   ///< nowhere
-    std::vector<const char*> never; ///< texts that must not stand anywhere
+    std::vector<const char*> never; ///< texts that must not be shown anywhere
 };
 
 TEST_F(BatteryFactsTest, WhatIsNotKnownIsNotShown)

@@ -88,7 +88,7 @@ struct FactComputer
         setBattery("Amperage", 0);
     }
 
-    /// Neither charging nor full, and so since the start.
+    /// Neither charging nor full, since the start.
     void holdBack()
     {
         fillUp();

@@ -1,5 +1,5 @@
-// Reads any bytes as a saved history: whatever they are, there are records or there is a fault. Records are
-// written again, and what was written is read as it is and no other bytes the next time.
+// Reads any bytes as a saved history: whatever they are, the result is records or a fault. Records are
+// written again; that must read as the same records, and be the same bytes when written once more.
 
 #include <cstddef>
 #include <cstdint>

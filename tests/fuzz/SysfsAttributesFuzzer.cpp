@@ -11,7 +11,7 @@ using namespace quindle;
 namespace {
 
 /// Lines "attribute=value", as in a uevent but for capitals and prefix; an empty line ends a supply. Other
-/// bytes stand as a driver might write them.
+/// bytes are taken as a driver might write them.
 SupplyReadings suppliesFromBytes(const QByteArray& bytes)
 {
     SupplyReadings readings;

@@ -12,7 +12,7 @@ using Call = CommandLine::Call;
 
 struct ArgumentRow
 {
-    const char* arguments; ///< parted by blanks
+    const char* arguments; ///< separated by blanks
     const char* machineVariable;
     const char* sysfsVariable;
     Call call;

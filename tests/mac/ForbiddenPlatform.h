@@ -6,7 +6,7 @@
 
 namespace quindle {
 
-/// A computer of which nothing may be asked but the time and three settings: every other call fails the test.
+/// A computer that may be asked for nothing but the time and three settings: every other call fails the test.
 class ForbiddenPlatform
 {
     template <class T = void>

@@ -23,7 +23,7 @@ TEST(PlatformExpert, TheModelIsTheBytesUpToTheFirstNul)
         {QByteArrayLiteral("\0"), QStringLiteral("")},
         {QByteArrayLiteral("M\xc3\xa4\x63"), QStringLiteral("Mäc")},
         {QByteArrayLiteral("Mac\0\xff"), QStringLiteral("Mac")}, // what follows the NUL is not looked at
-        {QByteArrayLiteral("M\xe4\x63"), std::nullopt},          // no UTF-8
+        {QByteArrayLiteral("M\xe4\x63"), std::nullopt},          // not UTF-8
     };
     FakeRegistry registry;
     for (const auto& [bytes, model] : rows) {

@@ -38,7 +38,7 @@ TEST_F(QDMacTest, ReadsTheComputerOnce)
     EXPECT_EQ(mac->OSXVersion(), text("OS X El Capitan"));
     EXPECT_EQ(mac->Model(), text("MacBookAir4,2"));
     EXPECT_EQ(mac->Serial(), text("C02MN1TXF5YW"));
-    EXPECT_EQ(mac->LongModel(), text("(11-inch, Late 2013)")); // the code F5YW is known without a question
+    EXPECT_EQ(mac->LongModel(), text("(11-inch, Late 2013)")); // the code F5YW is known without asking
     EXPECT_EQ(mac->ManufactureDate().date(), QDate(2014, 5, 12));
     EXPECT_EQ(mac->ManufactureDateString(), text("2014-05-12"));
     EXPECT_EQ(mac->CustomAge(), text("235 days"));

@@ -40,7 +40,7 @@ const QVariantList& twoRecords()
     return records;
 }
 
-/// Damage may leave records that are still right in form, never both records and a fault.
+/// Damage may leave records that are still well formed, but never both records and a fault.
 void expectAnswer(const QByteArray& bytes)
 {
     const ArchivedRecords read = recordsFromKeyedArchive(bytes);
@@ -77,8 +77,8 @@ TEST_P(KeyedArchive, TruncatedAnywhereIsEmpty)
 TEST_P(KeyedArchive, AnyFlippedBitHasAnAnswer)
 {
     const QByteArray whole = archive(GetParam());
-    // Every bit of the binary one; in the long XML one a thirteenth, which meets each bit of each kind of
-    // tag.
+    // Every bit of the binary one; every thirteenth of the long XML one, which covers each bit of each kind
+    // of tag.
     const qsizetype step = whole.startsWith('<') ? 13 : 1;
     for (qsizetype bit = 0; bit < whole.size() * 8; bit += step) {
         QByteArray flipped = whole;

@@ -124,7 +124,8 @@ TEST(PropertyListGraph, AReferenceIsReadWithItsElementAndWithout)
             EXPECT_EQ(graph.referenceAt(0), graph.reference(graph.element(0))) << marker << ' ' << length;
         }
     }
-    // The last byte of the list as a marker: that of where the offsets begin, so many bytes are before them.
+    // The last byte of the list as a marker: it belongs to the number that says where the offsets begin, so
+    // that many bytes come before them.
     QByteArray atTheEnd = binaryPropertyList({'\x80' + QByteArray(0x8f - 9, '\0')});
     atTheEnd[atTheEnd.size() - 33] = static_cast<char>(atTheEnd.size() - 1);
     EXPECT_EQ(atTheEnd.back(), '\x8f');

@@ -13,7 +13,7 @@
 
 namespace quindle::test {
 
-/// Writes down what it is asked for, and which texts and units are stored at that moment.
+/// Records what it is asked for, and which texts and units are stored at that moment.
 class LoggingTitle : public FixedTitle
 {
 public:

@@ -128,7 +128,7 @@ TEST_F(SampleStoreTest, TheLimitOfAge)
 
 TEST_F(SampleStoreTest, WhatIsRemovedLeavesNoTrace)
 {
-    const QByteArray trace = QByteArray::fromHex("4049013579bdf024"); // a charge that stands nowhere else
+    const QByteArray trace = QByteArray::fromHex("4049013579bdf024"); // a charge that occurs nowhere else
     double charge = 0;
     const quint64 bits = trace.toHex().toULongLong(nullptr, 16);
     std::memcpy(&charge, &bits, sizeof charge);

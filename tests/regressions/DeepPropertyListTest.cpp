@@ -1,5 +1,5 @@
 // A property list of 50,000 nested arrays overflowed the stack; one whose values share others was written out
-// until memory ended.
+// until memory ran out.
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ QByteArray arrayOf(int reference, int times)
     return static_cast<char>(0xa0 + times) + bigEndian(static_cast<quint64>(reference), 2).repeated(times);
 }
 
-/// Arrays of which each has the next one so many times; the last one has `end`, or is empty.
+/// Arrays that each hold the next one that many times; the last one holds `end`, or is empty.
 QByteArray chainOfArrays(int length, int times, int end = -1)
 {
     QByteArrayList arrays;

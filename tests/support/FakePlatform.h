@@ -58,7 +58,7 @@ class FakePowerSources : public PowerSources
 {
 public:
     std::optional<QVariantMap> adapter;
-    /// The descriptions in order; a description that is nothing cannot be had. No list: the service cannot be
+    /// The descriptions in order; one that is nullopt cannot be read. No list: the service cannot be
     /// asked.
     std::optional<std::vector<std::optional<QVariantMap>>> sources{std::in_place};
     std::optional<int> limit;
@@ -241,7 +241,7 @@ public:
     std::optional<QVariantMap> infoDictionary() const override { return info; }
 };
 
-/// Answers what stands in `answers`; posts are never answered.
+/// Answers from `answers`; posts are never answered.
 class FakeUrlSession : public UrlSession
 {
 public:
@@ -263,8 +263,8 @@ public:
     QStringList applicationSupportDirectories() const override { return applicationSupport; }
 };
 
-/// The texts as they were put in, each the item of its place; `urls` is nothing where the list cannot be had,
-/// and an empty text cannot be resolved.
+/// The texts as they were put in, each the item of its place; `urls` is nullopt where the list cannot be
+/// read, and an empty text cannot be resolved.
 class FakeLoginItems : public LoginItems
 {
 public:

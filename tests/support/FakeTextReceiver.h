@@ -6,7 +6,7 @@
 
 namespace quindle {
 
-/// Keeps each text, and is what the test has it be.
+/// Keeps each text; the test sets what state it is in.
 class FakeTextReceiver : public TextReceiver
 {
 public:

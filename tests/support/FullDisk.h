@@ -6,7 +6,7 @@
 
 namespace quindle {
 
-/// For as long as it lives no file can be made longer than so many bytes, as on a full disk.
+/// While it lives, no file can grow beyond that many bytes, as on a full disk.
 class FullDisk
 {
 public:

@@ -26,7 +26,7 @@ private:
 QString untranslatedPart(const QString& text);
 
 /// The texts with words that nobody can translate, of `window` and what is seen in it: labels, buttons,
-/// lists, tool tips and what assistive technologies read. Those that have a word of `data` are not meant:
+/// lists, tool tips and what assistive technologies read. Those that have a word of `data` are left out:
 /// names, serial numbers.
 QStringList untranslatedTexts(const QWidget& window, const QStringList& data);
 

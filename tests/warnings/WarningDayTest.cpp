@@ -1,4 +1,4 @@
-// Whole days of a battery, and the exact list of what the user is told.
+// Whole days of a battery, and the exact list of what the user gets to see.
 
 #include <gtest/gtest.h>
 

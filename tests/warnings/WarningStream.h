@@ -19,7 +19,8 @@ struct WarningStream
             settings[level].percent = percents[indexOf(level)];
     }
 
-    /// So long passes at that charge, changed evenly to `to`, refreshed at the end of each ten seconds.
+    /// Lets that much time pass while the charge changes evenly to `to`, with a refresh at the end of each
+    /// ten seconds.
     void pass(double seconds, double to)
     {
         const int refreshes = static_cast<int>(seconds / 10);
@@ -42,7 +43,7 @@ struct WarningStream
         take(percent - reading.percent);
     }
 
-    /// One reading, so much later, of what is the same since.
+    /// One reading, that much later, with nothing changed.
     void readAfter(qint64 seconds)
     {
         reading.moment += seconds;

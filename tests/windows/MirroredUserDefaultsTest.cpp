@@ -14,7 +14,7 @@ namespace {
 
 struct MirroredUserDefaultsTest : testing::Test
 {
-    /// The one thing that the helper was told to store, as "database key value".
+    /// The one thing that the helper was asked to store, as "database key value".
     QString mirrored()
     {
         const std::vector<WindowMessage> told = link.told();

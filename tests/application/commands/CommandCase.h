@@ -10,7 +10,7 @@
 
 namespace quindle {
 
-/// A computer with a folder for its history, and what a command says.
+/// A computer with a folder for its history, and what a command reports.
 struct CommandCase : TemporaryHistory
 {
     CommandCase() { computer.userDirectories.applicationSupport = {folder()}; }

@@ -10,7 +10,7 @@
 namespace quindle {
 
 /// An object of the tests' own Core Foundation: what the functions of that name, in FakeCoreFoundation.cpp,
-/// take and give. Counted as the true ones are.
+/// take and give. Counted as the real ones are.
 struct FakeObject
 {
     enum Type : CFTypeID { String = 1, Number, Boolean, Data, Date, Array, Set, Dictionary, Other };

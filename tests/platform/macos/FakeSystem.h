@@ -99,7 +99,7 @@ private:
     };
 };
 
-/// The daemon between processes, which brings everybody everything, later.
+/// The daemon between processes: delivers everything to everybody, later.
 class FakeNotificationCalls : public NotificationCalls
 {
 public:
@@ -117,7 +117,7 @@ public:
     void deliver(const QString& name, const QString& sender) { observers.at(name)(sender); }
 };
 
-/// The center of notifications, which answers when it is told to.
+/// The notification center, which answers when the test says so.
 class FakeNoticeCalls : public NoticeCalls
 {
 public:

@@ -94,7 +94,7 @@ TEST_F(LaidOut, WhetherAGhostIsMatched)
 
 } // namespace
 
-/// What is laid out keeps the promises of a registry.
+/// A laid-out registry keeps the contract of a registry.
 class LaidOutBatteries
 {
 public:

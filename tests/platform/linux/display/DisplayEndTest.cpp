@@ -49,7 +49,7 @@ struct DisplayEndTest : testing::Test
         return socket;
     }
 
-    /// Ends after things have settled several times.
+    /// Returns when the end was reported, or after it has had ample time to be.
     void wait() const
     {
         const QDeadlineTimer deadline(200);
@@ -78,7 +78,7 @@ TEST_F(DisplayEndTest, AnotherServerInItsPlaceIsOneToo)
 {
     ::unlink(path.constData());
     const FileDescriptor other =
-        listening(); // while the first is not closed yet, so that its file is another
+        listening(); // while the first is still open, so that its file is a different one
     EXPECT_TRUE(comesTrue([this] { return ended > 0; }));
 }
 
@@ -91,7 +91,7 @@ TEST_F(DisplayEndTest, WhatElseHappensToTheSocketIsNone)
 
 TEST_F(DisplayEndTest, AServerWhoseFileWasTidiedAwayGoesOn)
 {
-    // The same name in the space without files.
+    // The same name in the abstract namespace.
     sockaddr_un address = {};
     address.sun_family = AF_UNIX;
     std::copy(path.begin(), path.end(), address.sun_path + 1);

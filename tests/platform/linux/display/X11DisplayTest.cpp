@@ -57,7 +57,7 @@ public:
     {
         sockaddr_un address = {};
         address.sun_family = AF_UNIX;
-        // A display's socket has a name without a file too, which needs no folder.
+        // A display has an abstract socket too, which needs no folder.
         const QByteArray name = "/tmp/.X11-unix/X" + number();
         std::copy(name.begin(), name.end(), std::begin(address.sun_path) + 1);
         const auto size = offsetof(sockaddr_un, sun_path) + 1 + static_cast<std::size_t>(name.size());
@@ -78,7 +78,7 @@ public:
     }
 
 private:
-    /// Of no display, and of this process alone.
+    /// No display's number, and no other process's.
     static QByteArray number() { return QByteArray::number(10'000'000 + ::getpid()); }
 
     FileDescriptor m_socket{::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)};

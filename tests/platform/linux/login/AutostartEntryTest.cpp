@@ -72,7 +72,7 @@ TEST_F(AutostartEntryTest, WhatStartsNothingDoesNotResolve)
              "Exec=%f",
              "Exec=\"quindle-helper",
              "Exec=quindle-helper %x",
-             "Exec={bundle}/Contents/Linux/quindle-helper", // the blank parts it in two
+             "Exec={bundle}/Contents/Linux/quindle-helper", // the blank splits it in two
              "Exec=./quindle-helper",
              "Exec=bin/quindle-helper",
              "Exec=not-there",
@@ -121,7 +121,7 @@ TEST_F(AutostartEntryTest, ACommandIsOneThatEverySessionReads)
     const QString linkInOddHome = oddHome + QStringLiteral("/.config/quindle/quindle-helper");
     EXPECT_EQ(command("/home/100%/q", linkInOddHome, oddHome),
               "sh -c \"cd && exec ./.config/quindle/quindle-helper\"");
-    // Nothing that all of them read is left.
+    // No form is left that all of them read.
     EXPECT_EQ(command("/opt/100%/q", QStringLiteral("/100%/quindle-helper"), home), "\"/opt/100%%/q\"");
     EXPECT_EQ(command("/opt/100%/q", QStringLiteral("/home/100%/$c/quindle-helper"), oddHome),
               "\"/opt/100%%/q\"");

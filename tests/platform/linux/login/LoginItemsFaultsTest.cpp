@@ -9,7 +9,7 @@ using namespace quindle;
 
 namespace {
 
-/// For as long as it lives the process has not the rights of root.
+/// While it lives, the process does not have root's rights.
 class Unprivileged
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace quindle {
 
-/// The server of http_server.py while this lives.
+/// Runs http_server.py while it lives.
 class HttpServer
 {
 public:

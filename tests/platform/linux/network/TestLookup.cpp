@@ -1,6 +1,6 @@
 // Loaded before the C library into a program under test: names that end in ".test" are this computer, but for
-// "hangs.test", whose lookup never comes to an end, as with a name server that does not answer. That it has
-// begun shows in a file.
+// "hangs.test", whose lookup never comes to an end, as with a name server that does not answer. A file shows
+// that it has begun.
 
 #include <cstdlib>
 #include <string_view>

@@ -201,7 +201,7 @@ TEST_F(LetteringTest, GlyphsOfManyTextsAreNotAllKept)
     EXPECT_EQ(picture("87"), first);
 }
 
-/// A place without any font of the system's, but with what is put there.
+/// A place without the system's fonts, with only those that are put there.
 class FontFolder
 {
 public:

@@ -51,7 +51,7 @@ const Words classes = Words{2, 28, 4, 0, 38, 48, 2, 3, 0, 0, 0, 0, 11, -22} + //
                       Words{1, 5, 2, 1, 1} +                                  // left classes
                       Words{2, 1, 7, 8, 2};                                   // right classes
 
-/// Glyph 1 as the last of as many as there can be.
+/// Glyph 1 as the last of a long list.
 Words longCoverage()
 {
     Words coverage{1, 32000};
@@ -62,7 +62,7 @@ Words longCoverage()
 
 TEST(PairKerning, ATableOfAllThatItCanHoldIsNotSearchedWithoutEnd)
 {
-    // 64 times the same lookup, which has 256 times the same subtable.
+    // The same lookup 64 times, which has the same subtable 256 times.
     Words table = Words{1, 0, 10, 30, 172} + Words{1, tag("la"), tag("tn"), 8, 4, 0, 0, 0xffff, 1, 0} +
                   Words{1, tag("ke"), tag("rn"), 8, 0, 64};
     table.insert(table.end(), 65, 0);

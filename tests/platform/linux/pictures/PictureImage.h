@@ -7,7 +7,7 @@
 
 namespace quindle {
 
-/// The picture for what can look at one.
+/// The picture as an image whose pixels can be looked at.
 QImage imageOf(const Pixels& pixels);
 
 /// The box around all pixels of at least that alpha; null where there is none.

@@ -217,7 +217,7 @@ TEST_F(UeventTest, WhatItSaidStandsInForASingleFileThatFails)
     EXPECT_FALSE(property(chargeKey).isValid());
 }
 
-/// Figures of two moments must not meet. Files that someone has collected, or changes, may be of two.
+/// Figures of two moments must not be mixed. Files that someone has collected, or edits, may be of two.
 TEST_F(UeventTest, OneThatSaysAnotherThingThanTheFilesIsNotUsed)
 {
     ASSERT_EQ(property(cyclesKey), qint64{9});
@@ -234,7 +234,7 @@ TEST_F(UeventTest, AnotherSupplyOfTheSameNameIsReadAnew)
 {
     ASSERT_EQ(property(chargeKey), qint64{3000});
     tree.remove("BAT0");
-    tree.add("AC", {{"type", "Mains"}, {"online", "1"}}); // takes what inode has become free
+    tree.add("AC", {{"type", "Mains"}, {"online", "1"}}); // takes whichever inode has become free
     tree.add("BAT0", discharging);
     EXPECT_EQ(property(chargeKey), qint64{2000});
 }

@@ -7,7 +7,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// One that has watched a battery with a falling current for so long.
+/// One that has watched a battery with a falling current for that long.
 TimeEstimator watched(std::chrono::seconds time, std::optional<double> current,
                       TimeEstimator::Direction direction)
 {

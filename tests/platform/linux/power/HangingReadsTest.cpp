@@ -83,7 +83,7 @@ struct HangingReadsTest : testing::Test
         return sampler.sample()->batteryEntry.value(key);
     }
 
-    /// Once it is so, a while later at most: machines are busy.
+    /// Whether it becomes true within a while: machines are busy.
     bool comesToSay(const QString& key, const QVariant& value)
     {
         for (int tries = 0; tries < 500; ++tries) {
@@ -101,8 +101,8 @@ struct HangingReadsTest : testing::Test
                        charge + "\nPOWER_SUPPLY_CHARGE_FULL=4000000\nPOWER_SUPPLY_CYCLE_COUNT=7\n");
     }
 
-    /// Whether BAT0, the only one with a uevent and with cycles, comes to be read by that one file. Whether
-    /// it says what the other files say is seen when one of them has changed.
+    /// Whether BAT0, the only one with a uevent and with cycles, is read by that one file in the end.
+    /// That it says what the other files say is known only once one of them has changed.
     bool comesToReadUeventsOnly(const std::string& charge)
     {
         for (int tries = 0; tries < 500; ++tries) {

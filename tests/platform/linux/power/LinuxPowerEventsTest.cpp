@@ -17,7 +17,7 @@ bool refusesToReceive = false;
 
 } // namespace
 
-// In place of the library's, which cannot be made to fail: what a kernel without the socket answers.
+// Replaces the library's, which cannot be made to fail: what a kernel without the socket answers.
 extern "C" int udev_monitor_enable_receiving(udev_monitor* monitor)
 {
     using Function = int (*)(udev_monitor*);

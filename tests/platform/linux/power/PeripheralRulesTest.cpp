@@ -91,7 +91,7 @@ TEST(PeripheralRules, BluetoothDevicesFollowThatNoSupplyShows)
     EXPECT_EQ(both("a", {capacity, {Attribute::SerialNumber, "aa:bb:cc:dd:ee:ff\n"}}),
               QStringLiteral("a 35 %"));
     EXPECT_EQ(both("a", {capacity, {Attribute::ModelName, "headset\n"}}), QStringLiteral("headset 35 %"));
-    // A supply that shows nothing stands for nobody.
+    // A supply that shows nothing hides no other device.
     EXPECT_EQ(both("hid-aa:bb:cc:dd:ee:ff-battery", {}), QStringLiteral("Headset 70 %"));
 }
 

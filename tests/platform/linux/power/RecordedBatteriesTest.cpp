@@ -242,7 +242,7 @@ TEST_P(RecordedBatteries, RegistryEntry)
             << property.key().toStdString();
 }
 
-/// The machine's folder with those files of each supply only that `isKept` wants.
+/// A copy of the machine's folder with only those files of each supply that `isKept` accepts.
 template <typename Predicate>
 void copySupplies(const QString& from, const QString& to, Predicate isKept)
 {
@@ -263,8 +263,8 @@ std::string entryOf(const QString& folder)
     return asText(machine.sampler.sample()->batteryEntry).toStdString();
 }
 
-/// What a supply says is the same whether its uevent is read or its single files; but on a computer whose
-/// files are of another moment than its uevents.
+/// A supply says the same whether its uevent or its single files are read, except on a computer whose files
+/// are of another moment than its uevents.
 TEST_P(RecordedBatteries, UeventsAndSingleFilesSayTheSame)
 {
     const QTemporaryDir copies;

@@ -31,7 +31,7 @@ struct SteadyPowerTest : testing::Test
         return sampler.sample()->batteryEntry;
     }
 
-    /// For so long, a sample every 10 seconds.
+    /// A sample every 10 seconds for that long.
     void pass(std::chrono::seconds time)
     {
         for (const auto end = now + time; now < end;) {

@@ -43,7 +43,7 @@ public:
     void remove(const std::string& supply) const { ASSERT_TRUE(QDir(pathOf(supply)).removeRecursively()); }
 
 private:
-    /// In memory where that can be had: thousands of small files take a disk many seconds.
+    /// In memory where possible: thousands of small files take a disk many seconds.
     static QString pathTemplate()
     {
         const QFileInfo memory(QStringLiteral("/dev/shm"));

@@ -46,7 +46,7 @@ protected:
         return process.readLine().trimmed();
     }
 
-    // Waits for the end when there is one soon.
+    // Whether it ends well, and soon.
     static bool ends(QProcess& process) { return process.waitForFinished(10'000) && process.exitCode() == 0; }
 
     static void kill(QProcess& process)

@@ -73,7 +73,7 @@ TEST(LinuxRunLoop, TimersChangeInsideACallback)
     });
     second = runLoop.scheduleRepeatingTimer(0.02, 0.02, [&] { fired += '2'; });
     EXPECT_TRUE(comesTrue([&] { return fired.size() >= 3; }));
-    EXPECT_EQ(fired.substr(0, 3), "133"); // a slow machine makes up for more ticks at once
+    EXPECT_EQ(fired.substr(0, 3), "133"); // a slow machine makes up for several ticks at once
 }
 
 TEST(LinuxRunLoop, TicksGoOnInALoopInsideACallback)
@@ -146,7 +146,7 @@ QElapsedTimer startedWatch()
     return watch;
 }
 
-/// Ticks every 10 seconds, each but a moment away: the clock leaps when one has taken place.
+/// Ticks every 10 seconds, yet each comes at once: the clock leaps ahead when one has taken place.
 struct RestingLoopTest : testing::Test
 {
     RestingLoopTest()

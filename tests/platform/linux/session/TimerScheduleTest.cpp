@@ -97,7 +97,7 @@ TEST(TimerSchedule, PunctualTimersUseNoTolerance)
     schedule.setPunctual(true);
     for (double time = 5; time < 100; time += 5) {
         EXPECT_DOUBLE_EQ(*schedule.nextWakeUp(), time);
-        // Before the other, which shows what it brings.
+        // Before the other, which shows what it has read.
         EXPECT_EQ(schedule.takeDue(time + 0.0005),
                   std::fmod(time, 10) == 0 ? std::vector({1, 2}) : std::vector{1});
     }
@@ -115,7 +115,7 @@ TEST(TimerSchedule, TellsTheWakeUpsAheadWhereTicksMayBeLeftOut)
     EXPECT_EQ(schedule.restfulWakeUps(30), std::vector<double>({5, 12, 22, 32}));
     schedule.takeDue(5);
     EXPECT_EQ(schedule.restfulWakeUps(30), std::vector<double>({12, 22, 32, 42}));
-    EXPECT_DOUBLE_EQ(*schedule.nextWakeUp(), 12); // it was not told for nothing
+    EXPECT_DOUBLE_EQ(*schedule.nextWakeUp(), 12); // the next one stays, although it was given ahead
     schedule.setPunctual(true);
     EXPECT_TRUE(schedule.restfulWakeUps(30).empty());
     schedule.setPunctual(false);

@@ -133,7 +133,7 @@ TEST_F(LinuxUserDefaultsFaultsTest, WhatIsNoReadableFileIsReadAsNothingAndKept)
     }
 }
 
-// The defaults in place of the user's settings would change title and icon while a network home is away.
+// Default values instead of the user's settings would change title and icon while a network home is away.
 TEST_F(LinuxUserDefaultsFaultsTest, WhatCannotBeReadAnyMoreIsWhatItWas)
 {
     writeBytes(path(), listOf(key, 1));

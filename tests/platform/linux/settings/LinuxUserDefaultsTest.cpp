@@ -227,7 +227,7 @@ TEST_F(LinuxUserDefaultsTest, ALinkStaysALink)
     const QString target = m_root.path() + QStringLiteral("/dotfiles/q.plist");
     QDir().mkpath(folder());
     QDir().mkpath(m_root.path() + QStringLiteral("/dotfiles"));
-    // Relative, and not leading anywhere yet.
+    // Relative, and its target is not there yet.
     ASSERT_EQ(::symlink("../dotfiles/q.plist", QFile::encodeName(path()).constData()), 0);
     LinuxUserDefaults defaults(path());
     defaults.setInteger(key, 1);

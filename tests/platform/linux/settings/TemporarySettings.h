@@ -66,7 +66,7 @@ protected:
     QTemporaryDir m_root{rootTemplate()};
 
 private:
-    // In memory where there is such a place: the thousands of writes need not wait for a disk.
+    // In memory where possible: thousands of writes need not wait for a disk.
     static QString rootTemplate()
     {
         const QString memory = QStringLiteral("/dev/shm");

@@ -19,11 +19,11 @@ public:
     explicit FakeTrayHost(QDBusConnection bus);
     ~FakeTrayHost() override;
 
-    /// Takes the watcher's name, or leaves it.
+    /// Takes the watcher's name, or gives it up.
     bool appear();
     void disappear();
 
-    /// Gets the watcher's name as soon as its owner leaves it.
+    /// Gets the watcher's name as soon as its owner gives it up.
     void queueUp();
 
     /// A watcher that forgets what is registered.
@@ -39,7 +39,7 @@ public:
     QVariant property(const char* path, const char* interface, const char* name);
     QVariant itemProperty(const char* name);
 
-    /// Signals of the item and its menu since the last question, in order.
+    /// Signals of the item and its menu since the last call, in order.
     QStringList takeSignals();
     QList<QDBusMessage> lastMessages() const { return m_messages; }
 

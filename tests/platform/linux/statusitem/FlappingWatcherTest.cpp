@@ -1,4 +1,4 @@
-// A watcher that came and went without end was answered each time, and what each answer left behind stayed.
+// A watcher that came and went endlessly was answered each time, and each answer left memory behind for good.
 
 #include <QCoreApplication>
 #include <QDBusMessage>

@@ -46,7 +46,7 @@ protected:
         QObject::connect(tray.get(), &TrayProgram::wanted, tray.get(), [this] { ++wanted; });
     }
 
-    /// Starts it, and lets so much time pass until it has ended.
+    /// Starts it, and lets that much time pass until it has ended.
     void runFor(std::chrono::milliseconds time)
     {
         ASSERT_TRUE(tray->isWanted());
