@@ -140,7 +140,7 @@ void TrayProgram::handleEnd()
     if (m_failures == 0)
         m_isLogged = false;
     if (logsFailure(m_failures))
-        log(QStringLiteral("%1 ends again and again; it is started ever more seldom").arg(m_program));
+        log(QStringLiteral("%1 ends again and again; it is restarted less and less often").arg(m_program));
     if (isWanted())
         Q_EMIT wanted();
 }
