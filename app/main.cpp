@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <memory>
 #include <optional>
-#include <variant>
 
 #include <QCoreApplication>
 
@@ -142,13 +141,9 @@ StartAnswer answerInTime(std::optional<SingleInstance>& instance)
 int start(int argc, char** argv)
 {
     keepMemoryOutOfCoreDumps();
-    std::optional<Machine> machine;
-    if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
-        MachineResult result = readMachineFile(path);
-        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
-            return fail(refusal->line, wrongUsage);
-        machine = std::get<Machine>(std::move(result));
-    }
+    const auto [machine, refusal] = machineNamed(pathText(qgetenv("QUINDLE_MACHINE")));
+    if (!refusal.isEmpty())
+        return fail(refusal, wrongUsage);
     if (!hasDisplay())
         return fail(QStringLiteral("there is no display to show a tray item on"), cannotRun);
 

@@ -6,7 +6,6 @@
 #include <optional>
 #include <sysexits.h>
 #include <unistd.h>
-#include <variant>
 
 #include <QApplication>
 #include <QFile>
@@ -91,13 +90,9 @@ int runCommand(int argc, char** argv, const ApplicationCommandLine& commandLine,
 
 int start(int argc, char** argv, const ApplicationCommandLine& commandLine)
 {
-    std::optional<Machine> machine;
-    if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
-        MachineResult result = readMachineFile(path);
-        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
-            return fail(refusal->line, EX_DATAERR);
-        machine = std::get<Machine>(std::move(result));
-    }
+    const auto [machine, refusal] = machineNamed(pathText(qgetenv("QUINDLE_MACHINE")));
+    if (!refusal.isEmpty())
+        return fail(refusal, EX_DATAERR);
     return commandLine.call == ApplicationCommandLine::Call::Window
                ? showWindow(argc, argv, machine)
                : runCommand(argc, argv, commandLine, machine);

@@ -7,7 +7,6 @@
 #include <optional>
 #include <sysexits.h>
 #include <unistd.h>
-#include <variant>
 
 #include <QApplication>
 #include <QBuffer>
@@ -182,13 +181,9 @@ int runCommand(const ApplicationCommandLine& commandLine, const std::optional<Ma
 int start(const ApplicationCommandLine& commandLine)
 {
     keepMemoryOutOfCoreDumps();
-    std::optional<Machine> machine;
-    if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
-        MachineResult result = readMachineFile(path);
-        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
-            return fail(refusal->line, EX_DATAERR);
-        machine = std::get<Machine>(std::move(result));
-    }
+    const auto [machine, refusal] = machineNamed(pathText(qgetenv("QUINDLE_MACHINE")));
+    if (!refusal.isEmpty())
+        return fail(refusal, EX_DATAERR);
     return commandLine.call == ApplicationCommandLine::Call::Window ? showWindow(machine)
                                                                     : runCommand(commandLine, machine);
 }

@@ -48,23 +48,19 @@ std::variant<std::unique_ptr<Computer>, MachineRefusal> Computer::open(const Com
 {
     if (const QString fault = supplyFolderFault(commandLine); !fault.isEmpty())
         return MachineRefusal{fault};
-    Machine machine;
-    if (isRecorded(commandLine)) {
-        MachineResult result = readMachineFile(commandLine.machineFile);
-        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
-            return *refusal;
-        machine = std::get<Machine>(std::move(result));
-    }
-    return std::unique_ptr<Computer>(new Computer(std::move(machine), commandLine));
+    const auto [machine, refusal] = machineNamed(commandLine.machineFile);
+    if (!refusal.isEmpty())
+        return MachineRefusal{refusal};
+    return std::unique_ptr<Computer>(new Computer(machine.value_or(Machine()), commandLine));
 }
 
 Computer::Computer(Machine machine, const CommandLine& commandLine)
     : m_machine(std::move(machine))
-    , m_own(commandLine.sysfsDirectory)
-    , m_recorded(m_machine.keys, m_own.bundle(), m_machine.file)
+    , m_own(ownComputer(commandLine.sysfsDirectory))
+    , m_recorded(m_machine.keys, m_own.bundle, m_machine.file)
     , m_macRegistry(m_recorded.registry)
     , m_settings(isRecorded(commandLine) ? static_cast<UserDefaultsDatabases&>(m_recorded.userDefaults)
-                                         : m_own.userDefaults())
+                                         : m_own.userDefaults)
     , m_platform(isRecorded(commandLine) ? recordedComputer(commandLine)
                                          : thisComputer(isFollowed(commandLine)))
 {
@@ -97,7 +93,7 @@ Platform Computer::recordedComputer(const CommandLine& commandLine)
 {
     // Steps happen at their times while it is followed, which takes a real loop.
     return m_recorded.platform().with({.registry = commandLine.asMac ? &m_macRegistry : nullptr,
-                                       .runLoop = isFollowed(commandLine) ? &m_own.runLoop() : nullptr});
+                                       .runLoop = isFollowed(commandLine) ? &m_own.runLoop : nullptr});
 }
 
 IORegistry* Computer::macRegistryAsItIs()
@@ -105,7 +101,7 @@ IORegistry* Computer::macRegistryAsItIs()
     if (&m_platform.registry == &m_macRegistry)
         return &m_recorded.registry;
     const bool isOwn = &m_platform.registry != &m_recorded.registry;
-    return isOwn ? m_own.registryAsItIs() : nullptr;
+    return isOwn ? m_own.registryAsItIs : nullptr;
 }
 
 bool Computer::isMac()

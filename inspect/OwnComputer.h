@@ -10,28 +10,22 @@
 namespace quindle {
 
 /// The computer that the program runs on, and its process. One source file for each system.
-class OwnComputer
+struct OwnComputer
 {
-public:
-    /// Settings are only read: a damaged file is reported, and left for the helper to set aside.
-    /// `sysfsDirectory` replaces /sys where there is one. Needs a QCoreApplication.
-    explicit OwnComputer(const QString& sysfsDirectory);
-    ~OwnComputer();
-
-    Bundle& bundle();
-    RunLoop& runLoop();
-    UserDefaultsDatabases& userDefaults();
-
-    /// All services, with a status bar of the caller's choice.
-    Platform services(StatusBar& statusBar);
+    Bundle& bundle;
+    RunLoop& runLoop;
+    UserDefaultsDatabases& userDefaults;
 
     /// The registry as it is, for captures; null where the services' own is unchanged.
-    IORegistry* registryAsItIs();
+    IORegistry* registryAsItIs = nullptr;
 
-private:
-    struct Services;
-    std::unique_ptr<Services> m_services;
+    /// All services, with a status bar of the caller's choice. Keeps them alive.
+    std::function<Platform(StatusBar&)> services;
 };
+
+/// Settings are only read: a damaged file is reported, and left for the helper to set aside.
+/// `sysfsDirectory` replaces /sys where there is one. Needs a QCoreApplication.
+OwnComputer ownComputer(const QString& sysfsDirectory);
 
 /// Keeps the memory of this process, in which serial numbers are, out of core dumps.
 void keepOutOfCoreDumps();

@@ -6,46 +6,13 @@
 
 namespace quindle {
 
-struct OwnComputer::Services
+OwnComputer ownComputer(const QString& sysfsDirectory)
 {
-    explicit Services(const QString& sysfsDirectory)
-        : platform(sysfsDirectory, SettingsAccess::ReadOnly)
-    {
-    }
-
-    LinuxPlatform platform;
-};
-
-OwnComputer::OwnComputer(const QString& sysfsDirectory)
-    : m_services(std::make_unique<Services>(sysfsDirectory))
-{
-}
-
-OwnComputer::~OwnComputer() = default;
-
-Bundle& OwnComputer::bundle()
-{
-    return m_services->platform.bundle();
-}
-
-RunLoop& OwnComputer::runLoop()
-{
-    return m_services->platform.runLoop();
-}
-
-UserDefaultsDatabases& OwnComputer::userDefaults()
-{
-    return m_services->platform.userDefaults();
-}
-
-Platform OwnComputer::services(StatusBar& statusBar)
-{
-    return m_services->platform.services(statusBar);
-}
-
-IORegistry* OwnComputer::registryAsItIs()
-{
-    return nullptr;
+    const auto platform = std::make_shared<LinuxPlatform>(sysfsDirectory, SettingsAccess::ReadOnly);
+    return {.bundle = platform->bundle(),
+            .runLoop = platform->runLoop(),
+            .userDefaults = platform->userDefaults(),
+            .services = [platform](StatusBar& statusBar) { return platform->services(statusBar); }};
 }
 
 void keepOutOfCoreDumps()

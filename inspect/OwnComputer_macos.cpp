@@ -6,41 +6,14 @@
 
 namespace quindle {
 
-struct OwnComputer::Services
+OwnComputer ownComputer(const QString& /*sysfsDirectory*/)
 {
-    MacPlatform platform{MacPlatform::Program::Helper};
-};
-
-OwnComputer::OwnComputer(const QString& /*sysfsDirectory*/)
-    : m_services(std::make_unique<Services>())
-{
-}
-
-OwnComputer::~OwnComputer() = default;
-
-Bundle& OwnComputer::bundle()
-{
-    return m_services->platform.bundle();
-}
-
-RunLoop& OwnComputer::runLoop()
-{
-    return m_services->platform.runLoop();
-}
-
-UserDefaultsDatabases& OwnComputer::userDefaults()
-{
-    return m_services->platform.userDefaults();
-}
-
-Platform OwnComputer::services(StatusBar& statusBar)
-{
-    return m_services->platform.services(statusBar);
-}
-
-IORegistry* OwnComputer::registryAsItIs()
-{
-    return &m_services->platform.registryAsItIs();
+    const auto platform = std::make_shared<MacPlatform>(MacPlatform::Program::Helper);
+    return {.bundle = platform->bundle(),
+            .runLoop = platform->runLoop(),
+            .userDefaults = platform->userDefaults(),
+            .registryAsItIs = &platform->registryAsItIs(),
+            .services = [platform](StatusBar& statusBar) { return platform->services(statusBar); }};
 }
 
 void keepOutOfCoreDumps()

@@ -3,7 +3,6 @@
 
 #include <cstdio>
 #include <optional>
-#include <variant>
 
 #include <QApplication>
 
@@ -68,13 +67,9 @@ int run(QApplication& application, HelperComputer& computer)
 
 int start(int argc, char** argv)
 {
-    std::optional<Machine> machine;
-    if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
-        MachineResult result = readMachineFile(path);
-        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
-            return print(stderr, "quindle-helper: " + pathBytes(refusal->line) + '\n', wrongUsage);
-        machine = std::get<Machine>(std::move(result));
-    }
+    const auto [machine, refusal] = machineNamed(pathText(qgetenv("QUINDLE_MACHINE")));
+    if (!refusal.isEmpty())
+        return print(stderr, "quindle-helper: " + pathBytes(refusal) + '\n', wrongUsage);
     exposePopups();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quindle-helper"));

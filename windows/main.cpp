@@ -4,7 +4,6 @@
 #include <chrono>
 #include <memory>
 #include <optional>
-#include <variant>
 
 #include <QApplication>
 #include <QIcon>
@@ -121,13 +120,9 @@ int start(const WindowsCommandLine& commandLine)
     FileDescriptor end(commandLine.link);
     if (!SocketLink::isEndOfPair(end))
         return fail(QStringLiteral("is started by quindle-helper"));
-    std::optional<Machine> machine;
-    if (const QString path = pathText(qgetenv("QUINDLE_MACHINE")); !path.isEmpty()) {
-        MachineResult result = readMachineFile(path);
-        if (const auto* refusal = std::get_if<MachineRefusal>(&result))
-            return fail(refusal->line);
-        machine = std::get<Machine>(std::move(result));
-    }
+    const auto [machine, refusal] = machineNamed(pathText(qgetenv("QUINDLE_MACHINE")));
+    if (!refusal.isEmpty())
+        return fail(refusal);
     exposePopups();
     const HelpersApplication application;
     // Window managers of X11 do not look for the desktop entry's icon.

@@ -294,6 +294,16 @@ MachineResult readMachineFile(const QString& path)
     return machineFromPropertyList(*root, path);
 }
 
+NamedMachine machineNamed(const QString& path)
+{
+    if (path.isEmpty())
+        return {};
+    MachineResult result = readMachineFile(path);
+    if (const auto* refusal = std::get_if<MachineRefusal>(&result))
+        return {std::nullopt, refusal->line};
+    return {std::get<Machine>(std::move(result)), {}};
+}
+
 MachineResult machineFromPropertyList(const QVariant& root, const QString& path)
 {
     if (!isDictionary(root))

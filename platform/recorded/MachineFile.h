@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -54,6 +55,16 @@ using MachineResult = std::variant<Machine, MachineRefusal>;
 
 /// Reads and checks the file at `path`.
 MachineResult readMachineFile(const QString& path);
+
+/// What a program is to run on: this computer where both are empty.
+struct NamedMachine
+{
+    std::optional<Machine> machine;
+    QString refusal; ///< the line of a MachineRefusal
+};
+
+/// What the file at `path` is; both empty where no file is named.
+NamedMachine machineNamed(const QString& path);
 
 /// Checks a property-list value that was read from the file at `path`.
 MachineResult machineFromPropertyList(const QVariant& root, const QString& path);

@@ -46,7 +46,6 @@ private:
     std::string pathOf(Attribute attribute) const;
     ssize_t readOnce(FileReader& reader, Attribute attribute) const;
     void lookAtKind(FileReader& reader);
-    void lookAtLimit(FileReader& reader);
     std::optional<SupplyAttributes> readUevent(FileReader& reader);
     bool agrees(FileReader& reader, const SupplyAttributes& uevent) const;
     void readSingly(FileReader& reader, SupplyReading& reading);

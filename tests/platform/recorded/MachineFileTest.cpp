@@ -208,4 +208,14 @@ TEST(MachineFile, WholeFiles)
     EXPECT_FALSE(isRefused(read(xmlPropertyList(QVariantMap()))));
 }
 
+TEST(MachineFile, NoNameIsThisComputer)
+{
+    const NamedMachine thisComputer = machineNamed({});
+    EXPECT_FALSE(thisComputer.machine.has_value());
+    EXPECT_EQ(thisComputer.refusal, QString());
+    const NamedMachine refused = machineNamed(QStringLiteral("/nonexistent/machine"));
+    EXPECT_FALSE(refused.machine.has_value());
+    EXPECT_TRUE(refused.refusal.startsWith(QStringLiteral("/nonexistent/machine: ")));
+}
+
 } // namespace
