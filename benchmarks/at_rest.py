@@ -82,7 +82,7 @@ def milliseconds_until_shown(desktop, bus, program, env):
 
 
 def measure_starts(desktop, bus, programs, pairs):
-    """Start by start in turns, so that whatever else the machine does meets both alike."""
+    """Alternating starts, so that whatever else the machine does affects both alike."""
     times = {name: [] for name in programs}
     for number in range(pairs + 1):
         for name, (program, env) in programs.items():

@@ -22,7 +22,7 @@ QString wattsText(double watts, FactPlace place = FactPlace::View);     ///< "12
 /// A number of things, e.g. "1,234". Drivers that do not count report 0 or less.
 QString countText(qint64 count, FactPlace place);
 
-/// In which unit capacities are told.
+/// In which unit capacities are shown.
 struct CapacityWords
 {
     FactPlace place = FactPlace::View;

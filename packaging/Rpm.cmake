@@ -1,5 +1,5 @@
-# The RPM, made by `cpack -G RPM`; ./package --rpm does so beside the Debian package. What it needs of libraries rpmbuild
-# finds itself, by the names that are in them (libQt6Core.so.6), which are the same in every distribution.
+# The RPM, made by `cpack -G RPM`; ./package --rpm does so beside the Debian package. The libraries that it needs are
+# found by rpmbuild itself, by the names that are in them (libQt6Core.so.6), which are the same in every distribution.
 
 string(TIMESTAMP QUINDLE_RPM_CHANGELOG_DATE "%a %b %d %Y" UTC)
 configure_file(rpm/changelog.in "${documents}/rpm-changelog" @ONLY)
@@ -16,7 +16,7 @@ string(REPLACE "\n.\n" "\n\n" CPACK_RPM_PACKAGE_DESCRIPTION "${CPACK_PACKAGE_DES
 set(CPACK_RPM_COMPRESSION_TYPE xz)
 set(CPACK_RPM_CHANGELOG_FILE "${documents}/rpm-changelog")
 set(CPACK_RPM_PACKAGE_REQUIRES hicolor-icon-theme) # whose folders the icons are in
-# Folders that are everybody's.
+# Folders that other packages share.
 set(CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION
     /usr /usr/bin /usr/lib /usr/share /usr/share/applications /usr/share/doc /usr/share/metainfo
     /usr/share/man /usr/share/man/man1
@@ -27,8 +27,8 @@ set(CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION
 foreach(language ${QUINDLE_LANGUAGES})
     list(APPEND CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION /usr/share/man/${language} /usr/share/man/${language}/man1)
 endforeach()
-# The same bytes every time, as the Debian package: dates are SOURCE_DATE_EPOCH's, no machine is named. The plug-in is nobody
-# else's. The text library is opened by name when it is needed. CPack has no variables for the last two.
+# The same bytes every time, as the Debian package: dates are SOURCE_DATE_EPOCH's, no machine is named. Nobody else uses the
+# plug-in. The text library is opened by name when it is needed. CPack has no variables for the last two.
 set(CPACK_RPM_SPEC_MORE_DEFINE "%define use_source_date_epoch_as_buildtime 1
 %define clamp_mtime_to_source_date_epoch 1
 %define _buildhost localhost

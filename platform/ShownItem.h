@@ -5,7 +5,7 @@
 
 namespace quindle {
 
-/// What the panel shows of the status item, for a window that tells it.
+/// What the panel shows of the status item, for a window that describes it.
 struct ShownItem
 {
     /// The numbers are said between processes, so they never change.

@@ -30,7 +30,7 @@ public:
     /// Shows these texts alone; a click on the second one is reported as this.
     void setTexts(const QString& caption, const QString& text, FactClick click = FactClick::Nothing);
 
-    /// What is told of the row, and of the way to click it.
+    /// What tool tip and assistive technologies say of the row, and of the way to click it.
     void setExplanation(const QString& text);
 
     QString caption() const;

@@ -73,7 +73,7 @@ public:
     Punctuality watchValues() const override { return m_own.watchValues(); }
     std::optional<ShownItem> shownItem() const override { return m_shownItem; }
 
-    /// What the helper has told.
+    /// What the helper has sent.
     void setShownItem(const ShownItem& shown) { m_shownItem = shown; }
 
 private:

@@ -22,7 +22,7 @@ class SegmentedControl;
 class TimeSeriesChart;
 
 /// How the battery wears over its whole life, with one plain sentence about it, and what its charge and power
-/// did over a span that one chooses. It reads no clock and no file: whoever shows it tells it what there is.
+/// did over a span that one chooses. It reads no clock and no file: whoever shows it gives it both.
 class HistoryPage : public ScrollPage
 {
     Q_OBJECT

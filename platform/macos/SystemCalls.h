@@ -85,7 +85,7 @@ public:
     /// thread.
     virtual void askLeave(LeaveAnswered answered) = 0;
 
-    /// Shows it in place of the one before, and calls `answered` later on the main thread.
+    /// Shows it instead of the one before, and calls `answered` later on the main thread.
     virtual void show(const Notification& notification, Answered answered) = 0;
 
     /// Takes back what is shown or is to be.

@@ -23,7 +23,7 @@ NOBODY = 65534
 
 
 def wait_for(condition, seconds=10.0, pause=0.05):
-    """The first true value of condition() within so many seconds, else its last value."""
+    """The first true value of condition() within that many seconds, else its last value."""
     end = time.monotonic() + seconds
     while True:
         value = condition()

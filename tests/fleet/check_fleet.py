@@ -87,7 +87,7 @@ def start_exporter(processes, folder):
 
 
 def serve_as_openmetrics(text):
-    """The text itself by the name of the stricter format, which Prometheus then reads it by."""
+    """The same text under the name of the stricter format, so that Prometheus reads it as such."""
 
     class Handler(http.server.BaseHTTPRequestHandler):
         def do_GET(self):
@@ -105,7 +105,7 @@ def serve_as_openmetrics(text):
 
 
 def start_prometheus(processes, root, ports, openmetrics_port):
-    """With the package's configuration and rules, only hastier: a second in place of each minute, and nothing is waited out."""
+    """With the package's configuration and rules, only faster: a second instead of each minute, and no waiting."""
     configuration = (FILES / "prometheus.yml").read_text().replace("_interval: 1m", "_interval: 1s")
     check(configuration.count(": 1s") == 2, "prometheus.yml has other intervals than this expects")
     configuration += f"  - job_name: openmetrics\n    static_configs: [{{targets: ['127.0.0.1:{openmetrics_port}']}}]\n"

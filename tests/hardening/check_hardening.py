@@ -1,5 +1,5 @@
-"""check_hardening.py [--not-optimised] [--start-files-unfit] FILE...: whether programs and modules were built with what keeps mistakes with
-memory from serving an attacker. Prints a line for each that is missing; exit status 1 when one is."""
+"""check_hardening.py [--not-optimised] [--start-files-unfit] FILE...: whether programs and modules were built with the usual protections against
+errors with memory. Prints a line for each that is missing; exit status 1 when one is."""
 
 import re
 import subprocess

@@ -1,4 +1,4 @@
-"""check_hardening_test.py COMPILER: builds small programs that lack one protection each and wants it to be missed."""
+"""check_hardening_test.py COMPILER: builds small programs that lack one protection each, which must be reported."""
 
 import os
 import subprocess

@@ -189,7 +189,7 @@ ADAPTERS = [
     Case("integer", adapter({"Watts": 60}), launch(("AdapterWatt", "60 Watts"))),
     Case("boolean", adapter({"Watts": True}), launch(("AdapterWatt", "1 Watts"))),
     Case("text", adapter({"Watts": "60"}), launch(("AdapterWatt", "60 Watts"))),
-    Case("0 is told", adapter({"Watts": 0}), launch(("AdapterWatt", "0 Watts"))),
+    Case("0 is given", adapter({"Watts": 0}), launch(("AdapterWatt", "0 Watts"))),
     Case("no watts", adapter({"Name": "Brick"}), launch(("AdapterWatt", None))),
     Case("pulled out", machine(battery=pack(), AdapterDetails={"Watts": 60}, steps=[{"Remove": ["AdapterDetails"]}]),
          [(0, "battery/AdapterWatt", "60 Watts"), (1, "battery/AdapterWatt", None)]),
@@ -244,7 +244,7 @@ MODES = [
 ]
 
 IDENTITY = [
-    Case("nothing told", pack_machine(BatterySerialNumber=None),
+    Case("nothing known", pack_machine(BatterySerialNumber=None),
          launch(("SerialNumber", ""), ("DeviceName", None), ("Manufacturer", None), ("ManufacturerRaw", None))),
     Case("manufacturer's code is written out", pack_machine(Manufacturer="SMP", DeviceName="bq20z451"),
          launch(("Manufacturer", "Simplo"), ("ManufacturerRaw", "SMP"), ("DeviceName", "bq20z451"))),

@@ -62,7 +62,7 @@ class Follow(unittest.TestCase):
         return self.start("--machine", self.machine_file(keys), *arguments)
 
     def lines(self, process, count, seconds=20):
-        """The next so many lines, without their ends."""
+        """That many further lines, without their ends."""
         stream, end, data = process.stdout.fileno(), time.monotonic() + seconds, b""
         while data.count(b"\n") < count:
             left = end - time.monotonic()

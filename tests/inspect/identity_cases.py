@@ -111,7 +111,7 @@ DETAIL_ROWS = [
     row("array", [1, 2], "(\n    1,\n    2\n)"),
     row("booleans inside an array", [True, False], "(\n    1,\n    0\n)"),
     row("dictionary", {"a": 1}, "{\n    a = 1;\n}"),
-    Case("health stays when nothing tells it anew", machine(
+    Case("health stays when nothing new is known", machine(
         battery={}, PowerSources=[{"BatteryHealth": "Good"}],
         steps=[{"PowerSources": []}, {"PowerSources": [{"Name": "UPS"}, {"BatteryHealth": "Fair"}]}]),
          battery(BatteryHealth="Good") + battery(1, raw=[], BatteryHealth="Good") + battery(2, BatteryHealth="Good")),

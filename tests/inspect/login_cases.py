@@ -19,7 +19,7 @@ FORMS = [
 ]
 
 CASES = FORMS + [
-    case("no items told", None, False),
+    case("no items given", None, False),
     case("no items", [], False),
     case("others only", ["file:///Applications/Other.app/", f"file://{MAIN}/"], False),
     case("among others", ["file:///a", f"file://{HELPER_PATH}/", "file:///b"], True),

@@ -23,7 +23,7 @@ class Case:
 
     machine: the machine file, as values (see machine()) or as bytes.
     expected: (line, path, value) with the line counted from 0 and the path's keys parted by slashes, where a
-        function in place of the value is asked whether it is right;
+        function instead of the value is asked whether it is right;
         or ABORT; or refused(KEY), where KEY is "" for the file as a whole.
     """
 

@@ -11,9 +11,9 @@ from pathlib import Path
 SOURCE = Path(__file__).resolve().parents[2]
 FEWEST_TOO_MANY = 10
 
-# The helper has its windows in its own process on a Mac, so nothing is said to another one.
+# The helper has its windows in its own process on a Mac, so no message goes to another one.
 ONE_PROCESS = {"MessageLink", "LinkedProgram", "ProgramStarter"}
-# No service of a Mac tells what the battery did before this program was there.
+# No service of a Mac knows what the battery did before this program was there.
 NO_SUCH_SERVICE = {"PowerHistory"}
 
 
@@ -39,7 +39,7 @@ def services(text):
 
 
 def bases(text):
-    """Whom the classes of a file stand for."""
+    """The interfaces that the classes of a file implement."""
     for listed in re.findall(r"^\s*(?:class|struct) \w+(?: final)?\s*:([^{;]*)\{", text, re.M):
         yield from re.findall(r"public (\w+)", listed)
 

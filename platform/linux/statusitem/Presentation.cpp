@@ -32,7 +32,7 @@ Picture squarePicture(const ItemContents& contents, bool showsNumber)
     if (!hasNumber)
         return iconPicture(lastResortImage());
     Picture number{Picture::Kind::Text, {}, text, 0.0, 0};
-    // What the charging icons tell that it stands for.
+    // The charging icons, which the number replaces, show it too.
     number.hasBolt = contents.hasPower;
     return number;
 }
@@ -106,7 +106,7 @@ ShownItem shownItem(const Presentation& presentation, HostShape shape)
         return {.form = ShownItem::Form::Number, .text = picture.text};
     if (picture.kind == Picture::Kind::Wide)
         return {.form = ShownItem::Form::Text, .text = picture.text};
-    // Other hosts are told the label, too, and show none.
+    // Other hosts get the label, too, and show none.
     if (shape == HostShape::Label && !presentation.label.trimmed().isEmpty())
         return {.form = ShownItem::Form::Text, .text = presentation.label.trimmed()};
     return {.form = ShownItem::Form::Icon};

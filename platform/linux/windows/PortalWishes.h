@@ -10,7 +10,7 @@
 
 namespace quindle {
 
-/// Settings of the desktop as its portal tells them: namespace, key, value.
+/// Settings of the desktop as its portal gives them: namespace, key, value.
 using PortalSettings = QMap<QString, QVariantMap>;
 
 /// The namespaces that say how windows should look.
