@@ -96,8 +96,8 @@ std::vector<qint64> clockMoments(int step, qint64 from, qint64 to)
     return moments;
 }
 
-/// Every so many days, counted through all months and years so that they stay evenly apart; weeks begin on
-/// the locale's first day.
+/// A tick every few days as the step says, counted through all months and years so that they stay evenly
+/// apart; weeks begin on the locale's first day.
 std::vector<qint64> dayMoments(const CalendarStep& step, qint64 from, qint64 to, const QLocale& locale)
 {
     const qint64 phase =

@@ -51,7 +51,7 @@ struct Run
     qsizetype length = 0;
 };
 
-/// The longest part of `serial` that stands at the beginning of `text`.
+/// The longest part of `serial` that `text` begins with.
 template <typename Text>
 Run longestRun(const Text& text, const Text& serial)
 {

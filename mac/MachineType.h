@@ -10,7 +10,7 @@ namespace quindle {
 /// The machine type of a model identifier, e.g. "MacBook Air"; empty for an unknown one.
 QString machineType(const QString& model);
 
-/// A row of a table that names a longer text by what stands in it.
+/// A row of a table that names a longer text by a part of it.
 struct FragmentName
 {
     QStringView fragment;

@@ -29,7 +29,7 @@ public:
         bool visible = true;
         bool enabled = true;          ///< false: shown in grey, and cannot be chosen
         std::function<void()> chosen; ///< what choosing an action row does; nothing where it is empty
-        int parent = 0;               ///< the id of the submenu it stands in, which comes before; 0 for none
+        int parent = 0;               ///< the id of the submenu that it is in, which comes before; 0 for none
     };
 
     /// Adds a row at the end and returns its id: 1 for the first, then counting up.

@@ -163,7 +163,7 @@ BinaryListWriter::Node BinaryListWriter::begin()
     return static_cast<Node>(m_offsets.size() - 1);
 }
 
-/// Room for so many bytes at the end. Numbers are written into it in one go: appended one by one they took
+/// Room for that many bytes at the end. Numbers are written into it in one go: appended one by one they took
 /// half of an archive's time.
 char* BinaryListWriter::grow(qsizetype size)
 {

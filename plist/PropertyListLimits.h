@@ -17,7 +17,7 @@ struct Extent
     int height = 0;     ///< of arrays and dictionaries in each other
 };
 
-/// What a value of so many characters or bytes weighs beyond 1.
+/// What a value of that many characters or bytes weighs beyond 1.
 constexpr quint64 weightOfContent(quint64 count)
 {
     return count / 16;

@@ -139,19 +139,9 @@ std::vector<StoredSample> SampleStore::storedBetween(qint64 from, qint64 to, Sto
 
 std::optional<qint64> SampleStore::firstMoment()
 {
-    return moment("SELECT min(moment) FROM samples");
-}
-
-std::optional<qint64> SampleStore::lastMoment()
-{
-    return moment("SELECT max(moment) FROM samples");
-}
-
-std::optional<qint64> SampleStore::moment(const char* sql)
-{
     std::optional<qint64> found;
     m_file.look([&](Database& database) {
-        found = database.integer(sql);
+        found = database.integer("SELECT min(moment) FROM samples");
         return true;
     });
     return found;

@@ -30,9 +30,8 @@ public:
     std::vector<Sample> samplesBetween(qint64 from, qint64 to, StoreOutcome* outcome = nullptr);
     std::vector<StoredSample> storedBetween(qint64 from, qint64 to, StoreOutcome* outcome = nullptr);
 
-    /// The moment of the first and of the last sample; nothing when there is none.
+    /// The moment of the first sample; nothing when there is none.
     std::optional<qint64> firstMoment();
-    std::optional<qint64> lastMoment();
 
     /// Looks for damage, and makes old samples coarser (see Thinning.h).
     StoreOutcome thin(qint64 now);
@@ -47,8 +46,6 @@ public:
     StoreOutcome setNote(const QByteArray& name, const QByteArray& value);
 
 private:
-    std::optional<qint64> moment(const char* sql);
-
     SampleFile m_file;
 };
 

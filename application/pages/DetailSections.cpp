@@ -12,7 +12,7 @@ namespace quindle {
 
 namespace {
 
-constexpr int deepest = 16; // dictionaries within each other; what lies deeper stands in one row
+constexpr int deepest = 16; // dictionaries within each other; what lies deeper is one row
 
 void addRows(std::vector<DetailRow>& rows, const QString& prefix, const QVariantMap& values, int depth)
 {

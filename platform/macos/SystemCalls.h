@@ -157,7 +157,7 @@ public:
 struct MenuEntry
 {
     int id = 0;     ///< that of StatusMenu
-    int parent = 0; ///< the id of the row whose submenu it stands in; 0 for none
+    int parent = 0; ///< the id of the row whose submenu it is in; 0 for none
     QString title{};
     bool isSeparator = false;
     bool isEnabled = false;

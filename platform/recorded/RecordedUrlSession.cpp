@@ -6,7 +6,7 @@ namespace quindle {
 
 namespace {
 
-/// The code as it stands in the address, which holds it without escapes whatever its characters are.
+/// The code as it is in the address, which holds it without escapes whatever its characters are.
 QString configurationCodeIn(const QString& url)
 {
     const QString before = QStringLiteral("/sp/product?cc=");

@@ -124,6 +124,6 @@ class PreferencesCase(HelperCase):
         self.desktop.click(x + min(width // 2, 12), y + height // 2)
 
     def type(self, text):
-        """Replaces what stands in the field that has the keyboard."""
+        """Replaces the text of the field that has the keyboard."""
         self.desktop.key("ctrl+a")
         self.desktop.call("xdotool", "type", "--delay", "20", text)

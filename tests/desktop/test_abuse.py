@@ -13,7 +13,7 @@ from fault_case import FaultCase, anonymous_memory, wait_for
 # The sanitizer keeps 256 MB of what was freed.
 MOST_GROWTH = 300_000 if os.environ.get("QUINDLE_KEEPS_FREED_MEMORY") == "1" else 16_000  # kB
 
-# Asks for the item's menu and properties for so many seconds and reads no answer. Prints how often.
+# Asks for the item's menu and properties for that many seconds and reads no answer. Prints how often.
 NEVER_READS = """
 import sys, time, dbus.bus, dbus.lowlevel
 address, item, seconds = sys.argv[1], sys.argv[2], float(sys.argv[3])
@@ -33,7 +33,7 @@ while time.monotonic() < end:
 print(calls)
 """
 
-# Becomes the watcher and leaves again for so many seconds, then stays. Prints the flaps and the registrations meanwhile,
+# Becomes the watcher and leaves again for that many seconds, then stays. Prints the flaps and the registrations meanwhile,
 # and each item that registers afterwards.
 FLAPS = """
 import sys, time, dbus.bus, dbus.mainloop.glib, dbus.service

@@ -34,7 +34,7 @@ class WindowsCase(HelperCase):
         self.log_start = self.desktop.log_path.stat().st_size
 
     def replace(self, script):
-        """The program of the windows is that script from now on; $real names the true one."""
+        """The program of the windows is that script from now on; $real names the real one."""
         new = self.program.with_suffix(".new")
         new.write_text(f"#!/bin/bash\nreal='{self.real}'\n{script}\n")
         new.chmod(0o755)

@@ -37,7 +37,7 @@ class Coverage(unittest.TestCase):
         self.build.mkdir()
 
     def run_program(self, missed):
-        """Builds and runs a program with one file for each folder, with so many lines that do not run."""
+        """Builds and runs a program with one file for each folder, with that many lines that do not run."""
         for folder in MODEL:
             (self.source / folder).mkdir()
             count = missed.get(folder, 0)

@@ -269,7 +269,7 @@ class FakeLoginItems : public LoginItems
 {
 public:
     std::optional<QStringList> urls{std::in_place};
-    int snapshotsLeft = 1000; ///< the list is gone after so many
+    int snapshotsLeft = 1000; ///< the list is gone after that many
     std::map<QString, bool> enabled;
     std::vector<std::pair<QString, bool>> switched; ///< every call of setEnabled, in order
 

@@ -19,7 +19,7 @@ struct InventedTime
 /// A record for each day on which the laptop was used, sorted, each with a raw registry entry.
 QVariantList inventedSnapshots(const InventedTime& time);
 
-/// Charge and power, a sample a minute while it is awake, from one moment on for so many days. It sleeps at
+/// Charge and power, a sample a minute while it is awake, from one moment on for that many days. It sleeps at
 /// noon and at night.
 std::vector<Sample> inventedSamples(qint64 from, int days);
 

@@ -86,7 +86,7 @@ TEST_F(BatteryPopupTest, IsAsHighAsItsRowsAtOnce)
     const int withHealth = open()->height();
     QApplication::processEvents();
     EXPECT_EQ(window()->height(), withHealth);
-    setBattery("DesignCapacity", {}); // takes the bar away, which stands in a layout of its own
+    setBattery("DesignCapacity", {}); // takes the bar away, which is in a layout of its own
     battery().updateData();
     QApplication::processEvents();
     const int withoutHealth = window()->height();

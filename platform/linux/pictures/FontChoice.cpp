@@ -13,7 +13,7 @@ namespace {
 /// About the size of titles. Settings may differ by size, but not within a panel's sizes.
 constexpr double usualPixelSize = 16.0;
 
-/// No family has so long a name, and settings can hold anything.
+/// No family's name is that long, and settings can hold anything.
 constexpr qsizetype longestFamily = 200;
 
 struct PatternDestroy

@@ -10,7 +10,7 @@
 
 namespace quindle {
 
-/// Where a number stands in a square with a side of 22, and the bolt below it; empty without one.
+/// Where a number is in a square with a side of 22, and the bolt below it; empty without one.
 struct NumberPlace
 {
     QRectF number; ///< filled by the figures' ink, which is made narrower where it is too wide

@@ -134,7 +134,7 @@ std::optional<StartAnswer> InstanceFiles::startAt(const QString& stem)
 bool InstanceFiles::askFirst() const
 {
     const int error = withAddress(::connect, newSocket(), m_socketPath);
-    return error == 0 || error == EAGAIN; // so many connect that they queue
+    return error == 0 || error == EAGAIN; // so many processes connect that they queue
 }
 
 void InstanceFiles::holdIfFree()

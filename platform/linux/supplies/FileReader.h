@@ -29,7 +29,7 @@ public:
     /// The names in a folder; none when it cannot be listed.
     std::set<std::string> namesIn(const std::string& path);
 
-    /// What the last read gave, which was so long. Valid until the next one.
+    /// What the last read gave, of the length that it returned. Valid until the next one.
     std::string_view text(ssize_t size) const { return {m_buffer.data(), static_cast<std::size_t>(size)}; }
 
     void close(FileDescriptor& kept);

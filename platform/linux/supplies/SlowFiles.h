@@ -66,7 +66,7 @@ public:
     /// being slow, the first few times.
     std::optional<ssize_t> insteadOf(const std::string& path, char* buffer, std::size_t size);
 
-    /// Whether so many reads are hanging that no further one may.
+    /// Whether too many reads hang for another one to be tried.
     bool areTooMany() const;
 
 private:

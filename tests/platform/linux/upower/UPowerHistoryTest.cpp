@@ -15,7 +15,7 @@ using namespace quindle;
 
 namespace {
 
-/// A system bus with an invented UPower on it, a process of its own as the true one is.
+/// A system bus with an invented UPower on it, a process of its own as the real one is.
 class UPowerHistoryTest : public testing::Test
 {
 protected:
