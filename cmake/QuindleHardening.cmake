@@ -11,6 +11,8 @@ endif()
 
 # What only some processors or compilers have: -fcf-protection is for x86, -mbranch-protection for ARM.
 add_compile_options(-fstack-protector-strong)
+# clang takes one that its target has no use for with a warning, which would fail a build with -Werror.
+set(CMAKE_REQUIRED_FLAGS -Werror)
 foreach(option -fstack-clash-protection -fcf-protection=full -mbranch-protection=standard)
     string(MAKE_C_IDENTIFIER "QUINDLE_HAS${option}" has)
     check_cxx_compiler_flag(${option} ${has})
@@ -18,6 +20,7 @@ foreach(option -fstack-clash-protection -fcf-protection=full -mbranch-protection
         add_compile_options(${option})
     endif()
 endforeach()
+unset(CMAKE_REQUIRED_FLAGS)
 
 # The C library's checks of sizes need the optimiser. Level 3 also follows sizes known only when the program runs.
 set(level 2)
