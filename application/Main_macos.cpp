@@ -21,6 +21,7 @@
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
+#include "widgets/CloseKey.h"
 #include "widgets/WindowLanguage.h"
 
 using namespace quindle;
@@ -55,6 +56,7 @@ int showWindow(int argc, char** argv, const std::optional<Machine>& machine)
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quindle"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quindle"));
+    closeDialogsByKey();
     const WindowLanguage language(
         translationsOf(helperBundlePath(QCoreApplication::applicationDirPath() + QStringLiteral("/../.."))));
     const auto services = servicesOf(machine);

@@ -20,6 +20,7 @@
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
 #include "widgets/AccessiblePopups.h"
+#include "widgets/CloseKey.h"
 #include "widgets/WindowLanguage.h"
 #include "windows/HelperComputer_macos.h"
 #include "windows/HelperControllers.h"
@@ -75,6 +76,7 @@ int start(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("quindle-helper"));
     // The item stays when the last window closes.
     QApplication::setQuitOnLastWindowClosed(false);
+    closeDialogsByKey();
     const WindowLanguage language(
         translationsOf(QCoreApplication::applicationDirPath() + QStringLiteral("/../..")));
     const auto computer = machine ? machineOnMac(*machine) : thisMac();

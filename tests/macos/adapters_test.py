@@ -15,6 +15,10 @@ FEWEST_TOO_MANY = 10
 ONE_PROCESS = {"MessageLink", "LinkedProgram", "ProgramStarter"}
 # No service of a Mac knows what the battery did before this program was there.
 NO_SUCH_SERVICE = {"PowerHistory"}
+# Linux's entry point of each program with windows, and a Mac's.
+ENTRY_POINTS = {"windows/main.cpp": "windows/HelperMain_macos.cpp", "application/main.cpp": "application/Main_macos.cpp"}
+# The toolkit looks as a Mac's user wishes by itself.
+OF_OTHER_DESKTOPS = {"DesktopLook"}
 
 
 def function_lengths(text):
@@ -44,7 +48,17 @@ def bases(text):
         yield from re.findall(r"public (\w+)", listed)
 
 
+def custom_of_windows(path):
+    """What an entry point uses of widgets/."""
+    return set(re.findall(r'#include "widgets/(\w+)\.h"', (SOURCE / path).read_text(encoding="utf-8"))) - OF_OTHER_DESKTOPS
+
+
 class Adapters(unittest.TestCase):
+    def test_windows_begin_as_on_linux(self):
+        for linux, mac in ENTRY_POINTS.items():
+            self.assertTrue(custom_of_windows(linux))
+            self.assertEqual(custom_of_windows(mac), custom_of_windows(linux), mac)
+
     def test_functions_have_under_ten_lines(self):
         counted = 0
         for path in sorted((SOURCE / "platform/macos").glob("*.mm")):
