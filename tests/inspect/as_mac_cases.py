@@ -82,6 +82,36 @@ CASES = [Case(name, machine(battery=entry_of(name)), expected(figures), argument
 MISSING = {name.removesuffix(".plist") for name in os.listdir(FOLDER) if name.endswith(".plist")} ^ set(DUMPS)
 assert not MISSING, f"dumps without expectations, or the other way round: {MISSING}"
 
+# Made by hand, of kinds that the dumps lack: (entry, what a person reads off it).
+MADE_BY_HAND = {
+    "Intel of 2019, its cells' figures in a dictionary beside": ({
+        "BatteryInstalled": True, "ExternalConnected": False, "IsCharging": False, "FullyCharged": False,
+        "CurrentCapacity": 3300, "MaxCapacity": 5500, "AppleRawCurrentCapacity": 3290, "AppleRawMaxCapacity": 5480,
+        "DesignCapacity": 6000, "CycleCount": 210, "Voltage": 11500, "Amperage": -1000, "Temperature": 3021, "AvgTimeToEmpty": 198,
+        "BatteryData": {"DesignCapacity": 6100, "FullChargeCapacity": 5490, "CycleCount": 211}},
+        row("60.0", 91.7, 11.5, 210, "29.0 °C", DISCHARGING, "3:18")),
+    "Intel with a current of 32 bits without its sign": ({
+        "CurrentCapacity": 1200, "MaxCapacity": 4800, "DesignCapacity": 5000, "CycleCount": 700, "Voltage": 7500,
+        "Amperage": 4294965296, "Temperature": 2981, "AvgTimeToEmpty": 65535},
+        row("25.0", 96.0, 15.0, 700, "25.0 °C", DISCHARGING, "")),
+    "Apple silicon whose cycles and temperature are elsewhere": ({
+        "BatteryInstalled": True, "ExternalConnected": True, "IsCharging": True, "CurrentCapacity": 64, "MaxCapacity": 100,
+        "NominalChargeCapacity": 5000, "VirtualTemperature": 3055, "Voltage": 12000, "Amperage": 1500, "AvgTimeToFull": 65535,
+        "BatteryData": {"DesignCapacity": 6250, "CycleCount": 12, "Temperature": 3055}},
+        row("64.0", 80.0, 18.0, 0, "0.0 °C", CHARGING, "")),
+    "Apple silicon at 1 percent with every capacity": ({
+        "BatteryInstalled": True, "CurrentCapacity": 1, "MaxCapacity": 100, "AppleRawCurrentCapacity": 190,
+        "AppleRawMaxCapacity": 4600, "NominalChargeCapacity": 4700, "DesignCapacity": 5000, "CycleCount": 1, "Voltage": 10800,
+        "Amperage": 18446744073709551516, "Temperature": 3000, "AvgTimeToEmpty": 3, "BatteryData": {"FullChargeCapacity": 4650}},
+        row("1.0", 92.0, 1.08, 1, "26.9 °C", DISCHARGING, "0:03")),
+    "a Mac mini that says with a number that it has none": ({
+        "BatteryInstalled": 0, "ExternalConnected": True, "CurrentCapacity": 0, "MaxCapacity": 0, "CycleCount": 0, "Voltage": 0},
+        NO_BATTERY),
+    "a Mac mini that says only zeros": ({"CurrentCapacity": 0, "MaxCapacity": 0, "DesignCapacity": 0, "Voltage": 0}, NO_BATTERY),
+}
+CASES += [Case(f"made by hand: {name}", machine(battery=battery), expected(figures), arguments=("--as-mac",))
+          for name, (battery, figures) in MADE_BY_HAND.items()]
+
 LATER = {"BatteryInstalled": True, "CurrentCapacity": 50, "MaxCapacity": 100, "AppleRawMaxCapacity": 4000}
 CASES.append(Case("a later state", machine(battery=LATER, steps=[{"Registry": {"AppleSmartBattery": {
     "CurrentCapacity": 25, "AppleRawMaxCapacity": 2000}}}]), [
