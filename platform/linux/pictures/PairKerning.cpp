@@ -19,12 +19,19 @@ constexpr std::uint32_t tagOf(const char (&letters)[5])
 
 // Fonts have a handful of each; a broken one may claim any number, and each subtable is searched for every
 // pair of a title.
+constexpr std::uint32_t mostRecords = 1024; ///< scripts, or features of a language
 constexpr std::uint32_t mostLookups = 64;
-constexpr std::size_t mostSubtables = 128; ///< of all lookups
+constexpr std::uint32_t mostSubtablesOfOne = 256; ///< of one lookup
+constexpr std::size_t mostSubtables = 128;        ///< of all lookups
 
 constexpr std::uint16_t pairAdjustment = 2;
 constexpr std::uint16_t extension = 9;
 constexpr std::uint16_t xAdvance = 4; ///< the bit of a value's format; those before it are two placements
+
+std::uint32_t atMost(std::uint32_t most, std::uint16_t claimed)
+{
+    return std::min<std::uint32_t>(most, claimed);
+}
 
 std::uint32_t bytesOf(std::uint16_t format)
 {
@@ -60,14 +67,15 @@ PairKerning::PairKerning(TableReader table)
     if (m_table(0) != 1 || language == 0)
         return;
     // A language names its features by their places in the list, which has a tag and an offset for each.
-    for (std::uint32_t i = 0; i < m_table(language + 4); ++i) {
+    const std::uint32_t featureCount = atMost(mostRecords, m_table(language + 4));
+    for (std::uint32_t i = 0; i < featureCount; ++i) {
         const std::uint32_t record = features + 2 + 6 * m_table(language + 6 + 2 * i);
         const std::uint32_t tag = std::uint32_t{m_table(record)} << 16U | m_table(record + 2);
         // Other features are for marks, or for the user to choose.
         if (tag != tagOf("kern"))
             continue;
         const std::uint32_t feature = features + m_table(record + 4);
-        const std::uint32_t count = std::min<std::uint32_t>(m_table(feature + 2), mostLookups);
+        const std::uint32_t count = atMost(mostLookups, m_table(feature + 2));
         for (std::uint32_t n = 0; n < count; ++n)
             addLookup(lookups + m_table(lookups + 2 + 2 * m_table(feature + 4 + 2 * n)));
         return;
@@ -76,7 +84,7 @@ PairKerning::PairKerning(TableReader table)
 
 std::uint32_t PairKerning::tagged(std::uint32_t list, std::uint32_t tag) const
 {
-    const std::uint32_t count = m_table(list);
+    const std::uint32_t count = atMost(mostRecords, m_table(list));
     for (std::uint32_t i = 0; i < count; ++i) {
         const std::uint32_t record = list + 2 + 6 * i;
         if ((std::uint32_t{m_table(record)} << 16U | m_table(record + 2)) == tag)
@@ -100,7 +108,7 @@ std::uint32_t PairKerning::languageOf(std::uint32_t scripts) const
 void PairKerning::addLookup(std::uint32_t lookup)
 {
     const std::size_t number = m_subtables.empty() ? 0 : m_subtables.back().lookup + 1;
-    const std::uint32_t count = m_table(lookup + 4);
+    const std::uint32_t count = atMost(mostSubtablesOfOne, m_table(lookup + 4));
     for (std::uint32_t i = 0; i < count && m_subtables.size() < mostSubtables; ++i) {
         std::uint32_t subtable = lookup + m_table(lookup + 6 + 2 * i);
         std::uint16_t type = m_table(lookup);

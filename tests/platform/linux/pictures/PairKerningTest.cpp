@@ -60,13 +60,18 @@ Words longCoverage()
     return coverage;
 }
 
-TEST(PairKerning, ATableOfAllThatItCanHoldIsNotSearchedWithoutEnd)
+/// A table up to the subtables of its only lookup, which the feature names 64 times.
+Words lookedUpOften(int type, int subtables)
 {
-    // The same lookup 64 times, which has the same subtable 256 times.
     Words table = Words{1, 0, 10, 30, 172} + Words{1, tag("la"), tag("tn"), 8, 4, 0, 0, 0xffff, 1, 0} +
                   Words{1, tag("ke"), tag("rn"), 8, 0, 64};
     table.insert(table.end(), 65, 0);
-    table = table + Words{1, 4} + Words{2, 0, 256};
+    return table + Words{1, 4} + Words{type, 0, subtables};
+}
+
+TEST(PairKerning, ATableOfAllThatItCanHoldIsNotSearchedWithoutEnd)
+{
+    Words table = lookedUpOften(2, 256);
     table.insert(table.end(), 256, 518);
     table = table + Words{1, 14, 5, 0, 1, 12, 14} + longCoverage();
     long reads = 0;
@@ -80,6 +85,23 @@ TEST(PairKerning, ATableOfAllThatItCanHoldIsNotSearchedWithoutEnd)
     EXPECT_EQ(kerning.between(1, 2), 0);
     EXPECT_GT(reads, 1000); // it was searched
     EXPECT_LT(reads, 5000);
+}
+
+TEST(PairKerning, ListsThatClaimToBeLongAreReadAsFarAsAFontNeeds)
+{
+    const Words withoutPairs = lookedUpOften(4, 0xffff);
+    for (const Words& table :
+         {withoutPairs, Words{1, 0, 10, 30, 44, 0xffff},
+          Words{1, 0, 10, 30, 44} + Words{1, tag("la"), tag("tn"), 8, 4, 0, 0, 0xffff, 0xffff}}) {
+        long reads = 0;
+        const TableReader read = reader(table);
+        const PairKerning kerning([&](std::uint32_t offset) {
+            ++reads;
+            return read(offset);
+        });
+        EXPECT_GT(reads, 1000); // it was searched
+        EXPECT_LT(reads, 50000);
+    }
 }
 
 TEST(PairKerning, PairsByThemselves)
