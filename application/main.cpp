@@ -7,6 +7,7 @@
 #include <optional>
 #include <sysexits.h>
 #include <unistd.h>
+#include <utility>
 
 #include <QApplication>
 #include <QBuffer>
@@ -42,6 +43,8 @@ using namespace quindle;
 namespace {
 
 constexpr std::chrono::seconds patience(5);
+// A toolkit that was just installed reads its plugins and fonts from a cold disk.
+constexpr std::chrono::seconds patienceWithDisplay(15);
 
 int fail(const QString& line, int status)
 {
@@ -73,12 +76,15 @@ public:
         QApplication::setDesktopFileName(QStringLiteral("quindle"));
         closeDialogsByKey();
         m_start.end();
+        m_deadline.reset();
     }
 
 private:
     std::array<char, 8> m_name{"quindle"};
     std::array<char*, 2> m_arguments{m_name.data(), nullptr};
     int m_count = 1;
+    std::optional<StartDeadline> m_deadline{std::in_place, patienceWithDisplay, "the display does not answer",
+                                            "quindle", EX_UNAVAILABLE};
     ToolkitStart m_start;
     QApplication m_application{m_count, m_arguments.data()};
 };

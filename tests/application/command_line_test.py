@@ -2,6 +2,7 @@
 
 import json
 import os
+import socket
 import sqlite3
 import subprocess
 import sys
@@ -50,6 +51,17 @@ class CommandLine(unittest.TestCase):
             status, _, errors = self.answer(**env)
             self.assertEqual((status, errors),
                              (os.EX_UNAVAILABLE, f"quindle: no window can be shown on the display {named}\n"))
+
+    def test_a_display_that_does_not_answer(self):
+        Path("/tmp/.X11-unix").mkdir(mode=0o1777, exist_ok=True)
+        name = f":{1_000_000 + os.getpid()}"
+        path = f"/tmp/.X11-unix/X{name[1:]}"
+        with socket.socket(socket.AF_UNIX) as server:
+            server.bind(path)
+            self.addCleanup(os.unlink, path)
+            server.listen()
+            status, _, errors = self.answer(DISPLAY=name)
+        self.assertEqual((status, errors), (os.EX_UNAVAILABLE, "quindle: gave up: the display does not answer\n"))
 
     def test_a_refused_machine_file_is_named(self):
         path = os.path.join(self.folder, "machine.plist")
