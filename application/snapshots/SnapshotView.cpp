@@ -59,7 +59,7 @@ void SnapshotView::fitToFont()
     const int line = fontMetrics().height();
     verticalHeader()->setDefaultSectionSize(line * 8 / 5);
     // The smallest window has room for all; the last column takes what is left.
-    constexpr double lines[snapshotColumns] = {7.5, 4, 5.3, 3.7, 4};
+    constexpr double lines[snapshotColumns] = {7, 3.7, 5, 3.5, 4};
     for (int column = 0; column < snapshotColumns; ++column) {
         const QString caption = m_table->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
         const int captionWidth = fontMetrics().horizontalAdvance(caption) + line;
