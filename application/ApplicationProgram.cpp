@@ -101,9 +101,12 @@ std::vector<ApplicationPage> ApplicationProgram::pages()
             new DetailsPage(m_platform, m_delegate.myMac(), m_helperBundle, m_extras.registryAsItIs, parent));
     };
     const auto settings = [this](QWidget* parent) {
-        return new SettingsPage(
+        auto* page = new SettingsPage(
             m_general, m_platform.userDefaults.standard(), m_platform.distributedNotificationCenter,
             m_extras.powerManagers, [this] { deleteHistory(); }, parent);
+        connect(&m_samples, &SavedSamples::told, page, &SettingsPage::tellOfHistory);
+        connect(&m_snapshots, &SavedSnapshots::told, page, &SettingsPage::tellOfHistory);
+        return page;
     };
     return {{QStringLiteral(QT_TRANSLATE_NOOP("Pages", "Battery")), battery},
             {QStringLiteral(QT_TRANSLATE_NOOP("Pages", "History")), history},
@@ -142,6 +145,7 @@ void ApplicationProgram::connectSamples(HistoryPage& page)
     connect(&m_samples, &SavedSamples::found, &page, &HistoryPage::setSamples);
     connect(&m_samples, &SavedSamples::changed, &page,
             [this, &page] { page.setNow(secondsNow(m_platform)); });
+    connect(&m_samples, &SavedSamples::told, &page, &HistoryPage::tell);
     connect(&page, &HistoryPage::settingsWanted, this,
             [this] { m_window->showPage(QStringLiteral("Settings")); });
     connect(&page, &HistoryPage::shown, this, [this, &page] {

@@ -79,17 +79,21 @@ StoreOutcome takeOverFirstWeek(SampleStore& store, PowerHistory& history, qint64
 {
     const QByteArray isTakenOver = QByteArrayLiteral("first week");
     // Once: what was thinned or removed since then must not come back.
-    if (store.note(isTakenOver))
+    StoreOutcome looked;
+    if (store.note(isTakenOver, &looked))
         return {};
     const auto recorded = history.lastWeek();
     // The service has not answered; the next call asks again.
     if (!recorded)
-        return {};
+        return {.fault = {}, .notice = looked.notice, .error = 0};
     // Up to where the own samples begin, which are better.
     const auto samples = samplesFromHistory(*recorded, store.firstMoment().value_or(now));
     const StoreOutcome added = store.append(samples, SampleSource::UPower);
     // The two are not one step: after a crash between them it is done again, which adds nothing.
-    return added.isGood() ? store.setNote(isTakenOver, QByteArray::number(now)) : added;
+    StoreOutcome outcome = added.isGood() ? store.setNote(isTakenOver, QByteArray::number(now)) : added;
+    if (outcome.notice.isEmpty())
+        outcome.notice = looked.notice;
+    return outcome;
 }
 
 } // namespace quindle

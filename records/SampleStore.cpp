@@ -179,16 +179,18 @@ StoreOutcome SampleStore::removeAll()
     return removed.isGood() ? m_file.removeDamaged() : removed;
 }
 
-std::optional<QByteArray> SampleStore::note(const QByteArray& name)
+std::optional<QByteArray> SampleStore::note(const QByteArray& name, StoreOutcome* outcome)
 {
     std::optional<QByteArray> value;
-    m_file.look([&](Database& database) {
+    const StoreOutcome looked = m_file.look([&](Database& database) {
         Statement statement = database.statement("SELECT value FROM notes WHERE name = ?");
         statement.bind(1, name);
         if (statement.step())
             value = statement.text(0);
         return statement.isGood();
     });
+    if (outcome)
+        *outcome = looked;
     return value;
 }
 

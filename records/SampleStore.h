@@ -42,7 +42,8 @@ public:
     StoreOutcome removeAll();
 
     /// A text under a name, for what is to be done only now and then.
-    std::optional<QByteArray> note(const QByteArray& name);
+    /// `outcome` says why it cannot be read, and what became of a damaged file.
+    std::optional<QByteArray> note(const QByteArray& name, StoreOutcome* outcome = nullptr);
     StoreOutcome setNote(const QByteArray& name, const QByteArray& value);
 
 private:

@@ -43,6 +43,9 @@ public:
     /// Seconds since 1970. Asks for the samples of the shown range anew.
     void setNow(qint64 now);
 
+    /// Shows a line for the user beside the buttons.
+    void tell(const QString& line);
+
     HistoryRange range() const { return m_range; }
 
     /// Writes a picture, or a drawing where the name ends with ".svg"; the page says whether that was done.
@@ -85,7 +88,7 @@ private:
     void askForTable();
     bool writePicture(QIODevice& file) const;
     bool writeDrawing(QIODevice& file) const;
-    void tell(const QString& path, const QString& failure);
+    void tellWritten(const QString& path, const QString& failure);
 
     std::vector<CapacityPoint> m_capacities;
     std::vector<Sample> m_samples;

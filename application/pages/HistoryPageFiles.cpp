@@ -104,9 +104,9 @@ void HistoryPage::askForTable()
 void HistoryPage::savePicture(const QString& path)
 {
     const bool isDrawing = path.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive);
-    tell(path, written(path, [this, isDrawing](QIODevice& file) {
-             return isDrawing ? writeDrawing(file) : writePicture(file);
-         }));
+    tellWritten(path, written(path, [this, isDrawing](QIODevice& file) {
+                    return isDrawing ? writeDrawing(file) : writePicture(file);
+                }));
 }
 
 bool HistoryPage::writePicture(QIODevice& file) const
@@ -138,12 +138,19 @@ void HistoryPage::saveTable(const QString& path)
     std::copy_if(m_samples.begin(), m_samples.end(), std::back_inserter(samples),
                  [&seen](const Sample& sample) { return seen.contains(static_cast<double>(sample.moment)); });
     const QByteArray table = samplesText(samples, ExportFormat::Csv);
-    tell(path, written(path, [&table](QIODevice& file) { return file.write(table) == table.size(); }));
+    tellWritten(path, written(path, [&table](QIODevice& file) { return file.write(table) == table.size(); }));
 }
 
-void HistoryPage::tell(const QString& path, const QString& failure)
+void HistoryPage::tellWritten(const QString& path, const QString& failure)
 {
-    m_told->setText(failure.isEmpty() ? tr("Saved") : path + QStringLiteral(": ") + failure);
+    tell(failure.isEmpty() ? tr("Saved") : path + QStringLiteral(": ") + failure);
+}
+
+void HistoryPage::tell(const QString& line)
+{
+    m_told->setText(line);
+    // In a narrow window the end of it is cut.
+    m_told->setToolTip(line.toHtmlEscaped());
 }
 
 } // namespace quindle

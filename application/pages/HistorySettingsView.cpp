@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "common/Translation.h"
+#include "facts/ValueTexts.h"
 #include "platform/NotificationCenter.h"
 #include "settings/HistorySettings.h"
 #include "widgets/BoundControls.h"
@@ -42,6 +43,7 @@ HistorySettingsView::HistorySettingsView(UserDefaults& own, DistributedNotificat
     , m_deleteAll(std::move(deleteAll))
     , m_record(new BoundCheckBox(this))
     , m_days(new QComboBox(this))
+    , m_told(new QuietLabel(this))
 {
     m_record->setText(tr("Record charge, po&wer and a daily snapshot"));
     m_record->setAccessibleName(tr("Record charge, power and a daily snapshot"));
@@ -81,6 +83,10 @@ void HistorySettingsView::addRows()
     auto* deleteButton = new QPushButton(tr("&Delete History..."), this);
     connect(deleteButton, &QPushButton::clicked, this, &HistorySettingsView::askToDelete);
     grid->addWidget(deleteButton, 2, 1, Qt::AlignLeft | Qt::AlignTop);
+    m_told->setObjectName(QStringLiteral("toldOfHistory"));
+    m_told->setWordWrap(true);
+    m_told->hide();
+    grid->addWidget(m_told, 3, 1);
 }
 
 void HistorySettingsView::refresh()
@@ -100,6 +106,19 @@ void HistorySettingsView::showDays(qint64 days)
     m_days->setCurrentIndex(index);
 }
 
+void HistorySettingsView::tell(const QString& line)
+{
+    // Snapshots and samples are deleted one beside the other, and either may fail.
+    m_told->setText(joined(m_told->text(), QStringLiteral("\n"), line));
+    m_told->show();
+}
+
+void HistorySettingsView::forgetTold()
+{
+    m_told->clear();
+    m_told->hide();
+}
+
 void HistorySettingsView::announceChange()
 {
     m_center.post(QStringLiteral("SettingsChangedNotification"));
@@ -115,8 +134,10 @@ void HistorySettingsView::askToDelete()
     const auto* confirm = question->addButton(tr("&Delete"), QMessageBox::DestructiveRole);
     question->setDefaultButton(QMessageBox::Cancel);
     connect(question, &QMessageBox::buttonClicked, this, [this, confirm](const QAbstractButton* chosen) {
-        if (chosen == confirm)
-            m_deleteAll();
+        if (chosen != confirm)
+            return;
+        forgetTold();
+        m_deleteAll();
     });
     question->open();
 }

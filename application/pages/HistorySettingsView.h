@@ -11,6 +11,7 @@ namespace quindle {
 
 class BoundCheckBox;
 class DistributedNotificationCenter;
+class QuietLabel;
 class UserDefaults;
 
 /// What is recorded, how long charge and power are kept, and deleting all of it.
@@ -27,6 +28,10 @@ public:
     /// Shows the settings as they are stored.
     void refresh();
 
+    /// Adds a line to what is said of the deletion.
+    void tell(const QString& line);
+    void forgetTold();
+
 private:
     void addRows();
     void showDays(qint64 days);
@@ -38,6 +43,7 @@ private:
     std::function<void()> m_deleteAll;
     BoundCheckBox* m_record;
     QComboBox* m_days;
+    QuietLabel* m_told;
 };
 
 } // namespace quindle

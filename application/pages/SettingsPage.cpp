@@ -1,5 +1,7 @@
 #include "application/pages/SettingsPage.h"
 
+#include <algorithm>
+
 #include <QVBoxLayout>
 
 #include "application/pages/HistorySettingsView.h"
@@ -8,6 +10,12 @@
 #include "preferences/panes/PaneView.h"
 
 namespace quindle {
+
+namespace {
+
+constexpr int widestSettings = 46; // lines
+
+} // namespace
 
 SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& own,
                            DistributedNotificationCenter& center, PowerManagers* powerManagers,
@@ -47,6 +55,27 @@ void SettingsPage::showEvent(QShowEvent* event)
     m_warnings->refresh();
     m_history->refresh();
     ScrollPage::showEvent(event);
+}
+
+void SettingsPage::hideEvent(QHideEvent* event)
+{
+    m_history->forgetTold();
+    ScrollPage::hideEvent(event);
+}
+
+void SettingsPage::resizeEvent(QResizeEvent* event)
+{
+    ScrollPage::resizeEvent(event);
+    // A field as wide as a large screen looks as if a letter was to be written in it.
+    const int spare = viewport()->width() - widestSettings * fontMetrics().height();
+    content().layout()->setContentsMargins(0, 0, std::max(0, spare), 0);
+}
+
+void SettingsPage::tellOfHistory(const QString& line)
+{
+    // Otherwise it was asked for on another page, which says so.
+    if (isVisible())
+        m_history->tell(line);
 }
 
 } // namespace quindle

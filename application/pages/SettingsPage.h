@@ -28,8 +28,13 @@ public:
                  std::function<void()> deleteHistory, QWidget* parent = nullptr);
     ~SettingsPage() override;
 
+    /// Shows a line about what became of the history, until the page is hidden.
+    void tellOfHistory(const QString& line);
+
 protected:
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     GeneralPreferencesController& m_general;

@@ -33,6 +33,12 @@ FoundSamples samplesIn(const QString& path, qint64 from, qint64 to)
     return found;
 }
 
+/// Why it failed, else what became of a damaged file.
+QString lineOf(const StoreOutcome& outcome)
+{
+    return outcome.isGood() ? outcome.notice : outcome.fault;
+}
+
 } // namespace
 
 SavedSamples::SavedSamples(const QString& path, QObject* parent)
@@ -56,8 +62,7 @@ void SavedSamples::read(qint64 from, qint64 to)
     watch();
     const auto work = [path = m_path, from, to] { return samplesIn(path, from, to); };
     m_work.run(work, [this, asked](const FoundSamples& result) {
-        if (!result.outcome.isGood())
-            Q_EMIT told(result.outcome.fault);
+        tell(lineOf(result.outcome));
         // Otherwise another range was chosen meanwhile, whose answer comes too.
         if (asked == m_asked)
             Q_EMIT found(result.samples, result.ownSince);
@@ -90,8 +95,7 @@ void SavedSamples::takeOver(const std::function<std::unique_ptr<PowerHistory>()>
     m_work.run(work, [this](const StoreOutcome& outcome) {
         if (outcome.isGood())
             Q_EMIT changed();
-        else
-            Q_EMIT told(outcome.fault);
+        tell(lineOf(outcome));
     });
 }
 
@@ -100,10 +104,13 @@ void SavedSamples::removeAll()
     if (m_path.isEmpty())
         return;
     m_work.run([path = m_path] { return SampleStore(path).removeAll(); },
-               [this](const StoreOutcome& outcome) {
-                   if (!outcome.isGood())
-                       Q_EMIT told(outcome.fault);
-               });
+               [this](const StoreOutcome& outcome) { tell(lineOf(outcome)); });
+}
+
+void SavedSamples::tell(const QString& line)
+{
+    if (!line.isEmpty())
+        Q_EMIT told(line);
 }
 
 } // namespace quindle

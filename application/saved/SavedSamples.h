@@ -40,11 +40,12 @@ Q_SIGNALS:
     /// Others were recorded since the last ones were read.
     void changed();
 
-    /// One line for the user: why something could not be done.
+    /// One line for the user: why something could not be done, or where a damaged file was put.
     void told(const QString& line);
 
 private:
     void watch();
+    void tell(const QString& line);
 
     QString m_path;
     QFileSystemWatcher m_watcher;

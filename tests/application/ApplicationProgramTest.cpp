@@ -282,4 +282,13 @@ TEST_F(ApplicationProgramTest, SettingsShowTheLoginItemOfTheHelper)
     EXPECT_TRUE(control<BoundCheckBox>("Start when I log in")->isChecked());
 }
 
+TEST_F(ApplicationProgramTest, FieldsOfTheSettingsDoNotGrowWithALargeScreen)
+{
+    program().window().resize(1800, 900);
+    show("Settings");
+    const auto* text = control<QLineEdit>("Menu bar text");
+    ASSERT_TRUE(text);
+    EXPECT_LT(text->width(), 46 * text->fontMetrics().height());
+}
+
 } // namespace

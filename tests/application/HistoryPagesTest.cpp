@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
 #include <gtest/gtest.h>
 
@@ -87,6 +88,18 @@ struct HistoryPagesTest : TemporaryHistory
             archived.append(recordAt(1420000000 + number * 86400, 4000 - number));
     }
 
+    /// To the question whether the history is to be deleted.
+    void answerDeletion(const char* text)
+    {
+        control<QPushButton>("Delete History...")->click();
+        auto* question = program->window().findChild<QMessageBox*>();
+        ASSERT_TRUE(question);
+        for (QAbstractButton* button : question->buttons())
+            if (button->text().remove(u'&') == latin(text))
+                button->click();
+        ASSERT_TRUE(comesTrue([this] { return !program->window().findChild<QMessageBox*>(); }));
+    }
+
     qsizetype storedCount() const { return SnapshotArchive(archive()).read().records.size(); }
 
     FakePlatform computer;
@@ -102,6 +115,17 @@ TEST_F(HistoryPagesTest, SnapshotsAreListedTheNewestFirst)
     EXPECT_TRUE(says("3 snapshots"));
     EXPECT_EQ(cell(0, 2), latin("3,998 mAh"));
     EXPECT_EQ(cell(2, 2), latin("4,000 mAh"));
+}
+
+TEST_F(HistoryPagesTest, TheSmallestWindowShowsEveryColumn)
+{
+    store(60);
+    show("Snapshots");
+    program->window().resize(640, 420);
+    ASSERT_TRUE(hasRows(60));
+    QApplication::processEvents();
+    EXPECT_GT(table()->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(table()->horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(HistoryPagesTest, SnapshotsAreSortedByTheirCaptionsAndStaySelected)
@@ -301,6 +325,15 @@ TEST_F(HistoryPagesTest, UPowersWeekIsTakenOverByTheWindowToo)
     EXPECT_TRUE(comesTrue([&] { return legend->text().contains(latin("pale from UPower")); }));
 }
 
+TEST_F(HistoryPagesTest, ADamagedFileThatWasSetAsideIsNamedOnThePage)
+{
+    write(database(), "damaged");
+    show("History");
+    const auto* told = program->window().findChild<QLabel*>(latin("told"));
+    EXPECT_TRUE(comesTrue([&] { return told->text().contains(latin("is damaged, set aside as")); }));
+    EXPECT_EQ(told->toolTip(), told->text().toHtmlEscaped());
+}
+
 TEST_F(HistoryPagesTest, RecordingIsSwitchedAndLimited)
 {
     show("Settings");
@@ -333,20 +366,27 @@ TEST_F(HistoryPagesTest, AllIsDeletedOnceThatIsConfirmed)
     store(2);
     ASSERT_TRUE(SampleStore(database()).append({sampleAt(1000)}).isGood());
     show("Settings");
-    const auto answer = [this](const char* text) {
-        control<QPushButton>("Delete History...")->click();
-        auto* question = program->window().findChild<QMessageBox*>();
-        ASSERT_TRUE(question);
-        for (QAbstractButton* button : question->buttons())
-            if (button->text().remove(u'&') == latin(text))
-                button->click();
-        ASSERT_TRUE(comesTrue([this] { return !program->window().findChild<QMessageBox*>(); }));
-    };
-    answer("Cancel");
+    answerDeletion("Cancel");
     EXPECT_EQ(storedCount(), 2);
-    answer("Delete");
+    answerDeletion("Delete");
+    EXPECT_TRUE(comesTrue([this] { return says("All snapshots deleted"); }));
     EXPECT_TRUE(comesTrue([this] { return storedCount() == 0; }));
     EXPECT_TRUE(comesTrue([this] { return SampleStore(database()).samplesBetween(0, 2000).empty(); }));
+}
+
+TEST_F(HistoryPagesTest, WhatCannotBeDeletedIsSaidWhereItWasAskedFor)
+{
+    QDir().mkpath(database()); // a directory in the file's place
+    show("Settings");
+    answerDeletion("Delete");
+    const auto* told = program->window().findChild<QLabel*>(latin("toldOfHistory"));
+    ASSERT_TRUE(told);
+    EXPECT_TRUE(comesTrue([&] { return told->text().contains(database() + latin(": ")); }))
+        << told->text().toStdString();
+    EXPECT_TRUE(told->isVisible());
+    show("Battery");
+    show("Settings");
+    EXPECT_FALSE(told->isVisible()) << "that was another time";
 }
 
 } // namespace

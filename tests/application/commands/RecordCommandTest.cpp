@@ -211,6 +211,15 @@ TEST_F(RecordCommandTest, WhatIsDamagedIsSetAsideAndToldOnce)
     EXPECT_TRUE(lines[1].startsWith(archive() + text(" is damaged, set aside as ")));
 }
 
+TEST_F(RecordCommandTest, WhatIsDamagedIsToldWithoutSamplesToo)
+{
+    write(database(), "damaged");
+    powerHistory.recorded.reset();
+    EXPECT_EQ(record(), EX_OK);
+    ASSERT_EQ(lines.size(), 1) << lines.join(u'\n').toStdString();
+    EXPECT_TRUE(lines[0].startsWith(database() + text(" is damaged, set aside as ")));
+}
+
 TEST_F(RecordCommandTest, AFolderThatCannotBeMadeIsOneLineForEachFile)
 {
     write(folder(), "a file");
