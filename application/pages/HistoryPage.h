@@ -107,11 +107,12 @@ private:
     PlainLabel* m_legend;
     PlainLabel* m_told;
     PlainLabel* m_notice;
-    LinkButton* m_toSettings;
+    // From the top to the bottom: Tab goes in the order in which they are made.
     SegmentedControl* m_ranges;
-    SegmentedControl* m_quantities;
     TimeSeriesChart* m_wearChart;
     TimeSeriesChart* m_sampleChart;
+    LinkButton* m_toSettings;
+    SegmentedControl* m_quantities;
     QPushButton* m_pictureButton;
     QPushButton* m_tableButton;
     std::vector<QHBoxLayout*> m_rows;

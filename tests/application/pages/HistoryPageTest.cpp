@@ -1,5 +1,8 @@
 #include "application/pages/HistoryPage.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <QApplication>
 #include <QFile>
 #include <QImage>
@@ -122,6 +125,19 @@ TEST_F(HistoryPageTest, ANewRangeEndsAZoom)
     choose(ranges(), static_cast<int>(HistoryRange::Week));
     page.setSamples(samples(100));
     EXPECT_FALSE(charge().isZoomed());
+}
+
+TEST_F(HistoryPageTest, TabGoesFromTheTopToTheBottom)
+{
+    show();
+    const QWidget* const expected[] = {
+        ranges().segment(0),     &wear(),          &charge(), quantities().segment(0),
+        &button("Save Picture"), &button("Export")};
+    std::vector<const QWidget*> reached;
+    for (const QWidget* next = page.nextInFocusChain(); next != &page; next = next->nextInFocusChain())
+        if (std::find(std::begin(expected), std::end(expected), next) != std::end(expected))
+            reached.push_back(next);
+    EXPECT_TRUE(std::equal(reached.begin(), reached.end(), std::begin(expected), std::end(expected)));
 }
 
 TEST_F(HistoryPageTest, SwitchesToPower)
