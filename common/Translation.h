@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Texts in the user's language. The program's own are English and stand in the sources; a translation is
+/// Texts in the user's language. The program's own are English and are in the sources; a translation is
 /// looked up where a text is shown, and nowhere else. QT_TRANSLATE_NOOP(context, text) marks a text that is
 /// shown elsewhere.
 namespace quindle {

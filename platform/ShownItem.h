@@ -8,7 +8,7 @@ namespace quindle {
 /// What the panel shows of the status item, for a window that describes it.
 struct ShownItem
 {
-    /// The numbers are said between processes, so they never change.
+    /// The numbers are sent between processes, so they never change.
     enum class Form : quint8 {
         Nowhere = 0, ///< there is no panel that shows it
         Icon = 1,    ///< the picture alone, without a text

@@ -87,6 +87,7 @@ std::optional<pid_t> runDetached(const QList<QByteArray>& command, const Inherit
 {
     std::vector<QByteArray> words(command.cbegin(), command.cend());
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (QByteArray& word : words)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);

@@ -61,7 +61,7 @@ bool startThreadHere(Work work)
         pthread_attr_setaffinity_np(&detached.attributes, sizeof here, &here);
     }
     // The binding is optional: where it is refused any processor will do.
-    return start(work, detached.attributes) || startThread(work);
+    return start(work, detached.attributes) || startThread(std::move(work));
 }
 
 } // namespace quindle
