@@ -54,6 +54,7 @@ int run(QApplication& application, HelperComputer& computer)
     MacNotifier notifier(*notices);
     MacPowerManagers powerManagers;
     MacCommandRunner commands;
+    // A machine file may be somebody else's, and so would be the commands in it.
     const WarningKeeper warnings(platform, delegate,
                                  {notifier, powerManagers, computer.mayRunCommands() ? &commands : nullptr});
     QObject::connect(&application, &QCoreApplication::aboutToQuit,

@@ -102,6 +102,7 @@ int run(SocketLink& link, const std::optional<Machine>& machine, std::chrono::mi
         if (const auto message = decoded(bytes))
             receive(*message);
     });
+    // The windows never outlive the helper.
     link.setClosed(&QCoreApplication::quit);
     const WindowWatch watch(patience, [&program] {
         if (program)

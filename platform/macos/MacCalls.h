@@ -8,7 +8,7 @@
 #include "platform/Workspace.h"
 #include "platform/macos/SystemCalls.h"
 
-/// The adapters to the system's frameworks, one file each (*.mm). They need a running QCoreApplication, whose
+/// The adapters to the system's frameworks, in `system`. They need a running QCoreApplication, whose
 /// loop on a Mac is the system's.
 namespace quindle {
 

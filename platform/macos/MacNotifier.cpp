@@ -67,12 +67,14 @@ void MacNotifier::hearShown(const QString& fault)
 
 void MacNotifier::report(const QString& fault)
 {
+    // Once until one is shown: a user who does not allow them would fill the log.
     if (!std::exchange(m_hasReported, true))
         qCWarning(macNotifierLog).noquote() << QStringLiteral("notifications are not shown: %1").arg(fault);
 }
 
 void MacPowerManagers::ask(std::function<void(const QString& desktop)> answered)
 {
+    // The system always warns by itself. It answers later, as those do that have to be asked.
     QMetaObject::invokeMethod(
         this, [answered = std::move(answered)] { answered(QStringLiteral("macOS")); }, Qt::QueuedConnection);
 }

@@ -61,7 +61,7 @@ class Adapters(unittest.TestCase):
 
     def test_functions_have_under_ten_lines(self):
         counted = 0
-        for path in sorted((SOURCE / "platform/macos").glob("*.mm")):
+        for path in sorted((SOURCE / "platform/macos/system").glob("*.mm")):
             for line, length in function_lengths(path.read_text(encoding="utf-8")).items():
                 counted += 1
                 self.assertLess(length, FEWEST_TOO_MANY, f"{path.name}:{line}")
@@ -70,7 +70,7 @@ class Adapters(unittest.TestCase):
     def test_every_service_has_a_class(self):
         wanted = {name for path in (SOURCE / "platform").glob("*.h")
                   for name in services(path.read_text(encoding="utf-8"))} - ONE_PROCESS - NO_SUCH_SERVICE
-        there = {name for path in (SOURCE / "platform/macos").iterdir() if path.suffix in (".h", ".cpp", ".mm")
+        there = {name for path in (SOURCE / "platform/macos").rglob("*") if path.suffix in (".h", ".cpp", ".mm")
                  for name in bases(path.read_text(encoding="utf-8"))}
         self.assertEqual(wanted - there, set())
         self.assertGreater(len(wanted), 15)

@@ -2,8 +2,8 @@
 
 #include <UserNotifications/UserNotifications.h>
 
-#include "platform/macos/CocoaText.h"
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CocoaText.h"
 
 /// Notifications are shown also while a window of this program is in front.
 @interface QDNoticeDelegate : NSObject <UNUserNotificationCenterDelegate>

@@ -1,7 +1,7 @@
 #include <utility>
 
-#include "platform/macos/CfOwned.h"
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CfOwned.h"
 
 namespace quindle {
 

@@ -3,10 +3,25 @@
 #include <AppKit/AppKit.h>
 
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CocoaText.h"
 
 namespace quindle {
 
 namespace {
+
+class SystemWorkspace : public OpenCalls
+{
+public:
+    bool exists(const QString& path) override
+    {
+        return [[NSFileManager defaultManager] fileExistsAtPath:cocoaText(path)];
+    }
+
+    bool open(const QString& path) override
+    {
+        return [[NSWorkspace sharedWorkspace] openURL:[NSURL fileURLWithPath:cocoaText(path)]];
+    }
+};
 
 class SystemApplication : public Application
 {
@@ -27,6 +42,11 @@ public:
 };
 
 } // namespace
+
+std::unique_ptr<OpenCalls> systemWorkspace()
+{
+    return std::make_unique<SystemWorkspace>();
+}
 
 std::unique_ptr<Application> systemApplication()
 {

@@ -1,7 +1,7 @@
 #include <utility>
 
-#include "platform/macos/CocoaText.h"
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CocoaText.h"
 
 namespace quindle {
 
@@ -77,6 +77,7 @@ public:
             if (answer)
                 answered(*answer);
         };
+        // On the main thread, where whoever asked lives.
         start(postOf(url, body, patience), sessionOn([NSOperationQueue mainQueue]), hear);
     }
 
@@ -87,6 +88,7 @@ public:
             waiting->answer = answer;
             dispatch_semaphore_signal(waiting->done);
         };
+        // Not on the main queue: the main thread waits here, and would never hear of it.
         NSURLSessionDataTask* const task = start(requestOf(url, patience), sessionOn(nil), hear);
         const bool isInTime = hasEnded(*waiting, patience);
         [task cancel]; // one that has ended stays as it is

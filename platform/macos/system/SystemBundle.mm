@@ -1,5 +1,5 @@
-#include "platform/macos/CocoaText.h"
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CocoaText.h"
 
 namespace quindle {
 

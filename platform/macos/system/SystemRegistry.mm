@@ -1,7 +1,7 @@
 #include <IOKit/IOKitLib.h>
 
-#include "platform/macos/CfValues.h"
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CfValues.h"
 
 namespace quindle {
 

@@ -3,8 +3,8 @@
 
 #include <AppKit/AppKit.h>
 
-#include "platform/macos/CocoaText.h"
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CocoaText.h"
 
 /// The target of menu items' choices.
 @interface QDMenuTarget : NSObject
@@ -54,6 +54,7 @@ NSMenuItem* itemOf(const MenuEntry& entry, QDMenuTarget* target)
 NSMenu* emptyMenu()
 {
     NSMenu* const menu = [[NSMenu alloc] init];
+    // The entries say themselves whether they can be chosen.
     menu.autoenablesItems = NO;
     return menu;
 }
@@ -64,6 +65,7 @@ public:
     explicit SystemStatusItem(double length)
         : m_item([[NSStatusBar systemStatusBar] statusItemWithLength:length])
     {
+        // Before the title, whichever way the language runs.
         m_item.button.imagePosition = NSImageLeading;
     }
     ~SystemStatusItem() override { [[NSStatusBar systemStatusBar] removeStatusItem:m_item]; }
@@ -74,6 +76,7 @@ public:
     {
         NSImage* const image = [[NSImage alloc] initWithContentsOfFile:cocoaText(file)];
         [image setTemplate:isTemplate];
+        // Else as large as the drawing.
         if (!size.isEmpty())
             image.size = {size.width(), size.height()};
         m_item.button.image = image;

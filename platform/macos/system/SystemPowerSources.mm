@@ -2,8 +2,8 @@
 
 #include <IOKit/ps/IOPowerSources.h>
 
-#include "platform/macos/CfValues.h"
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CfValues.h"
 
 namespace quindle {
 
@@ -23,6 +23,7 @@ class SystemPowerSources : public PowerCalls
 public:
     ~SystemPowerSources() override
     {
+        // The loop holds it too, and would go on calling.
         if (m_source)
             CFRunLoopSourceInvalidate(m_source.get());
     }

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QVariant>
 
-#include "platform/macos/CfOwned.h"
+#include "platform/macos/system/CfOwned.h"
 
 /// The one place in which objects of Core Foundation become plain values and the other way round. The values
 /// are those of property lists: text (QString), integer (qint64), real (double), boolean (bool), date

@@ -1,7 +1,7 @@
 #include <ServiceManagement/ServiceManagement.h>
 
-#include "platform/macos/CocoaText.h"
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CocoaText.h"
 
 namespace quindle {
 

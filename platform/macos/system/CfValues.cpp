@@ -1,4 +1,4 @@
-#include "platform/macos/CfValues.h"
+#include "platform/macos/system/CfValues.h"
 
 #include <cmath>
 #include <vector>

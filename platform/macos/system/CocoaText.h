@@ -2,7 +2,7 @@
 
 #include <Foundation/Foundation.h>
 
-#include "platform/macos/CfValues.h"
+#include "platform/macos/system/CfValues.h"
 
 namespace quindle {
 

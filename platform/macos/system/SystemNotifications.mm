@@ -1,11 +1,35 @@
+#include <functional>
 #include <utility>
 #include <vector>
 
 #include <AppKit/AppKit.h>
 
-#include "platform/macos/CocoaText.h"
-#include "platform/macos/Listener.h"
 #include "platform/macos/MacCalls.h"
+#include "platform/macos/system/CocoaText.h"
+
+/// The object that a notification center calls, with a function.
+@interface QDListener : NSObject
+- (instancetype)initWithFunction:(std::function<void(NSNotification*)>)heard;
+- (void)hear:(NSNotification*)notification;
+@end
+
+@implementation QDListener {
+    std::function<void(NSNotification*)> _heard;
+}
+
+- (instancetype)initWithFunction:(std::function<void(NSNotification*)>)heard
+{
+    self = [super init];
+    _heard = std::move(heard);
+    return self;
+}
+
+- (void)hear:(NSNotification*)notification
+{
+    _heard(notification);
+}
+
+@end
 
 namespace quindle {
 
