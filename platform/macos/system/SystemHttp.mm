@@ -81,6 +81,7 @@ public:
         start(postOf(url, body, patience), sessionOn([NSOperationQueue mainQueue]), hear);
     }
 
+    // Not on the main queue: the main thread waits here, and would never hear of the answer.
     std::optional<HttpAnswer> get(const QString& url, double patience) override
     {
         const auto waiting = std::make_shared<Waiting>();
@@ -88,7 +89,6 @@ public:
             waiting->answer = answer;
             dispatch_semaphore_signal(waiting->done);
         };
-        // Not on the main queue: the main thread waits here, and would never hear of it.
         NSURLSessionDataTask* const task = start(requestOf(url, patience), sessionOn(nil), hear);
         const bool isInTime = hasEnded(*waiting, patience);
         [task cancel]; // one that has ended stays as it is
