@@ -22,8 +22,8 @@ SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& 
                            std::function<void()> deleteHistory, QWidget* parent)
     : ScrollPage(parent)
     , m_general(general)
-    , m_warnings(new WarningSettingsView(own, center, powerManagers, &content()))
-    , m_history(new HistorySettingsView(own, center, std::move(deleteHistory), &content()))
+    , m_warnings(new WarningSettingsView(own, center, powerManagers))
+    , m_history(new HistorySettingsView(own, center, std::move(deleteHistory)))
 {
     setObjectName(QStringLiteral("settingsPage"));
     setAccessibleName(tr("Settings"));
@@ -36,6 +36,7 @@ SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& 
     auto* layout = new QVBoxLayout(&content());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    // Each gets its parent here: Tab goes in the order in which they get one.
     layout->addWidget(&general.view());
     layout->addWidget(m_warnings);
     layout->addWidget(m_history);

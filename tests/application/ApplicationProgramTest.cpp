@@ -291,4 +291,18 @@ TEST_F(ApplicationProgramTest, FieldsOfTheSettingsDoNotGrowWithALargeScreen)
     EXPECT_LT(text->width(), 46 * text->fontMetrics().height());
 }
 
+TEST_F(ApplicationProgramTest, TabGoesFromTheTopOfTheSettingsToTheBottom)
+{
+    show("Settings");
+    const QWidget* page = program().window().findChild<QWidget*>(latin("settingsPage"));
+    ASSERT_TRUE(page);
+    QStringList reached;
+    for (const QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain())
+        for (const char* name : {"Menu bar text", "Command for battery low", "Keep charge and power"})
+            if (next->accessibleName() == latin(name))
+                reached.append(latin(name));
+    EXPECT_EQ(reached, (QStringList{latin("Menu bar text"), latin("Command for battery low"),
+                                    latin("Keep charge and power")}));
+}
+
 } // namespace
