@@ -60,9 +60,9 @@ void paintValueTicks(QPainter& painter, const ChartContent& content, const Chart
     for (const double value : layout.valueTicks.values) {
         const double y = layout.value.pixel(value);
         fillRow(painter, layout.plot, y, look.grid);
-        // The box ends at the axis and is as wide as any text may be.
+        // The box ends at the axis, which is never mirrored, and is as wide as any text may be.
         painter.drawText(QRectF(right - 1000, y - layout.line, 1000, layout.line * 2),
-                         Qt::AlignRight | Qt::AlignVCenter,
+                         Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter,
                          tickText(content, value, layout.valueTicks.decimals));
     }
 }
@@ -109,7 +109,7 @@ void paintReferenceLabels(QPainter& painter, const ChartContent& content, const 
         const double y = layout.value.pixel(line.value) - layout.line * 1.15;
         const QRectF place(layout.plot.right() - width, y, width, layout.line);
         painter.fillRect(place.adjusted(-layout.line * 0.3, 0, 0, 0), look.background);
-        painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, line.label);
+        painter.drawText(place, Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter, line.label);
     }
 }
 
@@ -198,9 +198,9 @@ void paintCard(QPainter& painter, const QPointF& place, const ChartLayout& layou
     painter.setBrush(Qt::NoBrush);
     const QRectF text = card.adjusted(padding, padding * 0.75, 0, -padding * 0.75);
     painter.setPen(look.quiet);
-    painter.drawText(text, Qt::AlignLeft | Qt::AlignTop, texts.date);
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignTop, texts.date);
     painter.setPen(look.text);
-    painter.drawText(text, Qt::AlignLeft | Qt::AlignBottom, texts.value);
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignBottom, texts.value);
 }
 
 } // namespace

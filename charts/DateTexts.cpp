@@ -11,7 +11,7 @@ QString clockText(QTime time, const QLocale& locale)
 {
     // Some locales have seconds in their short format.
     static const QRegularExpression seconds(QStringLiteral("[:.]s+"));
-    return locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(seconds));
+    return withAsciiDigits(locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(seconds)));
 }
 
 QString dayText(QDate day, const QLocale& locale)
@@ -19,14 +19,15 @@ QString dayText(QDate day, const QLocale& locale)
     // No format of the locale is a day without its year.
     const QString order = locale.dateFormat(QLocale::ShortFormat);
     const bool dayFirst = order.indexOf(u'd') < order.indexOf(u'M');
-    return locale.toString(day, dayFirst ? translated("Dates", "d MMM", "as date formats write it")
-                                         : translated("Dates", "MMM d", "as date formats write it"));
+    return withAsciiDigits(
+        locale.toString(day, dayFirst ? translated("Dates", "d MMM", "as date formats write it")
+                                      : translated("Dates", "MMM d", "as date formats write it")));
 }
 
 QString dateText(QDate day, const QLocale& locale)
 {
-    static const QRegularExpression weekday(QStringLiteral("^dddd[, ]*|[, ]*dddd$"));
-    return locale.toString(day, locale.dateFormat(QLocale::LongFormat).remove(weekday));
+    static const QRegularExpression weekday(QStringLiteral(u"^dddd[, \u060C]*|[, \u060C]*dddd$"));
+    return withAsciiDigits(locale.toString(day, locale.dateFormat(QLocale::LongFormat).remove(weekday)));
 }
 
 QString momentText(qint64 moment, bool withTime, const QLocale& locale)

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QTime>
 
-/// Dates and times in the words and the order of a locale, as short as an axis needs them.
+/// Dates and times in the words and the order of a locale, as short as an axis needs them, in ASCII digits.
 namespace quindle {
 
 /// Hours and minutes: the locale's short format without the seconds that some have.

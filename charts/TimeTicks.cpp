@@ -150,7 +150,7 @@ QString labelOf(qint64 moment, CalendarUnit unit, const QLocale& locale)
     if (unit != CalendarUnit::Month)
         return dayText(local.date(), locale);
     const int month = local.date().month();
-    return month == 1 ? locale.toString(local.date(), QStringLiteral("yyyy"))
+    return month == 1 ? QString::number(local.date().year())
                       : locale.standaloneMonthName(month, QLocale::ShortFormat);
 }
 

@@ -29,4 +29,12 @@ QString withDecimalSign(const QString& number)
     return QString(number).replace(u'.', decimalSign());
 }
 
+QString withAsciiDigits(QString date)
+{
+    for (QChar& character : date)
+        if (character.isDigit())
+            character = QChar(u'0' + character.digitValue());
+    return date;
+}
+
 } // namespace quindle

@@ -21,4 +21,7 @@ QString decimalSign();
 /// `number` with that sign in place of the point.
 QString withDecimalSign(const QString& number);
 
+/// `date`, as a locale writes it, with the digits 0 to 9, which all figures have.
+QString withAsciiDigits(QString date);
+
 } // namespace quindle

@@ -1,7 +1,7 @@
 // quindle-translate-texts TRANSLATIONS FILE RESULT [LANGUAGE]: FILE with its texts in the languages that the
 // folder TRANSLATIONS has a .qm for. In a desktop entry (.desktop) and in AppStream's metainfo (.xml)
-// translations stand behind the English texts; a manual page gets its one line in LANGUAGE. A text that is
-// not marked here is an error. Part of the build only.
+// translations stand behind the English texts; a manual page gets in LANGUAGE the line by which it is found,
+// and what its synopsis consists of. A text that is not marked here is an error. Part of the build only.
 
 #include <algorithm>
 #include <cstdio>
@@ -27,6 +27,11 @@ constexpr const char* texts[]{
     QT_TRANSLATE_NOOP("Packaging", "battery charge, health and time in the panel"),
     QT_TRANSLATE_NOOP("Packaging", "battery charge, health and what becomes of them"),
     QT_TRANSLATE_NOOP("Packaging", "print the battery as Quindle Helper sees it"),
+    QT_TRANSLATE_NOOP("Packaging", "SYNOPSIS"),
+    QT_TRANSLATE_NOOP("Packaging", "FILE"),
+    QT_TRANSLATE_NOOP("Packaging", "FORMAT"),
+    QT_TRANSLATE_NOOP("Packaging", "DIR"),
+    QT_TRANSLATE_NOOP("Packaging", "DATE"),
     QT_TRANSLATE_NOOP("Packaging",
                       "Quindle shows everything that the batteries of your portable computer report, in one "
                       "window. Its companion, Quindle Helper, sits in the tray of your panel with a title "
@@ -121,6 +126,22 @@ QString withName(const QString& file, const Language& language)
                           : QString(file).replace(found.capturedStart(2), found.capturedLength(2), text);
 }
 
+/// The synopsis' caption, and what stands for an argument there and wherever options are told.
+QString withSynopsis(const QString& file, const Language& language)
+{
+    static const QRegularExpression word(
+        QStringLiteral("(?:(?<=\\\\fI)|\\b)(SYNOPSIS|FILE|FORMAT|DIR|DATE)\\b"));
+    QString result;
+    qsizetype end = 0;
+    for (auto all = word.globalMatch(file); all.hasNext();) {
+        const auto found = all.next();
+        const QString text = translation(language, found.captured());
+        result += file.mid(end, found.capturedStart() - end) + (text.isEmpty() ? found.captured() : text);
+        end = found.capturedEnd();
+    }
+    return result + file.mid(end);
+}
+
 QString translatedFile(const QString& path, const QString& text, const std::vector<Language>& languages,
                        const QString& name)
 {
@@ -132,7 +153,7 @@ QString translatedFile(const QString& path, const QString& text, const std::vect
                                     [&name](const Language& language) { return language.name == name; });
     if (found == languages.end())
         fail(QStringLiteral("there is no such language: ") + name);
-    return withName(text, *found);
+    return withSynopsis(withName(text, *found), *found);
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 build_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-l10n-tools
     libgl-dev libudev-dev libxml2-dev libcurl4-openssl-dev libxcb1-dev libsqlite3-dev libfreetype-dev libfontconfig-dev zlib1g-dev"
-runtime_packages="libqt6svg6 fonts-dejavu-core qt6-wayland libraqm0"
+runtime_packages="libqt6svg6 fonts-dejavu-core qt6-wayland libraqm0 qt6-translations-l10n"
 desktop_packages="python3 xvfb dbus openbox xfce4-panel tint2 adwaita-icon-theme fonts-noto-core imagemagick x11-utils
     x11-xserver-utils xdotool libglib2.0-bin"
 test_packages="libgtest-dev libgmock-dev mold python3 python3-dbus python3-gi python3-dbusmock umockdev gir1.2-umockdev-1.0

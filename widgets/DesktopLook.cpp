@@ -12,19 +12,29 @@ namespace quindle {
 
 namespace {
 
-/// A style in which nothing moves by itself.
-class StillStyle : public QProxyStyle
+/// The toolkit's style with another answer to two questions.
+class WindowStyle : public QProxyStyle
 {
 public:
-    using QProxyStyle::QProxyStyle;
+    WindowStyle(const QString& toolkits, bool isStill)
+        : QProxyStyle(toolkits)
+        , m_isStill(isStill)
+    {
+    }
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returnData) const override
     {
-        if (hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate)
+        if (m_isStill && (hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate))
+            return 0;
+        // Marked letters are drawn alone: Arabic ones no longer join, and the text is wider than its place.
+        if (hint == SH_UnderlineShortcut && QApplication::isRightToLeft())
             return 0;
         return QProxyStyle::styleHint(hint, option, widget, returnData);
     }
+
+private:
+    bool m_isStill;
 };
 
 struct Tones
@@ -84,6 +94,13 @@ QPalette paletteFor(const DesktopWishes& wishes)
     return palette;
 }
 
+DesktopLook::DesktopLook(Colours colours)
+    : m_colours(colours)
+{
+    if (QApplication::isRightToLeft())
+        wearStyle();
+}
+
 void DesktopLook::follow(const DesktopWishes& wishes)
 {
     setStill(wishes.isStill);
@@ -102,16 +119,20 @@ void DesktopLook::wearPalette(const DesktopWishes& wishes)
 
 void DesktopLook::setStill(bool isStill)
 {
-    if (isStill == !m_livelyStyle.isEmpty())
+    if (isStill == m_isStill)
         return;
-    QStyle* style = nullptr;
-    if (isStill) {
-        m_livelyStyle = QApplication::style()->name();
-        style = new StillStyle(m_livelyStyle);
-    } else {
-        style = QStyleFactory::create(std::exchange(m_livelyStyle, {}));
-    }
-    QApplication::setStyle(style);
+    m_isStill = isStill;
+    wearStyle();
+}
+
+void DesktopLook::wearStyle()
+{
+    if (m_toolkitsStyle.isEmpty())
+        m_toolkitsStyle = QApplication::style()->name();
+    if (m_isStill || QApplication::isRightToLeft())
+        QApplication::setStyle(new WindowStyle(m_toolkitsStyle, m_isStill));
+    else
+        QApplication::setStyle(QStyleFactory::create(std::exchange(m_toolkitsStyle, {})));
 }
 
 } // namespace quindle

@@ -7,8 +7,8 @@
 
 namespace quindle {
 
-/// Makes all windows of the process look as the desktop's user wishes, where the toolkit does not by itself.
-/// Needs a QApplication.
+/// Makes all windows of the process look as the desktop's user wishes, where the toolkit does not by itself,
+/// and keeps words whole where letters join. Needs a QApplication, with the language that is shown.
 class DesktopLook
 {
 public:
@@ -17,10 +17,7 @@ public:
         ByWishes,
     };
 
-    explicit DesktopLook(Colours colours)
-        : m_colours(colours)
-    {
-    }
+    explicit DesktopLook(Colours colours);
 
     /// Also for windows that are open.
     void follow(const DesktopWishes& wishes);
@@ -28,9 +25,11 @@ public:
 private:
     void wearPalette(const DesktopWishes& wishes);
     void setStill(bool isStill);
+    void wearStyle();
 
     Colours m_colours;
-    QString m_livelyStyle; ///< the style that nothing moves in now; empty while it may
+    QString m_toolkitsStyle; ///< the style that is worn with changes; empty while it is worn as it is
+    bool m_isStill = false;
 };
 
 /// Windows of a desktop without colours of its own.

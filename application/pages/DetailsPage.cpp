@@ -22,6 +22,7 @@
 #include "mac/QDMac.h"
 #include "platform/Bundle.h"
 #include "platform/Platform.h"
+#include "widgets/IsolatedText.h"
 #include "widgets/QuietLabel.h"
 
 namespace quindle {
@@ -70,6 +71,7 @@ DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& hel
     m_rows->setAlternatingRowColors(false);
     m_rows->setFrameShape(QFrame::NoFrame);
     m_rows->setTextElideMode(Qt::ElideMiddle);
+    m_rows->setItemDelegate(new IsolatedCells(m_rows));
     m_nothing->setAlignment(Qt::AlignCenter);
     auto* copyButton = new QPushButton(tr("&Copy as Text"), this);
     auto* saveButton = new QPushButton(tr("&Save as Machine File..."), this);

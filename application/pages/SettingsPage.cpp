@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QEvent>
 #include <QVBoxLayout>
 
 #include "application/pages/HistorySettingsView.h"
@@ -27,12 +28,11 @@ SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& 
 {
     setObjectName(QStringLiteral("settingsPage"));
     setAccessibleName(tr("Settings"));
-    // All of them, so that their captions form one column.
-    for (PaneView* pane : {qobject_cast<PaneView*>(&general.view()), static_cast<PaneView*>(m_warnings),
-                           static_cast<PaneView*>(m_history)}) {
+    for (PaneView* pane : panes()) {
         pane->setCompact(true);
         pane->fitToFont();
     }
+    alignCaptions();
     auto* layout = new QVBoxLayout(&content());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -47,6 +47,27 @@ SettingsPage::~SettingsPage()
 {
     // The pane's view is its controller's.
     m_general.view().setParent(nullptr);
+}
+
+std::array<PaneView*, 3> SettingsPage::panes() const
+{
+    return {qobject_cast<PaneView*>(&m_general.view()), m_warnings, m_history};
+}
+
+void SettingsPage::alignCaptions()
+{
+    int widest = 0;
+    for (const PaneView* pane : panes())
+        widest = std::max(widest, pane->captionWidth());
+    for (PaneView* pane : panes())
+        pane->setCaptionWidth(widest);
+}
+
+void SettingsPage::changeEvent(QEvent* event)
+{
+    ScrollPage::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        alignCaptions();
 }
 
 void SettingsPage::showEvent(QShowEvent* event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 
 #include "application/pages/ScrollPage.h"
@@ -9,6 +10,7 @@ namespace quindle {
 class DistributedNotificationCenter;
 class GeneralPreferencesController;
 class HistorySettingsView;
+class PaneView;
 class PowerManagers;
 class UserDefaults;
 class WarningSettingsView;
@@ -32,11 +34,15 @@ public:
     void tellOfHistory(const QString& line);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    std::array<PaneView*, 3> panes() const;
+    void alignCaptions();
+
     GeneralPreferencesController& m_general;
     WarningSettingsView* m_warnings;
     HistorySettingsView* m_history;

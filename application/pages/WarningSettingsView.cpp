@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -131,6 +132,7 @@ QSpinBox* WarningSettingsView::percentOf(WarningLevel level)
     const PercentRange range = percentRange(level);
     percent->setRange(range.least, range.most);
     percent->setSuffix(QStringLiteral("%"));
+    percent->setLocale(QLocale::c()); // ASCII digits, as all figures have
     // A number that is being typed is no percentage yet.
     percent->setKeyboardTracking(false);
     if (range.least == 0) {

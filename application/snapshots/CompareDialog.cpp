@@ -3,9 +3,11 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "application/snapshots/SnapshotRows.h"
+#include "widgets/IsolatedText.h"
 #include "widgets/PlainLabel.h"
 
 namespace quindle {
@@ -15,7 +17,7 @@ namespace {
 void addCell(QGridLayout& grid, int row, int column, const QString& text, bool isQuiet)
 {
     auto* label = new PlainLabel;
-    label->setText(text);
+    label->setText(isolatedText(text));
     label->setQuiet(isQuiet);
     label->setAlignment(column == 0 ? Qt::AlignLeft : Qt::AlignRight);
     label->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
@@ -46,6 +48,8 @@ CompareDialog::CompareDialog(const QVariantMap& one, const QVariantMap& other, Q
     }
     layout->addLayout(grid);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    // As all other buttons are; some desktops give it a picture.
+    buttons->button(QDialogButtonBox::Close)->setIcon({});
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
 }

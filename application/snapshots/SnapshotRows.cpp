@@ -144,8 +144,9 @@ QString snapshotDateText(const QDateTime& date)
     const QLocale locale;
     // Some locales have seconds in their short form too.
     const QString time = locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
-    return locale.toString(date.date(), translated("Dates", "d MMM yyyy", "as date formats write it")) +
-           u' ' + locale.toString(date.time(), time);
+    return withAsciiDigits(
+        locale.toString(date.date(), translated("Dates", "d MMM yyyy", "as date formats write it")) + u' ' +
+        locale.toString(date.time(), time));
 }
 
 } // namespace quindle

@@ -2,13 +2,32 @@
 
 #include <algorithm>
 
+#include <QDateTime>
 #include <QEvent>
 #include <QHeaderView>
+#include <QStyle>
 
+#include "application/snapshots/SnapshotRows.h"
 #include "application/snapshots/SnapshotTable.h"
 #include "application/snapshots/SortHeader.h"
+#include "widgets/IsolatedText.h"
 
 namespace quindle {
+
+namespace {
+
+/// In the language's words and the locale's time, which may be long.
+int widestDate(const QFontMetrics& metrics)
+{
+    int widest = 0;
+    for (int month = 1; month <= 12; ++month) {
+        const QDateTime evening(QDate(2028, month, 28), QTime(20, 28));
+        widest = std::max(widest, metrics.horizontalAdvance(snapshotDateText(evening)));
+    }
+    return widest;
+}
+
+} // namespace
 
 SnapshotView::SnapshotView(QWidget* parent)
     : QTableView(parent)
@@ -17,6 +36,7 @@ SnapshotView::SnapshotView(QWidget* parent)
     setAccessibleName(tr("Snapshots"));
     setHorizontalHeader(new SortHeader(this));
     setModel(m_table);
+    setItemDelegate(new IsolatedCells(this));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setFrameShape(QFrame::NoFrame);
     setShowGrid(false);
@@ -65,6 +85,9 @@ void SnapshotView::fitToFont()
         const int captionWidth = fontMetrics().horizontalAdvance(caption) + line;
         setColumnWidth(column, std::max(qRound(line * lines[column]), captionWidth));
     }
+    constexpr int date = static_cast<int>(SnapshotColumn::Date);
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    setColumnWidth(date, std::max(columnWidth(date), widestDate(fontMetrics()) + 2 * margin));
 }
 
 } // namespace quindle

@@ -1,5 +1,7 @@
 #include "preferences/panes/PaneView.h"
 
+#include <algorithm>
+
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -28,6 +30,22 @@ PaneView::PaneView(QWidget* parent)
 {
 }
 
+int PaneView::captionWidth() const
+{
+    const auto* grid = qobject_cast<const QGridLayout*>(layout());
+    int widest = 0;
+    for (int row = 0; grid && row < grid->rowCount(); ++row)
+        if (const QLayoutItem* caption = grid->itemAtPosition(row, 0))
+            widest = std::max(widest, caption->sizeHint().width());
+    return widest;
+}
+
+void PaneView::setCaptionWidth(int width)
+{
+    m_captionWidth = width;
+    fitToFont();
+}
+
 void PaneView::fitToFont()
 {
     auto* grid = qobject_cast<QGridLayout*>(layout());
@@ -39,7 +57,7 @@ void PaneView::fitToFont()
     grid->setContentsMargins(margin, margin, margin, margin);
     grid->setHorizontalSpacing(line);
     grid->setVerticalSpacing(line);
-    grid->setColumnMinimumWidth(0, line * (m_isCompact ? 6 : 8));
+    grid->setColumnMinimumWidth(0, std::max(m_captionWidth, line * (m_isCompact ? 6 : 8)));
     grid->setColumnMinimumWidth(1, m_isCompact ? 0 : line * 19);
     grid->setColumnStretch(1, 1);
     for (QBoxLayout* box : grid->findChildren<QBoxLayout*>())

@@ -17,6 +17,12 @@ public:
     /// the preferences. Before `fitToFont`.
     void setCompact(bool isCompact) { m_isCompact = isCompact; }
 
+    /// What the longest caption needs.
+    int captionWidth() const;
+
+    /// At least as much as that for the captions, so that those of panes below one another form one column.
+    void setCaptionWidth(int width);
+
     /// To be called once after the interface file has been loaded; later changes of the font are followed.
     void fitToFont();
 
@@ -26,6 +32,7 @@ protected:
 private:
     void alignCaptions();
 
+    int m_captionWidth = 0;
     bool m_isCompact = false;
 };
 

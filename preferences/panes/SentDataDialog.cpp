@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace quindle {
@@ -42,6 +43,8 @@ SentDataDialog::SentDataDialog(const QString& sentText, QWidget* parent)
         column->addWidget(view, 1);
     }
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    // As all other buttons are; some desktops give it a picture.
+    buttons->button(QDialogButtonBox::Close)->setIcon({});
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     column->addWidget(buttons);
 }

@@ -21,6 +21,21 @@ ToolbarItem paneItem(const QDPreferencesWindowControllerProtocol& pane)
             pane.preferencesIcon(),  pane.preferencesToolTip()};
 }
 
+/// Whether the keyboard has a key for it: Chinese, Japanese and Korean text is composed of several.
+bool hasKey(QChar character)
+{
+    switch (character.script()) {
+    case QChar::Script_Han:
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+    case QChar::Script_Hangul:
+    case QChar::Script_Bopomofo:
+        return false;
+    default:
+        return character.isLetterOrNumber() && character.category() != QChar::Letter_Modifier;
+    }
+}
+
 } // namespace
 
 QString preferencesToolbarIdentifier()
@@ -107,8 +122,7 @@ QStringList titlesWithMnemonics(const QStringList& titles)
         QString text;
         bool isMarked = false;
         for (const QChar character : title) {
-            if (!isMarked && character.isLetterOrNumber() &&
-                !taken.contains(character, Qt::CaseInsensitive)) {
+            if (!isMarked && hasKey(character) && !taken.contains(character, Qt::CaseInsensitive)) {
                 isMarked = true;
                 taken += character;
                 text += QLatin1Char('&');

@@ -71,7 +71,8 @@ QDPreferencesWindowControllerProtocol* paneWithIdentifier(const PreferencesPanes
 qsizetype firstPaneItemIndex(const PreferencesToolbarFlags& flags);
 
 /// Each title with a mark before the first letter that no title before it has taken, so that Alt and that
-/// letter chooses it. A "&" of the title is shown as it is.
+/// letter chooses it. Letters that no key has, such as Chinese ones, get none. A "&" of the title is shown as
+/// it is.
 QStringList titlesWithMnemonics(const QStringList& titles);
 
 } // namespace quindle

@@ -479,12 +479,32 @@
         <translation>الشحن والقدرة والوقت المتبقي والصحة والدورات والعمر ودرجة الحرارة</translation>
     </message>
     <message>
+        <source>DATE</source>
+        <translation>تاريخ</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>مجلد</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ملف</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>تنسيق</translation>
+    </message>
+    <message>
         <source>Nothing is sent anywhere unless you allow it</source>
         <translation>لا يُرسل أي شيء إلى أي مكان من دون إذن</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
         <translation>يعرض Quindle كل ما تبلغ عنه بطاريات الكمبيوتر المحمول في نافذة واحدة. أما التطبيق المرافق Quindle Helper فيوجد في درج اللوحة بأيقونة وعنوان وفق قالب مخصص؛ ويؤدي النقر عليه إلى فتح عرض البطارية.</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>الصيغة</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>

@@ -463,12 +463,32 @@
         <translation>Ladung, Leistung, Restzeit, Zustand, Ladezyklen, Alter und Temperatur</translation>
     </message>
     <message>
+        <source>DATE</source>
+        <translation>DATUM</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>ORDNER</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>FORMAT</translation>
+    </message>
+    <message>
         <source>Nothing is sent anywhere unless you allow it</source>
         <translation>Nichts wird gesendet, wenn es nicht erlaubt wurde</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
         <translation>Quindle zeigt alles, was die Batterien eines tragbaren Computers melden, in einem Fenster. Sein Begleiter, Quindle Helper, sitzt in der Leiste mit einem Titel nach eigener Vorlage und einem Symbol; ein Klick darauf öffnet die Batterieansicht.</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>ÜBERSICHT</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>

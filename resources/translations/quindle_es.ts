@@ -463,12 +463,32 @@
         <translation>Carga, potencia, tiempo restante, salud, ciclos, antigüedad y temperatura</translation>
     </message>
     <message>
+        <source>DATE</source>
+        <translation>FECHA</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>CARPETA</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARCHIVO</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>FORMATO</translation>
+    </message>
+    <message>
         <source>Nothing is sent anywhere unless you allow it</source>
         <translation>No se envía nada a ningún sitio sin permiso</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
         <translation>Quindle muestra en una sola ventana todo lo que indican las baterías de un equipo portátil. Su acompañante, Quindle Helper, se coloca en la bandeja del panel con un título hecho a partir de una plantilla propia y un icono; un clic en él abre la vista de la batería.</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>SINOPSIS</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>

@@ -463,12 +463,32 @@
         <translation>Charge, puissance, temps restant, santé, cycles, âge et température</translation>
     </message>
     <message>
+        <source>DATE</source>
+        <translation>DATE</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>DOSSIER</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FICHIER</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>FORMAT</translation>
+    </message>
+    <message>
         <source>Nothing is sent anywhere unless you allow it</source>
         <translation>Rien n’est envoyé nulle part sans autorisation</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
         <translation>Quindle affiche dans une seule fenêtre tout ce qu’indiquent les batteries d’un ordinateur portable. Son compagnon, Quindle Helper, se place dans la zone de notification du tableau de bord, avec un titre composé selon un modèle personnel et une icône&#xa0;; un clic y ouvre la vue de la batterie.</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>SYNOPSIS</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>

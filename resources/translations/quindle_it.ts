@@ -463,12 +463,32 @@
         <translation>Carica, potenza, tempo rimanente, salute, cicli, età e temperatura</translation>
     </message>
     <message>
+        <source>DATE</source>
+        <translation>DATA</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>CARTELLA</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>FORMATO</translation>
+    </message>
+    <message>
         <source>Nothing is sent anywhere unless you allow it</source>
         <translation>Nulla viene inviato senza autorizzazione</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
         <translation>Quindle mostra in un’unica finestra tutto ciò che indicano le batterie di un computer portatile. Il suo compagno, Quindle Helper, si trova nell’area di notifica del pannello con un titolo composto da un modello personale e un’icona; un clic su di essa apre la vista della batteria.</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>SINTASSI</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>

@@ -459,12 +459,32 @@
         <translation>充電残量、電力、残り時間、健全性、充放電回数、使用年数、温度</translation>
     </message>
     <message>
+        <source>DATE</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>形式</translation>
+    </message>
+    <message>
         <source>Nothing is sent anywhere unless you allow it</source>
         <translation>許可しない限り、どこにも何も送信しません</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
         <translation>Quindle は、ノートパソコンのバッテリーが報告するすべての情報を1つのウィンドウに表示します。付属の Quindle Helper は、独自のテンプレートで作ったタイトルとアイコンでパネルのトレイに常駐し、クリックするとバッテリー表示が開きます。</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>書式</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>
@@ -1176,7 +1196,7 @@
     </message>
     <message>
         <source>Menu bar &amp;text</source>
-        <translation>メニューバーのテキスト(&amp;T)</translation>
+        <translation>表示テキスト(&amp;T)</translation>
     </message>
     <message>
         <source>Menu bar text</source>

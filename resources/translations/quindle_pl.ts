@@ -467,12 +467,32 @@
         <translation>Naładowanie, moc, pozostały czas, kondycja, cykle, wiek i temperatura</translation>
     </message>
     <message>
+        <source>DATE</source>
+        <translation>DATA</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>KATALOG</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>PLIK</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>FORMAT</translation>
+    </message>
+    <message>
         <source>Nothing is sent anywhere unless you allow it</source>
         <translation>Bez zgody użytkownika nic nie jest nigdzie wysyłane</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
         <translation>Quindle pokazuje w jednym oknie wszystko, co zgłaszają baterie komputera przenośnego. Towarzyszący mu Quindle Helper działa w zasobniku panelu i wyświetla ikonę oraz tytuł według własnego szablonu; kliknięcie otwiera widok baterii.</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>SKŁADNIA</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>

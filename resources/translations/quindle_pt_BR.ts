@@ -463,12 +463,32 @@
         <translation>Carga, potência, tempo restante, saúde, ciclos, idade e temperatura</translation>
     </message>
     <message>
+        <source>DATE</source>
+        <translation>DATA</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>PASTA</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARQUIVO</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>FORMATO</translation>
+    </message>
+    <message>
         <source>Nothing is sent anywhere unless you allow it</source>
         <translation>Nada é enviado a lugar algum sem permissão</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
         <translation>O Quindle mostra em uma única janela tudo o que as baterias de um computador portátil informam. Seu companheiro, o Quindle Helper, fica na bandeja do painel com um título feito a partir de um modelo próprio e um ícone; um clique nele abre a visão da bateria.</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>SINOPSE</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>

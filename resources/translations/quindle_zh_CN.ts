@@ -459,12 +459,32 @@
         <translation>电量、功率、剩余时间、健康度、循环次数、使用时间和温度</translation>
     </message>
     <message>
+        <source>DATE</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>格式</translation>
+    </message>
+    <message>
         <source>Nothing is sent anywhere unless you allow it</source>
         <translation>未经允许，不会向任何地方发送任何内容</translation>
     </message>
     <message>
         <source>Quindle shows everything that the batteries of your portable computer report, in one window. Its companion, Quindle Helper, sits in the tray of your panel with a title made from your own template and an icon; a click there opens the battery view.</source>
         <translation>Quindle 在一个窗口中显示便携式电脑的电池所报告的全部信息。配套程序 Quindle Helper 位于面板的系统托盘中，显示由您自己的模板生成的标题和一个图标；点击即可打开电池视图。</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>概要</translation>
     </message>
     <message>
         <source>Several batteries combined into one</source>

@@ -1,14 +1,21 @@
 // Every page of the application in a language that is longer than English.
 
+#include <set>
+
 #include <QApplication>
+#include <QDateTime>
 #include <QDialog>
+#include <QGridLayout>
 #include <QListWidget>
+#include <QTranslator>
 #include <gtest/gtest.h>
 
 #include "application/ApplicationProgram.h"
 #include "application/Sidebar.h"
 #include "application/snapshots/CompareDialog.h"
+#include "application/snapshots/SnapshotRows.h"
 #include "application/snapshots/SnapshotView.h"
+#include "preferences/panes/PaneView.h"
 #include "settings/ApplicationPreferences.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/FakePlatform.h"
@@ -19,6 +26,19 @@
 using namespace quindle;
 
 namespace {
+
+/// As long as dates are in Japanese in a font that has its characters.
+struct LongDates : QTranslator
+{
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        return latin(context) == latin("Dates") && latin(text) == latin("d MMM yyyy")
+                   ? latin("yyyy MMMM d, dddd")
+                   : QString();
+    }
+
+    bool isEmpty() const override { return false; }
+};
 
 struct TranslatedPagesTest : testing::Test
 {
@@ -103,6 +123,37 @@ TEST_F(TranslatedPagesTest, TheColumnsOfSnapshotsAreWideEnoughForTheirCaptions)
         EXPECT_GT(view.columnWidth(column), view.fontMetrics().horizontalAdvance(caption))
             << caption.toStdString();
     }
+}
+
+TEST_F(TranslatedPagesTest, TheColumnOfDatesIsWideEnoughForThoseOfTheLanguage)
+{
+    LongDates dates;
+    QCoreApplication::installTranslator(&dates);
+    const SnapshotView view;
+    const QString date = snapshotDateText(QDateTime(QDate(2028, 9, 28), QTime(20, 58)));
+    EXPECT_GT(view.columnWidth(0), view.fontMetrics().horizontalAdvance(date)) << date.toStdString();
+}
+
+TEST_F(TranslatedPagesTest, TheCaptionsOfSettingsFormOneColumn)
+{
+    ApplicationProgram program(computer.platform, preferences, helperBundle, true);
+    program.present();
+    program.window().showPage(latin("Settings"));
+    QApplication::processEvents();
+    const auto expectOneColumn = [&program] {
+        std::set<int> widths;
+        const auto panes = program.window().findChildren<PaneView*>();
+        for (const PaneView* pane : panes)
+            widths.insert(qobject_cast<QGridLayout*>(pane->layout())->cellRect(0, 0).width());
+        EXPECT_EQ(panes.size(), 3);
+        EXPECT_EQ(widths.size(), 1U) << testing::PrintToString(widths);
+    };
+    expectOneColumn();
+    QFont large = program.window().font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    program.window().setFont(large);
+    QApplication::processEvents();
+    expectOneColumn();
 }
 
 TEST_F(TranslatedPagesTest, ComparedSnapshots)

@@ -72,6 +72,23 @@ TEST(ChartPainter, DrawsALineAndLeavesItsGapsOpen)
     EXPECT_TRUE(isInk(colourAt(open, content, 850, 42)));
 }
 
+TEST(ChartPainter, LeavesTheAxesWhereTheyAreAmongTextsFromRightToLeft)
+{
+    ChartContent content = level({{0, 50}, {1000, 50}});
+    const QImage mirrored = painted([&](QPainter& painter) {
+        painter.setLayoutDirection(Qt::RightToLeft);
+        paintChart(painter, content, layoutOf(content), testLook());
+    });
+    const auto isEmptyBesideThePlot = [&](const QImage& image) {
+        // Without the labels below the axis of time.
+        const QRect beside(0, 0, static_cast<int>(layoutOf(content).plot.left()) - 1,
+                           static_cast<int>(layoutOf(content).plot.bottom()) - 20);
+        return image.copy(beside) == painted([](QPainter&) {}).copy(beside);
+    };
+    EXPECT_FALSE(isEmptyBesideThePlot(picture(content)));
+    EXPECT_FALSE(isEmptyBesideThePlot(mirrored)) << "the figures of the axis";
+}
+
 TEST(ChartPainter, DrawsAPointThatIsAlone)
 {
     ChartContent content = level({{0, 42}, {500, 42}, {1000, 42}});

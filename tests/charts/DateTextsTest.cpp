@@ -40,6 +40,16 @@ TEST(DateTexts, DatesLeaveTheWeekdayOut)
     EXPECT_EQ(dateText(day, japanese), QStringLiteral(u"2025\u5E749\u670814\u65E5"));
 }
 
+TEST(DateTexts, DigitsAreThoseOfTheFiguresBesideThem)
+{
+    const QLocale egyptian(QLocale::Arabic, QLocale::Egypt);
+    const QDate day(2025, 9, 14);
+    EXPECT_TRUE(clockText({18, 5, 59}, egyptian).startsWith(QStringLiteral("6:05")));
+    EXPECT_TRUE(dayText(day, egyptian).startsWith(QStringLiteral("14 ")));
+    EXPECT_TRUE(dateText(day, egyptian).startsWith(QStringLiteral("14 ")));
+    EXPECT_TRUE(dateText(day, egyptian).endsWith(QStringLiteral(" 2025")));
+}
+
 TEST(DateTexts, MomentsAreLocal)
 {
     const ScopedTimeZone zone("Asia/Tokyo");

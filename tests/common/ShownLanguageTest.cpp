@@ -66,4 +66,10 @@ TEST(ShownLanguageTest, LeavesEnglishNumbersAlone)
     EXPECT_EQ(withDecimalSign(latin("66.7")), latin("66.7"));
 }
 
+TEST(ShownLanguageTest, DatesHaveTheDigitsOfTheTitle)
+{
+    EXPECT_EQ(withAsciiDigits(u("\u0661\u0662:\u06F3\u06F9")), latin("12:39"));
+    EXPECT_EQ(withAsciiDigits(u("2025\u5E74\u00B2")), u("2025\u5E74\u00B2")) << "not a digit of a number";
+}
+
 } // namespace

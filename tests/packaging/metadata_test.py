@@ -111,6 +111,11 @@ class Metadata(unittest.TestCase):
         self.assertEqual(summaries["de"], self.entry("quindle")["Comment[de]"])
         page = gzip.decompress((self.root / "share/man/de/man1/quindle.1.gz").read_bytes()).decode()
         self.assertRegex(page, r"\nquindle \\- Ladung")
+        self.assertIn("\n.SH ÜBERSICHT\n.B quindle\n", page)
+        # What is put in place of an option's argument is called the same where the option is told.
+        self.assertIn(r'.RB [ "\-\-since \fIDATUM\fP" ]', page)
+        self.assertIn(r'.BI \-\-since " DATUM"', page)
+        self.assertIn(".SH FILES", page)
 
     def test_icons(self):
         icons = self.root / "share/icons/hicolor"

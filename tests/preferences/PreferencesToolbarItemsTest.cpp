@@ -145,4 +145,14 @@ TEST(TitlesWithMnemonics, TakeTheFirstFreeLetter)
                   QString::fromLatin1(row.marked));
 }
 
+TEST(TitlesWithMnemonics, LeaveOutLettersThatNoKeyHas)
+{
+    const QStringList japanese{QStringLiteral(u"\u4E00\u822C"), QStringLiteral(u"\u30E1\u30CB\u30E5\u30FC"),
+                               QStringLiteral(u"\uC5C5 Update")};
+    EXPECT_EQ(titlesWithMnemonics(japanese),
+              (QStringList{japanese.at(0), japanese.at(1), QStringLiteral(u"\uC5C5 &Update")}));
+    EXPECT_EQ(titlesWithMnemonics({QStringLiteral(u"\u0639\u0627\u0645")}),
+              QStringList{QStringLiteral(u"&\u0639\u0627\u0645")});
+}
+
 } // namespace

@@ -48,6 +48,27 @@ TEST_F(DesktopLookTest, NothingMovesWhereNothingShall)
     EXPECT_EQ(QApplication::style()->name(), style);
 }
 
+TEST_F(DesktopLookTest, LeavesWordsWholeWhereLettersJoin)
+{
+    const auto marksKeys = [] { return QApplication::style()->styleHint(QStyle::SH_UnderlineShortcut) != 0; };
+    const QString style = QApplication::style()->name();
+    ASSERT_TRUE(marksKeys());
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    {
+        DesktopLook arabic(DesktopLook::Colours::ByWishes);
+        EXPECT_FALSE(marksKeys());
+        EXPECT_GT(duration(), 0);
+        arabic.follow({.isStill = true});
+        EXPECT_EQ(duration(), 0);
+        arabic.follow({});
+        EXPECT_FALSE(marksKeys());
+        EXPECT_GT(duration(), 0);
+    }
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    EXPECT_TRUE(marksKeys());
+    QApplication::setStyle(style);
+}
+
 TEST_F(DesktopLookTest, LeavesTheColoursOfAToolkitThatHasItsOwn)
 {
     const QPalette before = QApplication::palette();

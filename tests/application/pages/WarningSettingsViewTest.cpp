@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QSpinBox>
 #include <gtest/gtest.h>
 
@@ -76,6 +77,14 @@ TEST_F(WarningSettingsViewTest, ShowsWhatIsStoredAndStoresNothingByThat)
     view->refresh();
     EXPECT_EQ(own.writes, QStringList());
     EXPECT_EQ(center.posted, QStringList());
+}
+
+TEST_F(WarningSettingsViewTest, PercentagesHaveTheDigitsOfTheTitleInEveryLocale)
+{
+    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+    show();
+    EXPECT_EQ(named<QSpinBox>("Percentage for nearly empty")->text(), latin("5%"));
+    QLocale::setDefault(QLocale::c());
 }
 
 TEST_F(WarningSettingsViewTest, SaysWhoElseWarns)
