@@ -44,8 +44,8 @@ public:
 private:
     struct Entry
     {
-        qint64 moment;
-        double percent;
+        qint64 moment = 0;
+        double percent = 0;
         std::optional<int> minutes;
     };
 
