@@ -52,12 +52,23 @@ void SettingsPortal::setBus(const QDBusConnection& bus)
     // From anybody: of the signal only the moment is used, and not more often than twice a second.
     m_bus.connect(QString(), path, settingsInterface, QStringLiteral("SettingChanged"), this,
                   SLOT(settingChanged()));
+    // One that the bus cannot start comes with the desktop, perhaps after the window.
+    const QString dbus = QStringLiteral("org.freedesktop.DBus");
+    m_bus.connect(dbus, QStringLiteral("/org/freedesktop/DBus"), dbus, QStringLiteral("NameOwnerChanged"),
+                  {service}, QString(), this, SLOT(ownerChanged(QString, QString, QString)));
     m_changes.request();
 }
 
 void SettingsPortal::settingChanged()
 {
     m_changes.request();
+}
+
+void SettingsPortal::ownerChanged(const QString& /*name*/, const QString& /*before*/, const QString& now)
+{
+    // Not of one that goes: the question would start it again.
+    if (!now.isEmpty())
+        m_changes.request();
 }
 
 void SettingsPortal::ask()

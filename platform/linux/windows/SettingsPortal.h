@@ -36,6 +36,7 @@ public:
 
 private Q_SLOTS:
     void settingChanged();
+    void ownerChanged(const QString& name, const QString& before, const QString& now);
 
 private:
     void ask();

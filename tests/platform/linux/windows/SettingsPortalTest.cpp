@@ -110,6 +110,20 @@ TEST_F(SettingsPortalTest, AStormOfSignalsCausesTwoQuestionsASecond)
     EXPECT_LE(desktop.questions, 3);
 }
 
+TEST_F(SettingsPortalTest, OneThatComesLaterIsAsked)
+{
+    QDBusConnection connection = connect("settings-portal-test");
+    portal.setBus(connection);
+    const QString name = QStringLiteral("org.freedesktop.DBus");
+    const QDBusPendingCall last = connection.asyncCall(
+        QDBusMessage::createMethodCall(name, QStringLiteral("/"), name, QStringLiteral("GetId")));
+    ASSERT_TRUE(comesTrue([&] { return last.isFinished(); }));
+    FakeSettings desktop(connect("fake-settings"));
+    desktop.settings[QStringLiteral("org.freedesktop.appearance")].insert(QStringLiteral("color-scheme"), 1U);
+    EXPECT_TRUE(comesTrue([&] { return heard.size() == 1; }));
+    EXPECT_TRUE(!heard.empty() && heard.back().isDark);
+}
+
 TEST_F(SettingsPortalTest, WithoutAPortalOrABusNothingIsWished)
 {
     portal.setBus(QDBusConnection(QString()));
