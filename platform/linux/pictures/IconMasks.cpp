@@ -41,7 +41,8 @@ Mask takeMask(QByteArrayView& rest)
     const qsizetype area = qsizetype{width} * height;
     if (!isPlain || width != height || width < 1 || width > largestSide || rest.size() < area)
         return {};
-    Mask mask{width, height, std::vector<std::uint8_t>(rest.begin(), rest.begin() + area)};
+    Mask mask = blankMask(width, height);
+    std::copy_n(rest.begin(), area, mask.coverage.begin());
     rest = rest.sliced(area);
     return mask;
 }
