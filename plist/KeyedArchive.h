@@ -20,10 +20,10 @@ struct ArchivedRecords
 using ReadingProgress = std::function<void(int percent)>;
 
 /// The records in a keyed archive, binary or XML, whose root is an array of dictionaries with text keys.
-/// Values come back as property-list values (see plist/PropertyList.h), dates in UTC, nulls as invalid ones; a
-/// number that is a key of an inner dictionary becomes a text. With any damage, an unknown class, or an element that is
-/// no such dictionary there are no records. Time and memory grow with the size of the bytes, whatever they
-/// say.
+/// Values come back as property-list values (see plist/PropertyList.h), dates in UTC, nulls as invalid ones;
+/// a number that is a key of an inner dictionary becomes a text. With any damage, an unknown class, or an
+/// element that is no such dictionary there are no records. Time and memory grow with the size of the bytes,
+/// whatever they say.
 ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes, const ReadingProgress& progress = {});
 
 /// A binary keyed archive of `records`, each a QVariantMap, that the reader above and the platform's own

@@ -42,8 +42,9 @@ TEST_F(ShownTextsTest, AreTranslatedForPeople)
     make();
     const TestTranslation german(someGerman());
     const QString view = shown(FactPlace::View);
-    for (const char* line : {"Entlädt mit|12,4 W", "Zeit bis leer|3:42", "K750 Keyboard|Niedrig",
-                             "Temperature|30,0 °C", "Health|83,9 % · Gut", "Age|306 Tage", "1\u202f293 Zyklen"})
+    for (const char* line :
+         {"Entlädt mit|12,4 W", "Zeit bis leer|3:42", "K750 Keyboard|Niedrig", "Temperature|30,0 °C",
+          "Health|83,9 % · Gut", "Age|306 Tage", "1\u202f293 Zyklen"})
         EXPECT_TRUE(view.contains(u(line))) << line << " in\n" << view.toStdString();
     EXPECT_EQ(fact(FactId::BatteryAge).toolTip, latin("Hergestellt: 2014-03-02"));
     EXPECT_TRUE(shown(FactPlace::Menu).contains(u("Ladung|66,7 % · 4\u202f000 von 6\u202f000 mAh")))
