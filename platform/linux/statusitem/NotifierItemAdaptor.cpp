@@ -34,7 +34,10 @@ void NotifierItemAdaptor::announceAll()
 {
     Q_EMIT NewTitle();
     Q_EMIT NewIcon();
+    Q_EMIT NewAttentionIcon();
+    Q_EMIT NewStatus(status());
     Q_EMIT NewToolTip();
+    Q_EMIT XAyatanaNewLabel(m_announced.label, m_announced.labelGuide);
 }
 
 void NotifierItemAdaptor::announce(const Presentation& last)

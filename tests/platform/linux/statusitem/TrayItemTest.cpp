@@ -1,6 +1,7 @@
 #include "platform/linux/statusitem/TrayItem.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusServer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -10,6 +11,7 @@
 #include "platform/linux/statusitem/StatusPictures.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 
 using namespace quindle;
 
@@ -26,24 +28,30 @@ public:
     {
         connect(m_server, &QDBusServer::newConnection, this, [this](QDBusConnection connection) {
             connection.connect(QString(), QLatin1String(itemObjectPath),
-                               QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("NewIcon"), this,
-                               SLOT(hearIcon()));
+                               QStringLiteral("org.kde.StatusNotifierItem"), QString(), this,
+                               SLOT(hear(QDBusMessage)));
         });
     }
 
     QString address() const { return m_server->address(); }
 
-    int icons = 0;
+    QStringList heard; ///< names and texts of the signals
 
 private Q_SLOTS:
-    void hearIcon() { ++icons; }
+    void hear(const QDBusMessage& signal)
+    {
+        QStringList words{signal.member()};
+        for (const QVariant& argument : signal.arguments())
+            words << argument.toString();
+        heard << words.join(u' ');
+    }
 
 private:
     QDBusServer* m_server;
 };
 
-// A program that asked before the item was offered got an error, and showed no icon.
-TEST(TrayItem, AnnouncesItsIconWhenItIsOffered)
+// A program that asked before the item was offered got an error, showed no icon, and missed an empty battery.
+TEST(TrayItem, AnnouncesEverythingWhenItIsOffered)
 {
     const QTemporaryDir folder;
     const HearingHost host(folder.filePath(QStringLiteral("socket")));
@@ -52,11 +60,18 @@ TEST(TrayItem, AnnouncesItsIconWhenItIsOffered)
     program.write("#!/bin/sh\necho '" + host.address().toLatin1() + "'\nexec sleep 60\n");
     program.close();
     ASSERT_TRUE(program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    const Presentation presentation;
+    Presentation presentation;
+    presentation.needsAttention = true;
+    presentation.label = latin("9%");
+    presentation.labelGuide = latin("100%");
     StatusPictures pictures{QString()};
     TrayItem tray(program.fileName(), presentation, pictures, {}, {});
     tray.start();
-    EXPECT_TRUE(comesTrue([&] { return host.icons > 0; }));
+    const QStringList everything{latin("NewTitle"),         latin("NewIcon"),
+                                 latin("NewAttentionIcon"), latin("NewStatus NeedsAttention"),
+                                 latin("NewToolTip"),       latin("XAyatanaNewLabel 9% 100%")};
+    comesTrue([&] { return host.heard.size() >= everything.size(); });
+    EXPECT_EQ(host.heard, everything);
 }
 
 } // namespace
