@@ -26,11 +26,14 @@ bool isKnown(const PortalSettings& settings, const char* key)
     return value(settings, shared, key).isValid();
 }
 
-/// Older portals know nothing but the theme's name: "Adwaita-dark", "HighContrastInverse".
-bool isDarkTheme(const QString& theme)
+/// Older portals know nothing but the theme's name, such as "Adwaita-dark". The inverse theme of strong
+/// contrast is dark, whatever the scheme was before it.
+bool isDark(const PortalSettings& settings, const QString& theme)
 {
-    return theme.endsWith(QStringLiteral("-dark"), Qt::CaseInsensitive) ||
-           theme == QStringLiteral("HighContrastInverse");
+    if (theme == QStringLiteral("HighContrastInverse"))
+        return true;
+    return isKnown(settings, "color-scheme") ? isWished(settings, "color-scheme")
+                                             : theme.endsWith(QStringLiteral("-dark"), Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -45,14 +48,11 @@ DesktopWishes wishesFrom(const PortalSettings& settings)
     const QString theme = value(settings, interfaceOfGtk, "gtk-theme").toString();
     const QVariant animations = value(settings, interfaceOfGtk, "enable-animations");
     DesktopWishes wishes;
-    wishes.isDark =
-        isKnown(settings, "color-scheme") ? isWished(settings, "color-scheme") : isDarkTheme(theme);
+    wishes.isDark = isDark(settings, theme);
     wishes.hasStrongContrast = isWished(settings, "contrast") ||
                                value(settings, accessOfGtk, "high-contrast").toBool() ||
                                theme.startsWith(QStringLiteral("HighContrast"));
     wishes.isStill = isWished(settings, "reduced-motion") || (animations.isValid() && !animations.toBool());
-    // The inverse theme of strong contrast is dark, whatever the scheme was before it.
-    wishes.isDark = wishes.isDark || theme == QStringLiteral("HighContrastInverse");
     return wishes;
 }
 
