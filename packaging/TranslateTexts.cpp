@@ -1,7 +1,8 @@
-// quindle-translate-texts TRANSLATIONS FILE RESULT [LANGUAGE]: FILE with its texts in the languages that the
-// folder TRANSLATIONS has a .qm for. In a desktop entry (.desktop) and in AppStream's metainfo (.xml)
-// translations stand behind the English texts; a manual page gets in LANGUAGE the line by which it is found,
-// and what its synopsis consists of. A text that is not marked here is an error. Part of the build only.
+// quindle-translate-texts TRANSLATIONS FILE RESULT [LANGUAGE]: writes FILE with translated texts to RESULT.
+// The folder TRANSLATIONS has a .qm for each language. In a desktop entry (.desktop) and in AppStream's
+// metainfo (.xml) each English text is followed by its translations. A manual page is translated into
+// LANGUAGE, but only the description in its NAME section, the heading of its synopsis and the names of
+// arguments. A text that is not marked here is an error. Part of the build only.
 
 #include <algorithm>
 #include <cstdio>
@@ -126,7 +127,7 @@ QString withName(const QString& file, const Language& language)
                           : QString(file).replace(found.capturedStart(2), found.capturedLength(2), text);
 }
 
-/// The synopsis' caption, and what stands for an argument there and wherever options are told.
+/// With the heading of the synopsis and, in the whole page, the names of arguments translated.
 QString withSynopsis(const QString& file, const Language& language)
 {
     static const QRegularExpression word(
