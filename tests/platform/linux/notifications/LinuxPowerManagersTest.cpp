@@ -1,5 +1,7 @@
 #include "platform/linux/notifications/LinuxPowerManagers.h"
 
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "tests/platform/linux/notifications/SessionBusOfTest.h"
@@ -21,16 +23,11 @@ QString answerOf(LinuxPowerManagers& managers)
     return answer;
 }
 
-TEST(LinuxPowerManagersTest, KnowsTheOnesThatWarn)
+// Programs that only keep the computer awake take this name too.
+TEST(LinuxPowerManagersTest, IsNotAnyProgramThatKeepsTheComputerAwake)
 {
-    const auto desktop = [](const char* name) { return desktopThatWarns({latin(":1.0"), latin(name)}); };
-    EXPECT_EQ(desktop("org.gnome.SettingsDaemon.Power"), latin("GNOME"));
-    EXPECT_EQ(desktop("org.cinnamon.SettingsDaemon.Power"), latin("Cinnamon"));
-    EXPECT_EQ(desktop("org.kde.Solid.PowerManagement"), latin("Plasma"));
-    EXPECT_EQ(desktop("org.xfce.PowerManager"), latin("Xfce"));
-    EXPECT_EQ(desktop("org.mate.PowerManager"), latin("MATE"));
-    EXPECT_EQ(desktop("org.lxqt.lxqt-powermanagement"), latin("LXQt"));
-    EXPECT_EQ(desktop("org.freedesktop.PowerManagement"), QString());
+    EXPECT_EQ(desktopThatWarns({latin(":1.0"), latin("org.freedesktop.PowerManagement")}), QString());
+    EXPECT_EQ(desktopThatWarns({latin(":1.0"), latin("org.xfce.PowerManager")}), latin("Xfce"));
 }
 
 TEST(LinuxPowerManagersTest, FindsThemOnTheSessionBusAsTheyComeAndGo)
@@ -43,6 +40,25 @@ TEST(LinuxPowerManagersTest, FindsThemOnTheSessionBusAsTheyComeAndGo)
     EXPECT_EQ(answerOf(managers), latin("Xfce"));
     ASSERT_TRUE(xfce.unregisterService(latin("org.xfce.PowerManager")));
     EXPECT_EQ(answerOf(managers), QString());
+}
+
+TEST(LinuxPowerManagersTest, FindsEachByTheNameThatItTakes)
+{
+    const SessionBusOfTest bus;
+    LinuxPowerManagers managers;
+    for (const auto& [name, desktop] : {
+             std::pair{"org.gnome.SettingsDaemon.Power", "GNOME"},
+             std::pair{"org.cinnamon.SettingsDaemon.Power", "Cinnamon"},
+             std::pair{"org.kde.Solid.PowerManagement", "Plasma"},
+             std::pair{"org.xfce.PowerManager", "Xfce"},
+             std::pair{"org.mate.PowerManager", "MATE"},
+             std::pair{"org.lxqt.lxqt-powermanagement", "LXQt"},
+         }) {
+        QDBusConnection manager = bus.program(desktop);
+        ASSERT_TRUE(manager.registerService(latin(name)));
+        EXPECT_EQ(answerOf(managers), latin(desktop));
+        ASSERT_TRUE(manager.unregisterService(latin(name)));
+    }
 }
 
 TEST(LinuxPowerManagersTest, FindsThemAfterTheBusHasComeBack)
