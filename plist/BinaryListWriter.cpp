@@ -38,6 +38,18 @@ void writeNumber(quint64 number, int width, char* room)
         room[index - 1] = static_cast<char>(number & 0xff);
 }
 
+/// Whether a container names only nodes before its own.
+bool namesOnlyEarlier(const PropertyListGraph& graph, const PropertyListGraph::Element& element,
+                      PropertyListGraph::Node node)
+{
+    bool isSo = true;
+    const bool isDictionary = element.kind == PropertyListGraph::Kind::Dictionary;
+    for (quint64 index = 0; index < element.count && isSo; ++index)
+        isSo = isDictionary ? graph.key(element, index) < node && graph.entry(element, index) < node
+                            : graph.item(element, index) < node;
+    return isSo;
+}
+
 /// The power of two that says how many bytes a number takes.
 int widthPower(quint64 number)
 {
@@ -49,6 +61,50 @@ int widthPower(quint64 number)
 }
 
 } // namespace
+
+bool BinaryListWriter::resume(const PropertyListGraph& graph, Node count)
+{
+    if (graph.referenceWidth() != nodeWidth)
+        return false;
+    auto end = static_cast<quint64>(m_bytes.size());
+    m_offsets.reserve(count);
+    for (Node node = 0; node < count; ++node) {
+        const PropertyListGraph::Element element = graph.element(node);
+        if (element.kind == PropertyListGraph::Kind::Invalid || graph.begin(node) != end)
+            return false;
+        if (element.kind == PropertyListGraph::Kind::Array ||
+            element.kind == PropertyListGraph::Kind::Dictionary) {
+            if (!namesOnlyEarlier(graph, element, node))
+                return false;
+        } else
+            know(graph.value(element), node);
+        m_offsets.push_back(end);
+        end = graph.end(element);
+    }
+    m_bytes = graph.bytes().first(static_cast<qsizetype>(end));
+    return true;
+}
+
+/// The first of equal nodes is the one that is used again.
+void BinaryListWriter::know(const QVariant& value, Node node)
+{
+    const auto insert = [node](auto& known, const auto& key) {
+        if (!known.contains(key))
+            known.insert(key, node);
+    };
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return insert(m_booleans, value.toBool());
+    case QMetaType::LongLong:
+        return insert(m_integers, value.toLongLong());
+    case QMetaType::Double:
+        return insert(m_reals, std::bit_cast<quint64>(value.toDouble()));
+    case QMetaType::QString:
+        return insert(m_texts, value.toString());
+    default:
+        return;
+    }
+}
 
 BinaryListWriter::Node BinaryListWriter::addBoolean(bool value)
 {

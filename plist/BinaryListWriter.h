@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QString>
 
+#include "plist/PropertyListGraph.h"
+
 namespace quindle {
 
 /// Writes a property list in the binary encoding, from the leaves up: a container names nodes that were added
@@ -16,6 +18,10 @@ class BinaryListWriter
 public:
     using Node = quint32;
     using Entries = std::vector<std::pair<Node, Node>>;
+
+    /// Starts with the first nodes of a list instead of none. False, and nothing is usable, unless each of
+    /// them lies behind the one before and names none but earlier ones, as this class writes them.
+    bool resume(const PropertyListGraph& graph, Node count);
 
     Node addBoolean(bool value);
     Node addInteger(qint64 value);
@@ -30,6 +36,7 @@ public:
     QByteArray finish(Node root);
 
 private:
+    void know(const QVariant& value, Node node);
     Node begin();
     char* grow(qsizetype size);
     void put(quint64 number, int width);

@@ -33,12 +33,8 @@ constexpr std::array namedClasses{
     NamedClass{"NSNull", ArchivedClass::Null},
 };
 
-} // namespace
-
-ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes, const ReadingProgress& progress)
+ArchivedRecords readBy(Unarchiver unarchiver, const ReadingProgress& progress)
 {
-    const PropertyListGraph graph(bytes);
-    Unarchiver unarchiver(graph);
     ArchivedRecords result;
     if (!unarchiver.readRecords(result.records, progress))
         // Never both: what was read before a fault is not used.
@@ -46,9 +42,31 @@ ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes, const ReadingPr
     return result;
 }
 
+} // namespace
+
+ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes, const ReadingProgress& progress)
+{
+    const PropertyListGraph graph(bytes);
+    return readBy(Unarchiver(graph), progress);
+}
+
+ArchivedRecords outlineOfKeyedArchive(const QByteArray& bytes, const QStringList& keys)
+{
+    const PropertyListGraph graph(bytes);
+    return readBy(Unarchiver(graph, keys), {});
+}
+
 QByteArray keyedArchive(const QVariantList& records)
 {
     return KeyedArchiver().archive(records);
+}
+
+QByteArray keyedArchiveWith(const QByteArray& archive, const QVariantMap& record)
+{
+    KeyedArchiver archiver;
+    if (archiver.resume(PropertyListGraph(archive)))
+        return archiver.archive({record});
+    return keyedArchive(recordsFromKeyedArchive(archive).records + QVariantList{record});
 }
 
 ArchivedClass archivedClass(const PropertyListGraph& graph, const PropertyListGraph::Element& name)

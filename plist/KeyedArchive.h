@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include "plist/PropertyListGraph.h"
@@ -26,10 +27,18 @@ using ReadingProgress = std::function<void(int percent)>;
 /// whatever they say.
 ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes, const ReadingProgress& progress = {});
 
+/// The same, but dictionaries come with only those of their entries that have one of these keys. The fault is
+/// the same too.
+ArchivedRecords outlineOfKeyedArchive(const QByteArray& bytes, const QStringList& keys);
+
 /// A binary keyed archive of `records`, each a QVariantMap, that the reader above and the platform's own
 /// reader take. Property-list values come back as they are, dates to the millisecond; an invalid value or
 /// date becomes a null.
 QByteArray keyedArchive(const QVariantList& records);
+
+/// An archive without fault with one more record at its end: the bytes that `keyedArchive` gives for all of
+/// them, without reading the others if it wrote the archive itself.
+QByteArray keyedArchiveWith(const QByteArray& archive, const QVariantMap& record);
 
 /// The kinds of objects that archives of snapshot records hold.
 enum class ArchivedClass { Unknown, Array, Set, Dictionary, Text, Data, Date, Number, Null };

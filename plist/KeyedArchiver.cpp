@@ -39,10 +39,15 @@ bool isSameText(const QString& left, const QString& right)
 
 QByteArray KeyedArchiver::archive(const QVariantList& records)
 {
-    keep(name(missingObject));
-    // The root comes first by custom; it is known only when what it holds has been written.
-    const Reference root = keep(0);
-    const Node items = m_list.addArray(referencesTo(records));
+    if (m_objects.empty()) {
+        keep(name(missingObject));
+        // The root comes first by custom; it is known only when what it holds has been written.
+        keep(0);
+    }
+    constexpr Reference root = 1;
+    const Nodes added = referencesTo(records);
+    m_items.insert(m_items.end(), added.cbegin(), added.cend());
+    const Node items = m_list.addArray(m_items);
     m_objects[root] = instance("NSMutableArray", {{name("NS.objects"), items}});
     const Node top = m_list.addDictionary({{name("root"), referenceTo(root)}});
     const Node objects = m_list.addArray(m_objects);
@@ -132,15 +137,19 @@ KeyedArchiver::Reference KeyedArchiver::keepMap(const QVariantMap& map)
     return keepContainer("NSDictionary", keys, values);
 }
 
+/// What tells a container from others.
+QByteArray KeyedArchiver::containerContents(std::optional<Node> keys, const Nodes& items)
+{
+    // No list of keys is the first node.
+    const Node list = keys.value_or(0);
+    return bytesOf(items.data(), items.size()) + bytesOf(&list, 1);
+}
+
 /// With a list of keys, or without.
 KeyedArchiver::Reference KeyedArchiver::keepContainer(const char* className, std::optional<Node> keys,
                                                       const Nodes& items)
 {
-    // No list of keys is the first node.
-    const Node list = keys.value_or(0);
-    QByteArray contents = bytesOf(items.data(), items.size());
-    contents += bytesOf(&list, 1);
-    Reference& known = m_containers[contents];
+    Reference& known = m_containers[containerContents(keys, items)];
     if (known != 0)
         return known;
     BinaryListWriter::Entries entries;
@@ -162,12 +171,17 @@ KeyedArchiver::Node KeyedArchiver::keyList(const QVariantMap& map)
     Nodes references;
     for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
         references.push_back(referenceTo(keepText(entry.key())));
+    return rememberKeys(map.keys(), m_list.addArray(references));
+}
+
+KeyedArchiver::Node KeyedArchiver::rememberKeys(const QStringList& keys, Node node)
+{
     // A history has a handful of them; in any other archive searching them all would take ever longer.
     constexpr std::size_t most = 64;
     if (m_keyLists.size() == most)
         m_keyLists.clear();
-    m_keyLists.push_back({map.keys(), m_list.addArray(references)});
-    return m_keyLists.back().node;
+    m_keyLists.push_back({keys, node});
+    return node;
 }
 
 KeyedArchiver::Reference KeyedArchiver::classNamed(const char* literal)
@@ -175,6 +189,9 @@ KeyedArchiver::Reference KeyedArchiver::classNamed(const char* literal)
     const auto known = m_classes.constFind(literal);
     if (known != m_classes.cend())
         return *known;
+    const auto resumed = m_resumedClasses.constFind(QLatin1String(literal));
+    if (resumed != m_resumedClasses.cend())
+        return *m_classes.insert(literal, *resumed);
     Nodes classes;
     for (const QString& ancestor : ancestry(QString::fromLatin1(literal)))
         classes.push_back(m_list.addText(ancestor));

@@ -94,6 +94,19 @@ public:
 
     bool isText(const Element& element, QLatin1StringView text) const;
 
+    // How the list is laid out, for a writer that continues it.
+
+    /// The binary encoding.
+    const QByteArray& bytes() const { return m_bytes; }
+
+    /// In bytes, of the numbers by which containers name nodes.
+    quint64 referenceWidth() const { return m_referenceWidth; }
+
+    /// Where a node begins, and where one that is not Invalid ends; beyond the list for one that there is
+    /// not.
+    quint64 begin(Node node) const { return node < m_count ? offsetOf(node) : m_size; }
+    quint64 end(const Element& element) const { return element.start + byteLength(element); }
+
 private:
     void readTrailer();
     Element elementAt(quint64 offset) const;

@@ -51,9 +51,10 @@ const char* const tooDeep = "its objects are nested too deep";
 
 } // namespace
 
-Unarchiver::Unarchiver(const PropertyListGraph& graph)
+Unarchiver::Unarchiver(const PropertyListGraph& graph, std::optional<QStringList> kept)
     : m_graph(graph)
     , m_limits(graph.size())
+    , m_kept(std::move(kept))
 {
 }
 
@@ -219,6 +220,8 @@ bool Unarchiver::readDictionary(const Element& element, int level, Object& objec
         Object value;
         if (!this->object((*values)[key.index], level + 1, value) || !put(value, object.extent))
             return false;
+        if (!key.isKept)
+            continue;
         // In sorted order, so each entry goes to the end without a search.
         if (key.isRepeated)
             map.rbegin()->second = std::move(value.value);
@@ -276,7 +279,9 @@ bool Unarchiver::readKey(quint64 reference, int level, KeyList& list)
     if (!isText && !isNumber(key.value))
         return false;
     list.hasNumbers = list.hasNumbers || !isText;
-    list.sorted.push_back({isText ? key.value.toString() : numberDescription(key.value), list.sorted.size()});
+    const QString text = isText ? key.value.toString() : numberDescription(key.value);
+    list.sorted.push_back(
+        {.text = text, .index = list.sorted.size(), .isKept = !m_kept || m_kept->contains(text)});
     list.weight += key.extent.weight;
     return true;
 }

@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include "plist/KeyedArchive.h"
@@ -20,7 +21,8 @@ namespace quindle {
 class Unarchiver
 {
 public:
-    explicit Unarchiver(const PropertyListGraph& graph);
+    /// With `kept`, dictionaries come without their other entries, which are checked all the same.
+    explicit Unarchiver(const PropertyListGraph& graph, std::optional<QStringList> kept = std::nullopt);
 
     /// False, with `fault` set, when the root is no array of dictionaries with text keys.
     bool readRecords(QVariantList& records, const ReadingProgress& progress = {});
@@ -44,6 +46,7 @@ private:
         QString text;
         quint64 index = 0;       ///< of its value
         bool isRepeated = false; ///< the one before it is equal
+        bool isKept = true;
     };
 
     /// Keys of a dictionary in the order in which a map holds them, of equal ones the last one last. Records
@@ -86,6 +89,7 @@ private:
 
     const PropertyListGraph& m_graph;
     PropertyListLimits m_limits;
+    std::optional<QStringList> m_kept; ///< keys
     Element m_objects;
     std::vector<quint32> m_positions; ///< in m_read, by reference; or one of the two marks
     std::deque<Object> m_read;        ///< all but plain numbers, which are as cheap to read again

@@ -17,25 +17,28 @@ namespace {
 /// Writers hold the lock while they read and write a file, which takes seconds for a century.
 constexpr std::chrono::milliseconds archivePatience(15000);
 
-/// A file that a program left unfinished has records of neither kind; one that cannot be read may be whole.
-struct Found
-{
-    ArchivedRecords archived;
-    int error = 0; ///< of reading; errno's value
-};
-
-Found recordsIn(const QByteArray& file, const ReadingProgress& progress = {})
+FileContents contentsOf(const QByteArray& file)
 {
     constexpr qint64 largestFile =
         qint64{1024} * 1024 * 1024; // bytes; a century of records takes a fifth of it
-    const FileContents contents = fileContents(pathText(file), largestFile);
-    // Nothing was saved yet; that is no fault.
-    if (contents.error == ENOENT || contents.error == ENOTDIR)
-        return {};
-    if (contents.error != 0)
-        return {.archived = {{}, QStringLiteral("it ") + readingFault(contents.error)},
-                .error = contents.error};
-    return {.archived = recordsFromKeyedArchive(contents.bytes, progress), .error = 0};
+    return fileContents(pathText(file), largestFile);
+}
+
+/// Nothing was saved yet; that is no fault.
+bool isMissing(const FileContents& contents)
+{
+    return contents.error == ENOENT || contents.error == ENOTDIR;
+}
+
+QString faultOf(const FileContents& contents)
+{
+    return QStringLiteral("it ") + readingFault(contents.error);
+}
+
+/// What says when it was made, and of which battery.
+QStringList identifyingKeys()
+{
+    return {QStringLiteral("Data.SnapshotDate"), QStringLiteral("Battery.BatteryID")};
 }
 
 std::optional<FileLock> lockOnArchive(const QByteArray& file)
@@ -53,7 +56,11 @@ SnapshotArchive::SnapshotArchive(const QString& path)
 
 ArchivedRecords SnapshotArchive::read(const ReadingProgress& progress) const
 {
-    ArchivedRecords archived = recordsIn(m_file, progress).archived;
+    const FileContents contents = contentsOf(m_file);
+    if (isMissing(contents))
+        return {};
+    ArchivedRecords archived = contents.error != 0 ? ArchivedRecords{{}, faultOf(contents)}
+                                                   : recordsFromKeyedArchive(contents.bytes, progress);
     if (!archived.fault.isEmpty())
         archived.fault = m_path + QStringLiteral(": ") + archived.fault;
     return archived;
@@ -61,40 +68,64 @@ ArchivedRecords SnapshotArchive::read(const ReadingProgress& progress) const
 
 StoreOutcome SnapshotArchive::change(const Change& change)
 {
+    return rewrite([&change](const std::optional<QByteArray>& bytes) {
+        const ArchivedRecords archived = bytes ? recordsFromKeyedArchive(*bytes) : ArchivedRecords();
+        const auto records = change(archived.records);
+        return Rewritten{.bytes = records ? std::optional(keyedArchive(*records)) : std::nullopt,
+                         .wasDamaged = !archived.fault.isEmpty()};
+    });
+}
+
+StoreOutcome SnapshotArchive::rewrite(const Rewriting& rewriting)
+{
     if (const int error = makeFolder(folderOf(m_file)))
         return writingFault(m_path, error);
     const auto lock = lockOnArchive(m_file);
     if (!lock)
         return writingFault(m_path, errno);
     // Under the lock, so that no other writer's record is lost.
-    const Found found = recordsIn(m_file);
-    if (found.error != 0)
-        return readingFaultOf(m_path, found.error, found.archived.fault);
-    const auto records = change(found.archived.records);
+    const FileContents contents = contentsOf(m_file);
+    if (contents.error != 0 && !isMissing(contents))
+        return readingFaultOf(m_path, contents.error, faultOf(contents));
+    const Rewritten rewritten = rewriting(isMissing(contents) ? std::nullopt : std::optional(contents.bytes));
     // Nothing to change: the file stays as it is, to the byte.
-    if (!records)
+    if (!rewritten.bytes)
         return {};
     StoreOutcome outcome;
-    if (!found.archived.fault.isEmpty())
+    if (rewritten.wasDamaged)
         outcome = setAside();
     if (!outcome.isGood())
         return outcome;
     // Safe now: their writer no longer holds the lock.
     removeLeftovers(m_file);
-    if (const int error = replaceFile(m_file, keyedArchive(*records)))
+    if (const int error = replaceFile(m_file, *rewritten.bytes))
         outcome = {.fault = writingFault(m_path, error).fault, .notice = outcome.notice, .error = error};
     return outcome;
 }
 
 StoreOutcome SnapshotArchive::append(const QVariantMap& record)
 {
-    return change([&](const QVariantList& records) { return records + QVariantList{record}; });
+    return appendWhere(record, [](const QVariantList&) { return true; });
 }
 
 StoreOutcome SnapshotArchive::appendIfDue(const QVariantMap& record)
 {
-    return change([&](const QVariantList& records) {
-        return isSnapshotDue(records, record) ? std::optional(records + QVariantList{record}) : std::nullopt;
+    return appendWhere(record,
+                       [&record](const QVariantList& records) { return isSnapshotDue(records, record); });
+}
+
+/// Ten years of records are only copied, so only what identifies them is read.
+StoreOutcome SnapshotArchive::appendWhere(const QVariantMap& record,
+                                          const std::function<bool(const QVariantList& records)>& isDue)
+{
+    return rewrite([&](const std::optional<QByteArray>& bytes) -> Rewritten {
+        const ArchivedRecords outline =
+            bytes ? outlineOfKeyedArchive(*bytes, identifyingKeys()) : ArchivedRecords();
+        if (!isDue(outline.records))
+            return {};
+        if (!bytes || !outline.fault.isEmpty())
+            return {.bytes = keyedArchive({record}), .wasDamaged = bytes.has_value()};
+        return {.bytes = keyedArchiveWith(*bytes, record)};
     });
 }
 

@@ -43,6 +43,17 @@ public:
     StoreOutcome removeAll();
 
 private:
+    struct Rewritten
+    {
+        std::optional<QByteArray> bytes; ///< nothing when the file stays as it is
+        bool wasDamaged = false;
+    };
+    /// Of what the file holds; nothing where there is none.
+    using Rewriting = std::function<Rewritten(const std::optional<QByteArray>& bytes)>;
+
+    StoreOutcome rewrite(const Rewriting& rewriting);
+    StoreOutcome appendWhere(const QVariantMap& record,
+                             const std::function<bool(const QVariantList& records)>& isDue);
     StoreOutcome setAside() const;
 
     QString m_path;

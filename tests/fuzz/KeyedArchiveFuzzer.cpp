@@ -1,5 +1,6 @@
 // Reads any bytes as a saved history: whatever they are, the result is records or a fault. Records are
 // written again; that must read as the same records, and be the same bytes when written once more.
+// A record is added too.
 
 #include <cstddef>
 #include <cstdint>
@@ -45,6 +46,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const quindle::ArchivedRecords again = quindle::recordsFromKeyedArchive(written);
     if (!again.fault.isEmpty() || again.records.size() != read.records.size() ||
         quindle::keyedArchive(again.records) != written)
+        std::abort();
+    // With a record more, whether the archive is continued or written anew.
+    const quindle::ArchivedRecords longer =
+        quindle::recordsFromKeyedArchive(quindle::keyedArchiveWith(bytes, {}));
+    if (!longer.fault.isEmpty() || quindle::keyedArchive(longer.records) !=
+                                       quindle::keyedArchive(read.records + QVariantList{QVariantMap()}))
         std::abort();
     return 0;
 }
