@@ -3,16 +3,18 @@
 #include <utility>
 
 #include <QApplication>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
 
 #include "widgets/PaletteMix.h"
+#include "widgets/PlainText.h"
 
 namespace quindle {
 
 namespace {
 
-/// The toolkit's style with another answer to two questions.
+/// The toolkit's style with another answer to two questions, and wrapped text laid out anew.
 class WindowStyle : public QProxyStyle
 {
 public:
@@ -31,6 +33,24 @@ public:
         if (hint == SH_UnderlineShortcut && QApplication::isRightToLeft())
             return 0;
         return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool isEnabled, const QString& text, QPalette::ColorRole role) const override
+    {
+        // The toolkit begins the first of several lines too far in, by a blank, where they run right to left.
+        const bool isParagraph = (flags & Qt::TextWordWrap) && !(flags & Qt::TextShowMnemonic);
+        if (!isParagraph || !QApplication::isRightToLeft()) {
+            QProxyStyle::drawItemText(painter, rect, flags, palette, isEnabled, text, role);
+            return;
+        }
+        const bool isForced = flags & Qt::TextForceRightToLeft;
+        const auto direction = isForced || text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+        const QPen pen = painter->pen();
+        if (role != QPalette::NoRole)
+            painter->setPen(palette.color(role));
+        drawPlainParagraph(*painter, rect, Qt::Alignment(flags), direction, text);
+        painter->setPen(pen);
     }
 
 private:

@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QTextLayout>
 
 namespace quindle {
 
@@ -29,6 +30,27 @@ QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignmen
     QRect covered;
     painter.drawText(rect, flags, line, &covered);
     return covered;
+}
+
+void drawPlainParagraph(QPainter& painter, const QRect& rect, Qt::Alignment alignment,
+                        Qt::LayoutDirection direction, const QString& text)
+{
+    QTextLayout layout(QString(text).replace(u'\n', QChar::LineSeparator), painter.font(), painter.device());
+    QTextOption option(alignment & Qt::AlignHorizontal_Mask);
+    option.setTextDirection(direction);
+    option.setWrapMode(QTextOption::WordWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    qreal height = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(rect.width());
+        line.setPosition({0, height});
+        height += line.height() + painter.fontMetrics().leading();
+    }
+    layout.endLayout();
+    const qreal below = rect.height() - (height - painter.fontMetrics().leading());
+    const qreal share = alignment & Qt::AlignBottom ? 1 : alignment & Qt::AlignVCenter ? 0.5 : 0;
+    layout.draw(&painter, rect.topLeft() + QPointF(0, share * below));
 }
 
 int plainLineWidth(const QFontMetrics& metrics, const QString& text)

@@ -14,6 +14,11 @@ namespace quindle {
 QRect drawPlainLine(QPainter& painter, const QRect& rect, Qt::Alignment alignment, const QString& text,
                     Qt::TextElideMode elideMode = Qt::ElideRight);
 
+/// Draws a paragraph of that direction in the painter's font and pen, wrapped between words. `alignment` is
+/// absolute. Words that are wider than the rectangle, and lines that have no room in it, reach out of it.
+void drawPlainParagraph(QPainter& painter, const QRect& rect, Qt::Alignment alignment,
+                        Qt::LayoutDirection direction, const QString& text);
+
 /// How wide that line is when it is not cut.
 int plainLineWidth(const QFontMetrics& metrics, const QString& text);
 

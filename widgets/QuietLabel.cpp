@@ -20,7 +20,9 @@ void QuietLabel::paintEvent(QPaintEvent*)
     painter.setPen(quietTextOf(*this));
     const Qt::Alignment aligned = QStyle::visualAlignment(layoutDirection(), alignment());
     const int wrap = wordWrap() ? Qt::TextWordWrap : 0;
-    painter.drawText(contentsRect(), static_cast<int>(aligned) | wrap, text());
+    constexpr bool looksEnabled = true;
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(aligned) | wrap, palette(), looksEnabled,
+                          text());
 }
 
 QFont quietFont(const QFont& font)

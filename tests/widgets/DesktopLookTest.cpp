@@ -1,14 +1,35 @@
 #include "widgets/DesktopLook.h"
 
 #include <QApplication>
+#include <QImage>
+#include <QLabel>
 #include <QStyle>
 #include <gtest/gtest.h>
 
+#include "tests/support/QtPrinters.h"
 #include "widgets/PaletteMix.h"
+#include "widgets/QuietLabel.h"
 
 using namespace quindle;
 
 namespace {
+
+/// How many pixels from the right edge each of the label's first lines begins.
+QList<int> beginnings(QLabel& label, int lines)
+{
+    const QImage image = label.grab().toImage();
+    const int height = label.fontMetrics().lineSpacing();
+    QList<int> found;
+    for (int line = 0; line < lines; ++line) {
+        int least = image.width();
+        for (int y = line * height; y < (line + 1) * height; ++y)
+            for (int x = image.width() - 1; x >= image.width() - least; --x)
+                if (image.pixelColor(x, y) != image.pixelColor(0, image.height() - 1))
+                    least = image.width() - 1 - x;
+        found.append(least);
+    }
+    return found;
+}
 
 struct DesktopLookTest : testing::Test
 {
@@ -66,6 +87,30 @@ TEST_F(DesktopLookTest, LeavesWordsWholeWhereLettersJoin)
     }
     QApplication::setLayoutDirection(Qt::LeftToRight);
     EXPECT_TRUE(marksKeys());
+    QApplication::setStyle(style);
+}
+
+TEST_F(DesktopLookTest, WrappedLinesBeginAtOneEdgeFromRightToLeft)
+{
+    const QString style = QApplication::style()->name();
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    {
+        const DesktopLook hebrew(DesktopLook::Colours::ByWishes);
+        QLabel plain;
+        QuietLabel quiet;
+        for (QLabel* label : {&plain, static_cast<QLabel*>(&quiet)}) {
+            const QString word = QStringLiteral(u"\u05E9\u05DC\u05D5\u05DD");
+            label->setText(QStringList(9, word).join(u' '));
+            label->setWordWrap(true);
+            label->setAlignment(Qt::AlignTop);
+            const int width = label->fontMetrics().horizontalAdvance(word + u' ');
+            label->setFixedSize(width * 7 / 2, label->fontMetrics().lineSpacing() * 4);
+            const QList<int> lines = beginnings(*label, 3);
+            EXPECT_EQ(lines, QList<int>(3, lines[2])) << label->metaObject()->className();
+            EXPECT_LT(lines[2], width / 4);
+        }
+    }
+    QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setStyle(style);
 }
 
