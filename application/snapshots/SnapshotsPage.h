@@ -58,13 +58,14 @@ private:
 
     SavedSnapshots& m_snapshots;
     MakeSnapshot m_makeSnapshot;
-    SnapshotView* m_view;
+    // From the top of the page to the bottom: in the order in which they are made Tab goes through them.
     QLabel* m_count;
+    LoadingBar* m_progress;
+    QPushButton* m_save;
+    SnapshotView* m_view;
     QLabel* m_nothing;
     QLabel* m_told;
     LinkButton* m_undo;
-    LoadingBar* m_progress;
-    QPushButton* m_save;
     QPushButton* m_compare;
     QPushButton* m_delete;
     QPushButton* m_import;

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
@@ -18,6 +19,7 @@
 #include "application/snapshots/SnapshotsPage.h"
 #include "charts/TimeSeriesChart.h"
 #include "platform/PowerHistory.h"
+#include "platform/posix/FileLock.h"
 #include "settings/ApplicationPreferences.h"
 #include "tests/preferences/Input.h"
 #include "tests/records/TemporaryHistory.h"
@@ -115,6 +117,47 @@ TEST_F(HistoryPagesTest, SnapshotsAreListedTheNewestFirst)
     EXPECT_TRUE(says("3 snapshots"));
     EXPECT_EQ(cell(0, 2), latin("3,998 mAh"));
     EXPECT_EQ(cell(2, 2), latin("4,000 mAh"));
+}
+
+TEST_F(HistoryPagesTest, TabGoesFromTheTopOfTheSnapshotsToTheBottom)
+{
+    store(1);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(1));
+    const QWidget* page = program->window().findChild<QWidget*>(latin("snapshotsPage"));
+    ASSERT_TRUE(page);
+    QStringList reached;
+    for (const QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+        const auto* button = qobject_cast<const QPushButton*>(next);
+        if (next == table())
+            reached.append(latin("table"));
+        else if (button && button->parentWidget() == page)
+            reached.append(button->text().remove(u'&'));
+    }
+    EXPECT_EQ(reached, (QStringList{latin("Save Now"), latin("table"), latin("Compare"), latin("Delete"),
+                                    latin("Import..."), latin("Export...")}));
+}
+
+/// The other program keeps the archive locked for as long as the bar is looked for.
+TEST_F(HistoryPagesTest, WhatTakesLongShowsABarAndLeavesTheWindowUsable)
+{
+    store(1);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(1));
+    auto* bar = control<QProgressBar>("Reading the snapshots");
+    ASSERT_TRUE(bar);
+    auto other = FileLock::take(QFile::encodeName(archive()) + ".lock", std::chrono::seconds(10));
+    ASSERT_TRUE(other);
+    control<QPushButton>("Save Now")->click();
+    EXPECT_FALSE(bar->isVisible()) << "most is done before anybody would read it";
+    EXPECT_TRUE(comesTrue([bar] { return bar->isVisible(); }));
+    program->window().showPage(latin("Details"));
+    EXPECT_FALSE(bar->isVisible());
+    program->window().showPage(latin("Snapshots"));
+    EXPECT_TRUE(bar->isVisible()) << "still busy";
+    other.reset();
+    EXPECT_TRUE(hasRows(2));
+    EXPECT_TRUE(comesTrue([bar] { return !bar->isVisible(); }));
 }
 
 TEST_F(HistoryPagesTest, TheSmallestWindowShowsEveryColumn)
