@@ -1,9 +1,11 @@
 #include "application/ApplicationWindow.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QtMath>
 #include <gtest/gtest.h>
 
 #include "application/Sidebar.h"
@@ -169,6 +171,31 @@ TEST_F(ApplicationWindowTest, ClosingStoresWhatIsTyped)
     field->insert(latin("typed"));
     window->close();
     EXPECT_EQ(stored, latin("typed"));
+}
+
+/// What lies on the edge would stay behind when the next row is chosen.
+TEST_F(ApplicationWindowTest, TheChosenRowIsDrawnInsideItsPixelsAtAnyScale)
+{
+    const auto window = make();
+    window->show();
+    window->activateWindow();
+    auto* list = window->findChild<QListWidget*>();
+    list->setFocus();
+    ASSERT_TRUE(comesTrue([&] { return list->hasFocus() && window->isActiveWindow(); }));
+    const QRect row = list->visualItemRect(list->item(0));
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        QImage image((QSizeF(list->size()) * scale).toSize(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        image.fill(Qt::white);
+        list->viewport()->render(&image, {}, {}, QWidget::DrawChildren);
+        const int left = qRound(row.left() * scale);
+        const int top = qRound(row.top() * scale);
+        const QRgb ground = image.pixel(0, image.height() - 1);
+        const QPoint middle(qRound(row.center().x() * scale), qRound(row.center().y() * scale));
+        EXPECT_EQ(image.pixel(left - 1, middle.y()), ground) << scale;
+        EXPECT_EQ(image.pixel(middle.x(), top - 1), ground) << scale;
+        EXPECT_NE(image.pixel(left + qCeil(2 * scale), middle.y()), ground) << scale;
+    }
 }
 
 } // namespace
