@@ -73,6 +73,24 @@ private:
     QApplication m_application{m_count, m_arguments.data()};
 };
 
+QString translationsOfBundle()
+{
+    return translationsOf(QCoreApplication::applicationDirPath() + QStringLiteral("/../.."));
+}
+
+/// Windows look as the desktop's settings portal says, for as long as this exists.
+class FollowedLook
+{
+public:
+    FollowedLook() { m_portal.followSession(); }
+
+private:
+    LinuxRunLoop m_runLoop; // the helper's is not for what the desktop says
+    DesktopLook m_look{leavesColoursToPortal() ? DesktopLook::Colours::ByWishes
+                                               : DesktopLook::Colours::OfToolkit};
+    SettingsPortal m_portal{m_runLoop, [this](const DesktopWishes& wishes) { m_look.follow(wishes); }};
+};
+
 std::unique_ptr<WindowsServices> servicesOf(const std::optional<Machine>& machine, HelperEnd& helper)
 {
     return machine ? WindowsServices::ofMachine(*machine, helper)
@@ -83,11 +101,7 @@ int run(SocketLink& link, const std::optional<Machine>& machine, std::chrono::mi
 {
     HelperEnd helper(link);
     const auto services = servicesOf(machine, helper);
-    LinuxRunLoop runLoop; // the helper's is not for what the desktop says
-    DesktopLook look(leavesColoursToPortal() ? DesktopLook::Colours::ByWishes
-                                             : DesktopLook::Colours::OfToolkit);
-    SettingsPortal portal(runLoop, [&look](const DesktopWishes& wishes) { look.follow(wishes); });
-    portal.followSession();
+    const FollowedLook look;
     std::optional<WindowsProgram> program;
     const auto receive = [&](const WindowMessage& message) {
         // The models are made with the first request, which says what they begin with.
@@ -116,6 +130,8 @@ int start(const WindowsCommandLine& commandLine)
     keepMemoryOutOfCoreDumps();
     if (commandLine.holdsTray) {
         const HelpersApplication application;
+        const WindowLanguage language(translationsOfBundle());
+        const FollowedLook look;
         runTrayProcess();
     }
     FileDescriptor end(commandLine.link);
@@ -129,8 +145,7 @@ int start(const WindowsCommandLine& commandLine)
     // Window managers of X11 do not look for the desktop entry's icon.
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("quindle-helper")));
     closeDialogsByKey();
-    const WindowLanguage language(
-        translationsOf(QCoreApplication::applicationDirPath() + QStringLiteral("/../..")));
+    const WindowLanguage language(translationsOfBundle());
     SocketLink link(std::move(end));
     return run(link, machine, commandLine.patience);
 }

@@ -152,6 +152,32 @@ class ResetServer(TrayCase):
         self.assertIn("the display has gone", self.desktop.log_path.read_text(errors="replace"))
 
 
+class SettingsPortal(TrayCase):
+    portal = ("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings")
+
+    def start_dark_portal(self):
+        name, path, interface = self.portal
+        mock = self.desktop.start("/usr/bin/python3", "-m", "dbusmock", "--session", name, path, interface)
+        self.addCleanup(mock.wait)
+        self.addCleanup(mock.terminate)
+        self.assertTrue(wait_for(lambda: self.desktop.has_name(name), 20), "no portal")
+        self.desktop.gdbus(name, path, "org.freedesktop.DBus.Mock.AddMethod", interface, "ReadAll", "as", "a{sa{sv}}",
+                           "ret = {'org.freedesktop.appearance': {'color-scheme': dbus.UInt32(1)}}")
+
+    def lightness(self, window):
+        return float(self.desktop.call("import", "-silent", "-window", window, "-format", "%[fx:mean]", "info:") or 1)
+
+    def test_the_menu_is_dark_where_the_desktop_is(self):
+        self.start_dark_portal()
+        self.start(machine(66))
+        self.assert_icon(20)
+        before = self.desktop.windows()
+        self.desktop.click(*ICON, button=3)
+        menu = wait_for(lambda: [window for window in self.desktop.windows() if window not in before], 20)
+        self.assertTrue(menu, "no menu appeared")
+        self.assertTrue(wait_for(lambda: self.lightness(menu[0]) < 0.4, 20), self.lightness(menu[0]))
+
+
 class TrayAndWatcher(TrayCase):
     def test_the_tray_program_ends_with_a_watcher_and_comes_back_without(self):
         helper = self.start(machine(66))

@@ -4,24 +4,12 @@
 
 #include <QAction>
 #include <QDBusArgument>
+#include <QEvent>
 #include <QPalette>
 
 namespace quindle {
 
 namespace {
-
-/// Facts are disabled rows, which many styles draw in a grey that is hard to read.
-void makeDisabledLegible(QMenu& menu)
-{
-    constexpr float share = 0.62F; // contrast of about 5 on white and on black
-    QPalette palette = menu.palette();
-    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
-        QColor quiet = palette.color(QPalette::Active, role);
-        quiet.setAlphaF(share);
-        palette.setColor(QPalette::Disabled, role, quiet);
-    }
-    menu.setPalette(palette);
-}
 
 /// From the protocol's mnemonics, which the labels do not have, to the toolkit's.
 QString actionText(const QVariantMap& properties)
@@ -53,6 +41,32 @@ bool isSubmenu(const MenuNode& row)
 
 } // namespace
 
+LegibleMenu::LegibleMenu(QWidget* parent)
+    : QMenu(parent)
+{
+    makeDisabledLegible();
+}
+
+void LegibleMenu::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        makeDisabledLegible();
+    QMenu::changeEvent(event);
+}
+
+/// Facts are disabled rows, which many styles draw in a grey that is hard to read.
+void LegibleMenu::makeDisabledLegible()
+{
+    constexpr float share = 0.62F; // contrast of about 5 on white and on black
+    QPalette own;                  // the other colours are the desktop's
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        QColor quiet = palette().color(QPalette::Active, role);
+        quiet.setAlphaF(share);
+        own.setColor(QPalette::Disabled, role, quiet);
+    }
+    setPalette(own);
+}
+
 TrayMenu::TrayMenu(const MenuNode& root, std::function<void(int id)> chosen)
     : m_chosen(std::move(chosen))
 {
@@ -61,7 +75,6 @@ TrayMenu::TrayMenu(const MenuNode& root, std::function<void(int id)> chosen)
 
 void TrayMenu::addRows(QMenu& menu, const MenuNode& parent)
 {
-    makeDisabledLegible(menu);
     for (const QDBusVariant& child : parent.children) {
         const auto row = qdbus_cast<MenuNode>(child.variant());
         QAction* action = addRow(menu, row);
@@ -77,9 +90,9 @@ QAction* TrayMenu::addRow(QMenu& menu, const MenuNode& row)
         return menu.addSeparator();
     if (!isSubmenu(row))
         return menu.addAction(QString());
-    QMenu* submenu = menu.addMenu(QString());
+    auto* submenu = new LegibleMenu(&menu);
     addRows(*submenu, row);
-    return submenu->menuAction();
+    return menu.addMenu(submenu);
 }
 
 void TrayMenu::update(const QList<MenuRowProperties>& rows)

@@ -10,6 +10,19 @@
 
 namespace quindle {
 
+/// A menu whose rows that cannot be chosen are legible in the desktop's colours, also when these change.
+class LegibleMenu : public QMenu
+{
+public:
+    explicit LegibleMenu(QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void makeDisabledLegible();
+};
+
 /// The status item's menu in this toolkit.
 class TrayMenu
 {
@@ -26,7 +39,7 @@ private:
     void addRows(QMenu& menu, const MenuNode& parent);
     QAction* addRow(QMenu& menu, const MenuNode& row);
 
-    QMenu m_menu;
+    LegibleMenu m_menu;
     std::function<void(int)> m_chosen;
     std::map<int, QAction*> m_actions; ///< of the rows, by id
 };

@@ -1,6 +1,7 @@
 #include "windows/tray/TrayMenu.h"
 
 #include <QAction>
+#include <QApplication>
 #include <gtest/gtest.h>
 
 #include "tests/support/QtPrinters.h"
@@ -71,6 +72,19 @@ TEST_F(TrayMenuTest, RowsThatCannotBeChosenAreLegible)
                   palette.color(QPalette::Active, QPalette::Text).rgb());
         EXPECT_NEAR(palette.color(QPalette::Disabled, QPalette::Text).alphaF(), 0.62, 0.01);
     }
+}
+
+TEST_F(TrayMenuTest, TheyStayLegibleWhenTheColoursChange)
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(Qt::black, Qt::black));
+    QApplication::processEvents();
+    for (const QMenu* one : {&menu.menu(), action(2)->menu()}) {
+        EXPECT_EQ(one->palette().color(QPalette::Active, QPalette::Window), QColor(Qt::black));
+        EXPECT_EQ(one->palette().color(QPalette::Disabled, QPalette::Text).rgb(), QColor(Qt::white).rgb());
+    }
+    QApplication::setPalette(before);
+    QApplication::processEvents();
 }
 
 } // namespace
