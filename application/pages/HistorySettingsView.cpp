@@ -133,6 +133,8 @@ void HistorySettingsView::askToDelete()
     question->setInformativeText(tr("This cannot be undone."));
     const auto* confirm = question->addButton(tr("&Delete"), QMessageBox::DestructiveRole);
     question->setDefaultButton(QMessageBox::Cancel);
+    // As all other buttons are; from right to left the toolkit draws a picture over the word's place.
+    question->button(QMessageBox::Cancel)->setIcon({});
     connect(question, &QMessageBox::buttonClicked, this, [this, confirm](const QAbstractButton* chosen) {
         if (chosen != confirm)
             return;

@@ -9,6 +9,7 @@
 #include "common/NumberTexts.h"
 #include "common/Translation.h"
 #include "facts/ValueTexts.h"
+#include "widgets/IsolatedText.h"
 
 namespace quindle {
 
@@ -55,9 +56,8 @@ ComparedRow comparedHealth(std::optional<double> older, std::optional<double> ne
     };
     ComparedRow row{translated("Snapshots", "Health"), text(older), text(newer), {}};
     if (older && newer && row.older != row.newer)
-        row.difference = signedText(translated("Snapshots", "%1 points", "of health, with one decimal")
-                                        .arg(figureText(*newer - *older)),
-                                    *newer - *older);
+        row.difference = translated("Snapshots", "%1 points", "of health, with one decimal")
+                             .arg(isolatedText(signedText(figureText(*newer - *older), *newer - *older)));
     return row;
 }
 

@@ -10,6 +10,7 @@
 #include "application/snapshots/SnapshotRows.h"
 #include "application/snapshots/SnapshotTable.h"
 #include "application/snapshots/SortHeader.h"
+#include "facts/ValueTexts.h"
 #include "widgets/IsolatedText.h"
 
 namespace quindle {
@@ -85,9 +86,16 @@ void SnapshotView::fitToFont()
         const int captionWidth = fontMetrics().horizontalAdvance(caption) + line;
         setColumnWidth(column, std::max(qRound(line * lines[column]), captionWidth));
     }
-    constexpr int date = static_cast<int>(SnapshotColumn::Date);
+    widenFor(SnapshotColumn::Date, widestDate(fontMetrics()));
+    // A new battery holds more than it was made for.
+    widenFor(SnapshotColumn::Health, fontMetrics().horizontalAdvance(percentText(108.8)));
+}
+
+void SnapshotView::widenFor(SnapshotColumn column, int textWidth)
+{
+    const int place = static_cast<int>(column);
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
-    setColumnWidth(date, std::max(columnWidth(date), widestDate(fontMetrics()) + 2 * margin));
+    setColumnWidth(place, std::max(columnWidth(place), textWidth + 2 * margin));
 }
 
 } // namespace quindle

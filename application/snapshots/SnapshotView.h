@@ -3,6 +3,8 @@
 #include <QTableView>
 #include <QVariant>
 
+#include "application/snapshots/SnapshotOrder.h"
+
 namespace quindle {
 
 class SnapshotTable;
@@ -31,6 +33,7 @@ protected:
 
 private:
     void fitToFont();
+    void widenFor(SnapshotColumn column, int textWidth);
 
     SnapshotTable* m_table;
 };

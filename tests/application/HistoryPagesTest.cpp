@@ -8,14 +8,17 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QProgressBar>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
+#include <QTranslator>
 #include <gtest/gtest.h>
 
 #include "application/ApplicationProgram.h"
 #include "application/pages/HistoryPage.h"
 #include "application/snapshots/CompareDialog.h"
+#include "application/snapshots/SnapshotRows.h"
 #include "application/snapshots/SnapshotsPage.h"
 #include "charts/TimeSeriesChart.h"
 #include "platform/PowerHistory.h"
@@ -136,6 +139,74 @@ TEST_F(HistoryPagesTest, TabGoesFromTheTopOfTheSnapshotsToTheBottom)
     }
     EXPECT_EQ(reached, (QStringList{latin("Save Now"), latin("table"), latin("Compare"), latin("Delete"),
                                     latin("Import..."), latin("Export...")}));
+}
+
+/// Among words from right to left a sign would go to the other side of its number.
+TEST_F(HistoryPagesTest, SignAndNumberStayTogetherFromRightToLeft)
+{
+    const auto difference = [] {
+        const QVariantMap older{{latin("Battery.StateOfHealth"), 90.0}};
+        const QVariantMap newer{{latin("Battery.StateOfHealth"), 89.8}};
+        return comparedSnapshots(older, newer)[1].difference;
+    };
+    EXPECT_EQ(difference(), latin("-0.2 points"));
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(difference(), QStringLiteral(u"\u2068-0.2\u2069 points"));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+/// As short as that of some languages.
+class ShortHealthCaption : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* text, const char*, int) const override
+    {
+        return qstrcmp(text, "Health") == 0 ? latin("H") : QString();
+    }
+};
+
+TEST_F(HistoryPagesTest, AHealthAboveAHundredIsShownWholeInAWideFont)
+{
+    ShortHealthCaption translator;
+    QCoreApplication::installTranslator(&translator);
+    store(1);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(1));
+    QFont wide = table()->font();
+    wide.setStretch(QFont::UltraExpanded);
+    table()->setFont(wide);
+    EXPECT_GT(table()->columnWidth(1), table()->fontMetrics().horizontalAdvance(latin("101.1 %")));
+    QCoreApplication::removeTranslator(&translator);
+}
+
+/// Desktops that give the standard buttons pictures, beside which others have none.
+class StyleWithPictures : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+
+TEST_F(HistoryPagesTest, ButtonsOfTheQuestionHaveNoPictures)
+{
+    const QString style = QApplication::style()->name();
+    QApplication::setStyle(new StyleWithPictures);
+    show("Settings");
+    control<QPushButton>("Delete History...")->click();
+    auto* question = program->window().findChild<QMessageBox*>();
+    ASSERT_TRUE(question);
+    EXPECT_EQ(question->buttons().size(), 2);
+    for (const QAbstractButton* button : question->buttons())
+        EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+    question->reject();
+    program.reset();
+    QApplication::setStyle(style);
 }
 
 /// The other program keeps the archive locked for as long as the bar is looked for.
