@@ -31,7 +31,7 @@ void PlainLabel::setElideMode(Qt::TextElideMode elideMode)
 
 QSize PlainLabel::sizeHint() const
 {
-    const QSize line(plainLineWidth(fontMetrics(), text()), fontMetrics().height());
+    const QSize line(plainLineWidth(fontMetrics(), text()), plainLineHeight(font(), text()));
     return line.grownBy(contentsMargins());
 }
 

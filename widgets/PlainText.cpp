@@ -1,10 +1,12 @@
 #include "widgets/PlainText.h"
 
 #include <algorithm>
+#include <limits>
 
 #include <QFontMetrics>
 #include <QPainter>
 #include <QTextLayout>
+#include <QtMath>
 
 namespace quindle {
 
@@ -58,6 +60,25 @@ int plainLineWidth(const QFontMetrics& metrics, const QString& text)
     const QString line = measured(text);
     // Slanted letters reach beyond their advance, and would be cut.
     return std::max(metrics.horizontalAdvance(line), metrics.boundingRect(line).width()) + 1;
+}
+
+int plainLineHeight(const QFont& font, const QString& text)
+{
+    const int usual = QFontMetrics(font).height();
+    const QString line = measured(text);
+    const auto isOfDirection = [](QChar c) {
+        const QChar::Direction direction = c.direction();
+        return direction == QChar::DirR || direction == QChar::DirAL || direction == QChar::DirFSI;
+    };
+    if (std::none_of(line.cbegin(), line.cend(), isOfDirection))
+        return usual;
+    QTextLayout layout(line, font);
+    layout.beginLayout();
+    QTextLine whole = layout.createLine();
+    // It has no height before it has a width.
+    whole.setLineWidth(std::numeric_limits<int>::max() / 256);
+    layout.endLayout();
+    return std::max(usual, qCeil(whole.height()));
 }
 
 QString literalToolTip(const QString& text)

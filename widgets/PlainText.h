@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QFont;
 class QFontMetrics;
 class QPainter;
 class QRect;
@@ -21,6 +22,9 @@ void drawPlainParagraph(QPainter& painter, const QRect& rect, Qt::Alignment alig
 
 /// How wide that line is when it is not cut.
 int plainLineWidth(const QFontMetrics& metrics, const QString& text);
+
+/// How high that line is. Letters from right to left, and marks of direction, may be of a taller font.
+int plainLineHeight(const QFont& font, const QString& text);
 
 /// The text for where Qt would take it as rich text (tool tips); empty stays empty.
 QString literalToolTip(const QString& text);
