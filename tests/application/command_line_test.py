@@ -26,7 +26,7 @@ class CommandLine(unittest.TestCase):
 
     def answer(self, *arguments, stdout=subprocess.PIPE, given="", **env):
         done = subprocess.run([PROGRAM, *arguments], env={**self.env, **env}, input=given, stdout=stdout,
-                              stderr=subprocess.PIPE, text=True, timeout=30, check=False)
+                              stderr=subprocess.PIPE, text=True, timeout=90, check=False)
         return done.returncode, done.stdout, done.stderr
 
     def test_help_and_version(self):

@@ -49,13 +49,13 @@ class PrivateFiles(unittest.TestCase):
     def run_helper(self, until):
         process = subprocess.Popen([HELPER], env=self.environment(), stderr=subprocess.DEVNULL)
         try:
-            end = time.monotonic() + 30
+            end = time.monotonic() + 60
             while not until() and time.monotonic() < end:
                 time.sleep(0.05)
             self.assertTrue(until(), "nothing was written")
         finally:
             process.terminate()
-            process.wait(20)
+            process.wait(60)
 
     def written(self):
         return [path for path in self.home.rglob("*") if path.is_file() and self.tree not in path.parents]

@@ -55,7 +55,7 @@ class CommandLine(unittest.TestCase):
     def run_program(self, *arguments, **environment):
         clean = {"PATH": os.environ["PATH"], "TZ": "UTC", "LC_ALL": "C.UTF-8", "HOME": self.folder, "XDG_CONFIG_HOME": self.folder}
         return subprocess.run([PROGRAM, *arguments], env=clean | environment, capture_output=True, text=True,
-                              timeout=60)
+                              timeout=200)
 
     def captured(self, *arguments):
         target = self.path("capture.plist")
@@ -301,7 +301,7 @@ class CommandLine(unittest.TestCase):
         os.mkfifo(pipe)
         reader = subprocess.Popen(["cat", pipe], stdout=subprocess.PIPE)
         result = self.run_program("--machine", self.machine, "--capture", pipe)
-        content = reader.communicate(timeout=60)[0]
+        content = reader.communicate(timeout=200)[0]
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         self.assertTrue(stat.S_ISFIFO(os.stat(pipe).st_mode))
         self.assertIn("Registry", plistlib.loads(content))
@@ -315,7 +315,7 @@ class CommandLine(unittest.TestCase):
     def test_output_that_cannot_be_written(self):
         with open("/dev/full", "wb") as full:
             result = subprocess.run([PROGRAM, "--json", "--machine", self.machine], stdout=full,
-                                    stderr=subprocess.PIPE, env={"PATH": os.environ["PATH"]}, timeout=60)
+                                    stderr=subprocess.PIPE, env={"PATH": os.environ["PATH"]}, timeout=200)
         self.assertEqual((result.returncode, result.stderr.count(b"\n")), (2, 1))
 
     def test_damaged_settings_stay_where_they_are(self):

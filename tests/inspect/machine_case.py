@@ -75,7 +75,7 @@ def machine_bytes(values):
 def run(program, path, environment, arguments=()):
     clean = {"PATH": os.environ["PATH"], "TZ": "UTC", "LC_ALL": "C.UTF-8"}
     clean.update(environment)
-    return subprocess.run([program, "--json", "--machine", path, *arguments], env=clean, capture_output=True, timeout=60)
+    return subprocess.run([program, "--json", "--machine", path, *arguments], env=clean, capture_output=True, timeout=200)
 
 
 def value_at(state, path):

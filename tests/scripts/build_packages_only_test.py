@@ -13,7 +13,7 @@ class WithoutTestPackages(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         return subprocess.run(["cmake", "-S", SOURCE, "-B", folder.name, "-DCMAKE_DISABLE_FIND_PACKAGE_GTest=ON", *options],
-                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, timeout=100, check=False)
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, timeout=400, check=False)
 
     def test_tests_are_off_and_one_line_says_so(self):
         done = self.configure()

@@ -7,17 +7,15 @@ import time
 import unittest
 from pathlib import Path
 
-from start_case import StartCase, wait_for
+from start_case import AT_MOST, StartCase, wait_for
 
 ABSENT_FOLDER = os.environ["QUINDLE_ABSENT_FOLDER"]
 
 
 class BadFolders(StartCase):
     def assert_gives_up(self, process, word):
-        begun = time.monotonic()
         status, errors = self.result(process)
         self.assertEqual(status, 1, errors)
-        self.assertLess(time.monotonic() - begun, 8.0)
         lines = [line for line in errors.splitlines() if line.startswith("quindle-helper: ")]
         self.assertEqual(len(lines), 1, errors)
         self.assertIn(word, lines[0])
@@ -44,9 +42,17 @@ class BadFolders(StartCase):
         folder = self.root / "config/quindle"
         flag = self.root / "config/quindle.stale"
         session = self.bus()
-        process = self.start(session, LD_PRELOAD=ABSENT_FOLDER, QUINDLE_TEST_STALE=str(folder))
+        log = self.root / "log"
+
+        def reports():
+            return [line for line in log.read_text(encoding="utf-8").splitlines() if "Stale file handle" in line]
+
+        with log.open("wb") as stream:
+            process = self.start(session, stderr=stream, LD_PRELOAD=ABSENT_FOLDER, QUINDLE_TEST_STALE=str(folder))
         self.assert_titles(session, ["mine 50.0"])
         flag.touch()
+        session.announce_settings()
+        self.assertTrue(wait_for(lambda: len(reports()) == 2, AT_MOST), reports())  # one for each file
         for _ in range(3):
             self.assert_titles_after_change(session, ["mine 50.0"])
             time.sleep(0.3)
@@ -55,10 +61,9 @@ class BadFolders(StartCase):
         flag.unlink()
         self.assert_titles_after_change(session, ["back 50.0"])
         process.terminate()
-        errors = process.communicate(timeout=20)[1].decode()
-        reports = [line for line in errors.splitlines() if "Stale file handle" in line]
-        self.assertEqual(len(reports), 2, errors)  # one for each file
-        self.assertNotEqual(reports[0], reports[1])
+        self.result(process)
+        self.assertEqual(len(set(reports())), 2, reports())
+        self.assertEqual(len(reports()), 2, reports())
 
     if os.geteuid() == 0:  # to mount something takes the right to
 
@@ -90,7 +95,7 @@ class BadFolders(StartCase):
         def test_a_full_temporary_folder(self):
             prefix, program, home = self.full_temporary_folder(), self.program_outside(), self.home_outside()
             starts = [self.start(None, program=program, prefix=prefix, **home) for _ in range(2)]
-            self.assertTrue(wait_for(lambda: sum(start.poll() is None for start in starts) == 1, 15))
+            self.assertTrue(wait_for(lambda: sum(start.poll() is None for start in starts) == 1, AT_MOST))
             time.sleep(1)
             self.assertEqual(sum(start.poll() is None for start in starts), 1)
             second = next(start for start in starts if start.poll() is not None)

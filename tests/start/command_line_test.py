@@ -11,7 +11,7 @@ from start_case import HELPER, StartCase
 class CommandLine(StartCase):
     def answer(self, *arguments, **environment):
         done = subprocess.run([HELPER, *arguments], env=self.environment(**environment), stdin=subprocess.DEVNULL,
-                              capture_output=True, text=True, timeout=30, check=False)
+                              capture_output=True, text=True, timeout=90, check=False)
         return done.returncode, done.stdout, done.stderr
 
     def surroundings(self):
@@ -36,13 +36,13 @@ class CommandLine(StartCase):
     def test_an_answer_that_cannot_be_written(self):
         with open("/dev/full", "wb") as full:
             done = subprocess.run([HELPER, "--help"], env=self.environment(), stdout=full, stderr=subprocess.PIPE,
-                                  timeout=30, check=False)
+                                  timeout=90, check=False)
         self.assertEqual((done.returncode, done.stderr.count(b"\n")), (2, 1))
 
     def test_windows_without_the_display_they_were_started_for(self):
         done = subprocess.run([Path(HELPER).with_name("quindle-windows"), "--tray"], stdin=subprocess.DEVNULL,
                               env=self.environment(QT_QPA_PLATFORM=None, DISPLAY=":9999"), capture_output=True,
-                              text=True, timeout=30, check=False)
+                              text=True, timeout=90, check=False)
         self.assertEqual((done.returncode, done.stderr),
                          (os.EX_UNAVAILABLE, 'quindle-windows: no window can be shown on the display ":9999"\n'))
 

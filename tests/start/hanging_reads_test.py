@@ -4,9 +4,12 @@ import os
 import time
 import unittest
 
-from start_case import StartCase, wait_for
+from start_case import StartCase
 
 PRELOADED = os.environ["QUINDLE_HANGING_READS"]
+# Seconds: far more than any file is waited for, and a busy machine lets two starts differ by; but a start that waits
+# for a file that hangs takes for ever.
+LATER_AT_MOST = 15.0
 
 
 class HangingReads(StartCase):
@@ -31,20 +34,20 @@ class HangingReads(StartCase):
         self.assert_titles(session, [title])
         taken = time.monotonic() - begun
         process.terminate()
-        return taken, process.communicate(timeout=20)[1].decode()
+        return taken, self.result(process)[1]
 
     def test_at_the_start_all_but_that_value_is_there_in_time(self):
         usual, _ = self.seconds_until("50.0 after 12", "cycle_count")
         self.flag.touch()
         taken, errors = self.seconds_until("50.0 after 0", "cycle_count")
-        self.assertLess(taken - usual, 2.0)
+        self.assertLess(taken - usual, LATER_AT_MOST)
         self.assertEqual(errors.count("BAT0/cycle_count does not answer"), 1, errors)
 
     def test_firmware_that_hangs_holds_nothing_up(self):
         usual, _ = self.seconds_until("50.0 after 12", "product_name")
         self.flag.touch()
         taken, errors = self.seconds_until("50.0 after 12", "product_name")
-        self.assertLess(taken - usual, 2.0)
+        self.assertLess(taken - usual, LATER_AT_MOST)
         self.assertEqual(errors.count("product_name does not answer"), 1, errors)
 
     def test_later_the_last_value_stands_and_no_other_file_is_held_up(self):
@@ -53,11 +56,11 @@ class HangingReads(StartCase):
         self.flag.touch()
         (self.supply / "cycle_count").write_text("13\n")
         (self.supply / "charge_now").write_text("1500000\n")
-        self.assertTrue(wait_for(lambda: session.titles() == ["25.0 after 12"], 25), session.titles())
+        self.assert_titles(session, ["25.0 after 12"])
         self.flag.unlink()
-        self.assertTrue(wait_for(lambda: session.titles() == ["25.0 after 13"], 25), session.titles())
+        self.assert_titles(session, ["25.0 after 13"])
         process.terminate()
-        errors = process.communicate(timeout=20)[1].decode()
+        errors = self.result(process)[1]
         self.assertEqual(errors.count("BAT0/cycle_count does not answer"), 1, errors)
 
 

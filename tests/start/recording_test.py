@@ -13,7 +13,7 @@ from pathlib import Path
 import dbus
 import dbus.bus
 
-from start_case import HELPER, SUITE, StartCase, wait_for
+from start_case import AT_MOST, HELPER, SUITE, StartCase, wait_for
 
 MENU = "com.canonical.dbusmenu"
 NOON = datetime.datetime(2026, 3, 1, 12)
@@ -63,8 +63,8 @@ class Recording(StartCase):
         """What each start of the recorder was given, the oldest first."""
         return [path.read_text() for path in sorted(self.recorded.iterdir()) if not path.name.startswith("new.")]
 
-    def assert_recorded(self, *texts, seconds=10):
-        self.assertTrue(wait_for(lambda: self.texts() == list(texts), seconds), self.texts())
+    def assert_recorded(self, *texts):
+        self.assertTrue(wait_for(lambda: self.texts() == list(texts), AT_MOST), self.texts())
 
     def quit_from_menu(self):
         bus = dbus.bus.BusConnection(self.session.address)
@@ -166,7 +166,7 @@ class RealApplication(StartCase):
         status, errors = self.result(process)
         self.assertEqual((status, errors.count("record")), (0, 0), errors)
         history, archive = self.root / "support/history.sqlite", self.root / "support/QuindleData.qndarchive"
-        self.assertTrue(wait_for(lambda: archive.exists() and self.samples_in(history), 15), list(self.root.rglob("*")))
+        self.assertTrue(wait_for(lambda: archive.exists() and self.samples_in(history), AT_MOST), list(self.root.rglob("*")))
         self.assertEqual(self.samples_in(history), [(1772366400, 50.0, -12.0)])
         for file in (history, archive):
             self.assertEqual(stat.S_IMODE(file.stat().st_mode), 0o600, file)

@@ -11,7 +11,7 @@ from pathlib import Path
 import dbus
 import dbus.bus
 
-from start_case import HELPER, StartCase, wait_for
+from start_case import AT_MOST, HELPER, Monitor, StartCase, wait_for
 
 NAME = "com.fernhollow.Quindle-Helper"
 OTHER_USER = 65534
@@ -25,6 +25,10 @@ def read_only(folder):
     return "/proc"
 
 
+def is_locked(path):
+    return path.exists() and f":{path.stat().st_ino} " in Path("/proc/locks").read_text(encoding="ascii")
+
+
 class OnABus(StartCase):
     def setUp(self):
         super().setUp()
@@ -35,12 +39,10 @@ class OnABus(StartCase):
         self.assert_titles(self.session, ["50.0%"])
         return process
 
-    def assert_second_ends(self, seconds=5.0, **env):
-        begun = time.monotonic()
+    def assert_second_ends(self, **env):
         status, errors = self.result(self.start(self.session, **env))
         self.assertEqual(status, 0, errors)
-        self.assertLess(time.monotonic() - begun, seconds)
-        self.assertEqual(self.session.titles(), ["50.0%"])
+        self.assert_titles(self.session, ["50.0%"])
 
     def test_one_display_by_any_of_its_names(self):
         self.first(DISPLAY=":77")
@@ -81,7 +83,7 @@ class OnABus(StartCase):
 
     def test_fifty_at_once(self):
         starts = [self.start(self.session) for _ in range(50)]
-        self.assertTrue(wait_for(lambda: sum(start.poll() is None for start in starts) == 1, 120))
+        self.assertTrue(wait_for(lambda: sum(start.poll() is None for start in starts) == 1, 300))
         self.assert_titles(self.session, ["50.0%"])
 
     def test_one_that_was_killed_is_in_nobodys_way(self):
@@ -93,9 +95,7 @@ class OnABus(StartCase):
     def test_one_that_is_stopped_lets_the_second_end_with_a_line(self):
         first = self.first()
         first.send_signal(signal.SIGSTOP)
-        begun = time.monotonic()
         status, errors = self.result(self.start(self.session))
-        self.assertLess(time.monotonic() - begun, 7.0)
         self.assertEqual(status, 1)
         self.assertEqual(errors, f"quindle-helper: another one, process {first.pid}, runs in this session but does not "
                                  "answer\n")
@@ -104,9 +104,7 @@ class OnABus(StartCase):
 
     def test_a_bus_that_is_stopped_lets_the_start_end_with_a_line(self):
         self.session.daemon.send_signal(signal.SIGSTOP)
-        begun = time.monotonic()
         status, errors = self.result(self.start(self.session))
-        self.assertLess(time.monotonic() - begun, 8.0)
         self.assertEqual((status, errors.count("\n")), (1, 1), errors)
 
     def test_each_bus_has_its_own(self):
@@ -114,25 +112,20 @@ class OnABus(StartCase):
         self.first(DISPLAY=":77")
         self.start(other, DISPLAY=":77")
         self.assert_titles(other, ["50.0%"])
-        self.assertEqual(self.session.titles(), ["50.0%"])
+        self.assert_titles(self.session, ["50.0%"])
 
     def test_answers_to_arguments_leave_the_first_alone(self):
         first = self.first()
-        monitor = subprocess.Popen(["dbus-monitor", "--address", self.session.address], stdout=subprocess.PIPE, text=True)
-        self.addCleanup(monitor.kill)
-        self.assertTrue(monitor.stdout.readline())  # it listens
+        monitor = Monitor(self, self.session)
         for argument, status in (("--help", 0), ("--version", 0), ("--bogus", 2)):
             done = subprocess.run([HELPER, argument], env=self.environment(DBUS_SESSION_BUS_ADDRESS=self.session.address),
-                                  stdin=subprocess.DEVNULL, capture_output=True, timeout=30, check=False)
+                                  stdin=subprocess.DEVNULL, capture_output=True, timeout=90, check=False)
             self.assertEqual(done.returncode, status)
         bus = dbus.bus.BusConnection(self.session.address)  # which the monitor hears, after all that was said before
         self.addCleanup(bus.close)
         bus.get_object("org.freedesktop.DBus", "/").GetId(dbus_interface="org.freedesktop.DBus")
-        time.sleep(0.2)
-        monitor.terminate()
-        said = monitor.communicate()[0]
-        self.assertIn("member=GetId", said)
-        self.assertNotIn(NAME, said)
+        self.assertTrue(monitor.comes_to_say("member=GetId"), monitor.said())
+        self.assertNotIn(NAME, monitor.said())
         children = Path(f"/proc/{first.pid}/task/{first.pid}/children").read_text(encoding="ascii")
         self.assertEqual(children, "")
 
@@ -145,13 +138,10 @@ class OnABus(StartCase):
 
     def test_the_first_gets_the_activation_token_of_the_second(self):
         self.first()
-        monitor = subprocess.Popen(["dbus-monitor", "--address", self.session.address,
-                                    "interface='org.freedesktop.Application'"], stdout=subprocess.PIPE, text=True)
-        self.addCleanup(monitor.kill)
-        self.assertTrue(monitor.stdout.readline())  # it listens
+        monitor = Monitor(self, self.session, "interface='org.freedesktop.Application'")
         self.assert_second_ends(XDG_ACTIVATION_TOKEN="token-of-the-second")
-        monitor.terminate()
-        self.assertRegex(monitor.communicate()[0], r'"activation-token"\s+variant\s+string "token-of-the-second"')
+        self.assertTrue(monitor.comes_to_say('string "token-of-the-second"'), monitor.said())
+        self.assertRegex(monitor.said(), r'"activation-token"\s+variant\s+string "token-of-the-second"')
 
     def test_a_bus_that_comes_late_and_a_second_start_leave_one(self):
         self.session.kill()
@@ -160,7 +150,7 @@ class OnABus(StartCase):
         self.assertIsNone(first.poll())
         self.session = self.bus()
         second = self.start(self.session)
-        self.assertTrue(wait_for(lambda: (first.poll() is None) != (second.poll() is None), 30))
+        self.assertTrue(wait_for(lambda: (first.poll() is None) != (second.poll() is None), AT_MOST))
         time.sleep(1)
         self.assertNotEqual(first.poll() is None, second.poll() is None)
         self.assert_titles(self.session, ["50.0%"])
@@ -188,21 +178,17 @@ class WithoutABus(StartCase):
 
     def first(self, **env):
         process = self.start(**env)
-        self.assertTrue(wait_for(self.sockets, 15), "nobody listens")
+        self.assertTrue(wait_for(self.sockets, AT_MOST), "nobody listens")
         self.assertIsNone(process.poll())
         return process
 
     def assert_second_ends(self, **env):
-        begun = time.monotonic()
         status, errors = self.result(self.start(**env))
         self.assertEqual(status, 0, errors)
-        self.assertLess(time.monotonic() - begun, 5.0)
 
     def assert_given_up(self, *words, **env):
-        begun = time.monotonic()
         status, errors = self.result(self.start(**env))
         self.assertEqual(status, 1, errors)
-        self.assertLess(time.monotonic() - begun, 6.0)
         lines = [line for line in errors.splitlines() if line.startswith("quindle-helper: ")]
         self.assertEqual(len(lines), 1, errors)
         for word in words:
@@ -230,8 +216,7 @@ class WithoutABus(StartCase):
         (self.root / "runtime/quindle-helper-none.socket/inside").mkdir(parents=True)
         first = self.start()
         lock = self.root / "runtime/quindle-helper-none.lock"
-        self.assertTrue(wait_for(lock.exists, 15))
-        time.sleep(0.5)
+        self.assertTrue(wait_for(lambda: is_locked(lock), AT_MOST))
         self.assert_given_up("quindle-helper-none.lock")
         self.assertIsNone(first.poll())
 
@@ -279,7 +264,7 @@ class WithoutABus(StartCase):
 
     def test_fifty_at_once(self):
         starts = [self.start() for _ in range(50)]
-        self.assertTrue(wait_for(lambda: sum(start.poll() is None for start in starts) == 1, 120))
+        self.assertTrue(wait_for(lambda: sum(start.poll() is None for start in starts) == 1, 300))
 
 
 if __name__ == "__main__":

@@ -22,6 +22,7 @@ HELPER = os.environ["QUINDLE_HELPER"]
 SUITE = "group.fernhollow.Quindle"
 BATTERY = {"type": "Battery", "present": "1", "status": "Discharging", "charge_now": "3000000",
            "charge_full": "6000000", "charge_full_design": "6500000", "voltage_now": "12000000"}
+AT_MOST = 40  # seconds for what comes within five where nothing else runs
 
 
 class Bus:
@@ -71,6 +72,25 @@ class Bus:
             return found
         finally:
             bus.close()
+
+
+class Monitor:
+    """What is said on a bus, from the moment that this is made."""
+
+    def __init__(self, case, bus, *rules):
+        self.bus = bus
+        self.log = case.root / "monitor"
+        with self.log.open("wb") as log:
+            process = subprocess.Popen(["dbus-monitor", "--address", bus.address, *rules], stdout=log)
+        case.addCleanup(process.wait)
+        case.addCleanup(process.kill)
+        case.assertTrue(wait_for(lambda: self.log.stat().st_size > 0, AT_MOST), "nobody listens")
+
+    def said(self):
+        return self.log.read_text(encoding="utf-8")
+
+    def comes_to_say(self, text):
+        return wait_for(lambda: text in self.said(), AT_MOST)
 
 
 class StartCase(unittest.TestCase):
@@ -123,8 +143,9 @@ class StartCase(unittest.TestCase):
             process.kill()
         process.communicate()
 
-    def result(self, process, seconds=20):
-        """Exit status and standard error of a start that ends."""
+    def result(self, process):
+        """Exit status and standard error of a start that ends, before a call over a bus is given up, after 25 s."""
+        seconds = 20
         try:
             _, errors = process.communicate(timeout=seconds)
         except subprocess.TimeoutExpired:
@@ -138,11 +159,13 @@ class StartCase(unittest.TestCase):
 
     def wait_for_file(self, *parts):
         path = os.path.join(*parts)
-        self.assertTrue(wait_for(lambda: os.path.lexists(path), 15), path)
+        self.assertTrue(wait_for(lambda: os.path.lexists(path), AT_MOST), path)
 
-    def assert_titles(self, bus, titles, seconds=15):
-        wait_for(lambda: bus.titles() == titles, seconds)
-        self.assertEqual(bus.titles(), titles)
+    def comes_to_show(self, bus, titles, seconds):
+        return wait_for(lambda: bus.titles() == titles, seconds)
+
+    def assert_titles(self, bus, titles):
+        self.assertTrue(self.comes_to_show(bus, titles, AT_MOST), f"{bus.titles()} instead of {titles}")
 
     def assert_titles_after_change(self, bus, titles):
         bus.announce_settings()

@@ -1,5 +1,6 @@
 """The system bus with the distribution's own policy, and another user on it who wants to drive the helper."""
 
+import math
 import os
 import plistlib
 import re
@@ -13,14 +14,15 @@ import dbus
 import dbus.bus
 import dbus.lowlevel
 
-from start_case import SUITE, Bus, StartCase, start_message_bus, wait_for
+from start_case import AT_MOST, SUITE, Bus, StartCase, start_message_bus, wait_for
 
 POLICY = Path("/usr/share/dbus-1/system.conf")  # with what the installed services add to it
 LOGIN_MANAGER = "org.freedesktop.login1"
 PATH = "/org/freedesktop/login1"
 INTERFACE = "org.freedesktop.login1.Manager"
 OTHER_USER = 65534
-FLOOD = 5.0  # seconds
+FLOOD = 5.0  # seconds, or until that many were sent
+FLOOD_AT_LEAST = 5000
 
 # The policy lets root alone be the login manager. Who does not run this as root is root in a namespace of users, in
 # which there is nobody else: the forger is the same user then.
@@ -34,7 +36,7 @@ bus = dbus.bus.BusConnection(sys.argv[1])
 victims = [None] + ([name for name in bus.list_names() if name.startswith(":")] if sys.argv[2] == "each" else [])
 end = time.monotonic() + {FLOOD}
 sent = 0
-while time.monotonic() < end:
+while time.monotonic() < end or sent < {FLOOD_AT_LEAST}:
     for victim in victims:
         signal = dbus.lowlevel.SignalMessage("{PATH}", "{INTERFACE}", "PrepareForSleep")
         signal.append(False, signature="b")
@@ -111,10 +113,16 @@ class SystemBus(StartCase):
         replacement.rename(path)
 
     def assert_waking_shows(self, text):
-        self.assertTrue(wait_for(self.manager.is_heard, 15), "nobody listens to the login manager")
-        self.set_text(text)
-        self.manager.wake()
-        self.assert_titles(self.session, [text], 4)  # the helper's own timer may take 10 s
+        self.assertTrue(wait_for(self.manager.is_heard, AT_MOST), "nobody listens to the login manager")
+        # The helper's own timer shows it too, 10 s after it showed the text before. A machine may be busy for a while.
+        for attempt, seconds in enumerate((4, 8, 8, 8)):
+            awaited = text + attempt * "!"
+            self.set_text(awaited)
+            self.manager.wake()
+            if self.comes_to_show(self.session, [awaited], seconds):
+                return
+            self.assert_titles(self.session, [awaited])
+        self.fail("only the helper's own timer shows it")
 
     @staticmethod
     def as_other_user(script, *arguments):
@@ -123,8 +131,8 @@ class SystemBus(StartCase):
                                 stderr=subprocess.DEVNULL, text=True)
 
     def flooded(self, whom):
-        """How many titles were shown, and what of a processor and of memory was used, while the flood lasted."""
-        used, kept = processor_time(self.helper), memory(self.helper)
+        """How many titles a signal showed, and what of a processor and of memory was used, while the flood lasted."""
+        begun, used, kept = time.monotonic(), processor_time(self.helper), memory(self.helper)
         forger = self.as_other_user(FORGER, self.address, whom)
         titles = []
         while forger.poll() is None:
@@ -135,23 +143,24 @@ class SystemBus(StartCase):
             time.sleep(0.1)
         sent = int(forger.communicate()[0])
         self.assertEqual(forger.returncode, 0)
-        self.assertGreater(sent / FLOOD, 1000, "that is no flood")
-        share = (processor_time(self.helper) - used) / FLOOD
+        lasted = time.monotonic() - begun
+        share = (processor_time(self.helper) - used) / lasted
         grown = memory(self.helper) - kept
-        print(f"\n  {sent / FLOOD:.0f} a second to {whom}: {len(titles)} titles, {100 * share:.1f} % of a processor, "
+        print(f"\n  {sent / lasted:.0f} a second to {whom}: {len(titles)} titles, {100 * share:.1f} % of a processor, "
               f"{grown} kB more", file=sys.stderr)
-        return len(titles), share, grown
+        usual = 2 + math.ceil(lasted / 10)  # the first, and those of the helper's own timers
+        return len(titles) - usual, share, grown
 
     def test_another_users_broadcasts_are_not_heard(self):
         titles, share, grown = self.flooded("all")
-        self.assertLessEqual(titles, 3)  # the first, and those of the helper's own timers
+        self.assertLessEqual(titles, 0)
         self.assertLess(share, 0.05)
         self.assertLess(grown, KEPT + 2000)
         self.assert_waking_shows("awake")
 
     def test_another_users_signals_to_the_helper_alone_are_not_heard(self):
         titles, _, grown = self.flooded("each")
-        self.assertLessEqual(titles, 3)
+        self.assertLessEqual(titles, 0)
         self.assertLess(grown, KEPT + 5000)
         self.assert_waking_shows("awake")
 
