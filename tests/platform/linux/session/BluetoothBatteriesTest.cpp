@@ -123,7 +123,7 @@ struct BluetoothBatteriesTest : testing::Test
 
     MessageBus bus{QStringLiteral("system")};
     std::optional<Bluez> bluez;
-    BluetoothBatteries batteries{10'000};
+    BluetoothBatteries batteries{60'000};
 };
 
 TEST_F(BluetoothBatteriesTest, ConnectedDevicesWithABatteryAreTold)
@@ -162,7 +162,7 @@ TEST_F(BluetoothBatteriesTest, AServiceThatDoesNotRunIsNotWaitedFor)
     QElapsedTimer watch;
     watch.start();
     EXPECT_EQ(latest(), QString());
-    EXPECT_LT(watch.elapsed(), 5000);
+    EXPECT_LT(watch.elapsed(), 30'000);
 }
 
 TEST_F(BluetoothBatteriesTest, AServiceThatDoesNotAnswerIsWaitedForABriefTime)
@@ -173,10 +173,11 @@ TEST_F(BluetoothBatteriesTest, AServiceThatDoesNotAnswerIsWaitedForABriefTime)
     QElapsedTimer watch;
     watch.start();
     EXPECT_TRUE(impatient.latest().isEmpty());
-    EXPECT_LT(watch.elapsed(), 5000);
+    EXPECT_LT(watch.elapsed(), 20'000); // calls over a bus are waited for 25 s unless one says otherwise
+    watch.restart();
     for (int looks = 0; looks < 1000; ++looks)
         EXPECT_TRUE(impatient.latest().isEmpty());
-    EXPECT_LT(watch.elapsed(), 5000); // the later ones do not wait
+    EXPECT_LT(watch.elapsed(), 20'000); // the later ones do not wait: they would take 100 s
 }
 
 TEST_F(BluetoothBatteriesTest, WithoutABusThereAreNone)

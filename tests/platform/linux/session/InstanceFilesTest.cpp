@@ -40,14 +40,14 @@ protected:
     {
         QElapsedTimer watch;
         watch.start();
-        while (!process.canReadLine() && watch.elapsed() < 10'000)
+        while (!process.canReadLine() && watch.elapsed() < 30'000)
             if (!process.waitForReadyRead(1000) && process.state() == QProcess::NotRunning)
                 break;
         return process.readLine().trimmed();
     }
 
     // Whether it ends well, and soon.
-    static bool ends(QProcess& process) { return process.waitForFinished(10'000) && process.exitCode() == 0; }
+    static bool ends(QProcess& process) { return process.waitForFinished(30'000) && process.exitCode() == 0; }
 
     static void kill(QProcess& process)
     {

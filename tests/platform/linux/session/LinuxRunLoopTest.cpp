@@ -43,7 +43,7 @@ TEST(LinuxRunLoop, TolerantTimerWaitsForTheOther)
     runLoop.scheduleRepeatingTimer(0.1, 0, [&] { fired += 'b'; });
     runs = true;
     EXPECT_TRUE(comesTrue([&] { return fired.size() >= 2; }));
-    EXPECT_EQ(fired, "ab");
+    EXPECT_EQ(fired.substr(0, 2), "ab");
 }
 
 TEST(LinuxRunLoop, InvalidatedTimerIsSilent)
@@ -81,16 +81,16 @@ TEST(LinuxRunLoop, TicksGoOnInALoopInsideACallback)
     LinuxRunLoop runLoop;
     int other = 0;
     bool entered = false;
-    int duringCallback = 0;
+    bool wentOn = false;
     runLoop.scheduleRepeatingTimer(0.01, 0, [&] {
         if (std::exchange(entered, true))
             return;
-        runLoopFor(100);
-        duringCallback = other;
+        const int before = other;
+        wentOn = comesTrue([&] { return other >= before + 2; });
     });
     runLoop.scheduleRepeatingTimer(0.01, 0, [&] { ++other; });
-    EXPECT_TRUE(comesTrue([&] { return duringCallback > 0; }));
-    EXPECT_GE(duringCallback, 2);
+    EXPECT_TRUE(comesTrue([&] { return entered; }));
+    EXPECT_TRUE(wentOn);
 }
 
 TEST(LinuxRunLoop, MissedTicksArePassedOver)
@@ -202,14 +202,14 @@ TEST_F(RestingLoopTest, OneThatFindsSomethingTakesPlace)
 TEST_F(RestingLoopTest, NoneIsLeftOutWhereItMayNot)
 {
     mayRest = false;
-    EXPECT_TRUE(comesTrue([&] { return fired == 5; }));
+    EXPECT_TRUE(comesTrue([&] { return fired >= 5; }));
     EXPECT_EQ(looks, 0);
 }
 
 TEST_F(RestingLoopTest, SomebodyWhoWantsTicksOnTimeGetsThem)
 {
     const Punctuality wanted = runLoop.keepPunctual();
-    EXPECT_TRUE(comesTrue([&] { return fired == 5; }));
+    EXPECT_TRUE(comesTrue([&] { return fired >= 5; }));
     EXPECT_EQ(looks, 0);
 }
 

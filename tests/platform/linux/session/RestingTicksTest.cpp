@@ -2,6 +2,7 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -19,6 +20,7 @@ using RestClock = RestingTicks::Clock;
 struct Found
 {
     std::atomic<int> begun = 0;
+    std::atomic<int> asked = 0; ///< looks that were begun
     std::atomic<int> looked = 0;
     std::atomic<bool> canBegin = true;
     std::atomic<bool> isStill = true;
@@ -47,6 +49,7 @@ struct RestingTicksTest : testing::Test
                     },
                 .isStill =
                     [found] {
+                        ++found->asked;
                         std::unique_lock lock(found->mutex);
                         found->changed.wait(lock, [&] { return !found->hangs; });
                         ++found->looked;
@@ -104,7 +107,8 @@ TEST_F(RestingTicksTest, ALookThatHangsWakes)
     ASSERT_TRUE(comesTrue([&] { return impatient.isPrepared(); }));
     found->setHangs(true);
     impatient.rest(moments(5), RestClock::now() + 1h);
-    EXPECT_TRUE(comesTrue([&] { return wakes == 1; }));
+    // A busy machine may let the look begin later than it is waited for.
+    EXPECT_TRUE(comesTrue([&] { return wakes == 1 && found->asked == 1; }));
     impatient.end();
     EXPECT_FALSE(impatient.isPrepared());
     impatient.prepare(); // waits for nobody
@@ -114,12 +118,24 @@ TEST_F(RestingTicksTest, ALookThatHangsWakes)
 
 TEST_F(RestingTicksTest, WhoHasWokenIsNotWokenAgain)
 {
-    prepare();
     found->isStill = false;
-    ticks.rest(moments(1), RestClock::now() + 1h);
-    ticks.end();
-    EXPECT_FALSE(comesTrue([&, until = RestClock::now() + 100ms] { return RestClock::now() > until; }) &&
-                 wakes > 0);
+    std::vector<RestClock::time_point> moment;
+    // A machine that was held up until the look, which may come a little early, begins again.
+    const auto isTooLate = [&] { return moment.empty() || RestClock::now() >= moment.front() - 40ms; };
+    for (int attempt = 0; attempt < 100 && isTooLate(); ++attempt) {
+        ticks.forget();
+        ASSERT_TRUE(comesTrue([this] {
+            ticks.prepare();
+            return ticks.isPrepared();
+        }));
+        found->looked = 0;
+        moment = {RestClock::now() + 80ms};
+        ticks.rest(moment, RestClock::now() + 1h);
+        ticks.end();
+    }
+    wakes = 0;
+    EXPECT_TRUE(comesTrue([&] { return RestClock::now() > moment.front() + 100ms; }));
+    EXPECT_EQ(wakes, 0);
     EXPECT_EQ(found->looked, 0);
 }
 

@@ -8,7 +8,7 @@ PrivateBus::PrivateBus()
 {
     m_daemon.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
                                                    QStringLiteral("--print-address=1")});
-    while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead(10000)) {
+    while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead(60'000)) {
     }
     m_address = QString::fromLocal8Bit(m_daemon.readLine()).trimmed();
     if (m_address.isEmpty())

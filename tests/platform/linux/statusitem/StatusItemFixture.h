@@ -12,6 +12,7 @@
 #include "platform/linux/statusitem/NotifierTypes.h"
 #include "tests/platform/linux/statusitem/FakeTrayHost.h"
 #include "tests/platform/linux/statusitem/PrivateBus.h"
+#include "tests/support/ComesTrue.h"
 #include "tests/support/Texts.h"
 
 namespace quindle {
@@ -22,16 +23,6 @@ Type demarshalled(const QVariant& value)
     Type result;
     value.value<QDBusArgument>() >> result;
     return result;
-}
-
-/// Lets the main loop run until it is so; false after ten seconds.
-template <typename Condition>
-bool comesTrue(Condition condition)
-{
-    const QDeadlineTimer deadline(10000);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-    return condition();
 }
 
 /// A status item with a menu, on a bus of its own with a host that may appear.
