@@ -22,7 +22,7 @@ UNSHARE = ["unshare", "--user", "--map-user=1000", "--map-group=1000"]
 NOBODY = 65534
 
 
-def wait_for(condition, seconds=10.0, pause=0.05):
+def wait_for(condition, seconds=30.0, pause=0.05):
     """The first true value of condition() within that many seconds, else its last value."""
     end = time.monotonic() + seconds
     while True:
@@ -156,7 +156,7 @@ class Desktop:
         return subprocess.Popen([*self.prefix, *map(str, command)], env={**self.env, **(env or {})},
                                 stdin=subprocess.DEVNULL, **options)
 
-    def call(self, *command, seconds=15, env=None):
+    def call(self, *command, seconds=60, env=None):
         """Runs a command on the desktop and returns what it prints."""
         done = subprocess.run([*self.prefix, *map(str, command)], env={**self.env, **(env or {})},
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=self.log, timeout=seconds,
@@ -271,14 +271,14 @@ class Desktop:
         return "#f0f1f3" if self.dark is False else "#222222"
 
     def _wait_for_watcher(self):
-        if not wait_for(lambda: self.has_name(WATCHER), 20.0):
+        if not wait_for(lambda: self.has_name(WATCHER), 60.0):
             raise RuntimeError(f"{self.host}: no status notifier watcher appeared")
         time.sleep(0.3)
 
     # ---- questions
 
     def gdbus(self, destination, path, method, *arguments):
-        return self.call("gdbus", "call", "--session", "--timeout", "5", "--dest", destination, "--object-path", path,
+        return self.call("gdbus", "call", "--session", "--timeout", "20", "--dest", destination, "--object-path", path,
                          "--method", method, "--", *arguments)
 
     def has_name(self, name):
@@ -295,7 +295,7 @@ class Desktop:
                             "RegisteredStatusNotifierItems")
         return [re.split(r"[@/]", text)[0] for text in re.findall(r"'([^']+)'", answer)]
 
-    def item_name(self, seconds=10.0):
+    def item_name(self, seconds=30.0):
         """The bus name of the one registered item; None when it does not appear in time."""
         items = wait_for(self.registered_items, seconds)
         return items[0] if items else None

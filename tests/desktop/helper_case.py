@@ -3,6 +3,7 @@
 import os
 import plistlib
 import sys
+import time
 import unittest
 from pathlib import Path
 
@@ -69,16 +70,42 @@ class HelperCase(unittest.TestCase):
     def stop(self, process):
         if process.poll() is None:
             process.terminate()
-            process.wait(5)
+            process.wait(40)
         if self.host != "tint2":
             wait_for(lambda: not self.desktop.registered_items(), 3)
 
-    def assert_title(self, expected, seconds=8.0):
+    def assert_title(self, expected, seconds=30.0):
         self.assertEqual(wait_for(lambda: self.desktop.item_title() == expected, seconds) and expected, expected,
                          f"the title is {self.desktop.item_title()!r}")
 
     def assert_view_opens(self):
-        self.assertTrue(wait_for(self.desktop.windows, 5), "no battery view appeared")
+        self.assertTrue(wait_for(self.desktop.windows), "no battery view appeared")
+
+    def click_until(self, condition, *place, button=1):
+        """Clicks again where nothing comes of it for long: a busy panel may not have drawn the item yet."""
+        for _ in range(3):
+            self.desktop.click(*place, button=button)
+            if wait_for(condition, 15):
+                return True
+        return False
+
+    def press_until(self, condition, *keys):
+        """Presses the keys again where nothing comes of them: a busy window may not have the keyboard yet."""
+        for _ in range(6):
+            for key in keys:
+                self.desktop.key(key)
+            if wait_for(condition, 5):
+                return True
+        return False
+
+    @staticmethod
+    def settled(picture, other_than=None, pause=1.0):
+        """The picture, another one than that, once it stays as it is for so many seconds."""
+        def seen_twice():
+            first = picture()
+            time.sleep(pause)
+            return first if first != other_than and picture() == first else None
+        return wait_for(seen_twice, 60)
 
     def assert_view_closes(self):
-        self.assertTrue(wait_for(lambda: not self.desktop.windows(), 5), "the battery view stayed")
+        self.assertTrue(wait_for(lambda: not self.desktop.windows()), "the battery view stayed")

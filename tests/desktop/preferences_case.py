@@ -53,7 +53,7 @@ class PreferencesCase(HelperCase):
         return plistlib.loads(path.read_bytes()).get(key) if path.exists() else None
 
     def assert_stored(self, key, expected, database=SUITE):
-        wait_for(lambda: self.stored(key, database) == expected, 5)
+        wait_for(lambda: self.stored(key, database) == expected)
         value = self.stored(key, database)
         self.assertEqual(value, expected, f"{key} in {database}")
         self.assertIs(type(value), type(expected), f"{key} in {database}")
@@ -69,8 +69,10 @@ class PreferencesCase(HelperCase):
 
     def open(self, entry, title):
         self.desktop.choose(entry)
-        self.assertTrue(wait_for(lambda: self.window(title), 10), f"no window {title!r}")
-        time.sleep(0.5)  # the window manager moves it once more
+        self.assertTrue(wait_for(lambda: self.window(title)), f"no window {title!r}")
+        self.assertTrue(wait_for(lambda: self.desktop.call("xdotool", "getactivewindow") == self.window(title)),
+                        f"the window {title!r} has no keyboard")
+        self.settled(lambda: self.desktop.call("xwininfo", "-id", self.window(title)), pause=0.5)  # it is moved once more
 
     def window(self, title):
         found = self.desktop.call("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
@@ -84,7 +86,7 @@ class PreferencesCase(HelperCase):
                                          "interface='com.fernhollow.Quindle.Notifications'", stdout=stream)
         self.addCleanup(process.wait)
         self.addCleanup(process.kill)
-        wait_for(lambda: log.stat().st_size > 0, 5)
+        self.assertTrue(wait_for(lambda: log.stat().st_size > 0), "nobody listens")
         return lambda: log.read_text().count("member=SettingsChangedNotification")
 
     def announce(self):
@@ -99,7 +101,7 @@ class PreferencesCase(HelperCase):
 
     def tree(self):
         """Begun again where it met a control that was just being taken away: nothing is printed then."""
-        return json.loads(wait_for(lambda: self.accessibility("tree"), 10) or "")
+        return json.loads(wait_for(lambda: self.accessibility("tree")) or "")
 
     def control(self, role, name):
         """A window is mapped a while before assistive technologies hear of what is in it."""
@@ -110,7 +112,7 @@ class PreferencesCase(HelperCase):
         return "checked" in self.control(role, name)["states"]
 
     def assert_checked(self, role, name, expected=True):
-        self.assertTrue(wait_for(lambda: self.is_checked(role, name) == expected, 5), f"{role} {name!r}")
+        self.assertTrue(wait_for(lambda: self.is_checked(role, name) == expected), f"{role} {name!r}")
 
     def act(self, role, name):
         self.accessibility("act", role, name)

@@ -20,7 +20,7 @@ address, item, seconds = sys.argv[1], sys.argv[2], float(sys.argv[3])
 bus = dbus.bus.BusConnection(address)
 end = time.monotonic() + seconds
 calls = 0
-while time.monotonic() < end:
+while time.monotonic() < end or calls < 5_000:
     call = dbus.lowlevel.MethodCallMessage(item, "/StatusNotifierItem", "org.freedesktop.DBus.Properties", "GetAll")
     call.append("org.kde.StatusNotifierItem", signature="s")
     bus.send_message(call)
@@ -33,8 +33,8 @@ while time.monotonic() < end:
 print(calls)
 """
 
-# Becomes the watcher and leaves again for that many seconds, then stays. Prints the flaps and the registrations meanwhile,
-# and each item that registers afterwards.
+# Becomes the watcher and leaves again for that many seconds, then stays. Prints each item that registers meanwhile, the
+# flaps and how long they took, and each item that registers afterwards.
 FLAPS = """
 import sys, time, dbus.bus, dbus.mainloop.glib, dbus.service
 from gi.repository import GLib
@@ -56,15 +56,15 @@ class Watcher(dbus.service.Object):
 
 watcher = Watcher(bus, "/StatusNotifierWatcher")
 context = GLib.MainContext.default()
-end = time.monotonic() + seconds
+begun = time.monotonic()
 flaps = 0
-while time.monotonic() < end:
+while time.monotonic() < begun + seconds or flaps < 2_000:
     bus.request_name(WATCHER)
     bus.release_name(WATCHER)
     while context.iteration(False):
         pass
     flaps += 1
-print("flaps", flaps, flush=True)
+print("flaps", flaps, time.monotonic() - begun, flush=True)
 items.clear()
 bus.request_name(WATCHER)
 GLib.MainLoop().run()
@@ -110,9 +110,8 @@ class Abuse(FaultCase):
             grown = self.most_memory(process, caller) - before
             calls = int(caller.stdout.readline())
             print(f"\n  {calls} calls without reading: at most {grown} kB more", file=sys.stderr)
-            self.assertGreater(calls, 5_000, "that is no flood")
             self.assertLess(grown, MOST_GROWTH)
-            item_before, item = item, watcher.item(20)
+            item_before, item = item, watcher.item()
             self.assertIsNotNone(item, "the item did not come back")
             self.assertNotEqual(item, item_before)
             self.assert_shows(self.session, item, "50.0%")
@@ -120,10 +119,9 @@ class Abuse(FaultCase):
     def test_a_watcher_that_comes_and_goes_without_end(self):
         process, watcher, item = self.start_shown()
         watcher.kill()
-        wait_for(lambda: self.session.names() <= 3, 5)
+        wait_for(lambda: self.session.names() <= 3)
         before = anonymous_memory(process)
-        seconds = 6
-        flapping = self.run_script(FLAPS, seconds)
+        flapping = self.run_script(FLAPS, 6)
         registrations = 0
         most = before
         for line in flapping.stdout:
@@ -131,10 +129,9 @@ class Abuse(FaultCase):
             if line.startswith("flaps"):
                 break
             registrations += 1
-        flaps = int(line.split()[1])
+        _, flaps, lasted = line.split()
         print(f"\n  {flaps} flaps: {registrations} registrations, at most {most - before} kB more", file=sys.stderr)
-        self.assertGreater(flaps, 2_000)
-        self.assertLessEqual(registrations, 2 * seconds + 1)
+        self.assertLessEqual(registrations, 2 * float(lasted) + 1)
         self.assertLess(most - before, MOST_GROWTH)
         self.assertEqual(flapping.stdout.readline().strip(), item)  # it stays now, and has the item
         self.assert_shows(self.session, item, "50.0%")

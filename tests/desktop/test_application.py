@@ -30,7 +30,7 @@ class ApplicationCase(PreferencesCase):
     def start_application(self, page="Battery", *arguments):
         process = self.desktop.start(APPLICATION, *arguments, env=self.environment)
         self.addCleanup(self.stop_application, process)
-        self.assertTrue(wait_for(self.shown, 10), "no window")
+        self.assertTrue(wait_for(self.shown), "no window")
         self.assertTrue(self.control("list item", page), "nothing in the window")
         self.show_page(page)
         return process
@@ -38,7 +38,7 @@ class ApplicationCase(PreferencesCase):
     def stop_application(self, process):
         if process.poll() is None:
             process.terminate()
-            process.wait(5)
+            process.wait(40)
 
     def shown(self):
         return self.desktop.windows("^quindle$")
@@ -47,13 +47,15 @@ class ApplicationCase(PreferencesCase):
         active = self.desktop.call("xdotool", "getactivewindow")
         return active in self.shown()
 
+    def activate(self):
+        for window in self.shown():
+            self.desktop.call("xdotool", "windowactivate", window)
+
     def show_page(self, page):
-        if not wait_for(self.is_active, 5):
-            # A busy window manager may not have given it the keyboard; a person would click on it.
-            self.desktop.call("xdotool", "windowactivate", self.shown()[0])
-        self.assertTrue(wait_for(self.is_active, 15), "the window has no keyboard")
+        # A busy window manager may not have given it the keyboard; a person would click on it.
+        self.assertTrue(any(wait_for(self.is_active, 5) or self.activate() for _ in range(8)), "the window has no keyboard")
         self.desktop.key(f"ctrl+{PAGES.index(page) + 1}")
-        self.assertTrue(wait_for(lambda: self.page() == page, 15), f"the page is {self.page()}")
+        self.assertTrue(wait_for(lambda: self.page() == page), f"the page is {self.page()}")
 
     # ---- an assistive technology
 
@@ -77,11 +79,11 @@ class Window(ApplicationCase):
         self.start_application()
         self.assertEqual([node["name"] for node in nodes(self.tree()) if node["role"] == "list item"], PAGES)
         self.click("list item", "Details")
-        self.assertTrue(wait_for(lambda: self.page() == "Details", 5))
+        self.assertTrue(wait_for(lambda: self.page() == "Details"))
         self.desktop.key("Up")
-        self.assertTrue(wait_for(lambda: self.page() == "Snapshots", 5), "the list has the keyboard after a click")
+        self.assertTrue(wait_for(lambda: self.page() == "Snapshots"), "the list has the keyboard after a click")
         self.desktop.key("ctrl+1")
-        self.assertTrue(wait_for(lambda: self.page() == "Battery", 5))
+        self.assertTrue(wait_for(lambda: self.page() == "Battery"))
 
     def test_every_control_has_a_name(self):
         self.start_application()
@@ -94,27 +96,27 @@ class Window(ApplicationCase):
     def test_comes_back_with_its_page(self):
         process = self.start_application("Details")
         self.desktop.key("ctrl+q")
-        self.assertEqual(process.wait(5), 0)
+        self.assertEqual(process.wait(40), 0)
         self.assertEqual(self.stored("ApplicationPage", OWN), "Details")
         again = self.desktop.start(APPLICATION, env=self.environment)
         self.addCleanup(self.stop_application, again)
-        self.assertTrue(wait_for(lambda: self.shown() and self.page() == "Details", 10))
+        self.assertTrue(wait_for(lambda: self.shown() and self.page() == "Details"))
 
     def test_control_w_ends_it(self):
         process = self.start_application()
         self.desktop.key("ctrl+w")
-        self.assertEqual(process.wait(5), 0)
+        self.assertEqual(process.wait(40), 0)
         self.assertTrue(self.stored("ApplicationWindowFrame", OWN))
 
     def test_a_second_start_raises_the_first(self):
         self.start_application()
-        self.assertTrue(wait_for(self.is_active, 5))
+        self.assertTrue(wait_for(self.is_active))
         self.desktop.call("xdotool", "windowminimize", self.shown()[0])
-        self.assertTrue(wait_for(lambda: not self.shown(), 5))
-        self.assertEqual(self.desktop.start(APPLICATION, env=self.environment).wait(10), 0)
-        self.assertTrue(wait_for(self.shown, 5), "it stays minimized")
+        self.assertTrue(wait_for(lambda: not self.shown()))
+        self.assertEqual(self.desktop.start(APPLICATION, env=self.environment).wait(40), 0)
+        self.assertTrue(wait_for(self.shown), "it stays minimized")
         self.assertEqual(len(self.shown()), 1)
-        self.assertTrue(wait_for(self.is_active, 5))
+        self.assertTrue(wait_for(self.is_active))
 
     def test_the_battery_is_live(self):
         self.start_application()
@@ -144,12 +146,12 @@ class Settings(ApplicationCase):
         self.start_application("Settings")
         self.act("check box", "Start when I log in")
         entry = self.config / "autostart" / f"{OWN}.desktop"
-        self.assertTrue(wait_for(entry.exists, 5))
+        self.assertTrue(wait_for(entry.exists))
         self.assertIn(os.path.realpath(HELPER), entry.read_text().replace("\\\\", "\\"))
         inspected = self.desktop.call(INSPECT, env={"QUINDLE_SYSFS": str(self.system)})
         self.assertRegex(inspected, r"(?i)login")
         self.act("check box", "Start when I log in")
-        self.assertTrue(wait_for(lambda: not entry.exists(), 5))
+        self.assertTrue(wait_for(lambda: not entry.exists()))
 
 
 class Details(ApplicationCase):
@@ -158,10 +160,10 @@ class Details(ApplicationCase):
 
     def test_search(self):
         self.start_application("Details")
-        self.assertTrue(wait_for(lambda: "BatteryHealth" in self.rows(), 5), self.rows())
+        self.assertTrue(wait_for(lambda: "BatteryHealth" in self.rows()), self.rows())
         self.desktop.key("ctrl+f")
         self.desktop.call("xdotool", "type", "--delay", "20", "cycle")
-        self.assertTrue(wait_for(lambda: "CycleCount" in self.rows(), 5), self.rows())
+        self.assertTrue(wait_for(lambda: "CycleCount" in self.rows()), self.rows())
         self.assertNotIn("BatteryHealth", self.rows())
         self.assertIn("12", self.rows())
 
@@ -169,12 +171,12 @@ class Details(ApplicationCase):
         self.start_application("Details")
         path = self.desktop.root / "saved.plist"
         self.act("push button", "Save as Machine File...")
-        self.assertTrue(wait_for(lambda: self.control("dialog", "Save as Machine File"), 10))
-        self.assertTrue(wait_for(self.is_active, 5))
+        self.assertTrue(wait_for(lambda: self.control("dialog", "Save as Machine File")))
+        self.assertTrue(wait_for(self.is_active))
         self.type(str(path))
         self.desktop.key("Return")
-        self.assertTrue(wait_for(path.exists, 10), "nothing was saved")
-        wait_for(lambda: self.control("label", "Saved"), 5)
+        self.assertTrue(wait_for(path.exists), "nothing was saved")
+        wait_for(lambda: self.control("label", "Saved"))
         keys = plistlib.loads(path.read_bytes())
         self.assertEqual(keys["Registry"]["AppleSmartBattery"]["CycleCount"], int(BATTERY["cycle_count"]))
         played = subprocess.run([INSPECT, "--machine", str(path), "--json"], capture_output=True, check=False)
@@ -202,7 +204,7 @@ class History(ApplicationCase):
         return self.control("chart", "Charge, last 24 hours")["description"]
 
     def assert_described(self, condition):
-        self.assertTrue(wait_for(lambda: condition(self.described()), 5), self.described())
+        self.assertTrue(wait_for(lambda: condition(self.described())), self.described())
 
     def test_read_and_zoomed_by_mouse_and_keyboard(self):
         self.assert_text("Not enough history yet (needs 60 days)")
@@ -231,11 +233,11 @@ class History(ApplicationCase):
     def test_exported(self):
         path = self.desktop.root / "table.csv"
         self.act("push button", "Export...")
-        self.assertTrue(wait_for(lambda: self.control("dialog", "Export"), 10))
-        self.assertTrue(wait_for(self.is_active, 5))
+        self.assertTrue(wait_for(lambda: self.control("dialog", "Export")))
+        self.assertTrue(wait_for(self.is_active))
         self.type(str(path))
         self.desktop.key("Return")
-        self.assertTrue(wait_for(path.exists, 10), "nothing was saved")
+        self.assertTrue(wait_for(path.exists), "nothing was saved")
         lines = path.read_bytes().split(b"\r\n")
         self.assertEqual(lines[0], b"Moment,Charge,Power,State")
         self.assertEqual(len(lines), self.SAMPLES + 2)
@@ -256,7 +258,7 @@ class Snapshots(ApplicationCase):
         self.addCleanup(archive.unlink)
         self.assertEqual(archive.stat().st_mode & 0o777, 0o600)
         # Again where the first click missed: the table may still be laid out, or the archive be read.
-        self.assertTrue(wait_for(self.can_delete, 20))
+        self.assertTrue(wait_for(self.can_delete))
         self.desktop.key("Delete")
         self.assert_text("1 snapshot deleted")
         self.assert_text("No snapshots yet")
@@ -268,8 +270,8 @@ class Snapshots(ApplicationCase):
 class SnapshotFiles(ApplicationCase):
     def choose_file(self, button, title, path):
         self.act("push button", button)
-        self.assertTrue(wait_for(lambda: self.control("dialog", title), 10))
-        self.assertTrue(wait_for(self.is_active, 5))
+        self.assertTrue(wait_for(lambda: self.control("dialog", title)))
+        self.assertTrue(wait_for(self.is_active))
         self.type(str(path))
         self.desktop.key("Return")
 
@@ -295,15 +297,15 @@ class SnapshotFiles(ApplicationCase):
         self.choose_file("Import...", "Import Snapshots", other)
         self.assert_text("1 snapshot imported")
         # Again where the window that the dialog has left does not have the keyboard yet.
-        self.assertTrue(wait_for(self.can_compare, 20))
+        self.assertTrue(wait_for(self.can_compare))
         self.act("push button", "Compare")
-        self.assertTrue(wait_for(lambda: self.control("dialog", "Compare Snapshots"), 10))
+        self.assertTrue(wait_for(lambda: self.control("dialog", "Compare Snapshots")))
         self.assert_text("200 mAh")
         self.desktop.key("Escape")
-        self.assertTrue(wait_for(self.is_active, 5))
+        self.assertTrue(wait_for(self.is_active))
         table = self.desktop.root / "snapshots.csv"
         self.choose_file("Export...", "Export Snapshots", table)
-        self.assertTrue(wait_for(table.exists, 10), "nothing was saved")
+        self.assertTrue(wait_for(table.exists), "nothing was saved")
         self.assertEqual(table.read_bytes().count(b"\r\n"), 3, table.read_bytes())
 
 
@@ -312,14 +314,14 @@ class FromTheHelper(ApplicationCase):
         self.environment.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON")
         self.start_helper()
         self.desktop.choose("Open Application")
-        self.assertTrue(wait_for(self.is_active, 10), "no window, or one behind the others")
+        self.assertTrue(wait_for(self.is_active), "no window, or one behind the others")
         window = self.shown()[0]
         process = int(self.desktop.call("xdotool", "getwindowpid", window))
         self.addCleanup(lambda: os.kill(process, 15))
         self.desktop.call("xdotool", "windowminimize", window)
-        self.assertTrue(wait_for(lambda: not self.shown(), 5))
+        self.assertTrue(wait_for(lambda: not self.shown()))
         self.desktop.choose("Open Application")
-        self.assertTrue(wait_for(lambda: self.shown() == [window], 10), "the one that runs is not raised")
+        self.assertTrue(wait_for(lambda: self.shown() == [window]), "the one that runs is not raised")
 
 
 if __name__ == "__main__":

@@ -9,7 +9,7 @@ import unittest
 import dbus
 import dbus.lowlevel
 
-from fault_case import SETTINGS_CHANGED, FaultCase, anonymous_memory, open_files
+from fault_case import SETTINGS_CHANGED, FaultCase, anonymous_memory, open_files, wait_for
 
 KILLS = int(os.environ.get("QUINDLE_WATCHER_KILLS", "100"))
 # The sanitizers' allocator does, so that memory grows without a leak; those they report themselves.
@@ -19,9 +19,7 @@ PATH = "/com/fernhollow/Quindle"
 
 class MessageBuses(FaultCase):
     def assert_hears_settings(self, bus, item, title):
-        self.set_template(title)
-        bus.send(PATH, SETTINGS_CHANGED)
-        self.assert_shows(bus, item, title, 2)
+        self.assert_shows_at_once(bus, item, title, lambda: bus.send(PATH, SETTINGS_CHANGED))
 
     def test_a_session_bus_that_goes_and_comes_back(self):
         bus = self.bus()
@@ -29,7 +27,7 @@ class MessageBuses(FaultCase):
         self.set_template("%p%")
         process = self.start_helper({"DBUS_SESSION_BUS_ADDRESS": bus.address})
         self.assert_shows(bus, self.watcher(bus).item(), "50.0%")
-        files = []
+        files = 0
         for round_number in range(4):
             bus.kill()
             time.sleep(0.3)
@@ -38,8 +36,8 @@ class MessageBuses(FaultCase):
             item = self.watcher(bus).item()
             self.assertIsNotNone(item, "the item did not come back")
             self.assert_hears_settings(bus, item, f"round {round_number}")
-            files.append(open_files(process))
-        self.assertLessEqual(files[-1], files[0], files)
+            files = files or open_files(process)
+        self.assertTrue(wait_for(lambda: open_files(process) <= files), (open_files(process), files))
 
     def start_before_bus(self, bus, env, without=()):
         self.set_template("%p%")
@@ -71,10 +69,14 @@ class MessageBuses(FaultCase):
             with open(f"/proc/{process.pid}/status", encoding="ascii") as stream:
                 return next(int(line.split()[1]) for line in stream if line.startswith("voluntary"))
 
-        before = switches()
-        time.sleep(5)
+        def in_five_seconds():
+            before = switches()
+            time.sleep(5)
+            return switches() - before
+
+        # A start on a busy machine may not be over yet.
+        self.assertTrue(wait_for(lambda: in_five_seconds() <= 10, 40), "more than ten wake-ups in 5 s of waiting, always")
         self.assertIsNone(process.poll())
-        self.assertLessEqual(switches() - before, 10, "wake-ups in 5 s of waiting")
 
     def test_a_system_bus_that_is_absent_and_comes(self):
         bus = self.bus()
@@ -85,17 +87,18 @@ class MessageBuses(FaultCase):
         item = self.watcher(bus).item()
         self.assert_shows(bus, item, "50.0%")
         system.start()
-        time.sleep(1)
-        self.set_template("woken")
         login_manager = dbus.bus.BusConnection(system.address)
         self.addCleanup(login_manager.close)
         login_manager.request_name("org.freedesktop.login1")
-        time.sleep(0.5)
-        woken = dbus.lowlevel.SignalMessage("/org/freedesktop/login1", "org.freedesktop.login1.Manager", "PrepareForSleep")
-        woken.append(False, signature="b")
-        login_manager.send_message(woken)
-        login_manager.flush()
-        self.assert_shows(bus, item, "woken", 2)
+
+        def wake():
+            woken = dbus.lowlevel.SignalMessage("/org/freedesktop/login1", "org.freedesktop.login1.Manager",
+                                                "PrepareForSleep")
+            woken.append(False, signature="b")
+            login_manager.send_message(woken)
+            login_manager.flush()
+
+        self.assert_shows_at_once(bus, item, "woken", wake)
 
 
 class SilentDisplay(FaultCase):
@@ -114,7 +117,7 @@ class SilentDisplay(FaultCase):
             watcher.kill()  # now an X11 tray would be looked for
             self.assertIsNotNone(self.watcher(bus).item())
             self.assertIsNone(process.poll())
-        self.assertIn("does not answer", self.desktop.log_path.read_text(errors="replace"))
+        self.assertTrue(wait_for(lambda: "does not answer" in self.desktop.log_path.read_text(errors="replace")))
 
 
 class TrayHosts(FaultCase):
@@ -131,15 +134,21 @@ class TrayHosts(FaultCase):
                 self.assertIsNotNone(item, f"no item after {number} kills")
                 watcher.kill()
             time.sleep(4)  # the last look at the watcher's list is over
-            return open_files(process), bus.names(), anonymous_memory(process)
+            return anonymous_memory(process)
 
-        files, names, memory = kill_watchers(20)
-        files_after, names_after, memory_after = kill_watchers(KILLS)
-        print(f"{KILLS} kills: files {files} -> {files_after}, connections {names} -> {names_after}, "
-              f"memory {memory} -> {memory_after} kB")
-        self.assertEqual((files_after, names_after), (files, names))
-        if not KEEPS_FREED_MEMORY:
-            self.assertLess(memory_after - memory, 200, "kB")
+        def used():
+            return open_files(process), bus.names()
+
+        memory = kill_watchers(20)
+        before = used()
+        for _ in range(3):  # what is left behind each time grows each time; heaps settle late on a busy machine
+            memory_before, memory = memory, kill_watchers(KILLS)
+            print(f"{KILLS} kills: files and connections {before} -> {used()}, memory {memory_before} -> {memory} kB")
+            self.assertTrue(wait_for(lambda: used() == before), (used(), before))
+            if KEEPS_FREED_MEMORY or memory - memory_before < 200:
+                break
+        else:
+            self.fail("the memory grows")
         self.assert_shows(bus, self.watcher(bus).item(), "50.0%")
 
 

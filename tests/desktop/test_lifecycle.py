@@ -12,15 +12,16 @@ class PanelRestart(HelperCase):
         return self.desktop.call("sh", "-c", "import -silent -window root -crop 40x28+0+0 rgb:- | md5sum")
 
     def test_the_item_comes_back_and_looks_the_same(self):
+        empty = self.picture_of_panel()
         self.start(machine(66))
         self.assert_title("66.0%")
-        time.sleep(1.5)
-        before = self.picture_of_panel()
+        before = self.settled(self.picture_of_panel, empty)
+        self.assertTrue(before, "the panel shows nothing")
         for _ in range(2):
             self.desktop.kill_panel()
             self.desktop.start_panel()
             self.assert_title("66.0%")
-            self.assertTrue(wait_for(lambda: self.picture_of_panel() == before, 5), "the panel shows another picture")
+            self.assertTrue(wait_for(lambda: self.picture_of_panel() == before), "the panel shows another picture")
 
 
 class NoTray(HelperCase):
@@ -33,10 +34,15 @@ class NoTray(HelperCase):
     def test_no_tray_is_waited_for_quietly(self):
         process = self.start(machine(66))
         time.sleep(3)
-        before = self.cpu(process)
-        time.sleep(5)
+
+        def in_five_seconds():
+            before = self.cpu(process)
+            time.sleep(5)
+            return self.cpu(process) - before
+
+        # A start on a busy machine may not be over yet.
+        self.assertTrue(wait_for(lambda: in_five_seconds() < 100, 40), "100 ms of processor time in 5 s of waiting, always")
         self.assertIsNone(process.poll())
-        self.assertLess(self.cpu(process) - before, 100, "ms of processor time in 5 s of waiting")
         self.desktop.host = "xfce"
         self.desktop.start_panel()
         self.addCleanup(setattr, self.desktop, "host", "none")

@@ -21,7 +21,7 @@ PATH = "/com/fernhollow/Quindle"
 NOTIFICATIONS = "com.fernhollow.Quindle.Notifications."
 SETTINGS_CHANGED = NOTIFICATIONS + "SettingsChangedNotification"
 WILL_UPDATE = NOTIFICATIONS + "WillUpdateImmediately"
-AT_ONCE = 2.0  # seconds, on a busy machine too; the refresh timer comes every ten
+A_MOMENT = 0.5  # seconds in which nothing is shown that has to wait for the refresh timer, which comes every ten
 BATTERY = {"type": "Battery", "present": "1", "status": "Discharging", "charge_now": "3000000",
            "charge_full": "6000000", "charge_full_design": "6500000", "voltage_now": "12000000",
            "voltage_min_design": "11400000", "current_now": "1000000", "cycle_count": "12"}
@@ -72,16 +72,28 @@ class Notifications(HelperCase):
         return str(self.item.Get(ITEM_INTERFACE, "Title", dbus_interface="org.freedesktop.DBus.Properties"))
 
     def assert_changes_at_once(self, template, title, announce):
-        """Another template is not shown by itself, and at once when `announce` was called."""
-        before = self.title()
-        self.set_template(template)
-        time.sleep(0.5)
-        self.assertEqual(self.title(), before, "it changed before anybody said so")
-        announce()
-        announced = time.monotonic()
-        wait_for(lambda: self.title() == title, 5, 0.005)
-        self.assertEqual(self.title(), title)
-        self.assertLess(time.monotonic() - announced, AT_ONCE, "seconds until the title changed")
+        """Another template is not shown by itself, and at once when `announce` was called. The timer shows it too, ten
+        seconds after it showed the one before; and where the machine was busy, nobody may have listened yet."""
+        for attempt, seconds in enumerate((2, 8, 8, 8)):
+            marks = attempt * "?"
+            marks += self.assert_stays(template + marks)
+            announce()
+            if wait_for(lambda shown=title + marks: self.title() == shown, seconds, 0.005):
+                return
+            self.assertTrue(wait_for(lambda shown=title + marks: self.title() == shown), self.title())
+        self.fail("only the timer shows it")
+
+    def assert_stays(self, template, announce=lambda: None):
+        """Another template is not shown for a while, unless that is the timer's turn: then yet another one. Gives what
+        makes it one."""
+        for marks in ("", "!", "!!"):
+            before = self.title()
+            self.set_template(template + marks)
+            announce()
+            time.sleep(A_MOMENT)
+            if self.title() == before:
+                return marks
+        self.fail(f"it shows {self.title()}")
 
     def gdbus_emit(self, signal):
         self.desktop.call("gdbus", "emit", "--session", "--object-path", PATH, "--signal", signal)
@@ -96,23 +108,24 @@ class Notifications(HelperCase):
 
     def test_other_signals_are_not_taken(self):
         self.start_titled("one %p%", "one 50.0%")
-        self.set_template("two %p%")
-        self.dbus_send(NOTIFICATIONS + "OtherNotification")
-        self.dbus_send("com.fernhollow.Other.SettingsChangedNotification")
-        self.desktop.call("dbus-send", "--session", "--type=signal", "/com/fernhollow/Other", SETTINGS_CHANGED)
-        time.sleep(0.5)
-        self.assertEqual(self.title(), "one 50.0%")
+
+        def announce():
+            self.dbus_send(NOTIFICATIONS + "OtherNotification")
+            self.dbus_send("com.fernhollow.Other.SettingsChangedNotification")
+            self.desktop.call("dbus-send", "--session", "--type=signal", "/com/fernhollow/Other", SETTINGS_CHANGED)
+
+        self.assert_stays("two %p%", announce)
 
     def test_a_coming_update_changes_nothing(self):
         process = self.start_titled("one %p%", "one 50.0%")
-        self.set_template("two %p%")
-        self.gdbus_emit(WILL_UPDATE)
-        self.dbus_send(WILL_UPDATE)
-        time.sleep(0.5)
+
+        def announce():
+            self.gdbus_emit(WILL_UPDATE)
+            self.dbus_send(WILL_UPDATE)
+
+        self.assert_stays("two %p%", announce)
         self.assertIsNone(process.poll())
-        self.assertEqual(self.title(), "one 50.0%")
-        self.dbus_send(SETTINGS_CHANGED)
-        self.assertTrue(wait_for(lambda: self.title() == "two 50.0%", 2))
+        self.assert_changes_at_once("three %p%", "three 50.0%", lambda: self.dbus_send(SETTINGS_CHANGED))
 
     def test_waking_refreshes_the_title(self):
         environment = {"DBUS_SYSTEM_BUS_ADDRESS": self.system_bus}
@@ -121,7 +134,7 @@ class Notifications(HelperCase):
         self.addCleanup(mock.wait)
         self.addCleanup(mock.terminate)
         system = dbus.bus.BusConnection(self.system_bus)
-        self.assertTrue(wait_for(lambda: system.name_has_owner("org.freedesktop.login1"), 10))
+        self.assertTrue(wait_for(lambda: system.name_has_owner("org.freedesktop.login1")))
         manager = dbus.Interface(system.get_object("org.freedesktop.login1", "/org/freedesktop/login1"),
                                  "org.freedesktop.DBus.Mock")
 
@@ -130,10 +143,7 @@ class Notifications(HelperCase):
 
         self.start_titled("one %p%", "one 50.0%")
         self.assert_changes_at_once("two %p%", "two 50.0%", lambda: prepare_for_sleep(False))
-        self.set_template("three %p%")
-        prepare_for_sleep(True)
-        time.sleep(0.5)
-        self.assertEqual(self.title(), "two 50.0%")
+        self.assert_stays("three %p%", lambda: prepare_for_sleep(True))
 
     def bundle_asking(self, port):
         """The helper in a bundle whose product-information service is on this computer."""
@@ -174,7 +184,7 @@ class Notifications(HelperCase):
         self.addCleanup(os.unlink, self.sysfs / "class/dmi/id/product_serial")
         self.set_template("one %p%")
         process = self.start_here(self.bundle_asking(service.server_port))
-        self.assert_title("two 50.0%", 6)
+        self.assert_title("two 50.0%")
         self.assertIsNone(process.poll())
         self.assertEqual(SlowService.asked, ["/sp/product?cc=F5YX&lang=en_US"])
         stored = plistlib.loads((self.settings / "com.fernhollow.Quindle-Helper.plist").read_bytes())

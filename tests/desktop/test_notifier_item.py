@@ -50,11 +50,11 @@ class NotifierItem(HelperCase):
     def test_a_long_title_stays_exact(self):
         template = "\u05d0\u2764\ufe0f " * 1000 + "%p"  # of 4,096 characters that count
         self.start(machine(50, template=template))
-        self.assertTrue(wait_for(lambda: (self.desktop.item_title() or "").endswith("50.0"), 8))
+        self.assertTrue(wait_for(lambda: (self.desktop.item_title() or "").endswith("50.0")))
         self.assertEqual(self.desktop.item_title(), template.replace("%p", "50.0"))
 
     def test_a_change_shows_and_rest_sends_nothing(self):
-        self.start(machine(66, steps=[charge_step(65, 2)]))
+        self.start(machine(66, steps=[charge_step(65, 6)]))
         self.assert_title("66.0%")
         self.assert_title("65.0%")
         time.sleep(0.5)
@@ -73,8 +73,10 @@ class NotifierItem(HelperCase):
         monitor_path = self.desktop.root / "changes"
         with open(monitor_path, "wb") as stream:
             monitor = self.desktop.start("dbus-monitor", "--session", stdout=stream)
+            self.assertTrue(wait_for(lambda: monitor_path.stat().st_size > 0), "nobody listens")
             self.start(machine(66, steps=[charge_step(65, 1), charge_step(64, 1)]))
             self.assert_title("64.0%")
+            self.assertTrue(wait_for(lambda: "64.0%" in monitor_path.read_text(errors="replace")))
             monitor.terminate()
             monitor.wait()
         seen = monitor_path.read_text(errors="replace")
@@ -138,17 +140,14 @@ class NotifierItem(HelperCase):
         self.start(machine(66))
         self.assert_title("66.0%")
         time.sleep(0.5)
-        self.desktop.click(*ICON)
-        self.assert_view_opens()
-        time.sleep(0.3)
-        self.desktop.key("Escape")
-        self.assert_view_closes()
+        self.assertTrue(self.click_until(self.desktop.windows, *ICON), "no battery view appeared")
+        self.assertTrue(self.press_until(lambda: not self.desktop.windows(), "Escape"), "the battery view stayed")
 
     def test_a_second_start_opens_the_view_of_the_first(self):
         first = self.start(machine(66))
         self.assert_title("66.0%")
         second = self.start(machine(12), "second.plist")
-        self.assertEqual(second.wait(5), 0)
+        self.assertEqual(second.wait(40), 0)
         self.assert_view_opens()
         self.assertEqual(len(self.desktop.registered_items()), 1)
         self.assert_title("66.0%")
@@ -166,7 +165,7 @@ class NotifierItem(HelperCase):
             self.assert_view_opens()
             self.assert_view_stays(f"after {what} \"Show Battery...\"")
         for number in range(2):
-            self.assertEqual(self.start(machine(12), "second.plist").wait(5), 0)
+            self.assertEqual(self.start(machine(12), "second.plist").wait(40), 0)
             self.assert_view_stays(f"after {number + 1} further starts")
         self.desktop.activate_item()
         self.assert_view_closes()
@@ -182,7 +181,7 @@ class NotifierItem(HelperCase):
         self.assertIsNotNone(row, layout)
         self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.Event", row.group(1), "clicked",
                            "<''>", "0")
-        self.assertEqual(process.wait(5), 0)
+        self.assertEqual(process.wait(40), 0)
 
     def test_without_a_battery(self):
         computer = machine()
@@ -192,12 +191,11 @@ class NotifierItem(HelperCase):
         self.assert_title("")
         self.assertIn("No battery", self.desktop.item_property("ToolTip"))
         time.sleep(0.5)
-        self.desktop.click(*ICON)
-        self.assert_view_opens()
+        self.assertTrue(self.click_until(self.desktop.windows, *ICON), "no battery view appeared")
 
     def test_a_refused_machine_file_ends_it_with_one_line(self):
         process = self.start({"Nonsense": True})
-        self.assertEqual(process.wait(5), 2)
+        self.assertEqual(process.wait(40), 2)
 
     def test_the_settings_files_are_followed_without_a_notification(self):
         import plistlib
@@ -205,13 +203,13 @@ class NotifierItem(HelperCase):
         sysfs = Path(__file__).resolve().parents[1] / "data/sysfs/framework-13-discharging-93"
         process = self.desktop.start(HELPER, env={"QUINDLE_SYSFS": str(sysfs)})
         self.addCleanup(self.stop, process)
-        self.assertTrue(wait_for(lambda: "%" in (self.desktop.item_title() or ""), 8))
+        self.assertTrue(wait_for(lambda: "%" in (self.desktop.item_title() or "")))
         folder = Path(self.desktop.env["XDG_CONFIG_HOME"]) / "quindle"
         folder.mkdir(exist_ok=True)
         settings = folder / "group.fernhollow.Quindle.plist"
         self.addCleanup(lambda: settings.unlink(missing_ok=True))
         settings.write_bytes(plistlib.dumps({"customStatusBar": "edited"}))
-        self.assert_title("edited", 12)
+        self.assert_title("edited")
 
 
 if __name__ == "__main__":

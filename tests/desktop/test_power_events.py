@@ -19,7 +19,8 @@ from helper_case import HELPER, HelperCase, wait_for  # noqa: E402
 
 ITEM = "/StatusNotifierItem"
 ITEM_INTERFACE = "org.kde.StatusNotifierItem"
-AT_ONCE = 1.5  # seconds, on a busy machine too; the timers come every five and ten
+AT_ONCE = 1.5  # seconds, of several on a busy machine too; the timers come every five and ten
+ONCE = 4.0  # seconds, of a single one
 A_MOMENT = 0.5  # seconds in which nothing is shown that has to wait for them
 FIRST_TIME = 18.0  # seconds after a plug; without a refresh of its own it would be 20 and more
 BATTERY = {"type": "Battery", "present": "1", "status": "Discharging", "charge_now": "3000000",
@@ -98,7 +99,7 @@ class PowerEvents(HelperCase):
         self.process = self.desktop.start(HELPER, env=self.hardware.env)
         self.addCleanup(self.stop, self.process)
         bus = dbus.bus.BusConnection(self.desktop.env["DBUS_SESSION_BUS_ADDRESS"])
-        self.assertTrue(wait_for(self.desktop.registered_items, 10))
+        self.assertTrue(wait_for(self.desktop.registered_items))
         self.item = bus.get_object(self.desktop.item_name(), ITEM)
         self.assertIn("50.0%", self.value("Title"))
 
@@ -114,11 +115,11 @@ class PowerEvents(HelperCase):
 
     def seconds_until(self, condition, what):
         announced = time.monotonic()
-        self.assertTrue(wait_for(condition, 12, 0.002), f"{what}: the title is {self.value('Title')!r}")
+        self.assertTrue(wait_for(condition, pause=0.002), f"{what}: the title is {self.value('Title')!r}")
         return time.monotonic() - announced
 
     def assert_shows_at_once(self, condition, what):
-        self.assertLess(self.seconds_until(condition, what), AT_ONCE, f"seconds until {what} was shown")
+        self.assertLess(self.seconds_until(condition, what), ONCE, f"seconds until {what} was shown")
 
     def assert_at_once(self, delays):
         """Of several, so that one in which the machine did something else counts for nothing."""
@@ -137,12 +138,14 @@ class PowerEvents(HelperCase):
 
     def test_the_first_time_shows_before_the_timers_could_tell_it(self):
         """Two refreshes of the timers are ten seconds apart; the second one may come twenty after the plug."""
+        taken = []
         for is_plugged, time_left in ((True, "3:00"), (False, "3:00")):
             self.hardware.plug(is_plugged)
             announced = time.monotonic()
-            self.assertTrue(wait_for(lambda: "Calculating" in self.tool_tip(), 12), self.tool_tip())
-            self.assertTrue(wait_for(lambda left=time_left: left in self.tool_tip(), 30), self.tool_tip())
-            self.assertLess(time.monotonic() - announced, FIRST_TIME)
+            self.assertTrue(wait_for(lambda: "Calculating" in self.tool_tip()), self.tool_tip())
+            self.assertTrue(wait_for(lambda left=time_left: left in self.tool_tip(), 60), self.tool_tip())
+            taken.append(time.monotonic() - announced)
+        self.assertLess(min(taken), FIRST_TIME)  # a busy machine may be late once
 
     def test_a_battery_swap_shows_at_once(self):
         delays = []
@@ -176,29 +179,39 @@ class PowerEvents(HelperCase):
 
     def test_a_change_nobody_tells_waits_for_the_timers(self):
         time.sleep(1.3)
-        self.hardware.write(self.hardware.battery, charge_now=4200000)
-        time.sleep(A_MOMENT)
-        self.assertIn("50.0%", self.value("Title"))
+        self.assert_waits_for_the_timers(lambda: None)
+
+    def assert_waits_for_the_timers(self, announce):
+        """A change is not shown for a while, unless that is their turn: then another one."""
+        for charge in (4200000, 3600000, 2400000, 1800000):
+            before = self.value("Title")
+            self.hardware.write(self.hardware.battery, charge_now=charge)
+            announce()
+            time.sleep(A_MOMENT)
+            if self.value("Title") == before:
+                return f"{charge / 60000:.1f}%"
+        self.fail(f"it shows {self.value('Title')}")
 
     def test_other_devices_are_not_listened_to(self):
         other = self.hardware.testbed.add_device("leds", "lid", None, ["brightness", "0"], [])
-        self.hardware.write(self.hardware.battery, charge_now=4200000)
         announce = self.hardware.announcer(other)
-        for _ in range(200):
-            announce()
-        time.sleep(A_MOMENT)
-        self.assertIn("50.0%", self.value("Title"))
+
+        def announce_often():
+            for _ in range(200):
+                announce()
+
+        charge = self.assert_waits_for_the_timers(announce_often)
         self.hardware.announce(self.hardware.battery)
-        self.assert_shows_at_once(lambda: "70.0%" in self.value("Title"), "the battery's own event")
+        self.assert_shows_at_once(lambda: charge in self.value("Title"), "the battery's own event")
 
     def test_a_storm_causes_two_refreshes_a_second(self):
         """Every event brings another charge, so that every refresh makes another title."""
-        seconds, titles, sent = 4, [], 0
+        titles, sent = [], 0
         time.sleep(1.3)
         titles.append(self.value("Title"))
         announce = self.hardware.announcer(self.hardware.battery)
         start = time.monotonic()
-        while (passed := time.monotonic() - start) < seconds:
+        while (passed := time.monotonic() - start) < 4 or sent < 2000:
             if sent > passed * 1000:
                 time.sleep(0.0005)
                 continue
@@ -207,10 +220,10 @@ class PowerEvents(HelperCase):
             announce()
             if sent % 20 == 0 and (title := self.value("Title")) != titles[-1]:
                 titles.append(title)
-        self.assertGreater(sent / seconds, 500, "events a second: the machine is too slow for this test")
-        # The first event causes one more, and the five-second timer may tick once on top of them.
-        self.assertLessEqual(len(titles) - 1, 2 * seconds + 2)
-        self.assertGreaterEqual(len(titles) - 1, seconds, "the storm kept it from refreshing")
+        # The first event causes one more, and the five-second timer may tick on top of them.
+        ticks = 1 + passed / 5
+        self.assertLessEqual(len(titles) - 1, 2 * passed + 1 + ticks)
+        self.assertGreater(len(titles) - 1, ticks, "the storm kept it from refreshing")
         last = f"{(600 + sent) / 6000 * 100:.1f}%"  # in mAh, as the program divides: 4599 shows 76.6, not 76.7
         self.assert_shows_at_once(lambda: last in self.value("Title"), f"the last charge, {last}, ")
 
@@ -222,7 +235,7 @@ class LateBattery(HelperCase):
         hardware = Hardware(has_battery=False)
         process = self.desktop.start(HELPER, env=hardware.env)
         self.addCleanup(self.stop, process)
-        self.assertTrue(wait_for(self.desktop.registered_items, 10))
+        self.assertTrue(wait_for(self.desktop.registered_items))
         bus = dbus.bus.BusConnection(self.desktop.env["DBUS_SESSION_BUS_ADDRESS"])
         self.addCleanup(bus.close)
         item = bus.get_object(self.desktop.item_name(), ITEM)
@@ -234,8 +247,8 @@ class LateBattery(HelperCase):
         battery = hardware.add("BAT0", BATTERY)
         hardware.announce(battery, "add")
         announced = time.monotonic()
-        self.assertTrue(wait_for(lambda: "50.0%" in title(), 12, 0.002), title())
-        self.assertLess(time.monotonic() - announced, AT_ONCE)
+        self.assertTrue(wait_for(lambda: "50.0%" in title(), pause=0.002), title())
+        self.assertLess(time.monotonic() - announced, ONCE)
 
 
 if __name__ == "__main__":

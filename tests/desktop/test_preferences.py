@@ -20,7 +20,7 @@ class General(PreferencesCase):
         self.open("Preferences...", "General")
 
     def assert_announced(self, expected):
-        wait_for(lambda: self.count() >= expected, 5)
+        wait_for(lambda: self.count() >= expected)
         time.sleep(0.3)
         self.assertEqual(self.count(), expected, "announcements")
 
@@ -29,19 +29,19 @@ class General(PreferencesCase):
 
     def test_typed_text_is_the_title(self):
         self.type("%p% of it")
-        self.assertTrue(wait_for(lambda: self.control("label", "Would show 66.0% of it"), 5), "no live preview")
+        self.assertTrue(wait_for(lambda: self.control("label", "Would show 66.0% of it")), "no live preview")
         self.assertEqual(self.stored("customStatusBar"), "%p%", "stored before it was meant")
         self.desktop.key("Return")
         self.assert_title("66.0% of it")
         self.assert_stored("customStatusBar", "%p% of it")
-        self.assertTrue(wait_for(lambda: self.control("label", "Now shows 66.0% of it"), 5), "stored and not said")
+        self.assertTrue(wait_for(lambda: self.control("label", "Now shows 66.0% of it")), "stored and not said")
         self.desktop.key("Tab")
         self.assert_announced(1)
 
     def test_reset(self):
         self.store(SUITE, {"customStatusBar": "mine"})
         self.announce()
-        self.assertTrue(wait_for(lambda: self.control("text", "Menu bar text")["text"] == "mine", 5))
+        self.assertTrue(wait_for(lambda: self.control("text", "Menu bar text")["text"] == "mine"))
         self.assert_title("mine")
         self.click("push button", "Reset menu bar text")
         self.assert_stored("customStatusBar", "%p%")
@@ -78,7 +78,7 @@ class General(PreferencesCase):
     def test_parameters(self):
         self.type("at ")
         self.act("push button", "Parameters")
-        self.assertTrue(wait_for(lambda: len(self.desktop.windows()) == 2, 5), "no popover")
+        self.assertTrue(wait_for(lambda: len(self.desktop.windows()) == 2), "no popover")
         self.assertEqual(self.stored("customStatusBar"), "%p%", "the popover stored what was being typed")
         self.desktop.key("Down")
         self.desktop.key("Return")
@@ -91,7 +91,7 @@ class General(PreferencesCase):
     def test_escape_takes_a_text_back(self):
         self.type("not meant")
         self.desktop.key("Escape")
-        self.assertTrue(wait_for(lambda: self.control("text", "Menu bar text")["text"] == "%p%", 5))
+        self.assertTrue(wait_for(lambda: self.control("text", "Menu bar text")["text"] == "%p%"))
         self.assertTrue(self.window("General"), "Escape closed more than the typing")
         self.assertEqual(self.stored("customStatusBar"), "%p%")
 
@@ -100,7 +100,7 @@ class General(PreferencesCase):
         self.act("radio button", "Update")
         self.assert_stored("customStatusBar", "one")
         self.act("radio button", "General")
-        self.assertTrue(wait_for(lambda: self.window("General"), 5))
+        self.assertTrue(wait_for(lambda: self.window("General")))
         self.click("text", "Menu bar text")
         self.type("two")
         self.desktop.key("ctrl+w")
@@ -108,35 +108,35 @@ class General(PreferencesCase):
 
     def test_what_is_sent(self):
         self.act("push button", "See exactly what is sent")
-        self.assertTrue(wait_for(lambda: self.window("What is sent"), 5))
+        self.assertTrue(wait_for(lambda: self.window("What is sent")))
         texts = [node["name"] for node in nodes(self.tree())]
         self.assertIn("Nothing would be sent: no host of the statistics service is configured.", texts)
         self.desktop.key("Escape")
-        self.assertTrue(wait_for(lambda: not self.window("What is sent"), 5))
+        self.assertTrue(wait_for(lambda: not self.window("What is sent")))
 
     def test_keys_that_close(self):
         self.desktop.key("ctrl+shift+w")
         time.sleep(0.5)
-        self.assertTrue(wait_for(lambda: self.window("General"), 5), "another key")
+        self.assertTrue(wait_for(lambda: self.window("General")), "another key")
         for key in ("ctrl+w", "Escape"):
             self.desktop.key(key)
-            self.assertTrue(wait_for(lambda: not self.window("General"), 5), key)
+            self.assertTrue(wait_for(lambda: not self.window("General")), key)
             self.open("Preferences...", "General")
         self.act("push button", "See exactly what is sent")
-        self.assertTrue(wait_for(lambda: self.window("What is sent"), 5))
+        self.assertTrue(wait_for(lambda: self.window("What is sent")))
         self.desktop.key("ctrl+w")
-        self.assertTrue(wait_for(lambda: not self.window("What is sent"), 5), "a dialog")
+        self.assertTrue(wait_for(lambda: not self.window("What is sent")), "a dialog")
         self.assertTrue(self.window("General"))
 
     def test_panes(self):
         self.act("radio button", "Update")
-        self.assertTrue(wait_for(lambda: self.window("Update"), 5))
+        self.assertTrue(wait_for(lambda: self.window("Update")))
         self.assertTrue(any("0.1.0" in node["name"] for node in nodes(self.tree())), "no version")
         self.click("radio button", "Menu Bar")
-        self.assertTrue(wait_for(lambda: self.window("Menu Bar"), 5))
+        self.assertTrue(wait_for(lambda: self.window("Menu Bar")))
         time.sleep(0.5)
         self.act("push button", "Menu Bar Text")
-        self.assertTrue(wait_for(lambda: self.window("Menu Bar Text"), 5))
+        self.assertTrue(wait_for(lambda: self.window("Menu Bar Text")))
 
     def test_the_menu_bar_pane_shows_what_the_panel_shows(self):
         self.act("radio button", "Menu Bar")
@@ -146,21 +146,27 @@ class General(PreferencesCase):
             self.act("radio button", choice)
             self.assertTrue(self.control("label", f"Now shows {shown}"), choice)
 
+    def focused(self):
+        return [(node["role"], node["name"]) for node in nodes(self.tree()) if "focused" in node["states"]]
+
     def test_every_control_has_a_name_and_the_keyboard_reaches_it(self):
         for pane in ("General", "Menu Bar", "Update"):
             self.act("radio button", pane)
-            self.assertTrue(wait_for(lambda: self.window(pane), 5))
+            self.assertTrue(wait_for(lambda: self.window(pane)))
             time.sleep(0.5)
             controls = [node for node in nodes(self.tree()) if {"focusable", "enabled"} <= set(node["states"])
                         and node["role"] != "label"]  # the version, which the mouse may mark
             self.assertTrue(controls)
             self.assertEqual([node["role"] for node in controls if not node["name"]], [], f"nameless in {pane}")
             reached = set()
+            focused = self.focused()
             for _ in range(len(controls) + 2):
+                before = focused
                 self.desktop.key("Tab")
-                focused = [node for node in nodes(self.tree()) if "focused" in node["states"]]
+                wait_for(lambda former=before: len(self.focused()) == 1 and self.focused() != former, 5)
+                focused = self.focused()
                 self.assertEqual(len(focused), 1, f"{pane}: who has the keyboard?")
-                reached.add((focused[0]["role"], focused[0]["name"]))
+                reached.update(focused)
             radio = {node["role"] for node in controls} & {"radio button"}
             wanted = {(node["role"], node["name"]) for node in controls if node["role"] != "radio button"}
             self.assertEqual(wanted - reached, set(), f"{pane}: Tab never came there")
@@ -178,7 +184,7 @@ class MenuBarText(PreferencesCase):
         self.assertNotIn("enabled", self.control("text", "Custom menu bar text")["states"])
         self.click("radio button", "Custom text")
         self.assert_stored("customMenuBarSettingSelectedIndex", 1, OWN)
-        self.assertTrue(wait_for(lambda: "enabled" in self.control("text", "Custom menu bar text")["states"], 5))
+        self.assertTrue(wait_for(lambda: "enabled" in self.control("text", "Custom menu bar text")["states"]))
         self.click("text", "Custom menu bar text")
         self.type("%l cycles")
         self.desktop.key("Return")
@@ -209,7 +215,7 @@ class MenuBarText(PreferencesCase):
         self.assertIsNone(self.stored("customMenuBarSettingSelectedIndex", OWN))
         self.act("radio button", "Custom text")
         self.assert_stored("customMenuBarSettingSelectedIndex", 1, OWN)
-        self.assertTrue(wait_for(lambda: "enabled" in self.control("text", "Custom menu bar text")["states"], 5))
+        self.assertTrue(wait_for(lambda: "enabled" in self.control("text", "Custom menu bar text")["states"]))
         self.act("radio button", "Standard title")
         self.assert_title("66.0%")
         self.assert_stored("parkedCustomStatusBar", "%l cycles", OWN)
@@ -227,17 +233,17 @@ class MenuBarText(PreferencesCase):
         self.click("radio button", "Kelvin")
         self.assert_stored("temperatureSettingIndex", 2)
         self.assert_stored("QDBatteryTemperatureMode", 2, OWN)
-        self.assertTrue(wait_for(lambda: "303.2 K" in self.desktop.menu(), 5), "the battery's own unit is another one")
+        self.assertTrue(wait_for(lambda: "303.2 K" in self.desktop.menu()), "the battery's own unit is another one")
 
     def test_run_in_background(self):
         entry = self.config / "autostart" / f"{OWN}.desktop"
         self.click("check box", "Run in the background when I log in")
-        self.assertTrue(wait_for(entry.exists, 5))
+        self.assertTrue(wait_for(entry.exists))
         self.assertIn(os.environ["QUINDLE_HELPER"], entry.read_text())
         self.open("Preferences...", "General")
         self.assert_checked("check box", "Start when I log in")
         self.act("check box", "Run in the background when I log in")
-        self.assertTrue(wait_for(lambda: not entry.exists(), 5))
+        self.assertTrue(wait_for(lambda: not entry.exists()))
         self.assert_checked("check box", "Start when I log in", False)
 
     def test_two_windows_show_one_setting(self):
@@ -287,7 +293,7 @@ class Frame(PreferencesCase):
         self.open("Preferences...", "General")
         before = self.position()
         self.desktop.call("xdotool", "windowmove", "--sync", self.window("General"), "40", "50")
-        self.assertTrue(wait_for(lambda: self.position() != before, 5))
+        self.assertTrue(wait_for(lambda: self.position() != before))
         moved = self.position()
         time.sleep(1)
         self.stop(first)

@@ -35,7 +35,7 @@ class Recording(ApplicationCase):
         x, y, width, height = self.control("chart", "Charge, last 24 hours")["box"]
         self.desktop.click(x + width // 2, y + height // 2)
         self.desktop.key("End")
-        self.assertTrue(wait_for(lambda: "50.0 %" in self.described(), 20), self.described())
+        self.assertTrue(wait_for(lambda: "50.0 %" in self.described()), self.described())
         self.assertIn("discharging", self.described())
 
 

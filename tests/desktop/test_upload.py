@@ -25,7 +25,7 @@ INSPECT, NETWORK, LOOKUP = (os.environ[name] for name in
                             ("QUINDLE_INSPECT", "QUINDLE_TRUSTING_NETWORK", "QUINDLE_TEST_LOOKUP"))
 LAUNCHED = datetime.datetime(2024, 5, 1, 12)
 SERIAL = "D865033Y2CXF9CPAW"
-AT_ONCE = 1.0  # seconds from the choice in the menu to the end of the process
+AT_ONCE = 15.0  # seconds from the choice in the menu to the end of the process; a post may take thirty
 
 
 def computer(host, seconds, auto_upload=True):
@@ -66,13 +66,13 @@ class UploadCase(HttpsCase, HelperCase):
 
 
 class Upload(UploadCase):
-    def requests_of(self, seconds, auto_upload=True, configured=True):
+    def requests_of(self, seconds, expected, auto_upload=True, configured=True):
         with Server(self.chain, answers(200, b"ok", Set_Cookie="id=1; Path=/")) as server:
             keys = computer(server.host if configured else None, seconds, auto_upload)
             self.launch(keys)
             self.assert_title("50.0%")
-            wait_for(lambda: server.requests, 1.5)
-            time.sleep(0.3)  # for a second request that must not come
+            wait_for(lambda: len(server.requests) >= expected, 30 if expected else 0)
+            time.sleep(0.3 if expected else 1.5)  # for a request that must not come
             return keys, list(server.requests)
 
     def shown(self, keys):
@@ -82,7 +82,7 @@ class Upload(UploadCase):
         return json.loads(lines[-1])["upload"]
 
     def test_one_post_with_the_body_that_was_shown(self):
-        keys, requests = self.requests_of([86401, 86411])
+        keys, requests = self.requests_of([86401, 86411], 1)
         (method, target, headers, body), = requests
         self.assertEqual((method, target), ("POST", "/qndonline/upload_mac_db_pro.php"))
         self.assertNotIn("Content-Type", dict(headers))
@@ -93,19 +93,19 @@ class Upload(UploadCase):
         self.assertNotIn(SERIAL.encode(), base64.b64decode(shown["record"]["Data.Raw"]))
 
     def test_one_post_for_each_day(self):
-        requests = self.requests_of([86401, 2 * 86401, 2 * 86401 + 86400])[1]
+        requests = self.requests_of([86401, 2 * 86401, 2 * 86401 + 86400], 2)[1]
         self.assertEqual(len(requests), 2)
         for _, _, headers, _ in requests:
             self.assertNotIn("Cookie", dict(headers))
 
     def test_not_before_a_day_has_passed(self):
-        self.assertEqual(self.requests_of([86400])[1], [])
+        self.assertEqual(self.requests_of([86400], 0)[1], [])
 
     def test_nothing_without_permission_however_long(self):
-        self.assertEqual(self.requests_of([day * 86401 for day in range(1, 30)], auto_upload=False)[1], [])
+        self.assertEqual(self.requests_of([day * 86401 for day in range(1, 30)], 0, auto_upload=False)[1], [])
 
     def test_nothing_without_a_host(self):
-        self.assertEqual(self.requests_of([86401], configured=False)[1], [])
+        self.assertEqual(self.requests_of([86401], 0, configured=False)[1], [])
 
     def network_libraries(self, process):
         names = {Path(line.split(maxsplit=5)[-1]).name.split(".so")[0]
@@ -119,7 +119,7 @@ class Upload(UploadCase):
             self.assertEqual(self.network_libraries(process), set())
             self.stop(process)
             process = self.launch(computer(server.host, [86401]))
-            self.assertTrue(wait_for(lambda: server.requests, 10), "nothing was sent")
+            self.assertTrue(wait_for(lambda: server.requests), "nothing was sent")
             self.assertLess({"quindle-network"}, self.network_libraries(process))
 
     def test_certificate_for_another_host(self):
@@ -128,8 +128,8 @@ class Upload(UploadCase):
             chain = self.authority.issue(name, host=name)
             with self.subTest(name), Server(chain, answers(200, b"ok")) as server:
                 process = self.launch(computer(f"statistics.test:{server.port}", [86401]))
-                self.assertTrue(wait_for(lambda: server.server.connections, 10), "nobody came")
-                wait_for(lambda: server.requests, 1.5)
+                self.assertTrue(wait_for(lambda: server.server.connections), "nobody came")
+                wait_for(lambda: server.requests, 30 if sent else 1.5)
                 self.assertEqual(len(server.requests), sent)
                 self.stop(process)
 
@@ -151,7 +151,7 @@ class QuitDuringUpload(UploadCase):
         begin = time.monotonic()
         self.desktop.gdbus(item, "/MenuBar", "com.canonical.dbusmenu.Event", row, "clicked", "<''>", "0")
         try:
-            status = process.wait(20)
+            status = process.wait(25)
         except subprocess.TimeoutExpired:
             process.kill()  # it may wait where no signal asks it to end
             self.fail("it does not quit")
@@ -163,13 +163,13 @@ class QuitDuringUpload(UploadCase):
         for behaviour in (never_answers, drips):
             with self.subTest(behaviour.__name__), Server(self.chain, behaviour) as server:
                 process = self.launch(computer(server.host, [86401]))
-                self.assertTrue(wait_for(lambda: server.requests, 10), "nothing was sent")
+                self.assertTrue(wait_for(lambda: server.requests), "nothing was sent")
                 self.assert_quits_at_once(process)
 
     def test_while_the_server_does_not_even_greet(self):
         with socket.create_server(("127.0.0.1", 0)) as server:
             process = self.launch(computer(f"127.0.0.1:{server.getsockname()[1]}", [86401]))
-            server.settimeout(10)
+            server.settimeout(60)
             with server.accept()[0] as connection:
                 self.assertTrue(connection.recv(1), "nothing was sent")
                 self.assert_quits_at_once(process)
@@ -177,7 +177,7 @@ class QuitDuringUpload(UploadCase):
     def test_while_the_host_is_looked_up(self):
         begun = Path(self.folder) / "lookup"
         process = self.launch(computer("hangs.test", [86401]), QUINDLE_TEST_LOOKUP=str(begun))
-        self.assertTrue(wait_for(begun.exists, 10), "the host was not looked up")
+        self.assertTrue(wait_for(begun.exists), "the host was not looked up")
         self.assert_quits_at_once(process)
 
 

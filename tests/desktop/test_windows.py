@@ -91,11 +91,10 @@ class Windows(WindowsCase):
             self.assert_view_opens()
             time.sleep(1.5)
             self.assertEqual(len(self.processes()), 1, "it ended under an open window")
+            begun = time.monotonic()
             self.desktop.activate_item()
-            self.assert_view_closes()
-            time.sleep(0.2)
-            self.assertEqual(len(self.processes()), 1, "it ended at once")
-            self.assertTrue(wait_for(lambda: not self.processes(), 5), "it stays")
+            self.assertTrue(wait_for(lambda: not self.processes()), "it stays")
+            self.assertGreater(time.monotonic() - begun, 0.7, "it ended at once")
         self.assert_runs_on(process)
         self.assertEqual(self.logged("program of the windows"), 0)
 
@@ -107,8 +106,8 @@ class Windows(WindowsCase):
             self.assert_view_opens()
             process.send_signal(number)
             process.wait()
-            self.assertTrue(wait_for(lambda: not self.processes(), 5), number)
-            self.assertTrue(wait_for(lambda: not self.desktop.registered_items(), 5))
+            self.assertTrue(wait_for(lambda: not self.processes()), number)
+            self.assertTrue(wait_for(lambda: not self.desktop.registered_items()))
 
     def test_quit_in_the_view_ends_both(self):
         self.replace('exec "$real" "$@"')
@@ -116,10 +115,9 @@ class Windows(WindowsCase):
         self.show()
         self.assert_view_opens()
         time.sleep(0.5)
-        for key in ("Up", "Return"):  # the last entry
-            self.desktop.key(key)
-        self.assertEqual(process.wait(5), 0)
-        self.assertTrue(wait_for(lambda: not self.processes(), 5))
+        self.assertTrue(self.press_until(lambda: process.poll() is not None, "Up", "Return"))  # the last entry
+        self.assertEqual(process.returncode, 0)
+        self.assertTrue(wait_for(lambda: not self.processes()))
         self.assertEqual(self.logged("program of the windows"), 0)
 
     def test_killed_in_the_middle(self):
@@ -131,15 +129,17 @@ class Windows(WindowsCase):
             self.assert_view_closes()
             self.assert_runs_on(process)
         ended = "program of the windows ended unexpectedly"
-        self.assertTrue(wait_for(lambda: self.logged(ended) >= 3, 10))
+        self.assertTrue(wait_for(lambda: self.logged(ended) >= 3))
         self.assertEqual(self.logged(ended), 3)  # each after it had answered
 
     def test_asked_twice_while_it_starts(self):
-        self.replace('sleep 1; exec "$real" "$@"')
+        go = self.contents / "go"
+        self.replace(f'until [ -e "{go}" ]; do sleep 0.1; done; exec "$real" "$@"')
         process = self.start_own()
         for _ in range(2):
             self.desktop.activate_item()
         self.assertEqual(self.desktop.windows(), [])
+        go.touch()
         self.assert_view_opens()
         time.sleep(1)
         self.assertEqual(len(self.desktop.windows()), 1, "the second click closed what nobody had seen")
@@ -151,7 +151,7 @@ class Windows(WindowsCase):
         for _ in range(3):
             self.show()
         self.assert_runs_on(process)
-        self.assertTrue(wait_for(lambda: self.logged("the program of the windows cannot be started"), 10))
+        self.assertTrue(wait_for(lambda: self.logged("the program of the windows cannot be started")))
         self.assertEqual(self.logged("the program of the windows cannot be started"), 1)
         self.replace('exec "$real" "$@"')
         self.assert_next_click_works(process)
@@ -159,10 +159,12 @@ class Windows(WindowsCase):
     def test_one_that_crashes_at_each_start(self):
         self.replace("kill -SEGV $$")
         process = self.start_own()
+        # One that has ended before the helper could say anything to it counts as one that does not answer.
+        self.assertTrue(wait_for(lambda: self.show() or self.logged("the program of the windows ended unexpectedly"),
+                                 60, 0.3))
         for _ in range(3):
             self.show()
             time.sleep(0.3)
-        self.assertTrue(wait_for(lambda: self.logged("the program of the windows ended unexpectedly"), 10))
         self.assert_runs_on(process)
         self.assertEqual(self.logged("the program of the windows ended unexpectedly"), 1)
         self.replace('exec "$real" "$@"')
@@ -180,21 +182,21 @@ class Windows(WindowsCase):
                 break
         self.assert_runs_on(process)
         self.replace('exec "$real" "$@"')
-        self.assertTrue(wait_for(lambda: self.show() or self.desktop.windows(), 15, 0.5), "no view after a while")
+        self.assertTrue(wait_for(lambda: self.show() or self.desktop.windows(), pause=0.5), "no view after a while")
         self.assertLessEqual(self.logged("program of the windows does not answer"), 2)
         self.assert_runs_on(process)
 
     def test_a_recorded_computer_is_where_the_helper_s_is(self):
         self.replace('exec "$real" "$@"')
-        self.start(machine(66, steps=[charge_step(65, 1), charge_step(64, 4)]),
+        self.start(machine(66, steps=[charge_step(65, 1), charge_step(64, 10)]),
                    program=self.contents / "Linux/quindle-helper",
                    env={"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
         self.assert_title("65.0%")
         self.show()
         self.assert_view_opens()
-        self.assertTrue(wait_for(lambda: "65.0" in self.view_texts(), 3), self.view_texts())
+        self.assertTrue(wait_for(lambda: "65.0" in self.view_texts()), self.view_texts())
         self.assert_title("64.0%")
-        self.assertTrue(wait_for(lambda: "64.0" in self.view_texts(), 3), self.view_texts())
+        self.assertTrue(wait_for(lambda: "64.0" in self.view_texts()), self.view_texts())
 
     def view_texts(self):
         tree = self.desktop.call("/usr/bin/python3", "-W", "ignore", ACCESSIBILITY, "tree", "quindle-helper")
@@ -210,15 +212,21 @@ class Windows(WindowsCase):
                 self.assert_view_opens()
                 self.desktop.activate_item()
                 self.assert_view_closes()
-            return anonymous_memory(process), len(os.listdir(f"/proc/{process.pid}/fd"))
+            return anonymous_memory(process)
 
-        memory, files = open_and_close(5)
-        memory_after, files_after = open_and_close(OPENINGS)
-        print(f"\n  {OPENINGS} openings: memory {memory} -> {memory_after} kB, files {files} -> {files_after}", file=sys.stderr)
-        self.assertEqual(files_after, files)
-        # Heaps settle late on a busy machine: 64 kB were seen once. Three kilobytes left by each opening would be more.
-        if not KEEPS_FREED_MEMORY:
-            self.assertLess(memory_after - memory, 120, "kB")
+        def files_of_helper():
+            return len(os.listdir(f"/proc/{process.pid}/fd"))
+
+        memory, files = open_and_close(5), files_of_helper()
+        for _ in range(3):  # what openings leave behind grows each time; heaps settle late on a busy machine
+            memory_before, memory = memory, open_and_close(OPENINGS)
+            print(f"\n  {OPENINGS} openings: memory {memory_before} -> {memory} kB, files {files} -> {files_of_helper()}",
+                  file=sys.stderr)
+            self.assertTrue(wait_for(lambda: files_of_helper() == files), (files_of_helper(), files))
+            if KEEPS_FREED_MEMORY or memory - memory_before < 120:  # three kilobytes left by each would be more
+                break
+        else:
+            self.fail("the memory grows")
 
 
 class WithoutADisplay(FaultCase):
@@ -262,11 +270,11 @@ class WithoutADisplay(FaultCase):
             time.sleep(1.5)
             self.assertIsNone(helper.poll())
             os.kill(self.x_server(desktop), signal.SIGTERM)
-            self.assertEqual(helper.wait(10), 0)
+            self.assertEqual(helper.wait(40), 0)
 
     def test_it_is_not_connected_to_the_display(self):
         _, before = self.start_shown()
-        self.assertEqual(self.connections(), before)
+        self.assertTrue(wait_for(lambda: self.connections() == before), (self.connections(), before))
 
 
 class ReadAloud(PreferencesCase):
@@ -279,7 +287,7 @@ class ReadAloud(PreferencesCase):
     def test_the_battery_view(self):
         self.start_helper()
         self.desktop.activate_item()
-        self.assertTrue(wait_for(self.view, 5), "no battery view in the tree")
+        self.assertTrue(wait_for(self.view), "no battery view in the tree")
         names = [node["name"] for node in nodes([self.view()])]
         self.assertIn("66.0", names)
         self.assertIn("Discharging...", names)
@@ -287,9 +295,9 @@ class ReadAloud(PreferencesCase):
         buttons = [node["name"] for node in nodes([self.view()]) if node["role"] == "push button"]
         self.assertIn("Preferences...", buttons)
         self.act("push button", next(name for name in buttons if name.startswith("Temperature")))
-        self.assertTrue(wait_for(lambda: any("86.0" in node["name"] for node in nodes([self.view()])), 5))
+        self.assertTrue(wait_for(lambda: any("86.0" in node["name"] for node in nodes([self.view()]))))
         self.desktop.key("Escape")
-        self.assertTrue(wait_for(lambda: not self.view(), 5), "a closed view is still shown")
+        self.assertTrue(wait_for(lambda: not self.view()), "a closed view is still shown")
 
     def test_the_parameters(self):
         self.start_helper()

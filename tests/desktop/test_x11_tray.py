@@ -21,15 +21,15 @@ class TrayCase(HelperCase):
         """How many different colours the place of the icon shows; an empty panel shows one."""
         return int(self.desktop.call("sh", "-c", "import -silent -window root -crop 24x24+2+2 -format %k info:-") or 0)
 
-    def assert_icon(self, seconds=8, what="no icon in the tray"):
+    def assert_icon(self, seconds=30, what="no icon in the tray"):
         self.assertTrue(wait_for(lambda: self.colours() > 2, seconds), what)
 
-    def tray_program(self, helper, seconds=5.0):
+    def tray_program(self, helper, seconds=30.0):
         """The process that holds the helper's icon; None when there is none in time."""
         return wait_for(lambda: tray_program_of(helper.pid), seconds)
 
-    def assert_ends(self, process, seconds=3):
-        self.assertTrue(wait_for(lambda: not is_running(process), seconds), "the tray program stayed")
+    def assert_ends(self, process):
+        self.assertTrue(wait_for(lambda: not is_running(process)), "the tray program stayed")
 
 
 def is_running(pid):
@@ -57,14 +57,12 @@ class X11Tray(TrayCase):
         return self.desktop.call("sh", "-c", "import -silent -window root -crop 28x28+0+0 -colors 64 txt:- | md5sum")
 
     def test_icon_click_and_change(self):
-        self.start(machine(66, steps=[charge_step(12, 4)]))
-        self.assertTrue(wait_for(lambda: self.colours() > 2, 8), "no icon in the tray")
+        self.start(machine(66, steps=[charge_step(12, 10)]))
+        self.assertTrue(wait_for(lambda: self.colours() > 2), "no icon in the tray")
         before = self.picture()
-        self.assertTrue(wait_for(lambda: self.picture() != before, 8), "the icon did not change with the charge")
-        self.desktop.click(*ICON)
-        self.assertTrue(wait_for(lambda: self.largest_window() > 150, 5), "no battery view appeared")
-        self.desktop.key("Escape")
-        self.assertTrue(wait_for(lambda: self.largest_window() < 150, 5), "the battery view stayed")
+        self.assertTrue(wait_for(lambda: self.picture() != before), "the icon did not change with the charge")
+        self.assertTrue(self.click_until(lambda: self.largest_window() > 150, *ICON), "no battery view appeared")
+        self.assertTrue(self.press_until(lambda: self.largest_window() < 150, "Escape"), "the battery view stayed")
 
     def largest_window(self):
         heights = [0]
@@ -75,13 +73,14 @@ class X11Tray(TrayCase):
         return max(heights)
 
     def test_the_tray_restarts(self):
+        empty = self.picture()
         self.start(machine(66))
-        self.assertTrue(wait_for(lambda: self.colours() > 2, 8))
-        time.sleep(0.5)
-        before = self.picture()
+        self.assert_icon()
+        before = self.settled(self.picture, empty)
+        self.assertTrue(before, "the icon does not stay as it is")
         self.desktop.kill_panel()
         self.desktop.start_panel()
-        self.assertTrue(wait_for(lambda: self.picture() == before, 8), "the icon did not come back as it was")
+        self.assertTrue(wait_for(lambda: self.picture() == before), "the icon did not come back as it was")
 
     def test_a_tray_that_comes_later_is_found(self):
         self.desktop.kill_panel()
@@ -89,18 +88,17 @@ class X11Tray(TrayCase):
         time.sleep(1.5)
         self.assertIsNone(self.tray_program(helper, 0))
         self.desktop.start_panel()
-        self.assert_icon(15)
+        self.assert_icon()
 
     def test_the_menu_opens_and_a_row_can_be_chosen(self):
         helper = self.start(machine(66))
         self.assert_icon()
         before = self.desktop.windows()
-        self.desktop.click(*ICON, button=3)
-        self.assertTrue(wait_for(lambda: len(self.desktop.windows()) > len(before), 5), "no menu appeared")
+        self.assertTrue(self.click_until(lambda: len(self.desktop.windows()) > len(before), *ICON, button=3),
+                        "no menu appeared")
         time.sleep(0.3)
-        for key in ("Up", "Return"):  # the last entry is "Quit"
-            self.desktop.key(key)
-        self.assertEqual(helper.wait(5), 0)
+        self.assertTrue(self.press_until(lambda: helper.poll() is not None, "Up", "Return"))  # the last entry is "Quit"
+        self.assertEqual(helper.returncode, 0)
 
 
 class TrayProgram(TrayCase):
@@ -110,7 +108,7 @@ class TrayProgram(TrayCase):
         for _ in range(2):  # the second time after a pause, with the helper's next refresh
             first = self.tray_program(helper)
             os.kill(first, signal.SIGKILL)
-            self.assertTrue(wait_for(lambda: self.tray_program(helper, 0) not in (None, first), 15), "it did not come back")
+            self.assertTrue(wait_for(lambda: self.tray_program(helper, 0) not in (None, first)), "it did not come back")
             self.assert_icon(what="the icon did not come back")
         self.assertIsNone(helper.poll())
 
@@ -120,7 +118,7 @@ class TrayProgram(TrayCase):
             self.assert_icon()
             program = self.tray_program(helper)
             helper.send_signal(number)
-            helper.wait(5)
+            helper.wait(40)
             self.assert_ends(program)
             self.assertEqual(list(Path(self.desktop.env["XDG_RUNTIME_DIR"]).glob("quindle-tray-*")), [])
 
@@ -147,7 +145,7 @@ class ResetServer(TrayCase):
         socket = Path("/tmp/.X11-unix/X" + self.desktop.env["DISPLAY"].lstrip(":"))
         inode = socket.stat().st_ino
         os.kill(server, signal.SIGHUP)
-        self.assertEqual(helper.wait(20), 0)
+        self.assertEqual(helper.wait(40), 0)
         self.assertEqual(socket.stat().st_ino, inode)
         self.assertIn("the display has gone", self.desktop.log_path.read_text(errors="replace"))
 
@@ -190,7 +188,7 @@ class TrayAndWatcher(TrayCase):
         self.desktop.kill_panel()
         self.desktop.host = "tint2"
         self.desktop.start_panel()  # the other one had taken its tray
-        self.assertIsNotNone(self.tray_program(helper, 15), "no tray program after the watcher")
+        self.assertIsNotNone(self.tray_program(helper), "no tray program after the watcher")
 
 
 class WithoutASessionBus(PreferencesCase):
@@ -203,20 +201,24 @@ class WithoutASessionBus(PreferencesCase):
         process = self.desktop.start(HELPER, env={"QUINDLE_SYSFS": str(self.system),
                                                   "DBUS_SESSION_BUS_ADDRESS": "unix:path=/nowhere"})
         self.addCleanup(self.stop, process)
-        self.assertTrue(wait_for(self.desktop.windows, 8), "no icon in the tray")
+        self.assertTrue(wait_for(self.desktop.windows), "no icon in the tray")
         time.sleep(1)
         self.desktop.click(*ICON)
-        self.assertTrue(wait_for(lambda: len(self.desktop.windows()) > 1, 5), "no battery view appeared")
+        self.assertTrue(wait_for(lambda: len(self.desktop.windows()) > 1), "no battery view appeared")
         time.sleep(0.5)
         for key in ("Up", "Up", "Up", "Return"):  # from the last entry of the menu to "Preferences..."
             self.desktop.key(key)
-        self.assertTrue(wait_for(lambda: self.window("General"), 5), "no preferences")
+        self.assertTrue(wait_for(lambda: self.window("General")), "no preferences")
         time.sleep(1)
+        delays = []
         for number in range(3):
-            before = self.picture()
+            before = self.settled(self.picture)
+            begun = time.monotonic()
             self.desktop.key("alt+i")
-            self.assertTrue(wait_for(lambda: self.picture() != before, 2), f"after switch {number} the icon stayed")
-            time.sleep(0.5)
+            self.assertTrue(wait_for(lambda: self.picture() != before), f"after switch {number} the icon stayed")
+            delays.append(time.monotonic() - begun)
+        # The first may happen to come with the helper's own timer, but then the others are ten seconds from it.
+        self.assertLess(min(delays[1:]), 5, delays)
 
 
 if __name__ == "__main__":
