@@ -47,7 +47,7 @@ RemoteControllers::RemoteControllers(const Platform& platform, MainInterface& in
     , m_surroundings(std::move(surroundings))
 {
     m_notifications.setForward(
-        [this](const QString& name) { m_process.tell({.kind = Kind::Announced, .text = name.toUtf8()}); });
+        [this](const QString& name) { m_process.send({.kind = Kind::Announced, .text = name.toUtf8()}); });
     // Nobody looks at windows that have gone.
     m_process.setGone([this] { watch(false); });
 }
@@ -133,30 +133,30 @@ void RemoteControllers::followModels()
     if (!m_isWatched)
         return;
     if (const QDBattery* battery = m_delegate->myMac().Battery())
-        connect(battery, &QDBattery::changed, this, &RemoteControllers::tellRefreshedSoon,
+        connect(battery, &QDBattery::changed, this, &RemoteControllers::sendRefreshedSoon,
                 Qt::UniqueConnection);
-    tellRefreshedSoon();
+    sendRefreshedSoon();
 }
 
 // Battery and status item are mostly refreshed one after the other.
-void RemoteControllers::tellRefreshedSoon()
+void RemoteControllers::sendRefreshedSoon()
 {
-    if (!std::exchange(m_tellsRefreshed, true))
-        QMetaObject::invokeMethod(this, &RemoteControllers::tellRefreshed, Qt::QueuedConnection);
+    if (!std::exchange(m_sendsRefreshed, true))
+        QMetaObject::invokeMethod(this, &RemoteControllers::sendRefreshed, Qt::QueuedConnection);
 }
 
-void RemoteControllers::tellRefreshed()
+void RemoteControllers::sendRefreshed()
 {
-    m_tellsRefreshed = false;
+    m_sendsRefreshed = false;
     if (!m_isWatched)
         return;
     // First, so that windows show it with what they refresh.
     if (const auto shown = m_delegate->statusItem().shownItem())
-        m_process.tell({.kind = Kind::PanelShows,
+        m_process.send({.kind = Kind::PanelShows,
                         .text = shown->text.toUtf8(),
                         .number = static_cast<quint32>(shown->form),
                         .data = shown->picture});
-    m_process.tell({.kind = Kind::Refreshed, .number = m_surroundings.statesEntered()});
+    m_process.send({.kind = Kind::Refreshed, .number = m_surroundings.statesEntered()});
 }
 
 } // namespace quindle

@@ -48,8 +48,8 @@ private:
     void handle(const WindowMessage& message);
     void watch(bool isWatched);
     void followModels();
-    void tellRefreshedSoon();
-    void tellRefreshed();
+    void sendRefreshedSoon();
+    void sendRefreshed();
 
     const Platform& m_platform;
     MainInterface& m_interface;
@@ -59,7 +59,7 @@ private:
     Store m_store;
     HelperAppDelegate* m_delegate = nullptr;
     bool m_isWatched = false;
-    bool m_tellsRefreshed = false; ///< at the end of this turn of the main loop
+    bool m_sendsRefreshed = false; ///< at the end of this turn of the main loop
     Punctuality m_punctuality;
 };
 

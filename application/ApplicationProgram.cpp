@@ -104,8 +104,8 @@ std::vector<ApplicationPage> ApplicationProgram::pages()
         auto* page = new SettingsPage(
             m_general, m_platform.userDefaults.standard(), m_platform.distributedNotificationCenter,
             m_extras.powerManagers, [this] { deleteHistory(); }, parent);
-        connect(&m_samples, &SavedSamples::told, page, &SettingsPage::tellOfHistory);
-        connect(&m_snapshots, &SavedSnapshots::told, page, &SettingsPage::tellOfHistory);
+        connect(&m_samples, &SavedSamples::message, page, &SettingsPage::showHistoryMessage);
+        connect(&m_snapshots, &SavedSnapshots::message, page, &SettingsPage::showHistoryMessage);
         return page;
     };
     return {{QStringLiteral(QT_TRANSLATE_NOOP("Pages", "Battery")), battery},
@@ -145,7 +145,7 @@ void ApplicationProgram::connectSamples(HistoryPage& page)
     connect(&m_samples, &SavedSamples::found, &page, &HistoryPage::setSamples);
     connect(&m_samples, &SavedSamples::changed, &page,
             [this, &page] { page.setNow(secondsNow(m_platform)); });
-    connect(&m_samples, &SavedSamples::told, &page, &HistoryPage::tell);
+    connect(&m_samples, &SavedSamples::message, &page, &HistoryPage::showMessage);
     connect(&page, &HistoryPage::settingsWanted, this,
             [this] { m_window->showPage(QStringLiteral("Settings")); });
     connect(&page, &HistoryPage::shown, this, [this, &page] {

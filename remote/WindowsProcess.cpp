@@ -53,7 +53,7 @@ bool WindowsProcess::ask(WindowMessage request)
     return m_program->link().send(encoded(request));
 }
 
-void WindowsProcess::tell(const WindowMessage& message)
+void WindowsProcess::send(const WindowMessage& message)
 {
     if (m_program)
         m_program->link().send(encoded(message));

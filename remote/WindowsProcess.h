@@ -43,7 +43,7 @@ public:
     void request(const WindowMessage& request);
 
     /// The same for what only matters to a program that runs.
-    void tell(const WindowMessage& message);
+    void send(const WindowMessage& message);
 
     bool isRunning() const { return m_program != nullptr; }
 

@@ -48,7 +48,7 @@ bool isReached(WarningLevel level, const LevelSettings& settings, const BatteryR
     case WarningLevel::LimitReached:
         return isAtLimit(*percent, reading);
     default:
-        return reading.percent <= *percent || minutesToTell(level, settings, steadyMinutes).has_value();
+        return reading.percent <= *percent || minutesToShow(level, settings, steadyMinutes).has_value();
     }
 }
 
@@ -62,7 +62,7 @@ bool isLeft(WarningLevel level, const LevelSettings& settings, const BatteryRead
                                 : reading.percent <= std::max(0.0, *percent - hysteresis);
 }
 
-std::optional<int> minutesToTell(WarningLevel level, const LevelSettings& settings,
+std::optional<int> minutesToShow(WarningLevel level, const LevelSettings& settings,
                                  std::optional<int> steadyMinutes)
 {
     // The same number is a percentage and minutes, so a level may be reached by either.

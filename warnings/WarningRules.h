@@ -24,7 +24,7 @@ bool isLeft(WarningLevel level, const LevelSettings& settings, const BatteryRead
 
 /// The minutes that a warning of that level gives instead of the percentage: a steady estimate that is no
 /// longer than the level's percentage in minutes. Else nothing.
-std::optional<int> minutesToTell(WarningLevel level, const LevelSettings& settings,
+std::optional<int> minutesToShow(WarningLevel level, const LevelSettings& settings,
                                  std::optional<int> steadyMinutes);
 
 /// Whether a warning stays on the screen until somebody closes it.

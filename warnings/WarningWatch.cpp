@@ -44,8 +44,8 @@ std::vector<WarningAction> WarningWatch::take(const BatteryReading& reading, con
         m_shown.reset();
         actions.push_back({.kind = Kind::Withdraw});
     }
-    if (const auto level = levelToTell(reading, settings))
-        tell(*level, reading, settings, actions);
+    if (const auto level = levelToWarnOf(reading, settings))
+        warn(*level, reading, settings, actions);
     return actions;
 }
 
@@ -77,7 +77,7 @@ void WarningWatch::meetBattery(const QString& battery)
     m_battery = battery;
     m_recent.forget();
     for (const WarningLevel level : warningLevels)
-        (*this)[level] = {.isTold = !isOfDischarge(level)};
+        (*this)[level] = {.isWarnedOf = !isOfDischarge(level)};
 }
 
 void WarningWatch::follow(const BatteryReading& reading, const WarningSettings& settings)
@@ -104,10 +104,10 @@ void WarningWatch::followLevel(WarningLevel level, const LevelSettings& settings
 void WarningWatch::rearm(WarningLevel level, const BatteryReading& reading)
 {
     Level& known = (*this)[level];
-    if (known.isToldByTime && isDischarging(reading))
+    if (known.wasReachedByTime && isDischarging(reading))
         return;
-    known.isTold = false;
-    known.isToldByTime = false;
+    known.isWarnedOf = false;
+    known.wasReachedByTime = false;
 }
 
 void WarningWatch::followAttention(const BatteryReading& reading)
@@ -128,39 +128,39 @@ bool WarningWatch::isConfirmed(const std::optional<qint64>& since, qint64 moment
 /// Whether what is shown no longer holds: the state is not its level's, or the level has been left.
 bool WarningWatch::isOutdated(const BatteryReading& reading)
 {
-    return m_shown && (isOfDischarge(*m_shown) != isDischarging(reading) || !(*this)[*m_shown].isTold);
+    return m_shown && (isOfDischarge(*m_shown) != isDischarging(reading) || !(*this)[*m_shown].isWarnedOf);
 }
 
-std::optional<WarningLevel> WarningWatch::levelToTell(const BatteryReading& reading,
-                                                      const WarningSettings& settings)
+std::optional<WarningLevel> WarningWatch::levelToWarnOf(const BatteryReading& reading,
+                                                        const WarningSettings& settings)
 {
     const bool isQuiet = reading.moment < m_quietUntil;
     std::optional<WarningLevel> found;
     for (const WarningLevel level : warningLevels) {
         const Level& known = (*this)[level];
-        const bool isNews =
-            !known.isTold && isConfirmed(known.reachedSince, reading.moment) && !hasToldMoreUrgent(level);
+        const bool isNews = !known.isWarnedOf && isConfirmed(known.reachedSince, reading.moment) &&
+                            !hasWarnedMoreUrgently(level);
         if (isNews && settings[level].isOn && (!isQuiet || level == WarningLevel::NearlyEmpty))
             found = level;
     }
     return found;
 }
 
-bool WarningWatch::hasToldMoreUrgent(WarningLevel level)
+bool WarningWatch::hasWarnedMoreUrgently(WarningLevel level)
 {
     for (const WarningLevel other : warningLevels)
-        if (isOfDischarge(other) && other > level && (*this)[other].isTold)
+        if (isOfDischarge(other) && other > level && (*this)[other].isWarnedOf)
             return true;
     return false;
 }
 
-void WarningWatch::tell(WarningLevel level, const BatteryReading& reading, const WarningSettings& settings,
+void WarningWatch::warn(WarningLevel level, const BatteryReading& reading, const WarningSettings& settings,
                         std::vector<WarningAction>& actions)
 {
-    const auto minutes = minutesToTell(level, settings[level], m_recent.steadyMinutes());
+    const auto minutes = minutesToShow(level, settings[level], m_recent.steadyMinutes());
     Level& known = (*this)[level];
-    known.isTold = true;
-    known.isToldByTime = isOfDischarge(level) && reading.percent > settings[level].percent;
+    known.isWarnedOf = true;
+    known.wasReachedByTime = isOfDischarge(level) && reading.percent > settings[level].percent;
     WarningAction action{.kind = m_shown ? Kind::Replace : Kind::Show,
                          .level = level,
                          .percent = reading.percent,

@@ -53,8 +53,8 @@ private:
     {
         std::optional<qint64> reachedSince{};
         std::optional<qint64> leftSince{};
-        bool isTold = false;
-        bool isToldByTime = false;
+        bool isWarnedOf = false;
+        bool wasReachedByTime = false;
     };
 
     Level& operator[](WarningLevel level) { return m_levels[indexOf(level)]; }
@@ -64,9 +64,9 @@ private:
     void followAttention(const BatteryReading& reading);
     bool isConfirmed(const std::optional<qint64>& since, qint64 moment) const;
     bool isOutdated(const BatteryReading& reading);
-    std::optional<WarningLevel> levelToTell(const BatteryReading& reading, const WarningSettings& settings);
-    bool hasToldMoreUrgent(WarningLevel level);
-    void tell(WarningLevel level, const BatteryReading& reading, const WarningSettings& settings,
+    std::optional<WarningLevel> levelToWarnOf(const BatteryReading& reading, const WarningSettings& settings);
+    bool hasWarnedMoreUrgently(WarningLevel level);
+    void warn(WarningLevel level, const BatteryReading& reading, const WarningSettings& settings,
               std::vector<WarningAction>& actions);
     void meetBattery(const QString& battery);
 

@@ -5,7 +5,7 @@
 namespace quindle {
 
 // A helper that has gone takes its windows with it, and one that does not read refreshes nothing.
-void HelperEnd::tell(const WindowMessage& message)
+void HelperEnd::send(const WindowMessage& message)
 {
     m_link.send(encoded(message));
 }

@@ -16,10 +16,10 @@ public:
     {
     }
 
-    void tell(const WindowMessage& message);
+    void send(const WindowMessage& message);
 
     /// The same for a message that is a number at most.
-    void tell(WindowMessage::Kind kind, quint32 number = 0) { tell({.kind = kind, .number = number}); }
+    void send(WindowMessage::Kind kind, quint32 number = 0) { send({.kind = kind, .number = number}); }
 
 private:
     MessageLink& m_link;

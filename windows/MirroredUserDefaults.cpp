@@ -20,7 +20,7 @@ void MirroredUserDefaults::setObject(const QString& key, const QVariant& value)
     if (m_below.object(key) == value && m_below.object(key).typeId() == value.typeId())
         return;
     m_below.setObject(key, value);
-    m_helper.tell({.kind = WindowMessage::Kind::Stored,
+    m_helper.send({.kind = WindowMessage::Kind::Stored,
                    .text = m_name.toUtf8(),
                    .data = xmlPropertyList(QVariantMap{{key, value}})});
 }

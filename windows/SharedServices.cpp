@@ -34,9 +34,9 @@ Punctuality HelpersRunLoop::keepPunctual()
 {
     if (Punctuality watched = m_watched.lock())
         return watched;
-    m_helper.tell(Kind::Watched, 1);
+    m_helper.send(Kind::Watched, 1);
     // With several watches only the end of the last one counts.
-    Punctuality watched(this, [this](void*) { m_helper.tell(Kind::Watched, 0); });
+    Punctuality watched(this, [this](void*) { m_helper.send(Kind::Watched, 0); });
     m_watched = watched;
     return watched;
 }
@@ -54,7 +54,7 @@ void HelpersNotifications::addObserver(const QString& name, NotificationCenter::
 void HelpersNotifications::post(const QString& name)
 {
     m_observers.post(name);
-    m_helper.tell({.kind = Kind::Announced, .text = name.toUtf8()});
+    m_helper.send({.kind = Kind::Announced, .text = name.toUtf8()});
 }
 
 void HelpersNotifications::hear(const QString& name)
@@ -70,7 +70,7 @@ HelpersApplication::HelpersApplication(HelperEnd& helper, Application& windows)
 
 void HelpersApplication::terminate()
 {
-    m_helper.tell(Kind::Quit);
+    m_helper.send(Kind::Quit);
     // Without waiting for a helper that may be busy: the user sees the choice at once.
     m_windows.terminate();
 }
@@ -84,13 +84,13 @@ SharedTitle::SharedTitle(HelperEnd& helper, StatusBarTitle& own)
 void SharedTitle::updateStatusBarTitle()
 {
     m_own.updateStatusBarTitle();
-    m_helper.tell(Kind::RefreshTitle);
+    m_helper.send(Kind::RefreshTitle);
 }
 
 void SharedTitle::reloadBattery()
 {
     m_own.reloadBattery();
-    m_helper.tell(Kind::ReloadBattery);
+    m_helper.send(Kind::ReloadBattery);
 }
 
 } // namespace quindle

@@ -32,7 +32,7 @@ WindowsProgram::WindowsProgram(WindowsServices& services, HelperEnd& helper)
 {
     // The helper repeats the click on its own models, so that both processes show the same.
     m_interface.setClickObserver(
-        [this](FactClick click) { m_helper.tell(Kind::Clicked, static_cast<quint32>(click)); });
+        [this](FactClick click) { m_helper.send(Kind::Clicked, static_cast<quint32>(click)); });
     m_delegate.applicationDidFinishLaunching(HelperAppDelegate::Program::Companion);
 }
 
@@ -59,7 +59,7 @@ void WindowsProgram::carryOut(const WindowMessage& request)
         const ActivationToken token(request.text);
         show(request);
     }
-    m_helper.tell(Kind::Heard, ++m_requests);
+    m_helper.send(Kind::Heard, ++m_requests);
 }
 
 void WindowsProgram::show(const WindowMessage& request)
@@ -87,9 +87,9 @@ void WindowsProgram::refresh(const WindowMessage& message)
     m_delegate.refreshBatteryAndTitle();
 }
 
-void WindowsProgram::tellIdle()
+void WindowsProgram::sendIdle()
 {
-    m_helper.tell(Kind::Idle, m_requests);
+    m_helper.send(Kind::Idle, m_requests);
 }
 
 } // namespace quindle

@@ -27,7 +27,7 @@ public:
     void handle(const WindowMessage& message);
 
     /// Says that nothing is open.
-    void tellIdle();
+    void sendIdle();
 
 private:
     void carryOut(const WindowMessage& request);

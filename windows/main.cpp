@@ -120,7 +120,7 @@ int run(SocketLink& link, const std::optional<Machine>& machine, std::chrono::mi
     link.setClosed(&QCoreApplication::quit);
     const WindowWatch watch(patience, [&program] {
         if (program)
-            program->tellIdle();
+            program->sendIdle();
     });
     return QApplication::exec();
 }

@@ -100,9 +100,9 @@ private:
         if (outcome.isGood())
             return true;
         // A full disk is reported in one line, however much could not be written.
-        if (!m_told.contains(outcome.fault))
+        if (!m_reported.contains(outcome.fault))
             m_report(outcome.fault);
-        m_told.append(outcome.fault);
+        m_reported.append(outcome.fault);
         fail(exitCodeOfWriting(outcome.error));
         return false;
     }
@@ -117,8 +117,8 @@ private:
     SampleStore m_store;
     SnapshotArchive m_archive;
     const CommandReport& m_report;
-    qint64 m_now;       ///< seconds since 1970
-    QStringList m_told; ///< faults
+    qint64 m_now;           ///< seconds since 1970
+    QStringList m_reported; ///< faults
     int m_exitCode = EX_OK;
 };
 

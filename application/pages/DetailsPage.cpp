@@ -55,7 +55,7 @@ DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& hel
     , m_search(new QLineEdit(this))
     , m_rows(new QTreeWidget(this))
     , m_nothing(new QLabel(tr("Nothing found"), this))
-    , m_told(new QuietLabel(this))
+    , m_message(new QuietLabel(this))
     , m_withSerials(new QCheckBox(tr("With serial &numbers"), this))
 {
     setObjectName(QStringLiteral("detailsPage"));
@@ -82,7 +82,7 @@ DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& hel
     layout->addWidget(m_rows, 1);
     layout->addWidget(m_nothing, 1);
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(m_told, 1);
+    buttons->addWidget(m_message, 1);
     buttons->addWidget(m_withSerials);
     buttons->addWidget(copyButton);
     buttons->addWidget(saveButton);
@@ -108,7 +108,7 @@ void DetailsPage::refresh()
 void DetailsPage::search()
 {
     // What was copied or saved is another thing than what is found now.
-    m_told->clear();
+    m_message->clear();
     showFound();
 }
 
@@ -156,7 +156,7 @@ void DetailsPage::showSection(int index, const DetailSection& section)
 void DetailsPage::copy()
 {
     QGuiApplication::clipboard()->setText(detailsText(foundDetails(m_sections, m_search->text())));
-    m_told->setText(tr("Copied"));
+    m_message->setText(tr("Copied"));
 }
 
 void DetailsPage::askForFile()
@@ -179,7 +179,7 @@ void DetailsPage::saveTo(const QString& path)
     // A machine file is played by the helper's programs, so it names their bundle.
     const Platform captured = m_platform.with({.registry = m_registryAsItIs, .bundle = &m_helperBundle});
     const QString failure = writeMachineFile(path, machineKeys(captured, m_withSerials->isChecked()));
-    m_told->setText(failure.isEmpty() ? tr("Saved") : path + QStringLiteral(": ") + failure);
+    m_message->setText(failure.isEmpty() ? tr("Saved") : path + QStringLiteral(": ") + failure);
 }
 
 void DetailsPage::changeEvent(QEvent* event)
@@ -201,7 +201,7 @@ void DetailsPage::fitToFont()
     layout()->setContentsMargins(line * 3 / 2, line * 3 / 2, line * 3 / 2, line);
     layout()->setSpacing(line * 3 / 4);
     m_rows->setColumnWidth(0, line * 15);
-    m_told->setFont(quietFont(font()));
+    m_message->setFont(quietFont(font()));
 }
 
 } // namespace quindle

@@ -58,7 +58,7 @@ private:
     QLineEdit* m_search;
     QTreeWidget* m_rows;
     QLabel* m_nothing;
-    QLabel* m_told;
+    QLabel* m_message;
     QCheckBox* m_withSerials;
     std::vector<DetailSection> m_sections;
 };

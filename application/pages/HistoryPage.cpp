@@ -60,7 +60,7 @@ HistoryPage::HistoryPage(QWidget* parent)
     , m_wearCaption(addLabel(true, QStringLiteral("wearCaption")))
     , m_sampleHeading(addLabel(false, QStringLiteral("sampleHeading")))
     , m_legend(addLabel(true, QStringLiteral("sampleLegend")))
-    , m_told(addLabel(true, QStringLiteral("told")))
+    , m_message(addLabel(true, QStringLiteral("message")))
     , m_notice(addLabel(true, QStringLiteral("recordingIsOff")))
     , m_ranges(new SegmentedControl(historyRangeTitles(), &content()))
     , m_wearChart(new TimeSeriesChart(tr("Full charge, whole history"), &content()))
@@ -147,7 +147,7 @@ void HistoryPage::makeFoot(QVBoxLayout& column)
     connect(m_tableButton, &QPushButton::clicked, this, &HistoryPage::askForTable);
     QHBoxLayout* foot = addRow(column);
     foot->addWidget(m_quantities);
-    foot->addWidget(m_told, 1);
+    foot->addWidget(m_message, 1);
     foot->addWidget(m_pictureButton);
     foot->addWidget(m_tableButton);
 }
@@ -275,7 +275,7 @@ void HistoryPage::fitToFont()
     m_figureRow->setSpacing(line / 2);
     m_figure->setFont(metrics.large);
     m_sign->setFont(metrics.medium);
-    for (PlainLabel* label : {m_detail, m_wearCaption, m_legend, m_told, m_notice})
+    for (PlainLabel* label : {m_detail, m_wearCaption, m_legend, m_message, m_notice})
         label->setFont(metrics.small);
     m_toSettings->setFont(metrics.small);
     QFont bold = font();

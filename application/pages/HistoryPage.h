@@ -44,7 +44,7 @@ public:
     void setNow(qint64 now);
 
     /// Shows a line for the user beside the buttons.
-    void tell(const QString& line);
+    void showMessage(const QString& line);
 
     HistoryRange range() const { return m_range; }
 
@@ -88,7 +88,7 @@ private:
     void askForTable();
     bool writePicture(QIODevice& file) const;
     bool writeDrawing(QIODevice& file) const;
-    void tellWritten(const QString& path, const QString& failure);
+    void showWritten(const QString& path, const QString& failure);
 
     std::vector<CapacityPoint> m_capacities;
     std::vector<Sample> m_samples;
@@ -105,7 +105,7 @@ private:
     PlainLabel* m_wearCaption;
     PlainLabel* m_sampleHeading;
     PlainLabel* m_legend;
-    PlainLabel* m_told;
+    PlainLabel* m_message;
     PlainLabel* m_notice;
     // From the top to the bottom: Tab goes in the order in which they are made.
     SegmentedControl* m_ranges;

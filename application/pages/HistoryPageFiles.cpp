@@ -104,7 +104,7 @@ void HistoryPage::askForTable()
 void HistoryPage::savePicture(const QString& path)
 {
     const bool isDrawing = path.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive);
-    tellWritten(path, written(path, [this, isDrawing](QIODevice& file) {
+    showWritten(path, written(path, [this, isDrawing](QIODevice& file) {
                     return isDrawing ? writeDrawing(file) : writePicture(file);
                 }));
 }
@@ -138,19 +138,19 @@ void HistoryPage::saveTable(const QString& path)
     std::copy_if(m_samples.begin(), m_samples.end(), std::back_inserter(samples),
                  [&seen](const Sample& sample) { return seen.contains(static_cast<double>(sample.moment)); });
     const QByteArray table = samplesText(samples, ExportFormat::Csv);
-    tellWritten(path, written(path, [&table](QIODevice& file) { return file.write(table) == table.size(); }));
+    showWritten(path, written(path, [&table](QIODevice& file) { return file.write(table) == table.size(); }));
 }
 
-void HistoryPage::tellWritten(const QString& path, const QString& failure)
+void HistoryPage::showWritten(const QString& path, const QString& failure)
 {
-    tell(failure.isEmpty() ? tr("Saved") : path + QStringLiteral(": ") + failure);
+    showMessage(failure.isEmpty() ? tr("Saved") : path + QStringLiteral(": ") + failure);
 }
 
-void HistoryPage::tell(const QString& line)
+void HistoryPage::showMessage(const QString& line)
 {
-    m_told->setText(line);
+    m_message->setText(line);
     // In a narrow window the end of it is cut.
-    m_told->setToolTip(line.toHtmlEscaped());
+    m_message->setToolTip(line.toHtmlEscaped());
 }
 
 } // namespace quindle

@@ -43,7 +43,7 @@ HistorySettingsView::HistorySettingsView(UserDefaults& own, DistributedNotificat
     , m_deleteAll(std::move(deleteAll))
     , m_record(new BoundCheckBox(this))
     , m_days(new QComboBox(this))
-    , m_told(new QuietLabel(this))
+    , m_message(new QuietLabel(this))
 {
     m_record->setText(tr("Record charge, po&wer and a daily snapshot"));
     m_record->setAccessibleName(tr("Record charge, power and a daily snapshot"));
@@ -83,10 +83,10 @@ void HistorySettingsView::addRows()
     auto* deleteButton = new QPushButton(tr("&Delete History..."), this);
     connect(deleteButton, &QPushButton::clicked, this, &HistorySettingsView::askToDelete);
     grid->addWidget(deleteButton, 2, 1, Qt::AlignLeft | Qt::AlignTop);
-    m_told->setObjectName(QStringLiteral("toldOfHistory"));
-    m_told->setWordWrap(true);
-    m_told->hide();
-    grid->addWidget(m_told, 3, 1);
+    m_message->setObjectName(QStringLiteral("historyMessage"));
+    m_message->setWordWrap(true);
+    m_message->hide();
+    grid->addWidget(m_message, 3, 1);
 }
 
 void HistorySettingsView::refresh()
@@ -106,17 +106,17 @@ void HistorySettingsView::showDays(qint64 days)
     m_days->setCurrentIndex(index);
 }
 
-void HistorySettingsView::tell(const QString& line)
+void HistorySettingsView::showMessage(const QString& line)
 {
     // Snapshots and samples are deleted one beside the other, and either may fail.
-    m_told->setText(joined(m_told->text(), QStringLiteral("\n"), line));
-    m_told->show();
+    m_message->setText(joined(m_message->text(), QStringLiteral("\n"), line));
+    m_message->show();
 }
 
 void HistorySettingsView::forgetTold()
 {
-    m_told->clear();
-    m_told->hide();
+    m_message->clear();
+    m_message->hide();
 }
 
 void HistorySettingsView::announceChange()

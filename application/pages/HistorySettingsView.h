@@ -29,7 +29,7 @@ public:
     void refresh();
 
     /// Adds a line to what is said of the deletion.
-    void tell(const QString& line);
+    void showMessage(const QString& line);
     void forgetTold();
 
 private:
@@ -43,7 +43,7 @@ private:
     std::function<void()> m_deleteAll;
     BoundCheckBox* m_record;
     QComboBox* m_days;
-    QuietLabel* m_told;
+    QuietLabel* m_message;
 };
 
 } // namespace quindle

@@ -93,11 +93,11 @@ void SettingsPage::resizeEvent(QResizeEvent* event)
     content().layout()->setContentsMargins(0, 0, std::max(0, spare), 0);
 }
 
-void SettingsPage::tellOfHistory(const QString& line)
+void SettingsPage::showHistoryMessage(const QString& line)
 {
     // Otherwise it was asked for on another page, which says so.
     if (isVisible())
-        m_history->tell(line);
+        m_history->showMessage(line);
 }
 
 } // namespace quindle

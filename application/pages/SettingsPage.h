@@ -31,7 +31,7 @@ public:
     ~SettingsPage() override;
 
     /// Shows a line about what became of the history, until the page is hidden.
-    void tellOfHistory(const QString& line);
+    void showHistoryMessage(const QString& line);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -32,7 +32,7 @@ public:
     }
 
     /// From the work: calls `what` in the thread of this object.
-    void tell(const std::function<void()>& what)
+    void callBack(const std::function<void()>& what)
     {
         QMetaObject::invokeMethod(m_here.get(), what, Qt::QueuedConnection);
     }

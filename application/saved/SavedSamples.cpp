@@ -62,7 +62,7 @@ void SavedSamples::read(qint64 from, qint64 to)
     watch();
     const auto work = [path = m_path, from, to] { return samplesIn(path, from, to); };
     m_work.run(work, [this, asked](const FoundSamples& result) {
-        tell(lineOf(result.outcome));
+        report(lineOf(result.outcome));
         // Otherwise another range was chosen meanwhile, whose answer comes too.
         if (asked == m_asked)
             Q_EMIT found(result.samples, result.ownSince);
@@ -95,7 +95,7 @@ void SavedSamples::takeOver(const std::function<std::unique_ptr<PowerHistory>()>
     m_work.run(work, [this](const StoreOutcome& outcome) {
         if (outcome.isGood())
             Q_EMIT changed();
-        tell(lineOf(outcome));
+        report(lineOf(outcome));
     });
 }
 
@@ -104,13 +104,13 @@ void SavedSamples::removeAll()
     if (m_path.isEmpty())
         return;
     m_work.run([path = m_path] { return SampleStore(path).removeAll(); },
-               [this](const StoreOutcome& outcome) { tell(lineOf(outcome)); });
+               [this](const StoreOutcome& outcome) { report(lineOf(outcome)); });
 }
 
-void SavedSamples::tell(const QString& line)
+void SavedSamples::report(const QString& line)
 {
     if (!line.isEmpty())
-        Q_EMIT told(line);
+        Q_EMIT message(line);
 }
 
 } // namespace quindle

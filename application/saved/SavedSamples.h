@@ -41,11 +41,11 @@ Q_SIGNALS:
     void changed();
 
     /// One line for the user: why something could not be done, or where a damaged file was put.
-    void told(const QString& line);
+    void message(const QString& line);
 
 private:
     void watch();
-    void tell(const QString& line);
+    void report(const QString& line);
 
     QString m_path;
     QFileSystemWatcher m_watcher;

@@ -111,18 +111,19 @@ void SavedSnapshots::removeAll()
 void SavedSnapshots::run(const Change& change)
 {
     if (m_path.isEmpty()) {
-        Q_EMIT told(translated("Snapshots", "There is no folder for snapshots: the user has no home folder"));
+        Q_EMIT message(
+            translated("Snapshots", "There is no folder for snapshots: the user has no home folder"));
         return;
     }
     // Counted, since the next change may be asked for before this one is done.
     setBusy(m_tasks + 1);
-    const auto tellProgress = [this](int percent) {
-        m_work.tell([this, percent] { Q_EMIT progressed(percent); });
+    const auto reportProgress = [this](int percent) {
+        m_work.callBack([this, percent] { Q_EMIT progressed(percent); });
     };
-    const auto work = [path = m_path, change, tellProgress] {
+    const auto work = [path = m_path, change, reportProgress] {
         SnapshotArchive archive(path);
         const QString line = change(archive);
-        ArchivedRecords archived = archive.read(tellProgress);
+        ArchivedRecords archived = archive.read(reportProgress);
         return Result{std::move(archived.records), line.isEmpty() ? archived.fault : line};
     };
     m_work.run(work, [this](const Result& result) { take(result); });
@@ -134,7 +135,7 @@ void SavedSnapshots::take(const Result& result)
     m_records = result.records;
     Q_EMIT changed();
     if (!result.line.isEmpty())
-        Q_EMIT told(result.line);
+        Q_EMIT message(result.line);
 }
 
 void SavedSnapshots::setBusy(int tasks)

@@ -49,7 +49,7 @@ Q_SIGNALS:
     void progressed(int percent);
 
     /// One line for the user: what was done, or why it was not.
-    void told(const QString& line);
+    void message(const QString& line);
 
 private:
     struct Result

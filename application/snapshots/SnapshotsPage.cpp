@@ -40,7 +40,7 @@ SnapshotsPage::SnapshotsPage(SavedSnapshots& snapshots, MakeSnapshot makeSnapsho
     , m_save(button(tr("&Save Now"), &SnapshotsPage::saveNow))
     , m_view(new SnapshotView(this))
     , m_nothing(new QLabel(tr("No snapshots yet"), this))
-    , m_told(new QuietLabel(this))
+    , m_message(new QuietLabel(this))
     , m_undo(new LinkButton(this))
     , m_compare(button(tr("&Compare"), &SnapshotsPage::compare))
     , m_delete(button(tr("&Delete"), &SnapshotsPage::deleteSelected))
@@ -72,7 +72,7 @@ void SnapshotsPage::layOut()
     head->addWidget(m_progress);
     head->addWidget(m_save);
     auto* line = new QHBoxLayout;
-    line->addWidget(m_told);
+    line->addWidget(m_message);
     line->addWidget(m_undo);
     line->addStretch(1);
     auto* foot = new QHBoxLayout;
@@ -99,7 +99,7 @@ void SnapshotsPage::connectSnapshots()
 {
     connect(&m_snapshots, &SavedSnapshots::changed, this, &SnapshotsPage::showRecords);
     connect(&m_snapshots, &SavedSnapshots::busyChanged, this, &SnapshotsPage::showBusy);
-    connect(&m_snapshots, &SavedSnapshots::told, this, &SnapshotsPage::tell);
+    connect(&m_snapshots, &SavedSnapshots::message, this, &SnapshotsPage::showMessage);
     connect(&m_snapshots, &SavedSnapshots::progressed, m_progress, &QProgressBar::setValue);
     showRecords();
     showBusy();
@@ -142,7 +142,7 @@ void SnapshotsPage::saveNow()
     if (const auto record = m_makeSnapshot())
         m_snapshots.add(*record);
     else
-        tell(tr("There is no battery to save a snapshot of"));
+        showMessage(tr("There is no battery to save a snapshot of"));
 }
 
 void SnapshotsPage::deleteSelected()
@@ -186,13 +186,13 @@ void SnapshotsPage::askForExport()
 void SnapshotsPage::exportTo(const QString& path, bool withSerialNumbers)
 {
     const QString failure = exportToFile(path, m_snapshots.records(), withSerialNumbers);
-    tell(failure.isEmpty() ? tr("Exported") : failure);
+    showMessage(failure.isEmpty() ? tr("Exported") : failure);
 }
 
-void SnapshotsPage::tell(const QString& line)
+void SnapshotsPage::showMessage(const QString& line)
 {
-    m_told->setText(line);
-    m_told->setToolTip(line.toHtmlEscaped());
+    m_message->setText(line);
+    m_message->setToolTip(line.toHtmlEscaped());
     updateButtons();
 }
 
@@ -216,7 +216,7 @@ void SnapshotsPage::fitToFont()
     layout()->setSpacing(line / 2);
     m_progress->setMaximumWidth(line * 8);
     for (QWidget* quiet :
-         {static_cast<QWidget*>(m_count), static_cast<QWidget*>(m_told), static_cast<QWidget*>(m_undo)})
+         {static_cast<QWidget*>(m_count), static_cast<QWidget*>(m_message), static_cast<QWidget*>(m_undo)})
         quiet->setFont(quietFont(font()));
 }
 

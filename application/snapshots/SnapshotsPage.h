@@ -53,7 +53,7 @@ private:
     void compare();
     void askForImport();
     void askForExport();
-    void tell(const QString& line);
+    void showMessage(const QString& line);
     void fitToFont();
 
     SavedSnapshots& m_snapshots;
@@ -64,7 +64,7 @@ private:
     QPushButton* m_save;
     SnapshotView* m_view;
     QLabel* m_nothing;
-    QLabel* m_told;
+    QLabel* m_message;
     LinkButton* m_undo;
     QPushButton* m_compare;
     QPushButton* m_delete;

@@ -443,7 +443,7 @@ TEST_F(HistoryPagesTest, ADamagedFileThatWasSetAsideIsNamedOnThePage)
 {
     write(database(), "damaged");
     show("History");
-    const auto* told = program->window().findChild<QLabel*>(latin("told"));
+    const auto* told = program->window().findChild<QLabel*>(latin("message"));
     EXPECT_TRUE(comesTrue([&] { return told->text().contains(latin("is damaged, set aside as")); }));
     EXPECT_EQ(told->toolTip(), told->text().toHtmlEscaped());
 }
@@ -493,7 +493,7 @@ TEST_F(HistoryPagesTest, WhatCannotBeDeletedIsSaidWhereItWasAskedFor)
     QDir().mkpath(database()); // a directory in the file's place
     show("Settings");
     answerDeletion("Delete");
-    const auto* told = program->window().findChild<QLabel*>(latin("toldOfHistory"));
+    const auto* told = program->window().findChild<QLabel*>(latin("historyMessage"));
     ASSERT_TRUE(told);
     EXPECT_TRUE(comesTrue([&] { return told->text().contains(database() + latin(": ")); }))
         << told->text().toStdString();

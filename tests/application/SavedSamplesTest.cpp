@@ -18,7 +18,7 @@ struct SavedSamplesTest : TemporaryHistory
             ++answers;
             found = answer;
         });
-        QObject::connect(&samples, &SavedSamples::told, &samples,
+        QObject::connect(&samples, &SavedSamples::message, &samples,
                          [this](const QString& line) { told.append(line); });
         QObject::connect(&samples, &SavedSamples::changed, &samples, [this] { samples.read(0, 5000); });
     }

@@ -15,7 +15,7 @@ struct SavedSnapshotsTest : TemporaryHistory
 {
     SavedSnapshotsTest()
     {
-        QObject::connect(&snapshots, &SavedSnapshots::told, &snapshots,
+        QObject::connect(&snapshots, &SavedSnapshots::message, &snapshots,
                          [this](const QString& line) { lines.append(line); });
     }
 
@@ -140,7 +140,7 @@ TEST_F(SavedSnapshotsTest, WithoutAPlaceNothingIsSaved)
 {
     SavedSnapshots none({});
     QStringList told;
-    QObject::connect(&none, &SavedSnapshots::told, &none, [&](const QString& line) { told.append(line); });
+    QObject::connect(&none, &SavedSnapshots::message, &none, [&](const QString& line) { told.append(line); });
     none.add(recordAt(1000));
     EXPECT_EQ(told.size(), 1);
     EXPECT_FALSE(none.isBusy());

@@ -41,11 +41,11 @@ using Kinds = std::vector<Kind>;
 
 TEST_F(WindowsProcessTest, IsStartedByTheFirstRequestOnly)
 {
-    process.tell({.kind = Kind::Refreshed});
+    process.send({.kind = Kind::Refreshed});
     EXPECT_TRUE(starter.programs.empty());
     process.request({.kind = Kind::ShowPreferences, .text = "token"});
     process.request({.kind = Kind::OpenView});
-    process.tell({.kind = Kind::Refreshed});
+    process.send({.kind = Kind::Refreshed});
     ASSERT_EQ(starter.programs.size(), 1U);
     EXPECT_EQ(sent(starter.last()), (Kinds{Kind::ShowPreferences, Kind::OpenView, Kind::Refreshed}));
     EXPECT_EQ(starter.last().messages.front().text, "token");

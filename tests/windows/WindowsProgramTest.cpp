@@ -136,7 +136,7 @@ TEST_F(WindowsProgramTest, SaysWhatItHasDone)
         }
     }
     EXPECT_EQ(heard, 2U);
-    program->tellIdle();
+    program->sendIdle();
     EXPECT_EQ(link.told(), (std::vector<WindowMessage>{{.kind = Kind::Idle, .number = 2}}));
 }
 

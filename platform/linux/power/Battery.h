@@ -24,7 +24,7 @@ struct Battery
     std::optional<double> charge;       ///< not above the full charge
     std::optional<double> fullCharge;   ///< above 0
     std::optional<double> designCharge; ///< above 0
-    bool tellsPercentageOnly = false;
+    bool hasPercentageOnly = false;
     bool isMadeOfEnergies = false; ///< the charges, over the rated voltage
 
     double ratedVoltage = 0;       ///< V; without a figure of the battery's own a usual one, never 0

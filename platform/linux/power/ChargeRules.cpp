@@ -79,7 +79,7 @@ void setPercentageOnly(Battery& battery, double percent)
 {
     battery.charge = percent;
     battery.fullCharge = 100;
-    battery.tellsPercentageOnly = true; // a design charge would stand beside a full charge of 100
+    battery.hasPercentageOnly = true; // a design charge would stand beside a full charge of 100
 }
 
 /// Drivers differ in the sign they give a current: of two that discharge, sbs-gehc-32-properties writes

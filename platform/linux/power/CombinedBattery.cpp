@@ -43,7 +43,7 @@ OptionalNumber sumOf(Batteries batteries, QuantityOf quantityOf)
 /// not report both charge and full charge would falsify the percentage of all.
 bool addsUp(const Battery& battery)
 {
-    return !battery.tellsPercentageOnly && battery.charge && battery.fullCharge;
+    return !battery.hasPercentageOnly && battery.charge && battery.fullCharge;
 }
 
 OptionalNumber fullCharge(const Battery& battery)

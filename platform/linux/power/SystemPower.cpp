@@ -43,7 +43,7 @@ std::optional<qint64> deliveredWatts(const SupplyAttributes& attributes)
 }
 
 /// Sums that round to a full charge of nothing would be shown as infinite percentages.
-bool makeABattery(Batteries batteries)
+bool haveFullCharge(Batteries batteries)
 {
     return combinedFullCharge(batteries).value_or(0) >= 0.5;
 }
@@ -64,7 +64,7 @@ SystemPower systemPowerFrom(const SupplyReadings& readings)
                 power.batteries.push_back(std::move(battery));
         }
     }
-    if (!makeABattery(power.batteries))
+    if (!haveFullCharge(power.batteries))
         power.batteries.clear();
     return power;
 }

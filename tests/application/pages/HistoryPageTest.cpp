@@ -192,7 +192,7 @@ TEST_F(HistoryPageTest, SavesAPictureOfWhatIsSeenAtTwiceTheSize)
     QImage bare(picture.size(), picture.format());
     bare.fill(picture.pixelColor(2, 2));
     EXPECT_NE(picture, bare);
-    EXPECT_EQ(text("told"), QStringLiteral("Saved"));
+    EXPECT_EQ(text("message"), QStringLiteral("Saved"));
 }
 
 TEST_F(HistoryPageTest, SavesADrawing)
@@ -225,8 +225,8 @@ TEST_F(HistoryPageTest, SaysWhyItCannotSave)
 {
     show();
     page.saveTable(QStringLiteral("/nonexistent/table.csv"));
-    EXPECT_TRUE(text("told").startsWith(QStringLiteral("/nonexistent/table.csv: ")))
-        << text("told").toStdString();
+    EXPECT_TRUE(text("message").startsWith(QStringLiteral("/nonexistent/table.csv: ")))
+        << text("message").toStdString();
 }
 
 } // namespace
