@@ -1,72 +1,49 @@
 #include "platform/linux/statusitem/MenuTypes.h"
 
-#include <QDBusArgument>
 #include <QDBusMetaType>
+
+#include "platform/linux/statusitem/NotifierTypes.h"
 
 namespace quindle {
 
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuNode& node)
 {
-    argument.beginStructure();
-    argument << node.id << node.properties << node.children;
-    argument.endStructure();
-    return argument;
+    return writeStructure(argument, node.id, node.properties, node.children);
 }
 
 const QDBusArgument& operator>>(const QDBusArgument& argument, MenuNode& node)
 {
-    argument.beginStructure();
-    argument >> node.id >> node.properties >> node.children;
-    argument.endStructure();
-    return argument;
+    return readStructure(argument, node.id, node.properties, node.children);
 }
 
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuRowProperties& row)
 {
-    argument.beginStructure();
-    argument << row.id << row.properties;
-    argument.endStructure();
-    return argument;
+    return writeStructure(argument, row.id, row.properties);
 }
 
 const QDBusArgument& operator>>(const QDBusArgument& argument, MenuRowProperties& row)
 {
-    argument.beginStructure();
-    argument >> row.id >> row.properties;
-    argument.endStructure();
-    return argument;
+    return readStructure(argument, row.id, row.properties);
 }
 
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuRowPropertyNames& row)
 {
-    argument.beginStructure();
-    argument << row.id << row.names;
-    argument.endStructure();
-    return argument;
+    return writeStructure(argument, row.id, row.names);
 }
 
 const QDBusArgument& operator>>(const QDBusArgument& argument, MenuRowPropertyNames& row)
 {
-    argument.beginStructure();
-    argument >> row.id >> row.names;
-    argument.endStructure();
-    return argument;
+    return readStructure(argument, row.id, row.names);
 }
 
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuEvent& event)
 {
-    argument.beginStructure();
-    argument << event.id << event.name << event.data << event.timestamp;
-    argument.endStructure();
-    return argument;
+    return writeStructure(argument, event.id, event.name, event.data, event.timestamp);
 }
 
 const QDBusArgument& operator>>(const QDBusArgument& argument, MenuEvent& event)
 {
-    argument.beginStructure();
-    argument >> event.id >> event.name >> event.data >> event.timestamp;
-    argument.endStructure();
-    return argument;
+    return readStructure(argument, event.id, event.name, event.data, event.timestamp);
 }
 
 void registerMenuTypes()

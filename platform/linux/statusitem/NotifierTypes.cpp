@@ -1,40 +1,27 @@
 #include "platform/linux/statusitem/NotifierTypes.h"
 
-#include <QDBusArgument>
 #include <QDBusMetaType>
 
 namespace quindle {
 
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap)
 {
-    argument.beginStructure();
-    argument << pixmap.width << pixmap.height << pixmap.pixels;
-    argument.endStructure();
-    return argument;
+    return writeStructure(argument, pixmap.width, pixmap.height, pixmap.pixels);
 }
 
 const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap)
 {
-    argument.beginStructure();
-    argument >> pixmap.width >> pixmap.height >> pixmap.pixels;
-    argument.endStructure();
-    return argument;
+    return readStructure(argument, pixmap.width, pixmap.height, pixmap.pixels);
 }
 
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierToolTip& toolTip)
 {
-    argument.beginStructure();
-    argument << toolTip.iconName << toolTip.icon << toolTip.title << toolTip.body;
-    argument.endStructure();
-    return argument;
+    return writeStructure(argument, toolTip.iconName, toolTip.icon, toolTip.title, toolTip.body);
 }
 
 const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierToolTip& toolTip)
 {
-    argument.beginStructure();
-    argument >> toolTip.iconName >> toolTip.icon >> toolTip.title >> toolTip.body;
-    argument.endStructure();
-    return argument;
+    return readStructure(argument, toolTip.iconName, toolTip.icon, toolTip.title, toolTip.body);
 }
 
 void registerNotifierTypes()

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDBusArgument>
 #include <QList>
 #include <QMetaType>
 #include <QString>
-
-class QDBusArgument;
 
 namespace quindle {
 
@@ -34,6 +33,26 @@ QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap)
 const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap);
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierToolTip& toolTip);
 const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierToolTip& toolTip);
+
+/// Writes the fields to the bus as one structure.
+template <typename... Fields>
+QDBusArgument& writeStructure(QDBusArgument& argument, const Fields&... fields)
+{
+    argument.beginStructure();
+    (argument << ... << fields);
+    argument.endStructure();
+    return argument;
+}
+
+/// Reads one structure from the bus into the fields, in their order.
+template <typename... Fields>
+const QDBusArgument& readStructure(const QDBusArgument& argument, Fields&... fields)
+{
+    argument.beginStructure();
+    (argument >> ... >> fields);
+    argument.endStructure();
+    return argument;
+}
 
 /// Makes the types known to the bus; may be called again.
 void registerNotifierTypes();
