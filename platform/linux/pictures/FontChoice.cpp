@@ -1,8 +1,5 @@
 #include "platform/linux/pictures/FontChoice.h"
 
-#include <algorithm>
-#include <array>
-
 #include <QStringList>
 #include <fontconfig/fontconfig.h>
 
@@ -96,39 +93,13 @@ bool hasCharacter(FcPattern* pattern, char32_t character)
 /// Words at the end of a font's name that describe its style, in upper or lower case.
 bool isStyleWord(const QString& word)
 {
-    constexpr std::array words{"regular",
-                               "roman",
-                               "book",
-                               "medium",
-                               "bold",
-                               "semi-bold",
-                               "semibold",
-                               "demi-bold",
-                               "demibold",
-                               "ultra-bold",
-                               "extra-bold",
-                               "extrabold",
-                               "heavy",
-                               "black",
-                               "light",
-                               "ultra-light",
-                               "extra-light",
-                               "extralight",
-                               "semi-light",
-                               "semilight",
-                               "thin",
-                               "italic",
-                               "oblique",
-                               "condensed",
-                               "semi-condensed",
-                               "ultra-condensed",
-                               "extra-condensed",
-                               "expanded",
-                               "semi-expanded",
-                               "normal"};
-    return std::any_of(words.begin(), words.end(), [&word](const char* style) {
-        return word.compare(QLatin1String(style), Qt::CaseInsensitive) == 0;
-    });
+    constexpr QLatin1StringView words(
+        " regular roman book medium bold semi-bold semibold demi-bold demibold ultra-bold "
+        "extra-bold extrabold heavy black light ultra-light extra-light extralight "
+        "semi-light semilight thin italic oblique condensed semi-condensed ultra-condensed "
+        "extra-condensed expanded semi-expanded normal ");
+    // With its blanks, or a part of a word would do.
+    return words.contains(QString(u' ' + word + u' '), Qt::CaseInsensitive);
 }
 
 bool isSize(const QString& word)
