@@ -15,6 +15,20 @@ namespace {
     fatalError(QString(registryKeyText(key) + QStringLiteral(" has an unexpected type in the registry")));
 }
 
+/// Nothing for a missing value, which is not the same as one of another type: some drivers have no such
+/// figure.
+template <typename Type>
+std::optional<Type> converted(BatteryRegistryKey key, const QVariant& value,
+                              std::optional<Type> (*convert)(const QVariant&))
+{
+    if (!value.isValid())
+        return std::nullopt;
+    std::optional<Type> result = convert(value);
+    if (!result)
+        failConversion(key);
+    return result;
+}
+
 } // namespace
 
 QVariantMap QDBattery::getRawData() const
@@ -131,14 +145,7 @@ QVariant QDBattery::registryValue(BatteryRegistryKey key) const
 
 std::optional<qint64> QDBattery::knownInteger(BatteryRegistryKey key) const
 {
-    // Missing is not the same as of another type: some drivers have no such figure.
-    const QVariant value = registryValue(key);
-    if (!value.isValid())
-        return std::nullopt;
-    const auto integer = convertToInteger(value);
-    if (!integer)
-        failConversion(key);
-    return integer;
+    return converted(key, registryValue(key), convertToInteger);
 }
 
 qint64 QDBattery::registryInteger(BatteryRegistryKey key) const
@@ -148,38 +155,19 @@ qint64 QDBattery::registryInteger(BatteryRegistryKey key) const
 
 std::optional<double> QDBattery::registryDouble(BatteryRegistryKey key) const
 {
-    const QVariant value = registryValue(key);
-    if (!value.isValid())
-        return std::nullopt;
-    // A double, because drivers on Linux give tenths of a degree Celsius, which are not whole tenths of a
-    // kelvin.
-    const auto number = convertToDouble(value);
-    if (!number)
-        failConversion(key);
-    return number;
+    // Drivers on Linux give tenths of a degree Celsius, which are not whole tenths of a kelvin.
+    return converted(key, registryValue(key), convertToDouble);
 }
 
 bool QDBattery::registryBoolean(BatteryRegistryKey key) const
 {
-    const QVariant value = registryValue(key);
-    if (!value.isValid())
-        return false;
-    const auto boolean = convertToBoolean(value);
     // 0 and 1 count as booleans, because drivers write either; any other number is fatal.
-    if (!boolean)
-        failConversion(key);
-    return *boolean;
+    return converted(key, registryValue(key), convertToBoolean).value_or(false);
 }
 
 std::optional<QString> QDBattery::registryText(BatteryRegistryKey key) const
 {
-    const QVariant value = registryValue(key);
-    if (!value.isValid())
-        return std::nullopt;
-    auto text = convertToText(value);
-    if (!text)
-        failConversion(key);
-    return text;
+    return converted(key, registryValue(key), convertToText);
 }
 
 } // namespace quindle
