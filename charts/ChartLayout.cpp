@@ -106,7 +106,7 @@ double chartOverhang(double line)
 
 QRectF cardBeside(const QPointF& point, const QSizeF& card, double distance, const QRectF& plot)
 {
-    // Behind and above the point, where neither the pointer nor the line to the left is hidden.
+    // To the right of the point and above it, where it hides neither the pointer nor the line to the left.
     const bool fitsBehind = point.x() + distance + card.width() <= plot.right();
     const bool fitsAbove = point.y() - distance - card.height() >= plot.top();
     const double left = fitsBehind ? point.x() + distance : point.x() - distance - card.width();

@@ -35,10 +35,10 @@ ChartLayout chartLayout(const ChartContent& content, AxisSpan seen, const QRectF
 /// the points there, the reference lines and the projection, with some room beside. Never without a length.
 AxisSpan valuesSeen(const ChartContent& content, AxisSpan seen);
 
-/// How far a chart reaches behind the last moment, for dots there, by the height of a line of text in it.
+/// How far a chart reaches past the last moment, for dots there, by the height of a line of text in it.
 double chartOverhang(double line);
 
-/// Where the card beside a point lies: above it and behind, on the other side or below where it would leave
+/// Where the card beside a point lies: above it and to its right, or on the other side where it would leave
 /// the plot.
 QRectF cardBeside(const QPointF& point, const QSizeF& card, double distance, const QRectF& plot);
 

@@ -41,7 +41,7 @@ void paintShaded(QPainter& painter, const ChartContent& content, const ChartLayo
 {
     if (layout.time.values().length() > content.shadedUpTo)
         return;
-    // Opaque, since the painter splits blending among threads, which many small ones are not worth.
+    // Opaque, since the painter splits blending among threads, which does not pay for many small shades.
     const double share = isDark(look.background) ? shadeShare * 1.7 : shadeShare;
     const QColor shade = mixed(look.charge, look.background, share);
     for (const ShadedSpan& span : content.shaded) {

@@ -13,7 +13,7 @@ bool liesBefore(const ChartPoint& point, double moment)
     return static_cast<double>(point.moment) < moment;
 }
 
-bool liesBehind(double moment, const ChartPoint& point)
+bool liesAfter(double moment, const ChartPoint& point)
 {
     return moment < static_cast<double>(point.moment);
 }
@@ -45,7 +45,7 @@ std::optional<ChartReading> lastReading(const ChartContent& content, double to)
     std::optional<ChartReading> best;
     for (std::size_t series = 0; series < content.series.size(); ++series) {
         const auto& points = content.series[series].points;
-        const auto found = std::upper_bound(points.begin(), points.end(), to, liesBehind);
+        const auto found = std::upper_bound(points.begin(), points.end(), to, liesAfter);
         if (found == points.begin())
             continue;
         const ChartReading reading{series,
@@ -62,8 +62,8 @@ std::optional<ChartReading> readingNear(const ChartContent& content, double mome
         return reading ? std::abs(momentOf(content, *reading) - moment) : INFINITY;
     };
     const auto before = lastReading(content, moment);
-    const auto behind = firstReading(content, moment);
-    const auto& nearest = distance(behind) < distance(before) ? behind : before;
+    const auto after = firstReading(content, moment);
+    const auto& nearest = distance(after) < distance(before) ? after : before;
     return distance(nearest) <= reach ? nearest : std::nullopt;
 }
 

@@ -9,7 +9,7 @@ namespace quindle {
 /// longer.
 AxisSpan keptInside(AxisSpan wanted, AxisSpan whole, double shortest);
 
-/// `seen` as many times as long, with `anchor` at the same place.
+/// `seen`, `factor` times as long, with `anchor` at the same place.
 AxisSpan zoomed(AxisSpan seen, double anchor, double factor);
 
 /// Moved so far that it has `value` inside, with a tenth of its length beside it.

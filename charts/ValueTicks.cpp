@@ -38,8 +38,9 @@ double countOf(AxisSpan multiples)
     return multiples.length() + 1;
 }
 
-bool canBeTold(AxisSpan span)
+bool canBeDivided(AxisSpan span)
 {
+    // In a narrower span neighbouring ticks would be the same double.
     constexpr double resolution = 1e-11;
     const double farthest = std::max(std::abs(span.from), std::abs(span.to));
     return std::isfinite(span.length()) && span.length() > farthest * resolution;
@@ -49,7 +50,7 @@ bool canBeTold(AxisSpan span)
 
 ValueTicks valueTicks(AxisSpan span, int most)
 {
-    if (!canBeTold(span))
+    if (!canBeDivided(span))
         return {};
     const double room = std::max(most, 2);
     // One step finer than any that can fit.

@@ -53,8 +53,7 @@ bool PlainLabel::event(QEvent* event)
 void PlainLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QColor color = textOf(*this);
-    painter.setPen(m_quiet ? quietTextOf(*this) : color);
+    painter.setPen(m_quiet ? quietTextOf(*this) : textOf(*this));
     drawPlainLine(painter, contentsRect(), QStyle::visualAlignment(layoutDirection(), alignment()), text(),
                   m_elideMode);
 }
