@@ -96,7 +96,7 @@ public:
     void textFieldTextChanged();
     static void quiteDueToUpdate(); ///< does nothing; inherited: the spelling
 
-    /// Has the battery read its values, and then refreshes the status item.
+    /// Makes the battery read its values, and then refreshes the status item.
     void refreshBatteryAndTitle();
 
     /// The refresh: daily gate, font, icon, title, tool tip and menu rows, bar colours.

@@ -17,9 +17,9 @@ public:
 
     virtual Platform platform() = 0;
 
-    /// The program that keeps the history of charge and power; empty where none is to be kept: in this
-    /// computer's there is no place for another one, read from another folder or recorded, unless the machine
-    /// file itself stores that its history is recorded.
+    /// The program that keeps the history of charge and power; empty where none is to be kept: what another
+    /// folder or a recorded computer says does not belong in this computer's history, unless the machine file
+    /// itself stores that its history is recorded.
     virtual QString recordingProgram() const = 0;
 
     /// Whether commands in the settings are the user's own: a recorded computer's file may be somebody

@@ -60,7 +60,7 @@ public:
     QString windowsProgram() const override { return windowsProgramOf(m_linux.bundle()); }
     QString recordingProgram() const override
     {
-        // Another tree than /sys is another computer, whose history does not belong into this one's.
+        // Another tree than /sys is another computer, whose history does not belong in this one's.
         return m_isOther ? QString() : mainApplicationProgram(m_linux.bundle().path());
     }
     bool mayRunCommands() const override { return true; }

@@ -26,7 +26,7 @@ struct WarningServices
 };
 
 /// The helper's part in warnings of the battery's charge. It looks at the battery whenever the status item
-/// has been refreshed, and has no timer. Other programs that warn are asked for only when there is something
+/// has been refreshed, and has no timer. Other programs that warn are looked for only when there is something
 /// to warn of. It also sets whether the status item needs attention. Main thread only.
 class WarningKeeper : public QObject
 {

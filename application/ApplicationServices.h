@@ -29,7 +29,7 @@ public:
     /// Plays a recorded computer's later states in their time; does nothing for this computer.
     virtual void play(HelperAppDelegate& delegate) = 0;
 
-    /// This computer; `systemRoot` replaces /sys when it is not empty. Needs a QApplication, as the other.
+    /// This computer; `systemRoot` replaces /sys when it is not empty. Both need a QApplication.
     static std::unique_ptr<ApplicationServices> ofThisComputer(const QString& systemRoot);
     static std::unique_ptr<ApplicationServices> ofMachine(const Machine& machine);
 };

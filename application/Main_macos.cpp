@@ -1,5 +1,5 @@
-// The entry point and composition root of the application on a Mac, where the system itself keeps one of a
-// kind.
+// The entry point and composition root of the application on a Mac, where the system itself sees to it that
+// only one runs.
 
 #include <cstdio>
 #include <memory>

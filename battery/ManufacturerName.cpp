@@ -4,7 +4,7 @@ namespace quindle {
 
 QString manufacturerName(QString reported)
 {
-    // In this order, wherever they stand: names in stored records were made so. "SMDP" is "SMDynapack".
+    // In this order, wherever they stand: names in stored records were made that way. "SMDP" is "SMDynapack".
     reported.replace(QStringLiteral("DP"), QStringLiteral("Dynapack"));
     reported.replace(QStringLiteral("SMP"), QStringLiteral("Simplo"));
     return reported;

@@ -118,7 +118,7 @@ void QDBattery::updateData()
     m_temperature = getCustomTemperature();
     m_knowsTemperature = registryDouble(BatteryRegistryKey::Temperature).has_value();
     updatePercentages();
-    // With each refresh: packs are swapped while the program runs.
+    // At each refresh: packs are swapped while the program runs.
     m_batteryID = generateBatteryID();
     m_adapterWatt = variantFromOptional(adapterWatt());
     updateWattThroughput();
@@ -162,7 +162,7 @@ void QDBattery::updateWattThroughput()
     const auto milliamperes = knownInteger(BatteryRegistryKey::Amperage);
     m_knowsCurrent = milliamperes.has_value();
     m_knowsPower = millivolts && milliamperes;
-    // A missing factor counts as 0, which is stored so; facts ask m_knowsPower before they show it.
+    // A missing factor counts as 0, and that is stored; facts ask m_knowsPower before they show it.
     m_wattThroughput = wattThroughput(millivolts.value_or(0), milliamperes.value_or(0));
 }
 
@@ -260,7 +260,7 @@ std::optional<QString> QDBattery::manufacturer(bool raw) const
 QString QDBattery::generateBatteryID() const
 {
     const QString serial = serialNumber();
-    // No separator: identifiers of stored snapshots were made so.
+    // No separator: identifiers of stored snapshots were made that way.
     return md5Hex(serial + integerText(manufactureDate()));
 }
 

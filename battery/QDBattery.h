@@ -161,8 +161,8 @@ public:
     /// fatal.
     QVariantList collectAllAvailableDataForBattery() const;
 
-    // Whether there is a reading behind the stand-ins for values that a battery does not report ("0.0 °C", 0
-    // W, an age counted from 1979). Values that were given by key count as known.
+    // Whether a figure is a reading, and not what stands in for one that the battery does not report ("0.0
+    // °C", 0 W, an age counted from 1979). Values that were given by key count as known.
     bool knowsTemperature() const { return m_knowsTemperature; } ///< the last refresh found one
     bool knowsCurrent() const { return m_knowsCurrent; }         ///< the same for "Amperage"
     bool knowsPower() const { return m_knowsPower; }             ///< the same for both factors of the power

@@ -9,8 +9,8 @@
 
 namespace quindle {
 
-/// A row of a program's table of options, with the place where it is noted that it was given. A flag has no
-/// value; any other option has one, as "name value" or "name=value". The last of several counts.
+/// A row of a program's table of options, with where to note that it was given. A flag has no value; any
+/// other option has one, as "name value" or "name=value". The last of several counts.
 struct CommandLineOption
 {
     const char* name; ///< in ASCII, with its dashes
@@ -19,7 +19,7 @@ struct CommandLineOption
 
 /// What a program accepts as the value of an option.
 enum class OptionValues {
-    Any,     ///< whatever follows, an option too; at the end of the line an empty text
+    Any,     ///< whatever follows, even an option; an empty text at the end of the line
     NotEmpty ///< what begins with a dash is the next option, unless it is given as "name=-value"
 };
 

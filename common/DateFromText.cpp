@@ -16,7 +16,7 @@ const QString& dayFormat()
 
 std::optional<QDateTime> dateFromText(const QString& text)
 {
-    // A format and no locale, so digits are ASCII and years Gregorian for every user.
+    // A fixed format, not the locale's, so digits are ASCII and years Gregorian for every user.
     const QDate day = QDate::fromString(text, dayFormat());
     if (!day.isValid())
         return std::nullopt;

@@ -67,7 +67,7 @@ FileContents fileContents(const QString& path, qint64 mostBytes)
     if (name.contains('\0')) // the system would read the name up to there
         return {{}, ENOENT};
     struct stat found = {};
-    // Looked at before it is opened: opening a device can have effects of its own.
+    // Checked before it is opened: opening a device can have effects of its own.
     if (::stat(name.constData(), &found) != 0)
         return {{}, errno};
     if (const int fault = faultOf(found, mostBytes))
@@ -75,7 +75,7 @@ FileContents fileContents(const QString& path, qint64 mostBytes)
     const OpenFile file(name);
     if (file.descriptor() < 0 || ::fstat(file.descriptor(), &found) != 0)
         return {{}, errno};
-    // Once more: another file may be there since the first look.
+    // Checked again: another file may have taken its place meanwhile.
     if (const int fault = faultOf(found, mostBytes))
         return {{}, fault};
     return readAll(file.descriptor(), found.st_size);

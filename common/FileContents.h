@@ -9,7 +9,7 @@ namespace quindle {
 struct FileContents
 {
     QByteArray bytes;
-    int error = 0; ///< errno's value; EINVAL for what is no ordinary file, EFBIG for one that is too large
+    int error = 0; ///< errno's value; EINVAL if it is not an ordinary file, EFBIG if it is too large
 };
 
 /// Reads a whole ordinary file. Anything else, such as a device or a pipe, is not opened: it could keep the

@@ -25,7 +25,7 @@ QString shortestText(double number)
 {
     if (!std::isfinite(number))
         return notFiniteText(number);
-    // Without an exponent as long as people would: 100000.0 and not "1e+05", which is shorter.
+    // No exponent where people would write none: 100000.0, not the shorter "1e+05".
     const double size = std::abs(number);
     const bool isPlain = number == 0 || (size >= 1e-4 && size < 1e16);
     Buffer buffer{};

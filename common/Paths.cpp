@@ -56,7 +56,7 @@ QByteArray pathBytes(const QString& text)
     if (text.isValidUtf16())
         return text.toUtf8();
     QByteArray bytes;
-    qsizetype plain = 0; // where the run begins that has no escape yet
+    qsizetype plain = 0; // where the present run without an escape begins
     for (qsizetype at = 0; at < text.size(); ++at) {
         // A pair is one character; only a lone one can be an escape.
         if (text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {

@@ -12,7 +12,7 @@ namespace {
 bool loadInto(QTranslator& translator, const QString& folder, const QString& name)
 {
     const QString file = folder + u'/' + name + QStringLiteral(".qm");
-    // A translation that has nothing yet would keep the user from the next best one.
+    // An empty translation would keep the next best one from being used.
     return QFile::exists(file) && translator.load(file) && !translator.isEmpty();
 }
 
@@ -39,7 +39,7 @@ void ShownLanguage::addTextsOf(const QString& library, const QString& folder)
 {
     if (m_name.isEmpty())
         return;
-    // Libraries have some languages without a country that the program has with one.
+    // Libraries name some languages without the country that the program names them with.
     for (const QString& name : {m_name, m_name.section(u'_', 0, 0)}) {
         if (loadInto(m_others, folder, library + u'_' + name)) {
             QCoreApplication::installTranslator(&m_others);

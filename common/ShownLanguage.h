@@ -6,13 +6,14 @@
 
 namespace quindle {
 
-/// The language that the process shows its texts in: the best of the user's (LANGUAGE, LC_MESSAGES, LANG)
-/// that there is a translation for. In force for as long as the object lives, which a QCoreApplication must
-/// outlive. For English no file is looked for.
+/// The language that the process shows its texts in: the user's first choice (LANGUAGE, LC_MESSAGES, LANG)
+/// that has a translation. In force for as long as the object lives, which a QCoreApplication must outlive.
+/// English needs no file.
 class ShownLanguage
 {
 public:
-    /// Of the translations in `folder`, named "quindle_LANGUAGE.qm". What cannot be read is not there.
+    /// Takes the translations from `folder`, where they are named "quindle_LANGUAGE.qm". One that cannot be
+    /// read counts as missing.
     explicit ShownLanguage(const QString& folder,
                            const QStringList& languages = QLocale::system().uiLanguages());
     ~ShownLanguage();
@@ -22,7 +23,8 @@ public:
     /// Its name, such as "pt_BR"; empty where the texts are shown as they are, in English.
     const QString& name() const { return m_name; }
 
-    /// Has the texts of a library shown in it too, of "LIBRARY_LANGUAGE.qm" in `folder`; once.
+    /// Shows a library's texts in that language too, from "LIBRARY_LANGUAGE.qm" in `folder`. To be called
+    /// once: there is room for one library.
     void addTextsOf(const QString& library, const QString& folder);
 
 private:

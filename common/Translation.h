@@ -11,8 +11,8 @@ namespace quindle {
 /// `about` tells two equal ones apart.
 QString translated(const char* context, const char* text, const char* about = nullptr);
 
-/// The same in the plural form for `count`. The number itself stands for a %1 in it, since callers write it
-/// differently.
+/// The same in the plural form for `count`. A %1 in the text is left for the number itself, which callers
+/// write differently.
 QString translated(const char* context, const char* text, const char* about, qint64 count);
 
 /// The sign between a whole number and its decimals in the language in force.

@@ -114,8 +114,8 @@ QString mapDescription(const QVariantMap& map, qsizetype level)
     return text + indent + u'}';
 }
 
-/// A container inside another begins with its own indentation, also behind "key = ": the platform writes it
-/// so.
+/// A container inside another begins with its own indentation, even after "key = ", as the platform writes
+/// it.
 QString nestedDescription(const QVariant& value, qsizetype level)
 {
     switch (value.typeId()) {

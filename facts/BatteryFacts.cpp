@@ -38,7 +38,7 @@ struct BatterySource
 
 std::optional<double> knownPercent(double percent)
 {
-    // A full charge of 0 makes the percentage infinite or no number.
+    // A full charge of 0 makes the percentage infinite or not a number.
     return std::isfinite(percent) ? std::optional(percent) : std::nullopt;
 }
 
@@ -117,7 +117,7 @@ FactText health(const BatterySource& source)
     return text;
 }
 
-/// For the report alone: elsewhere the word stands beside the health.
+/// For the report alone: elsewhere the word is shown with the health.
 FactText condition(const BatterySource& source)
 {
     return {.value = knownText(source.battery.BatteryHealth())};

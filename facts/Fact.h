@@ -69,12 +69,12 @@ struct Fact
     int rank = 0;
     QString caption;
     QString value;  ///< empty where it is not known, or where the caption says all
-    QString detail; ///< what stands behind the value; empty for most
+    QString detail; ///< shown after the value; empty for most
     bool shown = false;
     QString toolTip;
     FactClick click = FactClick::Nothing;
     std::optional<double> percent; ///< for a bar; nothing where it is not known
-    bool isQuiet = false;          ///< asks for no attention
+    bool isQuiet = false;          ///< needs no attention
 
     bool operator==(const Fact&) const = default;
 };

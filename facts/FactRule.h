@@ -17,7 +17,7 @@ struct FactText
     bool isCaptionEnough = false; ///< also shown without a value
     std::optional<double> percent = {};
     bool isQuiet = false;
-    FactClick click = FactClick::Nothing; ///< of one that only sometimes has something to switch
+    FactClick click = FactClick::Nothing; ///< for a fact that can only sometimes be switched
 };
 
 /// A fact's caption at each place, marked for translators; null where it is left out.

@@ -24,7 +24,7 @@ std::vector<Fact> factsFor(FactPlace place, const FactSources& sources);
 /// Value and detail in one text: "Connected · 60 Watts", in the report "Connected (60 Watts)".
 QString factText(const Fact& fact, FactPlace place);
 
-/// The fact of that id; without one a fact that has no text and is not shown.
+/// The fact with that id; if there is none, one without a text, which is not shown.
 const Fact& factWithId(const std::vector<Fact>& facts, FactId id);
 
 /// The status item's tool tip: what the battery does, then the remaining time on a line of its own; "No

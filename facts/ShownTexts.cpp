@@ -44,7 +44,7 @@ constexpr const char* wordsOfModels[]{
         "The actual capacity the battery had after it left the factory. (reported by the manufacturer)"),
 };
 
-/// What stands before `unit`, where it is a number.
+/// The number before `unit`; nothing where there is none.
 std::optional<QString> numberBefore(const QString& text, QLatin1StringView unit)
 {
     if (!text.endsWith(unit))

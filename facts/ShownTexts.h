@@ -4,7 +4,7 @@
 
 #include "facts/Fact.h"
 
-/// Texts of tables and models as a place shows them: translated, but in the report.
+/// Texts of tables and models as a place shows them: translated, except in the report.
 namespace quindle {
 
 /// A text that is marked for translators in the context "Facts".

@@ -16,8 +16,8 @@ class PowerSources;
 std::vector<Fact> systemBatteryFacts(const std::vector<QVariantMap>& descriptions,
                                      FactPlace place = FactPlace::View);
 
-/// Adds them. In the menu they are always as many, of which those that there are are shown. With null none is
-/// shown.
+/// Adds them. The menu always gets the same number, of which those without a battery are hidden; with null
+/// all are.
 void addSystemBatteryFacts(std::vector<Fact>& facts, FactPlace place, PowerSources* powerSources);
 
 } // namespace quindle

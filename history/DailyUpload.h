@@ -24,8 +24,8 @@ enum class SerialText {
 std::optional<DailyUpload> dailyUpload(const QVariantMap& snapshot,
                                        const std::optional<QString>& sendingVersion, SerialText serialText);
 
-/// The texts that name a battery on one day, joined: the same battery in the same state gives the same text.
-/// Nothing when one of them is missing.
+/// The texts that identify a battery on one day, joined: the same battery in the same state gives the same
+/// text. Nothing when one of them is missing.
 std::optional<QString> identityText(const QVariantMap& record);
 
 /// The serial number with its last four characters replaced by "xxxx" wherever they occur, from the left and

@@ -37,7 +37,7 @@ bool isUrgent(const BarState& state)
     return state.colourClass == QStringLiteral("critical") && state.state == QStringLiteral("discharging");
 }
 
-/// Own keys begin with an underscore, as the protocol wants it.
+/// Private keys begin with an underscore, as the protocol requires.
 QVariantMap i3barBlock(const BarState& state)
 {
     QVariantMap block{
@@ -66,7 +66,7 @@ QVariantMap waybarObject(const BarState& state)
         {QStringLiteral("class"), state.colourClass},
         {QStringLiteral("icon"), state.icon},
     };
-    if (state.percentage) // a null is no number to it, and the whole line would be refused
+    if (state.percentage) // a null is not a number to it, and it would refuse the whole line
         object.insert(QStringLiteral("percentage"), *state.percentage);
     return object;
 }

@@ -30,8 +30,8 @@ OwnComputer ownComputer(const QString& sysfsDirectory);
 /// Keeps the memory of this process, in which serial numbers are, out of core dumps.
 void keepOutOfCoreDumps();
 
-/// Has `ended` called from the main loop when the process is to end, or nobody reads its output any more, as
-/// long as the returned object exists.
+/// Calls `ended` from the main loop when the process is to end, or nobody reads its output any more, as long
+/// as the returned object exists.
 std::shared_ptr<void> whenToEnd(const std::function<void()>& ended);
 
 } // namespace quindle

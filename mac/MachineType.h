@@ -17,7 +17,7 @@ struct FragmentName
     QStringView name;
 };
 
-/// The name of the first row whose fragment stands anywhere in the text; `fallback` when none does.
+/// The name of the first row whose fragment occurs anywhere in the text; `fallback` when none does.
 QString nameByFragment(std::span<const FragmentName> rows, const QString& text, const QString& fallback);
 
 } // namespace quindle

@@ -15,7 +15,7 @@ std::optional<QString> fullModelText(const QString& code, UserDefaults& defaults
     // An entry of another type counts as none: anybody may edit the file.
     if (auto cached = convertToText(cache.value(code)))
         return cached;
-    // May take seconds, at the start: therefore the cache, which is never emptied.
+    // May take seconds, and the start waits for it: hence the cache, which is never emptied.
     auto text = online(code);
     if (text) { // without an answer the next start asks again
         cache.insert(code, *text);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr qsizetype shortLength = 11;
 constexpr qsizetype longLength = 12;
-constexpr int unknownYear = 2000; // an unknown letter is no error; it gives a date in that year
+constexpr int unknownYear = 2000; // an unknown letter is not an error; it gives a date in that year
 
 struct YearCode
 {

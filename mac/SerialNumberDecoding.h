@@ -11,7 +11,7 @@
 namespace quindle {
 
 /// The build date. Nothing for a serial that is neither 11 nor 12 characters long, and for one of 11
-/// characters whose week is no number. Unknown codes are no error: their year is 2000, their week (of 12
+/// characters whose week is not a number. Unknown codes are not errors: their year is 2000, their week (of 12
 /// characters) 1.
 std::optional<QDateTime> buildDate(const QString& serial);
 

@@ -16,7 +16,7 @@ void XMLData::didStartElement(const QString& elementName)
     m_element = elementName;
 }
 
-// inherited: the last piece replaces those before; names in the cache were made so.
+// inherited: the last piece replaces those before; names in the cache were made that way.
 void XMLData::foundCharacters(const QString& characters)
 {
     if (m_element == u"name")

@@ -121,7 +121,7 @@ void MainInterface::performClick(FactClick click)
     if (click == FactClick::Capacity && m_ownDefaults) {
         toggleWattHours(*m_ownDefaults);
         if (m_factsUpdated)
-            m_factsUpdated(); // no model has changed that would say so
+            m_factsUpdated(); // no model has changed and announced it
     }
     quindle::performClick(click, *mac);
     if (m_clicked)

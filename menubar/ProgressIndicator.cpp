@@ -4,7 +4,7 @@ namespace quindle {
 
 void ProgressIndicator::setContentFilters(const ContentFilters& filters)
 {
-    // Colours are set at every refresh, and rarely to others; the bar is not drawn again for the same.
+    // Colours are set at every refresh but rarely differ; the same ones do not draw the bar again.
     if (filters == m_contentFilters)
         return;
     m_contentFilters = filters;

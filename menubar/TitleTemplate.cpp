@@ -22,7 +22,7 @@ constexpr qsizetype longestTemplate = 4096;
 
 QString cutTemplate(const QString& titleTemplate)
 {
-    // Half a character is no text, and the bus would refuse the title.
+    // Half a character is not text, and the bus would refuse the title.
     const bool splitsCharacter =
         titleTemplate.size() > longestTemplate && titleTemplate[longestTemplate - 1].isHighSurrogate();
     return titleTemplate.left(splitsCharacter ? longestTemplate - 1 : longestTemplate);

@@ -17,8 +17,8 @@ namespace {
 /// 22 and its double keep the drawing's pixels; 32 is for panels that scale nothing.
 constexpr std::array sizes{16, 22, 32, 44};
 
-/// The small drawing has no room around it for a plate, so it is for the size only in which the lines of the
-/// other would be less than a pixel wide.
+/// The small drawing leaves no room for a plate around it, so it is only for the size in which the other's
+/// lines would be less than a pixel wide.
 constexpr int smallDrawing = 16;
 
 constexpr auto ending = "-symbolic.svg";

@@ -9,7 +9,7 @@ namespace quindle {
 /// UTF-8 are encoded as they are, so that every path has a URL of its own.
 QString fileUrl(const QString& path);
 
-/// The absolute path that a file URL names; the inverse of `fileUrl`. Empty for text that is no file URL.
+/// The absolute path that a file URL names; the inverse of `fileUrl`. Empty for text that is not a file URL.
 QString pathOfFileUrl(const QString& url);
 
 /// The one form in which file URLs of the same place are equal text: percent-encoded, no host, a bundle

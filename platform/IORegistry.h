@@ -17,8 +17,8 @@ inline constexpr IOStatus kIOReturnStillOpen = static_cast<IOStatus>(0xe00002d2)
 inline constexpr IOStatus kIOReturnNotFound = static_cast<IOStatus>(0xe00002f0);  ///< there is no such entry
 
 /// The I/O registry: entries found by name or class, each a dictionary of properties in I/O Kit's keys and
-/// units (mAh, mV, mA, minutes, tenths of a kelvin). Every read asks for the present state; how fresh that
-/// is is up to the back end, as drivers publish when they please. Nothing here is fatal. Main thread only.
+/// units (mAh, mV, mA, minutes, tenths of a kelvin). Every read asks for the present state; how fresh that is
+/// depends on the back end, since drivers publish when they please. Nothing here is fatal. Main thread only.
 class IORegistry
 {
 public:

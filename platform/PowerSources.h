@@ -36,17 +36,16 @@ public:
     /// Nothing when the service cannot be asked, which is not the same as 0 sources.
     virtual std::optional<int> sourceCount() = 0;
 
-    /// The description of one source of the last list, of the moment when it was listed, in the keys and
-    /// units of I/O Kit's power sources.
-    /// Nothing for a number outside the list, or before there is one.
+    /// The description of one source of the last list, as it was when listed, in the keys and units of I/O
+    /// Kit's power sources. Nothing for a number outside the list, or before there is one.
     virtual std::optional<QVariantMap> description(int source) = 0;
 
     /// The charge in percent (1 to 99) at which the computer stops charging its battery; nothing where
     /// charging is not limited or the driver reports no limit.
     virtual std::optional<int> chargeLimit() = 0;
 
-    /// The voltage (V, above 0) by which the registry's charges were made of the driver's own energies;
-    /// nothing where the driver counts charges.
+    /// The voltage (V, above 0) with which the registry's charges were computed from the driver's own
+    /// energies; nothing where the driver counts charges.
     virtual std::optional<double> voltageOfEnergies() = 0;
 
     /// The batteries of devices beside the computer, in a stable order; none on most computers, and none

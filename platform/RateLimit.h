@@ -31,7 +31,7 @@ public:
     RateLimit(const RateLimit&) = delete;
     RateLimit& operator=(const RateLimit&) = delete;
 
-    /// Has `act` called in time; `act` may itself request the next time.
+    /// Sees to it that `act` is called; `act` may itself make a request.
     void request();
 
 private:

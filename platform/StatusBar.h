@@ -37,8 +37,8 @@ public:
     /// empty for nothing.
     virtual void setFallbackText(const QString& text) = 0;
 
-    /// Whether that text says too that the computer is charging or on external power; false at first.
-    /// Does nothing where hosts have room for the title.
+    /// Whether that text also says that the computer is charging or on external power; false at first. Does
+    /// nothing where hosts have room for the title.
     virtual void setFallbackOnPower(bool /*hasPower*/) {}
 
     /// The tool tip's text under the title, plain; lines are separated by line feeds. Empty for the title

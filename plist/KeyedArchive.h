@@ -23,8 +23,8 @@ using ReadingProgress = std::function<void(int percent)>;
 /// The records in a keyed archive, binary or XML, whose root is an array of dictionaries with text keys.
 /// Values come back as property-list values (see plist/PropertyList.h), dates in UTC, nulls as invalid ones;
 /// a number that is a key of an inner dictionary becomes a text. With any damage, an unknown class, or an
-/// element that is no such dictionary there are no records. Time and memory grow with the size of the bytes,
-/// whatever they say.
+/// element that is not such a dictionary there are no records. Time and memory grow with the size of the
+/// bytes, whatever they say.
 ArchivedRecords recordsFromKeyedArchive(const QByteArray& bytes, const ReadingProgress& progress = {});
 
 /// The same, but dictionaries come with only those of their entries that have one of these keys. The fault is

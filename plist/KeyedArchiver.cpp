@@ -17,7 +17,7 @@ const char* const missingObject = "$null";
 QStringList ancestry(const QString& name)
 {
     const QString root = QStringLiteral("NSObject");
-    // One that can be changed inherits from the one that cannot.
+    // A mutable class inherits from the immutable one.
     const QString mutableMark = QStringLiteral("Mutable");
     return name.contains(mutableMark) ? QStringList{name, QString(name).remove(mutableMark), root}
                                       : QStringList{name, root};

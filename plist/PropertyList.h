@@ -13,13 +13,14 @@
 /// and one that is not a number an invalid value.
 namespace quindle {
 
-/// The value in `bytes`; nothing when they are no property list of either encoding, are nested deeper than
+/// The value in `bytes`; nothing when they are not a property list of either encoding, are nested deeper than
 /// `mostPropertyListLevels`, or unfold to far more than they hold.
 std::optional<QVariant> propertyListFromBytes(const QByteArray& bytes);
 
 constexpr qint64 mostPropertyListBytes = qint64{64} * 1024 * 1024;
 
-/// The same from a file; nothing also when it is no ordinary file, larger than that, or cannot be read.
+/// The same from a file; nothing also when it is not an ordinary file, is larger than that, or cannot be
+/// read.
 std::optional<QVariant> propertyListFromFile(const QString& path);
 
 /// `value` as an XML property list. Values of other types than those above are left out, and so are

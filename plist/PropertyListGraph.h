@@ -46,7 +46,7 @@ public:
     /// No node of any list.
     static constexpr Node noNode = ~Node{0};
 
-    /// XML or binary. The root is Invalid when `bytes` are no property list of either encoding.
+    /// XML or binary. The root is Invalid when `bytes` are not a property list of either encoding.
     explicit PropertyListGraph(const QByteArray& bytes);
 
     /// Of the binary encoding in bytes: at least one for each node, reference and character.
@@ -144,7 +144,7 @@ private:
     quint64 m_size;
     quint64 m_offsetWidth = 0;
     quint64 m_referenceWidth = 0;
-    quint64 m_count = 0; ///< of nodes; 0 when the bytes are no list
+    quint64 m_count = 0; ///< of nodes; 0 when the bytes are not a list
     Node m_root = noNode;
     quint64 m_offsetTable = 0;
 };

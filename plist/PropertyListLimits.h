@@ -23,7 +23,7 @@ constexpr quint64 weightOfContent(quint64 count)
     return count / 16;
 }
 
-/// How much may be read from a list of a certain size in bytes, whatever it contains. Time and memory stay in
+/// How much may be read from a list of so many bytes, whatever it contains. Time and memory stay in
 /// proportion to that size.
 class PropertyListLimits
 {

@@ -63,10 +63,10 @@ bool Unarchiver::readRecords(QVariantList& records, const ReadingProgress& progr
     Element root;
     if (!findRoot(root))
         return false;
-    // An instance is a dictionary that names its class. A set, though it would read the same, is no history:
-    // its records have no order.
+    // An instance is a dictionary that names its class. A set would read the same but is not a history: its
+    // records have no order.
     if (root.kind != Kind::Dictionary || classOf(root) != ArchivedClass::Array)
-        return fail("its root is no array");
+        return fail("its root is not an array");
     const auto elements = references(root, "NS.objects", "NS.object.");
     if (!elements)
         return fail(damagedObject);
@@ -79,7 +79,7 @@ bool Unarchiver::readRecords(QVariantList& records, const ReadingProgress& progr
         if (!object(reference, 2, record) || !put(record, extent))
             return false;
         if (record.value.typeId() != QMetaType::QVariantMap || record.hasNumberKeys)
-            return fail("an element is no dictionary with text keys");
+            return fail("an element is not a dictionary with text keys");
         records.append(std::move(record.value));
         percent.advance();
     }
@@ -90,9 +90,9 @@ bool Unarchiver::findRoot(Element& root)
 {
     const Element archive = m_graph.element(m_graph.root());
     if (archive.kind != Kind::Dictionary)
-        return fail("it is no property list of an archive");
+        return fail("it is not the property list of an archive");
     if (!m_graph.isText(find(archive, "$archiver"), QLatin1StringView("NSKeyedArchiver")))
-        return fail("it is no keyed archive");
+        return fail("it is not a keyed archive");
     m_objects = find(archive, "$objects");
     const Element reference = find(find(archive, "$top"), "root");
     // The upper numbers are the marks.

@@ -24,7 +24,7 @@ public:
     /// With `kept`, dictionaries come without their other entries, which are checked all the same.
     explicit Unarchiver(const PropertyListGraph& graph, std::optional<QStringList> kept = std::nullopt);
 
-    /// False, with `fault` set, when the root is no array of dictionaries with text keys.
+    /// False, with `fault` set, when the root is not an array of dictionaries with text keys.
     bool readRecords(QVariantList& records, const ReadingProgress& progress = {});
 
     const QString& fault() const { return m_fault; }

@@ -8,8 +8,8 @@
 namespace quindle {
 
 /// The samples that another service's records make, sorted, all before `end`. The power of a sample is that
-/// of the last rate in the five minutes before it, negative while discharging; the charge without a state
-/// says nothing (services mark their own starts so).
+/// of the last rate in the five minutes before it, negative while discharging; a charge without a state says
+/// nothing, since services mark their own starts that way.
 std::vector<Sample> samplesFromHistory(const RecordedPower& recorded, qint64 end);
 
 /// Takes over what another service had recorded of the battery before the first sample of the store, once,

@@ -23,8 +23,8 @@ public:
     /// first. A damaged file is set aside and the work done on a new one.
     StoreOutcome change(const Work& work);
 
-    /// Does work that changes nothing, or that no transaction allows. Not called where there is no file. A
-    /// damaged file is set aside; there is nothing to read then.
+    /// Does work that changes nothing, or that cannot run in a transaction. `work` is not called where there
+    /// is no file. A damaged file is set aside; there is nothing to read then.
     StoreOutcome look(const Work& work);
 
     /// Reads all of the file, to find damage that only shows where it is.

@@ -41,8 +41,8 @@ public:
     /// Leaves no trace of any sample in the files, nor of those that were damaged and set aside. Notes stay.
     StoreOutcome removeAll();
 
-    /// A text under a name, for what is to be done only now and then.
-    /// `outcome` says why it cannot be read, and what became of a damaged file.
+    /// A text stored under a name, such as when a rare task was last done. `outcome` says why it cannot be
+    /// read, and what became of a damaged file.
     std::optional<QByteArray> note(const QByteArray& name, StoreOutcome* outcome = nullptr);
     StoreOutcome setNote(const QByteArray& name, const QByteArray& value);
 

@@ -35,7 +35,7 @@ bool exportSnapshots(const QVariantList& records, const ExportOptions& options,
                      const std::function<bool(const QByteArray&)>& write);
 
 /// The record without identifiers of battery and computer, and without serial numbers wherever they stand in
-/// the raw registry entry: entries that are named so, and other entries that hold one.
+/// the raw registry entry: entries named after one, and other entries that hold one.
 QVariantMap withoutSerialNumbers(const QVariantMap& record);
 
 } // namespace quindle

@@ -53,7 +53,7 @@ bool isRequest(WindowMessage::Kind kind);
 /// At most `MessageLink::longestMessage` bytes: data that is longer is left out, and text cut.
 QByteArray encoded(const WindowMessage& message);
 
-/// The inverse; nothing for what is no message, or of a kind that is not known.
+/// The inverse; nothing for bytes that are not a message, or one of an unknown kind.
 std::optional<WindowMessage> decoded(const QByteArray& bytes);
 
 } // namespace quindle

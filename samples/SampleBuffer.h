@@ -23,7 +23,7 @@ enum class SampleFate {
 /// minute.
 SampleFate sampleFate(const Sample& last, const Sample& next);
 
-/// Samples on their way to the program that stores them. It has no clock: samples bring their moment along.
+/// Samples on their way to the program that stores them. It has no clock: each sample has its moment.
 class SampleBuffer
 {
 public:

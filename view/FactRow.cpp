@@ -110,6 +110,7 @@ void FactRow::setClickable(bool clickable)
         m_switchField = nullptr;
     }
     m_value->setVisible(!clickable);
+    // A child that is made after its parent was shown stays hidden.
     if (m_switchField)
         m_switchField->show();
     updateAccessibleNames();

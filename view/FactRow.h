@@ -27,7 +27,7 @@ public:
     /// The fact shown last.
     const Fact& fact() const { return m_fact; }
 
-    /// Shows these texts alone; a click on the second one is reported as this.
+    /// Shows these texts alone; a click on the second one is reported as `click`.
     void setTexts(const QString& caption, const QString& text, FactClick click = FactClick::Nothing);
 
     /// What tool tip and assistive technologies say of the row, and of the way to click it.

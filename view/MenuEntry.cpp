@@ -36,7 +36,7 @@ QSize MenuEntry::minimumSizeHint() const
 void MenuEntry::enterEvent(QEnterEvent* event)
 {
     PlainButton::enterEvent(event);
-    // The pointer moves the keyboard's place, so that never two entries look chosen.
+    // The pointer takes the keyboard along, so that two entries never look chosen.
     if (isEnabled())
         setFocus(Qt::MouseFocusReason);
 }

@@ -4,8 +4,8 @@
 
 namespace quindle {
 
-/// An entry of the menu under the battery view. The pointer gives it the keyboard as it passes, so that never
-/// more than one entry looks chosen.
+/// An entry of the menu under the battery view. The pointer gives it the keyboard as it passes, so that only
+/// one entry ever looks chosen.
 class MenuEntry : public PlainButton
 {
     Q_OBJECT

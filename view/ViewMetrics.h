@@ -17,7 +17,7 @@ struct ViewMetrics
     int rowGap;   ///< between rows
     int radius;   ///< of rounded corners
     QFont large;  ///< the one big figure
-    QFont medium; ///< the sign behind it
+    QFont medium; ///< the sign after it
     QFont small;  ///< what explains a bar, and headings
     QFont heading;
 };

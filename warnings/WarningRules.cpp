@@ -39,7 +39,7 @@ bool isReached(WarningLevel level, const LevelSettings& settings, const BatteryR
                std::optional<int> steadyMinutes)
 {
     const auto percent = percentOf(level, settings, reading);
-    // A battery that charges at 8 % is no news, nor is one that drops from full.
+    // Nobody is warned of a battery that charges at 8 %, or that drops from full.
     if (!percent || isOfDischarge(level) != isDischarging(reading))
         return false;
     switch (level) {

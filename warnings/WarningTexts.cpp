@@ -61,7 +61,7 @@ QString percentText(double percent)
 /// "About", so above ten minutes in steps of five.
 QString minutesText(int minutes)
 {
-    // An estimate is no more exact than that.
+    // An estimate is not more exact than that.
     const int shown = minutes > 10 ? (minutes + 2) / 5 * 5 : minutes;
     return shown == 1 ? translated("Warnings", "About a minute left")
                       : translated("Warnings", "About %1 minutes left", nullptr, shown).arg(shown);

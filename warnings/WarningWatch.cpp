@@ -54,6 +54,7 @@ void WarningWatch::wake(qint64 moment)
     m_lastMoment = moment;
     m_quietUntil = moment + quietSeconds;
     m_recent.forget();
+    // A reading from before the sleep confirms none from after it.
     for (Level& level : m_levels) {
         level.reachedSince.reset();
         level.leftSince.reset();

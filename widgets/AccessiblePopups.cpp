@@ -16,7 +16,7 @@ bool isExposed(const QWindow& window)
     return window.type() == Qt::Popup ? window.isVisible() : window.type() != Qt::Desktop;
 }
 
-/// What the toolkit has for the application, with popups among its children.
+/// The toolkit's accessible application, with popups among its children.
 class AccessibleApplication final : public QAccessibleObject
 {
 public:

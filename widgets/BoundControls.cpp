@@ -28,7 +28,7 @@ void BoundLineEdit::setBoundText(const QString& text)
 void BoundLineEdit::commit()
 {
     setModified(false);
-    // Before the signal: what is stored comes back as the bound text, and is no change then.
+    // Before the signal: what is stored comes back as the bound text, and must not count as a change.
     m_boundText = text();
     followPending();
     Q_EMIT committed();

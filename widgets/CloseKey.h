@@ -12,12 +12,12 @@ bool isCloseKey(const QKeyEvent& event);
 /// Whether a key press that no control has taken closes its window: the close key or Escape.
 bool closesWindow(const QKeyEvent& event);
 
-/// Has the control that is written in take what it holds, as if it were left: before its window closes, when
-/// the toolkit would forget it. The control keeps the keyboard.
+/// Makes the control that is being edited commit its text, as if it had lost the keyboard: for a window about
+/// to close, since the toolkit would drop the text. The control keeps the keyboard.
 void finishEditing(const QWidget& window);
 
-/// From now on the close key closes dialogs of this process, those of the toolkit's own too. Escape does
-/// anyway.
+/// Makes the close key close every dialog of this process, the toolkit's own included. Escape does so
+/// already.
 void closeDialogsByKey();
 
 } // namespace quindle

@@ -8,7 +8,7 @@ class QWidget;
 /// Colours that make controls visible on dark palettes, where styles draw them as on light ones.
 namespace quindle {
 
-/// Of the hint in an empty field: the palette's, or a quiet one where that cannot be read.
+/// The colour of the hint in an empty field: the palette's, or a quiet one where that cannot be read.
 QColor hintColour(const QPalette& palette);
 
 /// The window colour from which a style derives an outline that can be seen; invalid where its own can be.

@@ -5,10 +5,10 @@
 namespace quindle {
 
 /// `text` with a direction of its own among texts from right to left, so that its sign, number and unit, or a
-/// date in another language, keep their order. As it is in other languages.
+/// date in another language, keep their order. Unchanged in languages that run from left to right.
 QString isolatedText(const QString& text);
 
-/// Shows each text of a table so; the model has it as it is.
+/// Isolates the texts that a table shows; the model keeps them unchanged.
 class IsolatedCells : public QStyledItemDelegate
 {
 public:

@@ -4,9 +4,9 @@
 #include <QPalette>
 
 class QWidget;
-/// The few colours of the battery view, all mixed from the palette's own text and background, so that they
-/// follow every light, dark and high-contrast palette.
-/// The colours of the preferences window's two parts, from the desktop's palette.
+
+/// The few colours of the battery view and of the preferences window's two parts, all mixed from the
+/// palette's own text and background, so that they follow every light, dark and high-contrast palette.
 
 namespace quindle {
 

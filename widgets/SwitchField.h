@@ -12,7 +12,7 @@ class SwitchField : public PlainButton
 public:
     explicit SwitchField(QWidget* parent = nullptr);
 
-    /// Quiet text stands back, as of a PlainLabel.
+    /// Quiet text is less prominent, as in a PlainLabel.
     void setQuiet(bool quiet);
 
     QSize sizeHint() const override;

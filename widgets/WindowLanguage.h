@@ -4,9 +4,9 @@
 
 namespace quindle {
 
-/// The language of a process with windows: the toolkit's own texts (dialogs of files, menus of text fields)
-/// are in it too, where the system has them, and the windows run from right to left where it does. Needs a
-/// QGuiApplication, as ShownLanguage needs its base.
+/// The language of a process with windows: the toolkit's own texts (file dialogs, menus of text fields) are
+/// in it too, where the system has them, and the windows run from right to left where it does. Needs a
+/// QGuiApplication.
 class WindowLanguage
 {
 public:

@@ -8,7 +8,7 @@ namespace quindle {
 
 struct Machine;
 
-/// This Mac. Needs a QApplication, as the other.
+/// This Mac. Both need a QApplication.
 std::unique_ptr<HelperComputer> thisMac();
 
 /// A recorded computer in this Mac's menu bar.

@@ -8,7 +8,7 @@
 
 namespace quindle {
 
-/// Whether the clipboard holds something of this process. With the process it would go.
+/// Whether the clipboard holds something of this process's, which would be lost at its end.
 bool ownsClipboard();
 
 /// Notices when no window of this process has been open for a while, and nothing else needs it: from its

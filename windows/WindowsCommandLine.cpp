@@ -4,7 +4,7 @@ namespace quindle {
 
 namespace {
 
-/// The number behind "NAME="; nothing in any other argument.
+/// The number after "NAME="; nothing in any other argument.
 std::optional<int> numberOf(const QString& argument, QStringView name)
 {
     if (!argument.startsWith(name))

@@ -31,7 +31,7 @@ public:
     /// Brings the computer to where the helper's was when it sent that: a request or Refreshed.
     virtual void follow(const WindowMessage& message, HelperAppDelegate& delegate) = 0;
 
-    /// This computer; `systemRoot` replaces /sys when it is not empty. Needs a QApplication, as the other.
+    /// This computer; `systemRoot` replaces /sys when it is not empty. Both need a QApplication.
     static std::unique_ptr<WindowsServices> ofThisComputer(const QString& systemRoot, HelperEnd& helper);
     static std::unique_ptr<WindowsServices> ofMachine(const Machine& machine, HelperEnd& helper);
 };

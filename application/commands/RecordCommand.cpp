@@ -52,7 +52,8 @@ public:
             take(m_store.append(samples.samples()));
         if (samples.damagedLines() == 0)
             return;
-        m_report(QStringLiteral("standard input: lines that are no samples: %1").arg(samples.damagedLines()));
+        m_report(
+            QStringLiteral("standard input: lines that are not samples: %1").arg(samples.damagedLines()));
         fail(EX_DATAERR);
     }
 

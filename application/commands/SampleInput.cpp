@@ -7,7 +7,7 @@ namespace quindle {
 bool SampleInput::readSome()
 {
     constexpr std::size_t most = 10'000;
-    constexpr qint64 longestLine = 256; // bytes; a longer line is no sample
+    constexpr qint64 longestLine = 256; // bytes; a longer line is not a sample
     m_samples.clear();
     while (m_samples.size() < most) {
         const QByteArray line = m_input.readLine(longestLine);

@@ -27,7 +27,7 @@ constexpr double healthScale = 2.2;
 constexpr int linesForTwoColumns = 44;
 constexpr int widestColumn = 30; // lines
 
-/// What stands beside the percentage, which the figure gives already.
+/// The words beside the percentage, which the figure already shows.
 QString wordsOfHealth(const Fact& health)
 {
     const QString figure = health.percent ? percentText(*health.percent) : QString();

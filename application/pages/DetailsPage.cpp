@@ -32,7 +32,7 @@ namespace {
 QVariantMap machineKeys(const Platform& platform, bool withSerials)
 {
     const QVariantMap keys = capturedKeys(platform);
-    // As of a Mac on every computer: a recorded one may be a Mac too.
+    // As a Mac's on every system: a recorded computer may be a Mac.
     return withSerials ? keys : withoutIdentity(keys, CapturedRegistry::OfAMac);
 }
 
@@ -107,7 +107,7 @@ void DetailsPage::refresh()
 
 void DetailsPage::search()
 {
-    // What was copied or saved is another thing than what is found now.
+    // "Copied" and "Saved" are about what was found before.
     m_message->clear();
     showFound();
 }

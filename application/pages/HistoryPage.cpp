@@ -266,7 +266,7 @@ void HistoryPage::fitToFont()
     const ViewMetrics metrics(*this);
     const int line = fontMetrics().height();
     const int margin = line * 3 / 2;
-    // The charts' last moment is at the rows' end, and what they draw behind it lies in the margin.
+    // The charts' last moment is at the rows' end, and what they draw after it lies in the margin.
     const int overhang = static_cast<int>(chartOverhang(QFontMetricsF(quietFont(font())).height()));
     content().layout()->setContentsMargins(margin, margin, margin - overhang, line);
     content().layout()->setSpacing(metrics.rowGap * 2);

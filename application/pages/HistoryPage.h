@@ -22,7 +22,7 @@ class SegmentedControl;
 class TimeSeriesChart;
 
 /// How the battery wears over its whole life, with one plain sentence about it, and what its charge and power
-/// did over a span that one chooses. It reads no clock and no file: whoever shows it gives it both.
+/// did over a chosen span. It reads neither clock nor file: whoever shows it supplies both.
 class HistoryPage : public ScrollPage
 {
     Q_OBJECT

@@ -108,12 +108,12 @@ void HistorySettingsView::showDays(qint64 days)
 
 void HistorySettingsView::showMessage(const QString& line)
 {
-    // Snapshots and samples are deleted one beside the other, and either may fail.
+    // Snapshots and samples are deleted independently, and either may fail.
     m_message->setText(joined(m_message->text(), QStringLiteral("\n"), line));
     m_message->show();
 }
 
-void HistorySettingsView::forgetTold()
+void HistorySettingsView::clearMessage()
 {
     m_message->clear();
     m_message->hide();
@@ -138,7 +138,7 @@ void HistorySettingsView::askToDelete()
     connect(question, &QMessageBox::buttonClicked, this, [this, confirm](const QAbstractButton* chosen) {
         if (chosen != confirm)
             return;
-        forgetTold();
+        clearMessage();
         m_deleteAll();
     });
     question->open();

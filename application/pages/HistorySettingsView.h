@@ -30,7 +30,7 @@ public:
 
     /// Adds a line to what is said of the deletion.
     void showMessage(const QString& line);
-    void forgetTold();
+    void clearMessage();
 
 private:
     void addRows();

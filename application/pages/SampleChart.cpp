@@ -79,7 +79,7 @@ std::vector<std::size_t> gapsOf(const std::vector<Sample>& samples)
     for (const Sample& sample : samples)
         points.push_back({sample.moment, sample.charge});
     std::vector<std::size_t> gaps = gapsBetween(points);
-    // A battery that rests gives no new samples for hours; that is no gap.
+    // A battery that rests gives no new samples for hours; that is not a gap.
     std::erase_if(gaps, [&](std::size_t gap) { return isRest(samples[gap], samples[gap + 1]); });
     return gaps;
 }

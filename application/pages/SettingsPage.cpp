@@ -81,14 +81,14 @@ void SettingsPage::showEvent(QShowEvent* event)
 
 void SettingsPage::hideEvent(QHideEvent* event)
 {
-    m_history->forgetTold();
+    m_history->clearMessage();
     ScrollPage::hideEvent(event);
 }
 
 void SettingsPage::resizeEvent(QResizeEvent* event)
 {
     ScrollPage::resizeEvent(event);
-    // A field as wide as a large screen looks as if a letter was to be written in it.
+    // A field as wide as a large screen looks meant for a letter.
     const int spare = viewport()->width() - widestSettings * fontMetrics().height();
     content().layout()->setContentsMargins(0, 0, std::max(0, spare), 0);
 }

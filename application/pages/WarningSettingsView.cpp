@@ -133,7 +133,7 @@ QSpinBox* WarningSettingsView::percentOf(WarningLevel level)
     percent->setRange(range.least, range.most);
     percent->setSuffix(QStringLiteral("%"));
     percent->setLocale(QLocale::c()); // ASCII digits, as all figures have
-    // A number that is being typed is no percentage yet.
+    // A number that is being typed is not a percentage yet.
     percent->setKeyboardTracking(false);
     if (range.least == 0) {
         percent->setSpecialValueText(tr("Auto"));
@@ -155,7 +155,7 @@ void WarningSettingsView::connectRow(WarningLevel level)
     });
     connect(row.command, &BoundLineEdit::committed, this, [this, level, command = row.command] {
         setWarningCommand(m_own, level, command->text());
-        // What is stored now is no change when the field loses the focus.
+        // What is stored now must not count as a change when the field loses the focus.
         command->setBoundText(command->text());
         announceChange();
     });

@@ -9,8 +9,8 @@
 
 namespace quindle {
 
-/// The full charge of each battery over the whole history, a line for each one, those that are not used any
-/// more quiet; what it was made for, 80 % of that, and where the trend leads. `points` by moment.
+/// The full charge of each battery over the whole history, a line for each one, with former batteries' lines
+/// quiet; what it was made for, 80 % of that, and where the trend leads. `points` by moment.
 ChartContent wearChart(const std::vector<CapacityPoint>& points, const std::optional<TrendEstimate>& trend);
 
 } // namespace quindle

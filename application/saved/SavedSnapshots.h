@@ -39,10 +39,10 @@ public:
     void removeAll();
 
 Q_SIGNALS:
-    /// `records` are others.
+    /// `records` has changed.
     void changed();
 
-    /// `isBusy` is another.
+    /// `isBusy` has changed.
     void busyChanged();
 
     /// How much of the archive is read.

@@ -5,7 +5,7 @@
 
 namespace quindle {
 
-/// How far a reading has come, shown only if it takes long.
+/// How far reading has come, shown only if it takes long.
 class LoadingBar : public QProgressBar
 {
     Q_OBJECT

@@ -17,8 +17,8 @@ void askForArchive(QWidget* parent, const std::function<void(const QString& path
 void askForExportFile(QWidget* parent,
                       const std::function<void(const QString& path, bool withSerialNumbers)>& chosen);
 
-/// Writes the records, as JSON where the name ends so, else as CSV. The path and why it could not be written;
-/// empty on success.
+/// Writes the records, as JSON if the name ends in ".json", else as CSV. The path and why it could not be
+/// written; empty on success.
 QString exportToFile(const QString& path, const QVariantList& records, bool withSerialNumbers);
 
 } // namespace quindle

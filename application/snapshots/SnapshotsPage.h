@@ -33,7 +33,7 @@ public:
     /// page is not seen.
     void refresh();
 
-    /// Writes the records to a file, as JSON where its name ends so, else as CSV.
+    /// Writes the records to a file, as JSON if its name ends in ".json", else as CSV.
     void exportTo(const QString& path, bool withSerialNumbers);
 
 protected:

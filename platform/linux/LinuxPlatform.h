@@ -24,7 +24,7 @@ public:
     QByteArray powerMemory() const;
     void setPowerMemory(const QByteArray& memory);
 
-    /// Has the run loop skip refreshes that would find nothing new, while `mayRest` allows it.
+    /// Makes the run loop skip refreshes that would find nothing new, while `mayRest` allows it.
     void restWhileNothingChanges(std::function<bool()> mayRest);
 
     Bundle& bundle() const;

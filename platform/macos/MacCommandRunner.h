@@ -4,8 +4,8 @@
 
 namespace quindle {
 
-/// Runs commands as nobody's children. Blanks separate the words of a command, and quotation marks keep them
-/// together. A program without a slash is looked for in $PATH, any other path must be absolute.
+/// Runs commands detached from this process. Blanks separate the words of a command, and quotation marks keep
+/// them together. A program without a slash is looked for in $PATH, any other path must be absolute.
 class MacCommandRunner final : public CommandRunner
 {
 public:

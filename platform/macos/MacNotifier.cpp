@@ -24,9 +24,9 @@ void MacNotifier::show(const Notification& notification)
     if (std::exchange(m_isAsking, true))
         return;
     // Each time: the user may have decided otherwise since.
-    m_calls.askLeave([this, alive = std::weak_ptr(m_alive)](bool isGranted, const QString& fault) {
+    m_calls.askPermission([this, alive = std::weak_ptr(m_alive)](bool isGranted, const QString& fault) {
         if (!alive.expired())
-            hearLeave(isGranted, fault);
+            hearPermission(isGranted, fault);
     });
 }
 
@@ -37,7 +37,7 @@ void MacNotifier::withdraw()
         m_calls.withdraw();
 }
 
-void MacNotifier::hearLeave(bool isGranted, const QString& fault)
+void MacNotifier::hearPermission(bool isGranted, const QString& fault)
 {
     m_isAsking = false;
     const auto notification = std::exchange(m_waiting, std::nullopt);
@@ -74,7 +74,7 @@ void MacNotifier::report(const QString& fault)
 
 void MacPowerManagers::ask(std::function<void(const QString& desktop)> answered)
 {
-    // The system always warns by itself. It answers later, as those do that have to be asked.
+    // The system always warns by itself. It answers later, like those that have to be asked.
     QMetaObject::invokeMethod(
         this, [answered = std::move(answered)] { answered(QStringLiteral("macOS")); }, Qt::QueuedConnection);
 }

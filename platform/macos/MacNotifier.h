@@ -20,16 +20,16 @@ public:
     void withdraw() override;
 
 private:
-    void hearLeave(bool isGranted, const QString& fault);
+    void hearPermission(bool isGranted, const QString& fault);
     void hearShown(const QString& fault);
     void report(const QString& fault);
 
     NoticeCalls& m_calls;
-    std::optional<Notification> m_waiting; ///< for the user's leave
+    std::optional<Notification> m_waiting; ///< until the user has answered
     bool m_isAsking = false;
     bool m_isWanted = false; ///< what was handed over is still to be seen
     bool m_hasReported = false;
-    std::shared_ptr<void> m_alive; ///< answers that come after it has gone are nobody's
+    std::shared_ptr<void> m_alive; ///< answers that come after its end are dropped
 };
 
 /// On a Mac no program warns of a low battery: the system does, always.

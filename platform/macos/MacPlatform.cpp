@@ -30,8 +30,8 @@ std::unique_ptr<LoginCalls> loginItemOf(MacPlatform::Program program)
     return program == MacPlatform::Program::Helper ? ownLoginItem() : loginItemNamed(helperIdentifier());
 }
 
-/// The helper's own settings are the application's too, and of whoever runs from no bundle. The system does
-/// not open a program's own domain as a suite.
+/// The helper's own settings are shared with the application and with programs that run from no bundle. The
+/// system does not open a program's own domain as a suite.
 std::unique_ptr<DefaultsCalls> defaultsOf(const Bundle& running)
 {
     const QVariantMap info = running.infoDictionary().value_or(QVariantMap());

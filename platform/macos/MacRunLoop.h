@@ -5,8 +5,8 @@
 
 namespace quindle {
 
-/// The system wakes for several timers at once where their tolerances allow it; this only keeps who wants
-/// them punctual.
+/// The system wakes for several timers at once where their tolerances allow it; this only keeps track of who
+/// wants them punctual.
 class MacRunLoop : public RunLoop
 {
 public:

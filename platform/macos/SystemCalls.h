@@ -76,14 +76,14 @@ public:
 class NoticeCalls
 {
 public:
-    using LeaveAnswered = std::function<void(bool isGranted, const QString& fault)>;
+    using PermissionAnswered = std::function<void(bool isGranted, const QString& fault)>;
     using Answered = std::function<void(const QString& fault)>; ///< empty for success
 
     virtual ~NoticeCalls() = default;
 
     /// Asks whether anything may be shown, the first time the user; calls `answered` later on the main
     /// thread.
-    virtual void askLeave(LeaveAnswered answered) = 0;
+    virtual void askPermission(PermissionAnswered answered) = 0;
 
     /// Shows it instead of the one before, and calls `answered` later on the main thread.
     virtual void show(const Notification& notification, Answered answered) = 0;
@@ -175,7 +175,7 @@ public:
     virtual void setTitle(const QString& title) = 0;
 
     /// The picture in a file, drawn in the bar's text colour when it is a template. No picture for an empty
-    /// path and a file that is none; its own size for an empty one.
+    /// path and for a file that is not a picture; its own size for an empty one.
     virtual void setImage(const QString& file, QSizeF size, bool isTemplate) = 0;
     virtual void setFontSize(double points) = 0;
     virtual void setToolTip(const QString& text) = 0;

@@ -69,7 +69,7 @@ Verdict checkDate(const QVariant& value)
 
 Verdict checkNumber(const QVariant& value)
 {
-    // A boolean converts to a number, but is none.
+    // A boolean converts to a number, but is not one.
     return wants(value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Double, "a number");
 }
 
@@ -273,7 +273,7 @@ MachineStep stepFromKeys(QVariantMap keys, const QDir& folder)
         step.actions.push_back(findAction(name)->action);
     const QVariant after = keys.take(QStringLiteral("After"));
     if (after.isValid())
-        // 0 first: a time that is no number (NaN) becomes 0 too.
+        // 0 first: a time that is not a number (NaN) becomes 0 too.
         step.after = std::max(0.0, after.toDouble());
     makeFoldersAbsolute(keys, folder);
     step.keys = keys;

@@ -44,7 +44,7 @@ struct Machine
     QString file = {}; ///< as it was named; empty for an invented computer
 };
 
-/// Why a file is no machine file: one line, "FILE: KEY: reason", with keys inside others as in
+/// Why a file is not a machine file: one line, "FILE: KEY: reason", with keys inside others as in
 /// "Steps[0].Actions" (counted from 0). Without KEY when the file as a whole is at fault.
 struct MachineRefusal
 {

@@ -17,7 +17,8 @@ namespace quindle {
 
 namespace {
 
-// inherited: with a blank, as the folder is named that the helper is installed in; the bundle has a hyphen.
+// inherited: with a blank, like the folder that the helper is installed in; the bundle's own name has a
+// hyphen.
 bool runsInsideHelper(const QString& bundlePath)
 {
     return bundlePath.contains(QStringLiteral("Quindle Helper"));

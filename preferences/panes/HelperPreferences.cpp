@@ -165,7 +165,7 @@ void HelperPreferences::changeMenuBarTemplate(QLineEdit* /*sender*/)
 
 void HelperPreferences::changeAutoSave(QAbstractButton* sender)
 {
-    // A mark of the window's own; the upload asks for the shared setting.
+    // This window's own flag; the upload asks for the shared setting.
     m_settings.setAutoUploadBatteryData(sender->isChecked());
 }
 

@@ -21,7 +21,7 @@ class HelperPreferencesBindings : public QObject
     Q_OBJECT
 
 public:
-    /// Everything must outlive the bindings, but for the controls, which may go earlier.
+    /// Everything must outlive the bindings except the controls, which may go earlier.
     HelperPreferencesBindings(const Ui::HelperPreferences& ui, HelperPreferencesWindow& window,
                               BoundSettings& settings, StatusBarTitle& title);
 

@@ -13,8 +13,8 @@ class PaneView : public QWidget
 public:
     explicit PaneView(QWidget* parent = nullptr);
 
-    /// Whether it takes no more room than its controls need: for a place that is not as wide as a window of
-    /// the preferences. Before `fitToFont`.
+    /// Whether it is only as wide as its controls need, for places narrower than a preferences window. To be
+    /// called before `fitToFont`.
     void setCompact(bool isCompact) { m_isCompact = isCompact; }
 
     /// What the longest caption needs.

@@ -49,7 +49,7 @@ void setUpRows(QTreeWidget& rows)
 
 } // namespace
 
-// As the target's child: a field takes the popup of another widget as being left.
+// As the target's child: another widget's popup would count as leaving the field, and store its text.
 ParameterPopover::ParameterPopover(const StatusBarTitle& title, QLineEdit& target)
     : QFrame(&target, Qt::Popup)
     , m_title(title)

@@ -8,8 +8,8 @@
 
 namespace quindle {
 
-/// What the preferences need of the application delegate: the title is refreshed, and its values are shown in
-/// the preview. It is an interface and no text. inherited: the name. Main thread only.
+/// What the preferences need of the application delegate: it refreshes the title and has the values that the
+/// preview shows. inherited: the name; it is an interface, not a text. Main thread only.
 class StatusBarTitle
 {
 public:

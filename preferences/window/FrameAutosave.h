@@ -21,12 +21,13 @@ class FrameAutosave : public QObject
     Q_OBJECT
 
 public:
-    /// Who gives the window its size: what is in it, or the user. Only then is the size stored without the
-    /// decorations, since a window is given it before it has any.
+    /// Who decides the window's size: its content, or the user. The user's is stored without the decorations,
+    /// because it is restored before the window has any.
     enum class Sizing { ByContent, ByUser };
 
     /// Where the desktop does not let a window have a position (`placesWindows` false), only the size counts;
-    /// a position stored under another desktop stays. `settleTime`: how long a window that was moved rests.
+    /// a position stored under another desktop stays. `settleTime`: how long a moved window must rest before
+    /// its frame is stored.
     FrameAutosave(QWidget& window, UserDefaults& defaults, QString name, bool placesWindows,
                   std::chrono::milliseconds settleTime = std::chrono::milliseconds(500),
                   Sizing sizing = Sizing::ByContent);

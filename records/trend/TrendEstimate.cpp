@@ -98,6 +98,7 @@ std::optional<TrendEstimate> trendOf(const std::vector<CapacityPoint>& points)
 WearMoment yearsUntil(const WearPace& pace, double percent)
 {
     const double left = percent - pace.level;
+    // The steepest pace gets there first.
     return {
         .expected = left / pace.perYear, .earliest = left / pace.steepest, .latest = left / pace.flattest};
 }

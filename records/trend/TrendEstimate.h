@@ -39,9 +39,9 @@ constexpr qint64 trendNeedsDays = 60;
 /// The points of the battery that was seen last, which starts a line of its own.
 std::vector<CapacityPoint> pointsOfNewestBattery(const std::vector<CapacityPoint>& points);
 
-/// What the history of the newest battery says. `points` by moment; those without a full charge count for
-/// nothing. A pace takes 60 days from the first to the last point and ten different days (UTC), of whose
-/// points the last one counts. Nothing without a point.
+/// What the history of the newest battery says. `points` by moment; those without a full charge are ignored.
+/// A pace needs 60 days from the first to the last point and points on ten different days (UTC), of which the
+/// day's last one counts. Nothing without a point.
 std::optional<TrendEstimate> trendOf(const std::vector<CapacityPoint>& points);
 
 /// When the battery gets to `percent`, from the last moment on, in years; the pace must be wear.

@@ -11,8 +11,8 @@ struct TrendValue
     double y = 0;
 };
 
-/// A straight line through values, between which slopes it lies with a probability of 95 %, and how far from
-/// it lie 95 % of the values, as far as they scatter normally.
+/// A straight line through values, the slopes that it lies between with a probability of 95 %, and how far
+/// from it 95 % of the values lie if they scatter normally.
 struct TrendLine
 {
     double slope = 0;

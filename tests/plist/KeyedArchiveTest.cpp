@@ -179,7 +179,7 @@ TEST(KeyedArchiveKeys, ThatAreNumbersSpoilARecordEachTime)
     const ArchivedRecords outside = recordsFromKeyedArchive(
         archiveOf(array(uids({4, 5})) + dictionary(uids({8}), uids({7})) + keyedByNumber +
                   "<integer>1</integer>" + keyedByNumber + "<string>a</string>"));
-    EXPECT_EQ(outside.fault, QStringLiteral("an element is no dictionary with text keys"));
+    EXPECT_EQ(outside.fault, QStringLiteral("an element is not a dictionary with text keys"));
 }
 
 TEST(KeyedArchiveKeys, HaveAsManyValues)
@@ -202,7 +202,7 @@ TEST(KeyedArchiveRoot, IsAnArray)
     for (const auto& row : rows) {
         const ArchivedRecords read = recordsFromKeyedArchive(archiveOf(objects, row.rootClass));
         EXPECT_EQ(read.records.size(), row.records) << row.rootClass;
-        EXPECT_EQ(read.fault, row.records > 0 ? QString() : QStringLiteral("its root is no array"));
+        EXPECT_EQ(read.fault, row.records > 0 ? QString() : QStringLiteral("its root is not an array"));
     }
 }
 

@@ -59,7 +59,7 @@ TEST_F(SnapshotArchiveTest, ArchivesOfOtherProgramsGrow)
 TEST_F(SnapshotArchiveTest, ADamagedOneIsSetAsideAndNamed)
 {
     write(archive(), "bplist00 and no more");
-    const QString fault = archive() + QStringLiteral(": it is no property list of an archive");
+    const QString fault = archive() + QStringLiteral(": it is not the property list of an archive");
     EXPECT_EQ(SnapshotArchive(archive()).read().fault, fault);
     const StoreOutcome outcome = SnapshotArchive(archive()).append(recordAt(noon));
     EXPECT_EQ(outcome.fault, QString());

@@ -4,7 +4,7 @@
 
 namespace quindle {
 
-/// Runs commands that are nobody's children. Blanks separate the words of a command, and quotation marks keep
+/// Runs commands detached from this process. Blanks separate the words of a command, and quotation marks keep
 /// them together. A program without a slash is looked for in $PATH, any other path must be absolute.
 class LinuxCommandRunner final : public CommandRunner
 {

@@ -28,7 +28,7 @@ bool writeAll(const FileDescriptor& file, QByteArrayView text)
 {
     while (!text.isEmpty()) {
         const ssize_t written = ::write(file.get(), text.data(), static_cast<std::size_t>(text.size()));
-        // Memory may be short; a signal is no reason to give up.
+        // Memory may be short; a mere signal only interrupts.
         if (written < 0 && errno != EINTR)
             return false;
         if (written > 0)

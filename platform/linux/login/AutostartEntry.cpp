@@ -36,7 +36,7 @@ bool isPlainWord(const QByteArray& text)
     });
 }
 
-/// The program that a command runs; behind a shell, in the form that `startCommand` writes.
+/// The program that a command runs; through a shell too, in the form that `startCommand` writes.
 QByteArray programOf(const QList<QByteArray>& arguments, const QString& home)
 {
     const bool isShell = arguments.size() == 3 && arguments[0] == "sh" && arguments[1] == "-c" &&

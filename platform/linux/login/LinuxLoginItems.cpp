@@ -147,7 +147,7 @@ QString LinuxLoginItems::pathOf(const QByteArray& entryName) const
     return m_places.entries + u'/' + pathText(entryName);
 }
 
-/// A longer file is no autostart entry, and would not be read to its end.
+/// A longer file is not an autostart entry, and would not be read to its end.
 std::optional<QString> LinuxLoginItems::urlOf(const QByteArray& entryName) const
 {
     constexpr qsizetype limit = qsizetype(60) * 1024;
@@ -163,11 +163,11 @@ QString LinuxLoginItems::enter(const QByteArray& entryName, const QString& bundl
 {
     const QString program = bundleProgram(bundlePath);
     if (m_access == SettingsAccess::ReadOnly)
-        return QStringLiteral("they are for reading only");
+        return QStringLiteral("they are read-only");
     if (m_places.entries.isEmpty())
         return QStringLiteral("there is no folder for them");
     if (programFile(pathBytes(program), {}).isEmpty())
-        return QStringLiteral("%1 is no program").arg(program);
+        return QStringLiteral("%1 is not a program").arg(program);
     const QByteArray folder = pathBytes(m_places.entries);
     const QByteArray lockPath = pathBytes(m_places.lock);
     for (const QByteArray& needed : {folder, folderOf(lockPath)})
@@ -211,7 +211,7 @@ QString LinuxLoginItems::disable(const QByteArray& entryName, const QString& hel
 QString LinuxLoginItems::erase(const QByteArray& entryName) const
 {
     if (m_access == SettingsAccess::ReadOnly)
-        return QStringLiteral("they are for reading only");
+        return QStringLiteral("they are read-only");
     if (entryName.isEmpty())
         return {};
     // Already gone counts as removed.

@@ -69,7 +69,7 @@ int endsAtLimit(void* incoming, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
     std::uint64_t received = 0;
     for (const curl_socket_t connection : connections)
         received += bytesReceived(connection);
-    // Four times the body's limit: headers and framing may take as much again, thrice.
+    // Four times the body's limit: headers and framing may take three times as much.
     return received > 4 * static_cast<std::uint64_t>(limit) ? 1 : 0;
 }
 

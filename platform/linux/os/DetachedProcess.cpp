@@ -99,6 +99,7 @@ std::optional<pid_t> runDetached(const QList<QByteArray>& command, const Inherit
     const pid_t child = ::fork();
     if (child == 0)
         runAsGrandchild(arguments.data(), inheritance, report.get());
+    // Reading would wait for the end of this one too.
     report.close();
     if (child < 0 || !endedWell(child))
         return std::nullopt;

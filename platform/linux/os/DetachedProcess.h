@@ -9,8 +9,8 @@
 
 namespace quindle {
 
-/// Starts a program (an absolute path and arguments, in bytes) in a session of its own; it is nobody's child,
-/// so nobody has to wait for it. False when it cannot be run.
+/// Starts a program (an absolute path and arguments, in bytes) in a session of its own; it is not a child of
+/// this process, which need not wait for it. False when it cannot be run.
 bool startDetached(const QList<QByteArray>& command);
 
 /// The same for a program that gets one open file of this process, under the number that it has here. A

@@ -44,7 +44,7 @@ std::shared_ptr<FT_LibraryRec_> fontLibrary();
 class FontFace
 {
 public:
-    /// Null for a file that is no usable font.
+    /// Null for a file that is not a usable font.
     static std::unique_ptr<FontFace> open(const std::shared_ptr<FT_LibraryRec_>& library,
                                           const FontFile& file);
     ~FontFace();

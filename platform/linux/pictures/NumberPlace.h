@@ -17,8 +17,8 @@ struct NumberPlace
     QRectF bolt;
 };
 
-/// As large as it fits but for a margin of 1. `ink` is what the number covers in any size, `pairWidth` what
-/// two of its figures do in the same: three of them are as high as two and narrower.
+/// As large as fits with a margin of 1. `ink` is what the number covers in any size, `pairWidth` what two of
+/// its figures do in the same: three of them are as high as two and narrower.
 NumberPlace numberPlace(QSizeF ink, double pairWidth, bool hasBolt);
 
 /// The bolt's outline in that rectangle.

@@ -25,7 +25,7 @@ struct Battery
     std::optional<double> fullCharge;   ///< above 0
     std::optional<double> designCharge; ///< above 0
     bool hasPercentageOnly = false;
-    bool isMadeOfEnergies = false; ///< the charges, over the rated voltage
+    bool isFromEnergies = false; ///< the charges: energies divided by the rated voltage
 
     double ratedVoltage = 0;       ///< V; without a figure of the battery's own a usual one, never 0
     std::optional<double> voltage; ///< mV, the present one
@@ -35,8 +35,8 @@ struct Battery
     std::optional<double> presentCurrent;
 
     /// How fast the charge changes, in mAh an hour, with the sign of the current. It differs from the current
-    /// where charges are made from energies: those are at the rated voltage, the current is at the present
-    /// one.
+    /// where charges are computed from energies: those are at the rated voltage, the current is at the
+    /// present one.
     std::optional<double> chargeRate;
 
     std::optional<double> temperature; ///< tenths of a kelvin

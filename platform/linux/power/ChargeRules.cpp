@@ -141,7 +141,7 @@ void setCharges(Battery& battery, const DriverFigures& figures)
         return;
     }
     battery.fullCharge = full;
-    battery.isMadeOfEnergies = countsEnergies(figures);
+    battery.isFromEnergies = countsEnergies(figures);
     if (const OptionalNumber given = givenCharge(counters, *full, percent))
         battery.charge = believableCharge(*given, *full, percent);
     const OptionalNumber design = positive(counters.main.design);

@@ -39,7 +39,7 @@ OptionalNumber sumOf(Batteries batteries, QuantityOf quantityOf)
     return sum;
 }
 
-/// Whether a battery's figures may be added to others': percentages are no charges, and a battery that does
+/// Whether a battery's figures may be added to others': percentages are not charges, and a battery that does
 /// not report both charge and full charge would falsify the percentage of all.
 bool addsUp(const Battery& battery)
 {
@@ -134,7 +134,7 @@ std::optional<int> combinedChargeLimit(Batteries batteries)
 std::optional<double> combinedVoltageOfEnergies(Batteries batteries)
 {
     const bool all = std::all_of(batteries.begin(), batteries.end(),
-                                 [](const Battery& battery) { return battery.isMadeOfEnergies; });
+                                 [](const Battery& battery) { return battery.isFromEnergies; });
     return all && !batteries.empty() ? std::optional(batteries.front().ratedVoltage) : std::nullopt;
 }
 

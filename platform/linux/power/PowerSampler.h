@@ -37,18 +37,18 @@ public:
     /// Never null.
     std::shared_ptr<const PowerSample> sample();
 
-    /// Has the next question take a new sample.
+    /// Makes the next question take a new sample.
     void expire() { m_isExpired = true; }
 
-    /// The same, and has it look for files that have come or gone: a supply's driver has announced something.
-    /// It also does so every half minute.
+    /// The same, and makes it look for files that have come or gone: a supply's driver has announced
+    /// something. It also does so every half minute.
     void lookAgain();
 
-    /// Has `arrived` called from the main loop when a reading that was too late for its sample is there: the
+    /// Sets what is called from the main loop when a reading that was too late for its sample is there: the
     /// next sample has it.
     void setLateObserver(std::function<void()> arrived);
 
-    /// Has `expected` called when a sample has no remaining time yet, with the time until a sample will have
+    /// Sets what is called when a sample has no remaining time yet, with the time until a sample will have
     /// one: sooner than the timers may ask again.
     void setTimeExpected(std::function<void(std::chrono::milliseconds)> expected)
     {

@@ -161,7 +161,7 @@ void BusLink::watchSocketFolder()
 
 void BusLink::lookAtSocket()
 {
-    // Other changes in the folder are no reason to try.
+    // Other changes in the folder do not matter.
     const Socket present = socketAt(m_socket);
     if (present != Socket() && present != m_socketTried)
         m_retry.start(pauseForNewSocket);

@@ -97,8 +97,9 @@ StartAnswer InstanceFiles::start()
         if (const auto answer = startAt(stem))
             return *answer;
     return givenUp(
-        QStringLiteral("there is neither a session bus nor a folder to keep a second start apart%1; "
-                       "set XDG_RUNTIME_DIR to a folder of your own that others cannot write to")
+        QStringLiteral(
+            "there is neither a session bus nor a folder where a second start could find this one%1; "
+            "set XDG_RUNTIME_DIR to a folder of your own that others cannot write to")
             .arg(m_faults));
 }
 

@@ -38,13 +38,13 @@ public:
     RestingTicks(const RestingTicks&) = delete;
     RestingTicks& operator=(const RestingTicks&) = delete;
 
-    /// Has the watch begin, unless it has. After one that could not begin, the next few calls do nothing.
+    /// Begins the watch, unless it has begun. After one that could not begin, the next few calls do nothing.
     void prepare();
 
     /// Whether the watch has begun, and has seen no change since. Not while a look hangs.
     bool isPrepared() const;
 
-    /// Has the watch begin anew at the next `prepare`.
+    /// Makes the next `prepare` begin the watch anew.
     void forget();
 
     /// Looks at each of these moments, in order; the first of them at which something is new wakes the main

@@ -55,6 +55,7 @@ std::vector<double> TimerSchedule::restfulWakeUps(double seconds) const
     std::vector<double> wakeUps;
     if (m_isPunctual || isQuick)
         return wakeUps;
+    // On a copy: looking ahead must not take a tick.
     TimerSchedule later = *this;
     for (auto next = later.nextWakeUp(); next && (wakeUps.empty() || *next <= wakeUps.front() + seconds);
          next = later.nextWakeUp()) {

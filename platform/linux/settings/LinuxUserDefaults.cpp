@@ -145,13 +145,13 @@ QString LinuxUserDefaults::store(const QString& key, const QVariant& value)
 {
     const QByteArray xml = xmlPropertyList(value);
     if (xml.isEmpty())
-        return QStringLiteral("the value of \"%1\" is of no property-list type").arg(key);
+        return QStringLiteral("the value of \"%1\" is not of a property-list type").arg(key);
     // Checked without the lock first: most stored values are there already.
     refresh();
     if (holds(key, xml))
         return {};
     if (m_access == SettingsAccess::ReadOnly)
-        return QStringLiteral("it was opened for reading only");
+        return QStringLiteral("it was opened read-only");
     if (m_file.path().isEmpty())
         return QStringLiteral("there is no folder for settings");
     if (const int error = makeFolder(folderOf(m_file.path())))
@@ -169,7 +169,7 @@ QString LinuxUserDefaults::storeLocked(const QString& key, const QVariant& value
         return qt_error_string(m_file.error());
     if (holds(key, xml))
         return {};
-    // A file behind a link is replaced there, so that the link stays one.
+    // A link's target is replaced, so that the link stays a link.
     const QByteArray target = linkTarget(m_file.path());
     // Safe now: their writer no longer holds the lock.
     removeLeftovers(target);

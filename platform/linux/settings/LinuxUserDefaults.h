@@ -20,8 +20,8 @@ public:
 
     QVariant object(const QString& key) const override;
 
-    /// Replaces the file only when the stored value differs in type or value. A value of no property-list
-    /// type is not stored.
+    /// Replaces the file only when the stored value differs in type or value. A value that is not of a
+    /// property-list type is not stored.
     void setObject(const QString& key, const QVariant& value) override;
 
     QVariantMap dictionaryRepresentation() const override;
@@ -55,7 +55,7 @@ public:
 
     UserDefaults& standard() override { return m_standard; }
 
-    /// Null for a name that is no plain file name, and when there is no folder.
+    /// Null for a name that is not a plain file name, and when there is no folder.
     UserDefaults* suite(const QString& suiteName) override;
 
 private:

@@ -16,8 +16,8 @@ public:
     enum class State {
         Missing,
         Good,
-        Damaged,    ///< no property list, or its root is no dictionary
-        Unreadable, ///< `error` says why; EFBIG above 16 MiB, EINVAL when it is no ordinary file
+        Damaged,    ///< not a property list, or its root is not a dictionary
+        Unreadable, ///< `error` says why; EFBIG above 16 MiB, EINVAL for anything but an ordinary file
     };
 
     /// `path` is absolute and in the file system's encoding.

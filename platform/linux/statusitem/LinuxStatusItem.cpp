@@ -52,6 +52,7 @@ LinuxStatusItem::LinuxStatusItem(const QDBusConnection& bus, RunLoop& runLoop,
         &m_menuObject, [this] { useActivationToken(); }, [this] { lookAtPanelSoon(); });
     m_notifierItem = m_labelledItem;
     m_font.setBus(m_bus);
+    // Colours can be looked at on X11 only.
     if (m_display.hasName())
         m_themeSwitch.setBus(m_bus);
     connect(&m_font, &InterfaceFont::changed, this, [this] {

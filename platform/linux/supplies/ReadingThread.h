@@ -22,7 +22,7 @@ class LateBell
 public:
     void setCall(std::function<void()> call) { m_call = std::move(call); }
 
-    /// Has the call made soon, unless it was silenced.
+    /// Makes the call soon, unless it was silenced.
     void ring()
     {
         const std::scoped_lock lock(m_mutex);

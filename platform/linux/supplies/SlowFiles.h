@@ -24,7 +24,7 @@ public:
     /// What the last read gave, as a read into `buffer` would; -EAGAIN while one is under way.
     ssize_t latest(char* buffer, std::size_t size) const;
 
-    /// Has it read once more, unless a read is under way. The thread ends with the read.
+    /// Starts another read, unless one is under way. The thread ends with the read.
     static void request(const std::shared_ptr<SlowFile>& file);
 
     /// The end of a read.

@@ -8,8 +8,8 @@ namespace quindle {
 
 namespace {
 
-/// Kernels before 5.5 leave the type out of the uevent. Thresholds are often added to a battery by the driver
-/// of the computer, and so are no property of the battery's own. None of it is a measurement.
+/// Kernels before 5.5 leave the type out of the uevent. Thresholds are often added to a battery by the
+/// computer's driver, and so are not the battery's own properties. None of it is a measurement.
 constexpr std::array notInUevents = {Attribute::Type, Attribute::ChargeControlEndThreshold,
                                      Attribute::ChargeTypes};
 

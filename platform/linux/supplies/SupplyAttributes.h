@@ -92,7 +92,7 @@ private:
         bool operator==(const Place&) const = default;
     };
 
-    std::string m_texts; ///< all of them, one behind the other
+    std::string m_texts; ///< all of them, one after the other
     std::array<Place, attributeCount> m_places;
 };
 
@@ -107,7 +107,7 @@ std::optional<double> numberFromText(std::string_view text);
 /// `text` without blanks and control characters at its ends.
 std::string_view trimmed(std::string_view text);
 
-/// A text that a person can read: unprintable characters and bytes that are no UTF-8 taken out, then blanks
+/// A text that a person can read: unprintable characters and bytes that are not UTF-8 taken out, then blanks
 /// at the ends. Nothing when nothing is left.
 std::optional<QString> readableText(std::string_view text);
 

@@ -19,7 +19,7 @@ using ReadFunction =
 ssize_t readDescriptor(int descriptor, const char* attribute, char* buffer, std::size_t size);
 
 /// Opens a regular file of `folder`, without ever waiting for a pipe or device in its place: a descriptor, or
-/// none and errno; ENOENT for what is no regular file.
+/// none and errno; ENOENT for what is not a regular file.
 FileDescriptor openRegularFile(int folder, const char* path);
 
 /// Whether the folder is the kernel's. It announces no changes, and its uevents are always of the same moment

@@ -36,7 +36,7 @@ public:
     /// When that keeps happening, the previously requested reading is given without waiting.
     std::optional<SupplyReadings> read(bool looksAgain);
 
-    /// Has `arrived` called from the main loop once an abandoned reading has arrived after all: the next
+    /// Sets what is called from the main loop once an abandoned reading has arrived after all: the next
     /// `read` gives it.
     void setLateObserver(std::function<void()> arrived);
 

@@ -16,13 +16,13 @@ using PortalSettings = QMap<QString, QVariantMap>;
 /// The namespaces that say how windows should look.
 QStringList namespacesOfWishes();
 
-/// By the keys that all desktops share, and where those are missing or say nothing by those of GTK's. What is
-/// not said, or makes no sense, is not wished.
+/// From the keys that all desktops share, and where those are missing or say nothing from GTK's. What is not
+/// said, or makes no sense, is not wished.
 DesktopWishes wishesFrom(const PortalSettings& settings);
 
 /// Whether the toolkit leaves the desktop's colours to the portal, by XDG_CURRENT_DESKTOP and
-/// QT_QPA_PLATFORMTHEME: it follows by itself the desktops that are made with it, and a theme that the user
-/// has chosen.
+/// QT_QPA_PLATFORMTHEME: by itself it follows only the desktops that are made with it, and a theme that the
+/// user has chosen.
 bool leavesColoursToPortal(const QString& currentDesktop, const QByteArray& platformTheme);
 
 /// The same by this process's environment.

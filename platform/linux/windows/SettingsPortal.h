@@ -16,15 +16,15 @@ namespace quindle {
 class BusLink;
 class RunLoop;
 
-/// Follows what the desktop's settings portal says of how windows should look. Nothing waits for it; without
-/// one nothing is wished. Main thread only.
+/// Follows what the desktop's settings portal says about how windows should look. Nothing waits for it;
+/// without one nothing is wished. Main thread only.
 class SettingsPortal final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `changed` is called from the main loop when the wishes are others than before, and before the first
-    /// answer there are none. The loop must live longer.
+    /// `changed` is called from the main loop when the wishes change; before the first answer there are none.
+    /// The loop must live longer.
     SettingsPortal(RunLoop& runLoop, std::function<void(const DesktopWishes&)> changed);
     ~SettingsPortal() override;
 

@@ -11,8 +11,8 @@
 namespace quindle {
 
 /// Of null, of another type and below 512 levels: the invalid value, which is left out of arrays and
-/// dictionaries, as is what stands under a key that is no text. An integer beyond 64 bits with a sign loses
-/// its upper bits: registries show negative numbers that way.
+/// dictionaries, as is the value of a key that is not text. An integer beyond 64 bits with a sign loses its
+/// upper bits: registries show negative numbers that way.
 QVariant valueFromCf(CFTypeRef object);
 
 /// The dictionary; empty of null and of anything else.

@@ -60,7 +60,7 @@ class SystemNotices : public NoticeCalls
 public:
     SystemNotices() { center().delegate = m_delegate; }
 
-    void askLeave(LeaveAnswered answered) override
+    void askPermission(PermissionAnswered answered) override
     {
         [center() requestAuthorizationWithOptions:UNAuthorizationOptionAlert
                                 completionHandler:^(BOOL isGranted, NSError* error) {

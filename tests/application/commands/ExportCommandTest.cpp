@@ -56,7 +56,7 @@ TEST_F(ExportCommandTest, ADamagedArchiveIsNamedAndStays)
 {
     write(archive(), "damaged");
     EXPECT_EQ(run(), EX_DATAERR);
-    EXPECT_EQ(lines, QStringList{archive() + QStringLiteral(": it is no property list of an archive")});
+    EXPECT_EQ(lines, QStringList{archive() + QStringLiteral(": it is not the property list of an archive")});
     EXPECT_EQ(bytesOf(archive()), "damaged");
 }
 

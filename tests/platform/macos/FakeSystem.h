@@ -121,16 +121,16 @@ public:
 class FakeNoticeCalls : public NoticeCalls
 {
 public:
-    LeaveAnswered leave;
+    PermissionAnswered permission;
     int leavesAsked = 0;
     std::vector<Notification> shown;
     Answered answered;
     int withdrawals = 0;
 
-    void askLeave(LeaveAnswered answer) override
+    void askPermission(PermissionAnswered answer) override
     {
         ++leavesAsked;
-        leave = std::move(answer);
+        permission = std::move(answer);
     }
     void show(const Notification& notification, Answered answer) override
     {

@@ -29,7 +29,7 @@ TEST_F(MacNotices, AreShownOnceTheUserAllowsThem)
 {
     notifier->show(notice("low"));
     EXPECT_TRUE(calls.shown.empty());
-    calls.leave(true, {});
+    calls.permission(true, {});
     ASSERT_EQ(calls.shown.size(), 1U);
     EXPECT_EQ(calls.shown[0], notice("low"));
 }
@@ -39,7 +39,7 @@ TEST_F(MacNotices, TheLastOneIsShownWhenTheUserTakesTime)
     notifier->show(notice("low"));
     notifier->show(notice("critical"));
     EXPECT_EQ(calls.leavesAsked, 1);
-    calls.leave(true, {});
+    calls.permission(true, {});
     ASSERT_EQ(calls.shown.size(), 1U);
     EXPECT_EQ(calls.shown[0].title, u("critical"));
     notifier->show(notice("again"));
@@ -50,7 +50,7 @@ TEST_F(MacNotices, OneThatIsTakenBackBeforeTheUserAllowsItIsNotShown)
 {
     notifier->show(notice("low"));
     notifier->withdraw();
-    calls.leave(true, {});
+    calls.permission(true, {});
     EXPECT_TRUE(calls.shown.empty());
     EXPECT_EQ(calls.withdrawals, 0);
 }
@@ -60,7 +60,7 @@ TEST_F(MacNotices, AreTakenBackOnce)
     notifier->withdraw();
     EXPECT_EQ(calls.withdrawals, 0);
     notifier->show(notice("low"));
-    calls.leave(true, {});
+    calls.permission(true, {});
     calls.answered({});
     notifier->withdraw();
     notifier->withdraw();
@@ -70,7 +70,7 @@ TEST_F(MacNotices, AreTakenBackOnce)
 TEST_F(MacNotices, OneThatIsTakenBackBeforeItIsThereIsTakenBackAgain)
 {
     notifier->show(notice("low"));
-    calls.leave(true, {});
+    calls.permission(true, {});
     notifier->withdraw();
     calls.answered({});
     EXPECT_EQ(calls.withdrawals, 2);
@@ -81,15 +81,15 @@ TEST_F(MacNotices, AFailureIsLoggedOnceUntilItWorks)
     testing::internal::CaptureStderr();
     const auto refuse = [this](const char* fault) {
         notifier->show(notice("low"));
-        calls.leave(false, u(fault));
+        calls.permission(false, u(fault));
     };
     refuse("");
     refuse("no center");
     notifier->show(notice("low"));
-    calls.leave(true, {});
+    calls.permission(true, {});
     calls.answered({});
     notifier->show(notice("low"));
-    calls.leave(true, {});
+    calls.permission(true, {});
     calls.answered(u("no room"));
     const QString log = QString::fromStdString(testing::internal::GetCapturedStderr());
     EXPECT_EQ(log.count(u("notifications are not shown")), 2) << log.toStdString();
@@ -101,11 +101,11 @@ TEST_F(MacNotices, AFailureIsLoggedOnceUntilItWorks)
 TEST_F(MacNotices, AnswersAfterItsEndAreNobodys)
 {
     notifier->show(notice("low"));
-    calls.leave(true, {});
+    calls.permission(true, {});
     const auto answered = calls.answered;
     notifier->show(notice("critical"));
     notifier.reset();
-    calls.leave(true, {});
+    calls.permission(true, {});
     answered(u("too late"));
     EXPECT_EQ(calls.shown.size(), 1U);
 }

@@ -182,12 +182,12 @@ TEST(CombinedBattery, EnergiesAreKnownWhereAllBatteriesCountThem)
 {
     Battery one;
     one.ratedVoltage = 11.4;
-    one.isMadeOfEnergies = true;
+    one.isFromEnergies = true;
     Battery other = one;
     other.ratedVoltage = 15;
     EXPECT_EQ(combinedVoltageOfEnergies({}), std::nullopt);
     EXPECT_EQ(combinedVoltageOfEnergies(std::vector{one, other}), 11.4);
-    other.isMadeOfEnergies = false;
+    other.isFromEnergies = false;
     EXPECT_EQ(combinedVoltageOfEnergies(std::vector{one, other}), std::nullopt);
 }
 
