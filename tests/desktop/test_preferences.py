@@ -149,6 +149,17 @@ class General(PreferencesCase):
     def focused(self):
         return [(node["role"], node["name"]) for node in nodes(self.tree()) if "focused" in node["states"]]
 
+    def reached_by_tab(self, wanted, presses):
+        """The controls that had the keyboard. Tab is pressed more often where a busy window was read before it moved on."""
+        reached = set()
+        for press in range(5 * presses):
+            if press >= presses and wanted <= reached:
+                break
+            self.desktop.key("Tab")
+            self.assertTrue(wait_for(lambda: len(self.focused()) == 1), "who has the keyboard?")
+            reached.update(self.focused())
+        return reached
+
     def test_every_control_has_a_name_and_the_keyboard_reaches_it(self):
         for pane in ("General", "Menu Bar", "Update"):
             self.act("radio button", pane)
@@ -158,19 +169,12 @@ class General(PreferencesCase):
                         and node["role"] != "label"]  # the version, which the mouse may mark
             self.assertTrue(controls)
             self.assertEqual([node["role"] for node in controls if not node["name"]], [], f"nameless in {pane}")
-            reached = set()
-            focused = self.focused()
-            for _ in range(len(controls) + 2):
-                before = focused
-                self.desktop.key("Tab")
-                wait_for(lambda former=before: len(self.focused()) == 1 and self.focused() != former, 5)
-                focused = self.focused()
-                self.assertEqual(len(focused), 1, f"{pane}: who has the keyboard?")
-                reached.update(focused)
-            radio = {node["role"] for node in controls} & {"radio button"}
-            wanted = {(node["role"], node["name"]) for node in controls if node["role"] != "radio button"}
-            self.assertEqual(wanted - reached, set(), f"{pane}: Tab never came there")
-            self.assertTrue(not radio or any(role == "radio button" for role, _ in reached), pane)
+            wanted = {(node["role"], node["name"]) for node in controls}
+            # Of a group of radio buttons Tab reaches one.
+            alone = {control for control in wanted if control[0] != "radio button"}
+            reached = self.reached_by_tab(alone, len(controls))
+            self.assertEqual(alone - reached, set(), f"{pane}: Tab never came there")
+            self.assertTrue(alone == wanted or any(role == "radio button" for role, _ in reached), pane)
 
 
 class MenuBarText(PreferencesCase):
