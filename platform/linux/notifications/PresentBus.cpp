@@ -14,6 +14,9 @@ PresentBus::PresentBus(QString ownName)
 
 PresentBus::~PresentBus()
 {
+    // Not where it was never needed: the library would start its thread for it at the program's end.
+    if (m_own.name().isEmpty())
+        return;
     m_own = QDBusConnection(QString());
     QDBusConnection::disconnectFromBus(m_ownName);
 }

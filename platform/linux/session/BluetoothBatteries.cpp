@@ -67,6 +67,10 @@ BluetoothBatteries::BluetoothBatteries(int patience)
 
 BluetoothBatteries::~BluetoothBatteries()
 {
+    // Not where nothing was asked: the library would start its thread for it, which a program that ends at
+    // once does not survive every time.
+    if (m_ownBus.name().isEmpty())
+        return;
     m_ownBus = QDBusConnection(QString());
     QDBusConnection::disconnectFromBus(ownBusName);
 }
