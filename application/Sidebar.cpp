@@ -65,7 +65,7 @@ private:
         painter.setBrush(isChosen || isHovered ? mixed(text, ground, isChosen ? chosenShare : hoverShare)
                                                : ground);
         const double radius = option.fontMetrics.height() * 0.35;
-        // A pixel inside: where the screen's scale is no whole number the row's own edge would not be cleared.
+        // A pixel inside: where the screen's scale is not whole, the row's own edge would not be cleared.
         painter.drawRoundedRect(QRectF(option.rect).adjusted(1.5, 1.5, -1.5, -1.5), radius, radius);
     }
 };
