@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/notifications/PresentBus.h"
 #include "platform/linux/session/BluetoothBatteries.h"
+#include "platform/linux/session/PresentBus.h"
 
 namespace quindle {
 
@@ -23,7 +23,7 @@ TEST(UnusedBusTest, StartsNoThreadAtItsEnd)
     const auto before = threads();
     {
         const BluetoothBatteries batteries;
-        const PresentBus bus(QStringLiteral("unused"));
+        const PresentBus bus(QDBusConnection::SessionBus, QStringLiteral("unused"));
     }
     EXPECT_EQ(threads(), before);
 }

@@ -56,7 +56,7 @@ bool isAnswer(const QDBusMessage& message)
 } // namespace
 
 LinuxNotifier::LinuxNotifier()
-    : m_bus(QStringLiteral("quindle-notifier"))
+    : m_bus(QDBusConnection::SessionBus, QStringLiteral("quindle-notifier"))
 {
 }
 

@@ -7,7 +7,7 @@
 #include <QString>
 
 #include "platform/Notifier.h"
-#include "platform/linux/notifications/PresentBus.h"
+#include "platform/linux/session/PresentBus.h"
 
 namespace quindle {
 

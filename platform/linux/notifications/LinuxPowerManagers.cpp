@@ -40,7 +40,7 @@ QDBusMessage questionForNames()
 } // namespace
 
 LinuxPowerManagers::LinuxPowerManagers()
-    : m_bus(QStringLiteral("quindle-power-managers"))
+    : m_bus(QDBusConnection::SessionBus, QStringLiteral("quindle-power-managers"))
 {
 }
 

@@ -4,7 +4,7 @@
 #include <QStringList>
 
 #include "platform/Notifier.h"
-#include "platform/linux/notifications/PresentBus.h"
+#include "platform/linux/session/PresentBus.h"
 
 namespace quindle {
 

@@ -5,8 +5,6 @@
 #include <QDBusObjectPath>
 #include <QMap>
 
-#include "platform/linux/session/BusLink.h"
-
 namespace quindle {
 
 namespace {
@@ -14,7 +12,6 @@ namespace {
 using Interfaces = QMap<QString, QVariantMap>;
 using Objects = QMap<QDBusObjectPath, Interfaces>;
 
-const QString ownBusName = QStringLiteral("quindle-bluetooth");
 const QString objectsSignature = QStringLiteral("a{oa{sa{sv}}}");
 
 constexpr int longestUse = 20'000; // of an answer; it is asked more often while somebody looks
@@ -61,18 +58,8 @@ QList<BluetoothBattery> bluetoothBatteriesFrom(const QDBusMessage& answer)
 
 BluetoothBatteries::BluetoothBatteries(int patience)
     : m_patience(patience)
-    , m_ownBus(QString())
+    , m_bus(QDBusConnection::SystemBus, QStringLiteral("quindle-bluetooth"))
 {
-}
-
-BluetoothBatteries::~BluetoothBatteries()
-{
-    // Not where nothing was asked: the library would start its thread for it, which a program that ends at
-    // once does not survive every time.
-    if (m_ownBus.name().isEmpty())
-        return;
-    m_ownBus = QDBusConnection(QString());
-    QDBusConnection::disconnectFromBus(ownBusName);
 }
 
 QList<BluetoothBattery> BluetoothBatteries::latest()
@@ -94,20 +81,7 @@ QList<BluetoothBattery> BluetoothBatteries::latest()
 QDBusPendingCall BluetoothBatteries::ask()
 {
     m_asked.start();
-    return bus().asyncCall(questionForObjects(), m_patience);
-}
-
-/// The process's connection, else one of its own: the shared one does not come back once its bus is gone.
-QDBusConnection BluetoothBatteries::bus()
-{
-    if (m_ownBus.isConnected())
-        return m_ownBus;
-    const QDBusConnection shared = QDBusConnection::systemBus();
-    if (shared.isConnected())
-        return shared;
-    QDBusConnection::disconnectFromBus(ownBusName);
-    m_ownBus = QDBusConnection::connectToBus(busAddress(QDBusConnection::SystemBus), ownBusName);
-    return m_ownBus;
+    return m_bus.connection().asyncCall(questionForObjects(), m_patience);
 }
 
 } // namespace quindle

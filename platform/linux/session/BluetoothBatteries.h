@@ -2,13 +2,13 @@
 
 #include <optional>
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QElapsedTimer>
 #include <QList>
 
 #include "platform/linux/os/BluetoothBattery.h"
+#include "platform/linux/session/PresentBus.h"
 
 namespace quindle {
 
@@ -20,10 +20,6 @@ class BluetoothBatteries
 public:
     /// `patience`, in milliseconds, is how long an answer is waited for.
     explicit BluetoothBatteries(int patience = 300);
-    ~BluetoothBatteries();
-
-    BluetoothBatteries(const BluetoothBatteries&) = delete;
-    BluetoothBatteries& operator=(const BluetoothBatteries&) = delete;
 
     /// By the order of BlueZ' objects. When asked repeatedly it gives the answer to its last question without
     /// waiting; after a pause it waits for the answer. None without a bus or BlueZ.
@@ -31,10 +27,9 @@ public:
 
 private:
     QDBusPendingCall ask();
-    QDBusConnection bus();
 
     int m_patience;
-    QDBusConnection m_ownBus;
+    PresentBus m_bus;
     std::optional<QDBusPendingCall> m_question;
     QElapsedTimer m_asked;
     QList<BluetoothBattery> m_batteries;

@@ -5,13 +5,13 @@
 
 namespace quindle {
 
-/// The session bus for services that need it a few times a day: they keep nothing of it, and do not wait for
-/// one that is gone. Main thread only.
+/// A bus for those who need it now and then: they keep nothing of it, and do not wait for one that is gone.
+/// Main thread only.
 class PresentBus
 {
 public:
     /// `ownName` names a connection of its own, made once the shared one is gone.
-    explicit PresentBus(QString ownName);
+    PresentBus(QDBusConnection::BusType type, QString ownName);
     ~PresentBus();
 
     PresentBus(const PresentBus&) = delete;
@@ -22,6 +22,7 @@ public:
     QDBusConnection connection();
 
 private:
+    QDBusConnection::BusType m_type;
     QString m_ownName;
     QDBusConnection m_own;
 };
