@@ -107,7 +107,7 @@ std::chrono::duration<double> processorTime()
     return std::chrono::duration<double>(static_cast<double>(std::clock()) / CLOCKS_PER_SEC);
 }
 
-TEST_F(ManySuppliesTest, FiveThousandAnswerWithinASecond)
+TEST_F(ManySuppliesTest, FiveThousandTakeSecondsAtMost)
 {
     addWholeBatteries(5000);
     const auto begun = processorTime();
@@ -117,7 +117,8 @@ TEST_F(ManySuppliesTest, FiveThousandAnswerWithinASecond)
     passTenSeconds();
     const auto refreshed = processorTime();
     EXPECT_EQ(title(), QStringLiteral("50.0% -5000000"));
-    constexpr double most = QUINDLE_IS_SANITIZED ? 10 : 1; // seconds; the sanitizers make five of one
+    // Seconds; usually half of one, on a slow computer more than one. The sanitizers make five of one.
+    constexpr double most = QUINDLE_IS_SANITIZED ? 20 : 4;
     EXPECT_LT((launched - begun).count(), most);
     EXPECT_LT((refreshed - launched).count(), most);
 }
