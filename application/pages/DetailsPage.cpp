@@ -22,6 +22,7 @@
 #include "mac/QDMac.h"
 #include "platform/Bundle.h"
 #include "platform/Platform.h"
+#include "widgets/FileDialog.h"
 #include "widgets/IsolatedText.h"
 #include "widgets/QuietLabel.h"
 
@@ -161,13 +162,9 @@ void DetailsPage::copy()
 
 void DetailsPage::askForFile()
 {
-    auto* dialog = new QFileDialog(this, tr("Save as Machine File"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QFileDialog* dialog = makeFileDialog(this, tr("Save as Machine File"), {tr("Machine files (*.plist)")});
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilter(tr("Machine files (*.plist)"));
     dialog->setDefaultSuffix(QStringLiteral("plist"));
-    // Not the folder that it was started in, which nobody chose.
-    dialog->setDirectory(homeFolder());
     dialog->selectFile(QStringLiteral("machine.plist"));
     connect(dialog, &QFileDialog::fileSelected, this,
             [this](const QString& path) { saveTo(pathText(QFile::encodeName(path))); });

@@ -19,6 +19,7 @@
 #include "charts/TimeSeriesChart.h"
 #include "common/Paths.h"
 #include "records/SampleExport.h"
+#include "widgets/FileDialog.h"
 #include "widgets/PaletteMix.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/PlainText.h"
@@ -46,12 +47,9 @@ void paintChartOf(QPainter& painter, const TimeSeriesChart& chart)
 QFileDialog* saveDialog(QWidget* parent, const QString& title, const QStringList& filters,
                         const QString& suffix)
 {
-    auto* dialog = new QFileDialog(parent, title);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QFileDialog* dialog = makeFileDialog(parent, title, filters);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilters(filters);
     dialog->setDefaultSuffix(suffix);
-    dialog->setDirectory(homeFolder());
     dialog->selectFile(QStringLiteral("battery-history.") + suffix);
     return dialog;
 }

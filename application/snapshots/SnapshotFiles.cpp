@@ -9,19 +9,11 @@
 #include "common/Paths.h"
 #include "common/Translation.h"
 #include "records/SnapshotExport.h"
+#include "widgets/FileDialog.h"
 
 namespace quindle {
 
 namespace {
-
-QFileDialog* dialogFor(QWidget* parent, const QString& title, const QStringList& filters)
-{
-    auto* dialog = new QFileDialog(parent, title);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setNameFilters(filters);
-    dialog->setDirectory(QFile::decodeName(pathBytes(homeFolder())));
-    return dialog;
-}
 
 QString pathOf(const QString& selected)
 {
@@ -32,9 +24,9 @@ QString pathOf(const QString& selected)
 
 void askForArchive(QWidget* parent, const std::function<void(const QString& path)>& chosen)
 {
-    auto* dialog = dialogFor(parent, translated("SnapshotFiles", "Import Snapshots"),
-                             {translated("SnapshotFiles", "Archives of snapshots (*.qndarchive)"),
-                              translated("SnapshotFiles", "All files (*)")});
+    auto* dialog = makeFileDialog(parent, translated("SnapshotFiles", "Import Snapshots"),
+                                  {translated("SnapshotFiles", "Archives of snapshots (*.qndarchive)"),
+                                   translated("SnapshotFiles", "All files (*)")});
     dialog->setFileMode(QFileDialog::ExistingFile);
     QObject::connect(dialog, &QFileDialog::fileSelected, parent,
                      [chosen](const QString& path) { chosen(pathOf(path)); });
@@ -44,7 +36,7 @@ void askForArchive(QWidget* parent, const std::function<void(const QString& path
 void askForExportFile(QWidget* parent,
                       const std::function<void(const QString& path, bool withSerialNumbers)>& chosen)
 {
-    auto* dialog = dialogFor(
+    auto* dialog = makeFileDialog(
         parent, translated("SnapshotFiles", "Export Snapshots"),
         {translated("SnapshotFiles", "Table (*.csv)"), translated("SnapshotFiles", "JSON (*.json)")});
     // The toolkit's own, which has room for one more choice.

@@ -4,6 +4,7 @@ with the system's Python, whose GObject bindings it needs:
     accessibility.py tree APPLICATION                     the windows as JSON: role, name, text, states, children
     accessibility.py act APPLICATION ROLE NAME            performs the first action of a control ("Press", "Toggle")
     accessibility.py write APPLICATION ROLE NAME TEXT     replaces the text of a field
+    accessibility.py follow-focus APPLICATION             "listening", then the name of each control that gets the keyboard
 """
 
 import json
@@ -79,6 +80,17 @@ def control(app, role, name):
     raise SystemExit(f"{app} shows no {role} {name!r}")
 
 
+def follow_focus(app):
+    def print_name(event):
+        if event.detail1 and event.source.get_application().get_name() == app:
+            print(event.source.get_name(), flush=True)
+
+    listener = Atspi.EventListener.new(print_name)
+    listener.register("object:state-changed:focused")
+    print("listening", flush=True)
+    Atspi.event_main()
+
+
 def main(verb, app, *arguments):
     Atspi.init()
     if verb == "tree":
@@ -88,6 +100,8 @@ def main(verb, app, *arguments):
     elif verb == "write":
         role, name, text = arguments
         Atspi.EditableText.set_text_contents(control(app, role, name), text)
+    elif verb == "follow-focus":
+        follow_focus(app)
     else:
         raise SystemExit(f"unknown verb {verb!r}")
 
