@@ -51,8 +51,8 @@ QString stateOf(const QDBattery* battery)
 {
     if (!battery)
         return translated("Facts", "No battery");
-    return joined(percentText(battery->StateOfCharge()), besideEachOther(),
-                  modelText(FactPlace::View, battery->BatteryState()));
+    return besideEachOther(percentText(battery->StateOfCharge()),
+                           modelText(FactPlace::View, battery->BatteryState()));
 }
 
 } // namespace

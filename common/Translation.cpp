@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace quindle {
 
@@ -17,6 +18,21 @@ QString translated(const char* context, const char* text, const char* about, qin
     constexpr qint64 room = 1'000'000'000;
     const auto form = static_cast<int>(std::abs(count % room));
     return QCoreApplication::translate(context, text, about, form);
+}
+
+QLocale shownLocale()
+{
+    return QLocale(translated("Numbers", "C", "the language's locale, such as de_DE"));
+}
+
+QString isolatedText(const QString& text)
+{
+    constexpr QChar firstStrongIsolate(u'\u2068');
+    constexpr QChar popIsolate(u'\u2069');
+    const bool isMirrored = shownLocale().textDirection() == Qt::RightToLeft;
+    // Parts that are isolated already run from right to left among each other.
+    const bool isNeeded = isMirrored && !text.isEmpty() && !text.startsWith(firstStrongIsolate);
+    return isNeeded ? firstStrongIsolate + text + popIsolate : text;
 }
 
 QString decimalSign()

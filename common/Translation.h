@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QLocale;
+
 /// Texts in the user's language. The program's own are English and are in the sources; a translation is
 /// looked up where a text is shown, and nowhere else. QT_TRANSLATE_NOOP(context, text) marks a text that is
 /// shown elsewhere.
@@ -14,6 +16,13 @@ QString translated(const char* context, const char* text, const char* about = nu
 /// The same in the plural form for `count`. A %1 in the text is left for the number itself, which callers
 /// write differently.
 QString translated(const char* context, const char* text, const char* about, qint64 count);
+
+/// The locale of the language in force; C for English.
+QLocale shownLocale();
+
+/// `text` with a direction of its own where the language in force runs from right to left, so that its sign,
+/// number and unit, or words of another language, keep their order beside other texts.
+QString isolatedText(const QString& text);
 
 /// The sign between a whole number and its decimals in the language in force.
 QString decimalSign();

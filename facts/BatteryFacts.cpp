@@ -111,7 +111,7 @@ FactText health(const BatterySource& source)
     text.toolTip = designDescription(source);
     if (source.place == FactPlace::Report)
         return text;
-    text.value = joined(text.value, besideEachOther(), condition);
+    text.value = besideEachOther(text.value, condition);
     if (source.place == FactPlace::Menu)
         text.detail.clear(); // "Full charge" gives it
     return text;
@@ -134,7 +134,7 @@ FactText state(const BatterySource& source)
     const QString state = modelText(source.place, knownText(source.battery.BatteryState()));
     // Where the power has no row of its own it follows the state.
     const bool hasOwnPower = source.place == FactPlace::View || source.place == FactPlace::Report;
-    return {.value = hasOwnPower ? state : joined(state, besideEachOther(), power(source))};
+    return {.value = hasOwnPower ? state : besideEachOther(state, power(source))};
 }
 
 FactText powerWithCaption(const BatterySource& source)
@@ -211,7 +211,7 @@ FactText device(const BatterySource& source)
 FactText madeBy(const BatterySource& source)
 {
     const QString maker = manufacturer(source).value;
-    FactText text{.value = joined(maker, besideEachOther(), device(source).value)};
+    FactText text{.value = besideEachOther(maker, device(source).value)};
     // Some only name their gauge's chip, whose maker did not make the battery.
     if (maker.isEmpty())
         text.caption = source.place == FactPlace::Menu ? translated("Facts", "Battery device")

@@ -80,9 +80,11 @@ std::vector<Fact> factsFor(FactPlace place, const FactSources& sources)
 
 QString factText(const Fact& fact, FactPlace place)
 {
-    if (place != FactPlace::Report)
-        return joined(fact.value, besideEachOther(), fact.detail);
-    return fact.detail.isEmpty() ? fact.value : fact.value + QStringLiteral(" (") + fact.detail + u')';
+    if (place == FactPlace::Report)
+        return fact.detail.isEmpty() ? fact.value : fact.value + QStringLiteral(" (") + fact.detail + u')';
+    const QString text = besideEachOther(fact.value, fact.detail);
+    // In the view it has a label of its own.
+    return place == FactPlace::View ? text : isolatedText(text);
 }
 
 const Fact& factWithId(const std::vector<Fact>& facts, FactId id)

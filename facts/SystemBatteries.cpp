@@ -67,7 +67,7 @@ Fact factOf(const QVariantMap& description, int number, FactPlace place)
         percent ? integerText(qRound64(*percent)) + QStringLiteral(" %") : missingValueText();
     Fact fact = hidden();
     fact.caption = captionOf(description, number, place);
-    fact.value = joined(charge, besideEachOther(), stateOf(description, place));
+    fact.value = besideEachOther(charge, stateOf(description, place));
     fact.detail = modelText(place, knownText(text(description, "BatteryHealth")));
     fact.shown = true;
     fact.percent = percent;

@@ -102,9 +102,11 @@ QString joined(const QString& first, const QString& between, const QString& seco
     return first.isEmpty() || second.isEmpty() ? first + second : first + between + second;
 }
 
-QString besideEachOther()
+QString besideEachOther(const QString& first, const QString& second)
 {
-    return QStringLiteral(u" \u00B7 ");
+    if (first.isEmpty() || second.isEmpty())
+        return first + second;
+    return isolatedText(first) + QStringLiteral(u" \u00B7 ") + isolatedText(second);
 }
 
 QString missingValueText()

@@ -46,8 +46,9 @@ QString groupSeparator(FactPlace place);
 /// Both texts with `between` between them, or the only one that is not empty.
 QString joined(const QString& first, const QString& between, const QString& second);
 
-/// What separates two values that are shown together.
-QString besideEachOther();
+/// Two values that are shown together, with a dot between them and each in its own direction; or the only one
+/// that is not empty, as it is.
+QString besideEachOther(const QString& first, const QString& second);
 
 /// What replaces a missing value: an en dash.
 QString missingValueText();

@@ -7,7 +7,9 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "battery/QDBattery.h"
 #include "facts/Facts.h"
+#include "facts/ShownTexts.h"
 #include "facts/ValueTexts.h"
 #include "mac/QDMac.h"
 #include "menubar/MainInterface.h"
@@ -27,15 +29,12 @@ constexpr double healthScale = 2.2;
 constexpr int linesForTwoColumns = 44;
 constexpr int widestColumn = 30; // lines
 
-/// The words beside the percentage, which the figure already shows.
-QString wordsOfHealth(const Fact& health)
+/// The words beside the percentage, which has a place of its own.
+QString wordsOfHealth(const Fact& health, const QDBattery* battery)
 {
-    const QString figure = health.percent ? percentText(*health.percent) : QString();
-    // Without a design capacity it is a sentence, which stays whole.
-    if (figure.isEmpty() || !health.value.startsWith(figure))
-        return health.value;
-    const QString behind = health.value.mid(figure.size());
-    return behind.startsWith(besideEachOther()) ? behind.mid(besideEachOther().size()) : behind;
+    // Without a percentage they are a sentence that says so.
+    return health.percent && battery ? modelText(FactPlace::View, knownText(battery->BatteryHealth()))
+                                     : health.value;
 }
 
 } // namespace
@@ -128,16 +127,16 @@ void BatteryPage::refresh()
 void BatteryPage::showAll(const std::vector<Fact>& facts)
 {
     const QDMac* mac = m_interface.macObjectController().content();
-    const bool hasBattery = mac && mac->Battery();
-    m_noBattery->setVisible(!hasBattery);
+    const QDBattery* battery = mac ? mac->Battery() : nullptr;
+    m_noBattery->setVisible(!battery);
     for (QWidget* part : {m_charge.box, m_health.box})
-        part->setVisible(hasBattery);
+        part->setVisible(battery);
     const Fact& charge = factWithId(facts, FactId::Charge);
     const Fact& health = factWithId(facts, FactId::Health);
     const Fact& cycles = factWithId(facts, FactId::Cycles);
     show(m_charge, charge, factWithId(facts, FactId::State).value, {},
          charge.detail.isEmpty() ? missingValueText() : charge.detail);
-    show(m_health, health, wordsOfHealth(health), cycles.value, health.detail);
+    show(m_health, health, wordsOfHealth(health, battery), cycles.value, health.detail);
     m_charge.row->setExplanation({});
     m_health.row->setExplanation(
         joined(cycles.shown ? cycles.toolTip : QString(), QStringLiteral("\n"), health.toolTip));

@@ -23,7 +23,7 @@
 #include "platform/Bundle.h"
 #include "platform/Platform.h"
 #include "widgets/FileDialog.h"
-#include "widgets/IsolatedText.h"
+#include "widgets/IsolatedCells.h"
 #include "widgets/QuietLabel.h"
 
 namespace quindle {

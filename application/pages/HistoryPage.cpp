@@ -239,13 +239,13 @@ void HistoryPage::showLegend()
     const bool isShaded = m_sampleChart->seen().length() <= m_sampleChart->content().shadedUpTo;
     const QString unit = m_quantity == SampleQuantity::Charge ? QStringLiteral("%") : QStringLiteral("W");
     QString legend = isShaded ? tr("charging shaded") : QString();
-    legend = joined(legend, besideEachOther(), tr("asleep left open"));
+    legend = besideEachOther(legend, tr("asleep left open"));
     if (!m_samples.empty() && m_samples.front().moment < m_ownSince)
-        legend = joined(tr("pale from UPower"), besideEachOther(), legend);
+        legend = besideEachOther(tr("pale from UPower"), legend);
     if (isThinned(m_range))
-        legend = joined(tr("older values are means"), besideEachOther(), legend);
+        legend = besideEachOther(tr("older values are means"), legend);
     m_legend->setVisible(hasPoints(m_sampleChart->content()));
-    m_legend->setText(joined(unit, besideEachOther(), legend));
+    m_legend->setText(besideEachOther(unit, legend));
 }
 
 void HistoryPage::changeEvent(QEvent* event)

@@ -43,10 +43,9 @@ QString wordOf(SampleState state)
 
 QString textOf(const Sample& sample)
 {
-    QString text = percentText(sample.charge);
-    if (sample.power)
-        text += besideEachOther() + wattsText(std::abs(*sample.power));
-    return joined(text, besideEachOther(), wordOf(sample.state));
+    const QString power = sample.power ? wattsText(std::abs(*sample.power)) : QString();
+    const QString text = besideEachOther(percentText(sample.charge), power);
+    return besideEachOther(text, wordOf(sample.state));
 }
 
 bool hasQuantity(const Sample& sample, SampleQuantity quantity)
@@ -133,9 +132,9 @@ ChartContent sampleChart(const std::vector<Sample>& samples, SampleQuantity quan
     const auto before = static_cast<std::size_t>(own - shown.begin());
     content.series.push_back(seriesOf({own, shown.end()}, quantity, moments.to));
     content.readingText = [shown = std::move(shown), first, before](const ChartReading& reading) {
-        return reading.series < first ? joined(textOf(shown[reading.point]), besideEachOther(),
-                                               translated("SampleChart", "from UPower"))
-                                      : textOf(shown[before + reading.point]);
+        return reading.series < first
+                   ? besideEachOther(textOf(shown[reading.point]), translated("SampleChart", "from UPower"))
+                   : textOf(shown[before + reading.point]);
     };
     return content;
 }

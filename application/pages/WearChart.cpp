@@ -26,9 +26,9 @@ using ReadingTexts = std::vector<std::vector<QString>>;
 
 QString textOf(const CapacityPoint& point, double reference)
 {
-    const QString text = capacityText(point.fullChargeCapacity) + QStringLiteral(" mAh") + besideEachOther() +
-                         percentText(point.fullChargeCapacity / reference * 100);
-    return joined(text, besideEachOther(), cyclesText(point.cycleCount));
+    const QString text = besideEachOther(capacityText(point.fullChargeCapacity) + QStringLiteral(" mAh"),
+                                         percentText(point.fullChargeCapacity / reference * 100));
+    return besideEachOther(text, cyclesText(point.cycleCount));
 }
 
 /// The batteries in the order in which they were last seen, so that the newest is the last one.

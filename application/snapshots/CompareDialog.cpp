@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "application/snapshots/SnapshotRows.h"
-#include "widgets/IsolatedText.h"
+#include "common/Translation.h"
 #include "widgets/PlainLabel.h"
 
 namespace quindle {

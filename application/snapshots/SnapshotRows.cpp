@@ -9,7 +9,6 @@
 #include "common/NumberTexts.h"
 #include "common/Translation.h"
 #include "facts/ValueTexts.h"
-#include "widgets/IsolatedText.h"
 
 namespace quindle {
 

@@ -11,7 +11,7 @@
 #include "application/snapshots/SnapshotTable.h"
 #include "application/snapshots/SortHeader.h"
 #include "facts/ValueTexts.h"
-#include "widgets/IsolatedText.h"
+#include "widgets/IsolatedCells.h"
 
 namespace quindle {
 

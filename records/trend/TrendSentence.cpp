@@ -32,8 +32,8 @@ using CountText = std::function<QString(qint64)>;
 /// Without a translation the month is English, whatever the locale of dates is.
 QString monthText(qint64 moment)
 {
-    const QLocale locale(translated("Trend", "C", "the locale that names months, such as de_DE"));
-    return locale.toString(dayOf(moment), translated("Dates", "MMMM yyyy", "as date formats write it"));
+    return shownLocale().toString(dayOf(moment),
+                                  translated("Dates", "MMMM yyyy", "as date formats write it"));
 }
 
 QString thirdOfYearText(qint64 moment)

@@ -439,6 +439,11 @@
         <comment>between a whole number and its decimals</comment>
         <translation>,</translation>
     </message>
+    <message>
+        <source>C</source>
+        <comment>the language&apos;s locale, such as de_DE</comment>
+        <translation>de_DE</translation>
+    </message>
 </context>
 <context>
     <name>Packaging</name>
@@ -589,7 +594,7 @@
     </message>
     <message>
         <source>This copy was built on this computer. Newer source, built again, updates it.</source>
-        <translation>Diese Kopie wurde auf diesem Computer erstellt. Aus neuerem Quelltext erstellt, ist sie aktualisiert.</translation>
+        <translation>Diese Kopie wurde auf diesem Computer erstellt. Zum Aktualisieren wird sie aus neuerem Quelltext erneut erstellt.</translation>
     </message>
     <message>
         <source>This is the package &quot;%1&quot;. Newer versions of it are installed with %2, as those of the other packages of this system.</source>
@@ -830,11 +835,6 @@
         <source>At this pace %1 %2</source>
         <comment>a percentage, when</comment>
         <translation>Bei diesem Tempo %1 %2</translation>
-    </message>
-    <message>
-        <source>C</source>
-        <comment>the locale that names months, such as de_DE</comment>
-        <translation>de_DE</translation>
     </message>
     <message>
         <source>No wear to be seen in %1</source>

@@ -439,6 +439,11 @@
         <comment>between a whole number and its decimals</comment>
         <translation>,</translation>
     </message>
+    <message>
+        <source>C</source>
+        <comment>the language&apos;s locale, such as de_DE</comment>
+        <translation>fr_FR</translation>
+    </message>
 </context>
 <context>
     <name>Packaging</name>
@@ -830,11 +835,6 @@
         <source>At this pace %1 %2</source>
         <comment>a percentage, when</comment>
         <translation>À ce rythme, %1 %2</translation>
-    </message>
-    <message>
-        <source>C</source>
-        <comment>the locale that names months, such as de_DE</comment>
-        <translation>fr_FR</translation>
     </message>
     <message>
         <source>No wear to be seen in %1</source>

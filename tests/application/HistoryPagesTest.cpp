@@ -28,6 +28,7 @@
 #include "tests/records/TemporaryHistory.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/TestTranslation.h"
 #include "tests/support/Texts.h"
 #include "widgets/LinkButton.h"
 
@@ -150,9 +151,8 @@ TEST_F(HistoryPagesTest, SignAndNumberStayTogetherFromRightToLeft)
         return comparedSnapshots(older, newer)[1].difference;
     };
     EXPECT_EQ(difference(), latin("-0.2 points"));
-    QApplication::setLayoutDirection(Qt::RightToLeft);
+    const TestTranslation arabic(latin("C"), latin("ar_LY"));
     EXPECT_EQ(difference(), QStringLiteral(u"\u2068-0.2\u2069 points"));
-    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 /// As short as that of some languages.

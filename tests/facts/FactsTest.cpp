@@ -6,6 +6,7 @@
 
 #include "tests/facts/FactComputer.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/TestTranslation.h"
 #include "tests/support/Texts.h"
 
 using namespace quindle;
@@ -186,6 +187,18 @@ TEST_F(FactsTest, TheReportIsTheSameInEveryLocale)
     EXPECT_EQ(shown(FactPlace::Report), here);
     EXPECT_EQ(fact(FactId::Cycles).value, QStringLiteral(u"1\u202F293 cycles"));
     QLocale::setDefault(QLocale::c());
+}
+
+TEST_F(FactsTest, FromRightToLeftValuesBesideOtherTextsAreIsolated)
+{
+    const TestTranslation arabic(u("C"), u("ar_LY"));
+    make();
+    EXPECT_EQ(toolTipText(sources()), QStringLiteral(u"\u2068Discharging...\u2069 \u00B7 \u206812.4 W\u2069\n"
+                                                     u"Time until empty \u20683:42\u2069"));
+    EXPECT_EQ(factText(fact(FactId::Cycles), FactPlace::Menu), QStringLiteral(u"\u20681,293 cycles\u2069"));
+    // Alone in its label, where it may be copied.
+    EXPECT_EQ(factText(fact(FactId::Cycles), FactPlace::View), u("1,293 cycles"));
+    EXPECT_EQ(factText(fact(FactId::Cycles), FactPlace::Report), u("1,293 cycles"));
 }
 
 TEST(FactWithId, IsOneWithoutATextWhereThereIsNone)

@@ -97,9 +97,9 @@ TEST(ValueTexts, JoinsWhatIsThere)
 {
     const QString one = QStringLiteral("one");
     const QString two = QStringLiteral("two");
-    EXPECT_EQ(joined(one, besideEachOther(), two), QStringLiteral(u"one \u00B7 two"));
-    EXPECT_EQ(joined(one, besideEachOther(), QString()), one);
-    EXPECT_EQ(joined(QString(), besideEachOther(), two), two);
+    EXPECT_EQ(besideEachOther(one, two), QStringLiteral(u"one \u00B7 two"));
+    EXPECT_EQ(besideEachOther(one, QString()), one);
+    EXPECT_EQ(besideEachOther(QString(), two), two);
 }
 
 } // namespace

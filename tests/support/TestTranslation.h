@@ -18,6 +18,11 @@ public:
         QCoreApplication::installTranslator(this);
     }
 
+    TestTranslation(const QString& text, const QString& translation)
+        : TestTranslation(std::map<QString, QString>{{text, translation}})
+    {
+    }
+
     ~TestTranslation() override { QCoreApplication::removeTranslator(this); }
 
     bool isEmpty() const override { return false; }

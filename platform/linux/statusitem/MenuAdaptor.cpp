@@ -4,6 +4,7 @@
 
 #include <QLocale>
 
+#include "common/Translation.h"
 #include "platform/linux/statusitem/MenuLayout.h"
 
 namespace quindle {
@@ -74,7 +75,7 @@ QString MenuAdaptor::status() const
 
 QString MenuAdaptor::textDirection() const
 {
-    return QLocale().textDirection() == Qt::RightToLeft ? QStringLiteral("rtl") : QStringLiteral("ltr");
+    return shownLocale().textDirection() == Qt::RightToLeft ? QStringLiteral("rtl") : QStringLiteral("ltr");
 }
 
 QStringList MenuAdaptor::iconThemePath() const
