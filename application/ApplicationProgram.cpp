@@ -119,7 +119,9 @@ QWidget* ApplicationProgram::makeHistoryPage(QWidget* parent)
 {
     auto* page = new HistoryPage(parent);
     connectSamples(*page);
-    const auto showWear = [this, page] { page->setCapacities(capacityPoints(m_snapshots.records())); };
+    const auto showWear = [this, page] {
+        page->setCapacities(capacityPoints(m_snapshots.records()), m_snapshots.fault());
+    };
     connect(&m_snapshots, &SavedSnapshots::changed, page, showWear);
     // Nothing is recorded more often than once a minute.
     const auto follow = [this, page, shown = secondsNow(m_platform)]() mutable {

@@ -171,9 +171,10 @@ void HistoryPage::setRecording(bool isOn)
     m_toSettings->setVisible(!isOn);
 }
 
-void HistoryPage::setCapacities(std::vector<CapacityPoint> capacities)
+void HistoryPage::setCapacities(std::vector<CapacityPoint> capacities, const QString& fault)
 {
     m_capacities = std::move(capacities);
+    m_capacitiesFault = fault;
     showTrend();
 }
 
@@ -209,7 +210,10 @@ void HistoryPage::showTrend()
     m_sentence->setText(texts.sentence);
     m_detail->setText(texts.detail);
     m_detail->setToolTip(trend ? intervalText(*trend) : QString());
-    m_wearChart->setContent(wearChart(m_capacities, trend));
+    ChartContent wear = wearChart(m_capacities, trend);
+    if (!m_capacitiesFault.isEmpty())
+        wear.emptyText = m_capacitiesFault;
+    m_wearChart->setContent(std::move(wear));
     m_pictureButton->setEnabled(trend || !m_samples.empty());
 }
 

@@ -30,8 +30,8 @@ class HistoryPage : public ScrollPage
 public:
     explicit HistoryPage(QWidget* parent = nullptr);
 
-    /// By moment.
-    void setCapacities(std::vector<CapacityPoint> capacities);
+    /// By moment. `fault` says why they could not be read; empty when they were.
+    void setCapacities(std::vector<CapacityPoint> capacities, const QString& fault = {});
 
     /// Those that samplesWanted() asked for last, by moment; before the moment `ownSince` from another
     /// service's history.
@@ -91,6 +91,7 @@ private:
     void showWritten(const QString& path, const QString& failure);
 
     std::vector<CapacityPoint> m_capacities;
+    QString m_capacitiesFault;
     std::vector<Sample> m_samples;
     qint64 m_ownSince = 0;
     qint64 m_now = 0;

@@ -124,7 +124,7 @@ void SavedSnapshots::run(const Change& change)
         SnapshotArchive archive(path);
         const QString line = change(archive);
         ArchivedRecords archived = archive.read(reportProgress);
-        return Result{std::move(archived.records), line.isEmpty() ? archived.fault : line};
+        return Result{std::move(archived.records), std::move(archived.fault), line};
     };
     m_work.run(work, [this](const Result& result) { take(result); });
 }
@@ -133,6 +133,7 @@ void SavedSnapshots::take(const Result& result)
 {
     setBusy(m_tasks - 1);
     m_records = result.records;
+    m_fault = result.fault;
     Q_EMIT changed();
     if (!result.line.isEmpty())
         Q_EMIT message(result.line);

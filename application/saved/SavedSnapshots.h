@@ -24,6 +24,9 @@ public:
     /// As last read, in the archive's order.
     const QVariantList& records() const { return m_records; }
 
+    /// Why the archive could not be read, in one line; empty when it was read, or there is none.
+    const QString& fault() const { return m_fault; }
+
     /// Whether the archive is being read or changed.
     bool isBusy() const { return m_tasks > 0; }
 
@@ -39,7 +42,7 @@ public:
     void removeAll();
 
 Q_SIGNALS:
-    /// `records` has changed.
+    /// `records` or `fault` have changed.
     void changed();
 
     /// `isBusy` has changed.
@@ -55,10 +58,11 @@ private:
     struct Result
     {
         QVariantList records;
-        QString line;
+        QString fault;
+        QString line; ///< for the user; empty for none
     };
 
-    /// Changes the archive. Gives the line for the user; empty for none.
+    /// Changes the archive. Gives the line for the user.
     using Change = std::function<QString(SnapshotArchive& archive)>;
 
     void run(const Change& change);
@@ -67,6 +71,7 @@ private:
 
     QString m_path;
     QVariantList m_records;
+    QString m_fault;
     QDateTime m_modified; ///< of the file that was read last, as the size
     qint64 m_size = -1;
     int m_tasks = 0;

@@ -39,7 +39,7 @@ SnapshotsPage::SnapshotsPage(SavedSnapshots& snapshots, MakeSnapshot makeSnapsho
     , m_progress(new LoadingBar(tr("Reading the snapshots"), this))
     , m_save(button(tr("&Save Now"), &SnapshotsPage::saveNow))
     , m_view(new SnapshotView(this))
-    , m_nothing(new QLabel(tr("No snapshots yet"), this))
+    , m_nothing(new QLabel(this))
     , m_message(new QuietLabel(this))
     , m_undo(new LinkButton(this))
     , m_compare(button(tr("&Compare"), &SnapshotsPage::compare))
@@ -49,7 +49,10 @@ SnapshotsPage::SnapshotsPage(SavedSnapshots& snapshots, MakeSnapshot makeSnapsho
 {
     setObjectName(QStringLiteral("snapshotsPage"));
     setAccessibleName(tr("Snapshots"));
+    m_nothing->setObjectName(QStringLiteral("nothing"));
     m_nothing->setAlignment(Qt::AlignCenter);
+    m_nothing->setTextFormat(Qt::PlainText);
+    m_nothing->setWordWrap(true);
     m_undo->setText(tr("&Undo"));
     m_undo->setAccessibleName(tr("Undo deleting"));
     m_undo->hide();
@@ -117,6 +120,7 @@ void SnapshotsPage::showRecords()
     const bool isEmpty = m_snapshots.records().isEmpty();
     m_count->setText(isEmpty ? QString() : countText(m_snapshots.records().size()));
     m_view->setVisible(!isEmpty);
+    m_nothing->setText(m_snapshots.fault().isEmpty() ? tr("No snapshots yet") : m_snapshots.fault());
     updateButtons();
 }
 

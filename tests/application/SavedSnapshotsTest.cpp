@@ -132,6 +132,12 @@ TEST_F(SavedSnapshotsTest, ADamagedArchiveIsNamed)
     write(archive(), "damaged");
     snapshots.load();
     wait();
+    EXPECT_TRUE(snapshots.fault().startsWith(archive())) << snapshots.fault().toStdString();
+    EXPECT_EQ(lines, QStringList());
+    // Set aside by the change, so that the next reading finds a whole one.
+    snapshots.add(recordAt(1000));
+    wait();
+    EXPECT_EQ(snapshots.fault(), QString());
     ASSERT_EQ(lines.size(), 1);
     EXPECT_TRUE(lines[0].startsWith(archive())) << lines[0].toStdString();
 }
