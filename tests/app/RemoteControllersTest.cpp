@@ -76,7 +76,7 @@ TEST_F(RemoteControllersTest, WindowsAreAskedForWithAllThatTheyNeed)
                 .kind = kinds[i], .text = "token", .pointer = QPoint(7, 8), .number = 3, .data = "memory"}));
 }
 
-TEST_F(RemoteControllersTest, RefreshesAreToldWhileSomebodyLooks)
+TEST_F(RemoteControllersTest, RefreshesAreSentWhileSomebodyLooks)
 {
     helper.interface.statusMenu().openView();
     program().say(Kind::Heard, 1);
@@ -94,7 +94,7 @@ TEST_F(RemoteControllersTest, RefreshesAreToldWhileSomebodyLooks)
     EXPECT_TRUE(told().empty());
 }
 
-TEST_F(RemoteControllersTest, WhatThePanelShowsIsToldWithEachRefresh)
+TEST_F(RemoteControllersTest, WhatThePanelShowsIsSentWithEachRefresh)
 {
     helper.record().shown = ShownItem{ShownItem::Form::Number, QStringLiteral("87"), "PNG"};
     watch();

@@ -55,7 +55,7 @@ TEST_F(StatusItemRefreshTest, TheTitleIsSetThreeTimes)
               QStringList({QStringLiteral("100 %"), QStringLiteral("87.0%"), QStringLiteral("87.0%")}));
 }
 
-TEST_F(StatusItemRefreshTest, TheNumberTellsOfPowerWhereTheIconWould)
+TEST_F(StatusItemRefreshTest, TheNumberShowsPowerWhereTheIconWould)
 {
     setBattery(87);
     launch();
@@ -226,7 +226,7 @@ TEST_F(StatusItemRefreshTest, LaunchColoursOverTheFirstGreen)
     EXPECT_EQ(healthFilter(), green());
 }
 
-TEST_F(StatusItemRefreshTest, TellsWhatThePlaceholdersStandFor)
+TEST_F(StatusItemRefreshTest, GivesWhatThePlaceholdersStandFor)
 {
     setBattery(87);
     setRegistry("Temperature", qint64{3031});

@@ -112,7 +112,7 @@ TEST_F(WarningKeeperTest, AsksNobodyWhenTheUserHasChosen)
     EXPECT_TRUE(managers.questions.empty());
 }
 
-TEST_F(WarningKeeperTest, TellsWhatIsTheMatterWhenItIsSwitchedOn)
+TEST_F(WarningKeeperTest, ShowsWhatIsTheMatterWhenItIsSwitchedOn)
 {
     store("warnings", latin("off"));
     start();
@@ -192,7 +192,7 @@ TEST_F(WarningKeeperTest, IsQuietAfterAWake)
     EXPECT_EQ(shown(), QStringList());
 }
 
-TEST_F(WarningKeeperTest, TellsTheChargeLimitOfTheComputer)
+TEST_F(WarningKeeperTest, ShowsTheChargeLimitOfTheComputer)
 {
     store("warnings", latin("on"));
     platform.powerSources.limit = 60;

@@ -265,7 +265,7 @@ TEST_F(QDBatteryTest, IsNamedBySerialNumberAndPackedDate)
     EXPECT_EQ(battery.BatteryID(), text("8f52f112925cf0e5d7d69c9a0992b23e")); // of "9G3310DDWAQ17506"
 }
 
-TEST_F(QDBatteryTest, TheAdapterTellsItsRatingOrNothing)
+TEST_F(QDBatteryTest, TheAdapterGivesItsRatingOrNothing)
 {
     refresh();
     EXPECT_EQ(battery.AdapterWatt(), std::nullopt);

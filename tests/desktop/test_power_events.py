@@ -136,7 +136,7 @@ class PowerEvents(HelperCase):
             self.assertNotEqual(self.picture(), picture)
         self.assert_at_once(delays)
 
-    def test_the_first_time_shows_before_the_timers_could_tell_it(self):
+    def test_the_first_time_shows_before_the_timers_could_show_it(self):
         """Two refreshes of the timers are ten seconds apart; the second one may come twenty after the plug."""
         taken = []
         for is_plugged, time_left in ((True, "3:00"), (False, "3:00")):
@@ -177,7 +177,7 @@ class PowerEvents(HelperCase):
                                              "the other battery"))
         self.assert_at_once(delays)
 
-    def test_a_change_nobody_tells_waits_for_the_timers(self):
+    def test_a_change_nobody_announces_waits_for_the_timers(self):
         time.sleep(1.3)
         self.assert_waits_for_the_timers(lambda: None)
 

@@ -165,7 +165,7 @@ TEST_F(BatteryFactsTest, DemoShowsItsTimeThoughNoStateIsKnown)
     EXPECT_TRUE(shown(FactPlace::Menu).contains(QStringLiteral("Time until empty|4:41")));
 }
 
-TEST_F(BatteryFactsTest, ACaptionAloneTellsThatTheTimeIsNotEstimatedYet)
+TEST_F(BatteryFactsTest, ACaptionAloneSaysThatTheTimeIsNotEstimatedYet)
 {
     setBattery("AvgTimeToEmpty", 65535);
     make();
@@ -207,7 +207,7 @@ TEST_F(BatteryFactsTest, ALimitIsShownWhereThereIsOne)
     EXPECT_EQ(fact(FactId::State).value, QStringLiteral("Discharging...")) << "it is no state";
 }
 
-TEST_F(BatteryFactsTest, AgeTellsTheDate)
+TEST_F(BatteryFactsTest, AgeHasTheDateInItsToolTip)
 {
     make();
     EXPECT_EQ(fact(FactId::BatteryAge).toolTip, QStringLiteral("Manufactured 2014-03-02"));

@@ -36,7 +36,7 @@ TEST_F(ComputerFactsTest, NoBuiltOfASerialThatDoesNotDecode)
     }
 }
 
-TEST_F(ComputerFactsTest, AgeTellsTheDate)
+TEST_F(ComputerFactsTest, AgeHasTheDateInItsToolTip)
 {
     make();
     EXPECT_EQ(fact(FactId::ComputerAge).toolTip, QStringLiteral("Built 2014-05-12"));
@@ -73,7 +73,7 @@ TEST_F(ComputerFactsTest, NameIsTheCaptionOfTheType)
     EXPECT_EQ(fact(FactId::Computer).caption, QStringLiteral("Type"));
 }
 
-TEST_F(ComputerFactsTest, AComputerThatTellsNothing)
+TEST_F(ComputerFactsTest, AComputerThatGivesNothing)
 {
     platform.registry.entries.clear();
     platform.systemFiles.files.clear();

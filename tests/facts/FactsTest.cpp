@@ -136,7 +136,7 @@ TEST_F(FactsTest, WithoutABatteryDevicesAndComputerAreLeft)
                      u"Serial number|C02MN1TXF5YW"}));
 }
 
-TEST_F(FactsTest, ToolTipTellsStateAndTime)
+TEST_F(FactsTest, ToolTipHasStateAndTime)
 {
     EXPECT_EQ(toolTipText({}), QStringLiteral("No battery"));
     make();

@@ -203,7 +203,7 @@ class CommandLine(unittest.TestCase):
         self.assertIn("PFQQABCDEFG", report)
         self.assertNotIn("Built", report)
 
-    def test_report_tells_power_with_one_decimal_and_failures(self):
+    def test_report_has_power_with_one_decimal_and_failures(self):
         report = self.report_of({"CurrentCapacity": 50, "MaxCapacity": 100, "Voltage": 12345, "Amperage": -1000})
         self.assertRegex(report, "Discharging with +12.3 W\n")
         self.assertRegex(report, "Failures +No Errors\n")

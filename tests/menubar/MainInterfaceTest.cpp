@@ -107,7 +107,7 @@ TEST_F(MainInterfaceTest, AtMostFourFactsStandAboveTheCommands)
         EXPECT_FALSE(row.kind == Kind::Fact && row.enabled) << row.text.toStdString();
 }
 
-TEST_F(MainInterfaceTest, AFullBatteryIsToldOnce)
+TEST_F(MainInterfaceTest, AFullBatteryIsMentionedOnce)
 {
     fillUp();
     make();
@@ -132,7 +132,7 @@ TEST_F(MainInterfaceTest, AllOtherFactsAreDetails)
     EXPECT_FALSE(details.join(u'\n').contains(QStringLiteral("erial number"))) << "too long for a menu";
 }
 
-TEST_F(MainInterfaceTest, RowsWithNothingToTellAreHidden)
+TEST_F(MainInterfaceTest, RowsWithNothingToShowAreHidden)
 {
     setBattery("Manufacturer", {});
     setBattery("DeviceName", {});
@@ -148,7 +148,7 @@ TEST_F(MainInterfaceTest, RowsWithNothingToTellAreHidden)
     EXPECT_TRUE(all.startsWith(QStringLiteral("Discharging..."))) << "an empty title is no row";
 }
 
-TEST_F(MainInterfaceTest, OnlyDifferencesAreTold)
+TEST_F(MainInterfaceTest, OnlyDifferencesAreAnnounced)
 {
     interface.updateFacts(QStringLiteral("a"));
     changes = 0;
@@ -200,7 +200,7 @@ TEST_F(MainInterfaceTest, LongAndBrokenTextsStayOneShortRow)
     EXPECT_FALSE(name.contains(u'\n'));
 }
 
-TEST_F(MainInterfaceTest, TellsWhoeverShowsTheFacts)
+TEST_F(MainInterfaceTest, CallsBackWhoeverShowsTheFacts)
 {
     int updates = 0;
     interface.setFactsObserver([&updates] { ++updates; });

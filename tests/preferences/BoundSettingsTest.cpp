@@ -51,7 +51,7 @@ TEST_F(BoundSettingsTest, ReadsWhatAnotherProcessStores)
     EXPECT_FALSE(settings.showsIconsInMenuBar());
 }
 
-TEST_F(BoundSettingsTest, StoresTypedAndTellsOnce)
+TEST_F(BoundSettingsTest, StoresTypedAndAnnouncesOnce)
 {
     settings.setCustomStatusBar(QStringLiteral("%t"));
     EXPECT_EQ(changes, 1);

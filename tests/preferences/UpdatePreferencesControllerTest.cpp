@@ -67,7 +67,7 @@ TEST_F(UpdatePreferencesControllerTest, MakesItsViewWhenItIsAskedFor)
     EXPECT_EQ(view->parentWidget(), nullptr);
 }
 
-TEST_F(UpdatePreferencesControllerTest, TellsTheVersionAndWhereUpdatesComeFrom)
+TEST_F(UpdatePreferencesControllerTest, ShowsTheVersionAndWhereUpdatesComeFrom)
 {
     bundle.info = QVariantMap{{QStringLiteral("CFBundleShortVersionString"), QStringLiteral("0.5")},
                               {QStringLiteral("CFBundleVersion"), QStringLiteral("12")}};

@@ -44,7 +44,7 @@ TEST_F(DatabaseTest, StatementsRunAgainWithOtherValues)
     EXPECT_FALSE(wrong.isGood());
 }
 
-TEST_F(DatabaseTest, AFullDiskIsTold)
+TEST_F(DatabaseTest, AFullDiskIsReported)
 {
     database.run("PRAGMA max_page_count = 2");
     bool isTaken = true;
@@ -56,7 +56,7 @@ TEST_F(DatabaseTest, AFullDiskIsTold)
     EXPECT_FALSE(database.fault().isDamage);
 }
 
-TEST_F(DatabaseTest, AnotherProgramsLockIsTold)
+TEST_F(DatabaseTest, AnotherProgramsLockIsReported)
 {
     Database other;
     ASSERT_TRUE(open(other) && other.run("BEGIN IMMEDIATE"));
@@ -65,7 +65,7 @@ TEST_F(DatabaseTest, AnotherProgramsLockIsTold)
     EXPECT_EQ(database.fault().reason, QStringLiteral("another program keeps it locked"));
 }
 
-TEST_F(DatabaseTest, WhatMayNotBeWrittenIsTold)
+TEST_F(DatabaseTest, WhatMayNotBeWrittenIsReported)
 {
     database.run("PRAGMA query_only = 1");
     EXPECT_FALSE(database.run("INSERT INTO numbers VALUES (1)"));
@@ -73,7 +73,7 @@ TEST_F(DatabaseTest, WhatMayNotBeWrittenIsTold)
     EXPECT_EQ(database.fault().reason, QStringLiteral("Permission denied"));
 }
 
-TEST_F(DatabaseTest, DamageIsTold)
+TEST_F(DatabaseTest, DamageIsReported)
 {
     database.close();
     QFile file(path);

@@ -95,7 +95,7 @@ TEST_F(LateBatteryTest, ACounterWithSwappedBytesGivesWayToThePercentage)
     EXPECT_EQ(title(), QStringLiteral("87.0%"));
 }
 
-TEST_F(LateBatteryTest, APowerWithoutAVoltageIsShownAsTheDriverTellsIt)
+TEST_F(LateBatteryTest, APowerWithoutAVoltageIsShownAsTheDriverReportsIt)
 {
     tree.add("BAT0", {{"type", "Battery"},
                       {"status", "Discharging"},

@@ -72,7 +72,7 @@ TEST_F(BatteryViewTest, LiveWhileOpen)
     EXPECT_DOUBLE_EQ(find<menuIndicator>("stateOfChargeProgress")->percent(), 70);
 }
 
-TEST_F(BatteryViewTest, RowsWithNothingToTellAreHidden)
+TEST_F(BatteryViewTest, RowsWithNothingToShowAreHidden)
 {
     for (const char* key : {"Manufacturer", "DeviceName", "BatterySerialNumber", "Temperature",
                             "ManufactureDate", "CycleCount"})

@@ -21,7 +21,7 @@ TEST(NamedImages, OneObjectForEachName)
     EXPECT_FALSE(images.imageNamed(QStringLiteral("#bat34"))->isTemplate());
 }
 
-TEST(ProgressIndicator, TellsOfOtherFiltersOnly)
+TEST(ProgressIndicator, AnnouncesOtherFiltersOnly)
 {
     ProgressIndicator indicator;
     int changes = 0;

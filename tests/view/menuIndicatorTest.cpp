@@ -122,7 +122,7 @@ TEST_F(Bar, FillsFromTheRightInRightToLeft)
     EXPECT_FALSE(isFilled(10));
 }
 
-TEST_F(Bar, TellsAssistivePrograms)
+TEST_F(Bar, AnnouncesItselfToAssistivePrograms)
 {
     bar.setAccessibleName(QStringLiteral("Charge"));
     bar.setPercent(66.66);

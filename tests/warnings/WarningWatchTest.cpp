@@ -151,7 +151,7 @@ TEST_F(WarningWatchTest, NothingIsShownInTheMinuteAfterAWake)
     expect("12:03:00 show Battery low: 15% left\n");
 }
 
-TEST_F(WarningWatchTest, APauseIsASleepThatNobodyTold)
+TEST_F(WarningWatchTest, APauseIsASleepThatNobodyAnnounced)
 {
     begin(50);
     reading.moment += 600;
@@ -198,7 +198,7 @@ TEST_F(WarningWatchTest, NothingIsShownWhileCharging)
     expectNothing();
 }
 
-TEST_F(WarningWatchTest, ASteadyShorterTimeIsToldInPlaceOfThePercentage)
+TEST_F(WarningWatchTest, ASteadyShorterTimeIsShownInPlaceOfThePercentage)
 {
     begin(60);
     reading.minutesToEmpty = 19;
@@ -281,7 +281,7 @@ TEST_F(WarningWatchTest, ABatteryThatIsFullAtTheStartIsNoNews)
     expectNothing();
 }
 
-TEST_F(WarningWatchTest, TheComputersChargeLimitIsTold)
+TEST_F(WarningWatchTest, TheComputersChargeLimitIsAnnounced)
 {
     charge();
     reading.chargeLimit = 80;

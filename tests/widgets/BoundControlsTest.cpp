@@ -105,7 +105,7 @@ TEST_F(BoundControlsTest, EscapeWithNothingToTakeBackIsTheWindows)
     EXPECT_EQ(field.text(), QStringLiteral("storedx"));
 }
 
-TEST_F(BoundControlsTest, TellsWhenItsTextIsNotTheStoredOne)
+TEST_F(BoundControlsTest, AnnouncesWhenItsTextIsNotTheStoredOne)
 {
     QList<bool> told;
     QObject::connect(&field, &BoundLineEdit::pendingChanged, &field, [&] { told.append(field.isPending()); });

@@ -55,7 +55,7 @@ TEST_F(RadioMatrixTest, CellsStandBesideOrBelowEachOther)
     EXPECT_LT(cells[0]->y(), cells[1]->y());
 }
 
-TEST_F(RadioMatrixTest, TellsOfClicksAndArrowKeys)
+TEST_F(RadioMatrixTest, AnnouncesClicksAndArrowKeys)
 {
     cells[2]->click();
     EXPECT_EQ(matrix.selectedTag(), 2);

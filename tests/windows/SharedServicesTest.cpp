@@ -48,7 +48,7 @@ TEST_F(SharedServicesTest, TheHelperLearnsWhenSomebodyLooks)
     EXPECT_EQ(link.told(), (Messages{{.kind = Kind::Watched, .number = 1}}));
 }
 
-TEST_F(SharedServicesTest, WhatThePanelShowsIsKnownOnceTheHelperHasToldIt)
+TEST_F(SharedServicesTest, WhatThePanelShowsIsKnownOnceTheHelperHasSentIt)
 {
     CountingTitle own;
     SharedTitle title(helper, own);

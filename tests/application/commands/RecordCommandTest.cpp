@@ -199,7 +199,7 @@ TEST_F(RecordCommandTest, AJumpOfTheClockRemovesNothing)
     EXPECT_EQ(samples().size(), 1U);
 }
 
-TEST_F(RecordCommandTest, WhatIsDamagedIsSetAsideAndToldOnce)
+TEST_F(RecordCommandTest, WhatIsDamagedIsSetAsideAndNamedOnce)
 {
     write(database(), "damaged");
     write(archive(), "damaged too");
@@ -211,7 +211,7 @@ TEST_F(RecordCommandTest, WhatIsDamagedIsSetAsideAndToldOnce)
     EXPECT_TRUE(lines[1].startsWith(archive() + text(" is damaged, set aside as ")));
 }
 
-TEST_F(RecordCommandTest, WhatIsDamagedIsToldWithoutSamplesToo)
+TEST_F(RecordCommandTest, WhatIsDamagedIsNamedWithoutSamplesToo)
 {
     write(database(), "damaged");
     powerHistory.recorded.reset();

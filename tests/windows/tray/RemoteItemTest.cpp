@@ -155,7 +155,7 @@ TEST_F(RemoteItemTest, ChangedRowsArrive)
     EXPECT_EQ(rows.front().properties.value(u("label")), u("Health\t92 %"));
 }
 
-TEST_F(RemoteItemTest, TheEndOfTheConnectionIsTold)
+TEST_F(RemoteItemTest, TheEndOfTheConnectionIsAnnounced)
 {
     makeRemote();
     close();

@@ -47,7 +47,7 @@ TEST_F(TrayMenuTest, ShowsTheRowsLiterally)
     EXPECT_TRUE(action(4)->isEnabled());
 }
 
-TEST_F(TrayMenuTest, TellsWhichRowIsChosen)
+TEST_F(TrayMenuTest, AnnouncesWhichRowIsChosen)
 {
     action(2)->menu()->actions().at(0)->trigger();
     action(4)->trigger();

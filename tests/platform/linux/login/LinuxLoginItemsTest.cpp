@@ -195,7 +195,7 @@ TEST_F(LinuxLoginItemsTest, AProgramAtAPathThatNotAllSessionsReadIsStartedThroug
     }
 }
 
-TEST_F(LinuxLoginItemsTest, AProgramThatNotAllSessionsStartIsToldInOneLine)
+TEST_F(LinuxLoginItemsTest, AProgramThatNotAllSessionsStartIsNamedInOneLine)
 {
     const QString bundle = folder.path(QStringLiteral("a=b/Quindle-Helper.app"));
     QDir().mkpath(bundle + QStringLiteral("/Contents/Linux"));

@@ -50,7 +50,7 @@ TEST_F(LoginItemsFaultsTest, AFileWithoutTheRightToReadItIsPassedOver)
     EXPECT_FALSE(isLoginItem());
 }
 
-TEST_F(LoginItemsFaultsTest, AFileInPlaceOfTheFolderChangesNothingAndIsToldOnce)
+TEST_F(LoginItemsFaultsTest, AFileInPlaceOfTheFolderChangesNothingAndIsLoggedOnce)
 {
     ASSERT_TRUE(QDir(folder.entries()).removeRecursively());
     AutostartFolder::write(folder.entries(), "file");
@@ -64,7 +64,7 @@ TEST_F(LoginItemsFaultsTest, AFileInPlaceOfTheFolderChangesNothingAndIsToldOnce)
     EXPECT_EQ(QFileInfo(folder.entries()).size(), 4);
 }
 
-TEST_F(LoginItemsFaultsTest, AReadOnlyFolderChangesNothingAndIsToldOnce)
+TEST_F(LoginItemsFaultsTest, AReadOnlyFolderChangesNothingAndIsLoggedOnce)
 {
     folder.addEntry("battery.desktop", helperLine);
     for (const QString& path : {folder.path({}), folder.entries()})

@@ -103,7 +103,7 @@ TEST_F(Contents, TheUsualBoundIsThreeSeconds)
     EXPECT_LT(timer.elapsed(), 15'000);
 }
 
-TEST_F(Contents, NothingOfTheUserIsTold)
+TEST_F(Contents, NothingAboutTheUserIsSent)
 {
     EXPECT_EQ(get("/redirect-cookie"), "GET /headers HTTP/1.1\r\nHost: " + server->host().toLatin1() +
                                            "\r\nUser-Agent: Quindle-Helper\r\nAccept-Encoding: gzip\r\n"

@@ -176,7 +176,7 @@ struct UeventTest : AttributeFaultsTest
     }
 };
 
-TEST_F(UeventTest, TellsAllOfASupplyInOneRead)
+TEST_F(UeventTest, HoldsAllOfASupplyInOneRead)
 {
     EXPECT_EQ(property(chargeKey), qint64{3000});
     EXPECT_EQ(property(cyclesKey), qint64{9});

@@ -50,7 +50,7 @@ TEST(CombinedBattery, AddsEnergiesAtTheFirstVoltage)
     EXPECT_DOUBLE_EQ(combinedCycleCount(system.batteries()).value(), 9);
 }
 
-TEST(CombinedBattery, OneThatTellsTooLittleIsLeftOutOfTheSum)
+TEST(CombinedBattery, OneThatReportsTooLittleIsLeftOutOfTheSum)
 {
     const System system({{{"capacity", "10"}}, sixVolts, {{"charge_full", "900000"}}});
     EXPECT_DOUBLE_EQ(combinedCharge(system.batteries()).value(), 3000 * 6 / 11.4);

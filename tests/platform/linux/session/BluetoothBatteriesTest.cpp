@@ -126,7 +126,7 @@ struct BluetoothBatteriesTest : testing::Test
     BluetoothBatteries batteries{60'000};
 };
 
-TEST_F(BluetoothBatteriesTest, ConnectedDevicesWithABatteryAreTold)
+TEST_F(BluetoothBatteriesTest, ConnectedDevicesWithABatteryAreFound)
 {
     BluezObject gone = device(QStringLiteral("Gone"), percent(4));
     gone[QStringLiteral("org.bluez.Device1")][QStringLiteral("Connected")] = false;
@@ -150,7 +150,7 @@ TEST_F(BluetoothBatteriesTest, NewsAreSeenByWhoLooksOn)
     EXPECT_TRUE(comesTrue([&] { return latest() == QStringLiteral("AA:BB:CC:DD:EE:FF Headset 69"); }));
 }
 
-TEST_F(BluetoothBatteriesTest, AtMost32AreTold)
+TEST_F(BluetoothBatteriesTest, AtMost32AreGiven)
 {
     bluez->show(QList<BluezObject>(5000, device(QStringLiteral("Headset"), percent(70))));
     bluez->run();
@@ -188,7 +188,7 @@ TEST_F(BluetoothBatteriesTest, WithoutABusThereAreNone)
     EXPECT_EQ(latest(), QString());
 }
 
-TEST(BluetoothBatteries, OtherMessagesTellNothing)
+TEST(BluetoothBatteries, OtherMessagesGiveNothing)
 {
     QDBusMessage question = QDBusMessage::createMethodCall(QStringLiteral("org.bluez"), QStringLiteral("/"),
                                                            QStringLiteral("a.b"), QStringLiteral("c"));

@@ -107,7 +107,7 @@ TEST(TimerSchedule, PunctualTimersUseNoTolerance)
     EXPECT_DOUBLE_EQ(*schedule.nextWakeUp(), 110);
 }
 
-TEST(TimerSchedule, TellsTheWakeUpsAheadWhereTicksMayBeLeftOut)
+TEST(TimerSchedule, KnowsTheWakeUpsAheadWhereTicksMayBeLeftOut)
 {
     TimerSchedule schedule;
     schedule.add(0, 5, 5);

@@ -62,7 +62,7 @@ protected:
     BacklogGuard guard{[this] { ++overruns; }};
 };
 
-TEST_F(BacklogGuardTest, TellsOnceOfACallerWhoDoesNotWaitAndHearsNoMoreOfIt)
+TEST_F(BacklogGuardTest, ReportsACallerWhoDoesNotWaitOnceAndHearsNoMoreOfIt)
 {
     callWithoutWaiting(3000);
     EXPECT_TRUE(comesTrue([this] { return overruns > 0; }));

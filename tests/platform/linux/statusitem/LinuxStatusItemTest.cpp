@@ -99,7 +99,7 @@ TEST_F(LinuxStatusItemTest, imageChange)
     EXPECT_EQ(pixmaps("IconPixmap").size(), 3) << "a square host gets the number";
 }
 
-TEST_F(LinuxStatusItemTest, attentionIsToldWithAPictureOfItsOwn)
+TEST_F(LinuxStatusItemTest, attentionIsAskedForWithAPictureOfItsOwn)
 {
     makeRegisteredItem();
     EXPECT_EQ(host.itemProperty("Status"), u("Active"));

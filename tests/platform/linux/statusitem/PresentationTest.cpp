@@ -76,7 +76,7 @@ TEST(Presentation, ANumberStandsForAWidePictureWherePicturesAreSquare)
     EXPECT_EQ(present(unknown, host).picture.imageName, u("#nobat"));
 }
 
-TEST(Presentation, ANumberTellsOfPowerAndIconsHaveTheirOwnBolt)
+TEST(Presentation, ANumberShowsPowerAndIconsHaveTheirOwnBolt)
 {
     ItemContents contents{u("87.0%"), {}, u("87"), {}, 12.0};
     EXPECT_FALSE(present(contents, squareHost).picture.hasBolt);
@@ -88,7 +88,7 @@ TEST(Presentation, ANumberTellsOfPowerAndIconsHaveTheirOwnBolt)
     EXPECT_FALSE(present(contents, labelHost).picture.hasBolt);
 }
 
-TEST(Presentation, WhatIsSeenOfItIsToldForAWindow)
+TEST(Presentation, WhatIsSeenOfItIsGivenToAWindow)
 {
     using Form = ShownItem::Form;
     struct Case

@@ -68,7 +68,7 @@ TEST_F(StatusItemMenuTest, menuNeedsNoUpdateBeforeItIsShown)
     EXPECT_EQ(qdbus_cast<QList<int>>(answer.arguments().value(1)), QList<int>{9});
 }
 
-TEST_F(StatusItemMenuTest, changedRowsAreToldOnceAndWithoutANewLayout)
+TEST_F(StatusItemMenuTest, changedRowsAreAnnouncedOnceAndWithoutANewLayout)
 {
     makeRegisteredItem();
     menu.setText(1, u("100 %"));

@@ -126,7 +126,7 @@ TEST_F(UPowerHistoryTest, OfSeveralBatteriesThereIsNothing)
     EXPECT_FALSE(UPowerHistory(m_connection).lastWeek());
 }
 
-TEST_F(UPowerHistoryTest, ABatteryThatTellsNoHistoryIsNoHistory)
+TEST_F(UPowerHistoryTest, ABatteryWithoutAHistoryGivesNone)
 {
     ASSERT_NO_FATAL_FAILURE(startService());
     addBattery(QStringLiteral("BAT0"));
