@@ -64,13 +64,15 @@ SavedSnapshots::SavedSnapshots(const QString& path, QObject* parent)
 
 void SavedSnapshots::load()
 {
-    const QFileInfo file(m_path);
     // A century of records takes seconds to read, so only a changed file is read again.
-    if (isBusy() || (m_size >= 0 && file.lastModified() == m_modified && file.size() == m_size))
-        return;
-    m_modified = file.lastModified();
-    m_size = file.size();
-    run([](SnapshotArchive&) { return QString(); });
+    if (!isBusy() && m_file != stateOf(m_path))
+        run([](SnapshotArchive&) { return QString(); });
+}
+
+SavedSnapshots::FileState SavedSnapshots::stateOf(const QString& path)
+{
+    const QFileInfo file(path);
+    return {file.lastModified(), file.size()};
 }
 
 void SavedSnapshots::add(const QVariantMap& record)
@@ -123,8 +125,10 @@ void SavedSnapshots::run(const Change& change)
     const auto work = [path = m_path, change, reportProgress] {
         SnapshotArchive archive(path);
         const QString line = change(archive);
+        // Before it is read: what another program writes meanwhile is read the next time.
+        const FileState file = stateOf(path);
         ArchivedRecords archived = archive.read(reportProgress);
-        return Result{std::move(archived.records), std::move(archived.fault), line};
+        return Result{std::move(archived.records), std::move(archived.fault), line, file};
     };
     m_work.run(work, [this](const Result& result) { take(result); });
 }
@@ -134,6 +138,7 @@ void SavedSnapshots::take(const Result& result)
     setBusy(m_tasks - 1);
     m_records = result.records;
     m_fault = result.fault;
+    m_file = result.file;
     Q_EMIT changed();
     if (!result.line.isEmpty())
         Q_EMIT message(result.line);

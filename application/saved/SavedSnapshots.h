@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QDateTime>
 #include <QObject>
@@ -55,15 +56,27 @@ Q_SIGNALS:
     void message(const QString& line);
 
 private:
+    /// Whether the file has changed since it was read.
+    struct FileState
+    {
+        QDateTime modified;
+        qint64 size = -1;
+
+        bool operator==(const FileState&) const = default;
+    };
+
     struct Result
     {
         QVariantList records;
         QString fault;
         QString line; ///< for the user; empty for none
+        FileState file;
     };
 
     /// Changes the archive. Gives the line for the user.
     using Change = std::function<QString(SnapshotArchive& archive)>;
+
+    static FileState stateOf(const QString& path);
 
     void run(const Change& change);
     void take(const Result& result);
@@ -72,8 +85,7 @@ private:
     QString m_path;
     QVariantList m_records;
     QString m_fault;
-    QDateTime m_modified; ///< of the file that was read last, as the size
-    qint64 m_size = -1;
+    std::optional<FileState> m_file; ///< when it was read last
     int m_tasks = 0;
     BackgroundWork m_work;
 };

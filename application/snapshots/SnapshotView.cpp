@@ -1,6 +1,8 @@
 #include "application/snapshots/SnapshotView.h"
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
 #include <QDateTime>
 #include <QEvent>
@@ -11,6 +13,7 @@
 #include "application/snapshots/SnapshotTable.h"
 #include "application/snapshots/SortHeader.h"
 #include "facts/ValueTexts.h"
+#include "records/SnapshotIdentity.h"
 #include "widgets/IsolatedCells.h"
 
 namespace quindle {
@@ -26,6 +29,13 @@ int widestDate(const QFontMetrics& metrics)
         widest = std::max(widest, metrics.horizontalAdvance(snapshotDateText(evening)));
     }
     return widest;
+}
+
+using RecordKey = std::pair<QDateTime, QString>;
+
+RecordKey keyOf(const QVariant& record)
+{
+    return {snapshotDate(record).value_or(QDateTime()), snapshotBattery(record)};
 }
 
 } // namespace
@@ -52,7 +62,21 @@ SnapshotView::SnapshotView(QWidget* parent)
 
 void SnapshotView::setRecords(const QVariantList& records)
 {
+    const QVariantList selected = selectedRecords();
     m_table->setRecords(records);
+    select(selected);
+}
+
+void SnapshotView::select(const QVariantList& records)
+{
+    std::set<RecordKey> wanted;
+    for (const QVariant& record : records)
+        wanted.insert(keyOf(record));
+    QItemSelection selection;
+    for (int row = 0; !wanted.empty() && row < m_table->rowCount(); ++row)
+        if (wanted.contains(keyOf(m_table->record(row))))
+            selection.select(m_table->index(row, 0), m_table->index(row, snapshotColumns - 1));
+    selectionModel()->select(selection, QItemSelectionModel::Select);
 }
 
 QVariantList SnapshotView::selectedRecords() const

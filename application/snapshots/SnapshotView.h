@@ -10,7 +10,7 @@ namespace quindle {
 class SnapshotTable;
 
 /// The list of snapshots: rows that can be selected, the newest first until another order is chosen by the
-/// captions. The selection survives sorting.
+/// captions. The selection survives sorting, and new records.
 class SnapshotView : public QTableView
 {
     Q_OBJECT
@@ -32,6 +32,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void select(const QVariantList& records);
     void fitToFont();
     void widenFor(SnapshotColumn column, int textWidth);
 

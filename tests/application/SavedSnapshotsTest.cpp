@@ -52,6 +52,10 @@ TEST_F(SavedSnapshotsTest, AreReadAgainOnlyWhenTheFileHasChanged)
     snapshots.load();
     wait();
     EXPECT_EQ(snapshots.records().size(), 2) << "saved by another process";
+    snapshots.add(recordAt(3000));
+    wait();
+    snapshots.load();
+    EXPECT_FALSE(snapshots.isBusy()) << "a change of its own was read with it";
 }
 
 TEST_F(SavedSnapshotsTest, SaysHowFarTheReadingIs)

@@ -190,6 +190,21 @@ TEST_F(SnapshotsPageTest, OneIsSavedNow)
     EXPECT_EQ(storedCount(), 1);
 }
 
+TEST_F(SnapshotsPageTest, TheSelectionSurvivesOthersThatAreSaved)
+{
+    store(3);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(3));
+    table()->selectRow(1);
+    SnapshotArchive(archive()).append(recordAt(1430000000, 3500));
+    Q_EMIT program->refreshed();
+    ASSERT_TRUE(hasRows(4));
+    EXPECT_EQ(cell(2, 2), latin("3,999 mAh"));
+    ASSERT_EQ(table()->selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(table()->selectionModel()->selectedRows()[0].row(), 2);
+    EXPECT_TRUE(control<QPushButton>("Delete")->isEnabled());
+}
+
 TEST_F(SnapshotsPageTest, DeletedOnesComeBack)
 {
     store(4);
