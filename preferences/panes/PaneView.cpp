@@ -16,9 +16,11 @@ namespace quindle {
 
 namespace {
 
-// The first one of a column of radio buttons.
+// That of a text, or of the first one of a column of radio buttons.
 int firstLineHeight(const QWidget& control)
 {
+    if (const auto* text = qobject_cast<const QLabel*>(&control))
+        return text->minimumSizeHint().height(); // the other hint is for all lines of a narrower text
     const auto* first = control.findChild<QRadioButton*>();
     return (first ? first : &control)->sizeHint().height();
 }

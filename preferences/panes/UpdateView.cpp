@@ -19,6 +19,9 @@ UpdateView::UpdateView(const QString& version, const QString& updateSource)
     m_ui->setupUi(this);
     m_ui->versionLabel->setText(version);
     m_ui->updateSourceLabel->setText(updateSource);
+    // Text that can be selected is aligned by its own direction, and a version has none.
+    if (isRightToLeft())
+        m_ui->versionLabel->setAlignment(Qt::AlignTop | Qt::AlignRight | Qt::AlignAbsolute);
     fitToFont();
     fixWidth();
 }

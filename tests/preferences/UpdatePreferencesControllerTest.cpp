@@ -80,6 +80,40 @@ TEST_F(UpdatePreferencesControllerTest, OffersNothingToPress)
     EXPECT_TRUE(pane.view().findChildren<QAbstractButton*>().isEmpty());
 }
 
+TEST(UpdateView, LeavesNoEmptyLineBelowAText)
+{
+    for (int words = 1; words <= 40; ++words) {
+        UpdateView view(QStringLiteral("1"), QStringLiteral("version ").repeated(words).trimmed());
+        view.resize(view.width(), view.heightForWidth(view.width()));
+        view.grab();
+        const auto* label = view.findChild<QLabel*>(QStringLiteral("updateSourceLabel"));
+        ASSERT_TRUE(label);
+        EXPECT_EQ(label->height(), label->heightForWidth(label->width())) << words << " words";
+    }
+}
+
+TEST(UpdateView, FromRightToLeftTheVersionStandsBesideItsCaption)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    UpdateView view(QStringLiteral("0.1.0 (1)"), QStringLiteral("-"));
+    view.resize(view.sizeHint());
+    view.grab();
+    auto* label = view.findChild<QLabel*>(QStringLiteral("versionLabel"));
+    ASSERT_TRUE(label);
+    const QImage drawn = label->grab().toImage();
+    const auto isDrawnAt = [&drawn](int x) {
+        for (int y = 0; y < drawn.height(); ++y)
+            if (drawn.pixelColor(x, y) != drawn.pixelColor(0, 0))
+                return true;
+        return false;
+    };
+    int last = drawn.width() - 1;
+    while (last > 0 && !isDrawnAt(last))
+        --last;
+    EXPECT_GT(last, drawn.width() - label->fontMetrics().height());
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
 TEST_F(UpdatePreferencesControllerTest, GrowsWithTheFont)
 {
     for (const double factor : {1.0, 2.0}) {
