@@ -25,14 +25,16 @@ QLocale shownLocale()
     return QLocale(translated("Numbers", "C", "the language's locale, such as de_DE"));
 }
 
+bool runsRightToLeft()
+{
+    return shownLocale().textDirection() == Qt::RightToLeft;
+}
+
 QString isolatedText(const QString& text)
 {
     constexpr QChar firstStrongIsolate(u'\u2068');
     constexpr QChar popIsolate(u'\u2069');
-    const bool isMirrored = shownLocale().textDirection() == Qt::RightToLeft;
-    // Parts that are isolated already run from right to left among each other.
-    const bool isNeeded = isMirrored && !text.isEmpty() && !text.startsWith(firstStrongIsolate);
-    return isNeeded ? firstStrongIsolate + text + popIsolate : text;
+    return runsRightToLeft() && !text.isEmpty() ? firstStrongIsolate + text + popIsolate : text;
 }
 
 QString decimalSign()

@@ -20,6 +20,9 @@ QString translated(const char* context, const char* text, const char* about, qin
 /// The locale of the language in force; C for English.
 QLocale shownLocale();
 
+/// Whether the language in force runs from right to left.
+bool runsRightToLeft();
+
 /// `text` with a direction of its own where the language in force runs from right to left, so that its sign,
 /// number and unit, or words of another language, keep their order beside other texts.
 QString isolatedText(const QString& text);

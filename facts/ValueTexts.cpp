@@ -106,7 +106,10 @@ QString besideEachOther(const QString& first, const QString& second)
 {
     if (first.isEmpty() || second.isEmpty())
         return first + second;
-    return isolatedText(first) + QStringLiteral(u" \u00B7 ") + isolatedText(second);
+    const QString both = isolatedText(first) + QStringLiteral(u" \u00B7 ") + isolatedText(second);
+    // Between isolated texts nothing has a direction that the whole could take.
+    constexpr QChar rightToLeftMark(u'\u200F');
+    return runsRightToLeft() ? rightToLeftMark + both : both;
 }
 
 QString missingValueText()

@@ -193,8 +193,9 @@ TEST_F(FactsTest, FromRightToLeftValuesBesideOtherTextsAreIsolated)
 {
     const TestTranslation arabic(u("C"), u("ar_LY"));
     make();
-    EXPECT_EQ(toolTipText(sources()), QStringLiteral(u"\u2068Discharging...\u2069 \u00B7 \u206812.4 W\u2069\n"
-                                                     u"Time until empty \u20683:42\u2069"));
+    EXPECT_EQ(toolTipText(sources()),
+              QStringLiteral(u"\u2068\u200F\u2068Discharging...\u2069 \u00B7 \u206812.4 W\u2069\u2069\n"
+                             u"Time until empty \u20683:42\u2069"));
     EXPECT_EQ(factText(fact(FactId::Cycles), FactPlace::Menu), QStringLiteral(u"\u20681,293 cycles\u2069"));
     // Alone in its label, where it may be copied.
     EXPECT_EQ(factText(fact(FactId::Cycles), FactPlace::View), u("1,293 cycles"));

@@ -8,6 +8,7 @@
 
 #include "tests/support/NotFinite.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/TestTranslation.h"
 
 using namespace quindle;
 
@@ -100,6 +101,9 @@ TEST(ValueTexts, JoinsWhatIsThere)
     EXPECT_EQ(besideEachOther(one, two), QStringLiteral(u"one \u00B7 two"));
     EXPECT_EQ(besideEachOther(one, QString()), one);
     EXPECT_EQ(besideEachOther(QString(), two), two);
+    const TestTranslation arabic(QStringLiteral("C"), QStringLiteral("ar_LY"));
+    EXPECT_EQ(besideEachOther(one, two), QStringLiteral(u"\u200F\u2068one\u2069 \u00B7 \u2068two\u2069"));
+    EXPECT_EQ(besideEachOther(one, QString()), one);
 }
 
 } // namespace

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include <QLocale>
-
 #include "common/Translation.h"
 #include "platform/linux/statusitem/MenuLayout.h"
 
@@ -75,7 +73,7 @@ QString MenuAdaptor::status() const
 
 QString MenuAdaptor::textDirection() const
 {
-    return shownLocale().textDirection() == Qt::RightToLeft ? QStringLiteral("rtl") : QStringLiteral("ltr");
+    return runsRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr");
 }
 
 QStringList MenuAdaptor::iconThemePath() const
