@@ -183,13 +183,22 @@ class Desktop:
         self.env["XDG_SESSION_TYPE"] = "x11"
         if self.is_wayland:
             return
-        self.start("openbox")
-        wait_for(lambda: "window id" in self.call("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        self._start_window_manager()
         self.call("xsetroot", "-solid", self.background)
         if self.compositor:  # it shows the background only from a picture
             self.call("hsetroot", "-solid", self.background)
             self.start("xcompmgr", "-n")
             time.sleep(0.5)
+
+    def _start_window_manager(self):
+        """Without one no window ever has the keyboard."""
+        for _ in range(3):
+            process = self.start("openbox")
+            if wait_for(lambda: "window id" in self.call("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")):
+                return
+            process.kill()
+            process.wait()
+        raise RuntimeError("the window manager does not start:\n" + self.log_path.read_text(errors="replace")[-2000:])
 
     def _start_sway(self):
         self.env.update({"XDG_SESSION_TYPE": "wayland", "WLR_BACKENDS": "x11" if self.pointer else "headless",

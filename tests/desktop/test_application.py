@@ -47,13 +47,19 @@ class ApplicationCase(PreferencesCase):
         active = self.desktop.call("xdotool", "getactivewindow")
         return active in self.shown()
 
+    def keyboard_report(self):
+        """What is to be known where no window gets the keyboard."""
+        window_manager = self.desktop.call("xprop", "-root", "_NET_SUPPORTING_WM_CHECK", "_NET_ACTIVE_WINDOW")
+        log = self.desktop.log_path.read_text(errors="replace")[-1500:]
+        return f"the window has no keyboard; shown: {self.shown()}, {window_manager}, log: {log}"
+
     def activate(self):
         for window in self.shown():
             self.desktop.call("xdotool", "windowactivate", window)
 
     def show_page(self, page):
         # A busy window manager may not have given it the keyboard; a person would click on it.
-        self.assertTrue(any(wait_for(self.is_active, 5) or self.activate() for _ in range(8)), "the window has no keyboard")
+        self.assertTrue(any(wait_for(self.is_active, 5) or self.activate() for _ in range(8)), self.keyboard_report())
         self.desktop.key(f"ctrl+{PAGES.index(page) + 1}")
         self.assertTrue(wait_for(lambda: self.page() == page), f"the page is {self.page()}")
 
