@@ -94,7 +94,8 @@ class Windows(WindowsCase):
             begun = time.monotonic()
             self.desktop.activate_item()
             self.assertTrue(wait_for(lambda: not self.processes()), "it stays")
-            self.assertGreater(time.monotonic() - begun, 0.7, "it ended at once")
+            # Its timer may fire early by a part.
+            self.assertGreater(time.monotonic() - begun, 0.4, "it ended at once")
         self.assert_runs_on(process)
         self.assertEqual(self.logged("program of the windows"), 0)
 
