@@ -1,7 +1,7 @@
 #include "application/snapshots/SnapshotView.h"
 
 #include <algorithm>
-#include <set>
+#include <map>
 #include <utility>
 
 #include <QDateTime>
@@ -69,13 +69,16 @@ void SnapshotView::setRecords(const QVariantList& records)
 
 void SnapshotView::select(const QVariantList& records)
 {
-    std::set<RecordKey> wanted;
+    // Whole records are compared: several may have no date, and what is selected may be deleted.
+    std::map<RecordKey, QVariantList> wanted;
     for (const QVariant& record : records)
-        wanted.insert(keyOf(record));
+        wanted[keyOf(record)].append(record);
     QItemSelection selection;
-    for (int row = 0; !wanted.empty() && row < m_table->rowCount(); ++row)
-        if (wanted.contains(keyOf(m_table->record(row))))
+    for (int row = 0; !wanted.empty() && row < m_table->rowCount(); ++row) {
+        const auto alike = wanted.find(keyOf(m_table->record(row)));
+        if (alike != wanted.end() && alike->second.contains(QVariant(m_table->record(row))))
             selection.select(m_table->index(row, 0), m_table->index(row, snapshotColumns - 1));
+    }
     selectionModel()->select(selection, QItemSelectionModel::Select);
 }
 

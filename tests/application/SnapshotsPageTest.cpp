@@ -10,6 +10,7 @@
 #include "application/pages/HistoryPage.h"
 #include "application/snapshots/CompareDialog.h"
 #include "application/snapshots/SnapshotRows.h"
+#include "application/snapshots/SnapshotView.h"
 #include "application/snapshots/SnapshotsPage.h"
 #include "charts/TimeSeriesChart.h"
 #include "platform/posix/FileLock.h"
@@ -203,6 +204,22 @@ TEST_F(SnapshotsPageTest, TheSelectionSurvivesOthersThatAreSaved)
     ASSERT_EQ(table()->selectionModel()->selectedRows().size(), 1);
     EXPECT_EQ(table()->selectionModel()->selectedRows()[0].row(), 2);
     EXPECT_TRUE(control<QPushButton>("Delete")->isEnabled());
+}
+
+TEST_F(SnapshotsPageTest, OfThoseWithoutADateOnlyTheSelectedOneStaysSelected)
+{
+    QVariantList dateless{recordAt(1000, 3000), recordAt(2000, 2000)};
+    for (QVariant& record : dateless) {
+        QVariantMap values = record.toMap();
+        values.remove(latin("Data.SnapshotDate"));
+        record = values;
+    }
+    SnapshotView view;
+    view.setRecords(dateless);
+    view.selectRow(0);
+    const QVariantList selected = view.selectedRecords();
+    view.setRecords(dateless);
+    EXPECT_EQ(view.selectedRecords(), selected);
 }
 
 TEST_F(SnapshotsPageTest, DeletedOnesComeBack)
