@@ -20,7 +20,7 @@ function(quindle_counts_coverage name)
 endfunction()
 
 # Most of a cold build's time goes into reading Qt's headers once for each small file, so the files of a library are
-# compiled a few at a time. Each file as itself: QUINDLE_FILE_BY_FILE, and scripts/check-files in CI.
+# compiled a few at a time. Each file as itself: QUINDLE_FILE_BY_FILE, and scripts/check-files.
 function(quindle_compiles_together name at_a_time)
     if(NOT QUINDLE_FILE_BY_FILE)
         set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${at_a_time})
@@ -79,4 +79,7 @@ endfunction()
 # moc made of its header, at its end: compiled by itself that would read every header once more.
 function(quindle_uses_moc name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
+    # So what is left of moc's is empty, and needs no header read.
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
+        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
 endfunction()

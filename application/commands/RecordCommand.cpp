@@ -132,7 +132,8 @@ int recordHistory(const Platform& platform, PowerHistory& powerHistory, QIODevic
         return EX_OK;
     const QStringList folders = platform.userDirectories.applicationSupportDirectories();
     if (folders.isEmpty()) {
-        report(QStringLiteral("there is no folder for the history: the user has no home folder"));
+        report(QStringLiteral("there is no folder for the history: the user has no home folder, "
+                              "or the computer is a recorded one"));
         return EX_CANTCREAT;
     }
     Recorder recorder(platform, folders.constFirst(), report);

@@ -22,7 +22,7 @@ QVariantMap record(const QDateTime& date, qint64 fullCharge, double health = 90,
             {QStringLiteral("Mac.Model"), QStringLiteral("ThinkPad T14")}};
 }
 
-QDateTime day(int number)
+QDateTime morningOf(int number)
 {
     return QDateTime(QDate(2026, 3, number), QTime(9, 30), Qt::UTC);
 }
@@ -30,7 +30,7 @@ QDateTime day(int number)
 TEST(SnapshotRowsTest, ValuesOfARecord)
 {
     const ScopedTimeZone zone("Europe/Berlin");
-    const SnapshotRow row = snapshotRow(record(day(1), 4012, 80.24, 293));
+    const SnapshotRow row = snapshotRow(record(morningOf(1), 4012, 80.24, 293));
     EXPECT_EQ(row.date.time(), QTime(10, 30)) << "of this place";
     EXPECT_EQ(row.health, std::optional(80.24));
     EXPECT_EQ(row.fullCharge, 4012);
@@ -56,14 +56,14 @@ TEST(SnapshotRowsTest, WhatIsNotKnownIsNothing)
     EXPECT_EQ(row.fullCharge, 0);
     EXPECT_EQ(row.computer, QString());
     for (const double odd : {std::numeric_limits<double>::infinity(), std::nan(""), 0.0, -5.0})
-        EXPECT_FALSE(snapshotRow(record(day(1), 1, odd)).health) << odd;
+        EXPECT_FALSE(snapshotRow(record(morningOf(1), 1, odd)).health) << odd;
 }
 
 TEST(SnapshotRowsTest, TheNewestComesFirstAndWhatHasNoDateLast)
 {
     const QVariantMap undated{{QStringLiteral("Battery.FullChargeCapacity"), qint64{1}}};
     const QVariantList sorted =
-        newestFirst({record(day(2), 2), undated, record(day(3), 3), record(day(1), 1)});
+        newestFirst({record(morningOf(2), 2), undated, record(morningOf(3), 3), record(morningOf(1), 1)});
     QList<qint64> order;
     for (const QVariant& one : sorted)
         order.append(one.toMap().value(QStringLiteral("Battery.FullChargeCapacity")).toLongLong());
@@ -74,8 +74,8 @@ TEST(SnapshotRowsTest, TheNewestComesFirstAndWhatHasNoDateLast)
 TEST(SnapshotRowsTest, ComparedTheOlderOneFirst)
 {
     const ScopedTimeZone zone("UTC");
-    const QVariantMap older = record(day(1), 4100, 82, 290);
-    const QVariantMap newer = record(day(11), 4012, 80.24, 293);
+    const QVariantMap older = record(morningOf(1), 4100, 82, 290);
+    const QVariantMap newer = record(morningOf(11), 4012, 80.24, 293);
     const auto rows = comparedSnapshots(newer, older);
     EXPECT_EQ(rows, comparedSnapshots(older, newer)) << "whichever way they are given";
     ASSERT_EQ(rows.size(), 7U);
@@ -91,7 +91,7 @@ TEST(SnapshotRowsTest, ComparedTheOlderOneFirst)
 
 TEST(SnapshotRowsTest, WhatOneOfTwoLacksHasNoDifference)
 {
-    const auto rows = comparedSnapshots(record(day(1), 4100), {});
+    const auto rows = comparedSnapshots(record(morningOf(1), 4100), {});
     for (const ComparedRow& row : rows) {
         EXPECT_EQ(row.difference, QString()) << row.caption.toStdString();
         EXPECT_TRUE(row.older == QStringLiteral("–") || row.newer == QStringLiteral("–"));

@@ -8,7 +8,7 @@ using namespace quindle;
 
 namespace {
 
-struct Row
+struct StateRow
 {
     BatteryStateTexts texts;
     const char* state;
@@ -23,7 +23,7 @@ TEST(BatteryStateRule, Table)
     const QString time = QStringLiteral("1:35");
     // The value for "not estimated yet" is formatted like any other time; it is not shown.
     const QString formattedUnknown = QStringLiteral("1092:15");
-    const Row rows[] = {
+    const StateRow rows[] = {
         {chargedTexts(), "Charged", "Battery usage", "Battery fully charged", ""},
         {chargingTexts(time, false), "Charging...", "Charging with", "Time until full", "1:35"},
         {chargingTexts(formattedUnknown, true), "Charging...", "Charging with", "Calculating...", ""},
@@ -35,7 +35,7 @@ TEST(BatteryStateRule, Table)
         {dischargingTexts(QStringLiteral("0:00"), false), "Discharging...", "Discharging with",
          "Time until empty", "0:00"},
     };
-    for (const Row& row : rows) {
+    for (const StateRow& row : rows) {
         EXPECT_EQ(row.texts.batteryState, QLatin1String(row.state));
         EXPECT_EQ(row.texts.stateText, QLatin1String(row.caption)) << row.state;
         EXPECT_EQ(row.texts.remainingString, QLatin1String(row.remaining)) << row.state;

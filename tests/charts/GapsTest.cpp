@@ -3,15 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/support/Durations.h"
+
 using namespace quindle;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-constexpr qint64 minute = 60;
-constexpr qint64 hour = 60 * minute;
-constexpr qint64 day = 24 * hour;
 
 /// Points at these distances from each other.
 std::vector<ChartPoint> points(std::initializer_list<qint64> distances)

@@ -6,12 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Durations.h"
+
 using namespace quindle;
 
 namespace {
 
-constexpr qint64 hour = 3600;
-constexpr qint64 day = 24 * hour;
 const LinearScale percents({0, 100}, {130, 0});
 
 ChartSeries seriesOf(qint64 length, qint64 step, const std::function<double(double)>& value)

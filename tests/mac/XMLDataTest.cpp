@@ -8,33 +8,33 @@ using namespace quindle;
 
 namespace {
 
-QString text(const char* latin1)
+QString latin1(const char* text)
 {
-    return QString::fromLatin1(latin1);
+    return QString::fromLatin1(text);
 }
 
 TEST(XMLData, EachDeliveryReplacesTheOneBefore)
 {
-    XMLData data(text("F5YX"));
+    XMLData data(latin1("F5YX"));
     EXPECT_EQ(data.configCode(), std::nullopt);
-    data.didStartElement(text("configCode"));
-    data.foundCharacters(text("A "));
-    data.foundCharacters(text("(x)"));
-    EXPECT_EQ(data.configCode(), text("(x)"));
-    data.foundCharacters(text("\n"));
-    EXPECT_EQ(data.configCode(), text("\n"));
+    data.didStartElement(latin1("configCode"));
+    data.foundCharacters(latin1("A "));
+    data.foundCharacters(latin1("(x)"));
+    EXPECT_EQ(data.configCode(), latin1("(x)"));
+    data.foundCharacters(latin1("\n"));
+    EXPECT_EQ(data.configCode(), latin1("\n"));
 }
 
 TEST(XMLData, OnlyTwoElementsAreTaken)
 {
-    XMLData data(text("F5YX"));
-    data.foundCharacters(text("before any element"));
+    XMLData data(latin1("F5YX"));
+    data.foundCharacters(latin1("before any element"));
     for (const char* element : {"name", "configCode", "locale", "other", "Name", "x:name"}) {
-        data.didStartElement(text(element));
-        data.foundCharacters(text(element));
+        data.didStartElement(latin1(element));
+        data.foundCharacters(latin1(element));
     }
-    EXPECT_EQ(data.name(), text("name"));
-    EXPECT_EQ(data.configCode(), text("configCode"));
+    EXPECT_EQ(data.name(), latin1("name"));
+    EXPECT_EQ(data.configCode(), latin1("configCode"));
     EXPECT_EQ(data.locale(), std::nullopt);
 }
 

@@ -8,7 +8,7 @@ namespace quindle {
 
 namespace {
 
-struct Case
+struct SettingCase
 {
     const char* name;
     qint64 before;
@@ -25,7 +25,7 @@ MenuBarTexts texts(const char* text, const char* parked)
             parked ? std::optional(QString::fromLatin1(parked)) : std::optional<QString>()};
 }
 
-class MenuBarSettingRule : public testing::TestWithParam<Case>
+class MenuBarSettingRule : public testing::TestWithParam<SettingCase>
 {
 };
 
@@ -33,7 +33,7 @@ class MenuBarSettingRule : public testing::TestWithParam<Case>
 
 TEST_P(MenuBarSettingRule, keepsTheUsersText)
 {
-    const Case& c = GetParam();
+    const SettingCase& c = GetParam();
     const MenuBarTexts after = textsAfterChoosing(c.before, c.row, texts(c.text, c.parked));
     const MenuBarTexts wanted = texts(c.textAfter, c.parkedAfter);
     EXPECT_EQ(after.customStatusBar, wanted.customStatusBar);
@@ -42,19 +42,19 @@ TEST_P(MenuBarSettingRule, keepsTheUsersText)
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, MenuBarSettingRule,
-    testing::Values(Case{"standardParksTheOwnText", 1, 0, "%w W", nullptr, "%p%", "%w W"},
-                    Case{"standardParksTheNewestText", 1, 0, "%w W", "%r", "%p%", "%w W"},
-                    Case{"standardParksAnEmptyText", 1, 0, "", "%r", "%p%", ""},
-                    Case{"standardParksATextWrittenElsewhere", 0, 0, "%w W", "%r", "%p%", "%w W"},
-                    Case{"standardOfStandardKeepsWhatIsParked", 0, 0, "%p%", "%r", "%p%", "%r"},
-                    Case{"standardOfStandardParksNothing", 0, 0, "%p%", nullptr, "%p%", nullptr},
-                    Case{"customBringsTheParkedTextBack", 0, 1, "%p%", "%w W", "%w W", "%w W"},
-                    Case{"customBringsAnEmptyTextBack", 0, 1, "%p%", "", "", ""},
-                    Case{"customLeavesATextWrittenElsewhere", 0, 1, "%l", "%w W", "%l", "%w W"},
-                    Case{"customWithNothingParked", 0, 1, "%p%", nullptr, "%p%", nullptr},
-                    Case{"customAgainLeavesTheText", 1, 1, "%p%", "%w W", "%p%", "%w W"},
-                    Case{"anyOtherRowIsCustom", 0, 2, "%p%", "%w W", "%w W", "%w W"}),
-    [](const testing::TestParamInfo<Case>& c) { return std::string(c.param.name); });
+    testing::Values(SettingCase{"standardParksTheOwnText", 1, 0, "%w W", nullptr, "%p%", "%w W"},
+                    SettingCase{"standardParksTheNewestText", 1, 0, "%w W", "%r", "%p%", "%w W"},
+                    SettingCase{"standardParksAnEmptyText", 1, 0, "", "%r", "%p%", ""},
+                    SettingCase{"standardParksATextWrittenElsewhere", 0, 0, "%w W", "%r", "%p%", "%w W"},
+                    SettingCase{"standardOfStandardKeepsWhatIsParked", 0, 0, "%p%", "%r", "%p%", "%r"},
+                    SettingCase{"standardOfStandardParksNothing", 0, 0, "%p%", nullptr, "%p%", nullptr},
+                    SettingCase{"customBringsTheParkedTextBack", 0, 1, "%p%", "%w W", "%w W", "%w W"},
+                    SettingCase{"customBringsAnEmptyTextBack", 0, 1, "%p%", "", "", ""},
+                    SettingCase{"customLeavesATextWrittenElsewhere", 0, 1, "%l", "%w W", "%l", "%w W"},
+                    SettingCase{"customWithNothingParked", 0, 1, "%p%", nullptr, "%p%", nullptr},
+                    SettingCase{"customAgainLeavesTheText", 1, 1, "%p%", "%w W", "%p%", "%w W"},
+                    SettingCase{"anyOtherRowIsCustom", 0, 2, "%p%", "%w W", "%w W", "%w W"}),
+    [](const testing::TestParamInfo<SettingCase>& c) { return std::string(c.param.name); });
 
 TEST(MenuBarRowInForce, isTheOneOfTheTextThatIsShown)
 {

@@ -9,7 +9,7 @@ using namespace quindle;
 
 namespace {
 
-struct Case
+struct IconCase
 {
     double charge;
     const char* name;
@@ -17,22 +17,22 @@ struct Case
 
 TEST(StatusIcon, OnBattery)
 {
-    const Case cases[]{
+    const IconCase cases[]{
         {100, "#bat44"}, {90, "#bat44"},         {89.9, "#bat34"}, {70, "#bat34"},       {69.9, "#bat24"},
         {40, "#bat24"},  {39.9, "#bat14"},       {20, "#bat14"},   {19.9, "#bat04"},     {0, "#bat04"},
         {-5, "#bat04"},  {notANumber, "#bat04"}, {250, "#bat44"},  {infinity, "#bat44"},
     };
-    for (const Case& row : cases)
+    for (const IconCase& row : cases)
         EXPECT_EQ(batteryIconName(row.charge), QString::fromLatin1(row.name)) << row.charge;
 }
 
 TEST(StatusIcon, Charging)
 {
-    const Case cases[]{
+    const IconCase cases[]{
         {80, "#bat44Charge"},   {100, "#bat44Charge"}, {infinity, "#bat44Charge"},   {79.99, "#bat04Charge"},
         {79.9, "#bat04Charge"}, {0, "#bat04Charge"},   {notANumber, "#bat04Charge"},
     };
-    for (const Case& row : cases)
+    for (const IconCase& row : cases)
         EXPECT_EQ(chargingIconName(row.charge), QString::fromLatin1(row.name)) << row.charge;
 }
 

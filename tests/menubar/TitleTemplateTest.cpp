@@ -40,7 +40,7 @@ TitleValues full()
     return values;
 }
 
-struct Case
+struct TemplateCase
 {
     const char* name;
     TitleValues values;
@@ -48,46 +48,48 @@ struct Case
     const char16_t* title;
 };
 
-class TitleTemplate : public testing::TestWithParam<Case>
+class TitleTemplate : public testing::TestWithParam<TemplateCase>
 {
 };
 
 TEST_P(TitleTemplate, Replaces)
 {
-    const Case& row = GetParam();
+    const TemplateCase& row = GetParam();
     EXPECT_EQ(titleFromTemplate(QString::fromUtf16(row.titleTemplate), row.values),
               QString::fromUtf16(row.title));
 }
 
 const std::array cases{
-    Case{"charge", discharging(), u"%p%", u"87.0%"},
-    Case{"upward", charging(), u"%s %r", u"\u2B06\uFE0E 2:05"},
-    Case{"downward", discharging(), u"%s", u"\u2B07\uFE0E"},
-    Case{"fullIsDownward", full(), u"%s", u"\u2B07\uFE0E"},
-    Case{"temperature", discharging(), u"%t", u"30.0"},
-    Case{"watts", discharging(), u"%w W", u"20.0 W"},
-    Case{"current", discharging(), u"%mA", u"-1600"},
-    Case{"cycles", discharging(), u"%l", u"293"},
-    Case{"unfinishedCurrent", discharging(), u"%m a %mB", u"%m a %mB"},
-    Case{"capitals", discharging(), u"%P %T", u"%P %T"},
-    Case{"every", discharging(), u"%p%p%p", u"87.087.087.0"},
-    Case{"none", discharging(), u"Battery", u"Battery"},
-    Case{"empty", discharging(), u"", u""},
-    Case{"percentAfterPercent", discharging(), u"%%p", u"%87.0"},
-    Case{"joinsToCharge", full(), u"%%rp", u"100.0"},
-    Case{"joinsToWatts", full(), u"%%rw", u"20.0"},
-    Case{"joinsToCurrent", full(), u"%%rmA", u"0"},
-    Case{"joinsToCycles", full(), u"%%rl", u"293"},
-    Case{"temperatureIsOver", full(), u"%%rt", u"%t"},
-    Case{"directionIsOver", full(), u"%%rs", u"%s"},
-    Case{"noFormats", discharging(), u"%1 %2 %n 100%", u"%1 %2 %n 100%"},
-    Case{"markup", discharging(), u"<b>&x %p", u"<b>&x 87.0"},
-    Case{"otherScripts", discharging(), u"\u05D0\u05D1 %p \U0001F50B\n%l",
-         u"\u05D0\u05D1 87.0 \U0001F50B\n293"},
+    TemplateCase{"charge", discharging(), u"%p%", u"87.0%"},
+    TemplateCase{"upward", charging(), u"%s %r", u"\u2B06\uFE0E 2:05"},
+    TemplateCase{"downward", discharging(), u"%s", u"\u2B07\uFE0E"},
+    TemplateCase{"fullIsDownward", full(), u"%s", u"\u2B07\uFE0E"},
+    TemplateCase{"temperature", discharging(), u"%t", u"30.0"},
+    TemplateCase{"watts", discharging(), u"%w W", u"20.0 W"},
+    TemplateCase{"current", discharging(), u"%mA", u"-1600"},
+    TemplateCase{"cycles", discharging(), u"%l", u"293"},
+    TemplateCase{"unfinishedCurrent", discharging(), u"%m a %mB", u"%m a %mB"},
+    TemplateCase{"capitals", discharging(), u"%P %T", u"%P %T"},
+    TemplateCase{"every", discharging(), u"%p%p%p", u"87.087.087.0"},
+    TemplateCase{"none", discharging(), u"Battery", u"Battery"},
+    TemplateCase{"empty", discharging(), u"", u""},
+    TemplateCase{"percentAfterPercent", discharging(), u"%%p", u"%87.0"},
+    TemplateCase{"joinsToCharge", full(), u"%%rp", u"100.0"},
+    TemplateCase{"joinsToWatts", full(), u"%%rw", u"20.0"},
+    TemplateCase{"joinsToCurrent", full(), u"%%rmA", u"0"},
+    TemplateCase{"joinsToCycles", full(), u"%%rl", u"293"},
+    TemplateCase{"temperatureIsOver", full(), u"%%rt", u"%t"},
+    TemplateCase{"directionIsOver", full(), u"%%rs", u"%s"},
+    TemplateCase{"noFormats", discharging(), u"%1 %2 %n 100%", u"%1 %2 %n 100%"},
+    TemplateCase{"markup", discharging(), u"<b>&x %p", u"<b>&x 87.0"},
+    TemplateCase{"otherScripts", discharging(), u"\u05D0\u05D1 %p \U0001F50B\n%l",
+                 u"\u05D0\u05D1 87.0 \U0001F50B\n293"},
 };
 
 INSTANTIATE_TEST_SUITE_P(All, TitleTemplate, testing::ValuesIn(cases),
-                         [](const testing::TestParamInfo<Case>& row) { return std::string(row.param.name); });
+                         [](const testing::TestParamInfo<TemplateCase>& row) {
+                             return std::string(row.param.name);
+                         });
 
 TEST(TitleTemplateDefault, IsTheChargeInPercent)
 {

@@ -11,7 +11,7 @@ using namespace quindle;
 
 namespace {
 
-const char* const uid = "CF$UID";
+const char* const uidKey = "CF$UID";
 
 TEST(PropertyList, BothEncodingsHoldTheSameValues)
 {
@@ -20,7 +20,7 @@ TEST(PropertyList, BothEncodingsHoldTheSameValues)
         {QStringLiteral("wide"), QStringLiteral("é")},
         {QStringLiteral("list"), QVariantList{qint64{1}, -1.5, true, QByteArray("\xff")}},
         {QStringLiteral("date"), QDateTime::fromMSecsSinceEpoch(978307201000)},
-        {QLatin1String(uid), QVariantMap{{QLatin1String(uid), qint64{300}}}},
+        {QLatin1String(uidKey), QVariantMap{{QLatin1String(uidKey), qint64{300}}}},
     };
     const QByteArray binary = binaryPropertyList(
         {QByteArray("\xd5\1\2\3\4\5\6\7\x08\x09\x0a"), QByteArray("\x54text"), QByteArray("\x54wide"),

@@ -14,6 +14,8 @@ using namespace quindle;
 
 namespace {
 
+constexpr double infiniteNumber = std::numeric_limits<double>::infinity();
+
 QByteArray inList(const QByteArray& body)
 {
     return "<?xml version=\"1.0\"?><plist version=\"1.0\">" + body + "</plist>";
@@ -58,21 +60,19 @@ TEST(XmlTranscript, Integers)
 
 TEST(XmlTranscript, Reals)
 {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
     expectValues({{"<real>61.5</real>", 61.5},
                   {"<real>1</real>", 1.0},
                   {"<real> +1e3\n</real>", 1000.0},
                   {"<real>5e-324</real>", 5e-324},
-                  {"<real>-inf</real>", -infinity},
-                  {"<real>Infinity</real>", infinity}});
+                  {"<real>-inf</real>", -infiniteNumber},
+                  {"<real>Infinity</real>", infiniteNumber}});
     EXPECT_TRUE(std::isnan(readXml("<real>NaN</real>").toDouble()));
 }
 
 TEST(XmlTranscript, RealsBeyondTheRangeAreInfiniteOrZero)
 {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    expectValues({{"<real>1e999</real>", infinity},
-                  {"<real>-1e999</real>", -infinity},
+    expectValues({{"<real>1e999</real>", infiniteNumber},
+                  {"<real>-1e999</real>", -infiniteNumber},
                   {"<real>1e-999</real>", 0.0},
                   {"<real>-1e-999</real>", 0.0}});
 }

@@ -9,8 +9,7 @@ using namespace quindle;
 namespace {
 
 using State = PowerHistoryPoint::State;
-constexpr qint64 now = 1'700'000'000;
-constexpr qint64 always = std::numeric_limits<qint64>::max();
+constexpr qint64 takenOverAt = 1'700'000'000;
 
 class FakePowerHistory : public PowerHistory
 {
@@ -60,8 +59,8 @@ struct FirstWeekTest : TemporaryHistory
 {
     FirstWeekTest()
     {
-        history.recorded =
-            RecordedPower{{{now - 100, 80, State::Discharging}, {now - 10, 79, State::Discharging}}, {}};
+        history.recorded = RecordedPower{
+            {{takenOverAt - 100, 80, State::Discharging}, {takenOverAt - 10, 79, State::Discharging}}, {}};
     }
 
     FakePowerHistory history;
@@ -70,12 +69,12 @@ struct FirstWeekTest : TemporaryHistory
 TEST_F(FirstWeekTest, IsTakenOverOnceAndMarked)
 {
     SampleStore store(database());
-    EXPECT_TRUE(takeOverFirstWeek(store, history, now).isGood());
+    EXPECT_TRUE(takeOverFirstWeek(store, history, takenOverAt).isGood());
     const auto stored = store.storedBetween(0, always);
     ASSERT_EQ(stored.size(), 2U);
     EXPECT_EQ(stored[0].source, SampleSource::UPower);
-    history.recorded->charge.push_back({now - 50, 10, State::Charging});
-    EXPECT_TRUE(takeOverFirstWeek(store, history, now + 100).isGood());
+    history.recorded->charge.push_back({takenOverAt - 50, 10, State::Charging});
+    EXPECT_TRUE(takeOverFirstWeek(store, history, takenOverAt + 100).isGood());
     EXPECT_EQ(history.calls, 1);
     EXPECT_EQ(store.storedBetween(0, always), stored);
 }
@@ -83,20 +82,20 @@ TEST_F(FirstWeekTest, IsTakenOverOnceAndMarked)
 TEST_F(FirstWeekTest, EndsWhereOwnSamplesBegin)
 {
     SampleStore store(database());
-    store.append({sampleAt(now - 50)});
-    EXPECT_TRUE(takeOverFirstWeek(store, history, now).isGood());
+    store.append({sampleAt(takenOverAt - 50)});
+    EXPECT_TRUE(takeOverFirstWeek(store, history, takenOverAt).isGood());
     EXPECT_EQ(store.samplesBetween(0, always).size(), 2U);
-    EXPECT_EQ(store.firstMoment(), now - 100);
+    EXPECT_EQ(store.firstMoment(), takenOverAt - 100);
 }
 
 TEST_F(FirstWeekTest, ASilentServiceIsAskedAgain)
 {
     SampleStore store(database());
     const auto recorded = std::exchange(history.recorded, std::nullopt);
-    EXPECT_TRUE(takeOverFirstWeek(store, history, now).isGood());
+    EXPECT_TRUE(takeOverFirstWeek(store, history, takenOverAt).isGood());
     EXPECT_FALSE(QFile::exists(database()));
     history.recorded = recorded;
-    EXPECT_TRUE(takeOverFirstWeek(store, history, now).isGood());
+    EXPECT_TRUE(takeOverFirstWeek(store, history, takenOverAt).isGood());
     EXPECT_EQ(store.samplesBetween(0, always).size(), 2U);
 }
 

@@ -1,7 +1,6 @@
 #include "records/SampleStore.h"
 
 #include <cstring>
-#include <limits>
 
 #include "records/Database.h"
 #include "records/Thinning.h"
@@ -13,7 +12,6 @@ using namespace quindle;
 namespace {
 
 constexpr qint64 firstMoment = 1'700'000'000;
-constexpr qint64 always = std::numeric_limits<qint64>::max();
 
 using SampleStoreTest = TemporaryHistory;
 using Samples = std::vector<Sample>;

@@ -2,6 +2,7 @@
 
 #include "history/SavedHistory.h"
 #include "tests/records/TemporaryHistory.h"
+#include "tests/support/Durations.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/TestData.h"
 
@@ -9,7 +10,6 @@ using namespace quindle;
 
 namespace {
 
-constexpr qint64 day = 86'400;
 constexpr qint64 noon = 1'700'049'600; // of 15 November 2023, UTC
 
 using SnapshotArchiveTest = TemporaryHistory;

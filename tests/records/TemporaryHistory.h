@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <functional>
+#include <limits>
 
 #include <QDir>
 #include <QFile>
@@ -17,6 +18,9 @@
 #include "tests/support/QtPrinters.h"
 
 namespace quindle {
+
+/// The end of a range that has none.
+inline constexpr qint64 always = std::numeric_limits<qint64>::max();
 
 /// A folder for a history that does not exist yet.
 class TemporaryHistory : public testing::Test

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Durations.h"
+
 using namespace quindle;
 
 namespace {
 
-constexpr qint64 day = secondsOfDay;
-constexpr qint64 hour = secondsOfHour;
 constexpr qint64 now = 20000 * day + 12 * hour + 34 * 60; // some day at 12:34
 constexpr qint64 oldHour = now - 40 * day - 34 * 60;      // the beginning of an hour that is a value
 constexpr qint64 oldDay = 20000 * day - 400 * day;        // the beginning of such a day
@@ -28,11 +28,12 @@ StoredSample value(qint64 moment, double charge, qint64 span, std::optional<doub
     return {{moment, charge, power, state}, SampleSource::Helper, span};
 }
 
-using Samples = std::vector<StoredSample>;
+using StoredSamples = std::vector<StoredSample>;
 
 TEST(Thinning, WhatIsYoungStaysAsItWasTaken)
 {
-    const Samples samples{taken(hourlyBefore(now), 50), taken(hourlyBefore(now) + 60, 49), taken(now, 20)};
+    const StoredSamples samples{taken(hourlyBefore(now), 50), taken(hourlyBefore(now) + 60, 49),
+                                taken(now, 20)};
     EXPECT_EQ(thinned(samples, now), samples);
 }
 
@@ -42,15 +43,15 @@ TEST(Thinning, TheBoundariesAreWholeHoursAndDays)
     EXPECT_EQ(dailyBefore(now), 20000 * day - 365 * day);
     EXPECT_EQ(hourlyBefore(now) % hour, 0);
     EXPECT_EQ(thinned({taken(hourlyBefore(now) - 1, 50)}, now),
-              Samples{value(hourlyBefore(now) - hour, 50, hour)});
+              StoredSamples{value(hourlyBefore(now) - hour, 50, hour)});
     EXPECT_EQ(thinned({taken(dailyBefore(now) - 1, 50)}, now),
-              Samples{value(dailyBefore(now) - day, 50, day)});
+              StoredSamples{value(dailyBefore(now) - day, 50, day)});
 }
 
 struct Row
 {
     const char* what;
-    Samples samples;
+    StoredSamples samples;
     StoredSample kept;
 };
 
@@ -80,7 +81,7 @@ TEST(Thinning, OneValueStandsForAnHour)
          value(oldHour, 46, hour, -14)}, // an hour, and 900 s
     };
     for (const Row& row : rows) {
-        const Samples kept = thinned(row.samples, now);
+        const StoredSamples kept = thinned(row.samples, now);
         ASSERT_EQ(kept.size(), 1U) << row.what;
         EXPECT_NEAR(kept[0].sample.charge, row.kept.sample.charge, 1e-9) << row.what;
         EXPECT_EQ(kept[0].sample.power.has_value(), row.kept.sample.power.has_value()) << row.what;
@@ -93,15 +94,15 @@ TEST(Thinning, OneValueStandsForAnHour)
 
 TEST(Thinning, HoursBecomeDays)
 {
-    const Samples hours{value(oldDay, 100, hour, -5, full), value(oldDay + hour, 80, hour, -10),
-                        value(oldDay + 5 * hour, 60, hour, -15), value(oldDay + day, 40, hour)};
-    const Samples days{value(oldDay, 80, day, -10), value(oldDay + day, 40, day)};
+    const StoredSamples hours{value(oldDay, 100, hour, -5, full), value(oldDay + hour, 80, hour, -10),
+                              value(oldDay + 5 * hour, 60, hour, -15), value(oldDay + day, 40, hour)};
+    const StoredSamples days{value(oldDay, 80, day, -10), value(oldDay + day, 40, day)};
     EXPECT_EQ(thinned(hours, now), days);
 }
 
 TEST(Thinning, TheOtherServicesMarkIsKept)
 {
-    Samples samples{taken(oldHour, 50), taken(oldHour + 60, 49)};
+    StoredSamples samples{taken(oldHour, 50), taken(oldHour + 60, 49)};
     EXPECT_EQ(thinned(samples, now)[0].source, SampleSource::Helper);
     samples[1].source = SampleSource::UPower;
     EXPECT_EQ(thinned(samples, now)[0].source, SampleSource::UPower);
@@ -109,24 +110,24 @@ TEST(Thinning, TheOtherServicesMarkIsKept)
 
 TEST(Thinning, TwiceChangesNothing)
 {
-    Samples samples;
+    StoredSamples samples;
     for (qint64 moment = oldDay; moment < now; moment += 7 * 60)
         samples.push_back(taken(moment, static_cast<double>(moment % 101), -static_cast<double>(moment % 13),
                                 static_cast<SampleState>(moment % 3)));
-    const Samples once = thinned(samples, now);
+    const StoredSamples once = thinned(samples, now);
     EXPECT_LT(once.size(), 35U + 336U * 24U + 31U * 24U * 9U);
     EXPECT_EQ(thinned(once, now), once);
 }
 
 TEST(Thinning, ADayAtATimeIsAsGoodAsAtOnce)
 {
-    Samples samples;
+    StoredSamples samples;
     for (qint64 moment = oldDay; moment < oldDay + 50 * day; moment += 900)
         samples.push_back(taken(moment, static_cast<double>(moment / 900 % 101)));
-    Samples daily = samples;
+    StoredSamples daily = samples;
     for (qint64 moment = oldDay; moment <= now; moment += day)
         daily = thinned(daily, moment);
-    const Samples once = thinned(samples, now);
+    const StoredSamples once = thinned(samples, now);
     ASSERT_EQ(daily.size(), once.size());
     for (std::size_t index = 0; index < once.size(); ++index)
         EXPECT_NEAR(daily[index].sample.charge, once[index].sample.charge, 1e-9) << index;

@@ -10,9 +10,9 @@ using namespace quindle;
 
 namespace {
 
-using Texts = std::vector<std::pair<Attribute, const char*>>;
+using AttributeTexts = std::vector<std::pair<Attribute, const char*>>;
 
-SupplyReading peripheral(const char* name, const Texts& texts)
+SupplyReading peripheral(const char* name, const AttributeTexts& texts)
 {
     SupplyReading reading{name, SupplyKind::Peripheral, {}, {}};
     for (const auto& [attribute, text] : texts)
@@ -80,7 +80,7 @@ TEST(PeripheralRules, TheComputersOwnSuppliesAreNone)
 TEST(PeripheralRules, BluetoothDevicesFollowThatNoSupplyShows)
 {
     const BluetoothBattery headset{QStringLiteral("AA:BB:CC:DD:EE:FF"), QStringLiteral("Headset"), 70};
-    const auto both = [&](const char* name, const Texts& texts) {
+    const auto both = [&](const char* name, const AttributeTexts& texts) {
         return described(peripheralsFrom({peripheral(name, texts)}, {headset}));
     };
     const auto capacity = std::pair(Attribute::Capacity, "35");

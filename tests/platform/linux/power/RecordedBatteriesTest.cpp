@@ -330,7 +330,7 @@ TEST(RecordedPowerSources, ChargeLimit)
     EXPECT_EQ(OnMachine("vmware-vm").powerSources.chargeLimit(), std::nullopt);
 }
 
-TEST(RecordedComputer, Model)
+TEST(RecordedModel, IsTheDevicesName)
 {
     const std::pair<const char*, QByteArray> rows[] = {
         {"macbookpro14-1-sbs-worn", QByteArray("MacBookPro14,1\0", 15)},
