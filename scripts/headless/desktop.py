@@ -83,7 +83,7 @@ class Desktop:
     def _environment(self):
         env = {key: value for key, value in os.environ.items()
                if key in ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "QT_LOGGING_RULES",
-                          "QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "GCOV_PREFIX")}
+                          "QT_WAYLAND_CLIENT_BUFFER_INTEGRATION")}
         folders = {"HOME": "home", "XDG_CONFIG_HOME": "config", "XDG_CACHE_HOME": "cache", "XDG_DATA_HOME": "data",
                    "XDG_RUNTIME_DIR": "runtime"}
         for key, name in folders.items():
