@@ -14,10 +14,10 @@ if(APPLE)
     set(QUINDLE_PROGRAM_FOLDER MacOS)
 endif()
 
-# quindle_program(NAME [INTERNAL] [MAIN]): puts the program into the helper's bundle, with MAIN into the application's,
-# and a link to it into bin when installed. One that is INTERNAL is started by the others only.
+# quindle_program(NAME [INTERNAL] [MAIN] [USES Qt6::Widgets]): puts the program into the helper's bundle, with MAIN into the
+# application's, and a link to it into bin when installed. One that is INTERNAL is started by the others only.
 function(quindle_program name)
-    cmake_parse_arguments(ARG "INTERNAL;MAIN" "" "" ${ARGN})
+    cmake_parse_arguments(ARG "INTERNAL;MAIN" "" "USES" ${ARGN})
     set(built "${QUINDLE_BUNDLE_CONTENTS}")
     set(installed "${QUINDLE_INSTALL_CONTENTS}")
     if(ARG_MAIN)
@@ -25,6 +25,7 @@ function(quindle_program name)
         set(installed "${QUINDLE_INSTALL_APPLICATION_CONTENTS}")
     endif()
     quindle_compiles_together(${name} 12)
+    quindle_reads_precompiled(${name} ${ARG_USES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${built}/${QUINDLE_PROGRAM_FOLDER}")
     install(TARGETS ${name} RUNTIME DESTINATION "${installed}/${QUINDLE_PROGRAM_FOLDER}")
     if(ARG_INTERNAL)
