@@ -8,7 +8,6 @@ namespace quindle {
 
 namespace {
 
-constexpr HostTraits labelHost{.shape = HostShape::Label};
 constexpr HostTraits squashingLabelHost{.shape = HostShape::Label, .squaresOnly = true};
 constexpr HostTraits labelHostWithFiles{.shape = HostShape::Label, .needsIconFile = true};
 constexpr HostTraits wideHost{.shape = HostShape::Wide};

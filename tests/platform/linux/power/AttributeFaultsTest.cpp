@@ -143,8 +143,8 @@ TEST_F(AttributeFaultsTest, WhatIsNoRegularFileCountsAsMissing)
 
 TEST_F(AttributeFaultsTest, AHugeFileIsNoNumber)
 {
-    tree.write("BAT0", "cycle_count", std::string(4 * 1024 * 1024, '7'));
-    tree.write("BAT0", "manufacturer", std::string(4 * 1024 * 1024, 'x'));
+    tree.write("BAT0", "cycle_count", std::string(std::size_t{4} * 1024 * 1024, '7'));
+    tree.write("BAT0", "manufacturer", std::string(std::size_t{4} * 1024 * 1024, 'x'));
     EXPECT_FALSE(property(cyclesKey).isValid());
     EXPECT_LE(property(QStringLiteral("Manufacturer")).toString().size(), 4096);
 }

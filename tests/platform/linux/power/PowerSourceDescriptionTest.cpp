@@ -67,11 +67,11 @@ TEST(PowerSourceDescription, UninterruptibleSupply)
 
 struct WattsCase
 {
-    const char* type;
-    const char* modes;
-    const char* online;
-    const char* microvolts;
-    const char* microamps;
+    const char* type = nullptr;
+    const char* modes = nullptr;
+    const char* online = nullptr;
+    const char* microvolts = nullptr;
+    const char* microamps = nullptr;
     std::optional<qint64> watts;
 };
 

@@ -93,11 +93,11 @@ TEST(Presentation, WhatIsSeenOfItIsGivenToAWindow)
     using Form = ShownItem::Form;
     struct Case
     {
-        const char* name;
+        const char* name = nullptr;
         HostTraits host;
-        const char* image;
+        const char* image = nullptr;
         ShownItem shown;
-        bool hasSquare;
+        bool hasSquare = false;
     };
     HostTraits numberHost = squareHost;
     numberHost.showsNumber = true;
