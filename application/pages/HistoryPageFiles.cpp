@@ -58,7 +58,8 @@ QFileDialog* saveDialog(QWidget* parent, const QString& title, const QStringList
 QString written(const QString& path, const std::function<bool(QIODevice&)>& write)
 {
     QSaveFile file(path);
-    const bool done = file.open(QIODevice::WriteOnly) && write(file) && file.commit();
+    // Flushed by itself: a failure of the flush that committing makes would go unnoticed.
+    const bool done = file.open(QIODevice::WriteOnly) && write(file) && file.flush() && file.commit();
     return done ? QString() : file.errorString();
 }
 

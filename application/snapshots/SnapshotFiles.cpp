@@ -70,7 +70,8 @@ QString exportToFile(const QString& path, const QVariantList& records, bool with
         file.open(QIODevice::WriteOnly) &&
         exportSnapshots(records, options,
                         [&file](const QByteArray& bytes) { return file.write(bytes) == bytes.size(); }) &&
-        file.commit();
+        // By itself: a failure of the flush that committing makes would go unnoticed.
+        file.flush() && file.commit();
     return isWritten ? QString() : path + QStringLiteral(": ") + file.errorString();
 }
 

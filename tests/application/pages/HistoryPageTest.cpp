@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QPushButton>
@@ -13,6 +14,7 @@
 
 #include "charts/TimeSeriesChart.h"
 #include "tests/records/trend/TrendHistory.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/QtPrinters.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/SegmentedControl.h"
@@ -219,6 +221,23 @@ TEST_F(HistoryPageTest, SavesTheNumbersThatAreSeen)
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll().count('\n'), 62) << "headings, and a sample a minute with both ends";
+}
+
+TEST_F(HistoryPageTest, AFullDiskLeavesThePreviousTable)
+{
+    show();
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("table.csv"));
+    charge().setSeen({double(now - 3600), double(now)});
+    page.saveTable(path);
+    const qint64 size = QFileInfo(path).size();
+    ASSERT_GT(size, 16);
+    {
+        const FullDisk disk(16);
+        page.saveTable(path);
+    }
+    EXPECT_EQ(QFileInfo(path).size(), size);
+    EXPECT_TRUE(text("message").startsWith(path + QStringLiteral(": "))) << text("message").toStdString();
 }
 
 TEST_F(HistoryPageTest, SaysWhyItCannotSave)
