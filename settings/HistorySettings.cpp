@@ -25,7 +25,9 @@ QString samplesWantedNotification()
 
 qint64 historyDays(const UserDefaults& own)
 {
-    return std::max(qint64{0}, own.integer(Keys::historyDays.name()));
+    constexpr qint64 longest = 1'000'000; // of more, no moment can be computed
+    const qint64 days = own.integer(Keys::historyDays.name());
+    return days > longest ? 0 : std::max(qint64{0}, days);
 }
 
 void setHistoryDays(UserDefaults& own, qint64 days)

@@ -50,4 +50,15 @@ TEST_F(HistorySettings, DaysBelowNoneAreForEver)
     }
 }
 
+TEST_F(HistorySettings, DaysBeyondAllHistoryAreForEver)
+{
+    store("historyDays", qint64{1'000'000});
+    EXPECT_EQ(historyDays(own), 1'000'000);
+    for (const QVariant& days : {QVariant(qint64{1'000'001}), QVariant(std::numeric_limits<qint64>::max()),
+                                 QVariant(1e300), QVariant(QStringLiteral("999999999999999"))}) {
+        store("historyDays", days);
+        EXPECT_EQ(historyDays(own), 0) << days.toString().toStdString();
+    }
+}
+
 } // namespace
