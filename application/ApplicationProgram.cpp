@@ -78,6 +78,10 @@ ApplicationProgram::ApplicationProgram(const Platform& platform, ApplicationPref
     connect(&m_delegate.myMac(), &QDMac::changed, this, &ApplicationProgram::refreshed);
     connect(this, &ApplicationProgram::refreshed, &m_general, &GeneralPreferencesController::refresh);
     connect(this, &ApplicationProgram::refreshed, this, &ApplicationProgram::showState);
+    // The helper shows the same units.
+    m_interface.setClickObserver([this](FactClick) {
+        m_platform.distributedNotificationCenter.post(QStringLiteral("SettingsChangedNotification"));
+    });
     followBattery();
     m_window = std::make_unique<ApplicationWindow>(pages(), platform.userDefaults.standard(), placesWindows);
     connect(m_window.get(), &ApplicationWindow::seen, this, &ApplicationProgram::watch);

@@ -2,9 +2,10 @@
 
 #include <limits>
 
-#include <QFileInfo>
 #include <sysexits.h>
+#include <unistd.h>
 
+#include "common/Paths.h"
 #include "history/SavedHistory.h"
 #include "platform/Host.h"
 #include "records/SampleExport.h"
@@ -57,7 +58,7 @@ QString existingPath(const Platform& platform, QString (*file)(const QString& fo
 {
     const QStringList folders = platform.userDirectories.applicationSupportDirectories();
     const QString path = folders.isEmpty() ? QString() : file(folders.constFirst());
-    if (!path.isEmpty() && QFileInfo::exists(path))
+    if (!path.isEmpty() && ::access(pathBytes(path).constData(), F_OK) == 0)
         return path;
     report(path.isEmpty() ? QStringLiteral("there is no folder for the history")
                           : path + QStringLiteral(": ") + QString::fromLatin1(missing));

@@ -1,6 +1,6 @@
 #include "application/saved/SavedSnapshots.h"
 
-#include <QFileInfo>
+#include <filesystem>
 
 #include "common/FileContents.h"
 #include "common/Paths.h"
@@ -71,8 +71,11 @@ void SavedSnapshots::load()
 
 SavedSnapshots::FileState SavedSnapshots::stateOf(const QString& path)
 {
-    const QFileInfo file(path);
-    return {file.lastModified(), file.size()};
+    // Not by the toolkit, which finds no file in a folder whose name is not UTF-8.
+    const std::filesystem::path file(pathBytes(path).toStdString());
+    std::error_code missing;
+    const auto modified = std::filesystem::last_write_time(file, missing).time_since_epoch().count();
+    return {static_cast<qint64>(modified), std::filesystem::file_size(file, missing)};
 }
 
 void SavedSnapshots::add(const QVariantMap& record)
@@ -105,6 +108,7 @@ void SavedSnapshots::importFrom(const QString& path)
 
 void SavedSnapshots::removeAll()
 {
+    Q_EMIT removingAll();
     run([](SnapshotArchive& archive) {
         return lineOf(archive.removeAll(), translated("Snapshots", "All snapshots deleted"));
     });

@@ -3,7 +3,6 @@
 #include <functional>
 #include <optional>
 
-#include <QDateTime>
 #include <QObject>
 #include <QVariant>
 
@@ -49,6 +48,9 @@ Q_SIGNALS:
     /// `isBusy` has changed.
     void busyChanged();
 
+    /// All are being removed, for good.
+    void removingAll();
+
     /// How much of the archive is read.
     void progressed(int percent);
 
@@ -59,8 +61,8 @@ private:
     /// Whether the file has changed since it was read.
     struct FileState
     {
-        QDateTime modified;
-        qint64 size = -1;
+        qint64 modified = 0;
+        quint64 size = 0;
 
         bool operator==(const FileState&) const = default;
     };

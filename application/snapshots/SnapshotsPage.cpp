@@ -103,6 +103,7 @@ void SnapshotsPage::connectSnapshots()
     connect(&m_snapshots, &SavedSnapshots::changed, this, &SnapshotsPage::showRecords);
     connect(&m_snapshots, &SavedSnapshots::busyChanged, this, &SnapshotsPage::showBusy);
     connect(&m_snapshots, &SavedSnapshots::message, this, &SnapshotsPage::showMessage);
+    connect(&m_snapshots, &SavedSnapshots::removingAll, this, [this] { m_deleted.clear(); });
     connect(&m_snapshots, &SavedSnapshots::progressed, m_progress, &QProgressBar::setValue);
     showRecords();
     showBusy();
@@ -117,6 +118,8 @@ void SnapshotsPage::refresh()
 void SnapshotsPage::showRecords()
 {
     m_view->setRecords(m_snapshots.records());
+    if (!m_deleted.isEmpty() && m_snapshots.records().contains(m_deleted.constFirst()))
+        m_deleted.clear();
     const bool isEmpty = m_snapshots.records().isEmpty();
     m_count->setText(isEmpty ? QString() : countText(m_snapshots.records().size()));
     m_view->setVisible(!isEmpty);
@@ -160,10 +163,9 @@ void SnapshotsPage::deleteSelected()
 
 void SnapshotsPage::undo()
 {
-    if (m_deleted.isEmpty())
-        return;
-    m_snapshots.merge(std::exchange(m_deleted, {}));
-    updateButtons();
+    // Kept until they are back: writing may fail, and nobody else has them.
+    if (!m_deleted.isEmpty() && !m_snapshots.isBusy())
+        m_snapshots.merge(m_deleted);
 }
 
 void SnapshotsPage::compare()

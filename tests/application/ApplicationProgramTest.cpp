@@ -105,6 +105,19 @@ TEST_F(ApplicationProgramTest, TheBatteryIsShownAndFollowed)
     EXPECT_TRUE(seen().contains(latin("64.0"))) << "without waiting for a timer";
 }
 
+TEST_F(ApplicationProgramTest, AClickIsAnnouncedToTheHelper)
+{
+    show("Battery");
+    computer.distributedNotificationCenter.posted.clear();
+    for (FactRow* row : program().window().findChildren<FactRow*>())
+        if (row->fact().click == FactClick::Temperature)
+            Q_EMIT row->clicked(FactClick::Temperature);
+    EXPECT_EQ(computer.userDefaults.standardDefaults.values.value(latin("QDBatteryTemperatureMode")),
+              QVariant(qint64{1}));
+    EXPECT_EQ(computer.distributedNotificationCenter.posted,
+              QStringList{latin("SettingsChangedNotification")});
+}
+
 TEST_F(ApplicationProgramTest, LeavesTheHelpersCopiesOfSettingsAlone)
 {
     computer.userDefaults.suiteDefaults.values = {{latin("runInBackground"), true}};

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QTableView>
 #include <gtest/gtest.h>
 
 #include "application/pages/HistoryPage.h"
@@ -192,6 +193,24 @@ TEST_F(HistoryPagesTest, AllIsDeletedOnceThatIsConfirmed)
     EXPECT_TRUE(comesTrue([this] { return says("All snapshots deleted"); }));
     EXPECT_TRUE(comesTrue([this] { return storedCount() == 0; }));
     EXPECT_TRUE(comesTrue([this] { return SampleStore(database()).samplesBetween(0, 2000).empty(); }));
+}
+
+TEST_F(HistoryPagesTest, WhatWasDeletedWithAllDoesNotComeBack)
+{
+    store(2);
+    show("Snapshots");
+    auto* table = program->window().findChild<QTableView*>();
+    ASSERT_TRUE(comesTrue([table] { return table->model()->rowCount() == 2; }));
+    table->selectRow(0);
+    control<QPushButton>("Delete")->click();
+    auto* undo = control<LinkButton>("Undo deleting");
+    EXPECT_TRUE(comesTrue([&] { return table->model()->rowCount() == 1; }));
+    EXPECT_TRUE(undo->isVisible());
+    show("Settings");
+    answerDeletion("Delete");
+    EXPECT_TRUE(comesTrue([this] { return says("All snapshots deleted"); }));
+    show("Snapshots");
+    EXPECT_FALSE(undo->isVisible());
 }
 
 TEST_F(HistoryPagesTest, WhatCannotBeDeletedIsSaidWhereItWasAskedFor)

@@ -9,6 +9,7 @@
 
 #include "application/pages/HistoryPage.h"
 #include "application/snapshots/CompareDialog.h"
+#include "application/snapshots/SnapshotFiles.h"
 #include "application/snapshots/SnapshotRows.h"
 #include "application/snapshots/SnapshotView.h"
 #include "application/snapshots/SnapshotsPage.h"
@@ -16,6 +17,7 @@
 #include "platform/posix/FileLock.h"
 #include "tests/application/HistoryFixture.h"
 #include "tests/preferences/Input.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TestTranslation.h"
 #include "widgets/LinkButton.h"
 
@@ -238,6 +240,51 @@ TEST_F(SnapshotsPageTest, DeletedOnesComeBack)
     ASSERT_TRUE(hasRows(4));
     EXPECT_EQ(cell(1, 2), latin("3,998 mAh"));
     EXPECT_FALSE(undo->isVisible());
+}
+
+TEST_F(SnapshotsPageTest, WhatCouldNotComeBackCanBeTriedAgain)
+{
+    store(2);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(2));
+    table()->selectRow(1);
+    control<QPushButton>("Delete")->click();
+    ASSERT_TRUE(hasRows(1));
+    auto* undo = control<LinkButton>("Undo deleting");
+    const auto namesArchive = [this] {
+        const QList<QLabel*> labels = program->window().findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [this](const QLabel* label) {
+            return label->text().contains(archive() + latin(": "));
+        });
+    };
+    {
+        const FullDisk disk(16);
+        undo->click();
+        EXPECT_TRUE(comesTrue(namesArchive));
+    }
+    EXPECT_EQ(storedCount(), 1);
+    ASSERT_TRUE(undo->isVisible());
+    undo->click();
+    EXPECT_TRUE(hasRows(2));
+    EXPECT_FALSE(undo->isVisible());
+}
+
+TEST_F(SnapshotsPageTest, AFullDiskLeavesThePreviousExport)
+{
+    store(1); // makes the folder
+    const QString path = folder() + latin("/snapshots.csv");
+    const QVariantList records{recordAt(1420000000, 4000)};
+    ASSERT_EQ(exportToFile(path, records, false), QString());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray before = file.readAll();
+    {
+        const FullDisk disk(16);
+        EXPECT_TRUE(exportToFile(path, records, true).startsWith(path + latin(": ")));
+    }
+    QFile after(path);
+    ASSERT_TRUE(after.open(QIODevice::ReadOnly));
+    EXPECT_EQ(after.readAll(), before);
 }
 
 TEST_F(SnapshotsPageTest, TwoAreCompared)

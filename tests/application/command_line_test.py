@@ -86,9 +86,12 @@ class CommandLine(unittest.TestCase):
     def test_a_data_folder_whose_name_is_not_utf_8(self):
         folder = os.path.join(os.fsencode(self.folder), b"data-\xff")
         lines = "1767225600 66.5 -10.25 discharging\n"
-        self.assertEqual(self.answer("--record", given=lines, **{**self.computer(), "XDG_DATA_HOME": folder}),
-                         (os.EX_OK, "", ""))
+        computer = {**self.computer(), "XDG_DATA_HOME": folder}
+        self.assertEqual(self.answer("--record", given=lines, **computer), (os.EX_OK, "", ""))
         self.assertIn(b"history.sqlite", os.listdir(os.path.join(folder, b"quindle")))
+        for kind in ((), ("--samples",)):
+            status, output, errors = self.answer("--export", "csv", *kind, **computer)
+            self.assertEqual((status, output.count("\n"), errors), (os.EX_OK, 2, ""))
 
     def test_recorded_and_exported_without_a_display(self):
         computer = self.computer()
