@@ -132,8 +132,14 @@ void collectSerials(const QVariant& value, QStringList& serials)
 
 bool holdsSerial(const QVariant& value, const QStringList& serials)
 {
-    const bool isData = value.typeId() == QMetaType::QByteArray;
-    const QString text = isData ? QString::fromLatin1(value.toByteArray()) : fieldText(value);
+    const int type = value.typeId();
+    // What is measured is none, though its digits may be those of a short one: "2025" is in many dates.
+    if (type == QMetaType::QDateTime || type == QMetaType::Double)
+        return false;
+    if (type != QMetaType::QByteArray && type != QMetaType::QString)
+        return serials.contains(fieldText(value));
+    const QString text =
+        type == QMetaType::QString ? value.toString() : QString::fromLatin1(value.toByteArray());
     return std::any_of(serials.cbegin(), serials.cend(),
                        [&](const QString& serial) { return text.contains(serial); });
 }
@@ -235,9 +241,14 @@ QVariantMap withoutSerialNumbers(const QVariantMap& record)
     QStringList serials;
     collectSerials(record, serials);
     QVariantMap kept = withoutSerialsInside(record, serials).toMap();
-    for (const Column& column : columns)
+    for (const Column& column : columns) {
+        const QString key = QLatin1String(column.key);
         if (column.isIdentity)
-            kept.remove(QLatin1String(column.key));
+            kept.remove(key);
+        // A column's number is that figure and nothing else, also where it equals a serial number.
+        else if (const QVariant value = record.value(key); value.typeId() == QMetaType::LongLong)
+            kept.insert(key, value);
+    }
     return kept;
 }
 

@@ -99,6 +99,23 @@ TEST(SnapshotExport, WithoutSerialNumbersTheRestStays)
                                 {text("Voltage"), qint64{12000}}}));
 }
 
+/// Batteries have serial numbers of four digits, too.
+TEST(SnapshotExport, FiguresAndDatesAreNoSerialNumbers)
+{
+    QVariantMap record = wholeRecord();
+    record.insert(text("Data.Raw"), QVariantMap{{text("Serial"), qint64{4512}},
+                                                {text("Year"), qint64{2026}},
+                                                {text("Other Serial"), text("2026")},
+                                                {text("Same"), qint64{4512}},
+                                                {text("Voltage"), qint64{14512}},
+                                                {text("Ratio"), 0.45122026}});
+    const QVariantMap kept = withoutSerialNumbers(record);
+    EXPECT_EQ(kept.value(text("Battery.FullChargeCapacity")), qint64{4512});
+    EXPECT_EQ(kept.value(text("Data.SnapshotDate")), record.value(text("Data.SnapshotDate")));
+    EXPECT_EQ(kept.value(text("Data.Raw")).toMap(),
+              (QVariantMap{{text("Voltage"), qint64{14512}}, {text("Ratio"), 0.45122026}}));
+}
+
 TEST(SnapshotExport, JsonIsAnArrayWithTypes)
 {
     const ScopedTimeZone zone("Asia/Tokyo");
