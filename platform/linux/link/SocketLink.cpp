@@ -97,7 +97,8 @@ void SocketLink::receive()
     QByteArray message(longestMessage, Qt::Uninitialized);
     const ssize_t count = ::recv(m_socket.get(), message.data(), static_cast<std::size_t>(message.size()),
                                  MSG_DONTWAIT | MSG_TRUNC);
-    if (count < 0 && (errno == EAGAIN || errno == EINTR))
+    // A reset, of a peer that ended with messages unread, is reported before what it has sent.
+    if (count < 0 && (errno == EAGAIN || errno == EINTR || errno == ECONNRESET))
         return;
     if (count <= 0) {
         close();

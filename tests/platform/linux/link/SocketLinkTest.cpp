@@ -106,6 +106,18 @@ TEST_F(SocketLinkTest, TheEndComesAfterTheLastMessageAndOnce)
     EXPECT_EQ(closed, 1);
 }
 
+// The kernel then reports a reset before what the peer has sent.
+TEST_F(SocketLinkTest, APeerThatEndsWithMessagesUnreadIsHeardToTheEnd)
+{
+    hear();
+    EXPECT_TRUE(link->send("unread"));
+    peerSends("last");
+    peer.close();
+    EXPECT_TRUE(comesTrue([this] { return closed > 0; }));
+    EXPECT_EQ(received, std::vector<QByteArray>{"last"});
+    EXPECT_EQ(closed, 1);
+}
+
 TEST_F(SocketLinkTest, MayBeDestroyedByWhatItCalls)
 {
     link->setReceiver([this](const QByteArray&) { link.reset(); });
