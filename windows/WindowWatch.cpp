@@ -33,7 +33,11 @@ WindowWatch::WindowWatch(std::chrono::milliseconds patience, std::function<void(
 {
     m_timer.setInterval(patience);
     m_timer.setTimerType(Qt::VeryCoarseTimer);
-    m_timer.callOnTimeout(this, [this] { m_idle(); });
+    m_timer.callOnTimeout(this, [this] {
+        // A window that has only just opened has not stopped the timer yet.
+        if (!isWindowOpen() && !m_isNeeded())
+            m_idle();
+    });
     m_timer.start();
     qApp->installEventFilter(this);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &WindowWatch::look);

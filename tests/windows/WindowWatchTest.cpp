@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QWidget>
@@ -46,6 +47,16 @@ TEST_F(WindowWatchTest, IsNotIdleWhileAWindowIsOpen)
     EXPECT_EQ(idle, 0) << "another one is open";
     second.close();
     EXPECT_TRUE(comesTrue([this] { return idle > 0; }));
+}
+
+TEST_F(WindowWatchTest, AWindowThatHasJustOpenedCounts)
+{
+    QWidget window;
+    window.show();
+    // As if the timer came before what the opening has queued.
+    QCoreApplication::removePostedEvents(&watch);
+    wait();
+    EXPECT_EQ(idle, 0);
 }
 
 TEST_F(WindowWatchTest, AWindowThatIsDestroyedIsNoLongerOpen)
