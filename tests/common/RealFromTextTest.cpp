@@ -3,6 +3,7 @@
 #include <bit>
 #include <cmath>
 
+#include <QByteArray>
 #include <QtGlobal>
 
 #include <gtest/gtest.h>

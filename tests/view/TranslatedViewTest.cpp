@@ -1,5 +1,6 @@
 // The battery view in a language that is longer than English.
 
+#include <QLabel>
 #include <gtest/gtest.h>
 
 #include "tests/support/PseudoLanguage.h"
