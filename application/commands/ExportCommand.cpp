@@ -57,7 +57,7 @@ QString existingPath(const Platform& platform, QString (*file)(const QString& fo
                      const CommandReport& report)
 {
     const QStringList folders = platform.userDirectories.applicationSupportDirectories();
-    const QString path = folders.isEmpty() ? QString() : file(folders.constFirst());
+    QString path = folders.isEmpty() ? QString() : file(folders.constFirst());
     if (!path.isEmpty() && ::access(pathBytes(path).constData(), F_OK) == 0)
         return path;
     report(path.isEmpty() ? QStringLiteral("there is no folder for the history")
