@@ -6,7 +6,6 @@
 #include "common/Translation.h"
 #include "common/ValueDescription.h"
 #include "mac/QDMac.h"
-#include "mac/StoredModes.h"
 #include "platform/Bundle.h"
 #include "platform/Host.h"
 #include "platform/NotificationCenter.h"
@@ -198,7 +197,6 @@ void HelperAppDelegate::receiveWakeNote()
 
 void HelperAppDelegate::textFieldTextChanged()
 {
-    followStoredModes(*m_myMac, m_platform.userDefaults.standard());
     updateStatusBarTitle();
 }
 

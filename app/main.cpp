@@ -14,6 +14,7 @@
 #include "app/RemoteControllers.h"
 #include "app/SampleKeeper.h"
 #include "app/SharedNotifications.h"
+#include "app/StoredUnits.h"
 #include "app/WarningKeeper.h"
 #include "common/Paths.h"
 #include "common/ShownLanguage.h"
@@ -97,6 +98,7 @@ int run(QCoreApplication& application, HelperServices& services, SingleInstance&
         [&services](const QString& database, const QByteArray& values) { services.store(database, values); });
     HelperAppDelegate delegate(platform, settings, interface, &QDMac::init,
                                [&controllers](HelperAppDelegate& owner) { return controllers.make(owner); });
+    followStoredUnits(platform, delegate);
     LinuxTextReceiver recorder({pathBytes(services.recordingProgram()), "--record"});
     SampleKeeper samples(platform, delegate, recorder);
     LinuxNotifier notifier;

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "app/StoredUnits.h"
 #include "application/pages/BatteryPage.h"
 #include "application/pages/DetailsPage.h"
 #include "application/pages/HistoryPage.h"
@@ -72,6 +73,7 @@ ApplicationProgram::ApplicationProgram(const Platform& platform, ApplicationPref
     , m_snapshots(pathIn(platform, &savedHistoryFile))
     , m_samples(pathIn(platform, &historyFile))
 {
+    followStoredUnits(m_platform, m_delegate);
     m_delegate.applicationDidFinishLaunching(HelperAppDelegate::Program::Companion);
     connect(&m_delegate, &HelperAppDelegate::statusItemRefreshed, this, &ApplicationProgram::followBattery);
     connect(&m_delegate, &HelperAppDelegate::statusItemRefreshed, this, &ApplicationProgram::refreshed);

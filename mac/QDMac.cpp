@@ -144,10 +144,21 @@ bool QDMac::followBattery()
 
 void QDMac::toggleAge()
 {
-    m_ageMode = nextAgeMode(m_ageMode);
-    m_customAge = ageTextOfMode(m_ageMode, ManufactureDate(), m_platform.clock.now());
+    setAgeMode(nextAgeMode(m_ageMode));
     m_platform.userDefaults.standard().setInteger(Keys::macAgeMode.name(), m_ageMode);
     Q_EMIT changed();
+}
+
+void QDMac::showAgeInMode(qint64 mode)
+{
+    setAgeMode(mode);
+    Q_EMIT changed();
+}
+
+void QDMac::setAgeMode(qint64 mode)
+{
+    m_ageMode = mode;
+    m_customAge = ageTextOfMode(m_ageMode, ManufactureDate(), m_platform.clock.now());
 }
 
 QString QDMac::generateMacID() const

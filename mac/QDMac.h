@@ -57,6 +57,10 @@ public:
     /// Days → months → years → days for `CustomAge`, and stores the mode ("QDMacAgeMode").
     Q_INVOKABLE void toggleAge();
 
+    /// Renews `CustomAge` in the mode (0 days, 1 months, 2 years) that another process has stored: storing it
+    /// once more could undo a further change there.
+    void showAgeInMode(qint64 mode);
+
     /// The identifier of this computer in snapshots: the MD5 digest of serial number and model, both read
     /// anew.
     QString generateMacID() const;
@@ -119,6 +123,7 @@ private:
     QObject* batteryObject() const;
     void createBattery();
     void dropBattery();
+    void setAgeMode(qint64 mode);
 
     const Platform& m_platform;
     std::unique_ptr<QDBattery> m_battery;

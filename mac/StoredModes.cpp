@@ -16,32 +16,37 @@ bool isMode(qint64 number)
     return number >= 0 && number <= lastMode;
 }
 
-void followBatteryModes(QDBattery& battery, const UserDefaults& own)
+bool followBatteryModes(QDBattery& battery, const UserDefaults& own)
 {
     const qint64 temperature = own.integer(Keys::batteryTemperatureMode.name());
     const qint64 age = own.integer(Keys::batteryAgeMode.name());
     // Any other number is fatal when it is loaded.
     if (!isMode(temperature) || !isMode(age))
-        return;
+        return false;
     if (temperature == static_cast<qint64>(battery.temperatureMode()) &&
         age == static_cast<qint64>(battery.ageMode()))
-        return;
+        return false;
     battery.loadSettings();
     battery.updateData();
+    return true;
+}
+
+bool followComputersMode(QDMac& mac, const UserDefaults& own)
+{
+    const qint64 age = own.integer(Keys::macAgeMode.name());
+    if (!isMode(age) || mac.ageMode() == age)
+        return false;
+    mac.showAgeInMode(age);
+    return true;
 }
 
 } // namespace
 
-void followStoredModes(QDMac& mac, const UserDefaults& own)
+bool followStoredModes(QDMac& mac, const UserDefaults& own)
 {
-    if (QDBattery* battery = mac.Battery())
-        followBatteryModes(*battery, own);
-    const qint64 age = own.integer(Keys::macAgeMode.name());
-    if (!isMode(age))
-        return;
-    // inherited: the computer's mode is read once and changes only when it is toggled.
-    for (qint64 toggles = 0; toggles < lastMode && mac.ageMode() != age; ++toggles)
-        mac.toggleAge();
+    QDBattery* battery = mac.Battery();
+    const bool isBatteryChanged = battery && followBatteryModes(*battery, own);
+    return followComputersMode(mac, own) || isBatteryChanged;
 }
 
 } // namespace quindle

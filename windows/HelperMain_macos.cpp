@@ -9,6 +9,7 @@
 #include "app/HelperAppDelegate.h"
 #include "app/HelperCommandLine.h"
 #include "app/SampleKeeper.h"
+#include "app/StoredUnits.h"
 #include "app/WarningKeeper.h"
 #include "common/Paths.h"
 #include "mac/QDMac.h"
@@ -48,6 +49,7 @@ int run(QApplication& application, HelperComputer& computer)
         [] { return InstallationSource(); });
     HelperAppDelegate delegate(platform, settings, interface, &QDMac::init,
                                [&controllers](HelperAppDelegate& owner) { return controllers.make(owner); });
+    followStoredUnits(platform, delegate);
     MacTextReceiver recorder(computer.recordingProgram(), {QStringLiteral("--record")});
     SampleKeeper samples(platform, delegate, recorder);
     const auto notices = systemNotices();

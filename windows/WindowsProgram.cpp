@@ -1,5 +1,6 @@
 #include "windows/WindowsProgram.h"
 
+#include "app/StoredUnits.h"
 #include "mac/QDMac.h"
 #include "platform/Bundle.h"
 #include "platform/linux/session/ActivationToken.h"
@@ -33,6 +34,7 @@ WindowsProgram::WindowsProgram(WindowsServices& services, HelperEnd& helper)
     // The helper repeats the click on its own models, so that both processes show the same.
     m_interface.setClickObserver(
         [this](FactClick click) { m_helper.send(Kind::Clicked, static_cast<quint32>(click)); });
+    followStoredUnits(m_platform, m_delegate);
     m_delegate.applicationDidFinishLaunching(HelperAppDelegate::Program::Companion);
 }
 
