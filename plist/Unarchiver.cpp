@@ -321,7 +321,9 @@ bool Unarchiver::readNumber(const Element& element, Object& object)
 {
     // Encoders name the value differently.
     for (const char* key : {"NS.number", "NS.boolval", "NS.intval", "NS.dblval"}) {
-        object.value = m_graph.value(resolved(find(element, key)));
+        const Element number = resolved(find(element, key));
+        // A long text that many instances share is not copied for each.
+        object.value = isPlainNumber(number.kind) ? m_graph.value(number) : QVariant();
         if (isNumber(object.value))
             return true;
     }
@@ -346,10 +348,13 @@ ArchivedClass Unarchiver::classOf(const Element& instance)
 /// The first class that is known, from the object's own up through those it inherits from.
 ArchivedClass Unarchiver::readClass(const Element& description)
 {
+    // Spent before it is searched: many references can be made to lead to one long description.
+    if (!spend(description.count))
+        return ArchivedClass::Unknown;
     const ArchivedClass own = archivedClass(m_graph, find(description, "$classname"));
     const Element inherited = find(description, "$classes");
     const quint64 count = inherited.kind == Kind::Array ? inherited.count : 0;
-    if (own != ArchivedClass::Unknown || !spend(description.count + count))
+    if (own != ArchivedClass::Unknown || !spend(count))
         return own;
     for (quint64 index = 0; index < count; ++index) {
         const ArchivedClass archived =
@@ -412,7 +417,11 @@ std::optional<Unarchiver::References> Unarchiver::numberedReferences(const Eleme
     const QLatin1StringView start(prefix);
     std::map<quint64, quint64> numbered;
     for (quint64 index = 0; index < element.count; ++index) {
-        const QString key = m_graph.value(m_graph.element(m_graph.key(element, index))).toString();
+        const Element keyElement = m_graph.element(m_graph.key(element, index));
+        // All entries can be made to share one long key.
+        if (!spend(weightOfContent(keyElement.count)))
+            return std::nullopt;
+        const QString key = m_graph.value(keyElement).toString();
         bool isNumber = false;
         const quint64 number = key.startsWith(start) ? key.mid(start.size()).toULongLong(&isNumber) : 0;
         const Element entry = m_graph.element(m_graph.entry(element, index));
