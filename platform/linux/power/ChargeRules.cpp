@@ -117,6 +117,9 @@ OptionalNumber presentVoltage(const Battery& battery, const DriverFigures& figur
 /// would be wrong by the ratio of the two.
 OptionalNumber chargeRate(const Battery& battery, const DriverFigures& figures)
 {
+    // Its charge is in percent, which milliamperes are no rate of.
+    if (battery.hasPercentageOnly)
+        return std::nullopt;
     if (!countsEnergies(figures))
         return battery.averageCurrent;
     if (figures.power)

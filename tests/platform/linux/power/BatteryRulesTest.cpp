@@ -262,6 +262,13 @@ TEST(BatteryRules, ChargeRateOfEnergiesIsAtTheRatedVoltage)
     expectFigure(battery({{"charge_full", "4000000"}, {"current_now", "1600000"}}).chargeRate, 1600);
 }
 
+TEST(BatteryRules, APercentageHasNoChargeRate)
+{
+    const Battery percentage = battery({{"capacity", "80"}, {"current_now", "1600000"}});
+    expectFigure(percentage.averageCurrent, 1600);
+    expectFigure(percentage.chargeRate, {});
+}
+
 TEST(BatteryRules, Voltage)
 {
     expectFigure(battery({}).voltage, {});
