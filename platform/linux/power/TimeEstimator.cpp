@@ -20,6 +20,8 @@ constexpr milliseconds shortestWatch = 5s;
 constexpr milliseconds shortestWatchOfCharges = 20s;
 constexpr milliseconds chargeWindow = 10min;
 
+constexpr milliseconds longestPause = 150s;
+
 std::optional<int> minutesFor(std::optional<double> charge, std::optional<double> current)
 {
     // As with a driver's own times: beyond that the current is too small to mean anything.
@@ -53,6 +55,9 @@ void TimeEstimator::addSample(const Sample& sample)
 {
     while (!m_memory.samples.empty() && sample.time - m_memory.samples.front().time > chargeWindow)
         m_memory.samples.pop_front();
+    // No rest is longer than a minute, so the computer has slept, and hardly used anything.
+    if (!m_memory.samples.empty() && sample.time - m_memory.samples.back().time > longestPause)
+        m_memory.samples.clear();
     m_memory.samples.push_back(sample);
 }
 

@@ -132,4 +132,16 @@ TEST(TimeEstimator, TheChargesChangeStandsInForTheCurrent)
     EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
 }
 
+TEST(TimeEstimator, ASleepDoesNotCountAsWatched)
+{
+    TimeEstimator estimator;
+    estimator.setState(false, Direction::Discharging);
+    estimator.addSample({0s, 1020, 2000, {}});
+    estimator.addSample({36s, 1010, 2000, {}});
+    estimator.addSample({300s, 1010, 2000, {}}); // longer than any rest
+    EXPECT_EQ(estimator.minutesUntilEmpty(), std::nullopt);
+    estimator.addSample({336s, 1000, 2000, {}});
+    EXPECT_EQ(estimator.minutesUntilEmpty(), 60);
+}
+
 } // namespace
