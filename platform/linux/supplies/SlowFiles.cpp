@@ -118,7 +118,9 @@ std::optional<ssize_t> SlowFiles::insteadOf(const std::string& path, char* buffe
     // Before the next read begins: while one is under way there is no value, and a file that stays slow would
     // never have one.
     const ssize_t result = file->latest(buffer, size);
-    if (file->hasRecovered() && m_timesFoundSlow[path] <= mostRecoveries)
+    // Nothing can stand in for the list of a folder.
+    const bool mayRecover = path == m_folder || m_timesFoundSlow[path] <= mostRecoveries;
+    if (file->hasRecovered() && mayRecover)
         m_files.erase(found);
     else
         SlowFile::request(file);

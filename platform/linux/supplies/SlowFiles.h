@@ -63,7 +63,7 @@ public:
     std::shared_ptr<SlowFile> add(const std::string& path, SlowFile::Clock::time_point begun);
 
     /// What stands in for reading the file, as ReadSteps::insteadOf says. A file that is quick again stops
-    /// being slow, the first few times.
+    /// being slow, the first few times; the folder itself each time.
     std::optional<ssize_t> insteadOf(const std::string& path, char* buffer, std::size_t size);
 
     /// Whether too many reads hang for another one to be tried.

@@ -238,6 +238,24 @@ TEST(SlowFiles, TheValueOfAFileThatStaysSlowIsGiven)
     EXPECT_EQ(std::string_view(buffer.data(), 2), "7\n");
 }
 
+TEST(SlowFiles, TheFolderItselfIsListedAgainHoweverOftenItWasSlow)
+{
+    const SupplyTree tree;
+    SlowFiles files(tree.path(), readDescriptor);
+    const auto comesToBeListed = [&] {
+        for (int tries = 0; tries < 3000; ++tries) {
+            if (!files.insteadOf(tree.path(), nullptr, 0))
+                return true;
+            std::this_thread::sleep_for(1ms);
+        }
+        return false;
+    };
+    for (int times = 1; times <= 6; ++times) {
+        files.add(tree.path(), SlowFile::Clock::now() - 1s)->deliver(nullptr, 0);
+        EXPECT_TRUE(comesToBeListed()) << times;
+    }
+}
+
 int warnings = 0;
 
 TEST_F(HangingReadsTest, OneLineInTheLogNamesIt)
