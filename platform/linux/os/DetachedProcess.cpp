@@ -47,8 +47,8 @@ void unblockSignals()
 [[noreturn]] void runAsGrandchild(char* const* arguments, const Inheritance& inheritance, int report)
 {
     ::setsid();
-    if (const pid_t child = ::fork(); child != 0)
-        ::_exit(child > 0 ? 0 : 1);
+    if (::fork() != 0)
+        ::_exit(0);
     const pid_t own = ::getpid();
     [[maybe_unused]] ssize_t written = ::write(report, &own, sizeof own);
     takeWholeCoreDumps();
@@ -59,13 +59,11 @@ void unblockSignals()
     ::_exit(1);
 }
 
-bool endedWell(pid_t child)
+/// How the child ended says nothing: where the helper was started with SIGCHLD ignored, nobody hears of it.
+void waitForEnd(pid_t child)
 {
-    int status = 0;
-    while (::waitpid(child, &status, 0) < 0)
-        if (errno != EINTR)
-            return false;
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+    }
 }
 
 /// The numbers in the pipe until it is closed, as exec does.
@@ -101,8 +99,9 @@ std::optional<pid_t> runDetached(const QList<QByteArray>& command, const Inherit
         runAsGrandchild(arguments.data(), inheritance, report.get());
     // Reading would wait for the end of this one too.
     report.close();
-    if (child < 0 || !endedWell(child))
+    if (child < 0)
         return std::nullopt;
+    waitForEnd(child);
     const std::vector<pid_t> numbers = reportOf(reports.get());
     return numbers.size() == 1 ? std::optional(numbers.front()) : std::nullopt;
 }
