@@ -67,13 +67,24 @@ Run longestRun(const Text& text, const Text& serial)
     return longest;
 }
 
-/// Text and QByteArray alike: each run is replaced by the same part of the invented serial.
-template <typename Text>
-Text replaced(Text text, const Text& serial, const Text& invented)
+constexpr auto always = [](const auto& /*run*/) { return true; };
+
+/// Keys are words, and so are texts in the place of a missing serial ("System Serial Number"): a word that
+/// both have names no computer, and without its keys the file could not be played.
+bool isNoWord(const QString& run)
+{
+    const auto isDigit = [](QChar character) { return character.isDigit(); };
+    const auto isLower = [](QChar character) { return character.isLower(); };
+    return std::any_of(run.cbegin(), run.cend(), isDigit) || std::none_of(run.cbegin(), run.cend(), isLower);
+}
+
+/// Text and QByteArray alike: each run that `isReplaced` becomes the same part of the invented serial.
+template <typename Text, typename IsReplaced>
+Text replaced(Text text, const Text& serial, const Text& invented, IsReplaced isReplaced)
 {
     for (qsizetype position = 0; position + shortestRun <= text.size(); ++position) {
         const Run run = longestRun(text.mid(position), serial);
-        if (run.length < shortestRun)
+        if (run.length < shortestRun || !isReplaced(text.mid(position, run.length)))
             continue;
         text.replace(position, run.length, invented.mid(run.start, run.length));
         position += run.length - 1;
@@ -81,13 +92,14 @@ Text replaced(Text text, const Text& serial, const Text& invented)
     return text;
 }
 
-QString cleanText(QString text, const std::vector<SerialPair>& serials)
+template <typename IsReplaced>
+QString cleanText(QString text, const std::vector<SerialPair>& serials, IsReplaced isReplaced)
 {
     for (const SerialPair& pair : serials) {
         // Also a serial that is too short for a run.
-        if (text == pair.trueSerial)
+        if (text == pair.trueSerial && isReplaced(text))
             return pair.inventedSerial;
-        text = replaced(text, pair.trueSerial, pair.inventedSerial);
+        text = replaced(text, pair.trueSerial, pair.inventedSerial, isReplaced);
     }
     return text;
 }
@@ -98,7 +110,7 @@ QByteArray cleanData(QByteArray data, const std::vector<SerialPair>& serials)
         const QByteArray serial = pair.trueSerial.toUtf8();
         // Characters beyond ASCII make lengths differ in bytes; a serial has none in practice.
         const QByteArray invented = pair.inventedSerial.toUtf8().leftJustified(serial.size(), 'X', true);
-        data = replaced(data, serial, invented);
+        data = replaced(data, serial, invented, always);
     }
     return data;
 }
@@ -132,7 +144,7 @@ QVariant withoutSerials(const QVariant& value, const std::vector<SerialPair>& se
 {
     switch (value.typeId()) {
     case QMetaType::QString:
-        return cleanText(value.toString(), serials);
+        return cleanText(value.toString(), serials, always);
     case QMetaType::QByteArray:
         return cleanData(value.toByteArray(), serials);
     case QMetaType::LongLong:
@@ -147,7 +159,7 @@ QVariant withoutSerials(const QVariant& value, const std::vector<SerialPair>& se
         QVariantMap clean;
         const QVariantMap map = value.toMap();
         for (auto it = map.cbegin(); it != map.cend(); ++it)
-            clean.insert(cleanText(it.key(), serials), withoutSerials(it.value(), serials));
+            clean.insert(cleanText(it.key(), serials, isNoWord), withoutSerials(it.value(), serials));
         return clean;
     }
     default:

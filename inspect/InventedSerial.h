@@ -22,7 +22,8 @@ QString inventedSerial(const QString& serial, bool keepsDate, const QStringList&
 
 /// `value` with every occurrence of a true serial replaced, and every run of four or more of its characters
 /// (a part of a serial names a computer nearly as well): in texts, keys, data and whole numbers written like
-/// a serial. A serial shorter than four characters is only replaced where it is the whole text.
+/// a serial. A serial shorter than four characters is only replaced where it is the whole text. In keys a run
+/// of letters that are not all capitals stays: it is a word of the key.
 QVariant withoutSerials(const QVariant& value, const std::vector<SerialPair>& serials);
 
 } // namespace quindle

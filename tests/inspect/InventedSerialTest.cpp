@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "tests/support/QtPrinters.h"
+#include "tests/support/Texts.h"
 
 using namespace quindle;
 
@@ -81,6 +82,19 @@ TEST(InventedSerial, IsReplacedWhereverItOccurs)
     };
     for (const SerialRow& row : rows)
         EXPECT_EQ(withoutSerials(row.value, serials), row.clean);
+}
+
+TEST(InventedSerial, KeysKeepTheWordsThatASerialHasToo)
+{
+    const std::vector<SerialPair> serials{
+        {QStringLiteral("System Serial Number"), QStringLiteral("XQJKWZ YVHGTB XQJKWZ")},
+        {QStringLiteral("SmartBattery01"), QStringLiteral("QZTKHXVBWGJY72")},
+        {QStringLiteral("standard"), QStringLiteral("QZTKHXVB")}};
+    for (const char* key : {"IOPlatformSerialNumber", "BatterySerialNumber", "AppleSmartBattery", "standard"})
+        EXPECT_EQ(withoutSerials(QVariantMap{{latin(key), true}}, serials),
+                  (QVariantMap{{latin(key), true}}));
+    EXPECT_EQ(withoutSerials(QVariantMap{{QStringLiteral("of tery01"), QStringLiteral("standard")}}, serials),
+              (QVariantMap{{QStringLiteral("of WGJY72"), QStringLiteral("QZTKHXVB")}}));
 }
 
 } // namespace
