@@ -63,7 +63,7 @@ void WarningKeeper::follow()
         carryOut(m_watch.loseBattery());
     } else if (const BatteryReading reading = readingOf(*battery); std::isfinite(reading.percent)) {
         // Not at each refresh: it asks the file system.
-        const int percent = static_cast<int>(reading.percent);
+        const double percent = std::trunc(reading.percent);
         if (std::exchange(m_percentSeen, percent) != percent)
             lookAgain();
         carryOut(m_watch.take(reading, m_settings));

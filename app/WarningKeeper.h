@@ -51,7 +51,7 @@ private:
     WarningWatch m_watch;
     WarningSettings m_settings;
     WarningsChoice m_choice = WarningsChoice::Automatic;
-    std::optional<int> m_percentSeen;
+    std::optional<double> m_percentSeen;  ///< in whole percent
     std::vector<WarningAction> m_waiting; ///< for the answer to who else warns
     bool m_isAsking = false;
     bool m_needsAttention = false;

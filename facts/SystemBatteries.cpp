@@ -1,6 +1,7 @@
 #include "facts/SystemBatteries.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 #include "common/NumberConversion.h"
@@ -64,7 +65,7 @@ Fact factOf(const QVariantMap& description, int number, FactPlace place)
 {
     const std::optional<double> percent = percentOf(description);
     const QString charge =
-        percent ? integerText(qRound64(*percent)) + QStringLiteral(" %") : missingValueText();
+        percent ? fixedText(std::round(*percent), 0) + QStringLiteral(" %") : missingValueText();
     Fact fact = hidden();
     fact.caption = captionOf(description, number, place);
     fact.value = besideEachOther(charge, stateOf(description, place));

@@ -70,6 +70,15 @@ TEST(SystemBatteriesTest, AChargeThatIsNotKnownIsADash)
     EXPECT_FALSE(facts[0].percent);
 }
 
+TEST(SystemBatteriesTest, AnAbsurdChargeIsShownAsItIs)
+{
+    QVariantMap absurd = described("Slice", qint64{1} << 62);
+    absurd.insert(QStringLiteral("Max Capacity"), qint64{1});
+    const auto facts = systemBatteryFacts({absurd, described("Other", 50)});
+    ASSERT_EQ(facts.size(), 2U);
+    EXPECT_EQ(words(facts[0]), QStringLiteral("Slice|461168601842738790400 %"));
+}
+
 TEST(SystemBatteriesTest, ASupplyDischargesWhenItSaysSo)
 {
     QVariantMap supply = described("Back-UPS", 90);
