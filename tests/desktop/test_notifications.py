@@ -15,6 +15,7 @@ import dbus
 
 from helper_case import HELPER, SUITE, HelperCase, start_message_bus, wait_for
 
+OWN = "com.fernhollow.Quindle-Helper"
 ITEM = "/StatusNotifierItem"
 ITEM_INTERFACE = "org.kde.StatusNotifierItem"
 PATH = "/com/fernhollow/Quindle"
@@ -50,11 +51,14 @@ class Notifications(HelperCase):
         for name, value in attributes.items():
             (target / name).write_text(value + "\n")
 
-    def set_template(self, template):
-        path = self.settings / f"{SUITE}.plist"
+    def store(self, settings, database=OWN):
+        path = self.settings / f"{database}.plist"
         replacement = path.with_suffix(".new")
-        replacement.write_bytes(plistlib.dumps({"customStatusBar": template}))
+        replacement.write_bytes(plistlib.dumps(settings))
         replacement.rename(path)
+
+    def set_template(self, template):
+        self.store({"customStatusBar": template}, SUITE)
 
     def start_here(self, program=HELPER):
         process = self.desktop.start(program, env={"QUINDLE_SYSFS": str(self.sysfs)})
@@ -127,6 +131,24 @@ class Notifications(HelperCase):
         self.assertIsNone(process.poll())
         self.assert_changes_at_once("three %p%", "three 50.0%", lambda: self.dbus_send(SETTINGS_CHANGED))
 
+    def test_units_that_another_process_has_stored_show(self):
+        self.write_attributes("power_supply/BAT0", temp="300")
+        self.addCleanup(os.unlink, self.sysfs / "class/power_supply/BAT0/temp")
+        self.start_titled("%p%", "50.0%")
+
+        def menu():
+            return self.desktop.gdbus(self.desktop.item_name(), "/MenuBar", "com.canonical.dbusmenu.GetLayout", "0", "-1",
+                                      "[]")
+
+        self.assertIn("30.0 °C", menu())
+        self.store({"QDBatteryTemperatureMode": 1})
+
+        def announced_and_shown():  # again and again: where the machine was busy, nobody may have listened yet
+            self.dbus_send(SETTINGS_CHANGED)
+            return "86.0 °F" in menu()
+
+        self.assertTrue(wait_for(announced_and_shown), menu())
+
     def test_waking_refreshes_the_title(self):
         environment = {"DBUS_SYSTEM_BUS_ADDRESS": self.system_bus}
         mock = self.desktop.start(sys.executable, "-m", "dbusmock", "--system", "--template", "logind",
@@ -187,7 +209,7 @@ class Notifications(HelperCase):
         self.assert_title("two 50.0%")
         self.assertIsNone(process.poll())
         self.assertEqual(SlowService.asked, ["/sp/product?cc=F5YX&lang=en_US"])
-        stored = plistlib.loads((self.settings / "com.fernhollow.Quindle-Helper.plist").read_bytes())
+        stored = plistlib.loads((self.settings / f"{OWN}.plist").read_bytes())
         self.assertEqual(stored["modelStringCache"], {"F5YX": "(13-inch, Early 2014)"})
 
 
