@@ -8,9 +8,10 @@ namespace quindle {
 
 namespace {
 
-QString imageFile(const QString& resources, const Image& image)
+QString imageFile(const QString& resources, const Image* image)
 {
-    return resources + QStringLiteral("/icons/") + image.name() + QStringLiteral("-symbolic.svg");
+    return image ? resources + QStringLiteral("/icons/") + image->name() + QStringLiteral("-symbolic.svg")
+                 : QString();
 }
 
 /// A row that shows a value is grey: it cannot be chosen.
@@ -41,23 +42,53 @@ MacStatusItem::MacStatusItem(std::unique_ptr<StatusItemCalls> calls, QString res
 void MacStatusItem::setTitle(const QString& title)
 {
     m_title = title;
-    m_calls->setTitle(title);
+    showSoon();
 }
 
 void MacStatusItem::setImage(std::shared_ptr<Image> image)
 {
     m_image = std::move(image);
-    if (m_image)
-        m_calls->setImage(imageFile(m_resources, *m_image), m_image->size(), m_image->isTemplate());
-    else
-        m_calls->setImage(QString(), QSizeF(), false);
+    showSoon();
+}
+
+void MacStatusItem::setMenuBarFontSize(double points)
+{
+    m_fontSize = points;
+    showSoon();
 }
 
 void MacStatusItem::setToolTipText(const QString& text)
 {
+    m_toolTip = text;
+    showSoon();
+}
+
+void MacStatusItem::showSoon()
+{
+    if (!std::exchange(m_isShownSoon, true))
+        QMetaObject::invokeMethod(
+            &m_turn, [this] { show(); }, Qt::QueuedConnection);
+}
+
+void MacStatusItem::show()
+{
+    m_isShownSoon = false;
+    const Shown wanted{.title = m_title,
+                       .imageFile = imageFile(m_resources, m_image.get()),
+                       // Asked for now: it is set after the image.
+                       .imageSize = m_image ? m_image->size() : QSizeF(),
+                       .fontSize = m_fontSize,
+                       .toolTip = m_toolTip};
+    const Shown shown = std::exchange(m_shown, wanted);
+    if (wanted.fontSize != shown.fontSize)
+        m_calls->setFontSize(wanted.fontSize);
+    if (wanted.imageFile != shown.imageFile || wanted.imageSize != shown.imageSize)
+        m_calls->setImage(wanted.imageFile, wanted.imageSize);
+    if (wanted.title != shown.title)
+        m_calls->setTitle(wanted.title);
     // A tool tip that is set again is hidden and shown anew.
-    if (std::exchange(m_toolTip, text) != text)
-        m_calls->setToolTip(text);
+    if (wanted.toolTip != shown.toolTip)
+        m_calls->setToolTip(wanted.toolTip);
 }
 
 void MacStatusItem::setMenu(StatusMenu* menu)

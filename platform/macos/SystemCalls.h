@@ -174,9 +174,9 @@ public:
 
     virtual void setTitle(const QString& title) = 0;
 
-    /// The picture in a file, drawn in the bar's text colour when it is a template. No picture for an empty
-    /// path and for a file that is not a picture; its own size for an empty one.
-    virtual void setImage(const QString& file, QSizeF size, bool isTemplate) = 0;
+    /// The picture in a file, drawn in the bar's text colour. No picture for an empty path and for a file
+    /// that is not a picture; its own size for an empty one.
+    virtual void setImage(const QString& file, QSizeF size) = 0;
     virtual void setFontSize(double points) = 0;
     virtual void setToolTip(const QString& text) = 0;
 

@@ -72,10 +72,10 @@ public:
 
     void setTitle(const QString& title) override { m_item.button.title = cocoaText(title); }
 
-    void setImage(const QString& file, QSizeF size, bool isTemplate) override
+    void setImage(const QString& file, QSizeF size) override
     {
         NSImage* const image = [[NSImage alloc] initWithContentsOfFile:cocoaText(file)];
-        [image setTemplate:isTemplate];
+        [image setTemplate:YES];
         // Else as large as the drawing.
         if (!size.isEmpty())
             image.size = {size.width(), size.height()};

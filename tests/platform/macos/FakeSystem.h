@@ -238,10 +238,9 @@ struct FakeBarItem
     QString title;
     QString image;
     QSizeF imageSize;
-    bool isTemplate = false;
     double fontSize = 0;
     QString toolTip;
-    int toolTips = 0;
+    int changes = 0; ///< of anything but the menu
     std::vector<MenuEntry> entries;
     std::function<void(int)> chosen;
     int updates = 0;
@@ -254,17 +253,25 @@ public:
         : m_item(item)
     {
     }
-    void setTitle(const QString& title) override { m_item.title = title; }
-    void setImage(const QString& file, QSizeF size, bool isTemplate) override
+    void setTitle(const QString& title) override
     {
+        ++m_item.changes;
+        m_item.title = title;
+    }
+    void setImage(const QString& file, QSizeF size) override
+    {
+        ++m_item.changes;
         m_item.image = file;
         m_item.imageSize = size;
-        m_item.isTemplate = isTemplate;
     }
-    void setFontSize(double points) override { m_item.fontSize = points; }
+    void setFontSize(double points) override
+    {
+        ++m_item.changes;
+        m_item.fontSize = points;
+    }
     void setToolTip(const QString& text) override
     {
-        ++m_item.toolTips;
+        ++m_item.changes;
         m_item.toolTip = text;
     }
     void setMenu(const std::vector<MenuEntry>& entries, std::function<void(int id)> chosen) override

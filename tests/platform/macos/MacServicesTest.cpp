@@ -239,26 +239,43 @@ protected:
 TEST_F(MacItem, TitleImageFontAndToolTip)
 {
     item->setTitle(u("80.0%"));
-    EXPECT_EQ(shown.title, u("80.0%"));
     EXPECT_EQ(item->title(), u("80.0%"));
     item->setMenuBarFontSize(12);
-    EXPECT_EQ(shown.fontSize, 12);
     const auto image = std::make_shared<Image>(u("#bat04"));
-    image->setTemplate(true);
-    image->setSize({16, 16});
     item->setImage(image);
     EXPECT_EQ(item->image(), image);
+    image->setSize({16, 16}); // as the delegate does it, afterwards
+    item->setToolTipText(u("a\nb"));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(shown.title, u("80.0%"));
+    EXPECT_EQ(shown.fontSize, 12);
     EXPECT_EQ(shown.image, u("/r/icons/#bat04-symbolic.svg"));
     EXPECT_EQ(shown.imageSize, QSizeF(16, 16));
-    EXPECT_TRUE(shown.isTemplate);
-    item->setImage(nullptr);
-    EXPECT_EQ(shown.image, QString());
-    item->setFallbackText(u("80"));
-    EXPECT_EQ(shown.title, u("80.0%"));
-    item->setToolTipText(u("a\nb"));
-    item->setToolTipText(u("a\nb"));
     EXPECT_EQ(shown.toolTip, u("a\nb"));
-    EXPECT_EQ(shown.toolTips, 1);
+    EXPECT_EQ(shown.changes, 4);
+    item->setImage(nullptr);
+    item->setFallbackText(u("80"));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(shown.image, QString());
+    EXPECT_EQ(shown.title, u("80.0%"));
+}
+
+TEST_F(MacItem, WhatIsReplacedAtOnceAndWhatStaysIsNotShown)
+{
+    const auto refresh = [this] {
+        item->setTitle(u("100 %"));
+        item->setTitle(u("80.0%"));
+        item->setToolTipText(u("Full"));
+        QCoreApplication::sendPostedEvents();
+    };
+    refresh();
+    EXPECT_EQ(shown.changes, 2);
+    refresh();
+    EXPECT_EQ(shown.changes, 2);
+    item->setTitle(u("79.0%"));
+    item.reset();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(shown.title, u("80.0%")) << "it has gone";
 }
 
 StatusMenu::Row row(StatusMenu::Kind kind, const char* text, int parent = 0)
