@@ -18,8 +18,12 @@ package_check_packages="debootstrap"
 rpm_packages="rpm rpmlint"
 other_format_packages="makepkg nix-bin shellcheck"
 
+# For this machine's architecture: a package may be there for several.
 is_installed() {
-    [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+    local states
+    : "${own_architecture:=$(dpkg --print-architecture)}"
+    states=$(dpkg-query -W -f=' ${Architecture}:${db:Status-Status} ' "$1" 2>/dev/null) || return 1
+    [[ $states == *" $own_architecture:installed "* || $states == *" all:installed "* ]]
 }
 
 as_root() {
