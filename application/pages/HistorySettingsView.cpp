@@ -11,6 +11,7 @@
 #include "platform/NotificationCenter.h"
 #include "settings/HistorySettings.h"
 #include "widgets/BoundControls.h"
+#include "widgets/PageWheel.h"
 #include "widgets/QuietLabel.h"
 
 namespace quindle {
@@ -50,6 +51,7 @@ HistorySettingsView::HistorySettingsView(UserDefaults& own, DistributedNotificat
     m_days->setAccessibleName(tr("Keep charge and power"));
     for (const Span& span : offeredSpans)
         m_days->addItem(translated("HistorySettings", span.caption), span.days);
+    leaveWheelToPage(*m_days);
     addRows();
     fitToFont();
     connect(m_record, &BoundCheckBox::switched, this, [this](bool on) {

@@ -13,6 +13,7 @@
 #include "platform/Notifier.h"
 #include "platform/UserDefaults.h"
 #include "widgets/BoundControls.h"
+#include "widgets/PageWheel.h"
 #include "widgets/QuietLabel.h"
 
 namespace quindle {
@@ -76,6 +77,7 @@ WarningSettingsView::WarningSettingsView(UserDefaults& own, DistributedNotificat
     m_choice->setAccessibleName(tr("Warn"));
     for (const Choice& choice : choices)
         m_choice->addItem(translated("WarningSettings", choice.caption), static_cast<int>(choice.choice));
+    leaveWheelToPage(*m_choice);
     m_explanation->setWordWrap(true);
     addRows();
     fitToFont();
@@ -135,6 +137,7 @@ QSpinBox* WarningSettingsView::percentOf(WarningLevel level)
     percent->setLocale(QLocale::c()); // ASCII digits, as all figures have
     // A number that is being typed is not a percentage yet.
     percent->setKeyboardTracking(false);
+    leaveWheelToPage(*percent);
     if (range.least == 0) {
         percent->setSpecialValueText(tr("Auto"));
         percent->setToolTip(tr("Auto: the limit that the computer reports"));

@@ -1,12 +1,15 @@
 // The recorded history in the application: its page and its settings, on files of their own.
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QMessageBox>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTableView>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 #include "application/pages/HistoryPage.h"
@@ -182,6 +185,26 @@ TEST_F(HistoryPagesTest, AnOddNumberOfDaysIsShownAsItIs)
     EXPECT_EQ(control<QComboBox>("Keep charge and power")->currentText(), latin("77 days"));
 }
 
+// Turned to scroll the page, it would limit the history and switch warnings off.
+TEST_F(HistoryPagesTest, TheWheelChangesNoSetting)
+{
+    show("Settings");
+    QList<QWidget*> controls;
+    for (auto* box : program->window().findChildren<QComboBox*>())
+        controls.append(box);
+    for (auto* percent : program->window().findChildren<QSpinBox*>())
+        controls.append(percent);
+    ASSERT_EQ(controls.size(), 7);
+    const QVariantMap before = computer.userDefaults.standardDefaults.values;
+    for (QWidget* control : controls) {
+        const QPointF centre(control->rect().center());
+        QWheelEvent event(centre, control->mapToGlobal(centre), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(control, &event);
+    }
+    EXPECT_EQ(computer.userDefaults.standardDefaults.values, before);
+}
+
 TEST_F(HistoryPagesTest, AllIsDeletedOnceThatIsConfirmed)
 {
     store(2);
@@ -189,7 +212,10 @@ TEST_F(HistoryPagesTest, AllIsDeletedOnceThatIsConfirmed)
     show("Settings");
     answerDeletion("Cancel");
     EXPECT_EQ(storedCount(), 2);
+    EXPECT_EQ(computer.distributedNotificationCenter.posted, QStringList());
     answerDeletion("Delete");
+    EXPECT_EQ(computer.distributedNotificationCenter.posted,
+              QStringList{latin("HistoryDeletedNotification")});
     EXPECT_TRUE(comesTrue([this] { return says("All snapshots deleted"); }));
     EXPECT_TRUE(comesTrue([this] { return storedCount() == 0; }));
     EXPECT_TRUE(comesTrue([this] { return SampleStore(database()).samplesBetween(0, 2000).empty(); }));
