@@ -42,6 +42,8 @@ SampleKeeper::SampleKeeper(const Platform& platform, HelperAppDelegate& delegate
                                                        [this] { lookAgain(); });
     platform.distributedNotificationCenter.addObserver(samplesWantedNotification(),
                                                        [this] { handOverNow(); });
+    platform.distributedNotificationCenter.addObserver(historyDeletedNotification(),
+                                                       [this] { m_samples.clear(); });
 }
 
 void SampleKeeper::takeSample()

@@ -15,8 +15,8 @@ struct Platform;
 /// and keeps it in memory; `quindle --record` gets what there is once an hour, before sleep, when the history
 /// is looked at (samplesWantedNotification) and at the end, and is started once a day also without a sample,
 /// because it saves the day's snapshot. It writes nothing itself and has no timer: the hour is checked when a
-/// refresh comes anyway. While recording is switched off, or that program is not installed, it keeps nothing.
-/// Main thread only.
+/// refresh comes anyway. While recording is switched off, or that program is not installed, it keeps nothing;
+/// when the history is deleted (historyDeletedNotification), it forgets what it has. Main thread only.
 class SampleKeeper : public QObject
 {
 public:

@@ -185,6 +185,8 @@ QWidget* ApplicationProgram::makeSnapshotsPage(QWidget* parent)
 
 void ApplicationProgram::deleteHistory()
 {
+    // First, or what the helper has in memory would be stored afterwards.
+    m_platform.distributedNotificationCenter.post(historyDeletedNotification());
     m_snapshots.removeAll();
     m_samples.removeAll();
 }

@@ -23,6 +23,11 @@ QString samplesWantedNotification()
     return QStringLiteral("SamplesWantedNotification");
 }
 
+QString historyDeletedNotification()
+{
+    return QStringLiteral("HistoryDeletedNotification");
+}
+
 qint64 historyDays(const UserDefaults& own)
 {
     constexpr qint64 longest = 1'000'000; // of more, no moment can be computed

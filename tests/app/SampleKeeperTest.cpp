@@ -248,4 +248,16 @@ TEST_F(SampleKeeperTest, StartsNothingWithoutABattery)
     EXPECT_EQ(recorder.attempts, 0);
 }
 
+TEST_F(SampleKeeperTest, WhenTheHistoryIsDeletedItForgetsWhatItHas)
+{
+    start();
+    pass(60, 50);
+    pass(60, 49);
+    platform.distributedNotificationCenter.post(QStringLiteral("HistoryDeletedNotification"));
+    EXPECT_TRUE(keeper->samples().isEmpty());
+    pass(60, 48);
+    keeper->finish();
+    EXPECT_EQ(recorder.texts, Texts{"1420168025 48 - discharging\n"});
+}
+
 } // namespace
