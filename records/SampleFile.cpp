@@ -1,5 +1,6 @@
 #include "records/SampleFile.h"
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -46,11 +47,33 @@ QString reasonOf(int error)
     return error == EINVAL ? QStringLiteral("it is not an ordinary file") : qt_error_string(error);
 }
 
-bool isSound(Database& database)
+enum class Soundness { Sound, Damaged, NotKnown };
+
+Soundness soundnessOf(Database& database)
 {
     // The first fault is enough.
     Statement check = database.statement("PRAGMA quick_check(1)");
-    return check.step() && check.text(0) == "ok";
+    if (check.step())
+        return check.text(0) == "ok" ? Soundness::Sound : Soundness::Damaged;
+    // A server or a disk may not answer for a moment, and memory may be short.
+    return database.fault().isDamage ? Soundness::Damaged : Soundness::NotKnown;
+}
+
+/// An errno value: SQLite takes a part that the disk cannot read (EIO) for a damaged one.
+int readThrough(const QByteArray& path)
+{
+    const FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC));
+    std::array<char, 65536> part{};
+    for (off_t offset = 0; file.isOpen();) {
+        const ssize_t count = ::pread(file.get(), part.data(), part.size(), offset);
+        if (count == 0)
+            return 0;
+        if (count > 0)
+            offset += count;
+        else if (errno != EINTR)
+            break;
+    }
+    return errno;
 }
 
 } // namespace
@@ -74,8 +97,9 @@ StoreOutcome SampleFile::look(const Work& work)
 StoreOutcome SampleFile::check()
 {
     return look([this](Database& database) {
-        m_isDamaged = !isSound(database);
-        return !m_isDamaged;
+        const Soundness soundness = soundnessOf(database);
+        m_isDamaged = soundness == Soundness::Damaged;
+        return soundness == Soundness::Sound;
     });
 }
 
@@ -184,11 +208,24 @@ StoreOutcome SampleFile::setAside()
     const auto lock = lockOnDatabase(m_file);
     if (!lock)
         return writingFault(m_path, errno);
+    // Here, where no connection is open: closing these files would release the locks of one.
+    for (const char* part : {"", "-wal"})
+        if (const int error = readThrough(m_file + part); error != 0 && error != ENOENT)
+            return readingFaultOf(m_path, error);
     Database again;
+    const bool canBeRead = again.open(m_file, longestWait) || again.fault().isDamage;
+    const Soundness soundness = canBeRead ? soundnessOf(again) : Soundness::NotKnown;
     // Meanwhile another process may have set it aside and made a new one.
-    if (again.open(m_file, longestWait) && isSound(again))
+    if (soundness == Soundness::Sound)
         return {};
+    if (soundness == Soundness::NotKnown)
+        return refusal(again, false);
     again.close();
+    return moveAside();
+}
+
+StoreOutcome SampleFile::moveAside() const
+{
     QByteArray newFile;
     if (const int error = setAsideAsDamaged(m_file, newFile))
         return writingFault(m_path, error,

@@ -42,6 +42,7 @@ private:
     StoreOutcome openToWrite();
     StoreOutcome openToRead();
     StoreOutcome setAside();
+    StoreOutcome moveAside() const;
     StoreOutcome refusal(const Database& database, bool isWriting);
     bool isOpen() const;
     void rememberFile();
