@@ -63,8 +63,29 @@ SnapshotView::SnapshotView(QWidget* parent)
 void SnapshotView::setRecords(const QVariantList& records)
 {
     const QVariantList selected = selectedRecords();
+    const int row = currentIndex().row();
+    const QVariant current = row < 0 ? QVariant() : m_table->record(row);
     m_table->setRecords(records);
     select(selected);
+    if (row >= 0)
+        setCurrentRow(rowOf(current).value_or(std::min(row, m_table->rowCount() - 1)));
+}
+
+std::optional<int> SnapshotView::rowOf(const QVariant& record) const
+{
+    const RecordKey key = keyOf(record);
+    for (int row = 0; row < m_table->rowCount(); ++row)
+        if (keyOf(m_table->record(row)) == key && QVariant(m_table->record(row)) == record)
+            return row;
+    return std::nullopt;
+}
+
+/// Where the arrow keys go on from. What is selected and what is in sight stay.
+void SnapshotView::setCurrentRow(int row)
+{
+    setAutoScroll(false);
+    selectionModel()->setCurrentIndex(m_table->index(row, 0), QItemSelectionModel::NoUpdate);
+    setAutoScroll(true);
 }
 
 void SnapshotView::select(const QVariantList& records)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QTableView>
 #include <QVariant>
 
@@ -10,7 +12,7 @@ namespace quindle {
 class SnapshotTable;
 
 /// The list of snapshots: rows that can be selected, the newest first until another order is chosen by the
-/// captions. The selection survives sorting, and new records.
+/// captions. The selection and the row that the arrow keys go on from survive sorting, and new records.
 class SnapshotView : public QTableView
 {
     Q_OBJECT
@@ -33,6 +35,8 @@ protected:
 
 private:
     void select(const QVariantList& records);
+    std::optional<int> rowOf(const QVariant& record) const;
+    void setCurrentRow(int row);
     void fitToFont();
     void widenFor(SnapshotColumn column, int textWidth);
 

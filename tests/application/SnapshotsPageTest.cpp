@@ -224,6 +224,24 @@ TEST_F(SnapshotsPageTest, OfThoseWithoutADateOnlyTheSelectedOneStaysSelected)
     EXPECT_EQ(view.selectedRecords(), selected);
 }
 
+TEST_F(SnapshotsPageTest, TheArrowKeysGoOnWhereOneWasDeletedOrAnotherSaved)
+{
+    store(5);
+    show("Snapshots");
+    ASSERT_TRUE(hasRows(5));
+    table()->selectRow(2);
+    control<QPushButton>("Delete")->click();
+    ASSERT_TRUE(hasRows(4));
+    EXPECT_EQ(table()->currentIndex().row(), 2);
+    EXPECT_TRUE(table()->selectionModel()->selectedRows().isEmpty());
+    SnapshotArchive(archive()).append(recordAt(1430000000, 3500));
+    Q_EMIT program->refreshed();
+    ASSERT_TRUE(hasRows(5));
+    EXPECT_EQ(table()->currentIndex().row(), 3) << "a newer one stands above it";
+    test::pressKey(*table(), Qt::Key_Up);
+    EXPECT_EQ(table()->selectionModel()->selectedRows().value(0).row(), 2);
+}
+
 TEST_F(SnapshotsPageTest, DeletedOnesComeBack)
 {
     store(4);
