@@ -68,6 +68,7 @@ DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& hel
     m_rows->setColumnCount(2);
     m_rows->setHeaderHidden(true);
     m_rows->setRootIsDecorated(false);
+    m_rows->setItemsExpandable(false); // nothing would show that a section is closed
     m_rows->setIndentation(0);
     m_rows->setAlternatingRowColors(false);
     m_rows->setFrameShape(QFrame::NoFrame);

@@ -32,6 +32,8 @@ constexpr int pictureScale = 2; // as screens of today show it sharp
 
 void paintLabel(QPainter& painter, const PlainLabel& label)
 {
+    if (label.isHidden())
+        return;
     painter.setFont(label.font());
     painter.setPen(label.isQuiet() ? quietTextOf(label) : textOf(label));
     const QRect place = label.contentsRect().translated(label.pos());

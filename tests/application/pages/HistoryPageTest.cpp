@@ -211,6 +211,25 @@ TEST_F(HistoryPageTest, SavesADrawing)
     EXPECT_TRUE(drawing.contains("<polyline")) << "lines are lines";
 }
 
+TEST_F(HistoryPageTest, WhatIsHiddenIsNotInThePictureEither)
+{
+    page.setNow(now);
+    page.setSamples(samples(20));
+    QApplication::processEvents();
+    const auto* sign = page.findChild<PlainLabel*>(QStringLiteral("healthSign"));
+    ASSERT_FALSE(sign->isVisible());
+    QImage picture(page.pictureSize(), QImage::Format_RGB32);
+    const auto painted = [&] {
+        QPainter painter(&picture);
+        page.paintPicture(painter);
+        painter.end();
+        return picture.copy();
+    };
+    const QImage withSign = painted();
+    page.findChild<PlainLabel*>(QStringLiteral("healthSign"))->setText(QString());
+    EXPECT_EQ(withSign, painted());
+}
+
 TEST_F(HistoryPageTest, SavesTheNumbersThatAreSeen)
 {
     show();
