@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
@@ -74,10 +75,11 @@ ApplicationWindow::~ApplicationWindow() = default;
 
 void ApplicationWindow::restorePlace()
 {
-    const QSize room = screen()->availableGeometry().size();
     if (!m_autosave->restore())
         resize(usual);
-    // The screen may differ from last time's.
+    // It may be another screen than last time's, and need not be the first one.
+    const QScreen* there = QGuiApplication::screenAt(frameGeometry().center());
+    const QSize room = (there ? there : screen())->availableGeometry().size();
     resize(size().boundedTo(room).expandedTo(smallest));
     m_autosave->placeAtRestored();
 }

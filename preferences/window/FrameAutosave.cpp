@@ -86,6 +86,9 @@ std::optional<WindowFrame> FrameAutosave::stored() const
 void FrameAutosave::save()
 {
     m_settled.stop();
+    // What has been stored before is where it belongs.
+    if (m_window.isMaximized())
+        return;
     WindowFrame frame{m_window.frameGeometry(), m_window.screen()->availableGeometry()};
     if (m_sizing == Sizing::ByUser)
         frame.frame.setSize(m_window.size());

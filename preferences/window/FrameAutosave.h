@@ -15,7 +15,7 @@ namespace quindle {
 class UserDefaults;
 
 /// Keeps a window's frame under a name: stored when the window has been moved, or resized by the user, and
-/// rests, and when it is hidden; never while it is moving.
+/// rests, and when it is hidden; never while it is moving, and not as large as the screen makes it.
 class FrameAutosave : public QObject
 {
     Q_OBJECT

@@ -87,6 +87,17 @@ TEST_F(FrameAutosaveTest, OneThatTheUserSizesIsStoredOnceItRests)
         << stored().toStdString();
 }
 
+TEST_F(FrameAutosaveTest, OfAMaximizedWindowTheFormerOneStays)
+{
+    store(QStringLiteral("10 20 300 200 ") + screenText());
+    const auto kept = autosave();
+    EXPECT_TRUE(kept->restore());
+    window.showMaximized();
+    QApplication::processEvents();
+    window.close();
+    EXPECT_EQ(stored(), QStringLiteral("10 20 300 200 ") + screenText());
+}
+
 TEST_F(FrameAutosaveTest, IsStoredAtTheEnd)
 {
     {
