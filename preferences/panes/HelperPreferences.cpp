@@ -105,6 +105,8 @@ void HelperPreferences::showWindow()
         shown.adjustSize();
         shown.move(centredFrame(shown.frameGeometry().size(), shown.screen()->availableGeometry()).topLeft());
     }
+    if (shown.isMinimized()) // showing it leaves it so
+        shown.setWindowState(shown.windowState() & ~Qt::WindowMinimized);
     shown.show();
     shown.raise();
     shown.activateWindow();

@@ -1,5 +1,6 @@
 #include "preferences/panes/HelperPreferences.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QPushButton>
 #include <gtest/gtest.h>
@@ -157,6 +158,17 @@ TEST_F(HelperPreferencesTest, announcesNothingToOtherProcesses)
     control<BoundLineEdit>("customMenuBarTextField").commit();
     EXPECT_FALSE(standard().isEmpty());
     EXPECT_TRUE(computer.distributedNotificationCenter.posted.isEmpty());
+}
+
+TEST_F(HelperPreferencesTest, aMinimizedWindowComesBack)
+{
+    helper->showWindow();
+    helper->window().showMinimized();
+    QApplication::processEvents();
+    ASSERT_TRUE(helper->window().isMinimized());
+    helper->showWindow();
+    EXPECT_FALSE(helper->window().isMinimized());
+    EXPECT_TRUE(helper->window().isVisible());
 }
 
 TEST_F(HelperPreferencesTest, closes)
