@@ -1,3 +1,4 @@
+#include <QCoreApplication>
 #include <gtest/gtest.h>
 
 #include "platform/Image.h"
