@@ -9,7 +9,7 @@
 #include "facts/ValueTexts.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/PlainText.h"
-#include "widgets/SwitchField.h"
+#include "widgets/controls/SwitchField.h"
 
 namespace quindle {
 

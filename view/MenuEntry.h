@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/PlainButton.h"
+#include "widgets/controls/PlainButton.h"
 
 namespace quindle {
 

@@ -15,10 +15,10 @@
 #include "facts/ValueTexts.h"
 #include "records/trend/TrendSentence.h"
 #include "view/ViewMetrics.h"
-#include "widgets/LinkButton.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/QuietLabel.h"
-#include "widgets/SegmentedControl.h"
+#include "widgets/controls/LinkButton.h"
+#include "widgets/controls/SegmentedControl.h"
 
 namespace quindle {
 

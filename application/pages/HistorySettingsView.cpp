@@ -10,9 +10,9 @@
 #include "facts/ValueTexts.h"
 #include "platform/NotificationCenter.h"
 #include "settings/HistorySettings.h"
-#include "widgets/BoundControls.h"
-#include "widgets/PageWheel.h"
 #include "widgets/QuietLabel.h"
+#include "widgets/controls/BoundControls.h"
+#include "widgets/controls/PageWheel.h"
 
 namespace quindle {
 

@@ -12,9 +12,9 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Notifier.h"
 #include "platform/UserDefaults.h"
-#include "widgets/BoundControls.h"
-#include "widgets/PageWheel.h"
 #include "widgets/QuietLabel.h"
+#include "widgets/controls/BoundControls.h"
+#include "widgets/controls/PageWheel.h"
 
 namespace quindle {
 

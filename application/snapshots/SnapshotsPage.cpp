@@ -14,8 +14,8 @@
 #include "application/snapshots/SnapshotView.h"
 #include "common/Translation.h"
 #include "facts/ValueTexts.h"
-#include "widgets/LinkButton.h"
 #include "widgets/QuietLabel.h"
+#include "widgets/controls/LinkButton.h"
 
 namespace quindle {
 

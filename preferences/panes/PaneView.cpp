@@ -7,10 +7,10 @@
 #include <QLabel>
 #include <QRadioButton>
 
-#include "widgets/LinkButton.h"
 #include "widgets/QuietLabel.h"
-#include "widgets/RadioMatrix.h"
 #include "widgets/WarningImage.h"
+#include "widgets/controls/LinkButton.h"
+#include "widgets/controls/RadioMatrix.h"
 
 namespace quindle {
 

@@ -10,10 +10,10 @@
 
 #include "platform/ShownItem.h"
 #include "preferences/panes/StatusBarTitle.h"
-#include "widgets/BoundControls.h"
 #include "widgets/PaletteMix.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/QuietLabel.h"
+#include "widgets/controls/BoundControls.h"
 
 namespace quindle {
 

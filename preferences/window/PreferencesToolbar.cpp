@@ -7,7 +7,7 @@
 #include <QPainter>
 
 #include "widgets/PaletteMix.h"
-#include "widgets/SegmentedControl.h"
+#include "widgets/controls/SegmentedControl.h"
 
 namespace quindle {
 

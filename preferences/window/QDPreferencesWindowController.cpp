@@ -16,7 +16,7 @@
 #include "preferences/window/WindowControllers.h"
 #include "settings/SettingsTable.h"
 #include "widgets/CloseKey.h"
-#include "widgets/SegmentedControl.h"
+#include "widgets/controls/SegmentedControl.h"
 
 namespace quindle {
 

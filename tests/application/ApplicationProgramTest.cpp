@@ -19,8 +19,8 @@
 #include "tests/support/QtPrinters.h"
 #include "tests/support/Texts.h"
 #include "view/FactRow.h"
-#include "widgets/BoundControls.h"
 #include "widgets/PlainLabel.h"
+#include "widgets/controls/BoundControls.h"
 
 using namespace quindle;
 

@@ -13,8 +13,8 @@
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/support/Texts.h"
-#include "widgets/BoundControls.h"
 #include "widgets/PlainLabel.h"
+#include "widgets/controls/BoundControls.h"
 
 using namespace quindle;
 

@@ -17,7 +17,7 @@
 #include "platform/PowerHistory.h"
 #include "platform/posix/FileLock.h"
 #include "tests/application/HistoryFixture.h"
-#include "widgets/LinkButton.h"
+#include "widgets/controls/LinkButton.h"
 
 using namespace quindle;
 

@@ -19,7 +19,7 @@
 #include "tests/preferences/Input.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/TestTranslation.h"
-#include "widgets/LinkButton.h"
+#include "widgets/controls/LinkButton.h"
 
 using namespace quindle;
 

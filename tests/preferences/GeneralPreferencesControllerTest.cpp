@@ -11,8 +11,8 @@
 #include "tests/preferences/Input.h"
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
-#include "widgets/BoundControls.h"
-#include "widgets/RadioMatrix.h"
+#include "widgets/controls/BoundControls.h"
+#include "widgets/controls/RadioMatrix.h"
 
 using namespace quindle;
 

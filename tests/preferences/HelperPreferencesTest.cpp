@@ -9,8 +9,8 @@
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/support/Texts.h"
-#include "widgets/BoundControls.h"
-#include "widgets/RadioMatrix.h"
+#include "widgets/controls/BoundControls.h"
+#include "widgets/controls/RadioMatrix.h"
 
 namespace quindle {
 

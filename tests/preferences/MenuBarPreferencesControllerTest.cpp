@@ -12,7 +12,7 @@
 #include "tests/preferences/MenuBarFixture.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/support/Texts.h"
-#include "widgets/RadioMatrix.h"
+#include "widgets/controls/RadioMatrix.h"
 
 namespace quindle {
 

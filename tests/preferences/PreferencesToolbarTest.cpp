@@ -11,7 +11,7 @@
 
 #include "tests/preferences/TestPane.h"
 #include "tests/support/QtPrinters.h"
-#include "widgets/SegmentedControl.h"
+#include "widgets/controls/SegmentedControl.h"
 
 using namespace quindle;
 

@@ -12,7 +12,7 @@
 #include "tests/preferences/TestPane.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
-#include "widgets/SegmentedControl.h"
+#include "widgets/controls/SegmentedControl.h"
 
 namespace quindle::test {
 

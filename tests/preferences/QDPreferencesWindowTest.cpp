@@ -12,8 +12,8 @@
 
 #include "tests/preferences/TestPane.h"
 #include "tests/support/QtPrinters.h"
-#include "widgets/BoundControls.h"
 #include "widgets/ControlColours.h"
+#include "widgets/controls/BoundControls.h"
 
 using namespace quindle;
 

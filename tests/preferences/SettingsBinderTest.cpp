@@ -6,7 +6,7 @@
 
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
-#include "widgets/BoundControls.h"
+#include "widgets/controls/BoundControls.h"
 
 using namespace quindle;
 

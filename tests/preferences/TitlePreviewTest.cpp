@@ -7,8 +7,8 @@
 #include "tests/preferences/Input.h"
 #include "tests/preferences/SettingsFixture.h"
 #include "tests/support/QtPrinters.h"
-#include "widgets/BoundControls.h"
 #include "widgets/QuietLabel.h"
+#include "widgets/controls/BoundControls.h"
 
 using namespace quindle;
 

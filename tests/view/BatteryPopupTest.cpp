@@ -16,7 +16,7 @@
 #include "view/BatteryWindow.h"
 #include "view/MenuEntry.h"
 #include "view/ViewMetrics.h"
-#include "widgets/SwitchField.h"
+#include "widgets/controls/SwitchField.h"
 
 using namespace quindle;
 

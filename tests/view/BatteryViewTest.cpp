@@ -12,7 +12,7 @@
 #include "view/menuIndicator.h"
 #include "widgets/PlainLabel.h"
 #include "widgets/PlainText.h"
-#include "widgets/SwitchField.h"
+#include "widgets/controls/SwitchField.h"
 
 using namespace quindle;
 

@@ -1,4 +1,4 @@
-#include "widgets/PageWheel.h"
+#include "widgets/controls/PageWheel.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "widgets/RadioMatrix.h"
+#include "widgets/controls/RadioMatrix.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "widgets/SegmentedControl.h"
+#include "widgets/controls/SegmentedControl.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -17,7 +17,7 @@
 #include "tests/support/FullDisk.h"
 #include "tests/support/QtPrinters.h"
 #include "widgets/PlainLabel.h"
-#include "widgets/SegmentedControl.h"
+#include "widgets/controls/SegmentedControl.h"
 
 using namespace quindle;
 using test::capacitiesOf;

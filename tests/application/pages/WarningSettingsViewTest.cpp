@@ -14,7 +14,7 @@
 #include "tests/support/FakeWarningServices.h"
 #include "tests/support/QtPrinters.h"
 #include "tests/support/Texts.h"
-#include "widgets/BoundControls.h"
+#include "widgets/controls/BoundControls.h"
 
 using namespace quindle;
 

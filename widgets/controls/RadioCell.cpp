@@ -1,4 +1,4 @@
-#include "widgets/RadioCell.h"
+#include "widgets/controls/RadioCell.h"
 
 #include <QAccessibleWidget>
 

@@ -1,8 +1,8 @@
-#include "widgets/RadioMatrix.h"
+#include "widgets/controls/RadioMatrix.h"
 
 #include <QBoxLayout>
 
-#include "widgets/RadioCell.h"
+#include "widgets/controls/RadioCell.h"
 
 namespace quindle {
 

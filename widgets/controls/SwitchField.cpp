@@ -1,4 +1,4 @@
-#include "widgets/SwitchField.h"
+#include "widgets/controls/SwitchField.h"
 
 #include <algorithm>
 

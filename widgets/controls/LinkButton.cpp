@@ -1,4 +1,4 @@
-#include "widgets/LinkButton.h"
+#include "widgets/controls/LinkButton.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "widgets/PlainButton.h"
+#include "widgets/controls/PlainButton.h"
 
 #include <QKeyEvent>
 

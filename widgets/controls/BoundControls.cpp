@@ -1,4 +1,4 @@
-#include "widgets/BoundControls.h"
+#include "widgets/controls/BoundControls.h"
 
 #include <utility>
 
