@@ -53,13 +53,15 @@ bool isReached(WarningLevel level, const LevelSettings& settings, const BatteryR
 }
 
 bool isLeft(WarningLevel level, const LevelSettings& settings, const BatteryReading& reading,
-            std::optional<int> steadyMinutes)
+            std::optional<int> steadyMinutes, std::optional<double> lowestReached)
 {
     const auto percent = percentOf(level, settings, reading);
     if (!percent || isReached(level, settings, reading, steadyMinutes))
         return false;
-    return isOfDischarge(level) ? reading.percent >= std::min(fullCharge, *percent + hysteresis)
-                                : reading.percent <= std::max(0.0, *percent - hysteresis);
+    if (isOfDischarge(level))
+        return reading.percent >= std::min(fullCharge, *percent + hysteresis);
+    const double lowest = std::min<double>(*percent, lowestReached.value_or(*percent));
+    return reading.percent <= std::max(0.0, lowest - hysteresis);
 }
 
 std::optional<int> minutesToShow(WarningLevel level, const LevelSettings& settings,

@@ -1,5 +1,8 @@
 #include "warnings/WarningWatch.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "warnings/WarningRules.h"
 
 namespace quindle {
@@ -46,6 +49,7 @@ std::vector<WarningAction> WarningWatch::take(const BatteryReading& reading, con
     }
     if (const auto level = levelToWarnOf(reading, settings))
         warn(*level, reading, settings, actions);
+    showAgain(reading, settings, actions);
     return actions;
 }
 
@@ -53,8 +57,13 @@ void WarningWatch::wake(qint64 moment)
 {
     m_lastMoment = moment;
     m_quietUntil = moment + quietSeconds;
+    forgetReadings();
+}
+
+/// A reading from before a gap confirms none from after it.
+void WarningWatch::forgetReadings()
+{
     m_recent.forget();
-    // A reading from before the sleep confirms none from after it.
     for (Level& level : m_levels) {
         level.reachedSince.reset();
         level.leftSince.reset();
@@ -63,11 +72,11 @@ void WarningWatch::wake(qint64 moment)
 
 std::vector<WarningAction> WarningWatch::loseBattery()
 {
-    m_battery.clear();
+    forgetReadings();
     m_needsAttention = false;
     if (!m_shown)
         return {};
-    m_shown.reset();
+    m_takenBack = std::exchange(m_shown, std::nullopt);
     return {{.kind = Kind::Withdraw}};
 }
 
@@ -76,7 +85,7 @@ std::vector<WarningAction> WarningWatch::loseBattery()
 void WarningWatch::meetBattery(const QString& battery)
 {
     m_battery = battery;
-    m_recent.forget();
+    m_takenBack.reset();
     for (const WarningLevel level : warningLevels)
         (*this)[level] = {.isWarnedOf = !isOfDischarge(level)};
 }
@@ -94,8 +103,12 @@ void WarningWatch::followLevel(WarningLevel level, const LevelSettings& settings
 {
     Level& known = (*this)[level];
     const auto minutes = m_recent.steadyMinutes();
-    keepSince(known.reachedSince, isReached(level, settings, reading, minutes), reading.moment);
-    keepSince(known.leftSince, isLeft(level, settings, reading, minutes), reading.moment);
+    const bool reached = isReached(level, settings, reading, minutes);
+    if (reached && !isOfDischarge(level))
+        known.lowestReached = std::min(known.lowestReached.value_or(reading.percent), reading.percent);
+    keepSince(known.reachedSince, reached, reading.moment);
+    keepSince(known.leftSince, isLeft(level, settings, reading, minutes, known.lowestReached),
+              reading.moment);
     if (isConfirmed(known.leftSince, reading.moment))
         rearm(level, reading);
 }
@@ -109,6 +122,9 @@ void WarningWatch::rearm(WarningLevel level, const BatteryReading& reading)
         return;
     known.isWarnedOf = false;
     known.wasReachedByTime = false;
+    known.lowestReached.reset();
+    if (m_takenBack == level)
+        m_takenBack.reset();
 }
 
 void WarningWatch::followAttention(const BatteryReading& reading)
@@ -158,21 +174,43 @@ bool WarningWatch::hasWarnedMoreUrgently(WarningLevel level)
 void WarningWatch::warn(WarningLevel level, const BatteryReading& reading, const WarningSettings& settings,
                         std::vector<WarningAction>& actions)
 {
-    const auto minutes = minutesToShow(level, settings[level], m_recent.steadyMinutes());
     Level& known = (*this)[level];
     known.isWarnedOf = true;
     known.wasReachedByTime = isOfDischarge(level) && reading.percent > settings[level].percent;
-    WarningAction action{.kind = m_shown ? Kind::Replace : Kind::Show,
-                         .level = level,
-                         .percent = reading.percent,
-                         .state = reading.state,
-                         .minutes = minutes};
+    WarningAction action = actionOf(level, reading, settings);
     m_shown = level;
+    m_takenBack.reset();
     actions.push_back(action);
     if (settings[level].command.isEmpty())
         return;
     action.kind = Kind::Run;
     actions.push_back(action);
+}
+
+/// The battery was away for a moment, and its command has run.
+void WarningWatch::showAgain(const BatteryReading& reading, const WarningSettings& settings,
+                             std::vector<WarningAction>& actions)
+{
+    // As at a plug, nothing comes back that its state has ended.
+    if (m_takenBack && isOfDischarge(*m_takenBack) != isDischarging(reading))
+        m_takenBack.reset();
+    if (!m_takenBack || !isConfirmed((*this)[*m_takenBack].reachedSince, reading.moment))
+        return;
+    if (settings[*m_takenBack].isOn) {
+        actions.push_back(actionOf(*m_takenBack, reading, settings));
+        m_shown = m_takenBack;
+    }
+    m_takenBack.reset();
+}
+
+WarningAction WarningWatch::actionOf(WarningLevel level, const BatteryReading& reading,
+                                     const WarningSettings& settings)
+{
+    return {.kind = m_shown ? Kind::Replace : Kind::Show,
+            .level = level,
+            .percent = reading.percent,
+            .state = reading.state,
+            .minutes = minutesToShow(level, settings[level], m_recent.steadyMinutes())};
 }
 
 } // namespace quindle

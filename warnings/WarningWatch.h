@@ -41,7 +41,7 @@ public:
     /// The computer has woken at that moment, in seconds since 1970.
     void wake(qint64 moment);
 
-    /// The battery is gone.
+    /// The battery is gone, for good or for a moment: what is known about it counts when it comes back.
     std::vector<WarningAction> loseBattery();
 
     /// Whether the battery is very low and discharging, no matter which program warns of it.
@@ -53,11 +53,13 @@ private:
     {
         std::optional<qint64> reachedSince{};
         std::optional<qint64> leftSince{};
+        std::optional<double> lowestReached{}; ///< percent; of a level of charging only
         bool isWarnedOf = false;
         bool wasReachedByTime = false;
     };
 
     Level& operator[](WarningLevel level) { return m_levels[indexOf(level)]; }
+    void forgetReadings();
     void follow(const BatteryReading& reading, const WarningSettings& settings);
     void followLevel(WarningLevel level, const LevelSettings& settings, const BatteryReading& reading);
     void rearm(WarningLevel level, const BatteryReading& reading);
@@ -68,6 +70,10 @@ private:
     bool hasWarnedMoreUrgently(WarningLevel level);
     void warn(WarningLevel level, const BatteryReading& reading, const WarningSettings& settings,
               std::vector<WarningAction>& actions);
+    void showAgain(const BatteryReading& reading, const WarningSettings& settings,
+                   std::vector<WarningAction>& actions);
+    WarningAction actionOf(WarningLevel level, const BatteryReading& reading,
+                           const WarningSettings& settings);
     void meetBattery(const QString& battery);
 
     std::array<Level, warningLevels.size()> m_levels;
@@ -76,6 +82,7 @@ private:
     qint64 m_quietUntil = 0;
     QString m_battery;
     std::optional<WarningLevel> m_shown;
+    std::optional<WarningLevel> m_takenBack; ///< what was shown when the battery went
     bool m_needsAttention = false;
 };
 

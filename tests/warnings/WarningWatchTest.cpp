@@ -271,6 +271,18 @@ TEST_F(WarningWatchTest, ABatteryThatItsDriverCallsFullBelowHundredIs)
     reading.state = SampleState::Full;
     passMinutes(60);
     expect("09:02:20 show Battery full: 96%\n");
+    for (int time = 0; time < 5; ++time) {
+        discharge();
+        pass(20);
+        reading.state = SampleState::Full;
+        pass(60);
+    }
+    EXPECT_EQ(lines().size(), 1) << "taken back at the first loose plug, and not shown again";
+    discharge();
+    passMinutes(10, 92.9);
+    reading.state = SampleState::Full;
+    passMinutes(2, 96);
+    EXPECT_EQ(lines().size(), 1);
 }
 
 TEST_F(WarningWatchTest, ABatteryThatIsFullAtTheStartIsNoNews)
@@ -351,6 +363,35 @@ TEST_F(WarningWatchTest, WithoutABatteryItIsTakenBack)
     lines();
     EXPECT_EQ(watch.loseBattery(), (std::vector<WarningAction>{{.kind = WarningAction::Kind::Withdraw}}));
     EXPECT_EQ(watch.loseBattery(), std::vector<WarningAction>());
+}
+
+TEST_F(WarningWatchTest, OfABatteryThatWasAwayForAMomentItIsShownAgainAndItsCommandDoesNotRunAgain)
+{
+    settings[WarningLevel::Low].command = QStringLiteral("suspend");
+    begin(22);
+    passMinutes(4, 15);
+    EXPECT_EQ(lines().size(), 2) << "shown, and run";
+    watch.loseBattery();
+    pass(14);
+    pass(30);
+    const QStringList again = lines();
+    ASSERT_EQ(again.size(), 1);
+    EXPECT_TRUE(again[0].contains(QStringLiteral("show Battery low: 15% left")));
+    passMinutes(60, 11);
+    expectNothing();
+}
+
+TEST_F(WarningWatchTest, WhatWasPluggedInWhileItWasAwayIsNotShownAgain)
+{
+    begin(22);
+    passMinutes(4, 15);
+    lines();
+    watch.loseBattery();
+    charge();
+    pass(60, 16);
+    discharge();
+    passMinutes(2);
+    expectNothing();
 }
 
 TEST_F(WarningWatchTest, NeedsAttentionWhileVeryLowAndDischarging)
