@@ -77,6 +77,7 @@ void LinuxNotifier::withdraw()
 void LinuxNotifier::finish()
 {
     m_wanted.reset();
+    forgetOnAnotherBus();
     // Waited for: after the end nobody could close it.
     if (m_place != Place::Nowhere)
         m_bus.connection().call(withdrawalCall(), QDBus::Block, patienceAtEnd);
@@ -87,6 +88,7 @@ void LinuxNotifier::doNext()
 {
     if (m_isCalling || !std::exchange(m_hasNews, false))
         return;
+    forgetOnAnotherBus();
     if (m_wanted)
         // Where the last one is, so that a newer one replaces it.
         showIn(m_place == Place::Portal ? Place::Portal : Place::Service);
@@ -147,6 +149,7 @@ void LinuxNotifier::hearService(const QDBusMessage& answer)
         // By its unique name: the number means nothing to another server.
         m_server = answer.service();
         m_number = answer.arguments().constFirst().toUInt();
+        m_busNumber = m_bus.number();
         m_hasReported = false;
         return;
     }
@@ -163,6 +166,7 @@ void LinuxNotifier::hearPortal(const QDBusMessage& answer)
     forget();
     if (isAnswer(answer)) {
         m_place = Place::Portal;
+        m_busNumber = m_bus.number();
         m_hasReported = false;
         return;
     }
@@ -174,6 +178,14 @@ void LinuxNotifier::hearPortal(const QDBusMessage& answer)
 void LinuxNotifier::hearWithdrawal(const QDBusMessage& /*answer*/)
 {
     forget();
+}
+
+/// There the same unique name may be another server's, or any program's.
+void LinuxNotifier::forgetOnAnotherBus()
+{
+    m_bus.connection();
+    if (m_bus.number() != m_busNumber)
+        forget();
 }
 
 void LinuxNotifier::forget()

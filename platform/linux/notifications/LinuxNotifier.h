@@ -38,6 +38,7 @@ private:
     void hearWithdrawal(const QDBusMessage& answer);
     QDBusMessage showCall() const;
     QDBusMessage withdrawalCall() const;
+    void forgetOnAnotherBus();
     void forget();
 
     PresentBus m_bus;
@@ -47,6 +48,7 @@ private:
     Place m_place = Place::Nowhere; ///< where one is shown
     QString m_server;               ///< the one that shows it: another server's numbers mean something else
     quint32 m_number = 0;           ///< that the server gave it
+    int m_busNumber = 0;            ///< of the bus that it is on
     bool m_hasReported = false;
 };
 

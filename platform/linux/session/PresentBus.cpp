@@ -40,6 +40,7 @@ QDBusConnection PresentBus::connection()
     if (shared.isConnected())
         return shared;
     QDBusConnection::disconnectFromBus(m_ownName);
+    ++m_number;
     // By address: by type, the library may start a bus of its own where there is none.
     m_own = QDBusConnection::connectToBus(busAddress(m_type), m_ownName);
     return m_own;

@@ -21,10 +21,14 @@ public:
     /// Not connected where there is no bus.
     QDBusConnection connection();
 
+    /// Which connection it gives, counted: after a loss, unique names mean something else.
+    int number() const { return m_number; }
+
 private:
     QDBusConnection::BusType m_type;
     QString m_ownName;
     QDBusConnection m_own;
+    int m_number = 0;
 };
 
 } // namespace quindle
