@@ -143,6 +143,22 @@ void ApplicationWindow::present()
     activateWindow();
 }
 
+bool ApplicationWindow::event(QEvent* event)
+{
+    const bool isTaken = QWidget::event(event);
+    // A page has been made, or has another font.
+    if (event->type() == QEvent::LayoutRequest)
+        followPages();
+    return isTaken;
+}
+
+/// No button is cut, whatever the language and the font; as far as the screen allows.
+void ApplicationWindow::followPages()
+{
+    const QSize room = screen()->availableGeometry().size();
+    setMinimumSize(layout()->minimumSize().boundedTo(room).expandedTo(smallest));
+}
+
 void ApplicationWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange)

@@ -52,6 +52,7 @@ Q_SIGNALS:
     void seen(bool isSeen);
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -63,6 +64,7 @@ private:
     void showChosen(int index);
     void applyColours();
     void restorePlace();
+    void followPages();
 
     std::vector<ApplicationPage> m_pages;
     std::vector<QWidget*> m_made; ///< null before a page is first shown
