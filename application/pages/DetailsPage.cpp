@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -94,6 +95,7 @@ DetailsPage::DetailsPage(const Platform& platform, const QDMac& mac, Bundle& hel
     connect(saveButton, &QPushButton::clicked, this, &DetailsPage::askForFile);
     auto* find = new QShortcut(QKeySequence::Find, this);
     connect(find, &QShortcut::activated, m_search, [this] { m_search->setFocus(); });
+    m_search->installEventFilter(this);
     fitToFont();
 }
 
@@ -105,6 +107,17 @@ void DetailsPage::refresh()
     m_sections = detailSections({.sourceRows = battery ? battery->raw() : QVariantList(),
                                  .registry = capturedRegistry(m_platform.registry)});
     showFound();
+}
+
+/// Escape clears what is searched for; with nothing to clear it is left to the window.
+bool DetailsPage::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isCancel =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel);
+    if (watched != m_search || !isCancel || m_search->text().isEmpty())
+        return QWidget::eventFilter(watched, event);
+    m_search->clear();
+    return true;
 }
 
 void DetailsPage::search()
