@@ -3,10 +3,12 @@
 #include <algorithm>
 
 #include <QEvent>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include "application/pages/HistorySettingsView.h"
 #include "application/pages/WarningSettingsView.h"
+#include "platform/NotificationCenter.h"
 #include "preferences/panes/GeneralPreferencesController.h"
 #include "preferences/panes/PaneView.h"
 
@@ -41,6 +43,17 @@ SettingsPage::SettingsPage(GeneralPreferencesController& general, UserDefaults& 
     layout->addWidget(m_warnings);
     layout->addWidget(m_history);
     layout->addStretch(1);
+    // An observer stays for as long as the process, which may be longer than the page does.
+    center.addObserver(QStringLiteral("SettingsChangedNotification"), [page = QPointer(this)] {
+        if (page && page->isVisible())
+            page->showStored();
+    });
+}
+
+void SettingsPage::showStored()
+{
+    m_warnings->showLevels();
+    m_history->refresh();
 }
 
 SettingsPage::~SettingsPage()

@@ -42,6 +42,7 @@ protected:
 private:
     std::array<PaneView*, 3> panes() const;
     void alignCaptions();
+    void showStored();
 
     GeneralPreferencesController& m_general;
     WarningSettingsView* m_warnings;

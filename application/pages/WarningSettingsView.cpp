@@ -185,9 +185,10 @@ void WarningSettingsView::showLevels()
     for (const WarningLevel level : warningLevels) {
         const Row& row = m_rows[indexOf(level)];
         row.isOn->setShown(settings[level].isOn);
-        // What is filled in is stored already.
+        // What is filled in is stored already; what is being typed is not yet.
         const QSignalBlocker filling(row.percent);
-        row.percent->setValue(settings[level].percent);
+        if (!row.percent->hasFocus())
+            row.percent->setValue(settings[level].percent);
         row.command->setBoundText(settings[level].command);
     }
 }

@@ -32,6 +32,9 @@ public:
     /// Shows the settings as they are stored, and asks which other program warns.
     void refresh();
 
+    /// The settings alone, as when another process has changed them.
+    void showLevels();
+
 private:
     struct Row
     {
@@ -44,7 +47,6 @@ private:
     void addLevel(WarningLevel level, QGridLayout& grid);
     QSpinBox* percentOf(WarningLevel level);
     void connectRow(WarningLevel level);
-    void showLevels();
     void explain(const QString& desktop);
     void announceChange();
 

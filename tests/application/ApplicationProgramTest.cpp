@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
@@ -14,6 +16,7 @@
 #include "application/pages/DetailsPage.h"
 #include "platform/recorded/MachineFile.h"
 #include "settings/ApplicationPreferences.h"
+#include "tests/preferences/Input.h"
 #include "tests/support/ComesTrue.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/QtPrinters.h"
@@ -285,6 +288,52 @@ TEST_F(ApplicationProgramTest, EveryPageFitsIntoTheSmallestWindow)
             }
         }
     }
+}
+
+TEST_F(ApplicationProgramTest, InALargeFontNothingIsOutOfReach)
+{
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPixelSize(16); // the screen of the tests has room for 800 pixels
+    QApplication::setFont(large);
+    program().window().resize(640, 420);
+    for (const char* page : {"Battery", "History", "Snapshots", "Details", "Settings"}) {
+        show(page);
+        for (const QScrollArea* area : program().window().findChildren<QScrollArea*>()) {
+            const bool isWider = area->widget()->width() > area->viewport()->width();
+            EXPECT_TRUE(!area->isVisible() || !isWider || area->horizontalScrollBar()->isVisible()) << page;
+        }
+        for (const QPushButton* button : program().window().findChildren<QPushButton*>()) {
+            const bool isWhole = button->width() >= button->minimumSizeHint().width();
+            EXPECT_TRUE(!button->isVisible() || isWhole) << page << button->text().toStdString();
+        }
+    }
+    QApplication::setFont(before);
+}
+
+TEST_F(ApplicationProgramTest, WarningsAndHistoryThatOthersSwitchShowAtOnce)
+{
+    show("Settings");
+    QVariantMap& stored = computer.userDefaults.standardDefaults.values;
+    stored.insert(latin("recordHistory"), false);
+    stored.insert(latin("warnLowPercent"), qint64{44});
+    computer.distributedNotificationCenter.post(latin("SettingsChangedNotification"));
+    EXPECT_FALSE(control<BoundCheckBox>("Record charge, power and a daily snapshot")->isChecked());
+    EXPECT_EQ(control<QSpinBox>("Percentage for battery low")->value(), 44);
+}
+
+TEST_F(ApplicationProgramTest, EscapeClearsTheSearchBeforeItCloses)
+{
+    show("Details");
+    auto* search = control<QLineEdit>("Search details");
+    ASSERT_TRUE(search);
+    search->setFocus();
+    search->setText(latin("cyc"));
+    test::pressKey(*search, Qt::Key_Escape);
+    EXPECT_EQ(search->text(), QString());
+    EXPECT_TRUE(program().window().isVisible());
+    test::pressKey(*search, Qt::Key_Escape);
+    EXPECT_FALSE(program().window().isVisible());
 }
 
 TEST_F(ApplicationProgramTest, SettingsShowTheLoginItemOfTheHelper)
