@@ -21,6 +21,7 @@ void FontSet::setFamily(const QString& family)
     m_family = family;
     m_fonts.clear();
     m_fallbacks.clear();
+    m_hasLostOne = false;
 }
 
 FontFace* FontSet::face(std::size_t font, int pixelSize)
@@ -56,8 +57,13 @@ FontFace* FontSet::opened(Font& font)
         m_library = fontLibrary();
     font.face = FontFace::open(m_library, font.file);
     font.isBroken = !font.face;
-    if (font.isBroken)
+    if (font.isBroken) {
         qCWarning(logFonts) << "no usable font in" << font.file.path;
+        // It may be back in a moment: packages are replaced, and servers restarted.
+        m_hasLostOne = m_hasLostOne || m_opened.contains(font.file.path);
+    } else {
+        m_opened.insert(font.file.path);
+    }
     return font.face.get();
 }
 

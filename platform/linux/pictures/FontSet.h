@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include <QSet>
 #include <QString>
 
 #include "platform/linux/pictures/FontFace.h"
@@ -34,6 +35,10 @@ public:
     /// How many there are.
     std::size_t size() const { return m_fonts.size(); }
 
+    /// Whether a font that was open before, since the family was set or under the ones before it, cannot be
+    /// opened any more.
+    bool hasLostOne() const { return m_hasLostOne; }
+
     /// Closes all files until they are needed again.
     void rest();
 
@@ -57,6 +62,8 @@ private:
     std::shared_ptr<FT_LibraryRec_> m_library;
     std::vector<Font> m_fonts;
     std::map<char32_t, std::size_t> m_fallbacks;
+    QSet<QByteArray> m_opened; ///< paths
+    bool m_hasLostOne = false;
 };
 
 } // namespace quindle

@@ -35,11 +35,19 @@ const typename Map::mapped_type& kept(Map& map, const typename Map::key_type& ke
     return map.emplace(key, make()).first->second;
 }
 
+/// A joiner or non-joiner, or what chooses among the forms of the character before it. None has a shape
+/// itself.
+bool joinsOrVaries(char32_t character)
+{
+    return character == 0x200C || character == 0x200D || (character >= 0xFE00 && character <= 0xFE0F) ||
+           (character >= 0xE0100 && character <= 0xE01EF);
+}
+
 } // namespace
 
 void Lettering::setFamily(const QString& family)
 {
-    if (std::exchange(m_family, family) != family)
+    if (std::exchange(m_family, family) != family || m_fonts.hasLostOne())
         forget();
 }
 
@@ -104,6 +112,11 @@ std::vector<FontRun> Lettering::runsOf(std::u32string_view text, int pixelSize)
 {
     std::vector<FontRun> runs;
     for (std::size_t i = 0; i < text.size(); ++i) {
+        // In another font it would part what it is to join.
+        if (!runs.empty() && joinsOrVaries(text[i])) {
+            ++runs.back().length;
+            continue;
+        }
         FontFace* fallback = m_fonts.face(m_fonts.fontFor(text[i], pixelSize), pixelSize);
         FontFace* face = fallback ? fallback : m_fonts.face(FontSet::familyFont, pixelSize);
         if (runs.empty() || runs.back().face != face->face())
@@ -186,9 +199,10 @@ QRectF Lettering::addOutline(const TextLine& line, std::vector<OutlineStep>& ste
     return outlined;
 }
 
-void Lettering::rest()
+bool Lettering::rest()
 {
     m_fonts.rest();
+    return !m_fonts.hasLostOne();
 }
 
 } // namespace quindle

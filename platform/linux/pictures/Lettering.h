@@ -54,8 +54,10 @@ public:
     /// Adds the line's outline, and gives the box around it. Glyphs that have none are left out.
     QRectF addOutline(const TextLine& line, std::vector<OutlineStep>& steps);
 
-    /// Closes all files until they are needed again.
-    void rest();
+    /// Closes all files until they are needed again. False when the file of a font that was used before could
+    /// not be opened any more: what was drawn may lack characters, and once a family is set, fonts are chosen
+    /// anew.
+    bool rest();
 
 private:
     struct Character

@@ -173,21 +173,33 @@ StatusPictures::StatusPictures(const QString& resourcesDirectory)
 {
 }
 
+/// Once more with the fonts there are now, where the file of one has gone: a figure must not be left out.
+template <typename Draw>
+auto StatusPictures::complete(const Draw& draw)
+{
+    auto made = draw();
+    if (!m_lettering.rest()) {
+        made = draw();
+        m_lettering.rest();
+    }
+    return made;
+}
+
 Pixels StatusPictures::image(const Picture& picture, int size)
 {
-    Pixels pixels = drawn(picture, size);
-    m_lettering.rest();
-    return pixels;
+    return complete([&] { return drawn(picture, size); });
 }
 
 std::vector<Pixels> StatusPictures::images(const Picture& picture)
 {
     if (picture.kind == Picture::Kind::Transparent)
         return {};
-    std::vector<Pixels> made;
-    for (const int size : sizesOf(picture))
-        made.push_back(drawn(picture, size));
-    m_lettering.rest();
+    std::vector<Pixels> made = complete([&] {
+        std::vector<Pixels> all;
+        for (const int size : sizesOf(picture))
+            all.push_back(drawn(picture, size));
+        return all;
+    });
     std::erase_if(made, [](const Pixels& one) { return one.isEmpty(); });
     return made;
 }
@@ -231,12 +243,12 @@ QString StatusPictures::drawingOfImage(const QString& name, bool isSmall) const
 
 QByteArray StatusPictures::drawingOfText(const Picture& picture)
 {
-    std::vector<OutlineStep> outline;
-    m_lettering.setFamily(picture.fontFamily);
-    const QRectF box = m_lettering.addOutline(m_lettering.line(picture.text, outlineSize), outline);
-    const NumberPlace place = placeOf(picture, box.size(), outlineSize);
-    m_lettering.rest();
-    return textDrawing(outline, box, place);
+    return complete([&] {
+        std::vector<OutlineStep> outline;
+        m_lettering.setFamily(picture.fontFamily);
+        const QRectF box = m_lettering.addOutline(m_lettering.line(picture.text, outlineSize), outline);
+        return textDrawing(outline, box, placeOf(picture, box.size(), outlineSize));
+    });
 }
 
 Pixels StatusPictures::drawn(const Picture& picture, int size)

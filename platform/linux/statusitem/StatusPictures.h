@@ -38,6 +38,8 @@ public:
     QString transparentFile() const;
 
 private:
+    template <typename Draw>
+    auto complete(const Draw& draw);
     Pixels drawn(const Picture& picture, int size);
     Pixels icon(const Picture& picture, int size);
     NumberPlace placeOf(const Picture& picture, QSizeF ink, int fontSize);

@@ -158,6 +158,13 @@ TEST_F(LetteringTest, ArabicJoinsAndRunsFromRightToLeft)
     EXPECT_FALSE(inkBox(picture(word)).isEmpty());
 }
 
+// The family has the joiner, and the letters are of another font.
+TEST_F(LetteringTest, AJoinerIsWrittenInTheFontOfWhatItJoins)
+{
+    const std::vector<std::size_t> numbers = fonts("क्\u200dष");
+    EXPECT_EQ(numbers, std::vector<std::size_t>(numbers.size(), fonts("ष").at(0)));
+}
+
 TEST_F(LetteringTest, AccentsStandOnTheirLetters)
 {
     const QRect plain = inkBox(picture("x", 40));
@@ -256,6 +263,11 @@ TEST(LetteringWithBrokenFonts, WhatIsLeftIsUsed)
     EXPECT_EQ(lettering.line(QStringLiteral("شلا"), 20).advance, 0.0);
     const QByteArray log = QByteArray::fromStdString(testing::internal::GetCapturedStderr());
     EXPECT_EQ(log.count("font.ttf"), 1) << log.constData();
+    EXPECT_FALSE(lettering.rest());
+    ASSERT_TRUE(QFile::copy(path, copy));
+    lettering.setFamily(QStringLiteral("DejaVu Sans"));
+    EXPECT_EQ(lettering.line(QStringLiteral("7"), 20).advance, advance) << "and it is back";
+    EXPECT_TRUE(lettering.rest());
 }
 
 } // namespace
