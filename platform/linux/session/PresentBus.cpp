@@ -36,7 +36,7 @@ QDBusConnection PresentBus::connection()
 {
     if (m_own.isConnected())
         return m_own;
-    const QDBusConnection shared = sharedBus(m_type);
+    QDBusConnection shared = sharedBus(m_type);
     if (shared.isConnected())
         return shared;
     QDBusConnection::disconnectFromBus(m_ownName);
